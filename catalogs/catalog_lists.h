@@ -1,0 +1,32 @@
+// catalogs/catalog_lists.h
+//
+// The main window's list controls as the catalogs see them, and the records of other games that they hold back.
+
+#pragma once
+
+#include "foundation/controls.h"
+#include "foundation/run.h"
+
+namespace lv {
+
+struct CatalogLists {
+    ImageCombo& Exe_Cbo;
+    ListBox& Game_Cbo;
+    CheckBox& Game_Chk;
+    ListBox& Script_Cbo;
+    CheckBox& Script_Chk;
+    ListBox& Server_Cbo;
+    CheckBox& Server_Chk;
+    ListBox& Demo_Cbo;
+    ListBox& Mem_Cbo;
+    ListBox& Map_Cbo;
+
+    // Records of games other than the current one, so that a rebuilt value loses nothing.
+    Text HiddenGames;
+    Text HiddenScripts;
+    Text HiddenServers;
+
+    Text MapList;  // ";"-list of the names found by the last map scan
+};
+
+}  // namespace lv

@@ -1,0 +1,169 @@
+#include "foundation/field_strings.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace lv {
+
+namespace {
+
+constexpr std::size_t kNone = TextView::npos;
+
+bool IsWhite(char c) { return c == '\r' || c == '\n' || c == '\0' || c == ' ' || c == '\t'; }
+
+}  // namespace
+
+Index CountDelimiters(TextView text, TextView delimiter) {
+    if (delimiter.empty()) {
+        return 0;
+    }
+    Index count = 0;
+    std::size_t at = text.find(delimiter);
+    while (at != kNone && count < std::numeric_limits<Index>::max()) {
+        ++count;
+        at = text.find(delimiter, at + 1);
+    }
+    return count;
+}
+
+Text GetField(TextView text, Index index, TextView delimiter) {
+    // `begin` is the 0-based start of the field; a failed search starts over at the front, on purpose.
+    std::size_t begin = 0;
+    for (Index i = 0; i < index; ++i) {
+        const std::size_t found = text.find(delimiter, begin);
+        begin = found == kNone ? 0 : found + 1;
+    }
+    const std::size_t end = text.find(delimiter, begin);
+    TextView field = text.substr(begin, end == kNone ? kNone : end - begin);
+    field.remove_prefix(std::min(field.find_first_not_of(' '), field.size()));
+    return Text(field);
+}
+
+Text GetKeyOrValue(TextView line, bool wantValue) {
+    const std::size_t at = line.find('=');
+    if (wantValue) {
+        return at == kNone ? Text() : Text(line.substr(at + 1));
+    }
+    return Text(line.substr(0, at));
+}
+
+Text GetQuotedWord(TextView line, Index index) {
+    bool inQuotes = false;
+    bool inWord = false;
+    int word = -1;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        const char c = line[at];
+        if (c == '"') {
+            inQuotes = !inQuotes;
+        }
+        if (inWord) {
+            inWord = c != ' ' || inQuotes;
+            continue;
+        }
+        if (c == ' ') {
+            continue;
+        }
+        inWord = true;
+        if (++word != index) {
+            continue;
+        }
+        std::size_t end = at + 1;
+        while (end < line.size() && (inQuotes || line[end] != ' ')) {
+            if (line[end] == '"') {
+                inQuotes = !inQuotes;
+            }
+            ++end;
+        }
+        return Text(line.substr(at, end - at));
+    }
+    return {};
+}
+
+Text PadToWidth(TextView text, std::size_t width) {
+    Text padded(text.substr(0, width));
+    padded.resize(width, ' ');
+    return padded;
+}
+
+Text DropRight(TextView text, std::size_t count) {
+    return text.size() < count ? Text() : Text(text.substr(0, text.size() - count));
+}
+
+Text DropLeft(TextView text, std::size_t count) { return text.size() < count ? Text() : Text(text.substr(count)); }
+
+Text ReplaceSameLength(TextView text, TextView find, TextView replacement) {
+    Text changed(text);
+    const std::size_t width = std::min(find.size(), replacement.size());
+    if (find.empty() || find.substr(0, width) == replacement.substr(0, width)) {
+        return changed;
+    }
+    std::size_t at = changed.find(find);
+    bool first = true;
+    while (at != kNone && (first || at > 0)) {
+        first = false;
+        changed.replace(at, width, replacement.substr(0, width));
+        // Nothing before `at` can match but what the overwriting itself has made there.
+        at = changed.find(find, at - std::min(at, find.size() - 1));
+    }
+    return changed;
+}
+
+Text ReplaceText(TextView text, TextView find, TextView replacement) {
+    if (find.empty()) {
+        return Text(text);
+    }
+    Text changed;
+    std::size_t done = 0;
+    std::size_t at = text.find(find);
+    bool first = true;
+    while (at != kNone && (first || !changed.empty() || at > done)) {
+        first = false;
+        changed.append(text.substr(done, at - done)).append(replacement);
+        done = at + find.size();
+        at = text.find(find, done);
+    }
+    return changed.append(text.substr(done));
+}
+
+Text TrimWhite(TextView text) {
+    while (!text.empty() && IsWhite(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsWhite(text.back())) {
+        text.remove_suffix(1);
+    }
+    return Text(text);
+}
+
+Text Trim(TextView text) {
+    const std::size_t begin = text.find_first_not_of(' ');
+    if (begin == kNone) {
+        return {};
+    }
+    return Text(text.substr(begin, text.find_last_not_of(' ') - begin + 1));
+}
+
+Text StripQuotes(TextView text) {
+    if (!text.empty() && text.back() == '"') {
+        text.remove_suffix(1);
+    }
+    if (!text.empty() && text.front() == '"') {
+        text.remove_prefix(1);
+    }
+    return Text(text);
+}
+
+Text LastPathPart(TextView path) {
+    // Taken by hand rather than by field number: a path may hold more parts than an index can count.
+    const std::size_t at = path.rfind('\\');
+    return GetField(at == kNone ? path : path.substr(at + 1), 0, "\\");
+}
+
+Text DirectoryOf(TextView path) {
+    const std::size_t at = path.rfind('\\');
+    return at == kNone ? Text() : Text(path.substr(0, at));
+}
+
+bool Holds(TextView text, TextView find) { return text.find(find) != kNone; }
+
+}  // namespace lv

@@ -1,0 +1,131 @@
+#include "foundation/question_box.h"
+
+#include <algorithm>
+
+#include "foundation/field_strings.h"
+#include "foundation/settings.h"
+
+namespace lv {
+
+namespace {
+
+constexpr double kMostOfScreen = 0.8;
+
+/// The captions as the user sees them, without the mark of the access key.
+Text Shown(TextView caption) { return ReplaceText(caption, "&", ""); }
+
+struct Measure {
+    int Width = 0;
+    int Height = 0;
+};
+
+Measure MeasureText(TextView text, UserInterface& user) {
+    Measure measured;
+    int lines = 0;
+    for (std::size_t at = 0; at <= text.size();) {
+        std::size_t end = std::min(text.find('\n', at), text.size());
+        TextView line = text.substr(at, end - at);
+        if (line.ends_with('\r')) {
+            line.remove_suffix(1);
+        }
+        measured.Width = std::max(measured.Width, user.TextWidth(line));
+        ++lines;
+        at = end + 1;
+    }
+    measured.Height = lines * user.TextHeight();
+    return measured;
+}
+
+Index Ask(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon, bool mayBeLast) {
+    if (title.empty()) {
+        title = run.AppName;
+    }
+    QuestionBox_Frm box = MakeQuestionBox(title, text, buttons, defaultButton, icon);
+    box.NotAgain_Chk.Visible = mayBeLast;
+    LayOutQuestionBox(box, run.User);
+    run.User.ShowQuestionBox(box);
+    if (mayBeLast) {
+        run.ShowAgain = box.LastNotAgain;
+    }
+    return static_cast<Index>(box.LastButton);
+}
+
+}  // namespace
+
+QuestionBox_Frm MakeQuestionBox(TextView title, TextView text, TextView buttons, int defaultButton, int icon) {
+    QuestionBox_Frm box;
+    box.Caption = title;
+    box.Question_Txt.Text = text;
+    const int count = CountDelimiters(buttons, ",") + 1;
+    for (int i = 0; i < count; ++i) {
+        CommandButton button;
+        button.Caption = GetField(buttons, static_cast<Index>(i), ",");
+        box.Button_Cmd.push_back(button);
+    }
+    const int chosen = defaultButton < 0 || defaultButton >= count ? 0 : defaultButton;
+    box.Button_Cmd[static_cast<std::size_t>(chosen)].Default = true;
+    box.Display_Pic.Index = icon < 0 || icon >= kQuestionIcons ? 0 : icon;
+    box.NotAgain_Chk.Caption = "Don't show this message again";
+    box.NotAgain_Chk.Visible = false;
+    return box;
+}
+
+void LayOutQuestionBox(QuestionBox_Frm& box, UserInterface& user) {
+    QuestionBoxLayout& layout = box.Layout;
+    const int line = user.TextHeight();
+    layout.ButtonHeight = line * 2;
+    layout.Gap = layout.ButtonHeight / 4;
+    int caption = 0;
+    for (const CommandButton& button : box.Button_Cmd) {
+        caption = std::max(caption, user.TextWidth(Shown(button.Caption)));
+    }
+    layout.ButtonWidth = std::max(caption + line * 2, line * 5);
+
+    const int buttons = static_cast<int>(box.Button_Cmd.size());
+    const int row = buttons * layout.ButtonWidth + (buttons - 1) * layout.Gap;
+    const Measure text = MeasureText(box.Question_Txt.Text, user);
+    const ScreenSize screen = user.Screen();
+    const int widest = static_cast<int>(screen.Width * kMostOfScreen);
+    const int highest = static_cast<int>(screen.Height * kMostOfScreen);
+    layout.ScrollsAcross = text.Width > widest;
+    layout.ScrollsDown = text.Height > highest;
+    layout.TextWidth = std::min(std::max(text.Width, row), widest);
+    layout.TextHeight = std::min(text.Height, highest);
+}
+
+void QuestionBox_Button_Cmd_Click(QuestionBox_Frm& box, int index) {
+    box.LastButton = index;
+    if (box.NotAgain_Chk.Visible) {
+        box.LastNotAgain = box.NotAgain_Chk.Value != 1;
+    }
+}
+
+void QuestionBox_Question_Txt_Change(QuestionBox_Frm& box, TextBox& shown) { shown.Text = box.Question_Txt.Text; }
+
+Index AskUser(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon) {
+    return Ask(run, title, text, buttons, defaultButton, icon, false);
+}
+
+Index AskUser(Run& run, const char* title, TextView text, TextView buttons, int defaultButton, int icon) {
+    Text own = title;
+    return Ask(run, own, text, buttons, defaultButton, icon, false);
+}
+
+Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon) {
+    return Ask(run, title, text, buttons, defaultButton, icon, true);
+}
+
+Index AskUserUnlessTold(Run& run, TextView messageKey, TextView title, TextView text, TextView buttons,
+                        int defaultButton, int icon) {
+    if (GetSetting(run, run.AppName, "ShowMessage", messageKey, "1") == "0") {
+        return static_cast<Index>(defaultButton);
+    }
+    Text own(title);
+    const Index pressed = AskUserOnce(run, own, text, buttons, defaultButton, icon);
+    if (!run.ShowAgain) {
+        Save(run, "ShowMessage", messageKey, "0");
+    }
+    return pressed;
+}
+
+}  // namespace lv

@@ -1,0 +1,52 @@
+// foundation/run.h
+//
+// What one run of the program owns: its globals, the system it runs on, the user. Handlers get it; rules below them
+// take only what they use.
+
+#pragma once
+
+#include "foundation/text.h"
+#include "foundation/user_interface.h"
+#include "platform/platform.h"
+
+namespace lv {
+
+constexpr TextView kOptions = "Options";  // the section of the program's own settings and of the Base profile
+
+struct Run {
+    Platform& System;
+    UserInterface& User;
+
+    Text AppName = "Lorvane 3D";
+    Text AppDirectory;
+
+    // Set by the change of game.
+    Index GameKind = 0;  // 0 none, 1 Quake, 2 Hexen II, 3 Quake II, 4 Unreal, 5 Sin, 6 Heretic II, 9 Half-Life
+    Index ScriptFamily = 0;
+    Text DefaultGameDirectory;  // no trailing "\"
+    Text BaseGameDir;
+    Text CurrentGameDir;
+    bool IsQuakeWorld = false;
+    bool IsHexenWorld = false;
+    bool IsMissionPack = false;
+    bool UsesAccelerator = true;
+
+    Text VideoProfileSection{kOptions};
+    bool IsWin9x = false;
+    bool DecimalPointIsDot = true;
+
+    bool ShowAgain = true;  // outcome of AskUserOnce
+    bool MainFormLoaded = false;
+    bool Ended = false;  // the program is over: handlers return, the event loop ends
+};
+
+/// Ends the program. The caller returns at once.
+void EndProgram(Run& run);
+
+/// Makes the path's drive and directory current.
+Error SetCurrentPath(Run& run, TextView path);
+
+/// Returns after that many seconds; the windows stay alive meanwhile.
+void PauseSeconds(Run& run, double seconds);
+
+}  // namespace lv

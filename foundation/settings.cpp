@@ -1,0 +1,94 @@
+#include "foundation/settings.h"
+
+#include "foundation/numbers.h"
+#include "foundation/question_box.h"
+
+namespace lv {
+
+namespace {
+
+Text FaultOf(TextView section, TextView key, TextView value) {
+    Text reason;
+    if (section.empty()) {
+        reason = "Attempt to insert an empty string as an area.";
+    }
+    if (key.empty()) {
+        reason = "Attempt to insert an empty string as a key.";
+    }
+    if (value.size() > kLongestValue) {
+        reason = "Attempt to insert too long a string as a value.";
+    }
+    return reason;
+}
+
+}  // namespace
+
+Text GetSetting(Run& run, TextView application, TextView section, TextView key, TextView fallback) {
+    auto stored = run.System.Settings.Read(application, section, key);
+    return stored ? *std::move(stored) : Text(fallback);
+}
+
+Index GetNumber(Run& run, TextView section, TextView key, Index fallback) {
+    const auto stored = run.System.Settings.Read(run.AppName, section, key);
+    return stored ? ToIndex(*stored) : fallback;
+}
+
+bool SaveChecked(Run& run, Text& application, TextView section, TextView key, TextView value) {
+    if (application.empty()) {
+        application = run.AppName;
+    }
+    const Text reason = FaultOf(section, key, value);
+    if (!reason.empty()) {
+        Text title;
+        AskUser(run, title,
+                Join(reason, NewLine, "Regisrty alteration did not occure.", NewLine,
+                     "Please contact technical support.", NewLine, NewLine, application, "\\/\\", section, "\\/\\",
+                     key, "\\/\\", "\\/\\", value, NewLine));
+        return false;
+    }
+    if (const Error failed = run.System.Settings.Write(application, section, key, value)) {
+        Text title = run.AppName;
+        AskUser(run, title,
+                Join("This setting could not be saved; the old one is still there.", NewLine, NewLine, section,
+                     "\\/\\", key, NewLine, "Error Number = ", std::to_string(failed.Number), NewLine,
+                     "Error String = ", failed.Text));
+        return false;
+    }
+    return true;
+}
+
+bool Save(Run& run, TextView section, TextView key, TextView value) {
+    Text application = run.AppName;
+    return SaveChecked(run, application, section, key, value);
+}
+
+bool Save(Run& run, TextView section, TextView key, int value) {
+    return Save(run, section, key, TextView(std::to_string(value)));
+}
+
+RegValue RegQueryOpen(Run& run, const RegKey& key, TextView name) {
+    const Result<RegistryValue> read = run.System.Registry.Query(key.Path, name);
+    if (!read.Ok()) {
+        return {};
+    }
+    const RegistryValue& value = read.Value;
+    if (value.Type == kRegistryText) {
+        return {kRegistryText, value.Text.substr(0, value.Text.find('\0')), 0};
+    }
+    if (value.Type == kRegistryNumber) {
+        return {kRegistryNumber, {}, value.Number};
+    }
+    return {};
+}
+
+RegValue RegQueryPath(Run& run, TextView path, TextView name) { return RegQueryOpen(run, {Text(path)}, name); }
+
+Error RegWriteOpen(Run& run, const RegKey& key, TextView name, const RegValue& value) {
+    return run.System.Registry.Set(key.Path, name, {value.Type, value.String, value.Number});
+}
+
+Error RegWritePath(Run& run, TextView path, TextView name, const RegValue& value) {
+    return RegWriteOpen(run, {Text(path)}, name, value);
+}
+
+}  // namespace lv

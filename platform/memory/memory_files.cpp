@@ -1,0 +1,244 @@
+#include <algorithm>
+
+#include "platform/code_page.h"
+#include "platform/memory/memory_platform.h"
+
+namespace lv {
+
+namespace {
+
+std::string ParentOf(std::string_view key) {
+    const std::size_t at = key.rfind('\\');
+    return at == std::string_view::npos ? std::string() : std::string(key.substr(0, at));
+}
+
+class MemoryFile : public RandomAccessFile {
+  public:
+    explicit MemoryFile(std::string bytes) : bytes_(std::move(bytes)) {}
+    [[nodiscard]] std::uint64_t Size() const override { return bytes_.size(); }
+    Result<std::string> Read(std::uint64_t offset, std::size_t count) override {
+        return offset >= bytes_.size() ? std::string() : bytes_.substr(static_cast<std::size_t>(offset), count);
+    }
+
+  private:
+    std::string bytes_;
+};
+
+}  // namespace
+
+// The full path in lower case, "." and ".." resolved, no "\" at the end: "c:\quake\id1", a drive's root "c:".
+std::string MemoryFiles::Key(std::string_view path) const {
+    std::string whole(path);
+    if (whole.size() < 2 || whole[1] != ':') {
+        whole = whole.starts_with('\\') ? current_.substr(0, 2) + whole : current_ + "\\" + whole;
+    }
+    std::string key = LowerCase(whole.substr(0, 2));
+    for (std::size_t at = 2; at < whole.size();) {
+        const std::size_t end = std::min(whole.find('\\', at), whole.size());
+        const std::string part = LowerCase(whole.substr(at, end - at));
+        if (part == "..") {
+            key = key.size() > 2 ? ParentOf(key) : key;
+        } else if (!part.empty() && part != ".") {
+            key += "\\" + part;
+        }
+        at = end + 1;
+    }
+    return key;
+}
+
+MemoryFiles::Node* MemoryFiles::Find(std::string_view path) {
+    if (path.empty()) {
+        return nullptr;
+    }
+    const auto found = nodes_.find(Key(path));
+    return found == nodes_.end() ? nullptr : &found->second;
+}
+
+void MemoryFiles::AddDirectory(std::string_view path) {
+    const std::string key = Key(path);
+    if (nodes_.contains(key)) {
+        return;
+    }
+    if (const std::string parent = ParentOf(key); !parent.empty()) {
+        AddDirectory(ParentOf(path));
+    }
+    nodes_[key] = {std::string(path), "", true, made_++};
+}
+
+void MemoryFiles::AddDrive(std::string_view drive) { AddDirectory(drive); }
+
+void MemoryFiles::AddFile(std::string_view path, std::string_view bytes) {
+    AddDirectory(ParentOf(path));
+    nodes_[Key(path)] = {std::string(path), std::string(bytes), false, made_++};
+}
+
+std::vector<std::string> MemoryFiles::Drives() {
+    std::vector<std::string> drives;
+    for (const auto& [key, node] : nodes_) {
+        if (key.size() == 2) {
+            drives.push_back(UpperCase(key));
+        }
+    }
+    return drives;
+}
+
+Error MemoryFiles::ProbeDrive(std::string_view drive) {
+    const std::string name = UpperCase(drive.substr(0, 2));
+    if (DrivesNotReady.contains(name)) {
+        return MakeError(error::kDiskNotReady);
+    }
+    return nodes_.contains(LowerCase(name)) ? Error() : MakeError(error::kDeviceUnavailable);
+}
+
+bool MemoryFiles::FileExists(std::string_view path) {
+    const Node* node = Find(path);
+    return node != nullptr && !node->IsDirectory;
+}
+
+bool MemoryFiles::DirectoryExists(std::string_view path) {
+    const Node* node = Find(path);
+    return node != nullptr && node->IsDirectory;
+}
+
+Result<std::vector<DirectoryEntry>> MemoryFiles::List(std::string_view directory) {
+    if (!DirectoryExists(directory)) {
+        return MakeError(error::kPathNotFound);
+    }
+    const std::string key = Key(directory);
+    std::vector<const Node*> children;
+    for (const auto& [path, node] : nodes_) {
+        if (ParentOf(path) == key) {
+            children.push_back(&node);
+        }
+    }
+    std::sort(children.begin(), children.end(), [](const Node* a, const Node* b) { return a->Order < b->Order; });
+    std::vector<DirectoryEntry> entries = {{".", true}, {"..", true}};
+    for (const Node* child : children) {
+        entries.push_back({child->Name.substr(child->Name.rfind('\\') + 1), child->IsDirectory});
+    }
+    return entries;
+}
+
+Result<std::string> MemoryFiles::Read(std::string_view path) {
+    const Node* node = Find(path);
+    if (node == nullptr) {
+        return MakeError(DirectoryExists(ParentOf(Key(path))) ? error::kFileNotFound : error::kPathNotFound);
+    }
+    if (node->IsDirectory) {
+        return MakeError(error::kPathFileAccess);
+    }
+    return node->Bytes;
+}
+
+Result<std::unique_ptr<RandomAccessFile>> MemoryFiles::Open(std::string_view path) {
+    Result<std::string> bytes = Read(path);
+    if (!bytes.Ok()) {
+        return bytes.Fault;
+    }
+    return std::unique_ptr<RandomAccessFile>(std::make_unique<MemoryFile>(std::move(bytes.Value)));
+}
+
+Error MemoryFiles::Replace(std::string_view path, std::string_view bytes) {
+    const std::string key = Key(path);
+    if (const auto refused = Refused.find(key); refused != Refused.end()) {
+        return refused->second;
+    }
+    if (!nodes_.contains(ParentOf(key))) {
+        return MakeError(error::kPathNotFound);
+    }
+    Node* old = Find(path);
+    if (old != nullptr && old->IsDirectory) {
+        return MakeError(error::kPathFileAccess);
+    }
+    Log.push_back("replace " + std::string(path));
+    if (old != nullptr) {
+        old->Bytes = bytes;
+    } else {
+        nodes_[key] = {std::string(path), std::string(bytes), false, made_++};
+    }
+    return {};
+}
+
+Error MemoryFiles::Copy(std::string_view from, std::string_view to) {
+    const Result<std::string> bytes = Read(from);
+    if (!bytes.Ok()) {
+        return bytes.Fault;
+    }
+    return Replace(to, bytes.Value);
+}
+
+Error MemoryFiles::Delete(std::string_view path) {
+    if (!FileExists(path)) {
+        return MakeError(error::kFileNotFound);
+    }
+    Log.push_back("delete " + std::string(path));
+    nodes_.erase(Key(path));
+    return {};
+}
+
+Error MemoryFiles::MakeDirectory(std::string_view path) {
+    const std::string key = Key(path);
+    if (nodes_.contains(key)) {
+        return MakeError(error::kPathFileAccess);
+    }
+    if (!nodes_.contains(ParentOf(key))) {
+        return MakeError(error::kPathNotFound);
+    }
+    AddDirectory(path);
+    return {};
+}
+
+Error MemoryFiles::RemoveDirectory(std::string_view path) {
+    if (!DirectoryExists(path)) {
+        return MakeError(error::kPathNotFound);
+    }
+    const std::string key = Key(path);
+    for (const auto& [other, node] : nodes_) {
+        if (ParentOf(other) == key) {
+            return MakeError(error::kPathFileAccess);
+        }
+    }
+    nodes_.erase(key);
+    return {};
+}
+
+Error MemoryFiles::ChangeDrive(std::string_view drive) {
+    if (const Error failed = ProbeDrive(drive)) {
+        return failed;
+    }
+    if (LowerCase(drive.substr(0, 2)) != LowerCase(current_.substr(0, 2))) {
+        current_ = UpperCase(drive.substr(0, 2)) + "\\";
+    }
+    return {};
+}
+
+Error MemoryFiles::ChangeDirectory(std::string_view path) {
+    const Node* node = Find(path);
+    if (node == nullptr || !node->IsDirectory) {
+        return MakeError(error::kPathNotFound);
+    }
+    current_ = node->Name.size() == 2 ? node->Name + "\\" : node->Name;
+    return {};
+}
+
+std::string MemoryFiles::ToHost(std::string_view path) {
+    std::string host = "/" + Key(path);
+    std::replace(host.begin(), host.end(), '\\', '/');
+    return ToUtf8(host);
+}
+
+std::string MemoryFiles::FromHost(std::string_view hostPath) {
+    std::string path = FromUtf8(hostPath).value_or("");
+    if (path.size() < 3 || path[2] != ':') {
+        return {};
+    }
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return UpperCase(path.substr(1, 2)) + path.substr(3);
+}
+
+std::string MemoryFiles::Bytes(std::string_view path) {
+    const Result<std::string> bytes = Read(path);
+    return bytes.Ok() ? bytes.Value : "(none)";
+}
+
+}  // namespace lv

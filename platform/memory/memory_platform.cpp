@@ -1,0 +1,73 @@
+#include "platform/memory/memory_platform.h"
+
+#include <algorithm>
+
+#include "platform/code_page.h"
+
+namespace lv {
+
+namespace {
+
+std::string StoreKey(std::string_view a, std::string_view b, std::string_view c) {
+    return LowerCase(a) + '\0' + LowerCase(b) + '\0' + LowerCase(c);
+}
+
+}  // namespace
+
+std::optional<std::string> MemorySettings::Read(std::string_view application, std::string_view section,
+                                                std::string_view key) {
+    const auto found = values_.find(StoreKey(application, section, key));
+    return found == values_.end() ? std::nullopt : std::optional(found->second);
+}
+
+Error MemorySettings::Write(std::string_view application, std::string_view section, std::string_view key,
+                            std::string_view value) {
+    if (RefuseWrites) {
+        return RefuseWrites;
+    }
+    values_[StoreKey(application, section, key)] = value;
+    Log.push_back(std::string(section) + '|' + std::string(key) + '|' + std::string(value));
+    return {};
+}
+
+Result<RegistryValue> MemoryRegistry::Query(std::string_view path, std::string_view name) {
+    const auto found = Values.find(LowerCase(path) + '|' + LowerCase(name));
+    if (found == Values.end()) {
+        return Error{2, "The system cannot find the file specified."};
+    }
+    return found->second;
+}
+
+Error MemoryRegistry::Set(std::string_view path, std::string_view name, const RegistryValue& value) {
+    Values[LowerCase(path) + '|' + LowerCase(name)] = value;
+    return {};
+}
+
+
+Error MemoryProcesses::StartBatch(std::string_view directory, std::string_view name) {
+    if (Refuse) {
+        return Refuse;
+    }
+    Started.push_back(std::string(directory) + "\\" + std::string(name));
+    return {};
+}
+
+Error MemoryProcesses::StartProgram(std::string_view program, const std::vector<std::string>& arguments) {
+    if (Refuse) {
+        return Refuse;
+    }
+    std::string line(program);
+    for (const std::string& argument : arguments) {
+        line += '|' + argument;
+    }
+    Started.push_back(line);
+    return {};
+}
+
+std::string MemoryClock::MonthName(int month) {
+    static constexpr const char* kMonths[] = {"January", "February", "March",     "April",   "May",      "June",
+                                              "July",    "August",   "September", "October", "November", "December"};
+    return kMonths[std::clamp(month, 1, 12) - 1];
+}
+
+}  // namespace lv

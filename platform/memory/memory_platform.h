@@ -1,0 +1,135 @@
+// platform/memory/memory_platform.h
+//
+// A whole platform in memory, for tests and benchmarks: it keeps the promises of the interfaces and lets a test
+// refuse what it wants refused.
+
+#pragma once
+
+#include <map>
+#include <optional>
+#include <set>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace lv {
+
+class MemorySettings : public SettingsBacking {
+  public:
+    std::optional<std::string> Read(std::string_view application, std::string_view section,
+                                    std::string_view key) override;
+    Error Write(std::string_view application, std::string_view section, std::string_view key,
+                std::string_view value) override;
+
+    /// Each write, as "section|key|value", in order.
+    std::vector<std::string> Log;
+    Error RefuseWrites;
+    [[nodiscard]] std::size_t Count() const { return values_.size(); }
+
+  private:
+    std::map<std::string, std::string> values_;
+};
+
+class MemoryRegistry : public UserRegistry {
+  public:
+    Result<RegistryValue> Query(std::string_view path, std::string_view name) override;
+    Error Set(std::string_view path, std::string_view name, const RegistryValue& value) override;
+
+    std::map<std::string, RegistryValue> Values;  // by the lower-case "path|name"
+};
+
+/// A tree of files. Entries are listed in the order they were made.
+class MemoryFiles : public Files {
+  public:
+    /// Makes the drive, and below it each directory of the path.
+    void AddDirectory(std::string_view path);
+    void AddFile(std::string_view path, std::string_view bytes = "");
+    void AddDrive(std::string_view drive);
+
+    std::vector<std::string> Drives() override;
+    Error ProbeDrive(std::string_view drive) override;
+    bool FileExists(std::string_view path) override;
+    bool DirectoryExists(std::string_view path) override;
+    Result<std::vector<DirectoryEntry>> List(std::string_view directory) override;
+    Result<std::string> Read(std::string_view path) override;
+    Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) override;
+    Error Replace(std::string_view path, std::string_view bytes) override;
+    Error Copy(std::string_view from, std::string_view to) override;
+    Error Delete(std::string_view path) override;
+    Error MakeDirectory(std::string_view path) override;
+    Error RemoveDirectory(std::string_view path) override;
+    std::string CurrentDirectory() override { return current_; }
+    Error ChangeDrive(std::string_view drive) override;
+    Error ChangeDirectory(std::string_view path) override;
+    std::string ProgramDirectory() override { return "C:\\LORVANE"; }
+    std::string ToHost(std::string_view path) override;
+    std::string FromHost(std::string_view hostPath) override;
+
+    /// The bytes of a file that a test knows to be there; "(none)" if it is not.
+    std::string Bytes(std::string_view path);
+
+    std::set<std::string> DrivesNotReady;               // "D:"
+    std::map<std::string, Error> Refused;               // by lower-case path: Replace and Copy onto it fail with this
+    std::vector<std::string> Log;                       // "replace C:\...", "delete C:\...", "copy A -> B", in order
+
+  private:
+    struct Node {
+        std::string Name;  // full path as spelled when made
+        std::string Bytes;
+        bool IsDirectory = false;
+        std::size_t Order = 0;
+    };
+    [[nodiscard]] std::string Key(std::string_view path) const;
+    Node* Find(std::string_view path);
+
+    std::map<std::string, Node> nodes_;
+    std::string current_ = "C:\\";
+    std::size_t made_ = 0;
+};
+
+class MemoryProcesses : public Processes {
+  public:
+    Error StartBatch(std::string_view directory, std::string_view name) override;
+    Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
+
+    std::vector<std::string> Started;  // "C:\QUAKE\lv_666.bat", or the program and its arguments joined by "|"
+    Error Refuse;
+};
+
+class MemoryClipboard : public Clipboard {
+  public:
+    Error SetText(std::string_view text) override {
+        Held = text;
+        return {};
+    }
+    std::string GetText() override { return Held; }
+
+    std::string Held;
+};
+
+class MemoryClock : public Clock {
+  public:
+    LocalTime Now() override { return Is; }
+    double Seconds() override { return Elapsed; }
+    void Sleep(int milliseconds) override { Elapsed += milliseconds / 1000.0; }
+    std::string MonthName(int month) override;
+    char DecimalSeparator() override { return Separator; }
+    bool IsWin9x() override { return Win9x; }
+
+    LocalTime Is{1999, 11, 21, 12, 30, 0};
+    double Elapsed = 0;
+    char Separator = '.';
+    bool Win9x = false;
+};
+
+struct MemoryPlatform {
+    MemorySettings Settings;
+    MemoryRegistry Registry;
+    MemoryFiles Disk;
+    MemoryProcesses Programs;
+    MemoryClipboard Clip;
+    MemoryClock Time;
+    Platform Services{Settings, Registry, Disk, Programs, Clip, Time};
+};
+
+}  // namespace lv

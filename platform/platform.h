@@ -1,0 +1,25 @@
+// platform/platform.h
+//
+// All that the program asks of the system it runs on, as one struct of interfaces.
+
+#pragma once
+
+#include "platform/clipboard.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/processes.h"
+#include "platform/settings_backing.h"
+#include "platform/user_registry.h"
+
+namespace lv {
+
+struct Platform {
+    SettingsBacking& Settings;
+    UserRegistry& Registry;
+    Files& Disk;
+    Processes& Programs;
+    Clipboard& Clip;
+    Clock& Time;
+};
+
+}  // namespace lv

@@ -1,0 +1,46 @@
+// platform/settings_backing.h
+//
+// The per-user store of text values by application, section and key.
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/error.h"
+
+namespace lv {
+
+class SettingsBacking {
+  public:
+    virtual ~SettingsBacking() = default;
+
+    /// The stored text; nothing if there is none or it cannot be read. Look-ups are blind to letter case.
+    virtual std::optional<std::string> Read(std::string_view application, std::string_view section,
+                                            std::string_view key) = 0;
+
+    /// Stores the text. When it returns without error the value outlives a kill of the program. All 256 byte values
+    /// survive, character 0 included. Errors: 61 disk full, 70 permission denied, 57 anything else of the device.
+    virtual Error Write(std::string_view application, std::string_view section, std::string_view key,
+                        std::string_view value) = 0;
+
+    /// Writes between BeginGroup and EndGroup become durable together, or not at all; groups nest. For the hundreds
+    /// of keys of a fresh profile.
+    virtual void BeginGroup() {}
+    virtual Error EndGroup() { return {}; }
+};
+
+/// Groups the writes of a scope.
+class SettingsGroup {
+  public:
+    explicit SettingsGroup(SettingsBacking& store) : store_(store) { store_.BeginGroup(); }
+    ~SettingsGroup() { (void)store_.EndGroup(); }
+    SettingsGroup(const SettingsGroup&) = delete;
+    SettingsGroup& operator=(const SettingsGroup&) = delete;
+
+  private:
+    SettingsBacking& store_;
+};
+
+}  // namespace lv
