@@ -1,0 +1,170 @@
+#include "foundation/forms/binder.h"
+
+#include "foundation/field_strings.h"
+#include "foundation/forms/pictures.h"
+#include "foundation/forms/wx_text.h"
+
+namespace lv {
+
+namespace {
+
+bool ShowControl(const Control& model, wxWindow* view, Text& tip) {
+    if (view->IsThisEnabled() != model.Enabled) {
+        view->Enable(model.Enabled);
+    }
+    if (tip != model.ToolTip) {
+        tip = model.ToolTip;
+        view->SetToolTip(ToWx(tip));
+    }
+    return view->IsShown() != model.Visible && view->Show(model.Visible);
+}
+
+void ShowLabel(const Text& caption, wxWindow* view) {
+    const wxString label = ToWx(Trim(caption));
+    if (view->GetLabel() != label) {
+        view->SetLabel(label);
+    }
+}
+
+bool SameRows(const ImageCombo& model, const std::vector<Text>& shown) {
+    if (model.Items.size() * 2 != shown.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < model.Items.size(); ++i) {
+        if (shown[i * 2] != model.Items[i].Title || shown[i * 2 + 1] != model.Items[i].Image) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+void Binder::Add(const char* name, Control& model, wxWindow* view, Shower show) {
+    view->SetName(name);
+    showers_.push_back([&model, view, show = std::move(show), tip = Text()]() mutable {
+        const bool changed = show();
+        return ShowControl(model, view, tip) || changed;
+    });
+}
+
+void Binder::Run(const Handler& handler) {
+    if (showing_) {
+        return;
+    }
+    handler();
+    after_();
+}
+
+bool Binder::Show() {
+    showing_ = true;
+    bool changed = false;
+    for (Shower& show : showers_) {
+        changed = show() || changed;
+    }
+    showing_ = false;
+    return changed;
+}
+
+void Binder::Bind(const char* name, CheckBox& model, wxCheckBox* view, Handler click) {
+    view->Bind(wxEVT_CHECKBOX, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
+        model.Value = view->IsChecked() ? 1 : 0;
+        Run(click);
+    });
+    Add(name, model, view, [&model, view] {
+        if (!model.Caption.empty()) {
+            ShowLabel(model.Caption, view);
+        }
+        const wxCheckBoxState state = model.Value == 2   ? wxCHK_UNDETERMINED
+                                      : model.Value == 1 ? wxCHK_CHECKED
+                                                         : wxCHK_UNCHECKED;
+        if (view->Get3StateValue() != state) {
+            view->Set3StateValue(state);
+        }
+        return false;
+    });
+}
+
+void Binder::Bind(const char* name, CommandButton& model, wxAnyButton* view, Handler click) {
+    view->Bind(wxEVT_BUTTON, [this, click = std::move(click)](wxCommandEvent&) { Run(click); });
+    Add(name, model, view, [&model, view] {
+        if (!model.Caption.empty()) {
+            ShowLabel(model.Caption, view);
+        }
+        return false;
+    });
+}
+
+void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler click) {
+    view->Bind(wxEVT_CHOICE, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
+        model.ListIndex = view->GetSelection();
+        Run(click);
+    });
+    Add(name, model, view, [&model, view, shown = std::vector<Text>()]() mutable {
+        if (shown != model.Items) {
+            shown = model.Items;
+            wxArrayString rows;
+            for (const Text& item : shown) {
+                rows.Add(ShownItem(item));
+            }
+            view->Set(rows);
+        }
+        if (view->GetSelection() != model.ListIndex) {
+            view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
+        }
+        return false;
+    });
+}
+
+void Binder::Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, Handler click) {
+    view->Bind(wxEVT_COMBOBOX, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
+        model.ListIndex = view->GetSelection();
+        Run(click);
+    });
+    Add(name, model, view, [&model, view, shown = std::vector<Text>()]() mutable {
+        if (!SameRows(model, shown)) {
+            shown.clear();
+            view->Clear();
+            for (const ImageComboItem& item : model.Items) {
+                shown.push_back(item.Title);
+                shown.push_back(item.Image);
+                view->Append(ShownItem(item.Title), PictureOf(Join("icons/games/", LowerCase(item.Image))));
+            }
+        }
+        if (view->GetSelection() != model.ListIndex) {
+            view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
+        }
+        return false;
+    });
+}
+
+void Binder::Bind(const char* name, TextBox& model, wxTextCtrl* view, Handler change) {
+    view->Bind(wxEVT_TEXT, [this, &model, view, change = std::move(change)](wxCommandEvent&) {
+        model.Text = FromWx(view->GetValue());
+        Run(change);
+    });
+    Add(name, model, view, [&model, view] {
+        // What has no form in the code page stays in sight while it is typed.
+        if (FromWx(view->GetValue()) != model.Text) {
+            view->ChangeValue(ToWx(model.Text));
+        }
+        return false;
+    });
+}
+
+void Binder::Bind(const char* name, Label& model, wxStaticText* view) {
+    Add(name, model, view, [&model, view] {
+        const bool changed = view->GetLabel() != ToWx(Trim(model.Caption));
+        ShowLabel(model.Caption, view);
+        return changed;
+    });
+}
+
+void Binder::Bind(const char* name, Panel& model, wxWindow* view) {
+    Add(name, model, view, [&model, view] {
+        ShowLabel(model.Caption, view);
+        return false;
+    });
+}
+
+}  // namespace lv

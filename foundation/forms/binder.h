@@ -1,0 +1,55 @@
+// foundation/forms/binder.h
+//
+// Ties a window's struct to the toolkit's controls: forwards each event to its handler with the new state in the
+// struct, and afterwards brings the controls in line with the struct.
+
+#pragma once
+
+#include <wx/anybutton.h>
+#include <wx/bmpcbox.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <functional>
+#include <vector>
+
+#include "foundation/controls.h"
+
+namespace lv {
+
+class Binder {
+  public:
+    using Handler = std::function<void()>;
+
+    /// `after` runs behind each handler: the user interface brings all live windows in line there.
+    explicit Binder(Handler after) : after_(std::move(after)) {}
+    Binder(const Binder&) = delete;
+    Binder& operator=(const Binder&) = delete;
+
+    void Bind(const char* name, CheckBox& model, wxCheckBox* view, Handler click);
+    void Bind(const char* name, CommandButton& model, wxAnyButton* view, Handler click);
+    void Bind(const char* name, ListBox& model, wxChoice* view, Handler click);
+    void Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, Handler click);
+    void Bind(const char* name, TextBox& model, wxTextCtrl* view, Handler change);
+    void Bind(const char* name, Label& model, wxStaticText* view);
+    void Bind(const char* name, Panel& model, wxWindow* view);
+
+    /// Runs a handler as if its control had been used.
+    void Run(const Handler& handler);
+
+    /// Brings all controls in line with the struct; true if something came or went, so that the window is to be laid
+    /// out anew.
+    bool Show();
+
+  private:
+    using Shower = std::function<bool()>;
+    void Add(const char* name, Control& model, wxWindow* view, Shower show);
+
+    Handler after_;
+    std::vector<Shower> showers_;
+    bool showing_ = false;
+};
+
+}  // namespace lv

@@ -1,0 +1,35 @@
+// foundation/forms/question_box_form.h
+//
+// Shows QuestionBox_Frm.
+
+#pragma once
+
+#include <wx/dialog.h>
+
+#include <vector>
+
+#include "foundation/question_box.h"
+
+class wxButton;
+class wxCheckBox;
+class wxTextCtrl;
+
+namespace lv {
+
+class QuestionBoxForm : public wxDialog {
+  public:
+    /// Without an owner the box stands in the middle of the screen.
+    QuestionBoxForm(wxWindow* owner, QuestionBox_Frm& box);
+
+  private:
+    wxSizer* MakeMessage();
+    wxSizer* MakeButtons();
+    void Press(int index);
+
+    QuestionBox_Frm& box_;
+    wxTextCtrl* text_ = nullptr;
+    wxCheckBox* notAgain_ = nullptr;
+    std::vector<wxButton*> buttons_;
+};
+
+}  // namespace lv

@@ -1,0 +1,288 @@
+#include "launcher/launch_flow.h"
+
+#include "foundation/field_strings.h"
+#include "foundation/numbers.h"
+#include "foundation/question_box.h"
+#include "foundation/settings.h"
+#include "launcher/environment_lines.h"
+#include "launcher/launch_composition.h"
+#include "launcher/launch_files.h"
+#include "video/profile_model.h"
+
+namespace lv {
+
+namespace {
+
+// The tag of the batch file in error reports.
+constexpr TextView kBatchTag = "0000005 File = ";
+
+constexpr std::size_t kLongestWin9xLine = 128;
+
+/// What one click works on.
+struct Click {
+    Launcher& launcher;
+    Run& run;
+    LaunchMode Mode;
+    ProfileSnapshot Profile;
+    LaunchSelection Selection;
+    LaunchGame Game;
+    LaunchTexts Texts;
+    Text Script;  // what goes into lv_666.qs
+    Text Batch;   // what goes into lv_666.bat
+    Text FailureFile;
+};
+
+void Tell(Run& run, TextView text) { AskUser(run, "", text); }
+
+Text FiveDigits(int number) {
+    Text digits = std::to_string(number);
+    return Text(digits.size() < 5 ? 5 - digits.size() : 0, '0') + digits;
+}
+
+void ReportError(Click& click, const Error& failed) {
+    Run& run = click.run;
+    Text report = Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error Code = EC",
+                       FiveDigits(click.Texts.LaunchStep), NewLine, "Error String = ", failed.Text, NewLine,
+                       "Curreny System Directory = ", run.System.Disk.CurrentDirectory(), NewLine,
+                       "Default Game Directory = ", run.DefaultGameDirectory, NewLine,
+                       "Current Command Line = ", click.Texts.GameCommand);
+    if (!click.FailureFile.empty()) {
+        report += Join(NewLine, click.FailureFile);
+    }
+    AskUser(run, "", report);
+}
+
+bool ExecutableIsThere(Click& click) {
+    Run& run = click.run;
+    click.Texts.LaunchStep = 20;
+    if (!click.launcher.Window.Exe_Cbo.HasSelection()) {
+        Tell(run, "No executable is selected.");
+        return false;
+    }
+    const Text& path = click.Selection.ExecutablePath;
+    if (path.empty()) {
+        AskUser(run, "Error in executable path", "Executable defined as an empty string.");
+        return false;
+    }
+    if (run.System.Disk.FileExists(path)) {
+        return true;
+    }
+    Tell(run, Join("The executable game file -->", NewLine, NewLine, TabChar, DoubleQuote, path, DoubleQuote, NewLine,
+                   NewLine, "could not be found. The following possiblities exist.", NewLine, NewLine,
+                   "1) The game has been moved.", NewLine, "2) The game has been removed.", NewLine,
+                   "3) The game is corrupted.", NewLine, "4) Windows incorrectly reported that the file is missing.",
+                   NewLine));
+    return false;
+}
+
+LaunchHooks HooksOf(Run& run) {
+    LaunchHooks hooks;
+    hooks.GameSpyFetch = [&run]() -> std::optional<Text> {
+        Tell(run, Join("Lorvane 3D can't take the server from GameSpy 3D's window yet.", NewLine, NewLine,
+                       "To play on a server now, pick it in the list of servers and launch."));
+        return std::nullopt;
+    };
+    return hooks;
+}
+
+/// False if the composition stopped the launch; the user knows why.
+bool Compose(Click& click) {
+    click.Texts = ComposeLaunch(click.Selection, click.Game, click.Profile, HooksOf(click.run));
+    switch (click.Texts.Stop.Kind) {
+        case StopKind::None:
+            return true;
+        case StopKind::Silent:
+            return false;
+        case StopKind::Message:
+            Tell(click.run, click.Texts.Stop.Message);
+            return false;
+        case StopKind::Error:
+            ReportError(click, click.Texts.Stop.Fault);
+            return false;
+    }
+    return false;
+}
+
+/// Replaces the script of the last launch, or takes it away when this one has none.
+bool WriteScript(Click& click) {
+    Files& disk = click.run.System.Disk;
+    const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
+    click.Texts.LaunchStep = 205;
+    AddCommandLineAdditions(click.Selection, click.Texts);
+    click.Script = ScriptText(click.Texts, click.Game);
+    if (click.Script.empty() || click.Game.GameKind == 4 || !hasDirectory) {
+        if (hasDirectory) {
+            (void)disk.Delete(ScriptFilePath(click.Game));
+        }
+        return true;
+    }
+    if (const Error failed = disk.Replace(ScriptFilePath(click.Game), click.Script)) {
+        ReportError(click, failed);
+        return false;
+    }
+    AddScriptExec(click.Texts);
+    return true;
+}
+
+bool WriteBatch(Click& click) {
+    click.Texts.LaunchStep = 230;
+    click.Batch = BatchText(EnvironmentLines(click.Game, click.Profile), click.Selection.ShowSet_Chk,
+                            ExeDriveOf(click.Selection), click.Game.DefaultGameDirectory, click.Texts, click.Game);
+    if (click.Game.DefaultGameDirectory.empty()) {
+        return true;
+    }
+    const Text path = Join(click.Game.DefaultGameDirectory, "\\", kLaunchBatchFile);
+    click.FailureFile = Join(kBatchTag, path);
+    if (const Error failed = click.run.System.Disk.Replace(path, click.Batch)) {
+        ReportError(click, failed);
+        return false;
+    }
+    click.FailureFile.clear();
+    click.Texts.LaunchStep = 240;
+    return true;
+}
+
+/// Shows the files where that was asked for. True if the game is to be started.
+bool ViewOrGoOn(Click& click) {
+    Run& run = click.run;
+    int answer = 0;
+    click.Texts.LaunchStep = 470;
+    if (click.Mode == LaunchMode::View) {
+        const Text text =
+            Join("AppDir = ", run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
+                 NewLine, "Script File = ", NewLine, click.Game.GameKind == 4 ? Text() : click.Script);
+        answer = AskUser(run, "Viewing Commands", text, "&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!");
+        click.Texts.LaunchStep = 480;
+        if (answer == 1) {
+            if (const Error failed = run.System.Clip.SetText(text)) {
+                ReportError(click, failed);
+                return false;
+            }
+        }
+    }
+    return click.Mode == LaunchMode::Launch || answer == 2;
+}
+
+bool LengthIsFine(Click& click) {
+    const Text& command = click.Texts.GameCommand;
+    if (!click.run.IsWin9x || command.size() <= kLongestWin9xLine) {
+        return true;
+    }
+    return AskUser(click.run, "Command Line Problem",
+                   Join("Command Line = ", command, NewLine, "Length = ", std::to_string(command.size()), NewLine,
+                        "The total command line exceedes 128 characters.", NewLine,
+                        "This will cause it to not work properly."),
+                   "&That's OK,&Abort Launch") == 0;
+}
+
+void PutPif(const Click& click) {
+    Files& disk = click.run.System.Disk;
+    const Text pif = Join(click.Game.DefaultGameDirectory, "\\", kLaunchPifFile);
+    const Text pattern = Join(click.run.AppDirectory, "\\", PifTemplateName(click.Game.GameKind));
+    if (disk.Copy(pattern, pif)) {
+        (void)disk.Delete(pif);  // without a template the game starts without one
+    }
+}
+
+void HideWindow(Launcher& launcher) {
+    launcher.Window.Visible = false;
+    launcher.Window.ShowLorvane_Bar.Caption = "&Show Lorvane 3D";
+    launcher.run.User.Refresh();
+}
+
+void ShowWindow(Launcher& launcher) {
+    launcher.Window.Visible = true;
+    launcher.Window.ShowLorvane_Bar.Caption = "&Hide Lorvane 3D";
+    launcher.run.User.Refresh();
+}
+
+void StartGame(Click& click) {
+    Run& run = click.run;
+    Save(run, "LV-Stuff", "LaunchCount", TextView(std::to_string(
+             ToLong(GetSetting(run, run.AppName, "LV-Stuff", "LaunchCount", "0")) + 1)));
+    if (run.DefaultGameDirectory.empty()) {
+        Tell(run, "DefaultGameDirectory not set - cannot launch");
+        return;
+    }
+    if (const Error failed = SetCurrentPath(run, run.DefaultGameDirectory)) {
+        ReportError(click, failed);
+        return;
+    }
+    if (!LengthIsFine(click)) {
+        return;
+    }
+    PutPif(click);
+    HideWindow(click.launcher);
+    if (const Error failed = run.System.Programs.StartBatch(run.DefaultGameDirectory, kLaunchBatchFile)) {
+        ShowWindow(click.launcher);  // no game has the screen, so the window comes back
+        ReportError(click, failed);
+        return;
+    }
+    if (click.launcher.Window.EndOnLaunch_Chk.Value == 1) {
+        EndProgram(run);
+    }
+}
+
+std::optional<Text> Payload(const ListBox& list) {
+    return list.HasSelection() ? std::optional(Trim(DropLeft(list.Selected(), NameFieldWidth))) : std::nullopt;
+}
+
+}  // namespace
+
+LaunchSelection SelectionOf(const LV_Frm& window) {
+    const auto ticked = [](const CheckBox& box) { return box.Value == 1; };
+    LaunchSelection selection;
+    if (window.Exe_Cbo.HasSelection()) {
+        const Text& key = window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Key;
+        selection.ExecutablePath = ReplaceSameLength(key, "/", "\\");
+    }
+    selection.LaunchQspy_Chk = ticked(window.LaunchQspy_Chk);
+    selection.QSpy_Chk = ticked(window.QSpy_Chk);
+    selection.Server_Chk = ticked(window.Server_Chk);
+    selection.Map_Chk = ticked(window.Map_Chk);
+    selection.Game_Chk = ticked(window.Game_Chk);
+    selection.Memory_Chk = ticked(window.Memory_Chk);
+    selection.NOLAN_Chk = ticked(window.NOLAN_Chk);
+    selection.NOUDP_Chk = ticked(window.NOUDP_Chk);
+    selection.Script_Chk = ticked(window.Script_Chk);
+    selection.NOCDAUDIO_Chk = ticked(window.NOCDAUDIO_Chk);
+    selection.Dedicated_Chk = ticked(window.Dedicated_Chk);
+    selection.Demo_Chk = ticked(window.Demo_Chk);
+    selection.nosound_chk = ticked(window.nosound_chk);
+    selection.Listen_Chk = ticked(window.Listen_Chk);
+    selection.Bench_Chk = ticked(window.Bench_Chk);
+    selection.CommandLineAdditions_Chk = ticked(window.CommandLineAdditions_Chk);
+    selection.ShowSet_Chk = ticked(window.ShowSet_Chk);
+    selection.UnrealSimulateFirstRun_Chk = ticked(window.UnrealSimulateFirstRun_Chk);
+    selection.UnrealDisableLogWindow_Chk = ticked(window.UnrealDisableLogWindow_Chk);
+    selection.UnrealDisableK6Support_Chk = ticked(window.UnrealDisableK6Support_Chk);
+    selection.UnrealDisableMMXSupport_Chk = ticked(window.UnrealDisableMMXSupport_Chk);
+    selection.UnrealNoDirectSound_Chk = ticked(window.UnrealNoDirectSound_Chk);
+    selection.Server = Payload(window.Server_Cbo);
+    selection.Game = Payload(window.Game_Cbo);
+    selection.Memory = Payload(window.Mem_Cbo);
+    selection.Script = Payload(window.Script_Cbo);
+    selection.Demo = Payload(window.Demo_Cbo);
+    if (window.Map_Cbo.HasSelection()) {
+        selection.Map = window.Map_Cbo.Selected();
+    }
+    selection.CommandLineAdditions_Txt = window.CommandLineAdditions_Txt.Text;
+    return selection;
+}
+
+LaunchGame GameOf(Run& run) {
+    const Index card = ReadVidCard(run);
+    return {run.GameKind,       run.ScriptFamily,    run.DefaultGameDirectory, run.CurrentGameDir,
+            run.UsesAccelerator, CardClassOf(card), card};
+}
+
+void DoIt_Cmd_Click(Launcher& launcher, int index) {
+    Run& run = launcher.run;
+    Click click{launcher, run, static_cast<LaunchMode>(index), ReadProfile(run), SelectionOf(launcher.Window),
+                GameOf(run), {}, {}, {}, {}};
+    if (ExecutableIsThere(click) && Compose(click) && WriteScript(click) && WriteBatch(click) && ViewOrGoOn(click)) {
+        StartGame(click);
+    }
+}
+
+}  // namespace lv

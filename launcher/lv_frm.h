@@ -1,0 +1,88 @@
+// launcher/lv_frm.h
+//
+// The main window. Its controls are the live state: each click writes its key at once, and a launch reads the controls
+// as they stand.
+
+#pragma once
+
+#include <array>
+
+#include "foundation/controls.h"
+
+namespace lv {
+
+struct LV_Frm {
+    LV_Frm();
+
+    Text Caption = "Lorvane 3D";
+    bool Visible = false;
+
+    Panel Exe_Pan;
+    Panel Mod_Pan;
+    Panel Memory_Pan;
+    Panel PlayerScript_Pan;
+    Panel Demo_Pan;
+    Panel Server_Pan;
+    Panel VideoProfile_Pan;
+    Panel QSpy_Pan;
+    Panel OtherOpts_Pan;
+    Panel Command_Pan;
+
+    ImageCombo Exe_Cbo;
+    ListBox Game_Cbo;
+    ListBox Mem_Cbo;
+    ListBox Script_Cbo;
+    ListBox Demo_Cbo;
+    ListBox Server_Cbo;
+    ListBox Map_Cbo;
+    ListBox VideoProfiles_Cbo;
+    TextBox CommandLineAdditions_Txt;
+
+    CheckBox Memory_Chk;
+    CheckBox Game_Chk;
+    CheckBox Script_Chk;
+    CheckBox Demo_Chk;
+    CheckBox Server_Chk;
+    CheckBox Dedicated_Chk;
+    CheckBox Listen_Chk;
+    CheckBox Map_Chk;
+    CheckBox QSpy_Chk;
+    CheckBox LaunchQspy_Chk;
+    CheckBox Bench_Chk;
+    CheckBox NOLAN_Chk;
+    CheckBox NOUDP_Chk;
+    CheckBox NOCDAUDIO_Chk;
+    CheckBox nosound_chk;
+    CheckBox ShowSet_Chk;
+    CheckBox EndOnLaunch_Chk;
+    CheckBox CommandLineAdditions_Chk;
+    CheckBox UnrealSimulateFirstRun_Chk;
+    CheckBox UnrealDisableLogWindow_Chk;
+    CheckBox UnrealDisableK6Support_Chk;
+    CheckBox UnrealDisableMMXSupport_Chk;
+    CheckBox UnrealNoDirectSound_Chk;
+
+    CommandButton SetupFoundry_Cmd;
+    CommandButton VideoProfileEdit_Cmd;
+    std::array<CommandButton, 3> DoIt_Cmd;
+
+    CommandButton Mem_Bar;           // the memory menu, out of use where a game manages its own memory
+    CommandButton ShowLorvane_Bar;  // "&Hide Lorvane 3D" or "&Show Lorvane 3D"
+};
+
+/// An option check box: what it says, the key in "Options" that keeps it, and its tool tip.
+struct OptionBox {
+    CheckBox LV_Frm::*Box;
+    const char* Name;     // the control's name
+    const char* Caption;  // "" for a box that stands beside its list
+    const char* Key;      // "": not kept
+    int Default;
+    const char* ToolTip;
+};
+
+/// All option check boxes, in the order of the window's description.
+const OptionBox* OptionBoxesBegin();
+const OptionBox* OptionBoxesEnd();
+const OptionBox& OptionBoxOf(CheckBox LV_Frm::*box);
+
+}  // namespace lv

@@ -1,0 +1,67 @@
+#include "launcher/main_window_load.h"
+
+#include "catalogs/executables.h"
+#include "catalogs/map_scan.h"
+#include "catalogs/memory_demos.h"
+#include "catalogs/scripts.h"
+#include "foundation/settings.h"
+#include "launcher/lv_events.h"
+#include "launcher/option_rules.h"
+#include "video/profile_model.h"
+
+namespace lv {
+
+namespace {
+
+void LoadVideoProfiles(Launcher& launcher) {
+    launcher.ProfileChangeQuiet = true;
+    UpgradeVideoProfiles(launcher.run);
+    FillVideoProfiles(launcher.run, launcher.Window.VideoProfiles_Cbo);
+    launcher.ProfileChangeQuiet = false;
+}
+
+// The stored combination is shown as it is: nothing is excluded here. Only what the game itself rules out is.
+void LoadOptionBoxes(Launcher& launcher) {
+    Run& run = launcher.run;
+    LV_Frm& window = launcher.Window;
+    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
+        if (*option->Key != '\0') {
+            const Index stored = GetNumber(run, kOptions, option->Key, static_cast<Index>(option->Default));
+            (window.*option->Box).Value = stored == 1 || stored == 2 ? stored : 0;
+        }
+    }
+    if (!window.Game_Cbo.HasSelection()) {
+        window.Game_Chk.Value = 0;
+    }
+    window.LaunchQspy_Chk.Value = 0;  // not part of the program yet
+    window.CommandLineAdditions_Txt.Text = GetSetting(run, run.AppName, kOptions, "CustomCommandLineText");
+    ApplyGamePanels(window, {run.GameKind, run.ScriptFamily, run.IsQuakeWorld, run.IsHexenWorld});
+    if (run.GameKind != 0) {
+        ApplyModification(launcher);
+        ScanForMaps(run, launcher.Lists);
+    }
+}
+
+}  // namespace
+
+bool LV_Frm_Load(Launcher& launcher) {
+    Run& run = launcher.run;
+    FixScriptRegistries(run);
+    if (run.Ended) {
+        return false;
+    }
+    LoadVideoProfiles(launcher);
+    run.DefaultGameDirectory.clear();
+    if (!LoadExes(run, launcher.Lists)) {
+        return false;
+    }
+    Exe_Cbo_Click(launcher);
+    if (run.Ended || !FillMemoryCombo(run, launcher.Lists) || !FillDemoCombo(run, launcher.Lists)) {
+        return false;
+    }
+    LoadOptionBoxes(launcher);
+    run.MainFormLoaded = !run.Ended;
+    return run.MainFormLoaded;
+}
+
+}  // namespace lv

@@ -1,0 +1,158 @@
+// sample/make_sample.cpp
+//
+// Makes the sample drive: small game trees of our own data, and the settings that list them.
+//   make_sample FOLDER
+// Writes FOLDER/data (the drives) and FOLDER/config (the settings); what was there is made anew.
+
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/linux/sqlite_settings.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kApplication = "Lorvane 3D";
+constexpr const char* kQuakeEngine = "/usr/games/darkplaces-server";
+
+void Write(const fs::path& file, const std::string& bytes) {
+    fs::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << bytes;
+}
+
+void AppendNumber(std::string& out, std::size_t number) {
+    for (int i = 0; i < 4; ++i) {
+        out += static_cast<char>(number >> (8 * i) & 0xFF);
+    }
+}
+
+/// An id Software PAK: "PACK", offset and length of the directory, the files, then 64 bytes for each: 56 of name,
+/// offset, length.
+std::string MakePak(const std::vector<std::pair<std::string, std::string>>& files) {
+    std::string data;
+    std::string directory;
+    for (const auto& [name, bytes] : files) {
+        std::string padded = name;
+        padded.resize(56, '\0');
+        directory += padded;
+        AppendNumber(directory, 12 + data.size());
+        AppendNumber(directory, bytes.size());
+        data += bytes;
+    }
+    std::string pak = "PACK";
+    AppendNumber(pak, 12 + data.size());
+    AppendNumber(pak, directory.size());
+    return pak + data + directory;
+}
+
+std::string Lines(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line + "\r\n";
+    }
+    return text;
+}
+
+void MakeQuake(const fs::path& quake) {
+    Write(quake / "id1/pak0.pak", MakePak({{"maps/start.bsp", "a map in name only"},
+                                           {"maps/e1m1.bsp", "a map in name only"},
+                                           {"maps/b_shell.bsp", "a box of shells"},
+                                           {"gfx/sample.txt", "made for the sample drive"}}));
+    Write(quake / "id1/player.cfg", Lines({
+                                        "// A player's script of the sample drive.",
+                                        "alias hello \"echo Hello from the player's script.\"",
+                                        "alias setup_done \"echo Setup of the sample player is done.\"",
+                                        "hello",
+                                        "hostname \"The sample drive\"",
+                                        "bind w +forward",
+                                        "bind mouse1 +attack",
+                                        "setup_done",
+                                    }));
+    Write(quake / "id1/night.cfg", Lines({"// Another script to choose.", "echo The night shift begins.",
+                                          "skill 3"}));
+    Write(quake / "arena/pak0.pak", MakePak({{"maps/arena1.bsp", "a map in name only"}}));
+    Write(quake / "arena/player.cfg", Lines({"echo Into the arena."}));
+    fs::create_symlink(kQuakeEngine, quake / "glquake.exe");
+}
+
+void CopyProgram(const fs::path& from, const fs::path& to) {
+    fs::create_directories(to.parent_path());
+    if (fs::exists(from)) {
+        fs::copy_file(from, to);
+    } else {
+        std::printf("left out, it was not built: %s\n", from.filename().c_str());
+    }
+}
+
+struct SettingRow {
+    const char* Section;
+    const char* Key;
+    std::string Value;
+};
+
+bool WriteSettings(const fs::path& file) {
+    auto store = lv::SqliteSettings::Open(file);
+    if (!store.Ok()) {
+        std::fprintf(stderr, "%s\n", store.Fault.Text.c_str());
+        return false;
+    }
+    const std::array rows = {
+        SettingRow{"Options", "Executables",
+                   "Quake;c:\\quake\\glquake.exe;"
+                   "Quake 2;c:\\quake2\\quake2.exe;"
+                   "Half-Life (Windows);c:\\sierra\\half-life\\hl.exe;"
+                   "Quake (DOS);c:\\dosquake\\quake.exe"},
+        SettingRow{"Options", "ExecutablesPos", "0"},
+        SettingRow{"Options", "UseScripts", "1"},
+        SettingRow{"Options", "UseGames", "0"},
+        SettingRow{"Options", "UseDemos", "0"},
+        SettingRow{"Options", "VidCard", "2"},
+        SettingRow{"Options", "NetServers", "Server on this machine;127.0.0.1;26000;0;"},
+        SettingRow{"DefaultScript", "c:\\quake\\ID1", "c:\\quake\\id1\\player.cfg"},
+        SettingRow{"LV-Stuff", "FirstTime", "0"},
+    };
+    for (const SettingRow& row : rows) {
+        if (const lv::Error failed = store.Value->Write(kApplication, row.Section, row.Key, row.Value)) {
+            std::fprintf(stderr, "%s\n", failed.Text.c_str());
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    if (count != 2) {
+        std::fputs("usage: make_sample FOLDER\n", stderr);
+        return 2;
+    }
+    const fs::path sample = arguments[1];
+    const fs::path standins = fs::read_symlink("/proc/self/exe").parent_path() / "standins";
+    fs::remove_all(sample / "data");
+    fs::remove_all(sample / "config");
+
+    const fs::path ours = sample / "data/lorvane3d";
+    const fs::path drive = ours / "drive_c";
+    fs::create_directories(ours / "drives");
+    fs::create_directories(drive);
+    fs::create_directory_symlink("../drive_c", ours / "drives/c:");
+    fs::create_directory_symlink("/", ours / "drives/z:");
+
+    MakeQuake(drive / "QUAKE");
+    Write(drive / "QUAKE2/baseq2/pak0.pak", MakePak({{"maps/base1.bsp", "a map in name only"}}));
+    Write(drive / "QUAKE2/baseq2/player.cfg", Lines({"echo Player of the second part.", "set name Sample"}));
+    CopyProgram(standins / "show_native", drive / "QUAKE2/quake2.exe");
+    Write(drive / "SIERRA/Half-Life/valve/player.cfg", Lines({"echo The player of the sample drive."}));
+    CopyProgram(standins / "show_windows.exe", drive / "SIERRA/Half-Life/hl.exe");
+    Write(drive / "DOSQUAKE/id1/player.cfg", Lines({"echo The DOS player."}));
+    CopyProgram(standins / "show_dos.exe", drive / "DOSQUAKE/quake.exe");
+    return WriteSettings(sample / "config/lorvane3d/settings.sqlite") ? 0 : 1;
+}
