@@ -1,0 +1,210 @@
+#include "launcher/composition_rules.h"
+
+#include "foundation/field_strings.h"
+#include "foundation/numbers.h"
+
+namespace lv {
+
+namespace {
+
+struct ServerAddress {
+    Text HostAndPort;  // "host:port", or the host alone
+    Text Password;
+};
+
+LaunchStop StopWith(Text message) {
+    return {StopKind::Message, std::move(message), {}};
+}
+
+LaunchStop StopOn(Error fault) {
+    if (!fault) {
+        return {};
+    }
+    return {StopKind::Error, {}, std::move(fault)};
+}
+
+/// The field, trimmed; empty where the record has none.
+Text FieldOf(TextView record, Index index) {
+    return index > CountDelimiters(record, ";") ? Text() : Trim(GetField(record, index, ";"));
+}
+
+/// Behind ".EXE", or behind the executable's own name where that has another ending.
+void InsertBehindExecutable(const Composition& c, TextView text) {
+    const Text name = ExecutableName(c.Selected);
+    const std::size_t ending = name.find(".EXE");
+    const std::size_t at = ending == Text::npos ? name.size() : ending + 4;
+    c.Texts.UnrealCommand.insert(at, Join(Blank, text));
+}
+
+bool IsBaseDirectory(TextView mod, const LaunchGame& game) {
+    struct Base {
+        Index Kind;
+        TextView Mod;
+    };
+    constexpr Base kBases[] = {
+        {game_kind::kQuake, "-game id1"}, {game_kind::kHexen2, "-game data1"},  {game_kind::kQuake2, "-game baseq2"},
+        {game_kind::kSin, "-game base"},  {game_kind::kHeretic2, "-game base"}, {game_kind::kHalfLife, "-game valve"},
+    };
+    for (const Base& base : kBases) {
+        if (base.Kind == game.GameKind && base.Mod == mod) {
+            return true;
+        }
+    }
+    return false;
+}
+
+Text ConnectText(const ServerAddress& server) {
+    const Text connect = Join("connect ", server.HostAndPort, NewLine);
+    return server.Password.empty() ? connect : Join("password ", server.Password, NewLine, connect, NewLine);
+}
+
+void ConnectTo(const ServerAddress& server, const Composition& c) {
+    if (c.Game.GameKind == game_kind::kUnreal) {
+        InsertBehindExecutable(c, server.HostAndPort);
+        return;
+    }
+    const Text connect = ConnectText(server);
+    c.Texts.QuakeScript += connect;
+    if (c.Game.GameKind == game_kind::kHalfLife) {
+        // With a password the line breaks stand inside the command line; Half-Life wants it so.
+        c.Texts.GameCommand += Join("+", DropRight(connect, NewLine.size()), Blank);
+        return;
+    }
+    c.Texts.Quake2Script += connect;
+}
+
+}  // namespace
+
+LaunchStop WrapQuake(const Composition& c) {
+    c.Texts.GameCommand = Join("qlaunch quakeudp.dll ", c.Texts.GameCommand, "-noipx -noserial -mpath ");
+    return {};
+}
+
+LaunchStop UnrealIniRule(const Composition& c) {
+    return c.Hooks.RewriteUnrealIni ? StopOn(c.Hooks.RewriteUnrealIni()) : LaunchStop();
+}
+
+LaunchStop ModRule(const Composition& c) {
+    const Text mod = LowerCase(*c.Selected.Game);
+    if (IsBaseDirectory(mod, c.Game)) {
+        return {};
+    }
+    const bool asVariable = c.Game.ScriptFamily == script_family::kQuake2;
+    c.Texts.GameCommand += asVariable ? Join("+set ", DropLeft(mod, 1), Blank) : Join(mod, Blank);
+    return {};
+}
+
+LaunchStop MemoryRule(const Composition& c) {
+    const Text& payload = *c.Selected.Memory;
+    const Text command = UpperCase(c.Texts.GameCommand);
+    if (!command.starts_with("GL") && !command.starts_with("WIN")) {
+        c.Texts.GameCommand += Join(payload, Blank);
+        return {};
+    }
+    const std::int64_t megabytes = ToLong(DropLeft(Join(payload, Blank), TextView("-winmem").size()));
+    c.Texts.GameCommand += Join("-heapsize ", std::to_string(megabytes * 1024), Blank);
+    return {};
+}
+
+LaunchStop ScriptRule(const Composition& c) {
+    const Text& path = *c.Selected.Script;
+    if (c.Game.GameKind == game_kind::kHalfLife && c.Hooks.ScriptToRegistry) {
+        if (LaunchStop stop = StopOn(c.Hooks.ScriptToRegistry(path))) {
+            return stop;
+        }
+    }
+    Text name = Trim(LastPathPart(path));
+    if (Holds(name, Blank)) {
+        name = Join(DoubleQuote, name, DoubleQuote);
+    }
+    if (c.Game.GameKind == game_kind::kUnreal) {
+        c.Texts.UnrealCommand += Join("INI=", name, Blank);
+        return {};
+    }
+    const Text line = Join("exec ", name, NewLine);
+    c.Texts.QuakeScript += line;
+    c.Texts.Quake2Script += line;
+    return {};
+}
+
+LaunchStop DedicatedRule(const Composition& c) {
+    if (Holds(c.Texts.GameCommand, "GLQUAKE.EXE")) {
+        return StopWith(Join("The '-dedicated' parameter causes a fat GPF when used with glqauke.exe.", NewLine,
+                             NewLine,
+                             "Besides, there is no reason for a dedicated server to run GL. Please use quake.exe, or "
+                             "winquake.exe."));
+    }
+    if (Holds(c.Texts.GameCommand, "QWCL.EXE")) {
+        return StopWith("Dedicated QuakeWorld servers are started with qwsv.exe.");
+    }
+    if (c.Game.ScriptFamily != script_family::kQuake2) {
+        if (c.Game.GameKind == game_kind::kUnreal) {
+            c.Texts.UnrealCommand += "-server ";
+        } else {
+            c.Texts.GameCommand += "-dedicated ";
+        }
+        return {};
+    }
+    if (c.Game.GameKind == game_kind::kHalfLife) {
+        return StopWith("Dedicated Half-Life servers are started with hlds.exe.");
+    }
+    c.Texts.GameCommand += "+set deathmatch 1 +set dedicated 1 ";
+    return {};
+}
+
+LaunchStop GraphicsDriverRule(const Composition& c) {
+    struct Driver {
+        TextView VidRef;
+        TextView Variable;
+        TextView Value;
+    };
+    constexpr Driver kDrivers[] = {
+        {"soft", "vid_fullscreen", "0"}, {"soft", "vid_fullscreen", "1"}, {"gl", "gl_driver", "3dfxgl"},
+        {"gl", "gl_driver", "ref_gl"},   {"gl", "gl_driver", "pvrgl"},    {"gl", "gl_driver", "opengl32"},
+        {"gl", "gl_driver", "veritegl"}, {"gl", "gl_driver", "ragegl"},
+    };
+    constexpr Index kSoftwareWindow = 0;
+    constexpr Index k3dfx = 2;
+
+    const Index chosen = c.Profile.GraphicsDriver;
+    const Driver& driver = kDrivers[static_cast<std::size_t>(chosen)];
+    const auto set = [&](TextView name, TextView value) {
+        c.Texts.Quake2Script += Join("set ", name, Blank, DoubleQuote, value, DoubleQuote, NewLine);
+    };
+    set("vid_ref", driver.VidRef);
+    set(driver.Variable, chosen == k3dfx && c.Game.GameKind == game_kind::kHeretic2 ? "3dfxgl_ht2" : driver.Value);
+    if (chosen == kSoftwareWindow) {
+        set("vid_xpos", "50");
+        set("vid_ypos", "50");
+    }
+    return {};
+}
+
+LaunchStop ServerRule(const Composition& c) {
+    const Text& record = *c.Selected.Server;
+    const Text host = FieldOf(record, 0);
+    const Text port = FieldOf(record, 1);
+    ConnectTo({port.empty() ? host : Join(host, ":", port), FieldOf(record, 3)}, c);
+    return {};
+}
+
+LaunchStop GameSpyServerRule(const Composition& c) {
+    if (!c.Hooks.GameSpyFetch) {
+        return {};
+    }
+    const std::optional<Text> fetched = c.Hooks.GameSpyFetch();
+    if (!fetched || fetched->empty()) {
+        return {StopKind::Silent, {}, {}};
+    }
+    ConnectTo({*fetched, {}}, c);
+    return {};
+}
+
+LaunchStop AdditionsRule(const Composition& c) {
+    const Text additions = Trim(c.Selected.CommandLineAdditions_Txt);
+    c.Texts.GameCommand += Join(additions, Blank);
+    InsertBehindExecutable(c, additions);
+    return {};
+}
+
+}  // namespace lv
