@@ -6,6 +6,7 @@
 
 #include <wx/frame.h>
 #include <wx/scrolwin.h>
+#include <wx/sizer.h>
 
 #include "foundation/forms/binder.h"
 #include "foundation/forms/wx_user.h"

@@ -1,0 +1,111 @@
+#include "tests/forms/form_driver.h"
+
+#include <gtest/gtest.h>
+#include <wx/dcmemory.h>
+#include <wx/dcscreen.h>
+#include <wx/dialog.h>
+#include <wx/evtloop.h>
+#include <wx/filename.h>
+#include <wx/image.h>
+#include <wx/stopwatch.h>
+#include <wx/timer.h>
+#include <wx/uiaction.h>
+
+#include <memory>
+
+namespace lv {
+
+namespace {
+
+class PollingTimer : public wxTimer {
+  public:
+    explicit PollingTimer(std::function<bool()> act) : act_(std::move(act)) { Start(50); }
+    void Notify() override {
+        if (act_()) {
+            Stop();
+        }
+    }
+
+  private:
+    std::function<bool()> act_;
+};
+
+bool AModalIsOpen() {
+    for (const wxWindow* window : wxTopLevelWindows) {
+        const auto* dialog = dynamic_cast<const wxDialog*>(window);
+        if (dialog != nullptr && dialog->IsModal() && dialog->IsShownOnScreen()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace
+
+wxWindow* Find(const std::string& name) {
+    wxWindow* found = wxWindow::FindWindowByName(name);
+    EXPECT_NE(found, nullptr) << "no control " << name;
+    return found;
+}
+
+void Settle(int milliseconds) {
+    SettleUntil([] { return false; }, milliseconds);
+}
+
+bool SettleUntil(const std::function<bool()>& holds, int milliseconds) {
+    const wxStopWatch watch;
+    while (watch.Time() < milliseconds) {
+        if (holds()) {
+            return true;
+        }
+        wxEventLoopBase* loop = wxEventLoopBase::GetActive();
+        loop->YieldFor(wxEVT_CATEGORY_ALL);
+        wxMilliSleep(5);
+    }
+    return holds();
+}
+
+void ClickOn(wxWindow* control) {
+    const wxRect place = control->GetScreenRect();
+    wxUIActionSimulator hand;
+    hand.MouseMove(place.GetTopLeft() + wxPoint(place.width / 2, place.height / 2));
+    Settle(50);
+    hand.MouseClick();
+    Settle();
+}
+
+void PressKey(int key, int modifiers) {
+    wxUIActionSimulator hand;
+    hand.Char(key, modifiers);
+    Settle();
+}
+
+void WhenModal(const std::function<void()>& act) {
+    // Lives until it has acted; a test acts once or fails by its own wait.
+    static std::unique_ptr<PollingTimer> timer;
+    const wxStopWatch watch;
+    timer = std::make_unique<PollingTimer>([act, shown = 0]() mutable {
+        shown = AModalIsOpen() ? shown + 1 : 0;
+        if (shown < 4) {
+            return false;
+        }
+        shown = -1000000;
+        act();
+        return true;
+    });
+}
+
+void Screenshot(const std::string& name) {
+    Settle();
+    const wxScreenDC screen;
+    const wxSize size = screen.GetSize();
+    wxBitmap bitmap(size);
+    wxMemoryDC canvas(bitmap);
+    canvas.Blit(wxPoint(), size, const_cast<wxScreenDC*>(&screen), wxPoint());
+    canvas.SelectObject(wxNullBitmap);
+    const wxString folder = LV_TEST_BINARY_DIR "/../screenshots";
+    wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+    EXPECT_TRUE(bitmap.ConvertToImage().SaveFile(folder + "/" + name + ".png", wxBITMAP_TYPE_PNG));
+}
+
+}  // namespace lv

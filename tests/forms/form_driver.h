@@ -1,0 +1,37 @@
+// tests/forms/form_driver.h
+//
+// Hands and eyes for tests of real windows: finds controls by name, moves the mouse, presses keys, keeps screenshots.
+
+#pragma once
+
+#include <wx/window.h>
+
+#include <functional>
+#include <string>
+
+namespace lv {
+
+/// The control of that name in any window; a test failure if there is none.
+wxWindow* Find(const std::string& name);
+
+template <class Control>
+Control* FindAs(const std::string& name) {
+    return dynamic_cast<Control*>(Find(name));
+}
+
+/// Handles events for this long.
+void Settle(int milliseconds = 150);
+
+/// Handles events until it holds; false if it does not within the time.
+bool SettleUntil(const std::function<bool()>& holds, int milliseconds = 5000);
+
+void ClickOn(wxWindow* control);
+void PressKey(int key, int modifiers = 0);
+
+/// Calls back while the modal window that comes up next is open.
+void WhenModal(const std::function<void()>& act);
+
+/// Keeps a picture of the screen as <build>/screenshots/<name>.png.
+void Screenshot(const std::string& name);
+
+}  // namespace lv
