@@ -20,7 +20,7 @@ class QuestionBoxForm_ : public ::testing::Test {
 
     MemoryPlatform system;
     WxUser user{system.Disk};
-    Run run{system.Services, user};
+    lv::Run run{system.Services, user};
 };
 
 TEST_F(QuestionBoxForm_, EnterPressesTheDefaultButton) {

@@ -34,7 +34,7 @@ class LauncherTest : public ::testing::Test {
 
     MemoryPlatform system;
     ScriptedUser user;
-    Run run{system.Services, user};
+    lv::Run run{system.Services, user};
     Launcher launcher{run};
     LV_Frm& window = launcher.Window;
 };

@@ -1,0 +1,101 @@
+// bench/launch_bench.cpp
+//
+// From the click to the started process on the native road (limit 50 ms), and composing and writing all launch files
+// alone (limit 2 ms). On the real store and the real disk.
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "bench/limit.h"
+#include "foundation/settings.h"
+#include "launcher/launch_flow.h"
+#include "launcher/main_window_load.h"
+#include "platform/linux/linux_clock.h"
+#include "platform/linux/linux_files.h"
+#include "platform/linux/linux_processes.h"
+#include "platform/linux/sqlite_settings.h"
+#include "platform/memory/memory_platform.h"
+#include "video/profile_model.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Nobody is there: a question would be a fault of the benchmark.
+class NoUser : public lv::UserInterface {
+  public:
+    void ShowQuestionBox(lv::QuestionBox_Frm&) override { Questions = true; }
+    lv::Result<std::optional<lv::Text>> ChooseFile(const lv::FileRequest&) override { return std::optional<lv::Text>(); }
+    void Refresh() override {}
+    void PumpEvents() override {}
+    void EndProgram() override {}
+    int TextWidth(lv::TextView line) override { return static_cast<int>(line.size()); }
+    int TextHeight() override { return 1; }
+    lv::ScreenSize Screen() override { return {1024, 768}; }
+
+    bool Questions = false;
+};
+
+fs::path MakeDrive() {
+    const fs::path root = fs::path(LV_BINARY_DIR) / "bench_drive";
+    fs::remove_all(root);
+    fs::create_directories(root / "drives/c:/QUAKE/ID1");
+    std::ofstream(root / "drives/c:/QUAKE/ID1/my.cfg") << "echo\r\n";
+    fs::create_symlink("/bin/true", root / "drives/c:/QUAKE/GLQUAKE.EXE");
+    return root;
+}
+
+struct Fixture {
+    fs::path Root = MakeDrive();
+    std::unique_ptr<lv::SqliteSettings> Store =
+        std::move(lv::SqliteSettings::Open(Root / "settings.sqlite").Value);
+    lv::LinuxFiles Disk{{Root / "drives", Root / "wine", Root}};
+    lv::LinuxProcesses Programs{Disk};
+    lv::MemoryRegistry Registry;
+    lv::MemoryClipboard Clip;
+    lv::LinuxClock Time;
+    lv::Platform System{*Store, Registry, Disk, Programs, Clip, Time};
+    NoUser User;
+    lv::Run Run{System, User};
+    lv::Launcher Launcher{Run};
+
+    bool Load() {
+        lv::Save(Run, lv::kOptions, "Executables", "Quake;c:\\quake\\glquake.exe");
+        lv::Save(Run, lv::kOptions, "UseScripts", 1);
+        return lv::LV_Frm_Load(Launcher) && !User.Questions;
+    }
+};
+
+void RunClicks(benchmark::State& state, int button, double limitMs) {
+    Fixture fixture;
+    if (!fixture.Load()) {
+        state.SkipWithError("the launcher did not load");
+        return;
+    }
+    double seconds = 0;
+    for (auto _ : state) {
+        const double start = fixture.Time.Seconds();
+        lv::DoIt_Cmd_Click(fixture.Launcher, button);
+        const double took = fixture.Time.Seconds() - start;
+        state.SetIterationTime(took);
+        seconds += took;
+    }
+    if (fixture.User.Questions) {
+        state.SkipWithError("the launch asked something");
+        return;
+    }
+    lv::SetLimit(state, seconds * 1000 / static_cast<double>(state.iterations()), limitMs);
+}
+
+void BM_ClickToStartedProcess(benchmark::State& state) { RunClicks(state, 0, 50); }
+
+void BM_ComposeAndWriteLaunchFiles(benchmark::State& state) { RunClicks(state, 2, 2); }
+
+BENCHMARK(BM_ClickToStartedProcess)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(50);
+BENCHMARK(BM_ComposeAndWriteLaunchFiles)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(200);
+
+}  // namespace
+
+BENCHMARK_MAIN();

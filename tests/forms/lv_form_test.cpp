@@ -1,0 +1,176 @@
+#include "launcher/forms/lv_form.h"
+
+#include <gtest/gtest.h>
+#include <wx/bmpcbox.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/display.h>
+#include <wx/textctrl.h>
+
+#include <algorithm>
+#include <set>
+
+#include "foundation/settings.h"
+#include "launcher/lv_events.h"
+#include "launcher/main_window_load.h"
+#include "platform/memory/memory_platform.h"
+#include "tests/forms/form_driver.h"
+
+namespace lv {
+namespace {
+
+/// The real main window over a platform in memory.
+class LvForm_ : public ::testing::Test {
+  protected:
+    LvForm_() {
+        MemoryFiles& disk = system.Disk;
+        disk.AddFile("C:\\QUAKE\\GLQUAKE.EXE");
+        disk.AddFile("C:\\QUAKE\\ID1\\my.cfg");
+        disk.AddFile("C:\\QUAKE\\ID1\\maps\\start.bsp");
+        disk.AddFile("C:\\QUAKE\\CTF\\pak0.pak");
+        disk.AddFile("C:\\QUAKE2\\QUAKE2.EXE");
+        disk.AddDirectory("C:\\QUAKE2\\BASEQ2");
+        disk.AddFile("C:\\UNREAL\\SYSTEM\\UNREAL.EXE");
+        Save(run, kOptions, "Executables",
+             "Quake;C:\\QUAKE\\GLQUAKE.EXE;Quake 2;C:\\QUAKE2\\QUAKE2.EXE;Unreal;C:\\UNREAL\\SYSTEM\\UNREAL.EXE");
+        Save(run, kOptions, "UseDemos", 0);
+        Save(run, kOptions, "UseScripts", 1);
+        EXPECT_TRUE(LV_Frm_Load(launcher));
+        launcher.Window.Visible = true;
+        form = new LvForm(launcher, user);
+        form->Show();
+        form->Raise();
+        SettleUntil([this] { return form->IsActive(); });
+        Settle();
+    }
+    ~LvForm_() override {
+        form->Destroy();
+        Settle();
+    }
+
+    void PickExe(int row) {
+        launcher.Window.Exe_Cbo.ListIndex = row;
+        Exe_Cbo_Click(launcher);
+        user.Refresh();
+        Settle();
+    }
+
+    MemoryPlatform system;
+    WxUser user{system.Disk};
+    lv::Run run{system.Services, user};
+    Launcher launcher{run};
+    LvForm* form = nullptr;
+};
+
+TEST_F(LvForm_, F2Launches) {
+    PressKey(WXK_F2);
+    EXPECT_TRUE(SettleUntil([this] { return !system.Programs.Started.empty(); }));
+    EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"c:\\quake\\lv_666.bat"}));
+}
+
+TEST_F(LvForm_, TheLaunchButtonLaunches) {
+    ClickOn(Find("DoIt_Cmd(0)"));
+    EXPECT_EQ(system.Programs.Started.size(), 1u);
+}
+
+TEST_F(LvForm_, CreateOnlyWritesTheFiles) {
+    ClickOn(Find("DoIt_Cmd(2)"));
+    EXPECT_TRUE(system.Disk.FileExists("C:\\QUAKE\\lv_666.bat"));
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+TEST_F(LvForm_, ViewShowsTheFiles) {
+    WhenModal([] {
+        Screenshot("viewing_commands");
+        ClickOn(Find("Button_Cmd(0)"));
+    });
+    ClickOn(Find("DoIt_Cmd(1)"));
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+TEST_F(LvForm_, AClickOnABoxReachesTheStore) {
+    ClickOn(Find("NOCDAUDIO_Chk"));
+    EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "NoCDAudio"), "1");
+}
+
+TEST_F(LvForm_, WhatABoxExcludesIsClearedOnTheScreen) {
+    ClickOn(Find("Listen_Chk"));
+    EXPECT_TRUE(FindAs<wxCheckBox>("Listen_Chk")->IsChecked());
+    ClickOn(Find("Dedicated_Chk"));
+    EXPECT_FALSE(FindAs<wxCheckBox>("Listen_Chk")->IsChecked());
+    EXPECT_TRUE(FindAs<wxCheckBox>("Dedicated_Chk")->IsChecked());
+}
+
+TEST_F(LvForm_, TypedAdditionsReachTheStore) {
+    ClickOn(Find("CommandLineAdditions_Txt"));
+    PressKey('q');
+    PressKey('1');
+    EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "CustomCommandLineText"), "q1");
+}
+
+TEST_F(LvForm_, ListsShowTitlesAndHideTheValuesBehindThem) {
+    EXPECT_EQ(FindAs<wxChoice>("Mem_Cbo")->GetStringSelection(), "16 megabytes");
+    EXPECT_EQ(FindAs<wxBitmapComboBox>("Exe_Cbo")->GetString(0), "Quake");
+    EXPECT_EQ(FindAs<wxChoice>("Script_Cbo")->GetStringSelection(), "my.cfg");
+}
+
+TEST_F(LvForm_, TheKeyboardPicksAnotherGame) {
+    Find("Exe_Cbo")->SetFocus();
+    PressKey(WXK_DOWN);
+    PressKey(WXK_DOWN);
+    PressKey(WXK_RETURN);
+    EXPECT_TRUE(SettleUntil([this] { return run.GameKind == 3; }));
+}
+
+TEST_F(LvForm_, UnrealShowsItsOwnOptions) {
+    EXPECT_FALSE(Find("UnrealNoDirectSound_Chk")->IsShown());
+    PickExe(2);
+    EXPECT_TRUE(Find("UnrealNoDirectSound_Chk")->IsShownOnScreen());
+    EXPECT_FALSE(Find("Bench_Chk")->IsShown());
+    EXPECT_FALSE(Find("Mem_Cbo")->IsShownOnScreen());
+    EXPECT_FALSE(Find("Game_Cbo")->IsEnabled());
+    Screenshot("main_window_unreal");
+    PickExe(0);
+    EXPECT_TRUE(Find("Mem_Cbo")->IsShownOnScreen());
+    EXPECT_TRUE(Find("Bench_Chk")->IsShownOnScreen());
+}
+
+TEST_F(LvForm_, NothingIsCutOff) {
+    Screenshot("main_window");
+    const wxSize screen = wxDisplay(form).GetClientArea().GetSize();
+    EXPECT_LE(form->GetSize().x, screen.x);
+    EXPECT_LE(form->GetSize().y, screen.y);
+    const wxRect inside = form->GetScreenRect();
+    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
+        const wxWindow* box = Find(option->Name);
+        if (box->IsShownOnScreen()) {
+            EXPECT_TRUE(inside.Contains(box->GetScreenRect())) << option->Name;
+            EXPECT_GE(box->GetSize().x, box->GetBestSize().x) << option->Name;
+        }
+    }
+    for (const char* button : {"DoIt_Cmd(0)", "DoIt_Cmd(1)", "DoIt_Cmd(2)"}) {
+        EXPECT_GE(Find(button)->GetSize().x, Find(button)->GetBestSize().x) << button;
+    }
+}
+
+TEST_F(LvForm_, EveryControlIsReachedByTheTabKey) {
+    std::set<wxWindow*> reached;
+    Find("Exe_Cbo")->SetFocus();
+    for (int i = 0; i < 60; ++i) {
+        if (wxWindow* focus = wxWindow::FindFocus()) {
+            reached.insert(focus);
+        }
+        PressKey(WXK_TAB);
+    }
+    for (const char* name : {"Game_Cbo", "Script_Cbo", "VideoProfiles_Cbo", "Mem_Cbo", "Server_Cbo", "Map_Cbo",
+                             "DoIt_Cmd(0)", "DoIt_Cmd(1)", "DoIt_Cmd(2)", "NOLAN_Chk", "CommandLineAdditions_Txt"}) {
+        wxWindow* control = Find(name);
+        const bool found = std::any_of(reached.begin(), reached.end(), [&](const wxWindow* one) {
+            return one == control || one->GetParent() == control;
+        });
+        EXPECT_TRUE(found) << name;
+    }
+}
+
+}  // namespace
+}  // namespace lv
