@@ -22,7 +22,7 @@ LaunchTexts ScriptsOf(TextView quake, TextView quake2) {
     return texts;
 }
 
-/// The launch of the worked examples: a script, 16 megabytes, 640 across, Glide and OpenGL settings.
+/// A launch that uses a bit of everything: a script, 16 megabytes, 640 across, Glide and OpenGL settings.
 LaunchInput Example(LaunchInput input, TextView scriptPath) {
     input.Selected.Script_Chk = true;
     input.Selected.Script = scriptPath;
