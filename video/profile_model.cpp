@@ -138,9 +138,10 @@ ProfileSnapshot ReadProfile(Run& run) {
     ProfileSnapshot profile;
     for (std::size_t i = 0; i < kProfileTunables; ++i) {
         const ProfileTunable& tunable = ProfileTunables()[i];
-        profile.Tunables[i] = {ReadIndex(run, tunable.Stem, tunable.DefaultFlag),
-                               ReadIndex(run, tunable.SettingKey, tunable.DefaultIndex),
-                               ReadText(run, tunable.ContentKey())};
+        const Index setting = ReadIndex(run, tunable.SettingKey, tunable.DefaultIndex);
+        // A fresh profile has no keys: its indexes speak for it, so that its clock is 90 and not nothing.
+        profile.Tunables[i] = {ReadIndex(run, tunable.Stem, tunable.DefaultFlag), setting,
+                               ReadText(run, tunable.ContentKey(), tunable.Item(setting))};
     }
     for (std::size_t i = 0; i < kProfileFlags; ++i) {
         profile.Flags[i] = ReadIndex(run, ProfileFlags()[i].Key, ProfileFlags()[i].Default);
