@@ -14,6 +14,8 @@ namespace lv {
 constexpr TextView kOptions = "Options";  // the section of the program's own settings and of the Base profile
 
 struct Run {
+    Run(Platform& system, UserInterface& user) : System(system), User(user) {}
+
     Platform& System;
     UserInterface& User;
 
