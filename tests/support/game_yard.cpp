@@ -54,7 +54,7 @@ GameYard::GameYard(const std::string& name)
     Disk.AddDrive('C', Drive);
     Places.Cache = Root / "cache";
     Places.WinePrefix = Root / "wine";
-    Places.PauseHelper = std::filesystem::path(LV_TEST_BINARY_DIR) / "app" / "lorvane3d-pause";
+    Places.PauseHelper = std::filesystem::path(LV_TEST_BINARY_DIR) / "lorvane3d-pause";
 }
 
 std::filesystem::path GameYard::AddGame(const std::string& standIn, const std::string& file) {
