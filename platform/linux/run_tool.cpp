@@ -38,6 +38,7 @@ std::vector<std::string> EnvironmentWith(const std::vector<std::string>& over) {
 // The list that the system's call takes; it points into `texts`.
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts) {
         pointers.push_back(text.data());
     }
@@ -133,7 +134,7 @@ fs::path ProgramOnPath(std::string_view name) {
     std::string_view left = path != nullptr ? path : "/usr/local/bin:/usr/bin:/bin";
     while (!left.empty()) {
         const std::size_t end = std::min(left.find(':'), left.size());
-        const fs::path candidate = fs::path(left.substr(0, end)) / name;
+        fs::path candidate = fs::path(left.substr(0, end)) / name;
         left.remove_prefix(std::min(end + 1, left.size()));
         std::error_code failed;
         if (candidate.is_absolute() && fs::is_regular_file(candidate, failed) && access(candidate.c_str(), X_OK) == 0) {

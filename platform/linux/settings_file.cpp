@@ -226,7 +226,7 @@ Result<Layout> ReadLayout(sqlite3* database, const fs::path& file) {
 Error CheckLayout(sqlite3* database, const fs::path& file) {
     Result<Layout> read = ReadLayout(database, file);
     if (read.Ok() && read.Value.Version == "0" && read.Value.Tables == "0") {
-        if (const Error failed = MakeTable(database, file)) {
+        if (Error failed = MakeTable(database, file)) {
             return failed;
         }
         read = ReadLayout(database, file);
@@ -270,10 +270,10 @@ Error FaultOf(sqlite3* database) {
 }
 
 Result<Database> OpenSettingsFile(const fs::path& file) {
-    if (const Error refused = CheckPlace(file)) {
+    if (Error refused = CheckPlace(file)) {
         return refused;
     }
-    if (const Error refused = CheckHead(file)) {
+    if (Error refused = CheckHead(file)) {
         return refused;
     }
     sqlite3* opened = nullptr;
@@ -285,7 +285,7 @@ Result<Database> OpenSettingsFile(const fs::path& file) {
     sqlite3_busy_timeout(opened, kPatience);
     // Until it is known to be a store, closing it must not move another program's log into it.
     sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-    if (const Error refused = CheckLayout(opened, file)) {
+    if (Error refused = CheckLayout(opened, file)) {
         return refused;
     }
     if (sqlite3_db_readonly(opened, "main") != 0) {

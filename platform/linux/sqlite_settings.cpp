@@ -11,11 +11,15 @@ namespace lv {
 
 namespace {
 
+constexpr const char* kUpsertSql =
+    "INSERT INTO setting(application, section, key, value) VALUES(?1, ?2, ?3, ?4) "
+    "ON CONFLICT(application, section, key) DO UPDATE SET value = excluded.value";
+
+// In the order of SqliteSettings::Statement.
 constexpr const char* kSql[] = {
     "SELECT application, section, key, value FROM setting WHERE application = ?1 AND section = ?2 AND key = ?3",
     "SELECT application, section, key, value FROM setting",
-    "INSERT INTO setting(application, section, key, value) VALUES(?1, ?2, ?3, ?4) "
-    "ON CONFLICT(application, section, key) DO UPDATE SET value = excluded.value",
+    kUpsertSql,
     "BEGIN IMMEDIATE",
     "COMMIT",
     "ROLLBACK",
@@ -156,7 +160,7 @@ Error SqliteSettings::Store(const Names& names, std::string_view value) {
 }
 
 Error SqliteSettings::StoreInTransaction(const Names& names, std::string_view value) {
-    if (const Error failed = Do(kBegin)) {
+    if (Error failed = Do(kBegin)) {
         return failed;
     }
     Error failed = Store(names, value);

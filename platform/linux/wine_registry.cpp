@@ -179,7 +179,7 @@ Error WineRegistry::Import(std::string_view bytes) {
     if (directory.Path().empty()) {
         return MakeError(error::kPathFileAccess);
     }
-    if (const Error failed = ReplaceHostFile((directory.Path() / kFileName).string(), 0600, fill)) {
+    if (Error failed = ReplaceHostFile((directory.Path() / kFileName).string(), 0600, fill)) {
         return failed;
     }
     const Result<int> status = RunReg(directory.Path(), {"reg", "import", kFileName});

@@ -58,6 +58,14 @@ TEST(MakeFirstDrives, TellsWhatItCannotMake) {
     EXPECT_EQ(BytesOf(home.Data), "a file");
 }
 
+TEST(MakeFirstDrives, TellsOfAFileInPlaceOfTheDrives) {
+    const Home home;
+    fs::create_directories(home.Data);
+    WriteBytes(home.Data / "drives", "a file");
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 76);
+    EXPECT_EQ(BytesOf(home.Data / "drives"), "a file");
+}
+
 TEST(DriveEntry, LooksInTheWinePrefixForALetterThatIsMissing) {
     const Home home;
     fs::create_directories(home.Data / "drives/d:");
