@@ -147,17 +147,18 @@ bool ViewOrGoOn(Click& click) {
     Run& run = click.run;
     int answer = 0;
     click.Texts.LaunchStep = 470;
+    Text text;
     if (click.Mode == LaunchMode::View) {
-        const Text text =
+        text =
             Join("AppDir = ", run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
                  NewLine, "Script File = ", NewLine, click.Game.GameKind == 4 ? Text() : click.Script);
         answer = AskUser(run, "Viewing Commands", text, "&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!");
-        click.Texts.LaunchStep = 480;
-        if (answer == 1) {
-            if (const Error failed = run.System.Clip.SetText(text)) {
-                ReportError(click, failed);
-                return false;
-            }
+    }
+    click.Texts.LaunchStep = 480;
+    if (answer == 1) {
+        if (const Error failed = run.System.Clip.SetText(text)) {
+            ReportError(click, failed);
+            return false;
         }
     }
     return click.Mode == LaunchMode::Launch || answer == 2;
