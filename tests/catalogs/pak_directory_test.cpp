@@ -54,6 +54,16 @@ TEST(PakMapNames, WantTheMapsDirectory) {
     EXPECT_EQ(MapsOf(PakFile({"foo.bsp", "foo.bsp/maps/"})), TextList{});
 }
 
+TEST(MapNameOfEntry, IsNothingWhenTheExtensionComesFirst) {
+    EXPECT_FALSE(MapNameOfEntry("foo.bsp/maps/x"));
+    EXPECT_FALSE(MapNameOfEntry("foo.bsp/maps/x.bsp"));
+}
+
+TEST(MapNameOfEntry, LooksAtTheNumbersBehindThePathToo) {
+    // The path fills its 56 bytes, and the offset of the data happens to spell the extension.
+    EXPECT_EQ(MapNameOfEntry("maps/" + Text(51, 'x') + ".bsp" + LittleEndian(4)), Text(51, 'x'));
+}
+
 TEST(PakMapNames, KeepASubdirectory) {
     EXPECT_EQ(MapsOf(PakFile({"maps/dm/one.bsp"})), (TextList{"dm/one"}));
 }
