@@ -20,14 +20,14 @@ struct Run {
     UserInterface& User;
 
     Text AppName = "Lorvane 3D";
-    Text AppDirectory;
+    Text AppDirectory{};
 
     // Set by the change of game.
     Index GameKind = 0;  // 0 none, 1 Quake, 2 Hexen II, 3 Quake II, 4 Unreal, 5 Sin, 6 Heretic II, 9 Half-Life
     Index ScriptFamily = 0;
-    Text DefaultGameDirectory;  // no trailing "\"
-    Text BaseGameDir;
-    Text CurrentGameDir;
+    Text DefaultGameDirectory{};  // no trailing "\"
+    Text BaseGameDir{};
+    Text CurrentGameDir{};
     bool IsQuakeWorld = false;
     bool IsHexenWorld = false;
     bool IsMissionPack = false;
