@@ -43,8 +43,8 @@ void TellThatTheStoreFails(const Error& failed) {
     LinuxFiles files({DataDirectory() / "drives", WinePrefix(), ProgramFileDirectory()});
     WxUser user(files);
     QuestionBox_Frm box = MakeQuestionBox(
-        "Lorvane 3D",
-        Join(failed.Text, NewLine, NewLine, "Error Number = ", std::to_string(failed.Number)), "&OK", 0, 4);
+        "Lorvane 3D", Join(failed.Text, NewLine, NewLine, "Error Number = ", std::to_string(failed.Number)), "&OK", 0,
+        4);
     LayOutQuestionBox(box, user);
     user.ShowQuestionBox(box);
 }

@@ -27,7 +27,9 @@ namespace fs = std::filesystem;
 class NoUser : public lv::UserInterface {
   public:
     void ShowQuestionBox(lv::QuestionBox_Frm&) override { Questions = true; }
-    lv::Result<std::optional<lv::Text>> ChooseFile(const lv::FileRequest&) override { return std::optional<lv::Text>(); }
+    lv::Result<std::optional<lv::Text>> ChooseFile(const lv::FileRequest&) override {
+        return std::optional<lv::Text>();
+    }
     void Refresh() override {}
     void PumpEvents() override {}
     void EndProgram() override {}
@@ -49,8 +51,7 @@ fs::path MakeDrive() {
 
 struct Fixture {
     fs::path Root = MakeDrive();
-    std::unique_ptr<lv::SqliteSettings> Store =
-        std::move(lv::SqliteSettings::Open(Root / "settings.sqlite").Value);
+    std::unique_ptr<lv::SqliteSettings> Store = std::move(lv::SqliteSettings::Open(Root / "settings.sqlite").Value);
     lv::LinuxFiles Disk{{Root / "drives", Root / "wine", Root}};
     lv::LinuxProcesses Programs{Disk};
     lv::MemoryRegistry Registry;
@@ -89,9 +90,13 @@ void RunClicks(benchmark::State& state, int button, double limitMs) {
     lv::SetLimit(state, seconds * 1000 / static_cast<double>(state.iterations()), limitMs);
 }
 
-void BM_ClickToStartedProcess(benchmark::State& state) { RunClicks(state, 0, 50); }
+void BM_ClickToStartedProcess(benchmark::State& state) {
+    RunClicks(state, 0, 50);
+}
 
-void BM_ComposeAndWriteLaunchFiles(benchmark::State& state) { RunClicks(state, 2, 2); }
+void BM_ComposeAndWriteLaunchFiles(benchmark::State& state) {
+    RunClicks(state, 2, 2);
+}
 
 BENCHMARK(BM_ClickToStartedProcess)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(50);
 BENCHMARK(BM_ComposeAndWriteLaunchFiles)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(200);

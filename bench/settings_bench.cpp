@@ -19,7 +19,9 @@ std::unique_ptr<lv::SqliteSettings> FreshStore() {
     return std::move(lv::SqliteSettings::Open(folder / "settings.sqlite").Value);
 }
 
-std::string KeyOf(int number) { return "key " + std::to_string(number); }
+std::string KeyOf(int number) {
+    return "key " + std::to_string(number);
+}
 
 void BM_WriteDurably(benchmark::State& state) {
     for (auto _ : state) {

@@ -12,7 +12,9 @@ namespace {
 constexpr double kMostOfScreen = 0.8;
 
 /// The captions as the user sees them, without the mark of the access key.
-Text Shown(TextView caption) { return ReplaceText(caption, "&", ""); }
+Text Shown(TextView caption) {
+    return ReplaceText(caption, "&", "");
+}
 
 struct Measure {
     int Width = 0;
@@ -100,7 +102,9 @@ void QuestionBox_Button_Cmd_Click(QuestionBox_Frm& box, int index) {
     }
 }
 
-void QuestionBox_Question_Txt_Change(QuestionBox_Frm& box, TextBox& shown) { shown.Text = box.Question_Txt.Text; }
+void QuestionBox_Question_Txt_Change(QuestionBox_Frm& box, TextBox& shown) {
+    shown.Text = box.Question_Txt.Text;
+}
 
 Index AskUser(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon) {
     return Ask(run, title, text, buttons, defaultButton, icon, false);

@@ -40,17 +40,17 @@ bool SaveChecked(Run& run, Text& application, TextView section, TextView key, Te
     const Text reason = FaultOf(section, key, value);
     if (!reason.empty()) {
         Text title;
-        AskUser(run, title,
-                Join(reason, NewLine, "Regisrty alteration did not occure.", NewLine,
-                     "Please contact technical support.", NewLine, NewLine, application, "\\/\\", section, "\\/\\",
-                     key, "\\/\\", "\\/\\", value, NewLine));
+        AskUser(
+            run, title,
+            Join(reason, NewLine, "Regisrty alteration did not occure.", NewLine, "Please contact technical support.",
+                 NewLine, NewLine, application, "\\/\\", section, "\\/\\", key, "\\/\\", "\\/\\", value, NewLine));
         return false;
     }
     if (const Error failed = run.System.Settings.Write(application, section, key, value)) {
         Text title = run.AppName;
         AskUser(run, title,
-                Join("This setting could not be saved; the old one is still there.", NewLine, NewLine, section,
-                     "\\/\\", key, NewLine, "Error Number = ", std::to_string(failed.Number), NewLine,
+                Join("This setting could not be saved; the old one is still there.", NewLine, NewLine, section, "\\/\\",
+                     key, NewLine, "Error Number = ", std::to_string(failed.Number), NewLine,
                      "Error String = ", failed.Text));
         return false;
     }
@@ -81,7 +81,9 @@ RegValue RegQueryOpen(Run& run, const RegKey& key, TextView name) {
     return {};
 }
 
-RegValue RegQueryPath(Run& run, TextView path, TextView name) { return RegQueryOpen(run, {Text(path)}, name); }
+RegValue RegQueryPath(Run& run, TextView path, TextView name) {
+    return RegQueryOpen(run, {Text(path)}, name);
+}
 
 Error RegWriteOpen(Run& run, const RegKey& key, TextView name, const RegValue& value) {
     return run.System.Registry.Set(key.Path, name, {value.Type, value.String, value.Number});

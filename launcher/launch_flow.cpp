@@ -32,7 +32,9 @@ struct Click {
     Text FailureFile;
 };
 
-void Tell(Run& run, TextView text) { AskUser(run, "", text); }
+void Tell(Run& run, TextView text) {
+    AskUser(run, "", text);
+}
 
 Text FiveDigits(int number) {
     Text digits = std::to_string(number);
@@ -149,9 +151,8 @@ bool ViewOrGoOn(Click& click) {
     click.Texts.LaunchStep = 470;
     Text text;
     if (click.Mode == LaunchMode::View) {
-        text =
-            Join("AppDir = ", run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
-                 NewLine, "Script File = ", NewLine, click.Game.GameKind == 4 ? Text() : click.Script);
+        text = Join("AppDir = ", run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
+                    NewLine, "Script File = ", NewLine, click.Game.GameKind == 4 ? Text() : click.Script);
         answer = AskUser(run, "Viewing Commands", text, "&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!");
     }
     click.Texts.LaunchStep = 480;
@@ -199,8 +200,8 @@ void ShowWindow(Launcher& launcher) {
 
 void StartGame(Click& click) {
     Run& run = click.run;
-    Save(run, "LV-Stuff", "LaunchCount", TextView(std::to_string(
-             ToLong(GetSetting(run, run.AppName, "LV-Stuff", "LaunchCount", "0")) + 1)));
+    Save(run, "LV-Stuff", "LaunchCount",
+         TextView(std::to_string(ToLong(GetSetting(run, run.AppName, "LV-Stuff", "LaunchCount", "0")) + 1)));
     if (run.DefaultGameDirectory.empty()) {
         Tell(run, "DefaultGameDirectory not set - cannot launch");
         return;
@@ -273,14 +274,27 @@ LaunchSelection SelectionOf(const LV_Frm& window) {
 
 LaunchGame GameOf(Run& run) {
     const Index card = ReadVidCard(run);
-    return {run.GameKind,       run.ScriptFamily,    run.DefaultGameDirectory, run.CurrentGameDir,
-            run.UsesAccelerator, CardClassOf(card), card};
+    return {run.GameKind,
+            run.ScriptFamily,
+            run.DefaultGameDirectory,
+            run.CurrentGameDir,
+            run.UsesAccelerator,
+            CardClassOf(card),
+            card};
 }
 
 void DoIt_Cmd_Click(Launcher& launcher, int index) {
     Run& run = launcher.run;
-    Click click{launcher, run, static_cast<LaunchMode>(index), ReadProfile(run), SelectionOf(launcher.Window),
-                GameOf(run), {}, {}, {}, {}};
+    Click click{launcher,
+                run,
+                static_cast<LaunchMode>(index),
+                ReadProfile(run),
+                SelectionOf(launcher.Window),
+                GameOf(run),
+                {},
+                {},
+                {},
+                {}};
     if (ExecutableIsThere(click) && Compose(click) && WriteScript(click) && WriteBatch(click) && ViewOrGoOn(click)) {
         StartGame(click);
     }

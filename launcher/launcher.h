@@ -17,11 +17,22 @@ struct Launcher {
 
     Run& run;
     LV_Frm Window;
-    CatalogLists Lists{Window.Exe_Cbo, Window.Game_Cbo, Window.Game_Chk, Window.Script_Cbo, Window.Script_Chk,
-                       Window.Server_Cbo, Window.Server_Chk, Window.Demo_Cbo, Window.Mem_Cbo, Window.Map_Cbo,
-                       {}, {}, {}, {}};
+    CatalogLists Lists{Window.Exe_Cbo,
+                       Window.Game_Cbo,
+                       Window.Game_Chk,
+                       Window.Script_Cbo,
+                       Window.Script_Chk,
+                       Window.Server_Cbo,
+                       Window.Server_Chk,
+                       Window.Demo_Cbo,
+                       Window.Mem_Cbo,
+                       Window.Map_Cbo,
+                       {},
+                       {},
+                       {},
+                       {}};
 
-    bool ClearingGameChk = false;  // Game_Chk clears itself: its own click does nothing meanwhile
+    bool ClearingGameChk = false;     // Game_Chk clears itself: its own click does nothing meanwhile
     bool ProfileChangeQuiet = false;  // the profile list is being filled: its click does nothing
 };
 

@@ -13,7 +13,9 @@ namespace lv {
 
 namespace {
 
-void Tell(Launcher& launcher, TextView text) { AskUser(launcher.run, "", text); }
+void Tell(Launcher& launcher, TextView text) {
+    AskUser(launcher.run, "", text);
+}
 
 void Game_Chk_Click(Launcher& launcher) {
     LV_Frm& window = launcher.Window;
@@ -172,11 +174,17 @@ void Script_Cbo_Click(Launcher& launcher) {
     Save(run, "DefaultScript", DefaultScriptKey(run), DropLeft(launcher.Window.Script_Cbo.Selected(), NameFieldWidth));
 }
 
-void Mem_Cbo_Click(Launcher& launcher) { SavePosition(launcher, "MemoryPos", launcher.Window.Mem_Cbo); }
+void Mem_Cbo_Click(Launcher& launcher) {
+    SavePosition(launcher, "MemoryPos", launcher.Window.Mem_Cbo);
+}
 
-void Demo_Cbo_Click(Launcher& launcher) { SavePosition(launcher, "DemoPos", launcher.Window.Demo_Cbo); }
+void Demo_Cbo_Click(Launcher& launcher) {
+    SavePosition(launcher, "DemoPos", launcher.Window.Demo_Cbo);
+}
 
-void Server_Cbo_Click(Launcher& launcher) { SavePosition(launcher, "ServerPos", launcher.Window.Server_Cbo); }
+void Server_Cbo_Click(Launcher& launcher) {
+    SavePosition(launcher, "ServerPos", launcher.Window.Server_Cbo);
+}
 
 void VideoProfiles_Cbo_Click(Launcher& launcher) {
     if (launcher.ProfileChangeQuiet || !launcher.Window.VideoProfiles_Cbo.HasSelection()) {

@@ -78,9 +78,13 @@ LV_Frm::LV_Frm() {
     ShowLorvane_Bar.Caption = "&Hide Lorvane 3D";
 }
 
-const OptionBox* OptionBoxesBegin() { return std::begin(kOptionBoxes); }
+const OptionBox* OptionBoxesBegin() {
+    return std::begin(kOptionBoxes);
+}
 
-const OptionBox* OptionBoxesEnd() { return std::end(kOptionBoxes); }
+const OptionBox* OptionBoxesEnd() {
+    return std::end(kOptionBoxes);
+}
 
 const OptionBox& OptionBoxOf(CheckBox LV_Frm::*box) {
     return *std::find_if(OptionBoxesBegin(), OptionBoxesEnd(), [box](const OptionBox& row) { return row.Box == box; });

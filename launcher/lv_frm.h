@@ -66,7 +66,7 @@ struct LV_Frm {
     CommandButton VideoProfileEdit_Cmd;
     std::array<CommandButton, 3> DoIt_Cmd;
 
-    CommandButton Mem_Bar;           // the memory menu, out of use where a game manages its own memory
+    CommandButton Mem_Bar;          // the memory menu, out of use where a game manages its own memory
     CommandButton ShowLorvane_Bar;  // "&Hide Lorvane 3D" or "&Show Lorvane 3D"
 };
 

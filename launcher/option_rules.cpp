@@ -51,9 +51,13 @@ void ClearAndDisable(CheckBox& box) {
     box.Enabled = false;
 }
 
-void Grey(CheckBox& box) { box.Value = box.Value == 1 ? 2 : box.Value; }
+void Grey(CheckBox& box) {
+    box.Value = box.Value == 1 ? 2 : box.Value;
+}
 
-void Ungrey(CheckBox& box) { box.Value = box.Value == 2 ? 1 : box.Value; }
+void Ungrey(CheckBox& box) {
+    box.Value = box.Value == 2 ? 1 : box.Value;
+}
 
 void Place(LV_Frm& window, const RightColumn& column) {
     window.Server_Pan.Top = column.ServerTop;
@@ -64,8 +68,8 @@ void Place(LV_Frm& window, const RightColumn& column) {
 
 void ApplyWorldClient(LV_Frm& window, bool worldClient) {
     window.Demo_Pan.Enabled = !worldClient;
-    for (const Box box : {&LV_Frm::Listen_Chk, &LV_Frm::Dedicated_Chk, &LV_Frm::Bench_Chk, &LV_Frm::Game_Chk,
-                          &LV_Frm::Map_Chk}) {
+    for (const Box box :
+         {&LV_Frm::Listen_Chk, &LV_Frm::Dedicated_Chk, &LV_Frm::Bench_Chk, &LV_Frm::Game_Chk, &LV_Frm::Map_Chk}) {
         (window.*box).Enabled = !worldClient;
     }
     if (worldClient) {

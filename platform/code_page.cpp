@@ -39,7 +39,10 @@ Decoded DecodeOne(std::string_view text, std::size_t at) {
     if (lead < 0x80) {
         return {lead, 1};
     }
-    const std::size_t length = lead >= 0xF0 && lead < 0xF5 ? 4 : lead >= 0xE0 && lead < 0xF0 ? 3 : lead >= 0xC2 && lead < 0xE0 ? 2 : 0;
+    const std::size_t length = lead >= 0xF0 && lead < 0xF5   ? 4
+                               : lead >= 0xE0 && lead < 0xF0 ? 3
+                               : lead >= 0xC2 && lead < 0xE0 ? 2
+                                                             : 0;
     if (length == 0 || at + length > text.size()) {
         return {};
     }

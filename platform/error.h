@@ -43,8 +43,8 @@ struct Result {
     Error Fault;
 
     Result() = default;
-    Result(T value) : Value(std::move(value)) {}        // NOLINT: a value is a result
-    Result(Error fault) : Fault(std::move(fault)) {}    // NOLINT: so is an error
+    Result(T value) : Value(std::move(value)) {}      // NOLINT: a value is a result
+    Result(Error fault) : Fault(std::move(fault)) {}  // NOLINT: so is an error
     [[nodiscard]] bool Ok() const { return Fault.Number == 0; }
 };
 

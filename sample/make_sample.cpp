@@ -75,8 +75,7 @@ void MakeQuake(const fs::path& quake) {
                                         "bind mouse1 +attack",
                                         "setup_done",
                                     }));
-    Write(quake / "id1/night.cfg", Lines({"// Another script to choose.", "echo The night shift begins.",
-                                          "skill 3"}));
+    Write(quake / "id1/night.cfg", Lines({"// Another script to choose.", "echo The night shift begins.", "skill 3"}));
     Write(quake / "arena/pak0.pak", MakePak({{"maps/arena1.bsp", "a map in name only"}}));
     Write(quake / "arena/player.cfg", Lines({"echo Into the arena."}));
     fs::create_symlink(kQuakeEngine, quake / "glquake.exe");

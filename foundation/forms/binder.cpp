@@ -124,7 +124,9 @@ void Binder::Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, H
     Add(name, model, view, [&model, view, shown = std::vector<Text>()]() mutable {
         if (!SameRows(model, shown)) {
             shown.clear();
-            view->Clear();
+            while (view->GetCount() > 0) {
+                view->Delete(view->GetCount() - 1);
+            }
             for (const ImageComboItem& item : model.Items) {
                 shown.push_back(item.Title);
                 shown.push_back(item.Image);

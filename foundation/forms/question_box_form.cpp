@@ -20,7 +20,9 @@ constexpr int kIconHeight = 32;
 // The toolkit's own margins inside a text field, so that a text that was measured to fit does fit.
 constexpr int kTextMargin = 24;
 
-wxString IconName(int index) { return wxString::Format("icons/question/%02d", index); }
+wxString IconName(int index) {
+    return wxString::Format("icons/question/%02d", index);
+}
 
 }  // namespace
 

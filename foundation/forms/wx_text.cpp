@@ -15,6 +15,8 @@ Text FromWx(const wxString& text) {
     return FromUtf8Lossy({utf8.data(), utf8.length()});
 }
 
-wxString ShownItem(TextView item) { return ToWx(Trim(item.substr(0, NameFieldWidth))); }
+wxString ShownItem(TextView item) {
+    return ToWx(Trim(item.substr(0, NameFieldWidth)));
+}
 
 }  // namespace lv

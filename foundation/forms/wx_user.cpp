@@ -71,9 +71,13 @@ void WxUser::EndProgram() {
     }
 }
 
-int WxUser::TextWidth(TextView line) { return Measure(ToWx(line)).GetWidth(); }
+int WxUser::TextWidth(TextView line) {
+    return Measure(ToWx(line)).GetWidth();
+}
 
-int WxUser::TextHeight() { return Measure("Wg").GetHeight(); }
+int WxUser::TextHeight() {
+    return Measure("Wg").GetHeight();
+}
 
 ScreenSize WxUser::Screen() {
     const wxSize size = wxDisplay(static_cast<unsigned>(0)).GetClientArea().GetSize();

@@ -22,7 +22,9 @@ namespace {
 constexpr int kGap = 6;
 constexpr int kColumnWidth = 330;  // at 100 %
 
-wxSizerFlags Row() { return wxSizerFlags().Expand().Border(wxALL, kGap / 2); }
+wxSizerFlags Row() {
+    return wxSizerFlags().Expand().Border(wxALL, kGap / 2);
+}
 
 }  // namespace
 
@@ -34,8 +36,9 @@ LvForm::LvForm(Launcher& launcher, WxUser& user)
       binder_([&user] { user.Refresh(); }) {
     SetName("LV_Frm");
     SetIcons(ProgramIcon());
-    content_ = new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                                    wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
+    content_ =
+        new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
+    content_->ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_NEVER);
     MakePanels(content_);
     MakeKeys();
     user_.SetActiveForm(this);
@@ -78,7 +81,8 @@ void LvForm::ShowState() {
 void LvForm::MakePanels(wxWindow* parent) {
     auto* columns = new wxBoxSizer(wxHORIZONTAL);
     auto* left = new wxBoxSizer(wxVERTICAL);
-    for (wxSizer* panel : {MakeExePanel(parent), MakeModPanel(parent), MakeScriptPanel(parent), MakeVideoPanel(parent)}) {
+    for (wxSizer* panel :
+         {MakeExePanel(parent), MakeModPanel(parent), MakeScriptPanel(parent), MakeVideoPanel(parent)}) {
         left->Add(panel, Row());
     }
     left->AddStretchSpacer();
@@ -136,8 +140,8 @@ wxSizer* LvForm::MakeTickedList(wxWindow* parent, CheckBox LV_Frm::*box, wxWindo
 
 wxSizer* LvForm::MakeExePanel(wxWindow* parent) {
     wxStaticBoxSizer* panel = MakePanel(parent, "Exe_Pan", &LV_Frm::Exe_Pan);
-    auto* list = new wxBitmapComboBox(panel->GetStaticBox(), wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0,
-                                      nullptr, wxCB_READONLY);
+    auto* list = new wxBitmapComboBox(panel->GetStaticBox(), wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, nullptr,
+                                      wxCB_READONLY);
     list->SetHelpText("Game executable");
     list->SetMinSize(FromDIP(wxSize(200, 36)));
     binder_.Bind("Exe_Cbo", launcher_.Window.Exe_Cbo, list, [this] { Exe_Cbo_Click(launcher_); });
@@ -174,9 +178,9 @@ wxSizer* LvForm::MakeVideoPanel(wxWindow* parent) {
 wxSizer* LvForm::MakeMemoryPanel(wxWindow* parent) {
     wxStaticBoxSizer* panel = MakePanel(parent, "Memory_Pan", &LV_Frm::Memory_Pan);
     wxWindow* box = panel->GetStaticBox();
-    panel->Add(MakeTickedList(box, &LV_Frm::Memory_Chk,
-                              MakeList(box, "Mem_Cbo", &LV_Frm::Mem_Cbo, "Memory", Mem_Cbo_Click)),
-               Row());
+    panel->Add(
+        MakeTickedList(box, &LV_Frm::Memory_Chk, MakeList(box, "Mem_Cbo", &LV_Frm::Mem_Cbo, "Memory", Mem_Cbo_Click)),
+        Row());
     rightPanels_.push_back({&launcher_.Window.Memory_Pan, panel, box});
     return panel;
 }
@@ -276,7 +280,8 @@ void LvForm::MakeKeys() {
     const int launchId = wxWindow::NewControlId();
     wxAcceleratorEntry entry(wxACCEL_NORMAL, WXK_F2, launchId);
     SetAcceleratorTable(wxAcceleratorTable(1, &entry));
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { PressLaunch(0); }, launchId);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { PressLaunch(0); }, launchId);
 }
 
 void LvForm::PressLaunch(int index) {
@@ -309,7 +314,10 @@ void LvForm::FitToScreen() {
     content_->FitInside();
     const wxSize best = content_->GetSizer()->ComputeFittingClientSize(content_);
     const wxSize room = wxDisplay(this).GetClientArea().GetSize() - (GetSize() - GetClientSize());
-    content_->SetScrollRate(10, 10);
+    if (best.x > room.x || best.y > room.y) {
+        content_->ShowScrollbars(wxSHOW_SB_DEFAULT, wxSHOW_SB_DEFAULT);
+        content_->SetScrollRate(10, 10);
+    }
     SetClientSize(std::min(best.x, room.x), std::min(best.y, room.y));
 }
 

@@ -28,13 +28,21 @@ std::filesystem::path Base(const char* variable, const char* fallback) {
 
 }  // namespace
 
-std::filesystem::path ConfigDirectory() { return Base("XDG_CONFIG_HOME", ".config") / "lorvane3d"; }
+std::filesystem::path ConfigDirectory() {
+    return Base("XDG_CONFIG_HOME", ".config") / "lorvane3d";
+}
 
-std::filesystem::path DataDirectory() { return Base("XDG_DATA_HOME", ".local/share") / "lorvane3d"; }
+std::filesystem::path DataDirectory() {
+    return Base("XDG_DATA_HOME", ".local/share") / "lorvane3d";
+}
 
-std::filesystem::path CacheDirectory() { return Base("XDG_CACHE_HOME", ".cache") / "lorvane3d"; }
+std::filesystem::path CacheDirectory() {
+    return Base("XDG_CACHE_HOME", ".cache") / "lorvane3d";
+}
 
-std::filesystem::path WinePrefix() { return Base("WINEPREFIX", ".wine"); }
+std::filesystem::path WinePrefix() {
+    return Base("WINEPREFIX", ".wine");
+}
 
 std::filesystem::path ProgramFileDirectory() {
     std::error_code failed;

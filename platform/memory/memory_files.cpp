@@ -65,7 +65,9 @@ void MemoryFiles::AddDirectory(std::string_view path) {
     nodes_[key] = {std::string(path), "", true, made_++};
 }
 
-void MemoryFiles::AddDrive(std::string_view drive) { AddDirectory(drive); }
+void MemoryFiles::AddDrive(std::string_view drive) {
+    AddDirectory(drive);
+}
 
 void MemoryFiles::AddFile(std::string_view path, std::string_view bytes) {
     AddDirectory(ParentOf(path));

@@ -43,7 +43,6 @@ Error MemoryRegistry::Set(std::string_view path, std::string_view name, const Re
     return {};
 }
 
-
 Error MemoryProcesses::StartBatch(std::string_view directory, std::string_view name) {
     if (Refuse) {
         return Refuse;

@@ -68,9 +68,9 @@ class MemoryFiles : public Files {
     /// The bytes of a file that a test knows to be there; "(none)" if it is not.
     std::string Bytes(std::string_view path);
 
-    std::set<std::string> DrivesNotReady;               // "D:"
-    std::map<std::string, Error> Refused;               // by lower-case path: Replace and Copy onto it fail with this
-    std::vector<std::string> Log;                       // "replace C:\...", "delete C:\...", "copy A -> B", in order
+    std::set<std::string> DrivesNotReady;  // "D:"
+    std::map<std::string, Error> Refused;  // by lower-case path: Replace and Copy onto it fail with this
+    std::vector<std::string> Log;          // "replace C:\...", "delete C:\...", "copy A -> B", in order
 
   private:
     struct Node {

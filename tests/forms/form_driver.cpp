@@ -1,5 +1,6 @@
 #include "tests/forms/form_driver.h"
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <wx/dcmemory.h>
 #include <wx/dcscreen.h>
@@ -65,6 +66,18 @@ bool SettleUntil(const std::function<bool()>& holds, int milliseconds) {
     return holds();
 }
 
+bool HasKeyboard(wxWindow* control) {
+    using GetFocus = void* (*)(void*);
+    using IsAncestor = int (*)(void*, void*);
+    const auto getFocus = reinterpret_cast<GetFocus>(dlsym(RTLD_DEFAULT, "gtk_window_get_focus"));
+    const auto isAncestor = reinterpret_cast<IsAncestor>(dlsym(RTLD_DEFAULT, "gtk_widget_is_ancestor"));
+    if (getFocus == nullptr || isAncestor == nullptr) {
+        return false;
+    }
+    void* focus = getFocus(wxGetTopLevelParent(control)->GetHandle());
+    return focus != nullptr && (focus == control->GetHandle() || isAncestor(focus, control->GetHandle()) != 0);
+}
+
 void ClickOn(wxWindow* control) {
     const wxRect place = control->GetScreenRect();
     wxUIActionSimulator hand;
@@ -83,7 +96,6 @@ void PressKey(int key, int modifiers) {
 void WhenModal(const std::function<void()>& act) {
     // Lives until it has acted; a test acts once or fails by its own wait.
     static std::unique_ptr<PollingTimer> timer;
-    const wxStopWatch watch;
     timer = std::make_unique<PollingTimer>([act, shown = 0]() mutable {
         shown = AModalIsOpen() ? shown + 1 : 0;
         if (shown < 4) {

@@ -25,6 +25,9 @@ void Settle(int milliseconds = 150);
 /// Handles events until it holds; false if it does not within the time.
 bool SettleUntil(const std::function<bool()>& holds, int milliseconds = 5000);
 
+/// Whether the keyboard goes to this control or to a part of it. The toolkit's own FindFocus does not see into lists.
+bool HasKeyboard(wxWindow* control);
+
 void ClickOn(wxWindow* control);
 void PressKey(int key, int modifiers = 0);
 

@@ -76,8 +76,9 @@ TEST_F(QuestionBoxForm_, TheTextCanBeSelectedAndCopiedButNotChanged) {
 TEST_F(QuestionBoxForm_, ALongTextStaysOnTheScreen) {
     Text text;
     for (int i = 0; i < 300; ++i) {
-        text += "A line of a long text that goes on and on and on and on and on and on and on and on and on and on and "
-                "on and on and on and on and on and on and on and on and on\r\n";
+        text +=
+            "A line of a long text that goes on and on and on and on and on and on and on and on and on and on and "
+            "on and on and on and on and on and on and on and on and on\r\n";
     }
     WhenModal([] {
         const wxSize size = Find("QuestionBox_Frm")->GetSize();

@@ -146,8 +146,9 @@ TEST_F(LaunchFlow, ALineOf129CharactersAsksOnWindows95) {
     window.CommandLineAdditions_Chk.Value = 1;
     const Text whole = command + window.CommandLineAdditions_Txt.Text + " ";
     user.Expect({"Command Line Problem",
-                 "Command Line = " + whole + "\r\nLength = 129\r\nThe total command line exceedes 128 characters.\r\n"
-                 "This will cause it to not work properly.",
+                 "Command Line = " + whole +
+                     "\r\nLength = 129\r\nThe total command line exceedes 128 characters.\r\n"
+                     "This will cause it to not work properly.",
                  1, false, true, "&That's OK,&Abort Launch"});
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_TRUE(system.Programs.Started.empty());

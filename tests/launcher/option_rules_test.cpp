@@ -20,8 +20,8 @@ std::set<Text> NamesExcludedBy(Box box) {
 
 TEST(ExcludedBy, HoldsEachRowOfTheTable) {
     using Names = std::set<Text>;
-    EXPECT_EQ(NamesExcludedBy(&LV_Frm::Server_Chk), (Names{"Dedicated_Chk", "Listen_Chk", "QSpy_Chk", "LaunchQspy_Chk",
-                                                           "Demo_Chk", "Bench_Chk", "Map_Chk"}));
+    EXPECT_EQ(NamesExcludedBy(&LV_Frm::Server_Chk),
+              (Names{"Dedicated_Chk", "Listen_Chk", "QSpy_Chk", "LaunchQspy_Chk", "Demo_Chk", "Bench_Chk", "Map_Chk"}));
     EXPECT_EQ(NamesExcludedBy(&LV_Frm::QSpy_Chk), (Names{"Server_Chk", "Dedicated_Chk", "Listen_Chk", "LaunchQspy_Chk",
                                                          "Demo_Chk", "Bench_Chk", "Map_Chk"}));
     EXPECT_EQ(NamesExcludedBy(&LV_Frm::Dedicated_Chk),
@@ -216,16 +216,15 @@ TEST(ApplyGamePanels, TicksAgainBehindUnrealWhatWasGreyed) {
 }
 
 TEST(ApplyGamePanels, ChangesTheOptionsForUnreal) {
-    LV_Frm window =
-        WithTicked({&LV_Frm::NOCDAUDIO_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::Bench_Chk});
+    LV_Frm window = WithTicked({&LV_Frm::NOCDAUDIO_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::Bench_Chk});
     ApplyGamePanels(window, kUnreal);
     for (const Box box : {&LV_Frm::NOCDAUDIO_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::Bench_Chk}) {
         EXPECT_EQ((window.*box).Value, 0) << OptionBoxOf(box).Name;
         EXPECT_FALSE((window.*box).Visible) << OptionBoxOf(box).Name;
     }
-    for (const Box box : {&LV_Frm::UnrealSimulateFirstRun_Chk, &LV_Frm::UnrealDisableLogWindow_Chk,
-                          &LV_Frm::UnrealDisableK6Support_Chk, &LV_Frm::UnrealDisableMMXSupport_Chk,
-                          &LV_Frm::UnrealNoDirectSound_Chk}) {
+    for (const Box box :
+         {&LV_Frm::UnrealSimulateFirstRun_Chk, &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk,
+          &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk}) {
         EXPECT_TRUE((window.*box).Visible) << OptionBoxOf(box).Name;
     }
     ApplyGamePanels(window, kQuake);

@@ -40,7 +40,9 @@ void LauncherTest::AddGames() {
     Save(run, kOptions, "Games", "Capture the Flag;-game CTF;Base;-game ID1;Base 2;-game BASEQ2;Life;-game VALVE");
 }
 
-void LauncherTest::Load() { ASSERT_TRUE(LV_Frm_Load(launcher)); }
+void LauncherTest::Load() {
+    ASSERT_TRUE(LV_Frm_Load(launcher));
+}
 
 void LauncherTest::PickExe(TextView path) {
     const auto& items = window.Exe_Cbo.Items;

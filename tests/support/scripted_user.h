@@ -16,9 +16,9 @@
 namespace lv {
 
 struct ExpectedQuestion {
-    Text Title;                 // exact
-    Text Text_;                 // must occur in the shown text; all of it with Whole
-    int Answer = 0;             // index of the button pressed
+    Text Title;      // exact
+    Text Text_;      // must occur in the shown text; all of it with Whole
+    int Answer = 0;  // index of the button pressed
     bool TickNotAgain = false;
     bool Whole = false;
     std::optional<Text> Buttons = std::nullopt;  // captions joined by ",", exact
