@@ -5,6 +5,7 @@
 #include <wx/app.h>
 #include <wx/image.h>
 
+#include <cstdlib>
 #include <memory>
 
 #include "foundation/forms/wx_clipboard.h"
@@ -51,9 +52,26 @@ void TellThatTheStoreFails(const Error& failed) {
 
 }  // namespace
 
+// The toolkit looks for OpenGL visuals when it opens the display, which loads a compiler of 44 MB that no window here
+// ever asks for. The games that are started later must not inherit the refusal.
+class WithoutOpenGl {
+  public:
+    WithoutOpenGl() : ours_(std::getenv(kVariable) == nullptr) { setenv(kVariable, "disable", 0); }
+    void TakeBack() const {
+        if (ours_) {
+            unsetenv(kVariable);
+        }
+    }
+
+  private:
+    static constexpr const char* kVariable = "GDK_GL";
+    bool ours_;
+};
+
 class LorvaneApp : public wxApp {
   public:
     bool OnInit() override {
+        withoutOpenGl_.TakeBack();
         SetAppName("lorvane3d");
         SetAppDisplayName("Lorvane 3D");
         wxImage::AddHandler(new wxPNGHandler);
@@ -73,6 +91,7 @@ class LorvaneApp : public wxApp {
     }
 
   private:
+    WithoutOpenGl withoutOpenGl_;  // made with the application, before the toolkit opens the display
     std::unique_ptr<Program> program_;
 };
 
