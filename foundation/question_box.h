@@ -55,9 +55,12 @@ Index AskUser(Run& run, Text& title, TextView text, TextView buttons = "&OK", in
 Index AskUser(Run& run, const char* title, TextView text, TextView buttons = "&OK", int defaultButton = 0,
               int icon = 0);
 
+/// With the text in a fixed-width font, for files.
+Index AskUserFixedWidth(Run& run, const char* title, TextView text, TextView buttons = "&OK", int defaultButton = 0,
+                        int icon = 0);
+
 /// With the box "Don't show this message again"; run.ShowAgain is false afterwards if the user ticked it.
-Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons = "&OK", int defaultButton = 0,
-                  int icon = 0);
+Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons = "&OK", int defaultButton = 0, int icon = 0);
 
 /// AskUserOnce, if the key in section "ShowMessage" is not "0" yet; notes there that it is not to come again.
 /// `defaultButton` is the answer when nothing was asked.
