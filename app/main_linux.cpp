@@ -29,7 +29,7 @@ struct Program {
 
     std::unique_ptr<SqliteSettings> Settings;
     LinuxFiles Disk{{DataDirectory() / "drives", WinePrefix(), ProgramFileDirectory()}};
-    WineRegistry Registry{*Settings};
+    WineRegistry Registry{*Settings, FindWine()};
     LinuxProcesses Programs{Disk};
     WxClipboard Clip;
     LinuxClock Time;

@@ -9,7 +9,9 @@ namespace {
 
 constexpr std::size_t kNone = TextView::npos;
 
-bool IsWhite(char c) { return c == '\r' || c == '\n' || c == '\0' || c == ' ' || c == '\t'; }
+bool IsWhite(char c) {
+    return c == '\r' || c == '\n' || c == '\0' || c == ' ' || c == '\t';
+}
 
 }  // namespace
 
@@ -27,6 +29,9 @@ Index CountDelimiters(TextView text, TextView delimiter) {
 }
 
 Text GetField(TextView text, Index index, TextView delimiter) {
+    if (delimiter.empty()) {
+        delimiter = ",";
+    }
     // `begin` is the 0-based start of the field; a failed search starts over at the front, on purpose.
     std::size_t begin = 0;
     for (Index i = 0; i < index; ++i) {
@@ -89,7 +94,9 @@ Text DropRight(TextView text, std::size_t count) {
     return text.size() < count ? Text() : Text(text.substr(0, text.size() - count));
 }
 
-Text DropLeft(TextView text, std::size_t count) { return text.size() < count ? Text() : Text(text.substr(count)); }
+Text DropLeft(TextView text, std::size_t count) {
+    return text.size() < count ? Text() : Text(text.substr(count));
+}
 
 Text ReplaceSameLength(TextView text, TextView find, TextView replacement) {
     Text changed(text);
@@ -164,6 +171,8 @@ Text DirectoryOf(TextView path) {
     return at == kNone ? Text() : Text(path.substr(0, at));
 }
 
-bool Holds(TextView text, TextView find) { return text.find(find) != kNone; }
+bool Holds(TextView text, TextView find) {
+    return text.find(find) != kNone;
+}
 
 }  // namespace lv

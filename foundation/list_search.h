@@ -1,7 +1,7 @@
 // foundation/list_search.h
 //
 // The three searches over lists of strings. Each compares a stretch of the item, `length` characters from position
-// `start` (from 1), with the key.
+// `start` (from 1), with the key. Only the first 32,767 items are looked at, as no index reaches further.
 
 #pragma once
 

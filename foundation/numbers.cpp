@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <system_error>
 
 namespace lv {
 
@@ -18,6 +19,16 @@ Whole Rounded(TextView text) {
         return std::numeric_limits<Whole>::max();
     }
     return static_cast<Whole>(number);
+}
+
+// What a number reads as that has too many digits: the greatest there is, or 0 if all of them stand behind the point.
+double Extreme(TextView digits) {
+    const TextView whole = digits.substr(0, digits.find('.'));
+    if (whole.find_first_of("123456789") == TextView::npos) {
+        return 0;
+    }
+    const double greatest = std::numeric_limits<double>::max();
+    return whole.starts_with('-') ? -greatest : greatest;
 }
 
 }  // namespace
@@ -39,12 +50,16 @@ double ToNumber(TextView text) {
     }
     const TextView plain = digits.starts_with('+') ? TextView(digits).substr(1) : TextView(digits);
     double number = 0;
-    std::from_chars(plain.data(), plain.data() + plain.size(), number);
-    return std::isfinite(number) ? number : 0;
+    const auto read = std::from_chars(plain.data(), plain.data() + plain.size(), number);
+    return read.ec == std::errc::result_out_of_range ? Extreme(plain) : number;
 }
 
-Index ToIndex(TextView text) { return Rounded<Index>(text); }
+Index ToIndex(TextView text) {
+    return Rounded<Index>(text);
+}
 
-std::int32_t ToLong(TextView text) { return Rounded<std::int32_t>(text); }
+std::int32_t ToLong(TextView text) {
+    return Rounded<std::int32_t>(text);
+}
 
 }  // namespace lv

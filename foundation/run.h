@@ -19,6 +19,8 @@ constexpr TextView kStuff = "LV-Stuff";   // the section of what the program not
 constexpr TextView kHomePage = "https://lorvane3d.example/";
 
 struct Run {
+    Run(Platform& system, UserInterface& user) : System(system), User(user) {}
+
     Platform& System;
     UserInterface& User;
 

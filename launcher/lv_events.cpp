@@ -168,10 +168,8 @@ void Script_Cbo_Click(Launcher& launcher) {
     if (!launcher.Window.Script_Cbo.HasSelection()) {
         return;
     }
-    // Each game directory and modification remembers its own script. The key is the same one that the fill reads.
-    const Text directory = run.GameKind == 4 ? run.DefaultGameDirectory
-                                             : Join(run.DefaultGameDirectory, "\\", run.CurrentGameDir);
-    Save(run, "DefaultScript", directory, DropLeft(launcher.Window.Script_Cbo.Selected(), NameFieldWidth));
+    // Each game directory and modification remembers its own script.
+    Save(run, "DefaultScript", DefaultScriptKey(run), DropLeft(launcher.Window.Script_Cbo.Selected(), NameFieldWidth));
 }
 
 void Mem_Cbo_Click(Launcher& launcher) { SavePosition(launcher, "MemoryPos", launcher.Window.Mem_Cbo); }

@@ -46,8 +46,7 @@ void LoadOptionBoxes(Launcher& launcher) {
 
 bool LV_Frm_Load(Launcher& launcher) {
     Run& run = launcher.run;
-    FixScriptRegistries(run);
-    if (run.Ended) {
+    if (!FixScriptRegistries(run)) {
         return false;
     }
     LoadVideoProfiles(launcher);

@@ -49,7 +49,7 @@ class ProfileModel : public testing::Test {
 
     MemoryPlatform system;
     ScriptedUser user;
-    lv::Run run{system.Services, user, "Lorvane 3D", "C:\\LORVANE", 0, 0, "", "", ""};
+    lv::Run run{system.Services, user};
 };
 
 }  // namespace lv

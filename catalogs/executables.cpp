@@ -1,0 +1,93 @@
+#include "catalogs/executables.h"
+
+#include <unordered_set>
+
+#include "catalogs/catalog_store.h"
+#include "catalogs/image_keys.h"
+#include "catalogs/missing_game.h"
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+
+namespace lv {
+
+namespace {
+
+enum class Reading { Done, Again, Ended };
+
+bool IsWhole(const std::optional<CatalogRows>& rows) {
+    return rows && rows->Count() > 0;
+}
+
+// A value that does not read is healed of ";" at its end. A short one holds no record, and is not damaged.
+std::optional<CatalogRows> ReadExecutables(Run& run) {
+    Text value = CatalogValue(run, kExecutables);
+    auto rows = SplitRows(value, kExecutables.RecordSize);
+    bool healed = false;
+    while (!IsWhole(rows) && value.ends_with(';')) {
+        value.pop_back();
+        rows = SplitRows(value, kExecutables.RecordSize);
+        healed = true;
+    }
+    if (healed) {
+        StoreCatalog(run, kExecutables.Key, value);
+    }
+    if (!rows) {
+        ReportDamage(run, kExecutables.ErrorName, value);
+        EndProgram(run);
+    }
+    return rows;
+}
+
+ImageComboItem MakeRow(const GameRecord& game) {
+    const Text image = ImageKeyOf(LowerCase(LastPathPart(OnDisk(game.Path))));
+    return {game.Title, game.Path, image, image};
+}
+
+// What became of a missing file: its row is wanted all the same, or the catalog has changed under the reader.
+MissingGame Resolve(Run& run, const GameRecord& game) {
+    return run.System.Disk.FileExists(OnDisk(game.Path)) ? MissingGame::Ignored : AskForMissingGame(run, game);
+}
+
+Reading ReadOnce(Run& run, CatalogLists& lists) {
+    ImageCombo& list = lists.Exe_Cbo;
+    list.Clear();
+    const auto rows = ReadExecutables(run);
+    if (!rows) {
+        return Reading::Ended;
+    }
+    std::unordered_set<Text> keys;
+    for (std::size_t i = 0; i < rows->Count(); ++i) {
+        const GameRecord game = {rows->Field(i, 0), rows->Field(i, 1)};
+        if (Resolve(run, game) == MissingGame::ReadAgain) {
+            return run.Ended ? Reading::Ended : Reading::Again;
+        }
+        if (keys.insert(game.Path).second) {
+            list.Items.push_back(MakeRow(game));
+            continue;
+        }
+        AskUser(run, "Duplicate Game", Join(AboutGame(game), "was listed twice. The second entry will be ignored."));
+    }
+    // A value with a duplicate is left as it is: the user is told at every start until the entry is removed.
+    if (list.Items.size() == rows->Count() && !list.Items.empty()) {
+        SaveCatalog(run, lists, kExecutables.Key, list);
+    }
+    return Reading::Done;
+}
+
+}  // namespace
+
+bool LoadExes(Run& run, CatalogLists& lists) {
+    Reading reading = Reading::Again;
+    while (reading == Reading::Again) {
+        reading = ReadOnce(run, lists);
+    }
+    if (reading == Reading::Ended) {
+        return false;
+    }
+    ImageCombo& list = lists.Exe_Cbo;
+    list.ListIndex = RepairedPosition(run, "ExecutablesPos", 0, list.Items.size());
+    run.User.Refresh();
+    return !run.Ended;
+}
+
+}  // namespace lv

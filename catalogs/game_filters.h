@@ -1,0 +1,21 @@
+// catalogs/game_filters.h
+//
+// What the file dialogs offer for each game, and the extension of its own scripts.
+
+#pragma once
+
+#include "foundation/text.h"
+
+namespace lv {
+
+struct GameFilters {
+    Index GameKind;
+    TextView Scripts;    // filter of the file dialog
+    TextView Demos;      // the same; empty: the game has none
+    TextView Extension;  // with its point, ".qs"
+};
+
+/// The row of a game; null for GameKind 0 and other numbers that are no game.
+const GameFilters* FiltersOf(Index gameKind);
+
+}  // namespace lv

@@ -1,0 +1,174 @@
+#include "catalogs/game_identification.h"
+
+#include "catalogs/catalog_store.h"
+#include "catalogs/modifications.h"
+#include "catalogs/scripts.h"
+#include "catalogs/servers.h"
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+#include "foundation/settings.h"
+
+namespace lv {
+
+namespace {
+
+constexpr Index kQuake = 1;
+constexpr Index kHexen2 = 2;
+
+enum class Test {
+    Below,         // this directory stands below the executable's
+    PathHolds,     // the executable's directory, in upper case, holds this
+    BaseAndHolds,  // "\base" stands below it, and its lower-case form holds this
+};
+
+struct GameRow {
+    Test How;
+    TextView What;
+    Index GameKind;
+    Index ScriptFamily;
+    TextView BaseGameDir;
+};
+
+constexpr GameRow kGameTable[] = {
+    {Test::Below, "\\id1", 1, 1, "ID1"},       {Test::Below, "\\data1", 2, 1, "DATA1"},
+    {Test::Below, "\\baseq2", 3, 3, "BASEQ2"}, {Test::PathHolds, "UNREAL\\SYSTEM", 4, 4, "MAPS"},
+    {Test::BaseAndHolds, "sin", 5, 3, "BASE"}, {Test::BaseAndHolds, "heretic", 6, 3, "BASE"},
+    {Test::Below, "\\valve", 9, 3, "VALVE"},
+};
+
+bool IsHit(Files& files, TextView directory, const GameRow& row) {
+    switch (row.How) {
+        case Test::Below:
+            return files.DirectoryExists(Join(directory, row.What));
+        case Test::PathHolds:
+            return Holds(UpperCase(directory), row.What);
+        case Test::BaseAndHolds:
+            return Holds(LowerCase(directory), row.What) && files.DirectoryExists(Join(directory, "\\base"));
+    }
+    return false;
+}
+
+bool HoldsAny(TextView text, std::initializer_list<TextView> finds) {
+    for (const TextView find : finds) {
+        if (Holds(text, find)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool EndsInPortals(TextView row) {
+    return LowerCase(row).ends_with("-game portals");
+}
+
+void HideAll(Run& run, const Catalog& catalog, ListBox& list, Text& hidden) {
+    list.Clear();
+    hidden = CatalogValue(run, catalog);
+    if (hidden.size() < kShortestCatalog) {
+        hidden.clear();
+    }
+}
+
+// No game's rows are shown, so every record is another game's: an entry added now loses none of them.
+void ClearForNoGame(Run& run, CatalogLists& lists) {
+    HideAll(run, kGames, lists.Game_Cbo, lists.HiddenGames);
+    HideAll(run, kScripts, lists.Script_Cbo, lists.HiddenScripts);
+    HideAll(run, kServers, lists.Server_Cbo, lists.HiddenServers);
+}
+
+void ReportEmptyPath(Run& run, TextView path) {
+    Text title = run.AppName;
+    AskUser(run, title,
+            Join(DoubleQuote, path, DoubleQuote, TabChar, NewLine, "There is a problem with this path:", NewLine,
+                 "DefaultGameDirectory not found and was NOT SET - YOU WILL NOT BE ABLE TO LAUNCH."));
+}
+
+bool EnterDirectory(Run& run, CatalogLists& lists, TextView path) {
+    run.DefaultGameDirectory = DirectoryOf(path);
+    const GameFacts facts = FactsOfDirectory(run.System.Disk, run.DefaultGameDirectory);
+    run.BaseGameDir = facts.BaseGameDir;
+    run.CurrentGameDir = facts.BaseGameDir;
+    run.GameKind = facts.GameKind;
+    if (facts.GameKind == 0) {
+        ClearForNoGame(run, lists);
+        return true;
+    }
+    run.ScriptFamily = facts.ScriptFamily;
+    const ExecutableFlags flags = FlagsOfPath(facts.GameKind, path);
+    run.IsQuakeWorld = flags.IsQuakeWorld;
+    run.IsHexenWorld = flags.IsHexenWorld;
+    run.IsMissionPack = flags.IsMissionPack;
+    run.UsesAccelerator = flags.UsesAccelerator;
+    return FillGamesCombo(run, lists) && FillScriptsCombo(run, lists) && FillServerCombo(run, lists);
+}
+
+}  // namespace
+
+GameFacts FactsOfDirectory(Files& files, TextView directory) {
+    for (const GameRow& row : kGameTable) {
+        if (IsHit(files, directory, row)) {
+            return {row.GameKind, row.ScriptFamily, Text(row.BaseGameDir)};
+        }
+    }
+    return {};
+}
+
+ExecutableFlags FlagsOfPath(Index gameKind, TextView path) {
+    const Text upper = UpperCase(path);
+    ExecutableFlags flags;
+    if (gameKind == kQuake) {
+        flags.IsQuakeWorld = Holds(upper, "QWCL.EXE");
+        flags.UsesAccelerator = !HoldsAny(upper, {"\\QWCL.EXE", "\\QUAKE.EXE"});
+    }
+    if (gameKind == kHexen2) {
+        flags.IsMissionPack = Holds(upper, "H2MP.EXE");
+        // With the blank, kept on purpose: something must follow the name for the test to hit.
+        flags.IsHexenWorld = !flags.IsMissionPack && Holds(upper, "HWCL.EXE ");
+        flags.UsesAccelerator = !HoldsAny(upper, {"\\H2MP.EXE", "\\HWCL.EXE", "\\H2.EXE"});
+    }
+    return flags;
+}
+
+bool IdentifyGame(Run& run, CatalogLists& lists) {
+    if (!lists.Exe_Cbo.HasSelection()) {
+        return !run.Ended;
+    }
+    const Index before = run.GameKind;
+    const Text& key = lists.Exe_Cbo.Items[static_cast<std::size_t>(lists.Exe_Cbo.ListIndex)].Key;
+    const Text path = ReplaceSameLength(LowerCase(key), "/", "\\");
+    Save(run, kOptions, "ExecutablesPos", lists.Exe_Cbo.ListIndex);
+
+    run.UsesAccelerator = true;
+    run.IsQuakeWorld = false;
+    run.IsHexenWorld = false;
+    run.IsMissionPack = false;
+    if (path.empty()) {
+        ReportEmptyPath(run, path);
+        run.DefaultGameDirectory.clear();
+    } else if (!EnterDirectory(run, lists, path)) {
+        return false;
+    }
+    if (run.GameKind != before) {
+        lists.Game_Chk.Value = 0;  // by the program: the stored choice stays
+    }
+    return !run.Ended;
+}
+
+void ApplyMissionPackRule(Run& run, CatalogLists& lists) {
+    ListBox& list = lists.Game_Cbo;
+    if (!run.IsMissionPack) {
+        if (run.GameKind == kHexen2 && EndsInPortals(list.Selected())) {
+            lists.Game_Chk.Value = 0;
+        }
+        return;
+    }
+    for (std::size_t i = 0; i < list.Items.size(); ++i) {
+        if (EndsInPortals(list.Items[i])) {
+            list.ListIndex = static_cast<int>(i);
+            lists.Game_Chk.Value = 1;
+            return;
+        }
+    }
+}
+
+}  // namespace lv

@@ -1,0 +1,40 @@
+// catalogs/game_identification.h
+//
+// Which game an executable is: worked out afresh at each pick from what lies beside it and from its name. There is no
+// stored game type.
+
+#pragma once
+
+#include "catalogs/catalog_lists.h"
+
+namespace lv {
+
+struct GameFacts {
+    Index GameKind = 0;
+    Index ScriptFamily = 0;  // 0: the one before stays
+    Text BaseGameDir;
+};
+
+/// The game whose executable lies in this directory (without a trailing "\"). The first hit of the table counts, so a
+/// Hexen II tree with a left-over "id1" is Quake.
+GameFacts FactsOfDirectory(Files& files, TextView directory);
+
+struct ExecutableFlags {
+    bool IsQuakeWorld = false;
+    bool IsHexenWorld = false;
+    bool IsMissionPack = false;
+    bool UsesAccelerator = true;
+};
+
+/// What the executable's path says, in any letter case.
+ExecutableFlags FlagsOfPath(Index gameKind, TextView path);
+
+/// The change of game to the selected row of Exe_Cbo: saves the position, sets the run's globals, fills the lists of
+/// modifications, scripts and servers. Without a selected row nothing happens. False if the program ended.
+bool IdentifyGame(Run& run, CatalogLists& lists);
+
+/// Selects the mission pack's modification for its own executable and drops it for the others of Hexen II. For after
+/// the window was set up for the game.
+void ApplyMissionPackRule(Run& run, CatalogLists& lists);
+
+}  // namespace lv

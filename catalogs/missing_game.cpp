@@ -1,0 +1,161 @@
+#include "catalogs/missing_game.h"
+
+#include <algorithm>
+
+#include "catalogs/catalog_store.h"
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+
+namespace lv {
+
+namespace {
+
+constexpr Index kDeleted = 0;
+constexpr Index kMoved = 1;
+
+// The path's directory with the "\" behind it, so that C:\QUAKE is not found in C:\QUAKE2. Empty without one.
+Text DirectoryWithSlash(TextView path) {
+    return Text(path.substr(0, path.rfind('\\') + 1));
+}
+
+bool LiesIn(TextView path, TextView directory) {
+    return !directory.empty() && SameText(path.substr(0, directory.size()), directory);
+}
+
+// The records that stay, as a list.
+template <class Goes>
+Text Without(const CatalogRows& rows, const Goes& goes) {
+    Text kept;
+    for (std::size_t i = 0; i < rows.Count(); ++i) {
+        if (!goes(rows.Field(i, 0), rows.Field(i, 1))) {
+            AppendRecord(kept, Join(rows.Field(i, 0), ";", rows.Field(i, 1)));
+        }
+    }
+    return kept;
+}
+
+bool DirectoryIsThere(Run& run, const Text& directory) {
+    return directory.empty() || run.System.Disk.DirectoryExists(directory);
+}
+
+void ForgetGame(Run& run, const GameRecord& game) {
+    const auto rows = SplitRows(CatalogValue(run, kExecutables), kExecutables.RecordSize);
+    if (!rows) {
+        return;
+    }
+    StoreCatalog(run, kExecutables.Key, Without(*rows, [&](const Text& title, const Text& path) {
+                     return title == game.Title && path == game.Path;
+                 }));
+}
+
+void ForgetDirectory(Run& run, const Text& directory) {
+    const auto lies = [&](const Text&, const Text& path) { return LiesIn(OnDisk(path), directory); };
+    if (const auto games = SplitRows(CatalogValue(run, kExecutables), kExecutables.RecordSize)) {
+        StoreCatalog(run, kExecutables.Key, Without(*games, lies));
+    }
+    const Text value = CatalogValue(run, kScripts);
+    const auto scripts = SplitRows(value, kScripts.RecordSize);
+    if (!scripts) {
+        ReportDamage(run, "scriptSettings", value);
+        EndProgram(run);
+        return;
+    }
+    StoreCatalog(run, kScripts.Key, Without(*scripts, lies));
+}
+
+void Forget(Run& run, const GameRecord& game) {
+    const Text directory = DirectoryWithSlash(OnDisk(game.Path));
+    if (DirectoryIsThere(run, directory)) {
+        ForgetGame(run, game);
+    } else {
+        ForgetDirectory(run, directory);
+    }
+}
+
+// The same path on another drive, if the user says that it is the one.
+Text FindOnOtherDrives(Run& run, TextView path) {
+    for (const Text& drive : run.System.Disk.Drives()) {
+        if (SameText(drive, "A:") || SameText(drive, "B:") || run.System.Disk.ProbeDrive(drive)) {
+            continue;
+        }
+        const Text candidate = Join(drive.substr(0, 2), DropLeft(path, 2));
+        if (!run.System.Disk.FileExists(candidate)) {
+            continue;
+        }
+        if (AskUser(run, "Lookie Here...", Join(candidate, NewLine, "Is this the new location?"),
+                    "&Yep - that's it!,&No way") == 0) {
+            return candidate;
+        }
+    }
+    return {};
+}
+
+Text ChooseNewPlace(Run& run, TextView fileName) {
+    FileRequest request;
+    request.InitialDirectory = "c:\\";
+    request.Filter = Join("Game Executable [", fileName, "](", fileName, ")|", fileName, "|All Files (*.*)|*.*");
+    const auto chosen = run.User.ChooseFile(request);
+    if (!chosen.Ok()) {
+        AskUser(run, "A Windows Related Error Occured",
+                Join("Error Number = ", std::to_string(chosen.Fault.Number), NewLine,
+                     "Error String = ", chosen.Fault.Text));
+        return {};
+    }
+    return chosen.Value.value_or("");
+}
+
+void Relocate(Run& run, const GameRecord& game) {
+    const Text path = OnDisk(game.Path);
+    Text place = FindOnOtherDrives(run, path);
+    if (place.empty()) {
+        place = ChooseNewPlace(run, LastPathPart(path));
+    }
+    const Text from = DirectoryWithSlash(path);
+    const Text to = DirectoryWithSlash(place);
+    if (from.empty() || to.empty()) {
+        return;
+    }
+    StoreCatalog(run, kExecutables.Key, MovePaths(CatalogValue(run, kExecutables), from, to));
+    StoreCatalog(run, kScripts.Key, MovePaths(CatalogValue(run, kScripts), from, to));
+}
+
+}  // namespace
+
+Text OnDisk(TextView path) {
+    return ReplaceSameLength(path, "/", "\\");
+}
+
+Text AboutGame(const GameRecord& game) {
+    return Join(game.Title, TwoBlanks, game.Path, NewLine, "This Game -->", NewLine);
+}
+
+MissingGame AskForMissingGame(Run& run, const GameRecord& game) {
+    const Index answer = AskUser(run, "Game Not Found...", Join(AboutGame(game), "was not found."),
+                                 "I &deleted this Game,I &moved this Game, I&gnore");
+    if (answer == kDeleted) {
+        Forget(run, game);
+    } else if (answer == kMoved) {
+        Relocate(run, game);
+    } else {
+        return MissingGame::Ignored;
+    }
+    return MissingGame::ReadAgain;
+}
+
+Text MovePaths(TextView list, TextView from, TextView to) {
+    Text moved;
+    for (std::size_t begin = 0; begin <= list.size();) {
+        const std::size_t end = std::min(list.find(';', begin), list.size());
+        const TextView field = list.substr(begin, end - begin);
+        const std::size_t blanks = std::min(field.find_first_not_of(' '), field.size());
+        const bool moves = LiesIn(OnDisk(field.substr(blanks)), from);
+        moved.append(moves ? Join(to, field.substr(blanks + from.size())) : Text(field));
+        if (end < list.size()) {
+            moved += ';';
+        }
+        begin = end + 1;
+    }
+    return moved;
+}
+
+}  // namespace lv

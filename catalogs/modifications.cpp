@@ -1,0 +1,124 @@
+#include "catalogs/modifications.h"
+
+#include <algorithm>
+
+#include "catalogs/catalog_store.h"
+#include "catalogs/wildcard.h"
+#include "foundation/field_strings.h"
+#include "foundation/list_search.h"
+#include "foundation/settings.h"
+
+namespace lv {
+
+namespace {
+
+constexpr Index kAnyKind = -1;
+constexpr Index kQuake = 1;
+constexpr Index kQuake2 = 3;
+constexpr Index kHalfLife = 9;
+
+struct TitleRow {
+    TextView Directory;
+    Index GameKind;
+    TextView Title;
+};
+
+constexpr TitleRow kTitles[] = {
+    {"ACTION", kAnyKind, "Action Quake"},         {"AS", kAnyKind, "Aftershock"},
+    {"ARENA", kAnyKind, "Rocket Arena"},          {"HIPNOTIC", kAnyKind, "Scourge of Armagon"},
+    {"ROGUE", kQuake, "Dissolution of Eternity"}, {"ROGUE", kQuake2, "Ground Zero"},
+    {"PORTALS", kAnyKind, "Portals of Praevus"},  {"CTF", kAnyKind, "Capture the Flag"},
+    {"LMCTF", kAnyKind, "Loki's Minions CTF"},    {"SHRAK", kAnyKind, "Shrak"},
+    {"FORTRESS", kAnyKind, "Team Fortress"},
+};
+
+// Two titles that stand for a directory of the same name in the other game.
+bool IsOfTheOtherGame(TextView title, Index gameKind) {
+    return (title == "Dissolution of Eternity" && gameKind == kQuake2) ||
+           (title == "Ground Zero" && gameKind == kQuake);
+}
+
+// Half-Life's own directories that hold no game.
+bool IsSkipped(TextView directory, Index gameKind) {
+    return gameKind == kHalfLife && (SameText(directory, "AUTH") || SameText(directory, "PROFILEDATA"));
+}
+
+bool IsGameDirectory(Files& files, TextView directory) {
+    const auto entries = files.List(directory);  // empty if it cannot be listed
+    return std::any_of(entries.Value.begin(), entries.Value.end(), [](const DirectoryEntry& entry) {
+        if (entry.IsDirectory) {
+            return SameText(entry.Name, "maps");
+        }
+        return MatchesWildcard(entry.Name, "*.pak") || MatchesWildcard(entry.Name, "*.dat");
+    });
+}
+
+bool HasRow(const ListBox& list, TextView directory) {
+    bool found = false;
+    FindExact(list.Items, NameFieldWidth + kGameOption.size() + 1, kToTheEnd, directory, found);
+    return found;
+}
+
+}  // namespace
+
+Text ModificationTitle(TextView directory, Index gameKind) {
+    for (const TitleRow& row : kTitles) {
+        if (SameText(row.Directory, directory) && (row.GameKind == kAnyKind || row.GameKind == gameKind)) {
+            return Text(row.Title);
+        }
+    }
+    return Text(directory);
+}
+
+bool FillGamesCombo(Run& run, CatalogLists& lists) {
+    ListBox& list = lists.Game_Cbo;
+    list.Clear();
+    const Text value = CatalogValue(run, kGames);
+    const auto rows = SplitRows(value, kGames.RecordSize);
+    if (!rows) {
+        ReportDamage(run, kGames.ErrorName, value);
+        lists.Game_Chk.Value = 0;
+        return !run.Ended;
+    }
+    lists.HiddenGames.clear();
+    for (std::size_t i = 0; i < rows->Count(); ++i) {
+        const Text& title = rows->Field(i, 0);
+        const Text& option = rows->Field(i, 1);
+        const Text directory = Join(run.DefaultGameDirectory, "\\", Trim(DropLeft(option, kGameOption.size())));
+        if (!IsOfTheOtherGame(Trim(title), run.GameKind) && run.System.Disk.DirectoryExists(directory)) {
+            list.Items.push_back(MakeItem(title, option));
+        } else {
+            AppendRecord(lists.HiddenGames, Join(title, ";", option));
+        }
+    }
+    list.ListIndex = RepairedPosition(run, "GamesPos", 0, list.Items.size());
+    ScanForGames(run, lists);
+    lists.Game_Chk.Value = list.HasSelection() ? StoredCheck(run, "UseGames", 1) : 0;
+    return !run.Ended;
+}
+
+Index ScanForGames(Run& run, CatalogLists& lists) {
+    if (run.DefaultGameDirectory.empty()) {
+        return 0;
+    }
+    const auto listed = run.System.Disk.List(run.DefaultGameDirectory);
+    const std::size_t last = std::min(listed.Value.size(), kMostScannedEntries);
+    Index count = 0;
+    for (std::size_t i = 1; i < last; ++i) {  // the first is "."
+        const DirectoryEntry& entry = listed.Value[i];
+        if (!entry.IsDirectory || entry.Name == ".." || !FitsAField(entry.Name)) {
+            continue;
+        }
+        if (IsSkipped(entry.Name, run.GameKind) || HasRow(lists.Game_Cbo, entry.Name) ||
+            !IsGameDirectory(run.System.Disk, Join(run.DefaultGameDirectory, "\\", entry.Name))) {
+            continue;
+        }
+        lists.Game_Cbo.Items.push_back(
+            MakeItem(ModificationTitle(entry.Name, run.GameKind), Join(kGameOption, entry.Name)));
+        SaveCatalog(run, lists, kGames.Key, lists.Game_Cbo);
+        ++count;
+    }
+    return count;
+}
+
+}  // namespace lv

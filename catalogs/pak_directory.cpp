@@ -1,0 +1,68 @@
+#include "catalogs/pak_directory.h"
+
+#include <algorithm>
+
+#include "catalogs/catalog_store.h"
+
+namespace lv {
+
+namespace {
+
+std::uint32_t NumberAt(TextView bytes, std::size_t at) {
+    std::uint32_t number = 0;
+    for (std::size_t i = 4; i-- > 0;) {
+        number = number * 256 + static_cast<unsigned char>(bytes[at + i]);
+    }
+    return number;
+}
+
+}  // namespace
+
+std::optional<PakHeader> ReadPakHeader(TextView header, TextView magic) {
+    if (header.size() < kPakHeaderSize || !header.starts_with(magic)) {
+        return std::nullopt;
+    }
+    return PakHeader{NumberAt(header, 4), NumberAt(header, 8)};
+}
+
+std::uint32_t PakEntryCount(std::uint32_t length) {
+    const std::uint32_t whole = length / kPakEntrySize;
+    const std::uint32_t rest = length % kPakEntrySize;
+    const bool up = rest > kPakEntrySize / 2 || (rest == kPakEntrySize / 2 && whole % 2 == 1);
+    return whole + (up ? 1 : 0);
+}
+
+std::optional<Text> MapNameOfEntry(TextView entry) {
+    constexpr TextView kBefore = "maps/";
+    const std::size_t maps = entry.find(kBefore);
+    const std::size_t end = entry.find(".bsp");
+    if (maps == TextView::npos || end == TextView::npos || maps > end) {
+        return std::nullopt;
+    }
+    const std::size_t begin = maps + kBefore.size();
+    const TextView name = entry.substr(begin, end - begin);
+    if (name.starts_with("b_") || !FitsAField(name)) {
+        return std::nullopt;
+    }
+    return Text(name);
+}
+
+std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic) {
+    const auto header = ReadPakHeader(archive.Read(0, kPakHeaderSize).Value, magic);
+    if (!header || header->Offset >= archive.Size()) {
+        return {};
+    }
+    const std::uint64_t wanted = std::uint64_t{PakEntryCount(header->Length)} * kPakEntrySize;
+    const std::uint64_t held = archive.Size() - header->Offset;
+    const Text directory = archive.Read(header->Offset, static_cast<std::size_t>(std::min(wanted, held))).Value;
+
+    std::vector<Text> names;
+    for (std::size_t at = 0; at < directory.size(); at += kPakEntrySize) {
+        if (auto name = MapNameOfEntry(TextView(directory).substr(at, kPakEntrySize))) {
+            names.push_back(*std::move(name));
+        }
+    }
+    return names;
+}
+
+}  // namespace lv

@@ -1,0 +1,39 @@
+// catalogs/pak_directory.h
+//
+// The directory of an archive in id Software's PAK format, read for map names: 4 bytes magic ("PACK", Sin's "SPAK"),
+// 4 bytes offset and 4 bytes length of the directory, little-endian; the directory is an array of 64-byte entries.
+// An entry is taken as text, whatever its fields. The same stride serves a Sin archive, on purpose.
+
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "foundation/text.h"
+#include "platform/files.h"
+
+namespace lv {
+
+constexpr std::size_t kPakHeaderSize = 12;
+constexpr std::size_t kPakEntrySize = 64;
+
+/// Where the directory lies. Nothing if the header is short or its magic another.
+struct PakHeader {
+    std::uint32_t Offset = 0;
+    std::uint32_t Length = 0;
+};
+std::optional<PakHeader> ReadPakHeader(TextView header, TextView magic);
+
+/// How many entries the length stands for: rounded to the nearest whole number, a half to the even one.
+std::uint32_t PakEntryCount(std::uint32_t length);
+
+/// The map that an entry names: what stands between "maps/" and ".bsp", in this case. Nothing for other entries, for
+/// the models "b_...", and for names that cannot stand in a list.
+std::optional<Text> MapNameOfEntry(TextView entry);
+
+/// The maps of an archive in the directory's order. Whatever the header says, no more is read than the file holds; a
+/// damaged archive costs its own entries and nothing else.
+std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic);
+
+}  // namespace lv

@@ -1,0 +1,119 @@
+#include "catalogs/scripts.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include "catalogs/catalog_store.h"
+#include "catalogs/wildcard.h"
+#include "foundation/field_strings.h"
+#include "foundation/list_search.h"
+#include "foundation/settings.h"
+
+namespace lv {
+
+namespace {
+
+constexpr Index kUnreal = 4;
+
+// Helper files of other programs and of this one; no player's scripts.
+constexpr TextView kHelperFiles[] = {
+    "qspy.cfg", "autoexec.cfg", "gamespy.cfg",  "qdm.cfg",    "qview.cfg",
+    "rift.cfg", "lv_666.cfg",   "frontend.cfg", "server.cfg",
+};
+
+struct Script {
+    Text Title;
+    Text Path;
+};
+
+bool IsHelperFile(TextView name) {
+    return std::find(std::begin(kHelperFiles), std::end(kHelperFiles), name) != std::end(kHelperFiles);
+}
+
+// The catalog's scripts and those on the disk, each path once and in lower case.
+std::vector<Script> CollectScripts(Run& run, const CatalogRows& stored, TextView directory) {
+    std::vector<Script> scripts;
+    std::unordered_set<Text> paths;
+    for (std::size_t i = 0; i < stored.Count(); ++i) {
+        Text path = LowerCase(stored.Field(i, 1));
+        if (paths.insert(path).second) {
+            scripts.push_back({stored.Field(i, 0), std::move(path)});
+        }
+    }
+    for (const Text& found : ListFiles(run.System.Disk, directory, run.GameKind == kUnreal ? "*.ini" : "*.cfg")) {
+        Text name = LowerCase(found);
+        Text path = Join(directory, "\\", name);
+        if (!IsHelperFile(name) && FitsAField(path) && paths.insert(path).second) {
+            scripts.push_back({std::move(name), std::move(path)});
+        }
+    }
+    return scripts;
+}
+
+int RememberedRow(Run& run, const ListBox& list) {
+    if (list.Items.empty()) {
+        return -1;
+    }
+    const Text key = DefaultScriptKey(run);
+    const TextView usual = run.GameKind == kUnreal ? "\\unreal.ini" : "\\config.cfg";
+    const Text wanted = GetSetting(run, run.AppName, "DefaultScript", key, Join(key, usual));
+    bool found = false;
+    const Index row = FindExact(list.Items, NameFieldWidth + 1, kToTheEnd, wanted, found);
+    return found ? row : 0;
+}
+
+}  // namespace
+
+Text ScriptDirectory(const Run& run) {
+    return run.GameKind == kUnreal ? run.DefaultGameDirectory
+                                   : Join(run.DefaultGameDirectory, "\\", run.CurrentGameDir);
+}
+
+Text DefaultScriptKey(const Run& run) {
+    return ScriptDirectory(run);
+}
+
+bool FixScriptRegistries(Run& run) {
+    const auto rows = ReadCatalog(run, kScripts);
+    if (!rows) {
+        return false;
+    }
+    Text kept;
+    for (std::size_t i = 0; i < rows->Count(); ++i) {
+        const Text path = Trim(rows->Field(i, 1));
+        if (run.System.Disk.FileExists(path)) {
+            AppendRecord(kept, Join(Trim(rows->Field(i, 0)), ";", path));
+        }
+    }
+    StoreCatalog(run, kScripts.Key, kept);
+    return true;
+}
+
+bool FillScriptsCombo(Run& run, CatalogLists& lists) {
+    const auto stored = ReadCatalog(run, kScripts);
+    if (!stored) {
+        return false;
+    }
+    const Text directory = LowerCase(ScriptDirectory(run));
+    const std::vector<Script> scripts = CollectScripts(run, *stored, directory);
+
+    ListBox& list = lists.Script_Cbo;
+    list.Clear();
+    lists.HiddenScripts.clear();
+    Text all;
+    for (const Script& script : scripts) {
+        const Text record = Join(script.Title, ";", script.Path);
+        AppendRecord(all, record);
+        if (DirectoryOf(script.Path) == directory) {
+            list.Items.push_back(MakeItem(script.Title, script.Path));
+        } else {
+            AppendRecord(lists.HiddenScripts, record);
+        }
+    }
+    StoreCatalog(run, kScripts.Key, all);
+    list.ListIndex = RememberedRow(run, list);
+    lists.Script_Chk.Value = StoredCheck(run, "UseScripts", 0);
+    return true;
+}
+
+}  // namespace lv

@@ -1,0 +1,24 @@
+// catalogs/scripts.h
+//
+// The catalog of player scripts. The list shows those in the current game's script directory.
+
+#pragma once
+
+#include "catalogs/catalog_lists.h"
+
+namespace lv {
+
+/// Where the current game's scripts lie: the data directory in use, for Unreal the executable's own.
+Text ScriptDirectory(const Run& run);
+
+/// The key in section "DefaultScript" under which the current game directory remembers its script.
+Text DefaultScriptKey(const Run& run);
+
+/// Drops the records whose file is gone. False if the program ended over a damaged value.
+bool FixScriptRegistries(Run& run);
+
+/// Adds the scripts found on the disk to the catalog, drops its duplicates, fills the list and selects the remembered
+/// script. All stored paths become lower case. False if the program ended over a damaged value.
+bool FillScriptsCombo(Run& run, CatalogLists& lists);
+
+}  // namespace lv

@@ -1,0 +1,152 @@
+#include "platform/linux/batch_plan.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace lv {
+
+namespace {
+
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+std::string_view Trim(std::string_view text) {
+    while (!text.empty() && IsBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+char Upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+// `upper` in ASCII capitals.
+bool SaysBlindToCase(std::string_view text, std::string_view upper) {
+    return text.size() == upper.size() &&
+           std::equal(text.begin(), text.end(), upper.begin(), [](char a, char b) { return Upper(a) == b; });
+}
+
+bool StartsBlindToCase(std::string_view text, std::string_view upper) {
+    return SaysBlindToCase(text.substr(0, upper.size()), upper);
+}
+
+// What stands behind the word and the blank after it; nothing if the line is another.
+std::string_view Behind(std::string_view line, std::string_view word) {
+    return StartsBlindToCase(line, word) && line.size() > word.size() && IsBlank(line[word.size()])
+               ? line.substr(word.size() + 1)
+               : std::string_view();
+}
+
+BatchLineKind KindOf(std::string_view line) {
+    const std::string_view trimmed = Trim(line);
+    if (trimmed.empty()) {
+        return BatchLineKind::kNothing;
+    }
+    if (SaysBlindToCase(trimmed, "SET") || SaysBlindToCase(trimmed, "PAUSE")) {
+        return BatchLineKind::kShow;
+    }
+    if (Behind(line, "SET").find('=') != std::string_view::npos) {
+        return BatchLineKind::kSet;
+    }
+    if (trimmed.size() == 2 && trimmed[1] == ':' && Upper(trimmed[0]) >= 'A' && Upper(trimmed[0]) <= 'Z') {
+        return BatchLineKind::kDrive;
+    }
+    return Trim(Behind(line, "CD")).empty() ? BatchLineKind::kCommand : BatchLineKind::kDirectory;
+}
+
+std::string_view WithoutQuotes(std::string_view text) {
+    if (text.size() >= 2 && text.front() == '"' && text.back() == '"') {
+        return text.substr(1, text.size() - 2);
+    }
+    return text;
+}
+
+// Backslashes at `at`, then perhaps a quote: appends what they stand for and says how many characters were used.
+std::size_t TakeBackslashes(std::string_view text, std::size_t at, std::string& word) {
+    const std::size_t end = std::min(text.find_first_not_of('\\', at), text.size());
+    const std::size_t count = end - at;
+    if (end == text.size() || text[end] != '"') {
+        word.append(count, '\\');
+        return count;
+    }
+    word.append(count / 2, '\\');
+    if (count % 2 == 0) {
+        return count;
+    }
+    word += '"';
+    return count + 1;
+}
+
+}  // namespace
+
+std::vector<BatchLine> ReadBatchLines(std::string_view text) {
+    std::vector<BatchLine> lines;
+    bool inCommand = false;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        if (!line.empty() && line.back() == '\r') {
+            line.remove_suffix(1);
+        }
+        const BatchLineKind kind = inCommand ? BatchLineKind::kCommand : KindOf(line);
+        inCommand = kind == BatchLineKind::kCommand || kind == BatchLineKind::kDirectory;
+        lines.push_back({kind, std::string(line)});
+    }
+    return lines;
+}
+
+BatchPlan ParseBatch(std::string_view text) {
+    BatchPlan plan;
+    for (const BatchLine& line : ReadBatchLines(text)) {
+        const std::string_view whole = line.Text;
+        if (line.Kind == BatchLineKind::kSet) {
+            const std::string_view setting = Behind(whole, "SET");
+            const std::size_t equals = setting.find('=');
+            plan.environment.emplace_back(Trim(setting.substr(0, equals)), setting.substr(equals + 1));
+        } else if (line.Kind == BatchLineKind::kShow) {
+            plan.showsEnvironment = true;
+        } else if (line.Kind == BatchLineKind::kDrive) {
+            plan.drive = Trim(whole);
+        } else if (line.Kind == BatchLineKind::kDirectory) {
+            plan.directory = WithoutQuotes(Trim(Behind(whole, "CD")));
+        } else if (line.Kind == BatchLineKind::kCommand && !Trim(whole).empty()) {
+            plan.command += (plan.command.empty() ? "" : " ") + std::string(Trim(whole));
+        }
+    }
+    return plan;
+}
+
+std::vector<std::string> SplitArguments(std::string_view command) {
+    std::vector<std::string> words;
+    std::size_t at = 0;
+    while (true) {
+        at = std::min(command.find_first_not_of(" \t", at), command.size());
+        if (at == command.size()) {
+            return words;
+        }
+        std::string word;
+        bool grouped = false;
+        while (at < command.size() && (grouped || !IsBlank(command[at]))) {
+            if (command[at] == '\\') {
+                at += TakeBackslashes(command, at, word);
+            } else if (command[at] != '"') {
+                word += command[at++];
+            } else if (grouped && at + 1 < command.size() && command[at + 1] == '"') {
+                word += '"';
+                at += 2;
+            } else {
+                grouped = !grouped;
+                ++at;
+            }
+        }
+        words.push_back(std::move(word));
+    }
+}
+
+}  // namespace lv

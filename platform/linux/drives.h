@@ -1,0 +1,34 @@
+// platform/linux/drives.h
+//
+// Drives on a system that has none: one entry a drive in a directory of the user's, named as Wine names them ("c:",
+// "d:"), each a directory or a link to one. A letter missing there is looked for in the Wine prefix.
+
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/error.h"
+
+namespace lv {
+
+struct DriveDirectories {
+    std::filesystem::path drives;            // holds "c:" and its like; "drive_c" is made beside it
+    std::filesystem::path winePrefix;        // its "dosdevices" is looked at, never written
+    std::filesystem::path programDirectory;  // where the program and its data lie
+};
+
+/// Makes "c:", a link to the plain directory "drive_c" beside `drives`, and "z:", a link to "/", if `drives` is not
+/// there yet or empty. An existing set of drives is the user's own and stays as it is.
+Error MakeFirstDrives(const DriveDirectories& directories);
+
+/// The entry of the drive, which may be a link that leads nowhere now. Nothing if there is no such drive, and always
+/// for "A" and "B", which are never touched.
+std::optional<std::string> DriveEntry(const DriveDirectories& directories, char letter);
+
+/// Upper case, in order.
+std::vector<char> DriveLetters(const DriveDirectories& directories);
+
+}  // namespace lv

@@ -1,0 +1,20 @@
+// platform/linux/host_file.h
+//
+// Small files that a start writes for another program to read: in the cache directory, replaced in one step.
+
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+#include "platform/error.h"
+
+namespace lv {
+
+/// Makes the directories above the file as needed. The error's text names the file.
+Error WriteHostFile(const std::filesystem::path& path, std::string_view bytes);
+
+/// Deletes the files in `directory` whose names start with `start` and that nobody has written for `days`.
+void DropOldHostFiles(const std::filesystem::path& directory, std::string_view start, int days);
+
+}  // namespace lv

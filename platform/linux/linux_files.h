@@ -1,0 +1,65 @@
+// platform/linux/linux_files.h
+//
+// Files under the games' own paths on a system that has neither drives nor names blind to letter case.
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "platform/files.h"
+#include "platform/linux/drives.h"
+#include "platform/linux/host_names.h"
+
+namespace lv {
+
+/// The current directory is the program's own: the process's is never changed, and starts as "C:\".
+/// A file without permission to write is as good as read-only: it is neither replaced nor deleted (75), though the
+/// host would allow that to the owner of its directory.
+class LinuxFiles : public Files {
+  public:
+    /// Makes the first drives if need be.
+    explicit LinuxFiles(DriveDirectories directories);
+
+    /// What kept the first drives from being made, if anything did.
+    [[nodiscard]] const Error& FirstDrivesFault() const { return firstDrives_; }
+
+    std::vector<std::string> Drives() override;
+    Error ProbeDrive(std::string_view drive) override;
+    bool FileExists(std::string_view path) override;
+    bool DirectoryExists(std::string_view path) override;
+    Result<std::vector<DirectoryEntry>> List(std::string_view directory) override;
+    Result<std::string> Read(std::string_view path) override;
+    Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) override;
+    Error Replace(std::string_view path, std::string_view bytes) override;
+    Error Copy(std::string_view from, std::string_view to) override;
+    Error Delete(std::string_view path) override;
+    Error MakeDirectory(std::string_view path) override;
+    Error RemoveDirectory(std::string_view path) override;
+    std::string CurrentDirectory() override { return PutTogether(current_); }
+    Error ChangeDrive(std::string_view drive) override;
+    Error ChangeDirectory(std::string_view path) override;
+    std::string ProgramDirectory() override;
+
+    /// The drive's own directory with all links of it followed, and below it the names as they are found.
+    std::string ToHost(std::string_view path) override;
+
+    /// Links on the way are followed, and so is a link to a directory at the end; a link to a file stays, for a game
+    /// lies where its link lies.
+    std::string FromHost(std::string_view hostPath) override;
+
+  private:
+    struct Place {
+        DrivePath Path;
+        std::string Root;  // the drive's entry
+        std::string Host;  // the whole host path
+    };
+    [[nodiscard]] std::optional<Place> Find(std::string_view path) const;
+
+    DriveDirectories directories_;
+    Error firstDrives_;
+    DrivePath current_;
+};
+
+}  // namespace lv

@@ -1,0 +1,188 @@
+#include "platform/linux/linux_processes.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+
+#include "platform/code_page.h"
+#include "platform/linux/dosbox_road.h"
+#include "platform/linux/native_road.h"
+#include "platform/linux/user_directories.h"
+#include "platform/linux/wine_road.h"
+
+namespace lv {
+
+namespace {
+
+class HostFile : public RandomAccessFile {
+  public:
+    explicit HostFile(const std::string& path) : in_(path, std::ios::binary | std::ios::ate) {
+        const std::streamoff end = in_ ? static_cast<std::streamoff>(in_.tellg()) : 0;
+        size_ = end > 0 ? static_cast<std::uint64_t>(end) : 0;
+    }
+    [[nodiscard]] std::uint64_t Size() const override { return size_; }
+    Result<std::string> Read(std::uint64_t offset, std::size_t count) override {
+        std::string bytes(count, '\0');
+        in_.clear();
+        in_.seekg(static_cast<std::streamoff>(offset));
+        in_.read(bytes.data(), static_cast<std::streamsize>(count));
+        bytes.resize(static_cast<std::size_t>(in_.gcount()));
+        return bytes;
+    }
+
+  private:
+    std::ifstream in_;
+    std::uint64_t size_ = 0;
+};
+
+Error UnknownKind(std::string_view path) {
+    return {error::kPathFileAccess, "This is no program for Linux, Windows or DOS: " + std::string(path)};
+}
+
+std::string HostProgram(Files& disk, const HostPlaces& places, std::string_view program) {
+    if (program.starts_with('/')) {
+        return ToUtf8(program);
+    }
+    const bool isPath = program.find('\\') != std::string_view::npos || program.find(':') != std::string_view::npos;
+    return isPath ? disk.ToHost(program) : FindOnPath(places.SearchPath, ToUtf8(program));
+}
+
+bool HasExeName(std::string_view program) {
+    return program.size() > 4 && SameText(program.substr(program.size() - 4), ".exe");
+}
+
+// An argument that is the full path of a file or a directory on the drives names it as the program will know it.
+std::string HostArgument(Files& disk, const HostPlaces& places, const std::string& argument, bool forWine) {
+    const bool fullPath = argument.size() > 2 && argument[1] == ':' && argument[2] == '\\';
+    if (!fullPath || (!disk.FileExists(argument) && !disk.DirectoryExists(argument))) {
+        return ToUtf8(argument);
+    }
+    const std::string host = disk.ToHost(argument);
+    return forWine ? WinePathOf(places.WinePrefix, host).value_or(host) : host;
+}
+
+// The words of a command line, each in quotes where blanks would part it.
+std::string Quoted(const std::vector<std::string>& words) {
+    std::string line;
+    for (const std::string& word : words) {
+        const bool quote = word.empty() || word.find_first_of(" \t") != std::string::npos;
+        line += (line.empty() ? "" : " ") + (quote ? "\"" + word + "\"" : word);
+    }
+    return line;
+}
+
+}  // namespace
+
+HostPlaces LinuxProcesses::Places() const {
+    HostPlaces places = places_;
+    if (places.SearchPath.empty()) {
+        const char* path = std::getenv("PATH");
+        places.SearchPath = path != nullptr ? path : "/usr/local/bin:/usr/bin:/bin:/usr/local/games:/usr/games";
+    }
+    if (places.Cache.empty()) {
+        places.Cache = CacheDirectory();
+    }
+    if (places.WinePrefix.empty()) {
+        places.WinePrefix = WinePrefix();
+    }
+    if (places.PauseHelper.empty()) {
+        places.PauseHelper = ProgramFileDirectory() / "lorvane3d-pause";
+    }
+    return places;
+}
+
+Result<HostCommand> LinuxProcesses::ByRoad(const GameStart& start) {
+    switch (KindOfProgramAt(disk_, start.Game.Program.Path)) {
+        case ProgramKind::kNative:
+            return NativeRoad(disk_, start);
+        case ProgramKind::kWindows:
+        case ProgramKind::kBatch:
+            return WineRoad(disk_, start);
+        case ProgramKind::kDos:
+            return DosBoxRoad(disk_, start);
+        case ProgramKind::kUnknown:
+            break;
+    }
+    return UnknownKind(start.Game.Program.Path);
+}
+
+Result<HostCommand> LinuxProcesses::PlanBatch(std::string_view directory, std::string_view name) {
+    GameStart start;
+    start.Places = Places();
+    start.Environment = OwnEnvironment();
+    start.BatchPath = JoinPath(JoinPath(disk_.CurrentDirectory(), directory), name);
+    Result<std::string> text = disk_.Read(start.BatchPath);
+    if (!text.Ok()) {
+        return MakeError(text.Fault.Number, start.BatchPath);
+    }
+    start.BatchText = std::move(text.Value);
+    start.Plan = ParseBatch(start.BatchText);
+    if (start.Plan.command.empty()) {
+        return Error{error::kInvalidCall, "There is no command in " + start.BatchPath};
+    }
+    const std::string& drive = start.Plan.drive;
+    const std::string base = drive.empty() ? JoinPath(disk_.CurrentDirectory(), directory) : drive + "\\";
+    start.Directory = start.Plan.directory.empty() ? JoinPath(disk_.CurrentDirectory(), directory)
+                                                   : JoinPath(base, start.Plan.directory);
+    if (!disk_.DirectoryExists(start.Directory)) {
+        return MakeError(error::kPathNotFound, start.Directory);
+    }
+    Result<FoundGame> game = FindGame(disk_, start.Directory, start.Plan.command);
+    if (!game.Ok()) {
+        return game.Fault;
+    }
+    start.Game = std::move(game.Value);
+    return ByRoad(start);
+}
+
+Result<HostCommand> LinuxProcesses::PlanProgram(std::string_view program, const std::vector<std::string>& arguments) {
+    const HostPlaces places = Places();
+    const std::string host = HostProgram(disk_, places, program);
+    HostFile file(host);
+    const bool found = !host.empty() && file.Size() > 0;
+    // A name like "notepad.exe" that this system does not know is one that Wine may.
+    const bool isName = program.find_first_of("\\/:") == std::string_view::npos;
+    const bool onlyWineMayKnow = !found && isName && HasExeName(program);
+    if (!found && !onlyWineMayKnow) {
+        return MakeError(error::kFileNotFound, std::string(program));
+    }
+    const ProgramKind kind = onlyWineMayKnow ? ProgramKind::kWindows : KindOfProgram(file, host);
+    const bool forWine = kind == ProgramKind::kWindows || kind == ProgramKind::kBatch;
+    HostCommand command{host, {}, OwnEnvironment(), disk_.ToHost(disk_.CurrentDirectory())};
+    for (const std::string& argument : arguments) {
+        command.Arguments.push_back(HostArgument(disk_, places, argument, forWine));
+    }
+    if (kind == ProgramKind::kNative) {
+        return command;
+    }
+    if (forWine) {
+        command.Arguments.insert(command.Arguments.begin(), found ? host : ToUtf8(program));
+        Result<HostCommand> wine = WineCommand(places, std::move(command.Environment), std::move(command.Arguments));
+        wine.Value.Directory = command.Directory;
+        return wine;
+    }
+    const std::string path = disk_.FromHost(host);
+    const std::size_t slash = path.rfind('\\');
+    if (kind != ProgramKind::kDos || slash == std::string::npos) {
+        return UnknownKind(program);
+    }
+    GameStart start;
+    start.Places = places;
+    start.Environment = std::move(command.Environment);
+    start.Directory = path.substr(0, std::max<std::size_t>(slash, 3));
+    start.Game.Command = Quoted(arguments);
+    start.Game.Command.insert(0, path.substr(slash + 1) + (arguments.empty() ? "" : " "));
+    return DosBoxRoad(disk_, start);
+}
+
+Error LinuxProcesses::StartBatch(std::string_view directory, std::string_view name) {
+    const Result<HostCommand> command = PlanBatch(directory, name);
+    return command.Ok() ? StartDetached(command.Value) : command.Fault;
+}
+
+Error LinuxProcesses::StartProgram(std::string_view program, const std::vector<std::string>& arguments) {
+    const Result<HostCommand> command = PlanProgram(program, arguments);
+    return command.Ok() ? StartDetached(command.Value) : command.Fault;
+}
+
+}  // namespace lv

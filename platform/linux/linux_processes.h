@@ -1,0 +1,41 @@
+// platform/linux/linux_processes.h
+//
+// Starting games and other programs on Linux. The batch that a launch writes is read, the program that its command
+// names is looked at, and one of three roads is taken: a program of this system is started directly with the batch's
+// environment, directory and arguments; a Windows program's batch is run by Wine; a DOS program runs in DOSBox.
+// What is started has forgotten this program: it lives on when this one ends and leaves no zombie behind.
+// No text of a batch ever reaches a shell of the host.
+// Whether the first program on the road could be started is known on return; what it does then is not.
+
+#pragma once
+
+#include "platform/files.h"
+#include "platform/linux/game_start.h"
+#include "platform/processes.h"
+
+namespace lv {
+
+class LinuxProcesses : public Processes {
+  public:
+    /// The files must outlive this. `places` is for tests; what is left empty there is asked of the environment at
+    /// each start.
+    explicit LinuxProcesses(Files& disk, HostPlaces places = {}) : disk_(disk), places_(std::move(places)) {}
+
+    Error StartBatch(std::string_view directory, std::string_view name) override;
+    /// `program` may also be an absolute path of the host. A name alone is searched on PATH.
+    Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
+
+    /// What StartBatch would start.
+    Result<HostCommand> PlanBatch(std::string_view directory, std::string_view name);
+    /// What StartProgram would start.
+    Result<HostCommand> PlanProgram(std::string_view program, const std::vector<std::string>& arguments);
+
+  private:
+    [[nodiscard]] HostPlaces Places() const;
+    Result<HostCommand> ByRoad(const GameStart& start);
+
+    Files& disk_;
+    HostPlaces places_;
+};
+
+}  // namespace lv

@@ -1,0 +1,28 @@
+// platform/linux/replace_file.h
+//
+// Files of the host replaced in one step: written beside the old one, synced and renamed.
+
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/error.h"
+
+namespace lv {
+
+/// Puts bytes into the file that is being made; an `errno`, or 0.
+using FileFiller = std::function<int(int descriptor)>;
+
+/// Makes the file at `hostPath` hold what `fill` writes. After a crash at any moment there is the old file or the new
+/// one; when it returns without error the new one outlives a loss of power. An old file's mode bits stay, and its owner
+/// where that is allowed; a new file gets `mode` less the user's mask. A link stays a link: what it leads to is
+/// replaced. A failure leaves the old file and nothing beside it. Errors: 76 no such directory, 75 a directory, a
+/// device or a file without permission to write, 70 no access, 61 disk full, 57 device.
+Error ReplaceHostFile(const std::string& hostPath, unsigned mode, const FileFiller& fill);
+
+/// Writes all of it; an `errno`, or 0.
+int WriteAll(int descriptor, std::string_view bytes);
+
+}  // namespace lv
