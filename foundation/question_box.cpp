@@ -12,7 +12,9 @@ namespace {
 constexpr double kMostOfScreen = 0.8;
 
 /// The captions as the user sees them, without the mark of the access key.
-Text Shown(TextView caption) { return ReplaceText(caption, "&", ""); }
+Text Shown(TextView caption) {
+    return ReplaceText(caption, "&", "");
+}
 
 struct Measure {
     int Width = 0;
@@ -36,18 +38,24 @@ Measure MeasureText(TextView text, UserInterface& user) {
     return measured;
 }
 
+Index Show(Run& run, QuestionBox_Frm& box) {
+    LayOutQuestionBox(box, run.User);
+    const TopmostSuspension dialog(run);
+    run.User.ShowQuestionBox(box);
+    return static_cast<Index>(box.LastButton);
+}
+
 Index Ask(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon, bool mayBeLast) {
     if (title.empty()) {
         title = run.AppName;
     }
     QuestionBox_Frm box = MakeQuestionBox(title, text, buttons, defaultButton, icon);
     box.NotAgain_Chk.Visible = mayBeLast;
-    LayOutQuestionBox(box, run.User);
-    run.User.ShowQuestionBox(box);
+    const Index pressed = Show(run, box);
     if (mayBeLast) {
         run.ShowAgain = box.LastNotAgain;
     }
-    return static_cast<Index>(box.LastButton);
+    return pressed;
 }
 
 }  // namespace
@@ -100,7 +108,9 @@ void QuestionBox_Button_Cmd_Click(QuestionBox_Frm& box, int index) {
     }
 }
 
-void QuestionBox_Question_Txt_Change(QuestionBox_Frm& box, TextBox& shown) { shown.Text = box.Question_Txt.Text; }
+void QuestionBox_Question_Txt_Change(QuestionBox_Frm& box, TextBox& shown) {
+    shown.Text = box.Question_Txt.Text;
+}
 
 Index AskUser(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon) {
     return Ask(run, title, text, buttons, defaultButton, icon, false);
@@ -109,6 +119,13 @@ Index AskUser(Run& run, Text& title, TextView text, TextView buttons, int defaul
 Index AskUser(Run& run, const char* title, TextView text, TextView buttons, int defaultButton, int icon) {
     Text own = title;
     return Ask(run, own, text, buttons, defaultButton, icon, false);
+}
+
+Index AskUserFixedWidth(Run& run, const char* title, TextView text, TextView buttons, int defaultButton, int icon) {
+    QuestionBox_Frm box =
+        MakeQuestionBox(*title == '\0' ? run.AppName : Text(title), text, buttons, defaultButton, icon);
+    box.FixedWidth = true;
+    return Show(run, box);
 }
 
 Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon) {

@@ -15,6 +15,10 @@ namespace lv {
 constexpr TextView kOptions = "Options";  // the section of the program's own settings and of the Base profile
 constexpr TextView kStuff = "LV-Stuff";   // the section of what the program notes about its runs
 
+/// By game kind; 7 and 8 are not in use.
+constexpr TextView kGameKindNames[] = {"Unknown", "Quake",    "Hexen2", "Quake2", "Unreal",
+                                       "Sin",     "Heretic2", "",       "",       "Half-Life"};
+
 /// The product's page on the web.
 constexpr TextView kHomePage = "https://lorvane3d.example/";
 

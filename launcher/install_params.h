@@ -37,4 +37,7 @@ void InstallParams_OK_Cmd_Click(Run& run, InstallParams_Frm& form, int index);
 /// Shows the dialog until it is accepted. False if the user ended the program instead.
 bool AskForChipset(Run& run);
 
+/// Setup was cancelled: "&OK" ends the program and gives false, "&Not OK" shows what was cancelled again.
+bool GoOnAfterCancel(Run& run);
+
 }  // namespace lv

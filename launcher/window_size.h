@@ -60,7 +60,7 @@ void ShowAll_Bar_Click(Launcher& launcher, int index);
 void NextSize(Launcher& launcher);
 
 /// The form's size or state changed; `windowState` as in WindowPlacement. Minimising hides the window; any other
-/// state shows it again once it is loaded. A size that the program did not set starts Size_Tmr.
+/// state shows a hidden one again once it is loaded. A size that the program did not set starts Size_Tmr.
 void LV_Frm_Resize(Launcher& launcher, int windowState, PixelSize now);
 
 /// Puts the remembered size back; stops itself once `now`, the form's size, is that size.

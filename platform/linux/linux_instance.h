@@ -36,7 +36,6 @@ class LinuxInstance : public SingleInstance {
 
   private:
     bool Listen();
-    bool AskTheOther();
 
     std::string name_;
     int listener_ = -1;

@@ -8,6 +8,7 @@ namespace lv {
 LauncherTest::LauncherTest() {
     run.AppDirectory = "C:\\LORVANE";
     system.Disk.AddDirectory("C:\\LORVANE");
+    Save(run, "LV-Stuff", "FirstTime", 0);
     Save(run, "LV-Stuff", "VP_Version", 1);
     Save(run, "LV-Stuff", "NVC_Version", 1);
     Save(run, kOptions, "VideoProfileList", "Base;Optimize for Speed;Optimize for Beauty;Default");
@@ -40,7 +41,17 @@ void LauncherTest::AddGames() {
     Save(run, kOptions, "Games", "Capture the Flag;-game CTF;Base;-game ID1;Base 2;-game BASEQ2;Life;-game VALVE");
 }
 
-void LauncherTest::Load() { ASSERT_TRUE(LV_Frm_Load(launcher)); }
+void LauncherTest::Load() {
+    if (Stored(kOptions, "Executables") == "(none)") {
+        ExpectEmptyListQuestion();
+    }
+    ASSERT_TRUE(LV_Frm_Load(launcher));
+}
+
+void LauncherTest::ExpectEmptyListQuestion(int answer) {
+    user.Expect({"Executables List Is Empty", "Would you like to set up your game executables?", answer, false, true,
+                 "&Yes,&No"});
+}
 
 void LauncherTest::PickExe(TextView path) {
     const auto& items = window.Exe_Cbo.Items;
