@@ -26,9 +26,10 @@ std::optional<PakHeader> ReadPakHeader(TextView header, TextView magic) {
 }
 
 std::uint32_t PakEntryCount(std::uint32_t length) {
-    const std::uint32_t whole = length / kPakEntrySize;
-    const std::uint32_t rest = length % kPakEntrySize;
-    const bool up = rest > kPakEntrySize / 2 || (rest == kPakEntrySize / 2 && whole % 2 == 1);
+    constexpr std::uint32_t kSize = kPakEntrySize;
+    const std::uint32_t whole = length / kSize;
+    const std::uint32_t rest = length % kSize;
+    const bool up = rest > kSize / 2 || (rest == kSize / 2 && whole % 2 == 1);
     return whole + (up ? 1 : 0);
 }
 

@@ -29,17 +29,17 @@ struct Run {
     UserInterface& User;
 
     Text AppName = "Lorvane 3D";
-    Text VersionText;        // "1.06.0112 <Beta>", set at the start
-    Text MainWindowCaption;  // set at the start
+    Text VersionText{};        // "1.06.0112 <Beta>", set at the start
+    Text MainWindowCaption{};  // set at the start
     lv::Text HomePage{kHomePage};
-    Text AppDirectory;
+    Text AppDirectory{};
 
     // Set by the change of game.
     Index GameKind = 0;  // 0 none, 1 Quake, 2 Hexen II, 3 Quake II, 4 Unreal, 5 Sin, 6 Heretic II, 9 Half-Life
     Index ScriptFamily = 0;
-    Text DefaultGameDirectory;  // no trailing "\"
-    Text BaseGameDir;
-    Text CurrentGameDir;
+    Text DefaultGameDirectory{};  // no trailing "\"
+    Text BaseGameDir{};
+    Text CurrentGameDir{};
     bool IsQuakeWorld = false;
     bool IsHexenWorld = false;
     bool IsMissionPack = false;
@@ -51,7 +51,7 @@ struct Run {
 
     bool ShowAgain = true;  // outcome of AskUserOnce
     bool MainFormLoaded = false;
-    TopmostState Topmost;
+    TopmostState Topmost{};
     bool Ended = false;  // the program is over: handlers return, the event loop ends
 };
 

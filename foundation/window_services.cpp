@@ -16,8 +16,8 @@ namespace {
 constexpr double kMostOfScreen = 0.95;
 constexpr double kWidestScreen = 100000;  // pixels
 
-// The manual of the home system, and the same as pages for a browser.
-constexpr std::array<TextView, 2> kHelpFiles = {"\\LV3D.hlp", "\\LV3D.html"};
+// The manual of the home system, and the handbook for the toolkit's own viewer.
+constexpr std::array<TextView, 2> kHelpFiles = {"\\LV3D.hlp", "\\handbook\\handbook.hhp"};
 constexpr TextView kUsualDirectory = "C:\\Progra~1\\ostran~1\\lorvan~1";
 
 /// Whole numbers have no point.

@@ -68,7 +68,7 @@ bool Binder::Show() {
 
 void Binder::Bind(const char* name, CheckBox& model, wxCheckBox* view, Handler click) {
     view->Bind(wxEVT_CHECKBOX, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
-        model.Value = view->IsChecked() ? 1 : 0;
+        model.Value = view->Get3StateValue() == wxCHK_CHECKED ? 1 : 0;
         Run(click);
     });
     Add(name, model, view, [&model, view] {

@@ -34,8 +34,13 @@ int MakeStagedDrives(const fs::path& staged) {
 
 Error MakeFirstDrives(const DriveDirectories& directories) {
     std::error_code failed;
-    if (fs::exists(directories.drives, failed) && !fs::is_empty(directories.drives, failed)) {
-        return ErrorOf(failed.value());
+    if (fs::exists(directories.drives, failed)) {
+        if (!fs::is_directory(directories.drives, failed)) {
+            return ErrorOf(ENOTDIR);
+        }
+        if (!fs::is_empty(directories.drives, failed)) {
+            return ErrorOf(failed.value());
+        }
     }
     const fs::path home = directories.drives.parent_path();
     fs::create_directories(home / "drive_c", failed);

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <ctime>
 
 #include "platform/code_page.h"
@@ -19,7 +20,7 @@ constexpr nl_item kMonths[] = {MON_1, MON_2, MON_3, MON_4, MON_5, MON_6, MON_7, 
 // A locale's text in UTF-8; as it is if its encoding is not known here.
 std::string LocaleTextToUtf8(std::string text, const char* encoding) {
     const iconv_t converter = iconv_open("UTF-8", encoding);
-    if (converter == reinterpret_cast<iconv_t>(-1)) {
+    if (reinterpret_cast<std::intptr_t>(converter) == -1) {
         return text;
     }
     std::string utf8(text.size() * 4 + 16, '\0');

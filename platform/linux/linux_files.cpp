@@ -223,7 +223,7 @@ Error LinuxFiles::RemoveDirectory(std::string_view path) {
 }
 
 Error LinuxFiles::ChangeDrive(std::string_view drive) {
-    if (const Error failed = ProbeDrive(drive)) {
+    if (Error failed = ProbeDrive(drive)) {
         return failed;
     }
     const char letter = UpperCase(drive[0]);

@@ -180,14 +180,14 @@ void ReadValueLine(std::string_view line, RegistryKey& key) {
     }
 }
 
-// The lines without their ends; one that goes on behind a "\" is joined with the next, less its indent.
+// The lines without their ends; one that goes on behind a "\" is joined with the next, less its indent. A line that
+// does not end is what is left of one.
 std::vector<std::string> Lines(std::string_view text) {
     std::vector<std::string> lines;
     bool goesOn = false;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
+    for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {
         std::string_view line = text.substr(0, end);
-        text.remove_prefix(std::min(end + 1, text.size()));
+        text.remove_prefix(end + 1);
         if (line.ends_with('\r')) {
             line.remove_suffix(1);
         }
@@ -200,6 +200,9 @@ std::vector<std::string> Lines(std::string_view text) {
         }
         // A text in quotes ends in its quote, so this can only be data in hex.
         goesOn = line.ends_with('\\');
+    }
+    if (goesOn) {
+        lines.pop_back();
     }
     return lines;
 }

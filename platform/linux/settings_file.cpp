@@ -7,7 +7,7 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdio>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <system_error>
@@ -23,8 +23,12 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kLayout = 1;
-constexpr std::size_t kHeaderSize = 100;
-constexpr std::size_t kVersionOffset = 60;  // of the header, four bytes, the highest first
+
+// The head of a SQLite 3 file, and the offsets of what is looked at in it: numbers with the highest byte first.
+using Head = std::array<unsigned char, 100>;
+constexpr std::size_t kPageOffset = 16;     // bytes in a page, two bytes; 1 is 65,536
+constexpr std::size_t kPagesOffset = 28;    // pages in the file, four bytes
+constexpr std::size_t kVersionOffset = 60;  // user_version, four bytes
 
 constexpr const char* kSchema = R"(
 CREATE TABLE setting(
@@ -100,6 +104,34 @@ Error CheckPlace(const fs::path& file) {
     return {};
 }
 
+bool HasLog(const fs::path& file) {
+    std::error_code failed;
+    for (const char* const end : {"-wal", "-journal"}) {
+        const auto size = fs::file_size(file.string() + end, failed);
+        if (!failed && size > 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool IsShort(const Head& head, const fs::path& file) {
+    const unsigned page = static_cast<unsigned>(head[kPageOffset] << 8 | head[kPageOffset + 1]);
+    std::uintmax_t pages = 0;
+    for (std::size_t i = 0; i < 4; ++i) {
+        pages = pages << 8 | head[kPagesOffset + i];
+    }
+    std::error_code failed;
+    const std::uintmax_t size = fs::file_size(file, failed);
+    return !failed && size < pages * (page == 1 ? 65536 : page);
+}
+
+// SQLite fills up a last page that is cut off with zeros, and a value with them. With a log beside the file the rest
+// may lie there; another program may be moving it into the file at this moment, so the size is looked at again.
+bool IsCutOff(const Head& head, const fs::path& file) {
+    return IsShort(head, file) && !HasLog(file) && IsShort(head, file);
+}
+
 // Looks at the file's head itself: SQLite would touch what lies beside the file before it refuses.
 Error CheckHead(const fs::path& file) {
     struct stat info {};
@@ -107,13 +139,16 @@ Error CheckHead(const fs::path& file) {
         return NoDatabase(file);
     }
     const FileDescriptor opened(open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    std::array<unsigned char, kHeaderSize> head{};
+    Head head{};
     const ssize_t got = opened.IsOpen() ? read(opened.Number(), head.data(), head.size()) : -1;
     if (got == 0) {
         return {};
     }
     if (got != static_cast<ssize_t>(head.size()) || std::memcmp(head.data(), "SQLite format 3", 16) != 0) {
         return NoDatabase(file);
+    }
+    if (IsCutOff(head, file)) {
+        return Damaged(file);
     }
     const unsigned char* v = head.data() + kVersionOffset;
     const bool newer = v[0] < 0x80 && (v[0] != 0 || v[1] != 0 || v[2] != 0 || v[3] > kLayout);
@@ -137,10 +172,22 @@ std::string Ask(sqlite3* database, const char* sql) {
     return answer;
 }
 
+// What SQLite itself says against the file.
+Error RefusedBySqlite(sqlite3* database, const fs::path& file) {
+    switch (sqlite3_errcode(database)) {
+        case SQLITE_NOTADB:
+            return NoDatabase(file);
+        case SQLITE_CORRUPT:
+            return Damaged(file);
+        default:
+            return Refusal(FaultOf(database).Number, file, FromUtf8Lossy(sqlite3_errmsg(database)) + ".");
+    }
+}
+
 // Two first starts at once: the second one waits for the first and finds its table.
 Error MakeTable(sqlite3* database, const fs::path& file) {
     if (!Execute(database, "BEGIN IMMEDIATE")) {
-        return Refusal(FaultOf(database).Number, file, FromUtf8Lossy(sqlite3_errmsg(database)) + ".");
+        return RefusedBySqlite(database, file);
     }
     const bool stillEmpty = Ask(database, "SELECT count(*) FROM sqlite_master") == "0";
     if ((stillEmpty && !Execute(database, kSchema)) || !Execute(database, "COMMIT")) {
@@ -151,27 +198,51 @@ Error MakeTable(sqlite3* database, const fs::path& file) {
     return {};
 }
 
-Error CheckLayout(sqlite3* database, const fs::path& file) {
-    const std::string version = Ask(database, "PRAGMA user_version");
-    if (version.empty()) {
-        const int code = sqlite3_errcode(database);
-        return code == SQLITE_NOTADB ? NoDatabase(file)
-               : code == SQLITE_CORRUPT
-                   ? Damaged(file)
-                   : Refusal(FaultOf(database).Number, file, FromUtf8Lossy(sqlite3_errmsg(database)) + ".");
+struct Layout {
+    std::string Version;
+    std::string Tables;
+    std::string Columns;
+    std::string Check;
+};
+
+// All of one moment, for another program may be making the table.
+Result<Layout> ReadLayout(sqlite3* database, const fs::path& file) {
+    if (!Execute(database, "BEGIN")) {
+        return RefusedBySqlite(database, file);
     }
-    if (version.size() > 1 ? version[0] != '-' : version[0] > '0' + kLayout) {
+    Layout layout;
+    layout.Version = Ask(database, "PRAGMA user_version");
+    Error fault = layout.Version.empty() ? RefusedBySqlite(database, file) : Error();
+    if (!fault) {
+        layout.Tables = Ask(database, "SELECT count(*) FROM sqlite_master");
+        layout.Columns = Ask(database, "SELECT group_concat(name || ' ' || pk) FROM pragma_table_info('setting')");
+        layout.Check = Ask(database, "PRAGMA quick_check(1)");
+        fault = layout.Check.empty() ? RefusedBySqlite(database, file) : Error();
+    }
+    Execute(database, "COMMIT");
+    return fault ? Result<Layout>(fault) : layout;
+}
+
+Error CheckLayout(sqlite3* database, const fs::path& file) {
+    Result<Layout> read = ReadLayout(database, file);
+    if (read.Ok() && read.Value.Version == "0" && read.Value.Tables == "0") {
+        if (Error failed = MakeTable(database, file)) {
+            return failed;
+        }
+        read = ReadLayout(database, file);
+    }
+    if (!read.Ok()) {
+        return read.Fault;
+    }
+    const Layout& layout = read.Value;
+    if (layout.Version.size() > 1 ? layout.Version[0] != '-' : layout.Version[0] > '0' + kLayout) {
         return NewerLayout(file);
     }
-    if (Ask(database, "PRAGMA quick_check(1)") != "ok") {
+    if (layout.Check != "ok") {
         return Damaged(file);
     }
-    if (version == "0" && Ask(database, "SELECT count(*) FROM sqlite_master") == "0") {
-        return MakeTable(database, file);
-    }
-    const std::string columns =
-        Ask(database, "SELECT group_concat(name || ' ' || pk) FROM pragma_table_info('setting')");
-    return version == "1" && columns == "application 1,section 2,key 3,value 0" ? Error() : NoDatabase(file);
+    const bool known = layout.Version == "1" && layout.Columns == "application 1,section 2,key 3,value 0";
+    return known ? Error() : NoDatabase(file);
 }
 
 }  // namespace
@@ -199,10 +270,10 @@ Error FaultOf(sqlite3* database) {
 }
 
 Result<Database> OpenSettingsFile(const fs::path& file) {
-    if (const Error refused = CheckPlace(file)) {
+    if (Error refused = CheckPlace(file)) {
         return refused;
     }
-    if (const Error refused = CheckHead(file)) {
+    if (Error refused = CheckHead(file)) {
         return refused;
     }
     sqlite3* opened = nullptr;
@@ -214,7 +285,7 @@ Result<Database> OpenSettingsFile(const fs::path& file) {
     sqlite3_busy_timeout(opened, kPatience);
     // Until it is known to be a store, closing it must not move another program's log into it.
     sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
-    if (const Error refused = CheckLayout(opened, file)) {
+    if (Error refused = CheckLayout(opened, file)) {
         return refused;
     }
     if (sqlite3_db_readonly(opened, "main") != 0) {

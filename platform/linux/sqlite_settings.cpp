@@ -11,11 +11,15 @@ namespace lv {
 
 namespace {
 
+constexpr const char* kUpsertSql =
+    "INSERT INTO setting(application, section, key, value) VALUES(?1, ?2, ?3, ?4) "
+    "ON CONFLICT(application, section, key) DO UPDATE SET value = excluded.value";
+
+// In the order of SqliteSettings::Statement.
 constexpr const char* kSql[] = {
     "SELECT application, section, key, value FROM setting WHERE application = ?1 AND section = ?2 AND key = ?3",
     "SELECT application, section, key, value FROM setting",
-    "INSERT INTO setting(application, section, key, value) VALUES(?1, ?2, ?3, ?4) "
-    "ON CONFLICT(application, section, key) DO UPDATE SET value = excluded.value",
+    kUpsertSql,
     "BEGIN IMMEDIATE",
     "COMMIT",
     "ROLLBACK",
@@ -85,9 +89,10 @@ sqlite3_stmt* SqliteSettings::Prepared(Statement statement) {
     return prepared;
 }
 
-bool SqliteSettings::Step(Statement statement) {
+Error SqliteSettings::Do(Statement statement) {
     Use use(Prepared(statement));
-    return use.Step() == SQLITE_DONE;
+    // The reason is asked for before the statement is reset: that forgets what the system said.
+    return use.Step() == SQLITE_DONE ? Error() : FaultOf(database_.get());
 }
 
 std::optional<SqliteSettings::Row> SqliteSettings::Find(const Names& names) {
@@ -155,12 +160,12 @@ Error SqliteSettings::Store(const Names& names, std::string_view value) {
 }
 
 Error SqliteSettings::StoreInTransaction(const Names& names, std::string_view value) {
-    if (!Step(kBegin)) {
-        return FaultOf(database_.get());
+    if (Error failed = Do(kBegin)) {
+        return failed;
     }
     Error failed = Store(names, value);
-    if (!failed && !Step(kCommit)) {
-        failed = FaultOf(database_.get());
+    if (!failed) {
+        failed = Do(kCommit);
     }
     TakeBack();
     return failed;
@@ -168,11 +173,10 @@ Error SqliteSettings::StoreInTransaction(const Names& names, std::string_view va
 
 Error SqliteSettings::StoreInGroup(const Names& names, std::string_view value) {
     const bool begun = sqlite3_get_autocommit(database_.get()) == 0;
-    if (!begun && !Step(kBegin)) {
-        groupFault_ = FaultOf(database_.get());
-        return groupFault_;
+    groupFault_ = begun ? Error() : Do(kBegin);
+    if (!groupFault_) {
+        groupFault_ = Store(names, value);
     }
-    groupFault_ = Store(names, value);
     if (groupFault_) {
         TakeBack();
     }
@@ -182,7 +186,7 @@ Error SqliteSettings::StoreInGroup(const Names& names, std::string_view value) {
 // Ends a transaction that is still open.
 void SqliteSettings::TakeBack() {
     if (sqlite3_get_autocommit(database_.get()) == 0) {
-        Step(kRollback);
+        (void)Do(kRollback);
     }
 }
 
@@ -197,8 +201,8 @@ Error SqliteSettings::EndGroup() {
         return {};
     }
     const bool begun = sqlite3_get_autocommit(database_.get()) == 0;
-    if (!groupFault_ && begun && !Step(kCommit)) {
-        groupFault_ = FaultOf(database_.get());
+    if (!groupFault_ && begun) {
+        groupFault_ = Do(kCommit);
     }
     TakeBack();
     return std::exchange(groupFault_, {});

@@ -55,7 +55,7 @@ class SqliteSettings : public SettingsBacking {
     };
 
     sqlite3_stmt* Prepared(Statement statement);
-    bool Step(Statement statement);
+    Error Do(Statement statement);
     std::optional<Row> Find(const Names& names);
     std::optional<Row> FindInAllRows(const Names& names);
     Error Store(const Names& names, std::string_view value);

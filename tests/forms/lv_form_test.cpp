@@ -95,10 +95,10 @@ TEST_F(LvForm_, AClickOnABoxReachesTheStore) {
 
 TEST_F(LvForm_, WhatABoxExcludesIsClearedOnTheScreen) {
     ClickOn(Find("Listen_Chk"));
-    EXPECT_TRUE(FindAs<wxCheckBox>("Listen_Chk")->IsChecked());
+    EXPECT_TRUE(FindAs<wxCheckBox>("Listen_Chk")->Get3StateValue() == wxCHK_CHECKED);
     ClickOn(Find("Dedicated_Chk"));
-    EXPECT_FALSE(FindAs<wxCheckBox>("Listen_Chk")->IsChecked());
-    EXPECT_TRUE(FindAs<wxCheckBox>("Dedicated_Chk")->IsChecked());
+    EXPECT_FALSE(FindAs<wxCheckBox>("Listen_Chk")->Get3StateValue() == wxCHK_CHECKED);
+    EXPECT_TRUE(FindAs<wxCheckBox>("Dedicated_Chk")->Get3StateValue() == wxCHK_CHECKED);
 }
 
 TEST_F(LvForm_, TypedAdditionsReachTheStore) {

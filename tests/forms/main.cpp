@@ -8,10 +8,16 @@
 
 namespace {
 
+// The toolkit's own complaints are failures, not dialogs that wait for a hand.
+void FailTheTest(const wxString& file, int line, const wxString&, const wxString& condition, const wxString& message) {
+    ADD_FAILURE() << file << ":" << line << ": " << condition << " " << message;
+}
+
 class TestApp : public wxApp {
   public:
     bool OnInit() override {
         wxImage::AddHandler(new wxPNGHandler);
+        wxSetAssertHandler(FailTheTest);
         SetExitOnFrameDelete(false);
         CallAfter([this] {
             result_ = RUN_ALL_TESTS();

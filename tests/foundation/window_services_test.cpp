@@ -187,11 +187,11 @@ TEST_F(WindowServices, HelpIsLookedForInTheProgramsDirectoryFirst) {
     EXPECT_EQ(FindHelpFile(run), std::nullopt);
 }
 
-TEST_F(WindowServices, PagesForABrowserAreHelpToo) {
+TEST_F(WindowServices, TheHandbookIsHelpToo) {
     run.AppDirectory = "C:\\LORVANE";
-    system.Disk.AddFile("C:\\LORVANE\\LV3D.html");
+    system.Disk.AddFile("C:\\LORVANE\\handbook\\handbook.hhp");
     OpenHelpFile(run);
-    EXPECT_EQ(user.Opened, (std::vector<Text>{"C:\\LORVANE\\LV3D.html"}));
+    EXPECT_EQ(user.Opened, (std::vector<Text>{"C:\\LORVANE\\handbook\\handbook.hhp"}));
 }
 
 TEST_F(WindowServices, MissingHelpIsTold) {

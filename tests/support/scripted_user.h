@@ -23,7 +23,7 @@ struct ExpectedQuestion {
     int Answer = 0;  // index of the button pressed
     bool TickNotAgain = false;
     bool Whole = false;
-    std::optional<Text> Buttons{};  // captions joined by ",", exact
+    std::optional<Text> Buttons = std::nullopt;  // captions joined by ",", exact
 };
 
 class ScriptedUser : public UserInterface {

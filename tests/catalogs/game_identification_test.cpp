@@ -1,0 +1,315 @@
+#include "catalogs/game_identification.h"
+
+#include "tests/catalogs/catalogs_fixture.h"
+
+namespace lv {
+namespace {
+
+struct TreeCase {
+    const char* Directory;  // of the executable
+    const char* Below;      // what stands below it
+    Index Kind;
+    Index Family;
+    const char* Base;
+};
+
+class GameTree : public ::testing::TestWithParam<TreeCase> {};
+
+TEST_P(GameTree, IsToldByItsDirectories) {
+    MemoryFiles files;
+    files.AddDirectory(Join(GetParam().Directory, "\\", GetParam().Below));
+    const GameFacts facts = FactsOfDirectory(files, GetParam().Directory);
+    EXPECT_EQ(facts.GameKind, GetParam().Kind);
+    EXPECT_EQ(facts.ScriptFamily, GetParam().Family);
+    EXPECT_EQ(facts.BaseGameDir, GetParam().Base);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EachRow, GameTree,
+    ::testing::Values(TreeCase{"c:\\quake", "ID1", 1, 1, "ID1"}, TreeCase{"c:\\hexen2", "data1", 2, 1, "DATA1"},
+                      TreeCase{"c:\\quake2", "baseq2", 3, 3, "BASEQ2"},
+                      TreeCase{"c:\\unreal\\system", "editor", 4, 4, "MAPS"}, TreeCase{"c:\\sin", "base", 5, 3, "BASE"},
+                      TreeCase{"c:\\heretic2", "base", 6, 3, "BASE"}, TreeCase{"c:\\half-life", "valve", 9, 3, "VALVE"},
+                      TreeCase{"c:\\doom", "wads", 0, 0, ""}, TreeCase{"c:\\doom", "base", 0, 0, ""},
+                      TreeCase{"c:\\sin", "wads", 0, 0, ""}, TreeCase{"c:\\unreal", "system", 0, 0, ""},
+                      // A plain test of the directory's text.
+                      TreeCase{"c:\\Games\\Sinistar", "base", 5, 3, "BASE"},
+                      TreeCase{"c:\\sin\\heretic", "base", 5, 3, "BASE"},
+                      TreeCase{"d:\\UnReal\\SysTem", "x", 4, 4, "MAPS"}));
+
+TEST(FactsOfDirectory, TheOrderOfTheTableCounts) {
+    MemoryFiles files;
+    files.AddDirectory("C:\\SIN\\valve");
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 9);
+    files.AddDirectory("C:\\SIN\\base");
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 5);
+    files.AddDirectory("C:\\SIN\\baseq2");
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 3);
+    files.AddDirectory("C:\\SIN\\data1");
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 2);
+    files.AddDirectory("C:\\SIN\\id1");  // a left-over "id1" makes it Quake
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 1);
+}
+
+TEST(FactsOfDirectory, AFileIsNoDataDirectory) {
+    MemoryFiles files;
+    files.AddFile("C:\\QUAKE\\id1");
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\quake").GameKind, 0);
+}
+
+struct FlagCase {
+    Index Kind;
+    const char* Path;
+    bool QuakeWorld;
+    bool HexenWorld;
+    bool MissionPack;
+    bool Accelerator;
+};
+
+class PathFlags : public ::testing::TestWithParam<FlagCase> {};
+
+TEST_P(PathFlags, AreToldByTheName) {
+    const ExecutableFlags flags = FlagsOfPath(GetParam().Kind, GetParam().Path);
+    EXPECT_EQ(flags.IsQuakeWorld, GetParam().QuakeWorld);
+    EXPECT_EQ(flags.IsHexenWorld, GetParam().HexenWorld);
+    EXPECT_EQ(flags.IsMissionPack, GetParam().MissionPack);
+    EXPECT_EQ(flags.UsesAccelerator, GetParam().Accelerator);
+}
+
+INSTANTIATE_TEST_SUITE_P(EachExecutable, PathFlags,
+                         ::testing::Values(FlagCase{1, "c:\\q\\quake.exe", false, false, false, false},
+                                           FlagCase{1, "c:\\q\\glquake.exe", false, false, false, true},
+                                           FlagCase{1, "c:\\q\\winquake.exe", false, false, false, true},
+                                           FlagCase{1, "c:\\q\\qwcl.exe", true, false, false, false},
+                                           FlagCase{1, "c:\\q\\glqwcl.exe", true, false, false, true},
+                                           FlagCase{1, "c:\\q\\h2mp.exe", false, false, false, true},
+                                           FlagCase{2, "c:\\h\\h2.exe", false, false, false, false},
+                                           FlagCase{2, "c:\\h\\glh2.exe", false, false, false, true},
+                                           FlagCase{2, "c:\\h\\h2mp.exe", false, false, true, false},
+                                           FlagCase{2, "c:\\h\\glh2mp.exe", false, false, true, true},
+                                           FlagCase{2, "c:\\h\\hwcl.exe", false, false, false, false},
+                                           FlagCase{2, "c:\\h\\hwcl.exe +x", false, true, false, false},
+                                           FlagCase{2, "c:\\h\\glhwcl.exe +x", false, true, false, true},
+                                           FlagCase{2, "c:\\h\\h2mp.exe hwcl.exe ", false, false, true, false},
+                                           FlagCase{2, "c:\\h\\qwcl.exe", false, false, false, true},
+                                           FlagCase{3, "c:\\q2\\quake.exe", false, false, false, true},
+                                           FlagCase{0, "c:\\x\\qwcl.exe", false, false, false, true}));
+
+class IdentifyTest : public CatalogsTest {
+  protected:
+    IdentifyTest() {
+        system.Disk.AddDirectory("C:\\QUAKE\\ID1");
+        system.Disk.AddDirectory("C:\\HEXEN2\\DATA1");
+        system.Disk.AddDirectory("C:\\QUAKE2\\BASEQ2");
+        system.Disk.AddDirectory("C:\\UNREAL\\SYSTEM");
+        system.Disk.AddDirectory("C:\\HL\\VALVE");
+        system.Disk.AddDirectory("C:\\DOOM");
+    }
+
+    bool Pick(TextView path) {
+        lists.Exe_Cbo.Items.push_back({"Game", Text(path), "", ""});
+        lists.Exe_Cbo.ListIndex = static_cast<int>(lists.Exe_Cbo.Items.size()) - 1;
+        return IdentifyGame(run, lists);
+    }
+};
+
+TEST_F(IdentifyTest, APickSetsTheRun) {
+    EXPECT_TRUE(Pick("C:\\QUAKE2\\QUAKE2.EXE"));
+    EXPECT_EQ(run.GameKind, 3);
+    EXPECT_EQ(run.ScriptFamily, 3);
+    EXPECT_EQ(run.DefaultGameDirectory, "c:\\quake2");
+    EXPECT_EQ(run.BaseGameDir, "BASEQ2");
+    EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
+    EXPECT_TRUE(run.UsesAccelerator);
+}
+
+TEST_F(IdentifyTest, APickSavesThePosition) {
+    Pick("C:\\QUAKE\\quake.exe");
+    EXPECT_EQ(Stored("ExecutablesPos"), "0");
+    Pick("C:\\QUAKE2\\quake2.exe");
+    EXPECT_EQ(Stored("ExecutablesPos"), "1");
+}
+
+TEST_F(IdentifyTest, SlashesBecomeBackslashes) {
+    EXPECT_TRUE(Pick("C:/QUAKE/qwcl.exe"));
+    EXPECT_EQ(run.DefaultGameDirectory, "c:\\quake");
+    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_FALSE(run.UsesAccelerator);
+}
+
+TEST_F(IdentifyTest, QuakeWorldIsQuakeWithAFlag) {
+    Pick("C:\\QUAKE\\qwcl.exe");
+    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_TRUE(run.IsQuakeWorld);
+    EXPECT_FALSE(run.UsesAccelerator);
+    Pick("C:\\QUAKE\\glqwcl.exe");
+    EXPECT_TRUE(run.IsQuakeWorld);
+    EXPECT_TRUE(run.UsesAccelerator);
+}
+
+TEST_F(IdentifyTest, TheFlagsOfTheGameBeforeAreCleared) {
+    Pick("C:\\HEXEN2\\h2mp.exe");
+    EXPECT_TRUE(run.IsMissionPack);
+    Pick("C:\\QUAKE\\qwcl.exe");
+    EXPECT_FALSE(run.IsMissionPack);
+    Pick("C:\\QUAKE2\\quake2.exe");
+    EXPECT_FALSE(run.IsQuakeWorld);
+    EXPECT_TRUE(run.UsesAccelerator);
+}
+
+TEST_F(IdentifyTest, TheServersAreFilledAfterTheFlags) {
+    Store("NetServers", "Home;127.0.0.1;26000;0;;World;10.0.0.1;27500;1;");
+    Pick("C:\\QUAKE\\qwcl.exe");
+    EXPECT_EQ(Rows(lists.Server_Cbo), (TextList{"World|10.0.0.1;27500;1;"}));
+    Pick("C:\\QUAKE\\quake.exe");
+    EXPECT_EQ(Rows(lists.Server_Cbo), (TextList{"Home|127.0.0.1;26000;0;"}));
+}
+
+TEST_F(IdentifyTest, AllThreeListsAreFilled) {
+    system.Disk.AddFile("C:\\HL\\VALVE\\config.cfg");
+    system.Disk.AddFile("C:\\HL\\TFC\\pak0.pak");
+    Store("Games", "Team Fortress;-game tfc");
+    Store("NetServers", "Home;127.0.0.1;27015;9;");
+    EXPECT_TRUE(Pick("C:\\HL\\hl.exe"));
+    EXPECT_EQ(run.GameKind, 9);
+    EXPECT_EQ(Rows(lists.Game_Cbo), (TextList{"Team Fortress|-game tfc"}));
+    EXPECT_EQ(Rows(lists.Script_Cbo), (TextList{"config.cfg|c:\\hl\\valve\\config.cfg"}));
+    EXPECT_EQ(Rows(lists.Server_Cbo), (TextList{"Home|127.0.0.1;27015;9;"}));
+}
+
+TEST_F(IdentifyTest, AnUnknownTreeEmptiesTheListsAndKeepsTheFamily) {
+    system.Disk.AddFile("C:\\QUAKE2\\BASEQ2\\config.cfg");
+    Store("NetServers", "Two;10.0.0.2;27910;3;");
+    Pick("C:\\QUAKE2\\quake2.exe");
+    ASSERT_EQ(lists.Server_Cbo.Items.size(), 1U);
+    EXPECT_TRUE(Pick("C:\\DOOM\\doom.exe"));
+    EXPECT_EQ(run.GameKind, 0);
+    EXPECT_EQ(run.ScriptFamily, 3);
+    EXPECT_EQ(run.BaseGameDir, "");
+    EXPECT_EQ(run.CurrentGameDir, "");
+    EXPECT_EQ(run.DefaultGameDirectory, "c:\\doom");
+    EXPECT_TRUE(lists.Game_Cbo.Items.empty());
+    EXPECT_TRUE(lists.Script_Cbo.Items.empty());
+    EXPECT_TRUE(lists.Server_Cbo.Items.empty());
+    EXPECT_EQ(lists.Exe_Cbo.Items.size(), 2U);
+}
+
+TEST_F(IdentifyTest, ARowAddedWithoutAGameLosesNoOtherRows) {
+    Store("NetServers", "Two;10.0.0.2;27910;3;;World;10.0.0.1;27500;1;");
+    Pick("C:\\QUAKE2\\quake2.exe");
+    Pick("C:\\DOOM\\doom.exe");
+    lists.Server_Cbo.Items = {MakeItem("New", "1.2.3.4;666;7;")};
+    SaveCatalog(run, lists, "NetServers", lists.Server_Cbo);
+    EXPECT_EQ(Stored("NetServers"), "New;1.2.3.4;666;7;;Two;10.0.0.2;27910;3;;World;10.0.0.1;27500;1;");
+}
+
+TEST_F(IdentifyTest, AnEmptyPathIsToldAndTheRunGoesOn) {
+    Pick("C:\\QUAKE\\qwcl.exe");
+    user.Expect({"Lorvane 3D",
+                 "\"\"\t\r\nThere is a problem with this path:\r\nDefaultGameDirectory not found and was NOT SET - YOU "
+                 "WILL NOT BE ABLE TO LAUNCH.",
+                 0, false, true, "&OK"});
+    EXPECT_TRUE(Pick(""));
+    EXPECT_EQ(run.DefaultGameDirectory, "");
+    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_FALSE(run.IsQuakeWorld);
+    EXPECT_TRUE(run.UsesAccelerator);
+    EXPECT_FALSE(run.Ended);
+}
+
+TEST_F(IdentifyTest, WithoutASelectedRowNothingHappens) {
+    run.GameKind = 3;
+    EXPECT_TRUE(IdentifyGame(run, lists));
+    EXPECT_EQ(run.GameKind, 3);
+    EXPECT_EQ(system.Settings.Count(), 0U);
+}
+
+TEST_F(IdentifyTest, AChangeOfKindDropsTheModificationWithoutWriting) {
+    system.Disk.AddDirectory("C:\\QUAKE2\\CTF");
+    Store("Games", "Capture;-game ctf");
+    Store("UseGames", "1");
+    Pick("C:\\QUAKE\\quake.exe");
+    Pick("C:\\QUAKE2\\quake2.exe");
+    EXPECT_EQ(lists.Game_Cbo.ListIndex, 0);
+    EXPECT_EQ(lists.Game_Chk.Value, 0);
+    EXPECT_EQ(Stored("UseGames"), "1");
+}
+
+TEST_F(IdentifyTest, TheSameKindKeepsTheModification) {
+    system.Disk.AddDirectory("C:\\QUAKE\\CTF");
+    Store("Games", "Capture;-game ctf");
+    Store("UseGames", "1");
+    Pick("C:\\QUAKE\\quake.exe");
+    Pick("C:\\QUAKE\\glquake.exe");
+    EXPECT_EQ(lists.Game_Chk.Value, 1);
+}
+
+TEST_F(IdentifyTest, ASecondPickOfTheSameRowRunsEverythingAgain) {
+    Pick("C:\\QUAKE\\quake.exe");
+    EXPECT_TRUE(lists.Script_Cbo.Items.empty());
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\new.cfg");
+    EXPECT_TRUE(IdentifyGame(run, lists));
+    EXPECT_EQ(Rows(lists.Script_Cbo), (TextList{"new.cfg|c:\\quake\\id1\\new.cfg"}));
+}
+
+TEST_F(IdentifyTest, ADamagedCatalogEndsIt) {
+    Store("NetServers", "Home;127.0.0.1;26000;0");
+    ExpectDamage("defaultServers", "Home;127.0.0.1;26000;0");
+    EXPECT_FALSE(Pick("C:\\QUAKE\\quake.exe"));
+    EXPECT_TRUE(run.Ended);
+}
+
+TEST_F(IdentifyTest, AnExecutableInARootHasTheDriveAsItsDirectory) {
+    EXPECT_TRUE(Pick("C:\\doom.exe"));
+    EXPECT_EQ(run.DefaultGameDirectory, "c:");
+}
+
+class MissionPackTest : public CatalogsTest {
+  protected:
+    MissionPackTest() {
+        run.GameKind = 2;
+        lists.Game_Cbo.Items = {MakeItem("CTF", "-game ctf"), MakeItem("Portals of Praevus", "-game Portals"),
+                                MakeItem("Again", "-game portals")};
+        lists.Game_Cbo.ListIndex = 0;
+    }
+};
+
+TEST_F(MissionPackTest, ItsExecutableSelectsTheFirstPortals) {
+    run.IsMissionPack = true;
+    ApplyMissionPackRule(run, lists);
+    EXPECT_EQ(lists.Game_Cbo.ListIndex, 1);
+    EXPECT_EQ(lists.Game_Chk.Value, 1);
+}
+
+TEST_F(MissionPackTest, WithoutThatRowNothingHappens) {
+    run.IsMissionPack = true;
+    lists.Game_Cbo.Items.resize(1);
+    ApplyMissionPackRule(run, lists);
+    EXPECT_EQ(lists.Game_Cbo.ListIndex, 0);
+    EXPECT_EQ(lists.Game_Chk.Value, 0);
+}
+
+TEST_F(MissionPackTest, AnotherExecutableDropsPortals) {
+    lists.Game_Cbo.ListIndex = 2;
+    lists.Game_Chk.Value = 1;
+    ApplyMissionPackRule(run, lists);
+    EXPECT_EQ(lists.Game_Cbo.ListIndex, 2);
+    EXPECT_EQ(lists.Game_Chk.Value, 0);
+}
+
+TEST_F(MissionPackTest, AnotherModificationStays) {
+    lists.Game_Chk.Value = 1;
+    ApplyMissionPackRule(run, lists);
+    EXPECT_EQ(lists.Game_Chk.Value, 1);
+}
+
+TEST_F(MissionPackTest, AnotherGameKeepsPortals) {
+    run.GameKind = 1;
+    lists.Game_Cbo.ListIndex = 1;
+    lists.Game_Chk.Value = 1;
+    ApplyMissionPackRule(run, lists);
+    EXPECT_EQ(lists.Game_Chk.Value, 1);
+}
+
+}  // namespace
+}  // namespace lv

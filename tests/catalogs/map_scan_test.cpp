@@ -1,0 +1,158 @@
+#include "catalogs/map_scan.h"
+
+#include "tests/catalogs/catalogs_fixture.h"
+#include "tests/catalogs/pak_file.h"
+
+namespace lv {
+namespace {
+
+class MapScanTest : public CatalogsTest {
+  protected:
+    MapScanTest() { BeInQuake(); }
+};
+
+TEST_F(MapScanTest, WithoutMapsTheListIsEmpty) {
+    lists.Map_Cbo.Items = {"OLD"};
+    lists.Map_Cbo.ListIndex = 0;
+    lists.MapList = "old";
+    ScanForMaps(run, lists);
+    EXPECT_TRUE(lists.Map_Cbo.Items.empty());
+    EXPECT_EQ(lists.Map_Cbo.ListIndex, -1);
+    EXPECT_EQ(lists.MapList, "");
+}
+
+TEST_F(MapScanTest, NamesStandInUpperCaseAndTheFirstIsSelected) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile({"maps/start.bsp", "maps/e1m1.bsp"}));
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"START", "E1M1"}));
+    EXPECT_EQ(lists.Map_Cbo.ListIndex, 0);
+    EXPECT_EQ(lists.MapList, "start;e1m1");
+}
+
+TEST_F(MapScanTest, ModelsAreLeftOut) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile({"maps/b_shell.bsp", "maps/base1.bsp"}));
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"BASE1"}));
+}
+
+TEST_F(MapScanTest, AnArchiveWithoutMapsAddsNothing) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile({"progs.dat"}));
+    ScanForMaps(run, lists);
+    EXPECT_TRUE(lists.Map_Cbo.Items.empty());
+}
+
+TEST_F(MapScanTest, ArchivesComeBeforeLooseFilesAndNothingIsSorted) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\Zed.BSP");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\alpha.bsp");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\PAK1.PAK", PakFile({"maps/two.bsp"}));
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile({"maps/one.bsp"}));
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.MapList, "two;one;Zed;alpha");
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"TWO", "ONE", "ZED", "ALPHA"}));
+}
+
+TEST_F(MapScanTest, ANameFoundTwiceStandsTwice) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile({"maps/start.bsp"}));
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\start.bsp");
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"START", "START"}));
+}
+
+TEST_F(MapScanTest, AModificationsMapsComeFirst) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile({"maps/base.bsp"}));
+    system.Disk.AddFile("C:\\QUAKE\\ctf\\pak0.pak", PakFile({"maps/packed.bsp"}));
+    system.Disk.AddFile("C:\\QUAKE\\ctf\\maps\\loose.bsp");
+    run.CurrentGameDir = "ctf";
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"PACKED", "LOOSE", "BASE"}));
+}
+
+TEST_F(MapScanTest, TheBaseGameInAnotherCaseIsScannedOnce) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile({"maps/base.bsp"}));
+    run.CurrentGameDir = "id1";
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"BASE"}));
+}
+
+TEST_F(MapScanTest, LooseNamesEndAtTheFirstExtension) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\a.bsp.bsp");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\.bsp");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\b.txt");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\c;d.bsp");
+    system.Disk.AddDirectory("C:\\QUAKE\\ID1\\maps\\e.bsp");
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"A"}));
+}
+
+TEST_F(MapScanTest, LooseModelsAreKept) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\b_loose.bsp");
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"B_LOOSE"}));
+}
+
+TEST_F(MapScanTest, SinLooksAtItsOwnArchivesOnly) {
+    run.GameKind = 5;
+    run.BaseGameDir = "BASE";
+    run.CurrentGameDir = "BASE";
+    system.Disk.AddFile("C:\\QUAKE\\BASE\\pak0.pak", PakFile({"maps/packed.bsp"}));
+    system.Disk.AddFile("C:\\QUAKE\\BASE\\pak1.pak", PakFile({"maps/packed.bsp"}, "SPAK"));
+    ScanForMaps(run, lists);
+    EXPECT_TRUE(lists.Map_Cbo.Items.empty());
+    system.Disk.AddFile("C:\\QUAKE\\BASE\\pak0.sin", PakFile({"maps/spry.bsp"}, "SPAK"));
+    system.Disk.AddFile("C:\\QUAKE\\BASE\\pak1.sin", PakFile({"maps/wrong.bsp"}, "PACK"));
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"SPRY"}));
+}
+
+TEST_F(MapScanTest, OtherGamesLeaveSinsArchivesAlone) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.sin", PakFile({"maps/spry.bsp"}, "SPAK"));
+    ScanForMaps(run, lists);
+    EXPECT_TRUE(lists.Map_Cbo.Items.empty());
+}
+
+TEST_F(MapScanTest, UnrealsMapsLieBesideItsSystemDirectory) {
+    run.GameKind = 4;
+    run.DefaultGameDirectory = "c:\\unreal\\system";
+    run.BaseGameDir = "MAPS";
+    run.CurrentGameDir = "MAPS";
+    system.Disk.AddFile("C:\\UNREAL\\MAPS\\Vortex2.unr");
+    system.Disk.AddFile("C:\\UNREAL\\MAPS\\LOUD.UNR");  // the test for ".unr" looks at the case
+    system.Disk.AddFile("C:\\UNREAL\\MAPS\\DmDeck16.unr");
+    system.Disk.AddFile("C:\\UNREAL\\MAPS\\.unr");
+    system.Disk.AddFile("C:\\UNREAL\\MAPS\\readme.txt");
+    system.Disk.AddFile("C:\\UNREAL\\SYSTEM\\MAPS\\pak0.pak", PakFile({"maps/no.bsp"}));
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"VORTEX2", "DMDECK16"}));
+    EXPECT_EQ(lists.MapList, "Vortex2;DmDeck16");
+}
+
+TEST_F(MapScanTest, ADamagedArchiveCostsItsOwnEntriesOnly) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", "PACK");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak1.pak", "");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak2.pak", "PACK\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak3.pak", PakFile({"maps/good.bsp"}));
+    system.Disk.AddDirectory("C:\\QUAKE\\ID1\\pak4.pak");
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"GOOD"}));
+}
+
+TEST_F(MapScanTest, WithoutADirectoryNothingIsScanned) {
+    system.Disk.AddFile("C:\\pak0.pak", PakFile({"maps/root.bsp"}));
+    run.DefaultGameDirectory.clear();
+    run.BaseGameDir.clear();
+    run.CurrentGameDir.clear();
+    ScanForMaps(run, lists);
+    EXPECT_TRUE(lists.Map_Cbo.Items.empty());
+}
+
+TEST_F(MapScanTest, ASecondScanKeepsNothingOfTheFirst) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile({"maps/start.bsp"}));
+    ScanForMaps(run, lists);
+    ASSERT_FALSE(system.Disk.Delete("C:\\QUAKE\\ID1\\pak0.pak"));
+    ScanForMaps(run, lists);
+    EXPECT_TRUE(lists.Map_Cbo.Items.empty());
+    EXPECT_EQ(lists.MapList, "");
+}
+
+}  // namespace
+}  // namespace lv

@@ -1,0 +1,114 @@
+#include "platform/linux/drives.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/platform/scratch_directory.h"
+
+namespace lv {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Home {
+    ScratchDirectory Scratch;
+    DriveDirectories Directories{Scratch / "data/drives", Scratch / "wine", Scratch / "program"};
+    fs::path Data = Scratch / "data";
+    fs::path Devices = Scratch / "wine/dosdevices";
+};
+
+}  // namespace
+
+TEST(MakeFirstDrives, MakesCAndZ) {
+    const Home home;
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'C', 'Z'}));
+    EXPECT_TRUE(fs::is_directory(fs::symlink_status(home.Data / "drive_c")));
+    EXPECT_EQ(fs::canonical(home.Data / "drives/c:"), home.Data / "drive_c");
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/z:"), "/");
+    EXPECT_EQ(std::distance(fs::directory_iterator(home.Data), fs::directory_iterator()), 2);
+}
+
+TEST(MakeFirstDrives, FillsAnEmptyDirectory) {
+    const Home home;
+    fs::create_directories(home.Data / "drives");
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'C', 'Z'}));
+}
+
+TEST(MakeFirstDrives, LeavesTheUsersOwnDrivesAlone) {
+    const Home home;
+    fs::create_directories(home.Data / "drives/d:");
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'D'}));
+    EXPECT_FALSE(fs::exists(home.Data / "drive_c"));
+}
+
+TEST(MakeFirstDrives, KeepsAPlainDirectoryThatIsThere) {
+    const Home home;
+    fs::create_directories(home.Data / "drive_c/QUAKE");
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    EXPECT_TRUE(fs::exists(home.Data / "drives/c:/QUAKE"));
+}
+
+TEST(MakeFirstDrives, TellsWhatItCannotMake) {
+    const Home home;
+    WriteBytes(home.Data, "a file");
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 76);
+    EXPECT_EQ(BytesOf(home.Data), "a file");
+}
+
+TEST(MakeFirstDrives, TellsOfAFileInPlaceOfTheDrives) {
+    const Home home;
+    fs::create_directories(home.Data);
+    WriteBytes(home.Data / "drives", "a file");
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 76);
+    EXPECT_EQ(BytesOf(home.Data / "drives"), "a file");
+}
+
+TEST(DriveEntry, LooksInTheWinePrefixForALetterThatIsMissing) {
+    const Home home;
+    fs::create_directories(home.Data / "drives/d:");
+    fs::create_directories(home.Devices / "d:");
+    fs::create_directories(home.Devices / "e:");
+    EXPECT_EQ(DriveEntry(home.Directories, 'd'), (home.Data / "drives/d:").string());
+    EXPECT_EQ(DriveEntry(home.Directories, 'E'), (home.Devices / "e:").string());
+    EXPECT_EQ(DriveEntry(home.Directories, 'f'), std::nullopt);
+}
+
+TEST(DriveEntry, NeverTouchesAAndB) {
+    const Home home;
+    fs::create_directories(home.Data / "drives/a:");
+    fs::create_directories(home.Devices / "b:");
+    EXPECT_EQ(DriveEntry(home.Directories, 'a'), std::nullopt);
+    EXPECT_EQ(DriveEntry(home.Directories, 'A'), std::nullopt);
+    EXPECT_EQ(DriveEntry(home.Directories, 'B'), std::nullopt);
+    EXPECT_EQ(DriveLetters(home.Directories), std::vector<char>());
+}
+
+TEST(DriveEntry, KnowsNothingButLetters) {
+    const Home home;
+    EXPECT_EQ(DriveEntry(home.Directories, '.'), std::nullopt);
+    EXPECT_EQ(DriveEntry(home.Directories, '\xE9'), std::nullopt);
+    EXPECT_EQ(DriveEntry(home.Directories, '\0'), std::nullopt);
+}
+
+TEST(DriveLetters, AreThoseOfBothPlacesInOrder) {
+    const Home home;
+    for (const char* const name : {"x:", "c:"}) {
+        fs::create_directories(home.Data / "drives" / name);
+    }
+    for (const char* const name : {"d:", "c:", "d::", "com1"}) {
+        fs::create_directories(home.Devices / name);
+    }
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'C', 'D', 'X'}));
+}
+
+TEST(DriveLetters, CountALinkThatLeadsNowhereNow) {
+    const Home home;
+    fs::create_directories(home.Data / "drives");
+    fs::create_symlink("/media/no such disk", home.Data / "drives/e:");
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'E'}));
+}
+
+}  // namespace lv

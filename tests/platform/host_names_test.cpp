@@ -1,0 +1,127 @@
+#include "platform/linux/host_names.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/platform/scratch_directory.h"
+
+namespace lv {
+
+namespace {
+
+namespace fs = std::filesystem;
+using Parts = std::vector<std::string>;
+
+const DrivePath kCurrent{'D', {"QUAKE", "ID1"}};
+
+std::string Taken(std::string_view path) {
+    const auto taken = TakeApart(path, kCurrent);
+    return taken ? PutTogether(*taken) : "(nothing)";
+}
+
+}  // namespace
+
+TEST(TakeApart, KnowsDriveRootAndCurrentDirectory) {
+    EXPECT_EQ(Taken("C:\\QUAKE\\ID1"), "C:\\QUAKE\\ID1");
+    EXPECT_EQ(Taken("c:\\quake"), "C:\\quake");
+    EXPECT_EQ(Taken("C:"), "C:\\");
+    EXPECT_EQ(Taken("C:\\"), "C:\\");
+    EXPECT_EQ(Taken("C:QUAKE"), "C:\\QUAKE");
+    EXPECT_EQ(Taken("\\HEXEN2"), "D:\\HEXEN2");
+    EXPECT_EQ(Taken("PAK0.PAK"), "D:\\QUAKE\\ID1\\PAK0.PAK");
+}
+
+TEST(TakeApart, DropsEmptyPartsAndDots) {
+    EXPECT_EQ(Taken("C:\\\\QUAKE\\.\\ID1\\"), "C:\\QUAKE\\ID1");
+    EXPECT_EQ(Taken("."), "D:\\QUAKE\\ID1");
+}
+
+TEST(TakeApart, GoesUpByTheTextAndStopsAtTheRoot) {
+    EXPECT_EQ(Taken(".."), "D:\\QUAKE");
+    EXPECT_EQ(Taken("..\\HIPNOTIC"), "D:\\QUAKE\\HIPNOTIC");
+    EXPECT_EQ(Taken("..\\..\\..\\..\\X"), "D:\\X");
+    EXPECT_EQ(Taken("C:\\.."), "C:\\");
+}
+
+TEST(TakeApart, TakesTheSlashAsASeparator) {
+    EXPECT_EQ(Taken("C:/QUAKE/ID1\\PAK0.PAK"), "C:\\QUAKE\\ID1\\PAK0.PAK");
+}
+
+TEST(TakeApart, RefusesNothingAndCharacter0) {
+    EXPECT_EQ(Taken(""), "(nothing)");
+    EXPECT_EQ(Taken(std::string_view("C:\\A\0B", 6)), "(nothing)");
+}
+
+TEST(HostPathBelow, TakesANameAsSpelledBeforeAnyOther) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "ID1", "");
+    WriteBytes(scratch / "id1", "");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"id1"}), root + "/id1");
+    EXPECT_EQ(HostPathBelow(root, {"ID1"}), root + "/ID1");
+}
+
+TEST(HostPathBelow, TakesTheFirstInByteOrderOfSeveral) {
+    const ScratchDirectory scratch;
+    for (const char* const name : {"pak0.pak", "Pak0.pak", "PaK0.pak"}) {
+        WriteBytes(scratch / name, "");
+    }
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"PAK0.PAK"}), root + "/PaK0.pak");
+}
+
+TEST(HostPathBelow, LooksAtEachPartForItself) {
+    const ScratchDirectory scratch;
+    fs::create_directories(scratch.Path() / "Quake" / "id1" / "Maps");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"QUAKE", "id1", "MAPS"}), root + "/Quake/id1/Maps");
+}
+
+TEST(HostPathBelow, KeepsTheSpellingOfWhatIsNotThere) {
+    const ScratchDirectory scratch;
+    fs::create_directories(scratch.Path() / "Quake");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"QUAKE", "New", "File.CFG"}), root + "/Quake/New/File.CFG");
+}
+
+TEST(HostPathBelow, FoldsAccentedLettersAndConvertsThem) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "\xC3\xA9t\xC3\xA9.cfg", "");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"\xC9T\xC9.CFG"}), root + "/\xC3\xA9t\xC3\xA9.cfg");
+}
+
+TEST(HostPathBelow, PassesOverNamesWithoutAForm) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "\xFF", "");
+    WriteBytes(scratch / "\xE6\x97\xA5", "");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"?"}), root + "/?");
+}
+
+TEST(HostPathBelow, FindsTheNameOfALinkThatLeadsNowhere) {
+    const ScratchDirectory scratch;
+    fs::create_symlink("gone", scratch / "Autoexec.cfg");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"AUTOEXEC.CFG"}), root + "/Autoexec.cfg");
+}
+
+TEST(HostPathBelow, PutsOneSlashBehindTheRootOfAll) {
+    EXPECT_EQ(HostPathBelow("/", {"no such thing"}), "/no such thing");
+    EXPECT_EQ(HostPathBelow("/", {}), "/");
+}
+
+TEST(PartsAsFound, GivesTheHostsSpelling) {
+    const ScratchDirectory scratch;
+    fs::create_directories(scratch.Path() / "Quake" / "id1");
+    EXPECT_EQ(PartsAsFound(scratch.Path().string(), {"QUAKE", "ID1", "New"}), (Parts{"Quake", "id1", "New"}));
+}
+
+TEST(NameFromHost, RefusesWhatCouldNeverBeAskedFor) {
+    EXPECT_EQ(NameFromHost("pak0.pak"), "pak0.pak");
+    EXPECT_EQ(NameFromHost("\xC3\xA9"), "\xE9");
+    EXPECT_EQ(NameFromHost("\xE6\x97\xA5"), std::nullopt);
+    EXPECT_EQ(NameFromHost("\xE9"), std::nullopt);
+    EXPECT_EQ(NameFromHost("a\\b"), std::nullopt);
+}
+
+}  // namespace lv

@@ -1,0 +1,300 @@
+#include "platform/linux/linux_files.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+#include "tests/platform/scratch_directory.h"
+
+namespace lv {
+
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+
+// A home whose "C:" is the directory `C` of the host.
+struct Home {
+    ScratchDirectory Scratch;
+    LinuxFiles Disk{{Scratch / "data/drives", Scratch / "wine", Scratch / "program"}};
+    fs::path C = Scratch / "data/drive_c";
+    fs::path Drives = Scratch / "data/drives";
+};
+
+Names NamesOf(const std::vector<DirectoryEntry>& entries) {
+    Names names;
+    for (const DirectoryEntry& entry : entries) {
+        names.push_back(entry.Name + (entry.IsDirectory ? "\\" : ""));
+    }
+    return names;
+}
+
+// A host path on the drive that holds everything: "/a/b" is "Z:\a\b".
+std::string OnZ(const fs::path& host) {
+    std::string path = "Z:" + host.string();
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return path;
+}
+
+}  // namespace
+
+TEST(LinuxFiles, StartWithCAndZ) {
+    Home home;
+    EXPECT_EQ(home.Disk.FirstDrivesFault().Number, 0);
+    EXPECT_EQ(home.Disk.Drives(), (Names{"C:", "Z:"}));
+    EXPECT_EQ(home.Disk.CurrentDirectory(), "C:\\");
+    WriteBytes(home.C / "a.cfg", "x");
+    EXPECT_EQ(home.Disk.Read("C:\\A.CFG").Value, "x");
+    EXPECT_EQ(home.Disk.Read(OnZ(home.C / "a.cfg")).Value, "x");
+}
+
+TEST(LinuxFiles, TellWhatKeptTheDrivesFromBeingMade) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "data", "a file");
+    LinuxFiles disk({scratch / "data/drives", scratch / "wine", scratch / "program"});
+    EXPECT_EQ(disk.FirstDrivesFault().Number, 76);
+    EXPECT_EQ(disk.Drives(), Names());
+    EXPECT_EQ(disk.ProbeDrive("C:").Number, 68);
+    EXPECT_EQ(disk.Replace("C:\\A", "x").Number, 76);
+}
+
+TEST(LinuxFiles, UseTheDrivesOfTheWinePrefix) {
+    Home home;
+    fs::create_directories(home.Scratch / "wine/dosdevices/d:/GAMES");
+    EXPECT_EQ(home.Disk.Drives(), (Names{"C:", "D:", "Z:"}));
+    EXPECT_TRUE(home.Disk.DirectoryExists("D:\\games"));
+    EXPECT_EQ(home.Disk.ChangeDrive("D:").Number, 0);
+    EXPECT_EQ(home.Disk.CurrentDirectory(), "D:\\");
+}
+
+TEST(LinuxFiles, NeverTouchAAndB) {
+    Home home;
+    fs::create_directories(home.Drives / "a:");
+    EXPECT_EQ(home.Disk.Drives(), (Names{"C:", "Z:"}));
+    EXPECT_EQ(home.Disk.ProbeDrive("A:").Number, 68);
+    EXPECT_FALSE(home.Disk.DirectoryExists("A:\\"));
+    EXPECT_EQ(home.Disk.Replace("A:\\X", "x").Number, 76);
+    EXPECT_TRUE(fs::is_empty(home.Drives / "a:"));
+}
+
+TEST(LinuxFiles, SayThatADriveWhoseDiskIsOutIsNotReady) {
+    Home home;
+    fs::create_symlink(home.Scratch / "no such disk", home.Drives / "e:");
+    EXPECT_EQ(home.Disk.Drives(), (Names{"C:", "E:", "Z:"}));
+    EXPECT_EQ(home.Disk.ProbeDrive("E:").Number, 71);
+    EXPECT_EQ(home.Disk.List("E:\\").Fault.Number, 76);
+}
+
+TEST(LinuxFiles, LeaveNamesOutOfListingsThatCannotBeSaid) {
+    Home home;
+    for (const char* const name : {"a.pak", "\xE6\x97\xA5", "bad\xFF", "back\\slash", "\xC3\xA9"}) {
+        WriteBytes(home.C / name, "");
+    }
+    Names names = NamesOf(home.Disk.List("C:\\").Value);
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (Names{"..\\", ".\\", "a.pak", "\xE9"}));
+}
+
+TEST(LinuxFiles, ListInTheFileSystemsOrder) {
+    Home home;
+    Names expected = {".", ".."};
+    for (int i = 0; i < 50; ++i) {
+        WriteBytes(home.C / std::to_string(i * 7919 % 50), "");
+    }
+    for (const auto& entry : fs::directory_iterator(home.C)) {
+        expected.push_back(entry.path().filename().string());
+    }
+    Names names;
+    for (const auto& entry : home.Disk.List("C:\\").Value) {
+        names.push_back(entry.Name);
+    }
+    EXPECT_EQ(names, expected);
+}
+
+TEST(LinuxFiles, FollowLinksToTellDirectories) {
+    Home home;
+    fs::create_directory(home.Scratch / "elsewhere");
+    fs::create_directory_symlink(home.Scratch / "elsewhere", home.C / "id1");
+    fs::create_symlink("nowhere", home.C / "gone");
+    Names names = NamesOf(home.Disk.List("C:\\").Value);
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, (Names{"..\\", ".\\", "gone", "id1\\"}));
+    EXPECT_FALSE(home.Disk.FileExists("C:\\gone"));
+}
+
+TEST(LinuxFiles, DoNotWaitForPipesOrDevices) {
+    Home home;
+    ASSERT_EQ(mkfifo((home.C / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(home.Disk.Read("C:\\pipe").Fault.Number, 75);
+    EXPECT_EQ(home.Disk.Open("C:\\pipe").Fault.Number, 75);
+    EXPECT_EQ(home.Disk.Copy("C:\\pipe", "C:\\copy").Number, 75);
+    EXPECT_EQ(home.Disk.Read("Z:\\dev\\zero").Fault.Number, 75);
+    EXPECT_FALSE(fs::exists(home.C / "copy"));
+}
+
+TEST(LinuxFiles, ReadAFileWhoseSizeTheSystemDoesNotTell) {
+    Home home;
+    EXPECT_NE(home.Disk.Read("Z:\\proc\\self\\status").Value.find("Name:"), std::string::npos);
+}
+
+TEST(LinuxFiles, RefuseLinksInACircle) {
+    Home home;
+    fs::create_symlink("b", home.C / "a");
+    fs::create_symlink("a", home.C / "b");
+    EXPECT_EQ(home.Disk.Read("C:\\a").Fault.Number, 76);
+    EXPECT_EQ(home.Disk.Replace("C:\\a", "x").Number, 76);
+}
+
+TEST(LinuxFiles, TakeAFileForADirectoryNowhere) {
+    Home home;
+    WriteBytes(home.C / "file", "x");
+    EXPECT_EQ(home.Disk.Read("C:\\file\\a").Fault.Number, 76);
+    EXPECT_EQ(home.Disk.Replace("C:\\file\\a", "x").Number, 76);
+    EXPECT_EQ(home.Disk.MakeDirectory("C:\\file\\a").Number, 76);
+    EXPECT_EQ(home.Disk.Replace("C:\\new\\", "x").Number, 75);
+}
+
+TEST(LinuxFiles, CopyTheRightToRun) {
+    Home home;
+    WriteBytes(home.C / "run.sh", "x");
+    chmod((home.C / "run.sh").c_str(), 0555);
+    EXPECT_EQ(home.Disk.Copy("C:\\run.sh", "C:\\copy.sh").Number, 0);
+    struct stat info {};
+    ASSERT_EQ(stat((home.C / "copy.sh").c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0700u, 0700u);
+}
+
+TEST(LinuxFiles, DeleteALinkAndNotWhatItLeadsTo) {
+    Home home;
+    WriteBytes(home.C / "real.cfg", "x");
+    fs::create_symlink("real.cfg", home.C / "link.cfg");
+    fs::create_symlink("nowhere", home.C / "gone.cfg");
+    EXPECT_EQ(home.Disk.Delete("C:\\LINK.CFG").Number, 0);
+    EXPECT_EQ(home.Disk.Delete("C:\\GONE.CFG").Number, 0);
+    EXPECT_EQ(BytesOf(home.C / "real.cfg"), "x");
+    EXPECT_FALSE(fs::is_symlink(home.C / "link.cfg"));
+    EXPECT_FALSE(fs::is_symlink(home.C / "gone.cfg"));
+}
+
+TEST(LinuxFiles, RefuseWhatTheUserMayNotTouch) {
+    Home home;
+    fs::permissions(home.Scratch.Path(), fs::perms::all);
+    WriteBytes(home.C / "secret", "x");
+    chmod((home.C / "secret").c_str(), 0000);
+    WriteBytes(home.C / "readonly", "x");
+    chmod((home.C / "readonly").c_str(), 0444);
+    fs::create_directory(home.C / "closed");
+    chmod((home.C / "closed").c_str(), 0000);
+    chmod(home.C.c_str(), 0777);
+    const fs::path data = home.Scratch / "data";
+    chmod(data.c_str(), 0755);
+    chmod(home.Drives.c_str(), 0755);
+    // Everything is allowed to root: the question is asked as somebody who is not.
+    const pid_t child = fork();
+    if (child == 0) {
+        if (geteuid() == 0 && setresuid(65534, 65534, 65534) != 0) {
+            _exit(90);
+        }
+        const bool asPromised =
+            home.Disk.Read("C:\\secret").Fault.Number == 70 && home.Disk.Delete("C:\\readonly").Number == 75 &&
+            home.Disk.Replace("C:\\readonly", "y").Number == 75 && home.Disk.List("C:\\closed").Fault.Number == 75;
+        _exit(asPromised ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+    EXPECT_EQ(BytesOf(home.C / "readonly"), "x");
+}
+
+TEST(LinuxFiles, LeaveTheProcesssOwnDirectoryAlone) {
+    Home home;
+    const fs::path before = fs::current_path();
+    fs::create_directory(home.C / "quake");
+    EXPECT_EQ(home.Disk.ChangeDirectory("C:\\QUAKE").Number, 0);
+    EXPECT_EQ(home.Disk.CurrentDirectory(), "C:\\quake");
+    EXPECT_EQ(fs::current_path(), before);
+}
+
+TEST(LinuxFiles, RemoveNoDriveAndNoLink) {
+    Home home;
+    fs::create_directory(home.Scratch / "elsewhere");
+    fs::create_directory_symlink(home.Scratch / "elsewhere", home.C / "id1");
+    EXPECT_EQ(home.Disk.RemoveDirectory("C:\\").Number, 75);
+    EXPECT_EQ(home.Disk.RemoveDirectory("C:\\id1").Number, 75);
+    EXPECT_TRUE(fs::is_symlink(home.C / "id1"));
+    EXPECT_TRUE(fs::is_symlink(home.Drives / "c:"));
+}
+
+TEST(ToHost, FollowsTheDriveAndFindsTheNames) {
+    Home home;
+    fs::create_directories(home.C / "Quake/id1");
+    EXPECT_EQ(home.Disk.ToHost("C:\\"), home.C);
+    EXPECT_EQ(home.Disk.ToHost("c:\\QUAKE\\ID1"), home.C / "Quake/id1");
+    EXPECT_EQ(home.Disk.ToHost("C:/QUAKE/ID1"), home.C / "Quake/id1");
+    EXPECT_EQ(home.Disk.ToHost("Z:\\"), "/");
+    EXPECT_EQ(home.Disk.ToHost("Z:\\DEV\\Null"), "/dev/null");
+}
+
+TEST(ToHost, KeepsTheSpellingOfWhatIsNotThereYet) {
+    Home home;
+    fs::create_directories(home.C / "Quake");
+    EXPECT_EQ(home.Disk.ToHost("C:\\QUAKE\\New\\\xC9.cfg"), home.C / "Quake/New/\xC3\x89.cfg");
+}
+
+TEST(ToHost, HasNothingForADriveThatIsNotThere) {
+    Home home;
+    EXPECT_EQ(home.Disk.ToHost("Q:\\QUAKE"), "");
+    EXPECT_EQ(home.Disk.ToHost("A:\\"), "");
+    EXPECT_EQ(home.Disk.ToHost(""), "");
+}
+
+TEST(FromHost, TakesTheDriveThatLiesDeepest) {
+    Home home;
+    fs::create_directories(home.Scratch / "games/quake");
+    fs::create_directory_symlink(home.Scratch / "games", home.Drives / "g:");
+    fs::create_directory_symlink(home.Scratch / "games/quake", home.Drives / "q:");
+    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "games/quake/id1/pak0.pak").string()), "Q:\\id1\\pak0.pak");
+    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "games/quake2").string()), "G:\\quake2");
+    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "games").string()), "G:\\");
+    EXPECT_EQ(home.Disk.FromHost("/dev/null"), "Z:\\dev\\null");
+    EXPECT_EQ(home.Disk.FromHost("/"), "Z:\\");
+}
+
+TEST(FromHost, KnowsThePlainDirectoryAndTheLinkToIt) {
+    Home home;
+    fs::create_directories(home.C / "QUAKE");
+    EXPECT_EQ(home.Disk.FromHost((home.C / "QUAKE").string()), "C:\\QUAKE");
+    EXPECT_EQ(home.Disk.FromHost((home.Drives / "c:/QUAKE/").string()), "C:\\QUAKE");
+    EXPECT_EQ(home.Disk.FromHost((home.C / "QUAKE/../QUAKE/./new.cfg").string()), "C:\\QUAKE\\new.cfg");
+}
+
+TEST(FromHost, FollowsALinkToADirectoryAndKeepsALinkToAFile) {
+    Home home;
+    fs::create_directories(home.C / "QUAKE");
+    fs::create_directory_symlink(home.C / "QUAKE", home.Scratch / "link");
+    fs::create_symlink("/bin/true", home.C / "QUAKE/engine");
+    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "link").string()), "C:\\QUAKE");
+    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "link/engine").string()), "C:\\QUAKE\\engine");
+}
+
+TEST(FromHost, HasNothingForWhatNoDriveCanSay) {
+    Home home;
+    EXPECT_EQ(home.Disk.FromHost((home.C / "\xE6\x97\xA5.cfg").string()), "");
+    EXPECT_EQ(home.Disk.FromHost((home.C / "a\\b").string()), "");
+    EXPECT_EQ(home.Disk.FromHost("relative"), "");
+    EXPECT_EQ(home.Disk.FromHost(""), "");
+    fs::remove(home.Drives / "z:");
+    EXPECT_EQ(home.Disk.FromHost("/dev/null"), "");
+}
+
+TEST(ProgramDirectory, IsAPathOnTheDrives) {
+    Home home;
+    fs::create_directory(home.Scratch / "program");
+    fs::create_directory_symlink(home.Scratch / "program", home.Drives / "p:");
+    EXPECT_EQ(home.Disk.ProgramDirectory(), "P:\\");
+}
+
+}  // namespace lv

@@ -1,0 +1,429 @@
+#include "platform/linux/sqlite_settings.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <functional>
+#include <vector>
+
+#include "tests/platform/scratch_directory.h"
+
+namespace lv {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kApp = "Lorvane 3D";
+
+std::unique_ptr<SqliteSettings> OpenStore(const fs::path& file) {
+    auto opened = SqliteSettings::Open(file);
+    EXPECT_EQ(opened.Fault.Text, "");
+    return std::move(opened.Value);
+}
+
+// Runs `work` in a process of its own, which must not come back.
+pid_t InChild(const std::function<void()>& work) {
+    const pid_t child = fork();
+    if (child == 0) {
+        work();
+        _exit(99);
+    }
+    return child;
+}
+
+int ExitOf(pid_t child) {
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+// SQL as the user of a shell would give it.
+void RunSql(const fs::path& file, const std::string& sql) {
+    sqlite3* database = nullptr;
+    ASSERT_EQ(sqlite3_open(file.c_str(), &database), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(database, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
+    sqlite3_close(database);
+}
+
+constexpr const char* kHandMade =
+    "CREATE TABLE setting(application TEXT NOT NULL COLLATE NOCASE, section TEXT NOT NULL COLLATE NOCASE,"
+    " key TEXT NOT NULL COLLATE NOCASE, value TEXT NOT NULL, PRIMARY KEY (application, section, key)) WITHOUT ROWID;"
+    "PRAGMA user_version = 1;"
+    "INSERT INTO setting VALUES('Lorvane 3D', 'Options', 'Games', 'id1');";
+
+// Bytes until the disk is full, for this process's SQLite.
+off_t g_left = 0;
+
+ssize_t WriteWhileThereIsRoom(int file, const void* bytes, std::size_t count, off_t offset) {
+    if (static_cast<off_t>(count) > g_left) {
+        errno = ENOSPC;
+        return -1;
+    }
+    g_left -= static_cast<off_t>(count);
+    return pwrite(file, bytes, count, offset);
+}
+
+// In a child process only: there is no way back.
+void FillDiskAfter(off_t bytes) {
+    g_left = bytes;
+    sqlite3_vfs* system = sqlite3_vfs_find(nullptr);
+    for (const char* const name : {"pwrite", "pwrite64"}) {
+        system->xSetSystemCall(system, name, reinterpret_cast<sqlite3_syscall_ptr>(WriteWhileThereIsRoom));
+    }
+}
+
+// Nothing but the file itself may be beside it, and its bytes may not have changed.
+void ExpectLeftAlone(const fs::path& file, const std::string& bytes) {
+    EXPECT_EQ(BytesOf(file), bytes);
+    EXPECT_EQ(std::distance(fs::directory_iterator(file.parent_path()), fs::directory_iterator()), 1);
+}
+
+}  // namespace
+
+TEST(SqliteSettings, MakeTheirDirectoryForThisUserAlone) {
+    const ScratchDirectory scratch;
+    const fs::path file = scratch.Path() / "config" / "lorvane3d" / "settings.sqlite";
+    const auto store = OpenStore(file);
+    struct stat info {};
+    ASSERT_EQ(stat(file.parent_path().c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777u, 0700u);
+    ASSERT_EQ(stat(file.c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 0777u, 0600u);
+}
+
+TEST(SqliteSettings, OutliveTheirOwner) {
+    const ScratchDirectory scratch;
+    EXPECT_EQ(OpenStore(scratch / "s")->Write(kApp, "Options", "Games", "id1").Number, 0);
+    EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Options", "Games"), "id1");
+}
+
+TEST(SqliteSettings, AreReadByTheShellAsUtf8) {
+    const ScratchDirectory scratch;
+    EXPECT_EQ(OpenStore(scratch / "s")->Write(kApp, "Options", "Name", "\x80\xE9").Number, 0);
+    RunSql(scratch / "s", "UPDATE setting SET value = value || 'x' WHERE value = '\xE2\x82\xAC\xC3\xA9'");
+    EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Options", "Name"), "\x80\xE9x");
+}
+
+TEST(SqliteSettings, LoseNoReturnedWriteToAKill) {
+    const ScratchDirectory scratch;
+    OpenStore(scratch / "s");
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    const pid_t child = InChild([&] {
+        const auto store = SqliteSettings::Open(scratch / "s");
+        for (int i = 0; i < 10000; ++i) {
+            const std::string number = std::to_string(i);
+            if (store.Value->Write(kApp, "Options", "Key" + number, number) || write(ends[1], &i, sizeof i) < 0) {
+                _exit(1);
+            }
+        }
+    });
+    close(ends[1]);
+    int last = -1;
+    while (last < 1000 && read(ends[0], &last, sizeof last) == sizeof last) {
+    }
+    ASSERT_GE(last, 1000) << "the child came to nothing";
+    kill(child, SIGKILL);
+    EXPECT_EQ(ExitOf(child), 128 + SIGKILL);
+    while (read(ends[0], &last, sizeof last) == sizeof last) {
+    }
+    close(ends[0]);
+    ASSERT_LT(last, 9999) << "killed too late to say anything";
+    const auto store = OpenStore(scratch / "s");
+    for (int i = 0; i <= last; ++i) {
+        ASSERT_EQ(store->Read(kApp, "Options", "Key" + std::to_string(i)), std::to_string(i));
+    }
+}
+
+TEST(SqliteSettings, LoseNothingWhenTwoProcessesWriteAtOnce) {
+    const ScratchDirectory scratch;
+    const auto writer = [&](const std::string& name) {
+        return InChild([&scratch, name] {
+            const auto store = SqliteSettings::Open(scratch / "s");
+            for (int i = 0; store.Ok() && i < 500; ++i) {
+                if (store.Value->Write(kApp, name, std::to_string(i), name)) {
+                    _exit(1);
+                }
+            }
+            _exit(store.Ok() ? 0 : 2);
+        });
+    };
+    const pid_t one = writer("One");
+    const pid_t two = writer("Two");
+    EXPECT_EQ(ExitOf(one), 0);
+    EXPECT_EQ(ExitOf(two), 0);
+    const auto store = OpenStore(scratch / "s");
+    for (int i = 0; i < 500; ++i) {
+        ASSERT_EQ(store->Read(kApp, "One", std::to_string(i)), "One");
+        ASSERT_EQ(store->Read(kApp, "Two", std::to_string(i)), "Two");
+    }
+}
+
+TEST(SqliteSettings, LetSeveralFirstStartsMakeOneStore) {
+    for (int round = 0; round < 20; ++round) {
+        const ScratchDirectory scratch;
+        std::vector<pid_t> children;
+        for (int i = 0; i < 4; ++i) {
+            children.push_back(InChild([&scratch] {
+                const auto store = SqliteSettings::Open(scratch / "config/s");
+                _exit(store.Ok() && !store.Value->Write(kApp, "Options", std::to_string(getpid()), "1") ? 0 : 1);
+            }));
+        }
+        for (const pid_t child : children) {
+            EXPECT_EQ(ExitOf(child), 0);
+        }
+        const auto store = OpenStore(scratch / "config/s");
+        for (const pid_t child : children) {
+            EXPECT_EQ(store->Read(kApp, "Options", std::to_string(child)), "1");
+        }
+    }
+}
+
+TEST(SqliteSettings, SeeWhatAnotherProcessWrote) {
+    const ScratchDirectory scratch;
+    const auto one = OpenStore(scratch / "s");
+    const auto two = OpenStore(scratch / "s");
+    EXPECT_EQ(one->Write(kApp, "Options", "Games", "id1").Number, 0);
+    EXPECT_EQ(two->Read(kApp, "Options", "Games"), "id1");
+}
+
+TEST(SqliteSettings, KeepNothingOfAGroupThatWasKilled) {
+    const ScratchDirectory scratch;
+    const pid_t child = InChild([&] {
+        const auto store = SqliteSettings::Open(scratch / "s");
+        store.Value->BeginGroup();
+        for (int i = 0; i < 300; ++i) {
+            if (store.Value->Write(kApp, "Profile", std::to_string(i), "1")) {
+                _exit(1);
+            }
+        }
+        raise(SIGKILL);
+    });
+    EXPECT_EQ(ExitOf(child), 128 + SIGKILL);
+    const auto store = OpenStore(scratch / "s");
+    for (int i = 0; i < 300; ++i) {
+        ASSERT_EQ(store->Read(kApp, "Profile", std::to_string(i)), std::nullopt);
+    }
+}
+
+TEST(SqliteSettings, HideAGroupFromOthersUntilItsOutermostEnd) {
+    const ScratchDirectory scratch;
+    const auto one = OpenStore(scratch / "s");
+    const auto two = OpenStore(scratch / "s");
+    one->BeginGroup();
+    one->BeginGroup();
+    EXPECT_EQ(one->Write(kApp, "Options", "Games", "id1").Number, 0);
+    EXPECT_EQ(one->EndGroup().Number, 0);
+    EXPECT_EQ(two->Read(kApp, "Options", "Games"), std::nullopt);
+    EXPECT_EQ(one->EndGroup().Number, 0);
+    EXPECT_EQ(two->Read(kApp, "Options", "Games"), "id1");
+}
+
+TEST(SqliteSettings, LeaveTheDiskAloneForAnUnchangedValue) {
+    const ScratchDirectory scratch;
+    const auto store = OpenStore(scratch / "s");
+    EXPECT_EQ(store->Write(kApp, "Options", "Games", "id1").Number, 0);
+    const std::string file = BytesOf(scratch / "s");
+    const std::string log = BytesOf(scratch / "s-wal");
+    ASSERT_NE(log, "(none)");
+    EXPECT_EQ(store->Write(kApp, "options", "GAMES", "id1").Number, 0);
+    store->BeginGroup();
+    EXPECT_EQ(store->Write(kApp, "Options", "Games", "id1").Number, 0);
+    EXPECT_EQ(store->EndGroup().Number, 0);
+    EXPECT_EQ(BytesOf(scratch / "s"), file);
+    EXPECT_EQ(BytesOf(scratch / "s-wal"), log);
+    EXPECT_EQ(store->Write(kApp, "Options", "Games", "id2").Number, 0);
+    EXPECT_NE(BytesOf(scratch / "s-wal"), log);
+}
+
+TEST(SqliteSettings, RefuseAFileThatIsNoDatabase) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "s", "my shopping list");
+    const auto opened = SqliteSettings::Open(scratch / "s");
+    EXPECT_EQ(opened.Fault.Number, 75);
+    EXPECT_EQ(opened.Fault.Text,
+              "The settings in \"" + (scratch / "s").string() + "\" cannot be used: the file is no settings database.");
+    ExpectLeftAlone(scratch / "s", "my shopping list");
+}
+
+TEST(SqliteSettings, RefuseALongFileThatIsNoDatabase) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "s", std::string(100000, 'x'));
+    EXPECT_EQ(SqliteSettings::Open(scratch / "s").Fault.Number, 75);
+    ExpectLeftAlone(scratch / "s", std::string(100000, 'x'));
+}
+
+TEST(SqliteSettings, RefuseADirectoryInPlaceOfTheFile) {
+    const ScratchDirectory scratch;
+    fs::create_directory(scratch / "s");
+    EXPECT_EQ(SqliteSettings::Open(scratch / "s").Fault.Number, 75);
+}
+
+TEST(SqliteSettings, RefuseANewerLayout) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", std::string(kHandMade) + "PRAGMA user_version = 2;");
+    const std::string bytes = BytesOf(scratch / "s");
+    const auto opened = SqliteSettings::Open(scratch / "s");
+    EXPECT_EQ(opened.Fault.Number, 75);
+    EXPECT_EQ(opened.Fault.Text, "The settings in \"" + (scratch / "s").string() +
+                                     "\" cannot be used: a newer version of this program made them.");
+    ExpectLeftAlone(scratch / "s", bytes);
+}
+
+TEST(SqliteSettings, RefuseANewerLayoutThatIsOnlyInTheLogYet) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", kHandMade);
+    const pid_t child = InChild([&] {
+        sqlite3* database = nullptr;
+        sqlite3_open((scratch / "s").c_str(), &database);
+        sqlite3_exec(database, "PRAGMA journal_mode = WAL; PRAGMA user_version = 300", nullptr, nullptr, nullptr);
+        raise(SIGKILL);
+    });
+    ASSERT_EQ(ExitOf(child), 128 + SIGKILL);
+    const std::string bytes = BytesOf(scratch / "s");
+    const std::string log = BytesOf(scratch / "s-wal");
+    EXPECT_NE(SqliteSettings::Open(scratch / "s").Fault.Text.find("a newer version"), std::string::npos);
+    EXPECT_EQ(BytesOf(scratch / "s"), bytes);
+    EXPECT_EQ(BytesOf(scratch / "s-wal"), log);
+}
+
+TEST(SqliteSettings, RefuseAnotherProgramsDatabase) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", "CREATE TABLE bookmarks(url TEXT); INSERT INTO bookmarks VALUES('x');");
+    const std::string bytes = BytesOf(scratch / "s");
+    EXPECT_EQ(SqliteSettings::Open(scratch / "s").Fault.Number, 75);
+    ExpectLeftAlone(scratch / "s", bytes);
+}
+
+TEST(SqliteSettings, RefuseADamagedDatabase) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", kHandMade);
+    std::string bytes = BytesOf(scratch / "s");
+    ASSERT_EQ(bytes.size(), 8192u);
+    bytes.replace(4096, 200, std::string(200, '\xFF'));
+    WriteBytes(scratch / "s", bytes);
+    const auto opened = SqliteSettings::Open(scratch / "s");
+    EXPECT_NE(opened.Fault.Text.find((scratch / "s").string()), std::string::npos);
+    EXPECT_NE(opened.Fault.Text.find("damaged"), std::string::npos) << opened.Fault.Text;
+    EXPECT_EQ(BytesOf(scratch / "s"), bytes);
+}
+
+TEST(SqliteSettings, RefuseADatabaseCutOffAnywhereWithoutTouchingIt) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", kHandMade);
+    const std::string whole = BytesOf(scratch / "s");
+    for (std::size_t size = 1; size < whole.size(); size += 511) {
+        WriteBytes(scratch / "s", whole.substr(0, size));
+        EXPECT_NE(SqliteSettings::Open(scratch / "s").Fault.Number, 0) << size;
+        EXPECT_TRUE(BytesOf(scratch / "s") == whole.substr(0, size)) << size;
+    }
+}
+
+TEST(SqliteSettings, NameTheFileWhoseDirectoryCannotBeMade) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "plain", "a file");
+    const fs::path file = scratch.Path() / "plain" / "lorvane3d" / "settings.sqlite";
+    const auto opened = SqliteSettings::Open(file);
+    EXPECT_EQ(opened.Fault.Number, 76);
+    EXPECT_EQ(opened.Fault.Text, "The settings in \"" + file.string() +
+                                     "\" cannot be used: their directory cannot be written. (Path not found)");
+    EXPECT_EQ(BytesOf(scratch / "plain"), "a file");
+}
+
+TEST(SqliteSettings, NameTheFileInADirectoryThatMayNotBeWritten) {
+    const ScratchDirectory scratch;
+    fs::create_directory(scratch / "locked");
+    const fs::path file = scratch.Path() / "locked" / "settings.sqlite";
+    RunSql(file, kHandMade);
+    const std::string bytes = BytesOf(file);
+    fs::permissions(scratch / "locked", fs::perms::owner_read | fs::perms::owner_exec);
+    fs::permissions(scratch.Path(), fs::perms::owner_all | fs::perms::others_exec);
+    // Everything may be written by root: the question is asked as somebody who is not.
+    const pid_t child = InChild([&] {
+        if (geteuid() == 0 && (chown((scratch / "locked").c_str(), 65534, 65534) != 0 || seteuid(65534) != 0)) {
+            _exit(90);
+        }
+        const auto opened = SqliteSettings::Open(file);
+        const bool named = opened.Fault.Text.find(file.string()) != std::string::npos;
+        _exit(named ? opened.Fault.Number : 91);
+    });
+    EXPECT_EQ(ExitOf(child), 70);
+    EXPECT_EQ(BytesOf(file), bytes);
+    fs::permissions(scratch / "locked", fs::perms::owner_all);
+}
+
+TEST(SqliteSettings, OpenAFileMadeByHand) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", kHandMade);
+    const auto store = OpenStore(scratch / "s");
+    EXPECT_EQ(store->Read(kApp, "Options", "Games"), "id1");
+    EXPECT_EQ(store->Write(kApp, "Options", "Games", "ctf").Number, 0);
+    EXPECT_EQ(store->Read(kApp, "Options", "Games"), "ctf");
+}
+
+TEST(SqliteSettings, OpenAFileWithARollbackJournalThatSomebodyHasOpen) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", kHandMade);
+    sqlite3* shell = nullptr;
+    ASSERT_EQ(sqlite3_open((scratch / "s").c_str(), &shell), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(shell, "BEGIN; SELECT * FROM setting", nullptr, nullptr, nullptr), SQLITE_OK);
+    const auto store = OpenStore(scratch / "s");
+    EXPECT_EQ(store->Read(kApp, "Options", "Games"), "id1");
+    sqlite3_exec(shell, "COMMIT", nullptr, nullptr, nullptr);
+    EXPECT_EQ(store->Write(kApp, "Options", "Games", "ctf").Number, 0);
+    EXPECT_EQ(store->Read(kApp, "Options", "Games"), "ctf");
+    sqlite3_close(shell);
+}
+
+TEST(SqliteSettings, ReadCharactersWithoutAFormAsQuestionMarks) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", std::string(kHandMade) + "UPDATE setting SET value = 'a\xE6\x97\xA5\xC3\xA9'");
+    EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Options", "Games"), "a?\xE9");
+}
+
+TEST(SqliteSettings, StartAnewInAnEmptyFile) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "s", "");
+    EXPECT_EQ(OpenStore(scratch / "s")->Write(kApp, "Options", "Games", "id1").Number, 0);
+    EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Options", "Games"), "id1");
+}
+
+TEST(SqliteSettings, TellAFullDiskAndKeepTheOldValues) {
+    const ScratchDirectory scratch;
+    const pid_t child = InChild([&] {
+        const auto store = SqliteSettings::Open(scratch / "s");
+        FillDiskAfter(200000);
+        Error failed;
+        for (int i = 0; i < 100 && !failed; ++i) {
+            failed = store.Value->Write(kApp, "Options", "Games", std::string(10000, static_cast<char>('a' + i % 26)));
+        }
+        const auto kept = store.Value->Read(kApp, "Options", "Games");
+        _exit(kept && kept->size() == 10000 ? failed.Number : 90);
+    });
+    EXPECT_EQ(ExitOf(child), 61);
+    EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Options", "Games").value_or("").size(), 10000u);
+}
+
+TEST(SqliteSettings, TakeBackAWholeGroupWhenOneOfItsWritesFails) {
+    const ScratchDirectory scratch;
+    const pid_t child = InChild([&] {
+        const auto store = SqliteSettings::Open(scratch / "s");
+        FillDiskAfter(200000);
+        store.Value->BeginGroup();
+        for (int i = 0; i < 400; ++i) {
+            (void)store.Value->Write(kApp, "Profile", std::to_string(i), std::string(16000, 'x'));
+        }
+        const Error failed = store.Value->EndGroup();
+        _exit(store.Value->Read(kApp, "Profile", "0") ? 90 : failed.Number);
+    });
+    EXPECT_EQ(ExitOf(child), 61);
+    EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Profile", "0"), std::nullopt);
+}
+
+}  // namespace lv
