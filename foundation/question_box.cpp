@@ -38,18 +38,24 @@ Measure MeasureText(TextView text, UserInterface& user) {
     return measured;
 }
 
+Index Show(Run& run, QuestionBox_Frm& box) {
+    LayOutQuestionBox(box, run.User);
+    const TopmostSuspension dialog(run);
+    run.User.ShowQuestionBox(box);
+    return static_cast<Index>(box.LastButton);
+}
+
 Index Ask(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon, bool mayBeLast) {
     if (title.empty()) {
         title = run.AppName;
     }
     QuestionBox_Frm box = MakeQuestionBox(title, text, buttons, defaultButton, icon);
     box.NotAgain_Chk.Visible = mayBeLast;
-    LayOutQuestionBox(box, run.User);
-    run.User.ShowQuestionBox(box);
+    const Index pressed = Show(run, box);
     if (mayBeLast) {
         run.ShowAgain = box.LastNotAgain;
     }
-    return static_cast<Index>(box.LastButton);
+    return pressed;
 }
 
 }  // namespace
@@ -113,6 +119,13 @@ Index AskUser(Run& run, Text& title, TextView text, TextView buttons, int defaul
 Index AskUser(Run& run, const char* title, TextView text, TextView buttons, int defaultButton, int icon) {
     Text own = title;
     return Ask(run, own, text, buttons, defaultButton, icon, false);
+}
+
+Index AskUserFixedWidth(Run& run, const char* title, TextView text, TextView buttons, int defaultButton, int icon) {
+    QuestionBox_Frm box =
+        MakeQuestionBox(*title == '\0' ? run.AppName : Text(title), text, buttons, defaultButton, icon);
+    box.FixedWidth = true;
+    return Show(run, box);
 }
 
 Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon) {

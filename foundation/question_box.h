@@ -55,6 +55,10 @@ Index AskUser(Run& run, Text& title, TextView text, TextView buttons = "&OK", in
 Index AskUser(Run& run, const char* title, TextView text, TextView buttons = "&OK", int defaultButton = 0,
               int icon = 0);
 
+/// With the text in a fixed-width font, for files.
+Index AskUserFixedWidth(Run& run, const char* title, TextView text, TextView buttons = "&OK", int defaultButton = 0,
+                        int icon = 0);
+
 /// With the box "Don't show this message again"; run.ShowAgain is false afterwards if the user ticked it.
 Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons = "&OK", int defaultButton = 0, int icon = 0);
 

@@ -6,12 +6,21 @@
 #pragma once
 
 #include "foundation/text.h"
+#include "foundation/topmost.h"
 #include "foundation/user_interface.h"
 #include "platform/platform.h"
 
 namespace lv {
 
 constexpr TextView kOptions = "Options";  // the section of the program's own settings and of the Base profile
+constexpr TextView kStuff = "LV-Stuff";   // the section of what the program notes about its runs
+
+/// By game kind; 7 and 8 are not in use.
+constexpr TextView kGameKindNames[] = {"Unknown", "Quake",    "Hexen2", "Quake2", "Unreal",
+                                       "Sin",     "Heretic2", "",       "",       "Half-Life"};
+
+/// The product's page on the web.
+constexpr TextView kHomePage = "https://lorvane3d.example/";
 
 struct Run {
     Run(Platform& system, UserInterface& user) : System(system), User(user) {}
@@ -20,6 +29,9 @@ struct Run {
     UserInterface& User;
 
     Text AppName = "Lorvane 3D";
+    Text VersionText{};        // "1.06.0112 <Beta>", set at the start
+    Text MainWindowCaption{};  // set at the start
+    lv::Text HomePage{kHomePage};
     Text AppDirectory{};
 
     // Set by the change of game.
@@ -39,6 +51,7 @@ struct Run {
 
     bool ShowAgain = true;  // outcome of AskUserOnce
     bool MainFormLoaded = false;
+    TopmostState Topmost{};
     bool Ended = false;  // the program is over: handlers return, the event loop ends
 };
 

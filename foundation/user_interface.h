@@ -12,6 +12,9 @@
 
 namespace lv {
 
+struct About_Frm;
+struct ConfirmExit_Frm;
+struct InstallParams_Frm;
 struct QuestionBox_Frm;
 
 struct FileRequest {
@@ -50,6 +53,33 @@ class UserInterface {
     virtual int TextWidth(TextView line) = 0;
     virtual int TextHeight() = 0;
     virtual ScreenSize Screen() = 0;
+
+    // Modal windows. Each returns when its struct says that it is closed. A user interface without the window leaves
+    // the struct as it is, which is a cancel.
+    virtual void ShowInstallParams(InstallParams_Frm&) {}
+    virtual void ShowAbout(About_Frm&) {}
+    virtual void ShowConfirmExit(ConfirmExit_Frm&) {}
+
+    /// One line of text; nothing if the user cancelled.
+    virtual std::optional<Text> InputBox(TextView title, TextView prompt);
+
+    /// Opens the help file, a drive path, in its viewer.
+    virtual Error OpenHelp(TextView path);
+
+    /// Opens the address in the default browser. Error 53 if there is no browser, any other if it would not load.
+    virtual Error OpenUrl(TextView address);
+
+    /// Whether a tray shows icons now. Without one a hidden window could not be brought back.
+    virtual bool TrayAvailable() { return false; }
+
+    /// Brings the main window in front of all others, out of the task bar if it is there.
+    virtual void RaiseMainWindow() {}
+
+    /// Pops up a menu of the main window by its name, "File_Bar", at the pointer.
+    virtual void PopUpMenu(TextView) {}
+
+    /// The next click on a control shows what it is for.
+    virtual void EnterWhatsThis() {}
 };
 
 }  // namespace lv

@@ -7,6 +7,7 @@
 #include "launcher/environment_lines.h"
 #include "launcher/launch_composition.h"
 #include "launcher/launch_files.h"
+#include "launcher/window_life.h"
 #include "video/profile_model.h"
 
 namespace lv {
@@ -144,20 +145,24 @@ bool WriteBatch(Click& click) {
     return true;
 }
 
+/// What the view box shows, and the clipboard gets.
+Text ViewText(const Click& click) {
+    return Join("AppDir = ", click.run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
+                NewLine, "Script File = ", NewLine, click.Game.GameKind == 4 ? Text() : click.Script);
+}
+
 /// Shows the files where that was asked for. True if the game is to be started.
 bool ViewOrGoOn(Click& click) {
     Run& run = click.run;
     int answer = 0;
     click.Texts.LaunchStep = 470;
-    Text text;
     if (click.Mode == LaunchMode::View) {
-        text = Join("AppDir = ", run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
-                    NewLine, "Script File = ", NewLine, click.Game.GameKind == 4 ? Text() : click.Script);
-        answer = AskUser(run, "Viewing Commands", text, "&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!");
+        answer = AskUserFixedWidth(run, "Viewing Commands", ViewText(click),
+                                   "&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!");
     }
     click.Texts.LaunchStep = 480;
     if (answer == 1) {
-        if (const Error failed = run.System.Clip.SetText(text)) {
+        if (const Error failed = run.System.Clip.SetText(ViewText(click))) {
             ReportError(click, failed);
             return false;
         }
@@ -186,18 +191,6 @@ void PutPif(const Click& click) {
     }
 }
 
-void HideWindow(Launcher& launcher) {
-    launcher.Window.Visible = false;
-    launcher.Window.ShowLorvane_Bar.Caption = "&Show Lorvane 3D";
-    launcher.run.User.Refresh();
-}
-
-void ShowWindow(Launcher& launcher) {
-    launcher.Window.Visible = true;
-    launcher.Window.ShowLorvane_Bar.Caption = "&Hide Lorvane 3D";
-    launcher.run.User.Refresh();
-}
-
 void StartGame(Click& click) {
     Run& run = click.run;
     Save(run, "LV-Stuff", "LaunchCount",
@@ -214,14 +207,14 @@ void StartGame(Click& click) {
         return;
     }
     PutPif(click);
-    HideWindow(click.launcher);
+    HideMainWindow(click.launcher);
     if (const Error failed = run.System.Programs.StartBatch(run.DefaultGameDirectory, kLaunchBatchFile)) {
-        ShowWindow(click.launcher);  // no game has the screen, so the window comes back
+        ShowMainWindow(click.launcher);  // no game has the screen, so the window comes back
         ReportError(click, failed);
         return;
     }
     if (click.launcher.Window.EndOnLaunch_Chk.Value == 1) {
-        EndProgram(run);
+        Exit_Bar_Click(click.launcher);
     }
 }
 

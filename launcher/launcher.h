@@ -4,11 +4,22 @@
 
 #pragma once
 
+#include <functional>
+
 #include "catalogs/catalog_lists.h"
 #include "foundation/run.h"
 #include "launcher/lv_frm.h"
+#include "launcher/splash.h"
 
 namespace lv {
+
+/// What the launcher knows of the video profile window. Without Load there is none.
+struct VideoProfileWindow {
+    bool Open = false;
+    bool Reopen = false;           // it was open when the main window was hidden
+    std::function<void()> Load;    // opens it and sets Open
+    std::function<void()> Unload;  // closes it and clears Open
+};
 
 struct Launcher {
     explicit Launcher(Run& owner) : run(owner) {}
@@ -16,7 +27,9 @@ struct Launcher {
     Launcher& operator=(const Launcher&) = delete;
 
     Run& run;
+    Splash_Frm Splash;
     LV_Frm Window;
+    VideoProfileWindow VideoProfiles;
     CatalogLists Lists{Window.Exe_Cbo,
                        Window.Game_Cbo,
                        Window.Game_Chk,
@@ -31,6 +44,13 @@ struct Launcher {
                        {},
                        {},
                        {}};
+
+    /// Shows the setup wizard; true if the user went through with it. Empty: the program has none.
+    std::function<bool()> ShowInstallWizard;
+    bool WizardRan = false;  // in this start
+
+    /// Measures the main window's form. Empty: there is none, and the size stays as it is.
+    std::function<WindowMeasures()> Measure;
 
     bool ClearingGameChk = false;     // Game_Chk clears itself: its own click does nothing meanwhile
     bool ProfileChangeQuiet = false;  // the profile list is being filled: its click does nothing

@@ -75,7 +75,9 @@ LV_Frm::LV_Frm() {
     DoIt_Cmd[1].ToolTip = "Click to create and view the launch files";
     DoIt_Cmd[2].Caption = "&Create Only";
     DoIt_Cmd[2].ToolTip = "Click to create launch files, but not launch";
-    ShowLorvane_Bar.Caption = "&Hide Lorvane 3D";
+    for (std::size_t i = 0; i < ButtonBar_Cmd.size(); ++i) {
+        ButtonBar_Cmd[i].ToolTip = BarButtonRows()[i].ToolTip;
+    }
 }
 
 const OptionBox* OptionBoxesBegin() {

@@ -8,14 +8,33 @@
 #include <array>
 
 #include "foundation/controls.h"
+#include "foundation/window_services.h"
+#include "launcher/button_bar.h"
+#include "launcher/menu_table.h"
+#include "launcher/window_size.h"
 
 namespace lv {
+
+/// How the window stands on the screen. Without a tray nothing could bring a hidden window back, so it goes to the
+/// task bar instead.
+enum class Presence { Shown, Minimised, Hidden };
 
 struct LV_Frm {
     LV_Frm();
 
     Text Caption = "Lorvane 3D";
     bool Visible = false;
+    bool EverShown = false;      // before that the window is hidden, tray or not
+    bool TrayIcon = false;       // the form shows the icon while this is set
+    bool TrayAvailable = false;  // there was a tray when the window was last hidden
+    bool CanUnload = false;      // Exit_Bar was clicked
+
+    lv::WindowPlacement Placement;  // the form keeps place and state current; the load sets them
+    lv::WindowSizeMode SizeMode = WindowSizeMode::All;
+    PixelSize Size;             // the outer size that the form is to have
+    PixelSize Remembered;       // what Size_Tmr puts back
+    bool SizeChanging = false;  // the program changes the size: not the user's doing
+    bool Size_Tmr_Enabled = false;
 
     Panel Exe_Pan;
     Panel Mod_Pan;
@@ -66,8 +85,13 @@ struct LV_Frm {
     CommandButton VideoProfileEdit_Cmd;
     std::array<CommandButton, 3> DoIt_Cmd;
 
-    CommandButton Mem_Bar;          // the memory menu, out of use where a game manages its own memory
-    CommandButton ShowLorvane_Bar;  // "&Hide Lorvane 3D" or "&Show Lorvane 3D"
+    std::array<CommandButton, kBarButtons> ButtonBar_Cmd;
+    std::array<Picture, kMenuPictures> Menu_Pic;
+
+    MenuState Menu = MakeMenuState();
+
+    MenuItemState& Bar(MenuItem item) { return Menu[static_cast<std::size_t>(item)]; }
+    [[nodiscard]] const MenuItemState& Bar(MenuItem item) const { return Menu[static_cast<std::size_t>(item)]; }
 };
 
 /// An option check box: what it says, the key in "Options" that keeps it, and its tool tip.

@@ -1,24 +1,15 @@
 #include "launcher/main_window_load.h"
 
-#include "catalogs/executables.h"
 #include "catalogs/map_scan.h"
-#include "catalogs/memory_demos.h"
 #include "catalogs/scripts.h"
 #include "foundation/settings.h"
+#include "launcher/get_options.h"
 #include "launcher/lv_events.h"
 #include "launcher/option_rules.h"
-#include "video/profile_model.h"
 
 namespace lv {
 
 namespace {
-
-void LoadVideoProfiles(Launcher& launcher) {
-    launcher.ProfileChangeQuiet = true;
-    UpgradeVideoProfiles(launcher.run);
-    FillVideoProfiles(launcher.run, launcher.Window.VideoProfiles_Cbo);
-    launcher.ProfileChangeQuiet = false;
-}
 
 // The stored combination is shown as it is: nothing is excluded here. Only what the game itself rules out is.
 void LoadOptionBoxes(Launcher& launcher) {
@@ -46,21 +37,21 @@ void LoadOptionBoxes(Launcher& launcher) {
 
 bool LV_Frm_Load(Launcher& launcher) {
     Run& run = launcher.run;
-    if (!FixScriptRegistries(run)) {
-        return false;
-    }
-    LoadVideoProfiles(launcher);
-    run.DefaultGameDirectory.clear();
-    if (!LoadExes(run, launcher.Lists)) {
-        return false;
-    }
-    Exe_Cbo_Click(launcher);
-    if (run.Ended || !FillMemoryCombo(run, launcher.Lists) || !FillDemoCombo(run, launcher.Lists)) {
+    LV_Frm& window = launcher.Window;
+    window.Remembered = window.Size;
+    InformUser(run, launcher.Splash, " Getting Options");
+    if (!GetOptions(launcher)) {
         return false;
     }
     LoadOptionBoxes(launcher);
-    run.MainFormLoaded = !run.Ended;
-    return run.MainFormLoaded;
+    window.ButtonBar_Cmd[0].ToolTip = kLaunchToolTip;
+    if (run.Ended || !FixScriptRegistries(run)) {
+        return false;
+    }
+    LoadPlacement(run, "LV_Frm", window.Placement, ScreenInTwips(run));
+    window.TrayIcon = true;
+    run.MainFormLoaded = true;
+    return true;
 }
 
 }  // namespace lv

@@ -86,7 +86,7 @@ void ApplyUnreal(LV_Frm& window) {
         Grey(window.*box);
     }
     window.Memory_Pan.Enabled = window.Mod_Pan.Enabled = window.Demo_Pan.Enabled = false;
-    window.Mem_Bar.Enabled = false;
+    window.Bar(MenuItem::Mem_Bar).Enabled = false;
     // The server panel at the top covers these two.
     window.Memory_Pan.Visible = window.Demo_Pan.Visible = false;
     for (const Box box : kNotForUnreal) {
@@ -105,7 +105,7 @@ void ApplyOtherGame(LV_Frm& window, const PanelGame& game) {
     window.Memory_Pan.Enabled = window.Mod_Pan.Enabled = true;
     window.Memory_Pan.Visible = window.Demo_Pan.Visible = true;
     window.Demo_Pan.Enabled = !worldClient;
-    window.Mem_Bar.Enabled = true;
+    window.Bar(MenuItem::Mem_Bar).Enabled = true;
     window.Game_Chk.Enabled = !worldClient;
     for (const Box box : kGreyedByUnreal) {
         Ungrey(window.*box);
@@ -125,7 +125,7 @@ void ApplyFamily(LV_Frm& window, const PanelGame& game) {
         ClearAndDisable(window.NOUDP_Chk);
         Grey(window.Memory_Chk);
         window.Memory_Pan.Enabled = false;
-        window.Mem_Bar.Enabled = false;
+        window.Bar(MenuItem::Mem_Bar).Enabled = false;
         return;
     }
     for (const Box box : {&LV_Frm::NOLAN_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOCDAUDIO_Chk, &LV_Frm::nosound_chk}) {
@@ -135,7 +135,7 @@ void ApplyFamily(LV_Frm& window, const PanelGame& game) {
         return;  // Unreal manages its own memory too; the layout above has seen to it
     }
     window.Memory_Pan.Enabled = true;
-    window.Mem_Bar.Enabled = true;
+    window.Bar(MenuItem::Mem_Bar).Enabled = true;
     Ungrey(window.Memory_Chk);
 }
 

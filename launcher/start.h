@@ -1,6 +1,6 @@
 // launcher/start.h
 //
-// The start of a run, up to the loaded main window.
+// The start of a run, from the splash to the shown main window.
 
 #pragma once
 
@@ -8,7 +8,8 @@
 
 namespace lv {
 
-/// Fixes the run's globals, loads the main window and makes it visible. False if the program ended on the way.
+/// Repairs stored values, fixes the run's globals, looks for another instance, loads the main window behind the splash
+/// and shows it. False if the program ended on the way.
 bool Start(Launcher& launcher);
 
 }  // namespace lv

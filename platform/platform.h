@@ -9,6 +9,7 @@
 #include "platform/files.h"
 #include "platform/processes.h"
 #include "platform/settings_backing.h"
+#include "platform/single_instance.h"
 #include "platform/user_registry.h"
 
 namespace lv {
@@ -20,6 +21,7 @@ struct Platform {
     Processes& Programs;
     Clipboard& Clip;
     Clock& Time;
+    SingleInstance* Instance = nullptr;  // null: any number of programs may run
 };
 
 }  // namespace lv

@@ -46,7 +46,7 @@ TEST_F(LaunchFlow, WritesTheThreeFilesByteForByteAndStartsTheBatch) {
     EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"c:\\quake\\lv_666.bat"}));
     EXPECT_EQ(Stored("LV-Stuff", "LaunchCount"), "1");
     EXPECT_FALSE(window.Visible);
-    EXPECT_EQ(window.ShowLorvane_Bar.Caption, "&Show Lorvane 3D");
+    EXPECT_EQ(window.Bar(MenuItem::ShowLorvane_Bar).Caption, "&Show Lorvane 3D");
 }
 
 TEST_F(LaunchFlow, WithoutASelectedExecutableWritesNothing) {
@@ -232,7 +232,7 @@ TEST_F(LaunchFlow, AGameThatCannotBeStartedIsReportedAndTheWindowComesBack) {
     window.Visible = true;
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_TRUE(window.Visible);
-    EXPECT_EQ(window.ShowLorvane_Bar.Caption, "&Hide Lorvane 3D");
+    EXPECT_EQ(window.Bar(MenuItem::ShowLorvane_Bar).Caption, "&Hide Lorvane 3D");
 }
 
 TEST_F(LaunchFlow, AMissingTemplateLeavesTheGameStartingWithoutPif) {

@@ -199,7 +199,7 @@ TEST(ApplyGamePanels, GreysForUnrealWhatItRemembers) {
     EXPECT_FALSE(window.Memory_Pan.Enabled);
     EXPECT_FALSE(window.Mod_Pan.Enabled);
     EXPECT_FALSE(window.Demo_Pan.Enabled);
-    EXPECT_FALSE(window.Mem_Bar.Enabled);
+    EXPECT_FALSE(window.Bar(MenuItem::Mem_Bar).Enabled);
     EXPECT_FALSE(window.Listen_Chk.Enabled);
 }
 
@@ -212,7 +212,7 @@ TEST(ApplyGamePanels, TicksAgainBehindUnrealWhatWasGreyed) {
     EXPECT_EQ(window.Demo_Chk.Value, 1);
     EXPECT_TRUE(window.Memory_Pan.Enabled);
     EXPECT_TRUE(window.Mod_Pan.Enabled);
-    EXPECT_TRUE(window.Mem_Bar.Enabled);
+    EXPECT_TRUE(window.Bar(MenuItem::Mem_Bar).Enabled);
 }
 
 TEST(ApplyGamePanels, ChangesTheOptionsForUnreal) {
@@ -251,13 +251,13 @@ TEST(ApplyGamePanels, LeavesTheQuake2FamilyItsOwnMemoryAndNetwork) {
     EXPECT_FALSE(window.NOUDP_Chk.Enabled);
     EXPECT_EQ(window.Memory_Chk.Value, 2);
     EXPECT_FALSE(window.Memory_Pan.Enabled);
-    EXPECT_FALSE(window.Mem_Bar.Enabled);
+    EXPECT_FALSE(window.Bar(MenuItem::Mem_Bar).Enabled);
     ApplyGamePanels(window, kQuake);
     EXPECT_TRUE(window.NOLAN_Chk.Enabled);
     EXPECT_TRUE(window.NOCDAUDIO_Chk.Enabled);
     EXPECT_TRUE(window.nosound_chk.Enabled);
     EXPECT_TRUE(window.Memory_Pan.Enabled);
-    EXPECT_TRUE(window.Mem_Bar.Enabled);
+    EXPECT_TRUE(window.Bar(MenuItem::Mem_Bar).Enabled);
     EXPECT_EQ(window.Memory_Chk.Value, 1);
 }
 

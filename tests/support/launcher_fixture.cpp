@@ -8,6 +8,7 @@ namespace lv {
 LauncherTest::LauncherTest() {
     run.AppDirectory = "C:\\LORVANE";
     system.Disk.AddDirectory("C:\\LORVANE");
+    Save(run, "LV-Stuff", "FirstTime", 0);
     Save(run, "LV-Stuff", "VP_Version", 1);
     Save(run, "LV-Stuff", "NVC_Version", 1);
     Save(run, kOptions, "VideoProfileList", "Base;Optimize for Speed;Optimize for Beauty;Default");
@@ -41,7 +42,15 @@ void LauncherTest::AddGames() {
 }
 
 void LauncherTest::Load() {
+    if (Stored(kOptions, "Executables") == "(none)") {
+        ExpectEmptyListQuestion();
+    }
     ASSERT_TRUE(LV_Frm_Load(launcher));
+}
+
+void LauncherTest::ExpectEmptyListQuestion(int answer) {
+    user.Expect({"Executables List Is Empty", "Would you like to set up your game executables?", answer, false, true,
+                 "&Yes,&No"});
 }
 
 void LauncherTest::PickExe(TextView path) {

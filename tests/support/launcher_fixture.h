@@ -15,14 +15,18 @@ namespace lv {
 
 class LauncherTest : public ::testing::Test {
   protected:
-    /// The store says that the profiles were made, so that a load writes no more than it must.
+    /// The store says that this is no first run and that the profiles were made, so that a load writes no more than it
+    /// must.
     LauncherTest();
 
     /// Quake, QuakeWorld, Quake II, Unreal and Half-Life, each with its data directory, and the catalog of them.
     void AddGames();
 
-    /// Loads the main window.
+    /// Loads the main window; without executables the user says no to setting them up.
     void Load();
+
+    /// The question of a start without executables; 0 is yes.
+    void ExpectEmptyListQuestion(int answer = 1);
 
     /// Picks the row of the executables list with this key, as a click would.
     void PickExe(TextView path);

@@ -4,6 +4,9 @@ namespace lv {
 
 void ScriptedUser::ShowQuestionBox(QuestionBox_Frm& box) {
     Asked.push_back(box);
+    if (OnDialog) {
+        OnDialog();
+    }
     if (Expected.empty()) {
         ADD_FAILURE() << "not expected: [" << box.Caption << "] " << box.Question_Txt.Text;
         QuestionBox_Button_Cmd_Click(box, 0);
@@ -41,6 +44,30 @@ Result<std::optional<Text>> ScriptedUser::ChooseFile(const FileRequest& request)
     auto answer = FileAnswers.front();
     FileAnswers.pop_front();
     return answer;
+}
+
+std::optional<Text> ScriptedUser::InputBox(TextView title, TextView prompt) {
+    Inputs.push_back(Join(title, "|", prompt));
+    if (OnDialog) {
+        OnDialog();
+    }
+    if (InputAnswers.empty()) {
+        ADD_FAILURE() << "no input box was expected: " << title;
+        return std::nullopt;
+    }
+    auto answer = InputAnswers.front();
+    InputAnswers.pop_front();
+    return answer;
+}
+
+Error ScriptedUser::OpenHelp(TextView path) {
+    Opened.emplace_back(path);
+    return HelpFails;
+}
+
+Error ScriptedUser::OpenUrl(TextView address) {
+    Opened.emplace_back(address);
+    return UrlFails;
 }
 
 }  // namespace lv

@@ -11,7 +11,9 @@
 #include <optional>
 #include <vector>
 
+#include "foundation/dialogs.h"
 #include "foundation/question_box.h"
+#include "launcher/install_params.h"
 
 namespace lv {
 
@@ -52,6 +54,46 @@ class ScriptedUser : public UserInterface {
     int TextWidth(TextView line) override { return static_cast<int>(line.size()) * 8; }
     int TextHeight() override { return 16; }
     ScreenSize Screen() override { return ScreenIs; }
+
+    // What the user does in each dialog that is to come; a dialog without one fails the test.
+    std::deque<std::function<void(InstallParams_Frm&)>> InInstallParams;
+    std::deque<std::function<void(About_Frm&)>> InAbout;
+    std::deque<std::function<void(ConfirmExit_Frm&)>> InConfirmExit;
+    std::deque<std::optional<Text>> InputAnswers;
+    std::vector<Text> Inputs;  // "title|prompt"
+    std::vector<Text> Opened;  // help files and addresses
+    Error HelpFails;
+    Error UrlFails;
+    bool HasTray = true;
+    std::vector<Text> WindowCalls;  // "raise", "menu File_Bar", "what's this"
+    /// Looked at while a dialog or a question is up.
+    std::function<void()> OnDialog;
+
+    void ShowInstallParams(InstallParams_Frm& form) override { Act(InInstallParams, form, "InstallParams_Frm"); }
+    void ShowAbout(About_Frm& form) override { Act(InAbout, form, "About_Frm"); }
+    void ShowConfirmExit(ConfirmExit_Frm& form) override { Act(InConfirmExit, form, "ConfirmExit_Frm"); }
+    std::optional<Text> InputBox(TextView title, TextView prompt) override;
+    Error OpenHelp(TextView path) override;
+    Error OpenUrl(TextView address) override;
+    bool TrayAvailable() override { return HasTray; }
+    void RaiseMainWindow() override { WindowCalls.emplace_back("raise"); }
+    void PopUpMenu(TextView name) override { WindowCalls.push_back(Join("menu ", name)); }
+    void EnterWhatsThis() override { WindowCalls.emplace_back("what's this"); }
+
+  private:
+    template <class Form>
+    void Act(std::deque<std::function<void(Form&)>>& acts, Form& form, const char* name) {
+        if (OnDialog) {
+            OnDialog();
+        }
+        if (acts.empty()) {
+            ADD_FAILURE() << "not expected: " << name;
+            return;
+        }
+        const auto act = acts.front();
+        acts.pop_front();
+        act(form);
+    }
 };
 
 }  // namespace lv

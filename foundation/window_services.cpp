@@ -1,0 +1,125 @@
+#include "foundation/window_services.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "foundation/numbers.h"
+#include "foundation/question_box.h"
+#include "foundation/settings.h"
+
+namespace lv {
+
+namespace {
+
+constexpr double kMostOfScreen = 0.95;
+constexpr double kWidestScreen = 100000;  // pixels
+
+// The manual of the home system, and the handbook for the toolkit's own viewer.
+constexpr std::array<TextView, 2> kHelpFiles = {"\\LV3D.hlp", "\\handbook\\handbook.hhp"};
+constexpr TextView kUsualDirectory = "C:\\Progra~1\\ostran~1\\lorvan~1";
+
+/// Whole numbers have no point.
+Text NumberText(double number) {
+    std::array<char, 64> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    return {digits.data(), end};
+}
+
+double Middle(double outer, double inner) {
+    return std::trunc((std::nearbyint(outer) - std::nearbyint(inner)) / 2);
+}
+
+double ReadNumber(Run& run, TextView section, TextView key, double fallback) {
+    return ToNumber(GetSetting(run, run.AppName, section, key, NumberText(fallback)));
+}
+
+void TellHelpIsMissing(Run& run) {
+    AskUser(run, "",
+            "Could not find help file. Eithor the help file is missing, or the properties of the Lorvane 3D icon are "
+            "incorrect. To check the Lorvane 3D icon, right click it, and select properties. Make sure the path in "
+            "'Start in:' box is the same as the path in the 'Target:' box, without the '\\Lorvane 3D.exe'.");
+}
+
+}  // namespace
+
+int ToPixels(double twips) {
+    return static_cast<int>(std::lround(std::clamp(twips / kTwipsPerPixel, -kWidestScreen, kWidestScreen)));
+}
+
+TwipsSize ScreenInTwips(Run& run) {
+    const ScreenSize screen = run.User.Screen();
+    return {ToTwips(screen.Width), ToTwips(screen.Height)};
+}
+
+void LoadPlacement(Run& run, TextView formName, WindowPlacement& placement, TwipsSize screen) {
+    placement.Top = ReadNumber(run, formName, "Top", Middle(screen.Height, placement.Height));
+    placement.Left = ReadNumber(run, formName, "Left", Middle(screen.Width, placement.Width));
+    if (placement.Top > kMostOfScreen * screen.Height || placement.Left > kMostOfScreen * screen.Width) {
+        CenterOnScreen(placement, screen);
+    }
+    const Index state = GetNumber(run, formName, "WindowState", kWindowNormal);
+    placement.WindowState = state >= kWindowNormal && state <= kWindowMaximised ? state : kWindowNormal;
+}
+
+void SavePlacement(Run& run, TextView formName, const WindowPlacement& placement) {
+    if (placement.WindowState != kWindowMinimised) {
+        Save(run, formName, "WindowState", placement.WindowState);
+    }
+    if (placement.WindowState != kWindowNormal) {
+        return;
+    }
+    Save(run, formName, "Top", TextView(NumberText(placement.Top)));
+    Save(run, formName, "Left", TextView(NumberText(placement.Left)));
+    Save(run, formName, "Height", TextView(NumberText(placement.Height)));
+    Save(run, formName, "Width", TextView(NumberText(placement.Width)));
+}
+
+void CenterOnScreen(WindowPlacement& placement, TwipsSize screen) {
+    placement.Left = std::trunc(screen.Width - placement.Width) / 2;
+    placement.Top = std::trunc(screen.Height - placement.Height) / 2;
+}
+
+void CenterOnOwner(WindowPlacement& placement, const WindowPlacement& owner) {
+    placement.Left = owner.Left + std::trunc(owner.Width - placement.Width) / 2;
+    placement.Top = owner.Top + std::trunc(owner.Height - placement.Height) / 2;
+}
+
+std::optional<Text> FindHelpFile(Run& run) {
+    for (const TextView directory : {TextView(run.AppDirectory), kUsualDirectory, TextView(run.DefaultGameDirectory)}) {
+        for (const TextView name : kHelpFiles) {
+            const Text path = Join(directory, name);
+            if (!directory.empty() && run.System.Disk.FileExists(path)) {
+                return path;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+void OpenHelpFile(Run& run) {
+    const std::optional<Text> path = FindHelpFile(run);
+    if (!path) {
+        TellHelpIsMissing(run);
+        return;
+    }
+    if (const Error failed = run.User.OpenHelp(*path)) {
+        AskUser(run, "",
+                Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text));
+    }
+}
+
+void OpenWebPage(Run& run, TextView address) {
+    const Error failed = run.User.OpenUrl(address);
+    if (!failed) {
+        return;
+    }
+    if (failed.Number == error::kFileNotFound) {
+        AskUser(run, "Error Opening Browser", "The default browser (if there is one) could not be started.", "DOH!");
+        return;
+    }
+    AskUser(run, "Hmmmmmmm...", Join("The URL", NewLine, address, NewLine, "failed to load. Try again later."), "OK");
+}
+
+}  // namespace lv

@@ -1,0 +1,62 @@
+// foundation/window_services.h
+//
+// What all windows share: where they come up, the help file, the web page. Places and sizes are twips, 15 to the
+// pixel, as they are stored.
+
+#pragma once
+
+#include <optional>
+
+#include "foundation/run.h"
+
+namespace lv {
+
+constexpr int kTwipsPerPixel = 15;
+
+constexpr double ToTwips(int pixels) {
+    return static_cast<double>(pixels) * kTwipsPerPixel;
+}
+/// Rounded to the nearest pixel, and held within what a screen can have.
+int ToPixels(double twips);
+
+constexpr int kWindowNormal = 0;
+constexpr int kWindowMinimised = 1;
+constexpr int kWindowMaximised = 2;
+
+struct WindowPlacement {
+    double Top = 0;
+    double Left = 0;
+    double Height = 0;
+    double Width = 0;
+    int WindowState = kWindowNormal;
+};
+
+struct TwipsSize {
+    double Width = 0;
+    double Height = 0;
+};
+
+TwipsSize ScreenInTwips(Run& run);
+
+/// Sets place and state from the section of the window's name. Without a stored place the window is centred; one that
+/// begins beyond 0.95 of the screen's height or width, as it was left on a larger screen, is centred too. The size is
+/// stored but not read: other means fix it.
+void LoadPlacement(Run& run, TextView formName, WindowPlacement& placement, TwipsSize screen);
+
+/// Writes the state of a window that is not minimised, and place and size of one that is neither that nor maximised.
+void SavePlacement(Run& run, TextView formName, const WindowPlacement& placement);
+
+/// No clipping to the screen in either.
+void CenterOnScreen(WindowPlacement& placement, TwipsSize screen);
+void CenterOnOwner(WindowPlacement& placement, const WindowPlacement& owner);
+
+/// The first help file there is: in the program's directory, in its usual one, in that of the game.
+std::optional<Text> FindHelpFile(Run& run);
+
+/// Shows the help file, or tells that there is none.
+void OpenHelpFile(Run& run);
+
+/// Opens the address in the default browser, or tells what stood in the way.
+void OpenWebPage(Run& run, TextView address);
+
+}  // namespace lv

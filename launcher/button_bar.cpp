@@ -1,0 +1,66 @@
+#include "launcher/button_bar.h"
+
+#include "foundation/question_box.h"
+#include "launcher/launch_flow.h"
+#include "launcher/lv_events.h"
+#include "launcher/window_life.h"
+#include "launcher/window_menu.h"
+
+namespace lv {
+
+namespace {
+
+void Launch(Launcher& launcher) {
+    DoIt_Cmd_Click(launcher, 0);
+}
+
+// The script editor is not part of the program yet; once its menu item works, so does this.
+void EditScript(Launcher& launcher) {
+    if (MenuRowOf(MenuItem::SetupFoundry_Bar).Click != nullptr) {
+        Menu_Click(launcher, MenuItem::SetupFoundry_Bar);
+        return;
+    }
+    AskUser(launcher.run, "", "Setup Foundry, the script editor, isn't part of this version of Lorvane 3D yet.");
+}
+
+// The box says so and stays clear as long as GameSpy 3D cannot be configured; then nothing is launched.
+void LaunchGameSpy(Launcher& launcher) {
+    SetOption(launcher, &LV_Frm::LaunchQspy_Chk, 1);
+    if (launcher.Window.LaunchQspy_Chk.Value == 1) {
+        DoIt_Cmd_Click(launcher, 0);
+    }
+}
+
+template <int Row>
+void SelectProfile(Launcher& launcher) {
+    ListBox& profiles = launcher.Window.VideoProfiles_Cbo;
+    if (profiles.Items.size() <= static_cast<std::size_t>(Row)) {
+        return;
+    }
+    profiles.ListIndex = Row;
+    VideoProfiles_Cbo_Click(launcher);
+}
+
+constexpr BarButtonRow kButtons[kBarButtons] = {
+    {"Launch [F2]", "launch", Launch},
+    {"Edit Current Script with Setup Foundry [F3]", "edit_script", EditScript},
+    {"Configure & Launch GameSpy", "gamespy", LaunchGameSpy},
+    {"Reset GL Options for Speed (Overclocked)", "speed", SelectProfile<1>},
+    {"Reset GL Options for Beauty", "beauty", SelectProfile<2>},
+    {"Resize Lorvane 3D", "resize", NextSize},
+    {"Minimize Lorvane 3D", "minimize", ShowLorvane_Bar_Click},
+    {"Close Lorvane 3D [F12]", "close", Exit_Bar_Click},
+    {"Help!! [F1]", "help", HelpView_Bar_Click},
+};
+
+}  // namespace
+
+std::span<const BarButtonRow> BarButtonRows() {
+    return kButtons;
+}
+
+void ButtonBar_Cmd_Click(Launcher& launcher, int index) {
+    kButtons[index].Click(launcher);
+}
+
+}  // namespace lv

@@ -1,0 +1,182 @@
+#include "platform/linux/linux_instance.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <optional>
+#include <thread>
+
+namespace lv {
+
+namespace {
+
+/// A name of this test's own.
+std::string ConfigOf(const char* test) {
+    return "/nowhere/" + std::to_string(getpid()) + "/" + test;
+}
+
+/// Another process that claims the name, writes "1" or "0" into a pipe, and serves until it is killed. Each raise is
+/// an "r" in the pipe.
+class OtherProcess {
+  public:
+    OtherProcess(const std::string& config, bool serves) {
+        int ends[2];
+        if (pipe2(ends, O_CLOEXEC) != 0) {
+            return;
+        }
+        child_ = fork();
+        if (child_ == 0) {
+            Run(config, serves, ends[1]);
+        }
+        close(ends[1]);
+        pipe_ = ends[0];
+    }
+    ~OtherProcess() {
+        Kill();
+        if (pipe_ >= 0) {
+            close(pipe_);
+        }
+    }
+    OtherProcess(const OtherProcess&) = delete;
+    OtherProcess& operator=(const OtherProcess&) = delete;
+
+    /// The next sign from the other process; a blank if none comes within ten seconds.
+    char Next() {
+        pollfd waiting{pipe_, POLLIN, 0};
+        char sign = ' ';
+        if (poll(&waiting, 1, 10000) > 0 && read(pipe_, &sign, 1) == 1) {
+            return sign;
+        }
+        return ' ';
+    }
+    void Kill() {
+        if (child_ > 0) {
+            kill(child_, SIGKILL);
+            waitpid(child_, nullptr, 0);
+            child_ = -1;
+        }
+    }
+
+  private:
+    [[noreturn]] static void Run(const std::string& config, bool serves, int pipe) {
+        LinuxInstance instance(config);
+        instance.OnRaise = [pipe] { (void)!write(pipe, "r", 1); };
+        (void)!write(pipe, instance.Claim() ? "1" : "0", 1);
+        for (;;) {
+            pollfd waiting{serves ? instance.Descriptor() : -1, POLLIN, 0};
+            poll(&waiting, 1, 1000);
+            if (serves) {
+                instance.Serve();
+            }
+        }
+    }
+
+    pid_t child_ = -1;
+    int pipe_ = -1;
+};
+
+double SecondsOf(const std::function<void()>& act) {
+    const auto start = std::chrono::steady_clock::now();
+    act();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+}  // namespace
+
+TEST(LinuxInstance, TheFirstIsAlone) {
+    LinuxInstance first(ConfigOf("alone"));
+    EXPECT_EQ(first.Descriptor(), -1);
+    EXPECT_TRUE(first.Claim());
+    EXPECT_GE(first.Descriptor(), 0);
+}
+
+TEST(LinuxInstance, ClaimingTwiceIsNoSecondStart) {
+    LinuxInstance first(ConfigOf("twice"));
+    EXPECT_TRUE(first.Claim());
+    EXPECT_TRUE(first.Claim());
+}
+
+TEST(LinuxInstance, ASecondStartRaisesTheFirst) {
+    OtherProcess first(ConfigOf("second"), true);
+    ASSERT_EQ(first.Next(), '1');
+    LinuxInstance second(ConfigOf("second"));
+    EXPECT_FALSE(second.Claim());
+    EXPECT_EQ(second.Descriptor(), -1);
+    EXPECT_EQ(first.Next(), 'r');
+}
+
+TEST(LinuxInstance, EverySecondStartRaisesTheFirst) {
+    OtherProcess first(ConfigOf("every"), true);
+    ASSERT_EQ(first.Next(), '1');
+    for (int start = 0; start < 5; ++start) {
+        LinuxInstance later(ConfigOf("every"));
+        EXPECT_FALSE(later.Claim());
+        EXPECT_EQ(first.Next(), 'r');
+    }
+}
+
+TEST(LinuxInstance, AKilledFirstLeavesNothingBehind) {
+    OtherProcess first(ConfigOf("killed"), true);
+    ASSERT_EQ(first.Next(), '1');
+    first.Kill();
+    LinuxInstance second(ConfigOf("killed"));
+    EXPECT_TRUE(second.Claim());
+}
+
+TEST(LinuxInstance, AnEndedFirstLeavesNothingBehind) {
+    { EXPECT_TRUE(LinuxInstance(ConfigOf("ended")).Claim()); }
+    EXPECT_TRUE(LinuxInstance(ConfigOf("ended")).Claim());
+}
+
+TEST(LinuxInstance, AFirstThatHangsIsStillTheFirst) {
+    OtherProcess first(ConfigOf("hangs"), false);
+    ASSERT_EQ(first.Next(), '1');
+    LinuxInstance second(ConfigOf("hangs"));
+    bool claimed = true;
+    const double seconds = SecondsOf([&] { claimed = second.Claim(); });
+    EXPECT_FALSE(claimed);
+    EXPECT_GE(seconds, 1.9);
+    EXPECT_LT(seconds, 8);
+}
+
+TEST(LinuxInstance, AFirstThatDiesWhileItIsAskedMakesRoom) {
+    std::optional<OtherProcess> first(std::in_place, ConfigOf("dies"), false);
+    ASSERT_EQ(first->Next(), '1');
+    std::thread killer([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        first->Kill();
+    });
+    LinuxInstance second(ConfigOf("dies"));
+    EXPECT_TRUE(second.Claim());
+    killer.join();
+}
+
+TEST(LinuxInstance, OtherSettingsAreAnotherProgram) {
+    LinuxInstance first(ConfigOf("here"));
+    LinuxInstance other(ConfigOf("there"));
+    EXPECT_TRUE(first.Claim());
+    EXPECT_TRUE(other.Claim());
+}
+
+TEST(LinuxInstance, ServingWithoutAKnockReturnsAtOnce) {
+    LinuxInstance first(ConfigOf("quiet"));
+    int raises = 0;
+    first.OnRaise = [&] { ++raises; };
+    first.Serve();  // before the claim
+    ASSERT_TRUE(first.Claim());
+    EXPECT_LT(SecondsOf([&] { first.Serve(); }), 0.15);
+    EXPECT_EQ(raises, 0);
+}
+
+TEST(LinuxInstance, TheListenerIsNotInheritedByGames) {
+    LinuxInstance first(ConfigOf("inherit"));
+    ASSERT_TRUE(first.Claim());
+    EXPECT_NE(fcntl(first.Descriptor(), F_GETFD) & FD_CLOEXEC, 0);
+}
+
+}  // namespace lv
