@@ -2,19 +2,24 @@
 //
 // The program on Linux: makes the platform, makes the window, runs.
 
+#include <poll.h>
 #include <wx/app.h>
+#include <wx/cshelp.h>
 #include <wx/image.h>
+#include <wx/timer.h>
 
 #include <cstdlib>
 #include <memory>
 
 #include "foundation/forms/wx_clipboard.h"
-#include "foundation/forms/wx_user.h"
 #include "foundation/question_box.h"
+#include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/start.h"
+#include "launcher/window_life.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_files.h"
+#include "platform/linux/linux_instance.h"
 #include "platform/linux/linux_processes.h"
 #include "platform/linux/sqlite_settings.h"
 #include "platform/linux/user_directories.h"
@@ -26,7 +31,10 @@ namespace {
 
 /// Everything that one run owns, in the order in which it is made.
 struct Program {
-    explicit Program(std::unique_ptr<SqliteSettings> store) : Settings(std::move(store)) {}
+    explicit Program(std::unique_ptr<SqliteSettings> store) : Settings(std::move(store)) {
+        System.Instance = &Instance;
+        User.SetRun(TheRun);
+    }
 
     std::unique_ptr<SqliteSettings> Settings;
     LinuxFiles Disk{{DataDirectory() / "drives", WinePrefix(), ProgramFileDirectory()}};
@@ -34,8 +42,9 @@ struct Program {
     LinuxProcesses Programs{Disk};
     WxClipboard Clip;
     LinuxClock Time;
+    LinuxInstance Instance{ConfigDirectory().string()};
     Platform System{*Settings, Registry, Disk, Programs, Clip, Time};
-    WxUser User{Disk};
+    LauncherUser User{Disk};
     Run TheRun{System, User};
     Launcher TheLauncher{TheRun};
 };
@@ -81,16 +90,51 @@ class LorvaneApp : public wxApp {
             return false;
         }
         program_ = std::make_unique<Program>(std::move(store.Value));
-        if (!Start(program_->TheLauncher)) {
-            return false;
-        }
-        auto* form = new LvForm(program_->TheLauncher, program_->User);
-        SetTopWindow(form);
-        form->Show();
+        wxHelpProvider::Set(new wxSimpleHelpProvider);
+        form_ = new LvForm(program_->TheLauncher, program_->User);
+        SetTopWindow(form_);
+        SetExitOnFrameDelete(false);
+        CallAfter([this] { StartInsideTheLoop(); });
         return true;
     }
 
+    int OnExit() override {
+        knock_.Stop();
+        return wxApp::OnExit();
+    }
+
   private:
+    // The start pumps events, so it needs the loop around it.
+    void StartInsideTheLoop() {
+        if (!Start(program_->TheLauncher)) {
+            End();
+            return;
+        }
+        program_->Instance.OnRaise = [this] { ComeForward(program_->TheLauncher); };
+        knock_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { AnswerKnocks(); });
+        knock_.Start(kKnockMilliseconds);
+    }
+
+    // A look that costs nothing, four times a second.
+    void AnswerKnocks() {
+        pollfd waiting{program_->Instance.Descriptor(), POLLIN, 0};
+        if (waiting.fd >= 0 && poll(&waiting, 1, 0) > 0) {
+            program_->Instance.Serve();
+        }
+        if (program_->TheRun.Ended) {
+            End();
+        }
+    }
+
+    void End() {
+        form_->Destroy();
+        ExitMainLoop();
+    }
+
+    static constexpr int kKnockMilliseconds = 250;
+
+    LvForm* form_ = nullptr;
+    wxTimer knock_;
     WithoutOpenGl withoutOpenGl_;  // made with the application, before the toolkit opens the display
     std::unique_ptr<Program> program_;
 };

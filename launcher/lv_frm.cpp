@@ -67,6 +67,11 @@ LV_Frm::LV_Frm() {
         (this->*row.Box).Caption = row.Caption;
         (this->*row.Box).ToolTip = row.ToolTip;
     }
+    for (CheckBox LV_Frm::*const box :
+         {&LV_Frm::UnrealSimulateFirstRun_Chk, &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk,
+          &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk}) {
+        (this->*box).Visible = false;  // until Unreal is picked
+    }
     Exe_Cbo.ToolTip = "List of recognized games";
     VideoProfiles_Cbo.ToolTip = "List of video profiles";
     DoIt_Cmd[0].Caption = "&Launch Me!";

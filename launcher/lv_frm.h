@@ -36,6 +36,8 @@ struct LV_Frm {
     bool SizeChanging = false;  // the program changes the size: not the user's doing
     bool Size_Tmr_Enabled = false;
 
+    Label Hint_Lbl;  // what to do next
+
     Panel Exe_Pan;
     Panel Mod_Pan;
     Panel Memory_Pan;

@@ -42,7 +42,7 @@ struct RightColumn {
     int OtherOptsHeight;
 };
 
-// Twips. Unreal has no use for what stands above the server panel; its own boxes need the room.
+// Twips. Unreal's own boxes need the room.
 constexpr RightColumn kUnrealColumn = {0, 2340, 3360, 2535};
 constexpr RightColumn kOtherColumn = {1320, 3660, 4680, 1215};
 
@@ -87,8 +87,6 @@ void ApplyUnreal(LV_Frm& window) {
     }
     window.Memory_Pan.Enabled = window.Mod_Pan.Enabled = window.Demo_Pan.Enabled = false;
     window.Bar(MenuItem::Mem_Bar).Enabled = false;
-    // The server panel at the top covers these two.
-    window.Memory_Pan.Visible = window.Demo_Pan.Visible = false;
     for (const Box box : kNotForUnreal) {
         (window.*box).Value = 0;
         (window.*box).Visible = false;
@@ -103,7 +101,6 @@ void ApplyOtherGame(LV_Frm& window, const PanelGame& game) {
     Place(window, kOtherColumn);
     const bool worldClient = game.IsQuakeWorld || game.IsHexenWorld;
     window.Memory_Pan.Enabled = window.Mod_Pan.Enabled = true;
-    window.Memory_Pan.Visible = window.Demo_Pan.Visible = true;
     window.Demo_Pan.Enabled = !worldClient;
     window.Bar(MenuItem::Mem_Bar).Enabled = true;
     window.Game_Chk.Enabled = !worldClient;

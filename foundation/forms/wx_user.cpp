@@ -5,10 +5,17 @@
 #include <wx/display.h>
 #include <wx/evtloop.h>
 #include <wx/filedlg.h>
+#include <wx/filename.h>
+#include <wx/html/helpctrl.h>
 #include <wx/settings.h>
+#include <wx/taskbar.h>
+#include <wx/textdlg.h>
+#include <wx/toplevel.h>
 #include <wx/utils.h>
 
 #include "foundation/forms/question_box_form.h"
+#include "foundation/forms/small_dialogs.h"
+#include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 
 namespace lv {
@@ -24,6 +31,10 @@ wxSize Measure(const wxString& line) {
 }
 
 }  // namespace
+
+WxUser::WxUser(Files& files) : files_(files) {}
+
+WxUser::~WxUser() = default;
 
 wxWindow* WxUser::Owner() const {
     return activeForm_ != nullptr && activeForm_->IsShownOnScreen() ? activeForm_ : nullptr;
@@ -82,6 +93,67 @@ int WxUser::TextHeight() {
 ScreenSize WxUser::Screen() {
     const wxSize size = wxDisplay(static_cast<unsigned>(0)).GetClientArea().GetSize();
     return {size.GetWidth(), size.GetHeight()};
+}
+
+void WxUser::ShowAbout(About_Frm& about) {
+    ShowAboutForm(Owner(), about);
+}
+
+void WxUser::ShowConfirmExit(ConfirmExit_Frm& confirm) {
+    ShowConfirmExitForm(Owner(), confirm);
+}
+
+std::optional<Text> WxUser::InputBox(TextView title, TextView prompt) {
+    wxTextEntryDialog dialog(Owner(), ToWx(prompt), ToWx(title));
+    dialog.SetName("InputBox");
+    if (dialog.ShowModal() != wxID_OK) {
+        return std::nullopt;
+    }
+    return FromWx(dialog.GetValue());
+}
+
+Error WxUser::OpenHelp(TextView path) {
+    const wxFileName book(wxString::FromUTF8(files_.ToHost(path)));
+    if (book.GetExt().Lower() != "hhp") {
+        return MakeError(error::kInvalidCall, "this help file needs a viewer that this system does not have");
+    }
+    if (!help_) {
+        help_ = std::make_unique<wxHtmlHelpController>(wxHF_DEFAULT_STYLE | wxHF_OPEN_FILES);
+        if (!help_->AddBook(book)) {
+            help_.reset();
+            return MakeError(error::kFileNotFound);
+        }
+    }
+    help_->DisplayContents();
+    return {};
+}
+
+Error WxUser::OpenUrl(TextView address) {
+    return wxLaunchDefaultBrowser(ToWx(address)) ? Error() : MakeError(error::kFileNotFound);
+}
+
+bool WxUser::TrayAvailable() {
+    return wxTaskBarIcon::IsAvailable();
+}
+
+void WxUser::RaiseMainWindow() {
+    if (auto* window = dynamic_cast<wxTopLevelWindow*>(activeForm_)) {
+        window->Iconize(false);
+        window->Show();
+        window->Raise();
+    }
+}
+
+void WxUser::PopUpMenu(TextView menu) {
+    if (popUp_) {
+        popUp_(menu);
+    }
+}
+
+void WxUser::EnterWhatsThis() {
+    if (activeForm_ != nullptr) {
+        EnterWhatsThisMode(activeForm_);
+    }
 }
 
 }  // namespace lv

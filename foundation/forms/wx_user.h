@@ -7,7 +7,9 @@
 #include <wx/window.h>
 
 #include <functional>
-#include <vector>
+#include <memory>
+
+class wxHtmlHelpController;
 
 #include "foundation/user_interface.h"
 #include "platform/files.h"
@@ -16,12 +18,15 @@ namespace lv {
 
 class WxUser : public UserInterface {
   public:
-    explicit WxUser(Files& files) : files_(files) {}
+    explicit WxUser(Files& files);
+    ~WxUser() override;
 
     /// The window that question boxes stand over, once there is one.
     void SetActiveForm(wxWindow* form) { activeForm_ = form; }
     /// Called by Refresh.
     void OnRefresh(std::function<void()> show) { refresh_ = std::move(show); }
+    /// Called by PopUpMenu.
+    void OnPopUp(std::function<void(TextView)> popUp) { popUp_ = std::move(popUp); }
 
     void ShowQuestionBox(QuestionBox_Frm& box) override;
     Result<std::optional<Text>> ChooseFile(const FileRequest& request) override;
@@ -32,12 +37,24 @@ class WxUser : public UserInterface {
     int TextHeight() override;
     ScreenSize Screen() override;
 
+    void ShowAbout(About_Frm& about) override;
+    void ShowConfirmExit(ConfirmExit_Frm& confirm) override;
+    std::optional<Text> InputBox(TextView title, TextView prompt) override;
+    Error OpenHelp(TextView path) override;
+    Error OpenUrl(TextView address) override;
+    bool TrayAvailable() override;
+    void RaiseMainWindow() override;
+    void PopUpMenu(TextView menu) override;
+    void EnterWhatsThis() override;
+
   private:
     [[nodiscard]] wxWindow* Owner() const;
 
     Files& files_;
     wxWindow* activeForm_ = nullptr;
     std::function<void()> refresh_;
+    std::function<void(TextView)> popUp_;
+    std::unique_ptr<wxHtmlHelpController> help_;
 };
 
 }  // namespace lv

@@ -1,18 +1,20 @@
 // launcher/forms/lv_form.h
 //
-// Shows LV_Frm, the main window.
+// Shows LV_Frm, the main window: its menu, its content, its sizes, its icon in the tray.
 
 #pragma once
 
 #include <wx/frame.h>
-#include <wx/scrolwin.h>
-#include <wx/sizer.h>
+#include <wx/timer.h>
+
+#include <memory>
 
 #include "foundation/forms/binder.h"
 #include "foundation/forms/wx_user.h"
+#include "launcher/forms/lv_panels.h"
+#include "launcher/forms/splash_form.h"
+#include "launcher/forms/tray_icon.h"
 #include "launcher/launcher.h"
-
-class wxStaticBoxSizer;
 
 namespace lv {
 
@@ -21,45 +23,36 @@ class LvForm : public wxFrame {
     LvForm(Launcher& launcher, WxUser& user);
     ~LvForm() override;
 
-    /// Brings the window in line with its struct.
+    /// Brings the windows in line with their structs.
     void ShowState();
 
+    void PopUp(TextView menu);
+
   private:
-    struct PlacedPanel {
-        const Panel* Model;
-        wxSizer* Sizer;
-        wxWindow* Box;
-    };
-
-    void MakePanels(wxWindow* parent);
-    wxSizer* MakeExePanel(wxWindow* parent);
-    wxSizer* MakeModPanel(wxWindow* parent);
-    wxSizer* MakeScriptPanel(wxWindow* parent);
-    wxSizer* MakeVideoPanel(wxWindow* parent);
-    wxSizer* MakeCommandPanel(wxWindow* parent);
-    wxSizer* MakeMemoryPanel(wxWindow* parent);
-    wxSizer* MakeDemoPanel(wxWindow* parent);
-    wxSizer* MakeServerPanel(wxWindow* parent);
-    wxSizer* MakeQSpyPanel(wxWindow* parent);
-    wxSizer* MakeOtherPanel(wxWindow* parent);
-
-    wxStaticBoxSizer* MakePanel(wxWindow* parent, const char* name, Panel LV_Frm::*model);
-    wxCheckBox* MakeOption(wxWindow* parent, CheckBox LV_Frm::*box, const wxString& label = {});
-    wxChoice* MakeList(wxWindow* parent, const char* name, ListBox LV_Frm::*list, const wxString& spoken,
-                       void (*click)(Launcher&));
-    wxSizer* MakeTickedList(wxWindow* parent, CheckBox LV_Frm::*box, wxWindow* list);
-    void MakeKeys();
-    void PlaceRightColumn();
-    void FitToScreen();
-    void PressLaunch(int index);
+    void BindEvents();
+    void BindResize();
+    [[nodiscard]] PixelSize OuterSize() const;
+    [[nodiscard]] int State() const;
+    void ShowPlace();
+    void KeepPlace();
+    void ShowSize();
+    void ShowPresence();
+    void ShowTray();
+    WindowMeasures MeasureWindow();
 
     Launcher& launcher_;
     WxUser& user_;
     Binder binder_;
-    wxScrolledWindow* content_ = nullptr;
-    wxBoxSizer* rightColumn_ = nullptr;
-    std::vector<PlacedPanel> rightPanels_;
-    std::vector<int> rightTops_;
+    LvPanels* panels_ = nullptr;
+    std::unique_ptr<SplashForm> splash_;
+    std::unique_ptr<TrayIcon> tray_;
+    wxTimer sizeTimer_;  // Size_Tmr
+    PixelSize shownSize_;
+    wxPoint place_;
+    bool placed_ = false;
+    bool keptPlace_ = false;
+    bool topmost_ = false;
+    bool showing_ = false;
 };
 
 }  // namespace lv

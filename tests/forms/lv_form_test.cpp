@@ -5,14 +5,17 @@
 #include <wx/checkbox.h>
 #include <wx/choice.h>
 #include <wx/display.h>
+#include <wx/menu.h>
 #include <wx/textctrl.h>
 
 #include <set>
 #include <string>
+#include <vector>
 
 #include "foundation/settings.h"
 #include "launcher/lv_events.h"
 #include "launcher/main_window_load.h"
+#include "launcher/window_life.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
 
@@ -36,10 +39,10 @@ class LvForm_ : public ::testing::Test {
         Save(run, kOptions, "NetServers", "A server;10.0.0.1;26000;0;");
         Save(run, kOptions, "UseDemos", 0);
         Save(run, kOptions, "UseScripts", 1);
-        EXPECT_TRUE(LV_Frm_Load(launcher));
-        launcher.Window.Visible = true;
+        Save(run, "LV-Stuff", "FirstTime", 0);
         form = new LvForm(launcher, user);
-        form->Show();
+        EXPECT_TRUE(LV_Frm_Load(launcher));
+        ShowMainWindow(launcher);
         form->Raise();
         SettleUntil([this] { return form->IsActive(); });
         Settle();
@@ -48,6 +51,8 @@ class LvForm_ : public ::testing::Test {
         form->Destroy();
         Settle();
     }
+
+    void ExpectNothingCutOff();
 
     void PickExe(int row) {
         launcher.Window.Exe_Cbo.ListIndex = row;
@@ -116,8 +121,8 @@ TEST_F(LvForm_, ListsShowTitlesAndHideTheValuesBehindThem) {
 }
 
 TEST_F(LvForm_, TheKeyboardPicksAnotherGame) {
-    Find("Game_Chk")->SetFocus();
-    PressKey(WXK_TAB, wxMOD_SHIFT);
+    Find("ButtonBar_Cmd(8)")->SetFocus();
+    PressKey(WXK_TAB);
     EXPECT_TRUE(HasKeyboard(Find("Exe_Cbo")));
     PressKey(WXK_DOWN);
     EXPECT_TRUE(SettleUntil([this] { return run.GameKind == 3; }));
@@ -128,11 +133,11 @@ TEST_F(LvForm_, UnrealShowsItsOwnOptions) {
     PickExe(2);
     EXPECT_TRUE(Find("UnrealNoDirectSound_Chk")->IsShownOnScreen());
     EXPECT_FALSE(Find("Bench_Chk")->IsShown());
-    EXPECT_FALSE(Find("Mem_Cbo")->IsShownOnScreen());
+    EXPECT_FALSE(Find("Mem_Cbo")->IsEnabled());
     EXPECT_FALSE(Find("Game_Cbo")->IsEnabled());
     Screenshot("main_window_unreal");
     PickExe(0);
-    EXPECT_TRUE(Find("Mem_Cbo")->IsShownOnScreen());
+    EXPECT_TRUE(Find("Mem_Cbo")->IsEnabled());
     EXPECT_TRUE(Find("Bench_Chk")->IsShownOnScreen());
 }
 
@@ -141,6 +146,83 @@ TEST_F(LvForm_, NothingIsCutOff) {
     const wxSize screen = wxDisplay(form).GetClientArea().GetSize();
     EXPECT_LE(form->GetSize().x, screen.x);
     EXPECT_LE(form->GetSize().y, screen.y);
+    ExpectNothingCutOff();
+    PickExe(2);
+    ExpectNothingCutOff();
+}
+
+TEST_F(LvForm_, EachSizeShowsItsParts) {
+    ClickOn(Find("ButtonBar_Cmd(5)"));
+    EXPECT_TRUE(Find("Exe_Cbo")->IsShownOnScreen());
+    EXPECT_TRUE(Find("DoIt_Cmd(0)")->IsShownOnScreen());
+    EXPECT_FALSE(Find("Game_Cbo")->IsShownOnScreen());
+    ExpectNothingCutOff();
+    Screenshot("main_window_some");
+    const int some = form->GetSize().y;
+    ClickOn(Find("ButtonBar_Cmd(5)"));
+    EXPECT_FALSE(Find("Exe_Cbo")->IsShownOnScreen());
+    EXPECT_TRUE(Find("ButtonBar_Cmd(8)")->IsShownOnScreen());
+    EXPECT_LT(form->GetSize().y, some);
+    Screenshot("main_window_buttons");
+    ClickOn(Find("ButtonBar_Cmd(5)"));
+    EXPECT_TRUE(Find("Game_Cbo")->IsShownOnScreen());
+    ExpectNothingCutOff();
+}
+
+TEST_F(LvForm_, TheMenuBarIsTheTable) {
+    const wxMenuBar* bar = form->GetMenuBar();
+    std::vector<std::string> titles;
+    for (std::size_t i = 0; i < bar->GetMenuCount(); ++i) {
+        titles.push_back(bar->GetMenuLabel(i).utf8_string());
+    }
+    EXPECT_EQ(titles, (std::vector<std::string>{"&File", "&Options", "&Game Executable", "&Modification Subdirectory",
+                                                "&Memory", "&Video Profiles", "&Player Script", "&Demos", "&Server",
+                                                "&GL", "&Help"}));
+    std::vector<std::string> file;
+    for (const wxMenuItem* item : bar->GetMenu(0)->GetMenuItems()) {
+        file.push_back(item->GetItemLabel().utf8_string());
+    }
+    EXPECT_EQ(file, (std::vector<std::string>{"&Launch Me!\tF2", "&View Commands", "&Create Files Only",
+                                              "&Hide Lorvane 3D", "E&xit\tF12"}));
+}
+
+TEST_F(LvForm_, EachMenuOpensByItsAccessKey) {
+    const char* const keys = "FOGMVPDSH";
+    for (const char* key = keys; *key != '\0'; ++key) {
+        PressKey(*key, wxMOD_ALT);
+        Screenshot(std::string("menu_") + *key);
+        PressKey(WXK_ESCAPE);
+        PressKey(WXK_ESCAPE);
+    }
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+TEST_F(LvForm_, F12Exits) {
+    PressKey(WXK_F12);
+    EXPECT_TRUE(run.Ended);
+    EXPECT_EQ(GetSetting(run, run.AppName, "VideoProfile_Frm", "LoadAtStartup"), "0");
+}
+
+TEST_F(LvForm_, AboutShowsItsCounters) {
+    WhenModal([] {
+        Screenshot("about");
+        ClickOn(Find("ButtonBar_Cmd"));
+    });
+    Menu_Click(launcher, MenuItem::HelpAbout_Bar);
+}
+
+TEST_F(LvForm_, RenamingTheLaunchButtonShowsAtOnce) {
+    WhenModal([] {
+        PressKey('g');
+        PressKey('o');
+        PressKey(WXK_RETURN);
+    });
+    Menu_Click(launcher, MenuItem::RenameButton_Bar);
+    user.Refresh();
+    EXPECT_EQ(Find("DoIt_Cmd(0)")->GetLabel(), "go");
+}
+
+void LvForm_::ExpectNothingCutOff() {
     const wxRect inside = form->GetScreenRect();
     for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
         const wxWindow* box = Find(option->Name);
@@ -150,6 +232,10 @@ TEST_F(LvForm_, NothingIsCutOff) {
         }
     }
     for (const char* button : {"DoIt_Cmd(0)", "DoIt_Cmd(1)", "DoIt_Cmd(2)"}) {
+        if (!Find(button)->IsShownOnScreen()) {
+            continue;
+        }
+        EXPECT_TRUE(inside.Contains(Find(button)->GetScreenRect())) << button;
         EXPECT_GE(Find(button)->GetSize().x, Find(button)->GetBestSize().x) << button;
     }
 }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
+#include <wx/cshelp.h>
 #include <wx/image.h>
 
 namespace {
@@ -17,6 +18,7 @@ class TestApp : public wxApp {
   public:
     bool OnInit() override {
         wxImage::AddHandler(new wxPNGHandler);
+        wxHelpProvider::Set(new wxSimpleHelpProvider);
         wxSetAssertHandler(FailTheTest);
         SetExitOnFrameDelete(false);
         CallAfter([this] {

@@ -1,0 +1,52 @@
+#include "foundation/forms/whats_this.h"
+
+#include <wx/cshelp.h>
+
+#include <map>
+#include <string>
+
+#include "assets/embedded_texts.h"
+
+namespace lv {
+
+namespace {
+
+// One line a control: its name, a tab, the text. UTF-8.
+const std::map<std::string, std::string>& Texts() {
+    static const std::map<std::string, std::string> texts = [] {
+        std::map<std::string, std::string> read;
+        const std::string_view all = EmbeddedWhatsThis();
+        for (std::size_t at = 0; at < all.size();) {
+            const std::size_t end = std::min(all.find('\n', at), all.size());
+            const std::string_view line = all.substr(at, end - at);
+            const std::size_t tab = line.find('\t');
+            if (tab != std::string_view::npos) {
+                read.emplace(line.substr(0, tab), line.substr(tab + 1));
+            }
+            at = end + 1;
+        }
+        return read;
+    }();
+    return texts;
+}
+
+}  // namespace
+
+void GiveWhatsThis(wxWindow* window) {
+    const auto found = Texts().find(window->GetName().utf8_string());
+    if (found != Texts().end()) {
+        window->SetHelpText(wxString::FromUTF8(found->second));
+        window->Bind(wxEVT_RIGHT_UP, [window](wxMouseEvent&) {
+            wxHelpProvider::Get()->ShowHelpAtPoint(window, wxGetMousePosition(), wxHelpEvent::Origin_Keyboard);
+        });
+    }
+    for (wxWindow* child : window->GetChildren()) {
+        GiveWhatsThis(child);
+    }
+}
+
+void EnterWhatsThisMode(wxWindow* window) {
+    const wxContextHelp mode(window);
+}
+
+}  // namespace lv

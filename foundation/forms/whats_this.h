@@ -1,0 +1,17 @@
+// foundation/forms/whats_this.h
+//
+// What's This: a right click on a control, or a click in What's This mode, tells what the control is for.
+
+#pragma once
+
+#include <wx/window.h>
+
+namespace lv {
+
+/// Gives every named control below the window its text and its right click.
+void GiveWhatsThis(wxWindow* window);
+
+/// The next click on a control tells what it is for.
+void EnterWhatsThisMode(wxWindow* window);
+
+}  // namespace lv

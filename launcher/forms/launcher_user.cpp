@@ -1,0 +1,16 @@
+#include "launcher/forms/launcher_user.h"
+
+#include "launcher/forms/install_params_form.h"
+
+namespace lv {
+
+void LauncherUser::ShowInstallParams(InstallParams_Frm& form) {
+    if (run_ == nullptr) {
+        return;
+    }
+    Refresh();
+    InstallParamsForm dialog(*run_, form);
+    dialog.ShowModal();
+}
+
+}  // namespace lv

@@ -1,0 +1,75 @@
+// launcher/forms/lv_panels.h
+//
+// The main window's content: the button bar and the panels, laid out in rows and columns.
+
+#pragma once
+
+#include <wx/scrolwin.h>
+#include <wx/sizer.h>
+
+#include <functional>
+#include <vector>
+
+#include "foundation/forms/binder.h"
+#include "launcher/launcher.h"
+
+namespace lv {
+
+class LvPanels : public wxScrolledWindow {
+  public:
+    LvPanels(wxWindow* parent, Launcher& launcher, Binder& binder);
+
+    /// Shows what the window's size has room for, places the right column, and lays out what changed.
+    void ShowState(bool changed);
+
+    /// The places that the window's sizes are made from, in pixels.
+    void Measure(WindowMeasures& measured);
+
+  private:
+    struct PlacedPanel {
+        const Panel* Model;
+        wxSizer* Sizer;
+    };
+
+    void MakeBarPart();
+    void MakeTopPart();
+    void MakeColumnsPart();
+    void StartPart();
+    wxWindow* MakePart(wxSizer* content, const wxSizerFlags& flags);
+    wxSizer* MakeButtonBar();
+    wxSizer* MakeExePanel();
+    wxSizer* MakeCommandPanel();
+    wxSizer* MakeModPanel();
+    wxSizer* MakeScriptPanel();
+    wxSizer* MakeVideoPanel();
+    wxSizer* MakeMemoryPanel();
+    wxSizer* MakeDemoPanel();
+    wxSizer* MakeServerPanel();
+    wxSizer* MakeQSpyPanel();
+    wxSizer* MakeOtherPanel();
+
+    wxStaticBoxSizer* MakePanel(const char* name, Panel LV_Frm::*panel);
+    wxCheckBox* MakeOption(CheckBox LV_Frm::*box, const wxString& label = {});
+    wxChoice* MakeList(const char* name, ListBox LV_Frm::*list, const wxString& spoken, void (*click)(Launcher&));
+    wxWindow* MakeMenuPicture(int index);
+    wxWindow* MakeSmallButton(const char* name, CommandButton LV_Frm::*button, const char* picture,
+                              void (*click)(Launcher&));
+    wxSizer* MakeRow(CheckBox LV_Frm::*box, wxWindow* list, std::vector<wxWindow*> behind = {});
+    void PlaceRightColumn();
+    bool ShowParts();
+
+    Launcher& launcher_;
+    Binder& binder_;
+    wxWindow* part_ = nullptr;  // the part that is being made
+    wxWindow* at_ = nullptr;    // the parent of what is being made
+    wxBoxSizer* rows_ = nullptr;
+    wxWindow* bar_ = nullptr;
+    wxWindow* top_ = nullptr;
+    wxWindow* columns_ = nullptr;
+    wxBoxSizer* right_ = nullptr;
+    std::vector<PlacedPanel> rightPanels_;
+    std::vector<int> rightTops_;
+    int shownMode_ = -1;
+};
+
+}  // namespace lv

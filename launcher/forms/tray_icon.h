@@ -1,0 +1,22 @@
+// launcher/forms/tray_icon.h
+//
+// The main window's icon in the tray.
+
+#pragma once
+
+#include <wx/taskbar.h>
+
+#include <functional>
+
+namespace lv {
+
+class TrayIcon : public wxTaskBarIcon {
+  public:
+    /// `click` gets the number of the tray message: left or right button up.
+    explicit TrayIcon(std::function<void(int)> click);
+
+  protected:
+    wxMenu* CreatePopupMenu() override { return nullptr; }
+};
+
+}  // namespace lv
