@@ -47,7 +47,7 @@ void RenameButton_Bar_Click(Launcher& launcher) {
     std::optional<Text> caption;
     {
         const TopmostSuspension dialog(run);
-        caption = run.User.InputBox("New Caption", "Enter a New Caption for the Exec Button!");
+        caption = run.User.InputBox("New Caption", "Enter a New Caption for the Exec Button!", "");
     }
     if (!caption || caption->empty()) {
         return;

@@ -103,8 +103,8 @@ void WxUser::ShowConfirmExit(ConfirmExit_Frm& confirm) {
     ShowConfirmExitForm(Owner(), confirm);
 }
 
-std::optional<Text> WxUser::InputBox(TextView title, TextView prompt) {
-    wxTextEntryDialog dialog(Owner(), ToWx(prompt), ToWx(title));
+std::optional<Text> WxUser::InputBox(TextView title, TextView prompt, TextView offered) {
+    wxTextEntryDialog dialog(Owner(), ToWx(prompt), ToWx(title), ToWx(offered));
     dialog.SetName("InputBox");
     if (dialog.ShowModal() != wxID_OK) {
         return std::nullopt;

@@ -39,7 +39,7 @@ class WxUser : public UserInterface {
 
     void ShowAbout(About_Frm& about) override;
     void ShowConfirmExit(ConfirmExit_Frm& confirm) override;
-    std::optional<Text> InputBox(TextView title, TextView prompt) override;
+    std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered) override;
     Error OpenHelp(TextView path) override;
     Error OpenUrl(TextView address) override;
     bool TrayAvailable() override;
