@@ -48,7 +48,7 @@ PathForm::PathForm(wxWindow* owner, Path_Frm& form)
     });
     rows->Add(directories_, wxSizerFlags(1).Expand().Border(wxTOP | wxBOTTOM, kGap));
     rows->Add(MakeLabel(this, "Path_Lbl", form_.Path_Lbl), wxSizerFlags().Expand());
-    AddWide(rows);
+    AddWide(rows, 1);
     ShowDirectories();
     Finish(MakeButton("OK_Cmd", form_.OK_Cmd, [this] { Path_OK_Cmd_Click(form_); }),
            MakeButton("Cancel_Cmd", form_.Cancel_Cmd, [this] { Path_Cancel_Cmd_Click(form_); }));

@@ -102,9 +102,9 @@ void ModalForm::AddWide(wxWindow* window) {
     rows_->Add(window, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap * 2));
 }
 
-void ModalForm::AddWide(wxSizer* sizer) {
+void ModalForm::AddWide(wxSizer* sizer, int proportion) {
     fields_ = nullptr;
-    rows_->Add(sizer, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap * 2));
+    rows_->Add(sizer, wxSizerFlags(proportion).Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap * 2));
 }
 
 void ModalForm::Finish(wxButton* ok, wxButton* cancel) {

@@ -28,7 +28,7 @@ class ModalForm : public wxDialog {
 
     /// Adds anything across the whole width.
     void AddWide(wxWindow* window);
-    void AddWide(wxSizer* sizer);
+    void AddWide(wxSizer* sizer, int proportion = 0);
     /// The last row, and the form's size and place.
     void Finish(wxButton* ok, wxButton* cancel);
 

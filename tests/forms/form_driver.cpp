@@ -11,6 +11,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 namespace lv {
 
@@ -29,14 +30,13 @@ class PollingTimer : public wxTimer {
     std::function<bool()> act_;
 };
 
-bool AModalIsOpen() {
+int OpenModals() {
+    int open = 0;
     for (const wxWindow* window : wxTopLevelWindows) {
         const auto* dialog = dynamic_cast<const wxDialog*>(window);
-        if (dialog != nullptr && dialog->IsModal() && dialog->IsShownOnScreen()) {
-            return true;
-        }
+        open += dialog != nullptr && dialog->IsModal() && dialog->IsShownOnScreen() ? 1 : 0;
     }
-    return false;
+    return open;
 }
 
 }  // namespace
@@ -92,17 +92,29 @@ void PressKey(int key, int modifiers) {
 }
 
 void WhenModal(const std::function<void()>& act) {
-    // Lives until it has acted; a test acts once or fails by its own wait.
-    static std::unique_ptr<PollingTimer> timer;
-    timer = std::make_unique<PollingTimer>([act, shown = 0]() mutable {
-        shown = AModalIsOpen() ? shown + 1 : 0;
+    // Timers live to the end of the program: one may be waiting while another one acts.
+    static std::vector<std::unique_ptr<PollingTimer>> timers;
+    timers.push_back(std::make_unique<PollingTimer>([act, before = OpenModals(), shown = 0]() mutable {
+        shown = OpenModals() > before ? shown + 1 : 0;
         if (shown < 4) {
             return false;
         }
         shown = -1000000;
         act();
         return true;
+    }));
+}
+
+void DoAndAnswer(const std::function<void()>& open, const std::function<void()>& act) {
+    const int before = OpenModals();
+    bool acted = false;
+    WhenModal([&act, &acted] {
+        act();
+        acted = true;
     });
+    open();
+    EXPECT_TRUE(SettleUntil([&] { return acted && OpenModals() <= before; })) << "the window did not come or go";
+    Settle();
 }
 
 // By the screen's own eyes: the toolkit's view of the screen does not change once it was looked at.

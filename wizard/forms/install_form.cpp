@@ -30,6 +30,7 @@ class InstallForm : public ModalForm {
         MakeSearch();
         Finish(MakeButton("OK_Cmd", form_.OK_Cmd, [this] { Install_OK_Cmd_Click(form_); }),
                MakeButton("Cancel_Cmd", form_.Cancel_Cmd, [this] { Install_Cancel_Cmd_Click(form_); }));
+        FindWindow("Game_Chk(0)")->SetFocus();  // ticking comes first
     }
 
     void ShowState() override {
