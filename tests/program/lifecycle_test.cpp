@@ -51,7 +51,27 @@ TEST(Lifecycle, ComesUpSmallerWithFewerParts) {
     ASSERT_EQ(places.size(), 3U);
     EXPECT_LT(places[1].Height, places[0].Height);
     EXPECT_LT(places[2].Height, places[1].Height);
-    EXPECT_LT(places[2].Width, places[1].Width);
+    EXPECT_LE(places[1].Width, places[0].Width);
+    EXPECT_LE(places[2].Width, places[1].Width);
+}
+
+TEST(Lifecycle, ComesUpInTheSizeThatTheMenuGives) {
+    ProgramHome home("size_by_menu");
+    home.Prepare();
+    ProgramRun first(home);
+    const std::string window = first.WaitForWindow();
+    const int whole = PlaceOf(window).Height;
+    ASSERT_TRUE(Activate(window));
+    PressKey("alt+o");
+    PressKey("b");
+    ASSERT_TRUE(WaitUntil([&] { return home.Get("Options", "ShowAll") == "Hell-No"; }));
+    ASSERT_TRUE(WaitUntil([&] { return PlaceOf(window).Height < whole; }));
+    const int chosen = PlaceOf(window).Height;
+    ASSERT_EQ(first.EndByF12(), 0);
+    ProgramRun second(home);
+    const std::string again = second.WaitForWindow();
+    EXPECT_TRUE(WaitUntil([&] { return PlaceOf(again).Height == chosen; }))
+        << PlaceOf(again).Height << ", not " << chosen;
 }
 
 TEST(FirstRun, AsksForTheChipsetAndTheGamesAndThenOpens) {
