@@ -74,6 +74,24 @@ TEST(Lifecycle, ComesUpInTheSizeThatTheMenuGives) {
         << PlaceOf(again).Height << ", not " << chosen;
 }
 
+TEST(Lifecycle, DoesNotGrowWithEveryChangeOfItsParts) {
+    ProgramHome home("size_round");
+    home.Prepare();
+    ProgramRun program(home);
+    const std::string window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    const Rectangle whole = PlaceOf(window);
+    for (int round = 0; round < 2; ++round) {
+        PressKey("alt+o");
+        PressKey("s");
+        ASSERT_TRUE(WaitUntil([&] { return PlaceOf(window).Height < whole.Height; }));
+        PressKey("alt+o");
+        PressKey("Return");  // "Show &All Options", the first one; another shares its letter
+        EXPECT_TRUE(WaitUntil([&] { return PlaceOf(window).Height == whole.Height; }));
+        EXPECT_EQ(PlaceOf(window).Width, whole.Width);
+    }
+}
+
 TEST(FirstRun, AsksForTheChipsetAndTheGamesAndThenOpens) {
     ProgramHome home("first_run");
     ProgramRun program(home);

@@ -171,6 +171,10 @@ void OwnProcess::Kill() {
     }
 }
 
+bool WaitForTrayHost() {
+    return WaitUntil([] { return OutputOf({"xwininfo", "-root", "-tree"}).find("\"trayer\"") != std::string::npos; });
+}
+
 ProgramRun::ProgramRun(const ProgramHome& home) : OwnProcess(home, {ProgramFile().string()}) {}
 
 ProgramRun::ProgramRun(const ProgramHome& home, const std::string& shell) : OwnProcess(home, InsideMounts(shell)) {}

@@ -66,6 +66,11 @@ class OwnProcess {
     std::optional<int> code_;
 };
 
+/// A tray for icons along the lower edge of the screen.
+inline const std::vector<std::string> kTrayHost = {"trayer", "--edge",  "bottom", "--align",  "right", "--widthtype",
+                                                   "pixel",  "--width", "100",    "--height", "32"};
+bool WaitForTrayHost();
+
 class ProgramRun : public OwnProcess {
   public:
     explicit ProgramRun(const ProgramHome& home);
