@@ -40,6 +40,14 @@ InstallParamsForm::InstallParamsForm(Run& run, InstallParams_Frm& form)
     right->Add(text, wxSizerFlags().Border(wxBOTTOM, kGap));
     auto* cards = new wxChoice(box, wxID_ANY);
     binder_.Bind("VidCard_Cbo", form_.VidCard_Cbo, cards, [this] { InstallParams_VidCard_Cbo_Click(run_, form_); });
+    // Enter accepts from the list too; the toolkit would open it. The space bar does that.
+    cards->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER) {
+            binder_.Run([this] { InstallParams_OK_Cmd_Click(run_, form_, 0); });
+            return;
+        }
+        event.Skip();
+    });
     right->Add(cards, wxSizerFlags().Expand());
     frame->Add(right, wxSizerFlags(1).Border(wxTOP | wxRIGHT | wxBOTTOM, kGap));
     rows->Add(frame, wxSizerFlags().Expand().Border(wxALL, kGap));

@@ -82,6 +82,7 @@ void LvForm::BindResize() {
     const auto resized = [this](wxEvent& event) {
         event.Skip();
         if (!showing_ && placed_) {
+            MeasureInNewFrame();
             LV_Frm_Resize(launcher_, State(), OuterSize());
             user_.Refresh();
         }
@@ -96,6 +97,13 @@ void LvForm::BindResize() {
             launcher_.Window.Placement.Top = ToTwips(GetPosition().y);
         }
     });
+}
+
+// The window manager puts its frame around the window only when that is shown: what was measured before lacks it.
+void LvForm::MeasureInNewFrame() {
+    if (!IsIconized() && GetSize() - GetClientSize() != measuredFrame_) {
+        SizeTo(launcher_, launcher_.Window.SizeMode);
+    }
 }
 
 PixelSize LvForm::OuterSize() const {
@@ -223,6 +231,7 @@ WindowMeasures LvForm::MeasureWindow() {
     WindowMeasures measured;
     panels_->Measure(measured);
     const wxSize frame = GetSize() - GetClientSize();
+    measuredFrame_ = frame;
     measured.FrameWidth = frame.x;
     measured.FrameHeight = frame.y;
     return measured;

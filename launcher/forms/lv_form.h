@@ -31,6 +31,7 @@ class LvForm : public wxFrame {
   private:
     void BindEvents();
     void BindResize();
+    void MeasureInNewFrame();
     [[nodiscard]] PixelSize OuterSize() const;
     [[nodiscard]] int State() const;
     void ShowPlace();
@@ -48,6 +49,7 @@ class LvForm : public wxFrame {
     std::unique_ptr<TrayIcon> tray_;
     wxTimer sizeTimer_;  // Size_Tmr
     PixelSize shownSize_;
+    wxSize measuredFrame_;
     wxPoint place_;
     bool placed_ = false;
     bool keptPlace_ = false;

@@ -52,6 +52,7 @@ LvPanels::LvPanels(wxWindow* parent, Launcher& launcher, Binder& binder)
     MakeTopPart();
     MakeColumnsPart();
     SetSizer(rows_);
+    width_ = rows_->CalcMin().x;
 }
 
 wxWindow* LvPanels::MakePart(wxSizer* content, const wxSizerFlags& flags) {
@@ -130,7 +131,7 @@ void LvPanels::Measure(WindowMeasures& measured) {
     const wxSize whole = rows_->CalcMin();
     const auto height = [](const wxWindow* part) { return part->IsShown() ? part->GetBestSize().y + kGap : 0; };
     measured.LastButtonRight = bar_->GetBestSize().x + kGap;
-    measured.CommandRight = whole.x;
+    measured.CommandRight = width_;
     measured.ExeBottom = height(bar_) + height(top_);
     measured.OtherOptsBottom = whole.y;
 }

@@ -69,6 +69,7 @@ class LvPanels : public wxScrolledWindow {
     wxBoxSizer* right_ = nullptr;
     std::vector<PlacedPanel> rightPanels_;
     std::vector<int> rightTops_;
+    int width_ = 0;  // before a first layout: under GTK the boxes then take the width they have for the least one
     int shownMode_ = -1;
 };
 

@@ -5,10 +5,23 @@
 
 namespace lv {
 
+namespace {
+
+// GTK tells of the pressing of a button in the tray and never of its release.
+#ifdef __WXGTK__
+const auto& kLeft = wxEVT_TASKBAR_LEFT_DOWN;
+const auto& kRight = wxEVT_TASKBAR_RIGHT_DOWN;
+#else
+const auto& kLeft = wxEVT_TASKBAR_LEFT_UP;
+const auto& kRight = wxEVT_TASKBAR_RIGHT_UP;
+#endif
+
+}  // namespace
+
 TrayIcon::TrayIcon(std::function<void(int)> click) {
     SetIcon(ProgramIcon().GetIcon(wxSize(24, 24)), "Lorvane 3D");
-    Bind(wxEVT_TASKBAR_LEFT_UP, [click](wxTaskBarIconEvent&) { click(kTrayLeftButtonUp); });
-    Bind(wxEVT_TASKBAR_RIGHT_UP, [click](wxTaskBarIconEvent&) { click(kTrayRightButtonUp); });
+    Bind(kLeft, [click](wxTaskBarIconEvent&) { click(kTrayLeftButtonUp); });
+    Bind(kRight, [click](wxTaskBarIconEvent&) { click(kTrayRightButtonUp); });
 }
 
 }  // namespace lv

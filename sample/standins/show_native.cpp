@@ -2,7 +2,7 @@
 //
 // Stands in for a Linux game: shows the directory it was started in, its arguments and its environment, each on a line
 // of its own, and writes the same to output.txt in that directory. The last line is "end".
-// "-wait MILLISECONDS" as the first argument waits first.
+// "-wait MILLISECONDS" among the arguments waits first.
 
 #include <unistd.h>
 
@@ -17,8 +17,10 @@
 extern char** environ;  // NOLINT: POSIX leaves its declaration to the program
 
 int main(int count, char** arguments) {
-    if (count > 2 && std::strcmp(arguments[1], "-wait") == 0) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(arguments[2])));
+    for (int i = 1; i + 1 < count; ++i) {
+        if (std::strcmp(arguments[i], "-wait") == 0) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(arguments[i + 1])));
+        }
     }
     std::string text = "DIRECTORY=" + std::filesystem::current_path().string() + "\n";
     text += "PROGRAM=" + std::string(arguments[0]) + "\n";

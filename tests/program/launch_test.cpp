@@ -1,0 +1,128 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "tests/program/program_run.h"
+#include "tests/program/screen.h"
+#include "tests/support/game_yard.h"
+
+namespace lv {
+
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace fs = std::filesystem;
+
+/// Children of that process which have ended and which nobody has asked about.
+std::vector<std::string> ZombiesOf(int parent) {
+    std::vector<std::string> zombies;
+    std::error_code ignored;
+    for (const auto& entry : fs::directory_iterator("/proc", ignored)) {
+        const std::string name = entry.path().filename().string();
+        if (name.find_first_not_of("0123456789") != std::string::npos) {
+            continue;
+        }
+        const std::string stat = ReadBytes(entry.path() / "stat");
+        const std::size_t state = stat.rfind(") ");  // the name before it may hold anything
+        if (state != std::string::npos && stat.substr(state + 2).starts_with("Z " + std::to_string(parent) + " ")) {
+            zombies.push_back(stat);
+        }
+    }
+    return zombies;
+}
+
+void PrepareLaunch(ProgramHome& home, const std::string& additions) {
+    home.Prepare();
+    home.Set("Options", "UseCustomCommandLine", "1");
+    home.Set("Options", "CustomCommandLineText", additions);
+}
+
+TEST(Launch, StartsTheGameInItsDirectoryWithArgumentsAndEnvironment) {
+    ProgramHome home("launch");
+    PrepareLaunch(home, "-wait 1 +skill 3");
+    home.Set("Options", "VidCard", "2");
+    fs::rename(home.Quake / "QUAKE.EXE", home.Quake / "GLQUAKE.EXE");
+    home.Set("Options", "Executables", "Quake;c:\\quake\\glquake.exe");
+    ProgramRun program(home);
+    ASSERT_TRUE(Activate(program.WaitForWindow()));
+    PressKey("F2");
+    const std::vector<std::string> lines = WaitForOutput(home.Quake / "output.txt");
+    EXPECT_THAT(LinesAfter(lines, "DIRECTORY="), ElementsAre(home.Quake.string()));
+    EXPECT_THAT(LinesAfter(lines, "PROGRAM="), ElementsAre((home.Quake / "GLQUAKE.EXE").string()));
+    EXPECT_THAT(LinesAfter(lines, "ARGUMENT="),
+                ElementsAre("-zone", "512", "-heapsize", "16384", "-wait", "1", "+skill", "3", "+exec", "lv_666.qs"));
+    EXPECT_THAT(lines, Contains("SSTV2_GRXCLK=90"));
+    EXPECT_THAT(LinesAfter(lines, "GDK_GL="), IsEmpty());
+    EXPECT_TRUE(WaitUntil([&] { return home.Get("LV-Stuff", "LaunchCount") == "1"; }));
+    EXPECT_THAT(ZombiesOf(program.Id()), IsEmpty());
+}
+
+TEST(Launch, PutsTheWindowIntoTheTaskBarWithoutATray) {
+    ProgramHome home("launch_task_bar");
+    home.Prepare();
+    ProgramRun program(home);
+    const std::string window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    PressKey("F2");
+    EXPECT_TRUE(WaitUntil([&] { return StateOf(window) == "Iconic"; }));
+    EXPECT_TRUE(program.IsRunning());
+}
+
+TEST(Launch, HidesTheWindowWithATray) {
+    ProgramHome home("launch_tray");
+    home.Prepare();
+    const OwnProcess tray(home, kTrayHost);
+    ASSERT_TRUE(WaitForTrayHost());
+    ProgramRun program(home);
+    const std::string window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    PressKey("F2");
+    EXPECT_TRUE(WaitUntil([&] { return StateOf(window) == "Withdrawn"; }));
+    EXPECT_TRUE(program.IsRunning());
+}
+
+TEST(Launch, LeavesTheGameRunningWhenTheProgramEnds) {
+    ProgramHome home("launch_outlives_f12");
+    PrepareLaunch(home, "-wait 4000");
+    ProgramRun program(home);
+    const std::string window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    PressKey("F2");
+    ASSERT_TRUE(WaitUntil([&] { return StateOf(window) == "Iconic"; }));
+    ASSERT_TRUE(Activate(window));
+    EXPECT_EQ(program.EndByF12(), 0);
+    ASSERT_FALSE(fs::exists(home.Quake / "output.txt")) << "the game was over before the program";
+    EXPECT_THAT(WaitForOutput(home.Quake / "output.txt"), Contains("ARGUMENT=4000"));
+}
+
+TEST(Launch, LeavesTheGameRunningWhenTheProgramIsKilled) {
+    ProgramHome home("launch_outlives_kill");
+    PrepareLaunch(home, "-wait 2000");
+    ProgramRun program(home);
+    const std::string window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    PressKey("F2");
+    ASSERT_TRUE(WaitUntil([&] { return StateOf(window) == "Iconic"; }));
+    program.Kill();
+    ASSERT_FALSE(fs::exists(home.Quake / "output.txt")) << "the game was over before the program";
+    EXPECT_THAT(WaitForOutput(home.Quake / "output.txt"), Contains("ARGUMENT=2000"));
+}
+
+TEST(Launch, EndsTheProgramWithExitOnLaunch) {
+    ProgramHome home("launch_exit");
+    home.Prepare();
+    home.Set("Options", "EndOnLaunch", "1");
+    ProgramRun program(home);
+    ASSERT_TRUE(Activate(program.WaitForWindow()));
+    PressKey("F2");
+    EXPECT_EQ(program.WaitForEnd(), 0);
+    EXPECT_FALSE(WaitForOutput(home.Quake / "output.txt").empty());
+}
+
+}  // namespace
+
+}  // namespace lv
