@@ -1,5 +1,6 @@
 #include "launcher/window_menu.h"
 
+#include "catalogs/browse.h"
 #include "foundation/dialogs.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
@@ -73,19 +74,8 @@ void AlwaysOnTop_Bar_Click(Launcher& launcher) {
 
 void ScriptEditorChangeDefault_Bar_Click(Launcher& launcher) {
     Run& run = launcher.run;
-    FileRequest request;
-    request.Filter = "Executables (*.exe)|*.exe|All Files (*.*)|*.*";
-    Result<std::optional<Text>> chosen;
-    {
-        const TopmostSuspension dialog(run);
-        chosen = run.User.ChooseFile(request);
-    }
-    if (!chosen.Ok()) {
-        AskUser(run, "", ErrorLines(chosen.Fault));
-        return;
-    }
-    if (chosen.Value && !chosen.Value->empty()) {
-        Save(run, kOptions, "ScriptEditor", TextView(*chosen.Value));
+    if (const auto editor = BrowseForFile(run, "Executables (*.exe)|*.exe|All Files (*.*)|*.*", "")) {
+        Save(run, kOptions, "ScriptEditor", TextView(*editor));
     }
 }
 
