@@ -186,9 +186,10 @@ TEST_F(MissingGameTest, ACancelledDialogReadsTheListAgain) {
 TEST_F(MissingGameTest, AFailedDialogIsToldAndReadsTheListAgain) {
     Store("Executables", "Quake;C:\\QUAKE\\quake.exe");
     ExpectMissing("Quake  C:\\QUAKE\\quake.exe", kMoved);
-    user.FileAnswers.push_back(Error{20476, "Buffer too small"});
-    user.Expect({"A Windows Related Error Occured", "Error Number = 20476\r\nError String = Buffer too small", 0, false,
-                 true, "&OK"});
+    user.FileAnswers.push_back(Error{7, "Out of memory"});
+    user.Expect({"A Windows Related Error Occured",
+                 "Error Number = 7\r\nError String = Out of memory\r\n\r\nLorvane 3D setting have not been altered.", 0,
+                 false, true, "&OK"});
     ExpectMissing("Quake  C:\\QUAKE\\quake.exe", kIgnore);
     EXPECT_TRUE(LoadExes(run, lists));
 }

@@ -70,6 +70,18 @@ TYPED_TEST(AnyFiles, TellDirectoriesFromFiles) {
     EXPECT_FALSE(this->disk_.DirectoryExists(""));
 }
 
+TYPED_TEST(AnyFiles, ListForAWalkWithAnIdentity) {
+    EXPECT_EQ(this->disk_.MakeDirectory("C:\\Dir").Number, 0);
+    EXPECT_EQ(this->disk_.MakeDirectory("C:\\Dir\\MAPS").Number, 0);
+    const auto spelled = this->disk_.ListForWalk("C:\\Dir");
+    const auto other = this->disk_.ListForWalk("c:\\DIR");
+    ASSERT_EQ(spelled.Value.Entries.size(), 3u);
+    EXPECT_EQ(spelled.Value.Entries[2].Name, "MAPS");
+    EXPECT_EQ(spelled.Value.Identity, other.Value.Identity);
+    EXPECT_NE(spelled.Value.Identity, this->disk_.ListForWalk("C:\\").Value.Identity);
+    EXPECT_EQ(this->disk_.ListForWalk("C:\\NONE").Fault.Number, 76);
+}
+
 TYPED_TEST(AnyFiles, ListDotsFirst) {
     EXPECT_EQ(this->disk_.MakeDirectory("C:\\DIR").Number, 0);
     EXPECT_EQ(this->disk_.MakeDirectory("C:\\DIR\\MAPS").Number, 0);

@@ -114,6 +114,24 @@ TEST(LinuxFiles, ListInTheFileSystemsOrder) {
     EXPECT_EQ(names, expected);
 }
 
+TEST(LinuxFiles, KnowADirectoryAgainBehindALink) {
+    Home home;
+    fs::create_directory(home.C / "real");
+    fs::create_directory_symlink(home.C / "real", home.C / "link");
+    const auto real = home.Disk.ListForWalk("C:\\real");
+    ASSERT_TRUE(real.Ok());
+    EXPECT_EQ(home.Disk.ListForWalk("C:\\link").Value.Identity, real.Value.Identity);
+    EXPECT_EQ(home.Disk.ListForWalk(OnZ(home.C / "real")).Value.Identity, real.Value.Identity);
+}
+
+TEST(LinuxFiles, AreNotWalkedInTheKernelsOwn) {
+    Home home;
+    for (const char* const path : {"Z:\\proc", "Z:\\sys", "Z:\\dev"}) {
+        EXPECT_EQ(home.Disk.ListForWalk(path).Fault.Number, 75) << path;
+        EXPECT_TRUE(home.Disk.List(path).Ok()) << path;
+    }
+}
+
 TEST(LinuxFiles, FollowLinksToTellDirectories) {
     Home home;
     fs::create_directory(home.Scratch / "elsewhere");

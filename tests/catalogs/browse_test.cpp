@@ -1,0 +1,41 @@
+#include "catalogs/browse.h"
+
+#include "tests/catalogs/editors_fixture.h"
+
+namespace lv {
+
+using Browsing = EditorsTest;
+
+TEST_F(Browsing, GivesTheDialogItsFilterAndDirectory) {
+    user.FileAnswers.push_back(std::optional<Text>("C:\\A.CFG"));
+    EXPECT_EQ(BrowseForFile(run, "Scripts|*.cfg", "C:\\QUAKE"), "C:\\A.CFG");
+    EXPECT_EQ(user.FileRequests.at(0).Filter, "Scripts|*.cfg");
+    EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "C:\\QUAKE");
+}
+
+TEST_F(Browsing, ACancelIsSilent) {
+    user.FileAnswers.push_back(std::optional<Text>());
+    EXPECT_EQ(BrowseForFile(run, "x", ""), std::nullopt);
+    user.FileAnswers.push_back(Error{32755, "Cancel was selected."});
+    EXPECT_EQ(BrowseForFile(run, "x", ""), std::nullopt);
+    EXPECT_TRUE(user.Asked.empty());
+}
+
+TEST_F(Browsing, AFailedDialogIsTold) {
+    user.FileAnswers.push_back(Error{7, "Out of memory"});
+    ExpectTold("Error Number = 7\r\nError String = Out of memory\r\n\r\nLorvane 3D setting have not been altered.",
+               "A Windows Related Error Occured");
+    EXPECT_EQ(BrowseForFile(run, "x", ""), std::nullopt);
+}
+
+TEST_F(Browsing, AnOutdatedDialogTellsWhatToUpdate) {
+    EXPECT_EQ(DialogFailureText({20476, "Buffer too small"}),
+              "Error Number = 20476\r\nError String = Buffer too small\r\n\r\n"
+              "You probably need to update the file 'comdlg32.ocx'.\r\n"
+              "Version 5.00.3714 or higher is recommended.\r\n"
+              "This file is typically located in your 'c:\\windows\\system' directory.\r\n"
+              "Please contact technical support.\r\n"
+              "Lorvane 3D setting have not been altered.");
+}
+
+}  // namespace lv
