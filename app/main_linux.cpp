@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <memory>
 
+#include "catalogs/forms/entry_forms.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "foundation/question_box.h"
 #include "launcher/forms/launcher_user.h"
@@ -24,6 +25,8 @@
 #include "platform/linux/sqlite_settings.h"
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_registry.h"
+#include "wizard/forms/install_form.h"
+#include "wizard/wizard.h"
 
 namespace lv {
 
@@ -34,6 +37,9 @@ struct Program {
     explicit Program(std::unique_ptr<SqliteSettings> store) : Settings(std::move(store)) {
         System.Instance = &Instance;
         User.SetRun(TheRun);
+        User.AddForms(MakeEntryForm);
+        User.AddForms(MakeInstallForm);
+        ConnectWizard(TheLauncher);
     }
 
     std::unique_ptr<SqliteSettings> Settings;

@@ -9,6 +9,7 @@
 #include <fstream>
 
 #include "bench/limit.h"
+#include "bench/no_user.h"
 #include "foundation/settings.h"
 #include "launcher/launch_flow.h"
 #include "launcher/main_window_load.h"
@@ -22,23 +23,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Nobody is there: a question would be a fault of the benchmark.
-class NoUser : public lv::UserInterface {
-  public:
-    void ShowQuestionBox(lv::QuestionBox_Frm&) override { Questions = true; }
-    lv::Result<std::optional<lv::Text>> ChooseFile(const lv::FileRequest&) override {
-        return std::optional<lv::Text>();
-    }
-    void Refresh() override {}
-    void PumpEvents() override {}
-    void EndProgram() override {}
-    int TextWidth(lv::TextView line) override { return static_cast<int>(line.size()); }
-    int TextHeight() override { return 1; }
-    lv::ScreenSize Screen() override { return {1024, 768}; }
-
-    bool Questions = false;
-};
 
 fs::path MakeDrive() {
     const fs::path root = fs::path(LV_BINARY_DIR) / "bench_drive";
@@ -58,7 +42,7 @@ struct Fixture {
     lv::MemoryClipboard Clip;
     lv::LinuxClock Time;
     lv::Platform System{*Store, Registry, Disk, Programs, Clip, Time};
-    NoUser User;
+    lv::NoUser User;
     lv::Run Run{System, User};
     lv::Launcher Launcher{Run};
 

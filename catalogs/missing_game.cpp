@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "catalogs/browse.h"
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
@@ -91,17 +92,8 @@ Text FindOnOtherDrives(Run& run, TextView path) {
 }
 
 Text ChooseNewPlace(Run& run, TextView fileName) {
-    FileRequest request;
-    request.InitialDirectory = "c:\\";
-    request.Filter = Join("Game Executable [", fileName, "](", fileName, ")|", fileName, "|All Files (*.*)|*.*");
-    const auto chosen = run.User.ChooseFile(request);
-    if (!chosen.Ok()) {
-        AskUser(run, "A Windows Related Error Occured",
-                Join("Error Number = ", std::to_string(chosen.Fault.Number), NewLine,
-                     "Error String = ", chosen.Fault.Text));
-        return {};
-    }
-    return chosen.Value.value_or("");
+    const Text filter = Join("Game Executable [", fileName, "](", fileName, ")|", fileName, "|All Files (*.*)|*.*");
+    return BrowseForFile(run, filter, "c:\\").value_or("");
 }
 
 void Relocate(Run& run, const GameRecord& game) {

@@ -2,7 +2,7 @@
 
 namespace lv {
 
-std::optional<Text> UserInterface::InputBox(TextView, TextView) {
+std::optional<Text> UserInterface::InputBox(TextView, TextView, TextView) {
     return std::nullopt;
 }
 

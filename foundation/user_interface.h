@@ -15,6 +15,7 @@ namespace lv {
 struct About_Frm;
 struct ConfirmExit_Frm;
 struct InstallParams_Frm;
+struct ModalWindow;
 struct QuestionBox_Frm;
 
 struct FileRequest {
@@ -60,8 +61,11 @@ class UserInterface {
     virtual void ShowAbout(About_Frm&) {}
     virtual void ShowConfirmExit(ConfirmExit_Frm&) {}
 
-    /// One line of text; nothing if the user cancelled.
-    virtual std::optional<Text> InputBox(TextView title, TextView prompt);
+    /// Any window of the ModalWindow family, told by its type: one door for all that came after the three above.
+    virtual void ShowModal(ModalWindow&) {}
+
+    /// One line of text, `offered` at first; nothing if the user cancelled.
+    virtual std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered);
 
     /// Opens the help file, a drive path, in its viewer.
     virtual Error OpenHelp(TextView path);

@@ -8,6 +8,7 @@
 
 #include "catalogs/catalog_lists.h"
 #include "foundation/run.h"
+#include "launcher/known_games.h"
 #include "launcher/lv_frm.h"
 #include "launcher/splash.h"
 
@@ -48,6 +49,12 @@ struct Launcher {
     /// Shows the setup wizard; true if the user went through with it. Empty: the program has none.
     std::function<bool()> ShowInstallWizard;
     bool WizardRan = false;  // in this start
+
+    /// The same for the games that are not known yet.
+    std::function<bool(const std::vector<KnownGame>&)> ShowInstallScan;
+
+    /// Opens the selected script in the script editor. Empty: the program has none.
+    std::function<void()> OpenSetupFoundry;
 
     /// Measures the main window's form. Empty: there is none, and the size stays as it is.
     std::function<WindowMeasures()> Measure;

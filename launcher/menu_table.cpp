@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "launcher/catalog_menu.h"
 #include "launcher/launch_flow.h"
 #include "launcher/window_life.h"
 #include "launcher/window_menu.h"
@@ -45,24 +46,24 @@ constexpr MenuRow kRows[] = {
     {RenameButton_Bar, "RenameButton_Bar", kNoIndex, "&Rename Exec Button", "", Options_Bar, RenameButton_Bar_Click},
 
     {Exe_Bar, "Exe_Bar", kNoIndex, "&Game Executable", "", None, nullptr},
-    {ExeViewAll_Bar, "ExeViewAll_Bar", kNoIndex, "&View All", "", Exe_Bar, nullptr},
+    {ExeViewAll_Bar, "ExeViewAll_Bar", kNoIndex, "&View All", "", Exe_Bar, ExeViewAll_Bar_Click},
     {ExeAdd_Bar, "ExeAdd_Bar", kNoIndex, "&Add", "", Exe_Bar, nullptr},
-    {ExeAddManual_Bar, "ExeAddManual_Bar", kNoIndex, "&Manual", "", ExeAdd_Bar, nullptr},
-    {ExeAddScan_Bar, "ExeAddScan_Bar", kNoIndex, "&Scan", "", ExeAdd_Bar, nullptr},
-    {ExeEdit_Bar, "ExeEdit_Bar", kNoIndex, "&Edit", "", Exe_Bar, nullptr},
-    {ExeDelete_Bar, "ExeDelete_Bar", kNoIndex, "&Delete", "", Exe_Bar, nullptr},
+    {ExeAddManual_Bar, "ExeAddManual_Bar", kNoIndex, "&Manual", "", ExeAdd_Bar, ExeAddManual_Bar_Click},
+    {ExeAddScan_Bar, "ExeAddScan_Bar", kNoIndex, "&Scan", "", ExeAdd_Bar, ExeAddScan_Bar_Click},
+    {ExeEdit_Bar, "ExeEdit_Bar", kNoIndex, "&Edit", "", Exe_Bar, ExeEdit_Bar_Click},
+    {ExeDelete_Bar, "ExeDelete_Bar", kNoIndex, "&Delete", "", Exe_Bar, ExeDelete_Bar_Click},
 
     {Game_Bar, "Game_Bar", kNoIndex, "&Modification Subdirectory", "", None, nullptr},
-    {GameViewAll_Bar, "GameViewAll_Bar", kNoIndex, "&View All", "", Game_Bar, nullptr},
+    {GameViewAll_Bar, "GameViewAll_Bar", kNoIndex, "&View All", "", Game_Bar, GameViewAll_Bar_Click},
     {GameAdd_Bar, "GameAdd_Bar", kNoIndex, "&Add", "", Game_Bar, nullptr},
-    {GameAddManual_Bar, "GameAddManual_Bar", kNoIndex, "&Manual", "", GameAdd_Bar, nullptr},
-    {GameAddScan_Bar, "GameAddScan_Bar", kNoIndex, "&Scan", "", GameAdd_Bar, nullptr},
-    {GameEdit_Bar, "GameEdit_Bar", kNoIndex, "&Edit", "", Game_Bar, nullptr},
-    {GameDelete_Bar, "GameDelete_Bar", kNoIndex, "&Delete", "", Game_Bar, nullptr},
+    {GameAddManual_Bar, "GameAddManual_Bar", kNoIndex, "&Manual", "", GameAdd_Bar, GameAddManual_Bar_Click},
+    {GameAddScan_Bar, "GameAddScan_Bar", kNoIndex, "&Scan", "", GameAdd_Bar, GameAddScan_Bar_Click},
+    {GameEdit_Bar, "GameEdit_Bar", kNoIndex, "&Edit", "", Game_Bar, GameEdit_Bar_Click},
+    {GameDelete_Bar, "GameDelete_Bar", kNoIndex, "&Delete", "", Game_Bar, GameDelete_Bar_Click},
 
     {Mem_Bar, "Mem_Bar", kNoIndex, "&Memory", "", None, nullptr},
-    {MemViewAll_Bar, "MemViewAll_Bar", kNoIndex, "&View All", "", Mem_Bar, nullptr},
-    {MemEdit_Bar, "MemEdit_Bar", kNoIndex, "&Edit", "", Mem_Bar, nullptr},
+    {MemViewAll_Bar, "MemViewAll_Bar", kNoIndex, "&View All", "", Mem_Bar, MemViewAll_Bar_Click},
+    {MemEdit_Bar, "MemEdit_Bar", kNoIndex, "&Edit", "", Mem_Bar, MemEdit_Bar_Click},
 
     {VideoProfiles_Bar, "VideoProfiles_Bar", kNoIndex, "&Video Profiles", "", None, nullptr},
     {VideoProfilesAdd_Bar, "VideoProfilesAdd_Bar", kNoIndex, "&Add", "", VideoProfiles_Bar, nullptr},
@@ -70,30 +71,30 @@ constexpr MenuRow kRows[] = {
     {VideoProfilesDelete_Bar, "VideoProfilesDelete_Bar", kNoIndex, "&Delete", "", VideoProfiles_Bar, nullptr},
 
     {Scripts_Bar, "Scripts_Bar", kNoIndex, "&Player Script", "", None, nullptr},
-    {ScriptsViewAll_Bar, "ScriptsViewAll_Bar", kNoIndex, "&View All", "", Scripts_Bar, nullptr},
-    {ScriptsAdd_Bar, "ScriptsAdd_Bar", kNoIndex, "&Add Script to List", "", Scripts_Bar, nullptr},
-    {ScriptsEdit_Bar, "ScriptsEdit_Bar", kNoIndex, "&Edit Script's List Name", "", Scripts_Bar, nullptr},
-    {ScriptsCopy_Bar, "ScriptsCopy_Bar", kNoIndex, "Co&py Script", "", Scripts_Bar, nullptr},
-    {ScriptsDelete_Bar, "ScriptsDelete_Bar", kNoIndex, "&Delete Script From Harddrive", "", Scripts_Bar, nullptr},
+    {ScriptsViewAll_Bar, "ScriptsViewAll_Bar", kNoIndex, "&View All", "", Scripts_Bar, ScriptsViewAll_Bar_Click},
+    {ScriptsAdd_Bar, "ScriptsAdd_Bar", kNoIndex, "&Add Script to List", "", Scripts_Bar, ScriptsAdd_Bar_Click},
+    {ScriptsEdit_Bar, "ScriptsEdit_Bar", kNoIndex, "&Edit Script's List Name", "", Scripts_Bar, ScriptsEdit_Bar_Click},
+    {ScriptsCopy_Bar, "ScriptsCopy_Bar", kNoIndex, "Co&py Script", "", Scripts_Bar, ScriptsCopy_Bar_Click},
+    {ScriptsDelete_Bar, "ScriptsDelete_Bar", kNoIndex, "&Delete Script From Harddrive", "", Scripts_Bar, ScriptsDelete_Bar_Click},
     {SetupFoundry_Bar, "SetupFoundry_Bar", kNoIndex, "&Open in Setup Foundry !", "F3", Scripts_Bar, nullptr},
-    {ScriptNew_Bar, "ScriptNew_Bar", kNoIndex, "&New Script", "", Scripts_Bar, nullptr},
+    {ScriptNew_Bar, "ScriptNew_Bar", kNoIndex, "&New Script", "", Scripts_Bar, ScriptNew_Bar_Click},
     {ScriptsOpen_Bar, "ScriptsOpen_Bar", kNoIndex, "Open in Text &Editor", "", Scripts_Bar, ScriptsOpen_Bar_Click},
     {ScriptEditorChangeDefault_Bar, "ScriptEditorChangeDefault_Bar", kNoIndex, "&Change Default Text Editor", "", Scripts_Bar, ScriptEditorChangeDefault_Bar_Click},
 
     {Demo_Bar, "Demo_Bar", kNoIndex, "&Demos", "", None, nullptr},
-    {DemoViewAll_Bar, "DemoViewAll_Bar", kNoIndex, "&View All", "", Demo_Bar, nullptr},
-    {DemoAdd_Bar, "DemoAdd_Bar", kNoIndex, "&Add", "", Demo_Bar, nullptr},
-    {DemoEdit_Bar, "DemoEdit_Bar", kNoIndex, "&Edit", "", Demo_Bar, nullptr},
-    {DemoDelete_Bar, "DemoDelete_Bar", kNoIndex, "&Delete", "", Demo_Bar, nullptr},
+    {DemoViewAll_Bar, "DemoViewAll_Bar", kNoIndex, "&View All", "", Demo_Bar, DemoViewAll_Bar_Click},
+    {DemoAdd_Bar, "DemoAdd_Bar", kNoIndex, "&Add", "", Demo_Bar, DemoAdd_Bar_Click},
+    {DemoEdit_Bar, "DemoEdit_Bar", kNoIndex, "&Edit", "", Demo_Bar, DemoEdit_Bar_Click},
+    {DemoDelete_Bar, "DemoDelete_Bar", kNoIndex, "&Delete", "", Demo_Bar, DemoDelete_Bar_Click},
 
     {Server_Bar, "Server_Bar", kNoIndex, "&Server", "", None, nullptr},
-    {ServerViewAll_Bar, "ServerViewAll_Bar", kNoIndex, "&View All", "", Server_Bar, nullptr},
+    {ServerViewAll_Bar, "ServerViewAll_Bar", kNoIndex, "&View All", "", Server_Bar, ServerViewAll_Bar_Click},
     {ServerAdd_Bar, "ServerAdd_Bar", kNoIndex, "&Add", "", Server_Bar, nullptr},
     {ServerAddCurrentGameSpy_Bar, "ServerAddCurrentGameSpy_Bar", kNoIndex, "&Current GameSpy Server(s)", "", ServerAdd_Bar, nullptr},
-    {ServerAddManual_Bar, "ServerAddManual_Bar", kNoIndex, "&Manual", "", ServerAdd_Bar, nullptr},
-    {ServerEdit_Bar, "ServerEdit_Bar", kNoIndex, "&Edit", "", Server_Bar, nullptr},
-    {ServerCopy_Bar, "ServerCopy_Bar", kNoIndex, "Co&py", "", Server_Bar, nullptr},
-    {ServerDelete_Bar, "ServerDelete_Bar", kNoIndex, "&Delete", "", Server_Bar, nullptr},
+    {ServerAddManual_Bar, "ServerAddManual_Bar", kNoIndex, "&Manual", "", ServerAdd_Bar, ServerAddManual_Bar_Click},
+    {ServerEdit_Bar, "ServerEdit_Bar", kNoIndex, "&Edit", "", Server_Bar, ServerEdit_Bar_Click},
+    {ServerCopy_Bar, "ServerCopy_Bar", kNoIndex, "Co&py", "", Server_Bar, ServerCopy_Bar_Click},
+    {ServerDelete_Bar, "ServerDelete_Bar", kNoIndex, "&Delete", "", Server_Bar, ServerDelete_Bar_Click},
 
     {GL_Bar, "GL_Bar", kNoIndex, "&GL", "", None, nullptr},
     {GL_Defaults_Bar, "GL_Defaults_Bar", kNoIndex, "Reset to &Defaults", "", GL_Bar, nullptr},

@@ -1,5 +1,6 @@
 #include "launcher/window_menu.h"
 
+#include "catalogs/browse.h"
 #include "foundation/dialogs.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
@@ -47,7 +48,7 @@ void RenameButton_Bar_Click(Launcher& launcher) {
     std::optional<Text> caption;
     {
         const TopmostSuspension dialog(run);
-        caption = run.User.InputBox("New Caption", "Enter a New Caption for the Exec Button!");
+        caption = run.User.InputBox("New Caption", "Enter a New Caption for the Exec Button!", "");
     }
     if (!caption || caption->empty()) {
         return;
@@ -73,19 +74,8 @@ void AlwaysOnTop_Bar_Click(Launcher& launcher) {
 
 void ScriptEditorChangeDefault_Bar_Click(Launcher& launcher) {
     Run& run = launcher.run;
-    FileRequest request;
-    request.Filter = "Executables (*.exe)|*.exe|All Files (*.*)|*.*";
-    Result<std::optional<Text>> chosen;
-    {
-        const TopmostSuspension dialog(run);
-        chosen = run.User.ChooseFile(request);
-    }
-    if (!chosen.Ok()) {
-        AskUser(run, "", ErrorLines(chosen.Fault));
-        return;
-    }
-    if (chosen.Value && !chosen.Value->empty()) {
-        Save(run, kOptions, "ScriptEditor", TextView(*chosen.Value));
+    if (const auto editor = BrowseForFile(run, "Executables (*.exe)|*.exe|All Files (*.*)|*.*", "")) {
+        Save(run, kOptions, "ScriptEditor", TextView(*editor));
     }
 }
 

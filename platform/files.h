@@ -30,6 +30,12 @@ class RandomAccessFile {
     virtual Result<std::string> Read(std::uint64_t offset, std::size_t count) = 0;
 };
 
+/// A directory as a walk over a whole disk meets it.
+struct WalkedDirectory {
+    std::uint64_t Identity = 0;  // the same by whichever path or link the directory is reached
+    std::vector<DirectoryEntry> Entries;
+};
+
 class Files {
   public:
     virtual ~Files() = default;
@@ -47,6 +53,10 @@ class Files {
     /// All entries in the file system's order, "." and ".." first. Names that have no code page 1252 form are left
     /// out. Error 76 if there is no such directory, 75 if it may not be read.
     virtual Result<std::vector<DirectoryEntry>> List(std::string_view directory) = 0;
+
+    /// As List, for a walk over a whole disk. Error 75 also for what such a walk has no business in: file systems that
+    /// hold no files of a user's, and those of other machines. Where nothing better is known, the path is the identity.
+    virtual Result<WalkedDirectory> ListForWalk(std::string_view directory);
 
     /// The whole file. Errors: 53 no such file, 76 no such directory, 75 a directory or a device, 70 no access.
     virtual Result<std::string> Read(std::string_view path) = 0;

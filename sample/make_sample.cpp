@@ -78,7 +78,9 @@ void MakeQuake(const fs::path& quake) {
     Write(quake / "id1/night.cfg", Lines({"// Another script to choose.", "echo The night shift begins.", "skill 3"}));
     Write(quake / "arena/pak0.pak", MakePak({{"maps/arena1.bsp", "a map in name only"}}));
     Write(quake / "arena/player.cfg", Lines({"echo Into the arena."}));
-    fs::create_symlink(kQuakeEngine, quake / "glquake.exe");
+    for (const char* name : {"quake.exe", "glquake.exe"}) {
+        fs::create_symlink(kQuakeEngine, quake / name);
+    }
 }
 
 void CopyProgram(const fs::path& from, const fs::path& to) {

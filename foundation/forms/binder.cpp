@@ -3,11 +3,15 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/spoken_name.h"
 
 namespace lv {
 
 namespace {
 
+constexpr int kArrowWidth = 48;  // of a list's arrow and its margins, at 100 %
+
+// A control that shows no text of its own is called by its tool tip.
 bool ShowControl(const Control& model, wxWindow* view, Text& tip) {
     if (view->IsThisEnabled() != model.Enabled) {
         view->Enable(model.Enabled);
@@ -15,8 +19,20 @@ bool ShowControl(const Control& model, wxWindow* view, Text& tip) {
     if (tip != model.ToolTip) {
         tip = model.ToolTip;
         view->SetToolTip(ToWx(tip));
+        if (view->GetLabel().empty()) {
+            SetSpokenName(view->GetHandle(), ToUtf8(tip));
+        }
     }
     return view->IsShown() != model.Visible && view->Show(model.Visible);
+}
+
+// A row that is wider than its list shows in full as the list's tool tip.
+void ShowFullRow(const Text& ownTip, const wxString& row, wxWindow* view) {
+    const bool cut = view->GetTextExtent(row).x > view->GetClientSize().x - view->FromDIP(kArrowWidth);
+    const wxString tip = cut ? row : ToWx(ownTip);
+    if (view->GetToolTipText() != tip) {
+        view->SetToolTip(tip);
+    }
 }
 
 void ShowLabel(const Text& caption, wxWindow* view) {
@@ -112,6 +128,7 @@ void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler clic
         if (view->GetSelection() != model.ListIndex) {
             view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
         }
+        ShowFullRow(model.ToolTip, view->GetStringSelection(), view);
         return false;
     });
 }
@@ -136,6 +153,7 @@ void Binder::Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, H
         if (view->GetSelection() != model.ListIndex) {
             view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
         }
+        ShowFullRow(model.ToolTip, view->GetStringSelection(), view);
         return false;
     });
 }

@@ -13,6 +13,7 @@
 #include <wx/toplevel.h>
 #include <wx/utils.h>
 
+#include "foundation/forms/modal_form.h"
 #include "foundation/forms/question_box_form.h"
 #include "foundation/forms/small_dialogs.h"
 #include "foundation/forms/whats_this.h"
@@ -37,7 +38,24 @@ WxUser::WxUser(Files& files) : files_(files) {}
 WxUser::~WxUser() = default;
 
 wxWindow* WxUser::Owner() const {
+    if (onTop_ != nullptr) {
+        return onTop_;
+    }
     return activeForm_ != nullptr && activeForm_->IsShownOnScreen() ? activeForm_ : nullptr;
+}
+
+void WxUser::ShowModal(ModalWindow& window) {
+    Refresh();
+    for (const FormMaker& maker : makers_) {
+        if (const std::unique_ptr<wxDialog> form = maker(Owner(), window)) {
+            wxDialog* const below = onTop_;
+            onTop_ = form.get();
+            form->ShowModal();
+            onTop_ = below;
+            break;
+        }
+    }
+    Refresh();
 }
 
 void WxUser::ShowQuestionBox(QuestionBox_Frm& box) {
@@ -65,6 +83,9 @@ Result<std::optional<Text>> WxUser::ChooseFile(const FileRequest& request) {
 void WxUser::Refresh() {
     if (refresh_) {
         refresh_();
+    }
+    if (auto* dialog = dynamic_cast<ModalForm*>(onTop_)) {
+        dialog->ShowState();
     }
 }
 
@@ -103,8 +124,8 @@ void WxUser::ShowConfirmExit(ConfirmExit_Frm& confirm) {
     ShowConfirmExitForm(Owner(), confirm);
 }
 
-std::optional<Text> WxUser::InputBox(TextView title, TextView prompt) {
-    wxTextEntryDialog dialog(Owner(), ToWx(prompt), ToWx(title));
+std::optional<Text> WxUser::InputBox(TextView title, TextView prompt, TextView offered) {
+    wxTextEntryDialog dialog(Owner(), ToWx(prompt), ToWx(title), ToWx(offered));
     dialog.SetName("InputBox");
     if (dialog.ShowModal() != wxID_OK) {
         return std::nullopt;

@@ -4,10 +4,12 @@
 
 #pragma once
 
+#include <wx/dialog.h>
 #include <wx/window.h>
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 class wxHtmlHelpController;
 
@@ -28,6 +30,11 @@ class WxUser : public UserInterface {
     /// Called by PopUpMenu.
     void OnPopUp(std::function<void(TextView)> popUp) { popUp_ = std::move(popUp); }
 
+    /// Makes the form of a window, or nothing for a window that it does not know.
+    using FormMaker = std::function<std::unique_ptr<wxDialog>(wxWindow* owner, ModalWindow& window)>;
+    void AddForms(FormMaker maker) { makers_.push_back(std::move(maker)); }
+
+    void ShowModal(ModalWindow& window) override;
     void ShowQuestionBox(QuestionBox_Frm& box) override;
     Result<std::optional<Text>> ChooseFile(const FileRequest& request) override;
     void Refresh() override;
@@ -39,7 +46,7 @@ class WxUser : public UserInterface {
 
     void ShowAbout(About_Frm& about) override;
     void ShowConfirmExit(ConfirmExit_Frm& confirm) override;
-    std::optional<Text> InputBox(TextView title, TextView prompt) override;
+    std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered) override;
     Error OpenHelp(TextView path) override;
     Error OpenUrl(TextView address) override;
     bool TrayAvailable() override;
@@ -53,6 +60,8 @@ class WxUser : public UserInterface {
     Files& files_;
     wxWindow* activeForm_ = nullptr;
     std::function<void()> refresh_;
+    std::vector<FormMaker> makers_;
+    wxDialog* onTop_ = nullptr;  // the dialog that is up: what it opens stands over it
     std::function<void(TextView)> popUp_;
     std::unique_ptr<wxHtmlHelpController> help_;
 };

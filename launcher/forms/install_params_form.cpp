@@ -69,7 +69,7 @@ InstallParamsForm::InstallParamsForm(Run& run, InstallParams_Frm& form)
     binder_.Show();
     SetSizerAndFit(rows);
     CentreOnScreen();
-    cards->SetFocus();
+    FindWindow("OK_Cmd(0)")->SetFocus();  // Enter accepts; on the list it would only open that
 }
 
 }  // namespace lv

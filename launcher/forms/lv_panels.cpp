@@ -15,6 +15,7 @@
 #include "launcher/lv_events.h"
 #include "launcher/window_life.h"
 #include "launcher/window_menu.h"
+#include "platform/spoken_name.h"
 
 namespace lv {
 
@@ -26,6 +27,8 @@ constexpr int kTickGap = 4;        // stands a box without a caption in line wit
 constexpr int kOptionRows = 4;     // Unreal fills four; the window has one size for all games
 constexpr int kBarPicture = 32;
 constexpr int kSmallPicture = 16;
+constexpr int kGamePicture = 24;
+constexpr int kGamePictureRoom = 14;  // above and below
 
 wxSizerFlags Row() {
     return wxSizerFlags().Expand().Border(wxALL, kGap / 2);
@@ -153,7 +156,7 @@ wxChoice* LvPanels::MakeList(const char* name, ListBox LV_Frm::*list, const wxSt
                              void (*click)(Launcher&)) {
     auto* view = new wxChoice(at_, wxID_ANY);
     view->SetMinSize(FromDIP(wxSize(160, -1)));
-    view->SetLabel(spoken);
+    SetSpokenName(view->GetHandle(), spoken.utf8_string());
     binder_.Bind(name, launcher_.Window.*list, view, [this, click] { click(launcher_); });
     return view;
 }
@@ -162,7 +165,9 @@ wxWindow* LvPanels::MakeMenuPicture(int index) {
     auto* view = new wxBitmapButton(at_, wxID_ANY, PictureOf("icons/buttons/menu", kSmallPicture), wxDefaultPosition,
                                     wxDefaultSize, wxBORDER_NONE);
     view->SetName(wxString::Format("Menu_Pic(%d)", index));
-    view->SetToolTip(wxString("Menu: ") + ToWx(WithoutAccessKeys(MenuRowOf(MenuOfPicture(index)).Caption)));
+    const wxString spoken = wxString("Menu: ") + ToWx(WithoutAccessKeys(MenuRowOf(MenuOfPicture(index)).Caption));
+    view->SetToolTip(spoken);
+    SetSpokenName(view->GetHandle(), spoken.utf8_string());
     view->Bind(wxEVT_BUTTON,
                [this, index](wxCommandEvent&) { binder_.Run([this, index] { Menu_Pic_Click(launcher_, index); }); });
     return view;
@@ -205,11 +210,13 @@ wxSizer* LvPanels::MakeButtonBar() {
 wxSizer* LvPanels::MakeExePanel() {
     wxStaticBoxSizer* panel = MakePanel("Exe_Pan", &LV_Frm::Exe_Pan);
     auto* list = new wxBitmapComboBox(at_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, nullptr, wxCB_READONLY);
-    list->SetMinSize(FromDIP(wxSize(160, 38)));
+    // This list shows its pictures larger by the screen's scale than it reckons with.
+    list->SetMinSize(wxSize(FromDIP(160), static_cast<int>(kGamePicture * GetContentScaleFactor()) + kGamePictureRoom));
     binder_.Bind("Exe_Cbo", launcher_.Window.Exe_Cbo, list, [this] { Exe_Cbo_Click(launcher_); });
     panel->Add(MakeRow(nullptr, list, {MakeMenuPicture(0)}), Row());
     auto* hint =
         new wxStaticText(at_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+    hint->SetMinSize(FromDIP(wxSize(80, -1)));  // a long hint is cut, the window does not grow by it
     binder_.Bind("Hint_Lbl", launcher_.Window.Hint_Lbl, hint);
     panel->AddStretchSpacer();
     panel->Add(hint, Row());
@@ -294,6 +301,7 @@ wxSizer* LvPanels::MakeServerPanel() {
     panel->Add(roles, Row());
     auto* additions = new wxTextCtrl(at_, wxID_ANY);
     additions->SetHint("More for the command line");
+    SetSpokenName(additions->GetHandle(), "More for the command line");
     binder_.Bind("CommandLineAdditions_Txt", launcher_.Window.CommandLineAdditions_Txt, additions,
                  [this] { CommandLineAdditions_Txt_Change(launcher_); });
     panel->Add(MakeRow(&LV_Frm::CommandLineAdditions_Chk, additions), Row());

@@ -1,28 +1,21 @@
 #include "platform/linux/host_file.h"
 
 #include <chrono>
-#include <fstream>
-#include <string>
 #include <system_error>
 
 #include "platform/code_page.h"
+#include "platform/linux/replace_file.h"
 
 namespace lv {
 
 Error WriteHostFile(const std::filesystem::path& path, std::string_view bytes) {
     std::error_code failed;
     std::filesystem::create_directories(path.parent_path(), failed);
-    const std::filesystem::path beside = path.string() + ".new";
-    {
-        std::ofstream out(beside, std::ios::binary | std::ios::trunc);
-        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        out.close();
-        if (!out) {
-            return MakeError(error::kPathFileAccess, FromUtf8Lossy(path.string()));
-        }
+    if (const Error refused =
+            ReplaceHostFile(path.string(), 0666, [bytes](int file) { return WriteAll(file, bytes); })) {
+        return MakeError(refused.Number, FromUtf8Lossy(path.string()));
     }
-    std::filesystem::rename(beside, path, failed);
-    return failed ? MakeError(error::kPathFileAccess, FromUtf8Lossy(path.string())) : Error{};
+    return {};
 }
 
 void DropOldHostFiles(const std::filesystem::path& directory, std::string_view start, int days) {

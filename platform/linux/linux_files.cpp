@@ -127,6 +127,22 @@ Result<std::vector<DirectoryEntry>> LinuxFiles::List(std::string_view directory)
     return place ? ListHostDirectory(place->Host) : MakeError(error::kPathNotFound);
 }
 
+Result<WalkedDirectory> LinuxFiles::ListForWalk(std::string_view directory) {
+    const auto place = Find(directory);
+    struct stat info {};
+    if (!place || stat(place->Host.c_str(), &info) != 0 || !S_ISDIR(info.st_mode)) {
+        return MakeError(error::kPathNotFound);
+    }
+    if (!walkable_.MayWalk(info.st_dev, place->Host)) {
+        return MakeError(error::kPathFileAccess);
+    }
+    auto listed = ListHostDirectory(place->Host);
+    if (!listed.Ok()) {
+        return listed.Fault;
+    }
+    return WalkedDirectory{IdentityOf(info.st_dev, info.st_ino), std::move(listed.Value)};
+}
+
 Result<std::string> LinuxFiles::Read(std::string_view path) {
     const auto place = Find(path);
     if (!place) {

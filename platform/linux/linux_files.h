@@ -11,6 +11,7 @@
 #include "platform/files.h"
 #include "platform/linux/drives.h"
 #include "platform/linux/host_names.h"
+#include "platform/linux/walkable.h"
 
 namespace lv {
 
@@ -30,6 +31,7 @@ class LinuxFiles : public Files {
     bool FileExists(std::string_view path) override;
     bool DirectoryExists(std::string_view path) override;
     Result<std::vector<DirectoryEntry>> List(std::string_view directory) override;
+    Result<WalkedDirectory> ListForWalk(std::string_view directory) override;
     Result<std::string> Read(std::string_view path) override;
     Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) override;
     Error Replace(std::string_view path, std::string_view bytes) override;
@@ -60,6 +62,7 @@ class LinuxFiles : public Files {
     DriveDirectories directories_;
     Error firstDrives_;
     DrivePath current_;
+    WalkableDevices walkable_;
 };
 
 }  // namespace lv

@@ -12,6 +12,8 @@
 #include <optional>
 #include <thread>
 
+#include "platform/linux/child_process.h"
+
 namespace lv {
 
 namespace {
@@ -131,17 +133,7 @@ Result<int> RunTool(const Tool& tool) {
 
 fs::path ProgramOnPath(std::string_view name) {
     const char* path = std::getenv("PATH");
-    std::string_view left = path != nullptr ? path : "/usr/local/bin:/usr/bin:/bin";
-    while (!left.empty()) {
-        const std::size_t end = std::min(left.find(':'), left.size());
-        fs::path candidate = fs::path(left.substr(0, end)) / name;
-        left.remove_prefix(std::min(end + 1, left.size()));
-        std::error_code failed;
-        if (candidate.is_absolute() && fs::is_regular_file(candidate, failed) && access(candidate.c_str(), X_OK) == 0) {
-            return candidate;
-        }
-    }
-    return {};
+    return FindOnPath(path != nullptr ? path : "/usr/local/bin:/usr/bin:/bin", name);
 }
 
 }  // namespace lv

@@ -40,6 +40,8 @@ std::string MemoryFiles::Key(std::string_view path) const {
             key = key.size() > 2 ? ParentOf(key) : key;
         } else if (!part.empty() && part != ".") {
             key += "\\" + part;
+            const auto link = links_.find(key);
+            key = link == links_.end() ? key : link->second;
         }
         at = end + 1;
     }
@@ -63,6 +65,12 @@ void MemoryFiles::AddDirectory(std::string_view path) {
         AddDirectory(ParentOf(path));
     }
     nodes_[key] = {std::string(path), "", true, made_++};
+}
+
+void MemoryFiles::AddLink(std::string_view path, std::string_view target) {
+    const std::string key = Key(path);
+    AddDirectory(path);
+    links_[key] = Key(target);
 }
 
 void MemoryFiles::AddDrive(std::string_view drive) {
@@ -107,6 +115,10 @@ Result<std::vector<DirectoryEntry>> MemoryFiles::List(std::string_view directory
         return MakeError(error::kPathNotFound);
     }
     const std::string key = Key(directory);
+    Listed.emplace_back(directory);
+    if (Unreadable.contains(key)) {
+        return MakeError(error::kPathFileAccess);
+    }
     std::vector<const Node*> children;
     for (const auto& [path, node] : nodes_) {
         if (ParentOf(path) == key) {
@@ -119,6 +131,14 @@ Result<std::vector<DirectoryEntry>> MemoryFiles::List(std::string_view directory
         entries.push_back({child->Name.substr(child->Name.rfind('\\') + 1), child->IsDirectory});
     }
     return entries;
+}
+
+Result<WalkedDirectory> MemoryFiles::ListForWalk(std::string_view directory) {
+    auto listed = List(directory);
+    if (!listed.Ok()) {
+        return listed.Fault;
+    }
+    return WalkedDirectory{std::hash<std::string>()(Key(directory)), std::move(listed.Value)};
 }
 
 Result<std::string> MemoryFiles::Read(std::string_view path) {
@@ -172,6 +192,9 @@ Error MemoryFiles::Copy(std::string_view from, std::string_view to) {
 Error MemoryFiles::Delete(std::string_view path) {
     if (!FileExists(path)) {
         return MakeError(error::kFileNotFound);
+    }
+    if (RefusedDeletes.contains(Key(path))) {
+        return MakeError(error::kPermissionDenied);
     }
     Log.push_back("delete " + std::string(path));
     nodes_.erase(Key(path));

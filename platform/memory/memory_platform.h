@@ -45,12 +45,15 @@ class MemoryFiles : public Files {
     void AddDirectory(std::string_view path);
     void AddFile(std::string_view path, std::string_view bytes = "");
     void AddDrive(std::string_view drive);
+    /// A directory that is another one by a second path.
+    void AddLink(std::string_view path, std::string_view target);
 
     std::vector<std::string> Drives() override;
     Error ProbeDrive(std::string_view drive) override;
     bool FileExists(std::string_view path) override;
     bool DirectoryExists(std::string_view path) override;
     Result<std::vector<DirectoryEntry>> List(std::string_view directory) override;
+    Result<WalkedDirectory> ListForWalk(std::string_view directory) override;
     Result<std::string> Read(std::string_view path) override;
     Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) override;
     Error Replace(std::string_view path, std::string_view bytes) override;
@@ -69,6 +72,9 @@ class MemoryFiles : public Files {
     std::string Bytes(std::string_view path);
 
     std::set<std::string> DrivesNotReady;  // "D:"
+    std::set<std::string> Unreadable;      // by lower-case path: listing the directory is error 75
+    std::set<std::string> RefusedDeletes;  // by lower-case path: deleting the file is error 70
+    std::vector<std::string> Listed;       // each directory that was listed, in order
     std::map<std::string, Error> Refused;  // by lower-case path: Replace and Copy onto it fail with this
     std::vector<std::string> Log;          // "replace C:\...", "delete C:\...", "copy A -> B", in order
 
@@ -83,6 +89,7 @@ class MemoryFiles : public Files {
     Node* Find(std::string_view path);
 
     std::map<std::string, Node> nodes_;
+    std::map<std::string, std::string> links_;
     std::string current_ = "C:\\";
     std::size_t made_ = 0;
 };
@@ -110,7 +117,7 @@ class MemoryClipboard : public Clipboard {
 class MemoryClock : public Clock {
   public:
     LocalTime Now() override { return Is; }
-    double Seconds() override { return Elapsed; }
+    double Seconds() override { return Elapsed += Step; }
     void Sleep(int milliseconds) override { Elapsed += milliseconds / 1000.0; }
     std::string MonthName(int month) override;
     char DecimalSeparator() override { return Separator; }
@@ -118,6 +125,7 @@ class MemoryClock : public Clock {
 
     LocalTime Is{1999, 11, 21, 12, 30, 0};
     double Elapsed = 0;
+    double Step = 0;  // how far time has gone at each look
     char Separator = '.';
     bool Win9x = false;
 };

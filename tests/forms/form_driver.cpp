@@ -2,17 +2,16 @@
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
-#include <wx/dcmemory.h>
-#include <wx/dcscreen.h>
 #include <wx/dialog.h>
 #include <wx/evtloop.h>
 #include <wx/filename.h>
-#include <wx/image.h>
 #include <wx/stopwatch.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
 
+#include <cstdlib>
 #include <memory>
+#include <vector>
 
 namespace lv {
 
@@ -31,14 +30,13 @@ class PollingTimer : public wxTimer {
     std::function<bool()> act_;
 };
 
-bool AModalIsOpen() {
+int OpenModals() {
+    int open = 0;
     for (const wxWindow* window : wxTopLevelWindows) {
         const auto* dialog = dynamic_cast<const wxDialog*>(window);
-        if (dialog != nullptr && dialog->IsModal() && dialog->IsShownOnScreen()) {
-            return true;
-        }
+        open += dialog != nullptr && dialog->IsModal() && dialog->IsShownOnScreen() ? 1 : 0;
     }
-    return false;
+    return open;
 }
 
 }  // namespace
@@ -94,30 +92,38 @@ void PressKey(int key, int modifiers) {
 }
 
 void WhenModal(const std::function<void()>& act) {
-    // Lives until it has acted; a test acts once or fails by its own wait.
-    static std::unique_ptr<PollingTimer> timer;
-    timer = std::make_unique<PollingTimer>([act, shown = 0]() mutable {
-        shown = AModalIsOpen() ? shown + 1 : 0;
+    // Timers live to the end of the program: one may be waiting while another one acts.
+    static std::vector<std::unique_ptr<PollingTimer>> timers;
+    timers.push_back(std::make_unique<PollingTimer>([act, before = OpenModals(), shown = 0]() mutable {
+        shown = OpenModals() > before ? shown + 1 : 0;
         if (shown < 4) {
             return false;
         }
         shown = -1000000;
         act();
         return true;
-    });
+    }));
 }
 
-void Screenshot(const std::string& name) {
+void DoAndAnswer(const std::function<void()>& open, const std::function<void()>& act) {
+    const int before = OpenModals();
+    bool acted = false;
+    WhenModal([&act, &acted] {
+        act();
+        acted = true;
+    });
+    open();
+    EXPECT_TRUE(SettleUntil([&] { return acted && OpenModals() <= before; })) << "the window did not come or go";
     Settle();
-    const wxScreenDC screen;
-    const wxSize size = screen.GetSize();
-    wxBitmap bitmap(size);
-    wxMemoryDC canvas(bitmap);
-    canvas.Blit(wxPoint(), size, const_cast<wxScreenDC*>(&screen), wxPoint());
-    canvas.SelectObject(wxNullBitmap);
-    const wxString folder = LV_TEST_BINARY_DIR "/../screenshots";
+}
+
+// By the screen's own eyes: the toolkit's view of the screen does not change once it was looked at.
+void Screenshot(const std::string& name) {
+    Settle(300);
+    const std::string folder = LV_TEST_BINARY_DIR "/../screenshots";
     wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
-    EXPECT_TRUE(bitmap.ConvertToImage().SaveFile(folder + "/" + name + ".png", wxBITMAP_TYPE_PNG));
+    const std::string command = "import -window root '" + folder + "/" + name + ".png'";
+    EXPECT_EQ(std::system(command.c_str()), 0) << command;
 }
 
 }  // namespace lv

@@ -31,8 +31,11 @@ bool HasKeyboard(wxWindow* control);
 void ClickOn(wxWindow* control);
 void PressKey(int key, int modifiers = 0);
 
-/// Calls back while the modal window that comes up next is open.
+/// Calls back once a modal window more is open than now.
 void WhenModal(const std::function<void()>& act);
+
+/// Does what opens another modal window, acts in that, and waits until it is gone.
+void DoAndAnswer(const std::function<void()>& open, const std::function<void()>& act);
 
 /// Keeps a picture of the screen as <build>/screenshots/<name>.png.
 void Screenshot(const std::string& name);

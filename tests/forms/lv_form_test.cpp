@@ -12,11 +12,13 @@
 #include <string>
 #include <vector>
 
+#include "foundation/field_strings.h"
 #include "foundation/settings.h"
 #include "launcher/lv_events.h"
 #include "launcher/main_window_load.h"
 #include "launcher/window_life.h"
 #include "platform/memory/memory_platform.h"
+#include "platform/spoken_name.h"
 #include "tests/forms/form_driver.h"
 
 namespace lv {
@@ -195,6 +197,35 @@ TEST_F(LvForm_, EachMenuOpensByItsAccessKey) {
         PressKey(WXK_ESCAPE);
     }
     EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+TEST_F(LvForm_, EveryControlHasATextOrANameThatAssistiveToolsRead) {
+    std::vector<const char*> names = {"Exe_Cbo",  "Game_Cbo",   "Script_Cbo", "VideoProfiles_Cbo",       "Mem_Cbo",
+                                      "Demo_Cbo", "Server_Cbo", "Map_Cbo",    "CommandLineAdditions_Txt"};
+    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
+        names.push_back(option->Name);
+    }
+    for (const char* name : names) {
+        wxWindow* control = Find(name);
+        EXPECT_TRUE(!control->GetLabel().empty() || !SpokenName(control->GetHandle()).empty()) << name;
+    }
+    for (int i = 0; i < 9; ++i) {
+        EXPECT_NE(SpokenName(Find("ButtonBar_Cmd(" + std::to_string(i) + ")")->GetHandle()), "") << i;
+    }
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_NE(SpokenName(Find("Menu_Pic(" + std::to_string(i) + ")")->GetHandle()), "") << i;
+    }
+}
+
+TEST_F(LvForm_, ALongRowShowsInFullAsAToolTip) {
+    const Text title(90, 'W');
+    launcher.Window.Demo_Cbo.Items = {title + Text(10, ' ') + "playdemo long.dem"};
+    launcher.Window.Demo_Cbo.ListIndex = 0;
+    user.Refresh();
+    EXPECT_EQ(Find("Demo_Cbo")->GetToolTipText(), wxString(title));
+    launcher.Window.Demo_Cbo.Items = {PadToWidth("None", 100) + "playdemo nodemo.dem"};
+    user.Refresh();
+    EXPECT_EQ(Find("Demo_Cbo")->GetToolTipText(), "");
 }
 
 TEST_F(LvForm_, F12Exits) {

@@ -23,8 +23,8 @@ TEST(WriteHostFile, NamesTheFileItCannotWrite) {
     yard.AddFile("plain", "x");
     const auto file = yard.Drive / "plain/file.conf";
     const Error fault = WriteHostFile(file, "x");
-    EXPECT_EQ(fault.Number, 75);
-    EXPECT_EQ(fault.Text, "Path/File access error: " + file.string());
+    EXPECT_EQ(fault.Number, 76);
+    EXPECT_EQ(fault.Text, "Path not found: " + file.string());
 }
 
 TEST(DropOldHostFiles, DropsOnlyOldFilesOfThatName) {

@@ -46,7 +46,8 @@ Result<std::optional<Text>> ScriptedUser::ChooseFile(const FileRequest& request)
     return answer;
 }
 
-std::optional<Text> ScriptedUser::InputBox(TextView title, TextView prompt) {
+std::optional<Text> ScriptedUser::InputBox(TextView title, TextView prompt, TextView offered) {
+    Offered.emplace_back(offered);
     Inputs.push_back(Join(title, "|", prompt));
     if (OnDialog) {
         OnDialog();

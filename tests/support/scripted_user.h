@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "foundation/dialogs.h"
+#include "foundation/modal_window.h"
 #include "foundation/question_box.h"
 #include "launcher/install_params.h"
 
@@ -28,7 +29,10 @@ struct ExpectedQuestion {
 
 class ScriptedUser : public UserInterface {
   public:
-    ~ScriptedUser() override { EXPECT_TRUE(Expected.empty()) << "never asked: " << Expected.front().Title; }
+    ~ScriptedUser() override {
+        EXPECT_TRUE(Expected.empty()) << "never asked: " << Expected.front().Title;
+        EXPECT_TRUE(modal_.empty()) << "a window that was expected never came up";
+    }
 
     std::deque<ExpectedQuestion> Expected;
     std::vector<QuestionBox_Frm> Asked;
@@ -60,19 +64,30 @@ class ScriptedUser : public UserInterface {
     std::deque<std::function<void(About_Frm&)>> InAbout;
     std::deque<std::function<void(ConfirmExit_Frm&)>> InConfirmExit;
     std::deque<std::optional<Text>> InputAnswers;
-    std::vector<Text> Inputs;  // "title|prompt"
-    std::vector<Text> Opened;  // help files and addresses
+    std::vector<Text> Inputs;   // "title|prompt"
+    std::vector<Text> Offered;  // what stood in each
+    std::vector<Text> Opened;   // help files and addresses
     Error HelpFails;
     Error UrlFails;
     bool HasTray = true;
     std::vector<Text> WindowCalls;  // "raise", "menu File_Bar", "what's this"
+    /// What the user does in the next window of the ModalWindow family, which must be of this type.
+    template <class Form>
+    void In(std::function<void(Form&)> act) {
+        modal_.push_back([act = std::move(act)](ModalWindow& shown) {
+            auto* form = dynamic_cast<Form*>(&shown);
+            ASSERT_NE(form, nullptr) << "another window came up: " << shown.Name;
+            act(*form);
+        });
+    }
     /// Looked at while a dialog or a question is up.
     std::function<void()> OnDialog;
 
     void ShowInstallParams(InstallParams_Frm& form) override { Act(InInstallParams, form, "InstallParams_Frm"); }
     void ShowAbout(About_Frm& form) override { Act(InAbout, form, "About_Frm"); }
     void ShowConfirmExit(ConfirmExit_Frm& form) override { Act(InConfirmExit, form, "ConfirmExit_Frm"); }
-    std::optional<Text> InputBox(TextView title, TextView prompt) override;
+    void ShowModal(ModalWindow& window) override { Act(modal_, window, window.Name.c_str()); }
+    std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered) override;
     Error OpenHelp(TextView path) override;
     Error OpenUrl(TextView address) override;
     bool TrayAvailable() override { return HasTray; }
@@ -81,6 +96,8 @@ class ScriptedUser : public UserInterface {
     void EnterWhatsThis() override { WindowCalls.emplace_back("what's this"); }
 
   private:
+    std::deque<std::function<void(ModalWindow&)>> modal_;
+
     template <class Form>
     void Act(std::deque<std::function<void(Form&)>>& acts, Form& form, const char* name) {
         if (OnDialog) {

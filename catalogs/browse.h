@@ -1,0 +1,26 @@
+// catalogs/browse.h
+//
+// Browsing for a file, and what is told when the toolkit's dialog fails.
+
+#pragma once
+
+#include <optional>
+
+#include "foundation/run.h"
+
+namespace lv {
+
+constexpr TextView kExecutableFilter = "Quake Executables (*.exe, *.bat)|*.exe;*.bat|All Files (*.*)|*.*";
+constexpr TextView kAllFilesFilter = "All Files (*.*)|*.*";
+
+/// Numbers of the file dialog.
+constexpr int kDialogCancelled = 32755;
+constexpr int kDialogOutdated = 20476;
+
+/// What is told of a failed dialog.
+Text DialogFailureText(const Error& failed);
+
+/// The chosen path; nothing if the user cancelled or the dialog failed, which the user was told then.
+std::optional<Text> BrowseForFile(Run& run, TextView filter, TextView directory);
+
+}  // namespace lv

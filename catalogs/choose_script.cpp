@@ -1,0 +1,45 @@
+#include "catalogs/choose_script.h"
+
+#include "catalogs/browse.h"
+#include "catalogs/game_filters.h"
+#include "foundation/field_strings.h"
+
+namespace lv {
+
+namespace {
+
+constexpr Index kQuake2 = 3;
+
+// The games that came later share the plain filter here, Unreal too.
+TextView FilterFor(Index gameKind) {
+    const bool hasOwn = gameKind >= 1 && gameKind <= kQuake2;
+    return hasOwn ? FiltersOf(gameKind)->Scripts : "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*";
+}
+
+}  // namespace
+
+ChooseScript_Frm::ChooseScript_Frm(Run& owner, TextView directory)
+    : EntryWindow(owner, "ChooseScript_Frm", EntryMode::Add), Directory(directory) {
+    Caption = "Choose Script";
+    Label2.Caption = "Script File Name";
+    Browse_Cmd.Caption = "&Browse";
+}
+
+void ChooseScript_Browse_Cmd_Click(ChooseScript_Frm& form) {
+    if (auto path = BrowseForFile(form.run, FilterFor(form.run.GameKind), form.Directory)) {
+        form.ScriptPath_Txt.Text = *std::move(path);
+    }
+}
+
+void ChooseScript_OK_Cmd_Click(ChooseScript_Frm& form) {
+    const Text name = Trim(form.ScriptPath_Txt.Text);
+    if (name.empty()) {
+        TellFault(form, "ScriptPath_Txt", "No script name was entered.");
+        return;
+    }
+    form.LastEntry = name;
+    form.DialogResult = true;
+    form.Closed = true;
+}
+
+}  // namespace lv

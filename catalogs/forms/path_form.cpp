@@ -1,0 +1,81 @@
+#include "catalogs/forms/path_form.h"
+
+#include <wx/button.h>
+
+#include "foundation/forms/wx_text.h"
+#include "platform/spoken_name.h"
+
+namespace lv {
+
+namespace {
+
+constexpr int kGap = 8;
+constexpr int kIndent = 3;  // blanks a level
+
+}  // namespace
+
+PathForm::PathForm(wxWindow* owner, Path_Frm& form)
+    : ModalForm(owner, form, [&form] { Path_Cancel_Cmd_Click(form); }), form_(form) {
+    Path_Load(form_);
+    auto* drives = new wxChoice(this, wxID_ANY);
+    SetSpokenName(drives->GetHandle(), "Drive");
+    Controls.Bind("Drive1", form_.Drive1, drives, [this] {
+        Path_Drive1_Change(form_);
+        ShowDirectories();
+    });
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(drives, wxSizerFlags().Expand());
+    directories_ = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(380, 260)));
+    directories_->SetName("Dir1");
+    SetSpokenName(directories_->GetHandle(), "Directory");
+    directories_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) { form_.Dir1.ListIndex = event.GetInt(); });
+    const auto enter = [this] {
+        const int row = directories_->GetSelection();
+        if (row != wxNOT_FOUND) {
+            Controls.Run([this, row] {
+                Path_Dir1_DblClick(form_, row);
+                ShowDirectories();
+            });
+        }
+    };
+    directories_->Bind(wxEVT_LISTBOX_DCLICK, [enter](wxCommandEvent&) { enter(); });
+    directories_->Bind(wxEVT_KEY_DOWN, [enter](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER) {
+            enter();
+        } else {
+            event.Skip();
+        }
+    });
+    rows->Add(directories_, wxSizerFlags(1).Expand().Border(wxTOP | wxBOTTOM, kGap));
+    rows->Add(MakeLabel(this, "Path_Lbl", form_.Path_Lbl), wxSizerFlags().Expand());
+    AddWide(rows, 1);
+    ShowDirectories();
+    Finish(MakeButton("OK_Cmd", form_.OK_Cmd, [this] { Path_OK_Cmd_Click(form_); }),
+           MakeButton("Cancel_Cmd", form_.Cancel_Cmd, [this] { Path_Cancel_Cmd_Click(form_); }));
+}
+
+PathForm::~PathForm() {
+    form_.Placement.Left = ToTwips(GetPosition().x);
+    form_.Placement.Top = ToTwips(GetPosition().y);
+    form_.Placement.Width = ToTwips(GetSize().x);
+    form_.Placement.Height = ToTwips(GetSize().y);
+    Path_Unload(form_);
+}
+
+void PathForm::ShowDirectories() {
+    if (shown_ != form_.DirPaths) {
+        shown_ = form_.DirPaths;
+        wxArrayString rows;
+        for (std::size_t i = 0; i < form_.Dir1.Items.size(); ++i) {
+            const int level = i < form_.DirLevels.size() ? form_.DirLevels[i] : 0;
+            rows.Add(wxString(' ', static_cast<std::size_t>(level * kIndent)) + ToWx(form_.Dir1.Items[i]));
+        }
+        directories_->Set(rows);
+    }
+    if (form_.Dir1.HasSelection()) {
+        directories_->SetSelection(form_.Dir1.ListIndex);
+        directories_->EnsureVisible(form_.Dir1.ListIndex);
+    }
+}
+
+}  // namespace lv

@@ -1,0 +1,27 @@
+// catalogs/forms/path_form.h
+//
+// Shows Path_Frm, the choice of a directory.
+
+#pragma once
+
+#include <wx/listbox.h>
+
+#include "catalogs/path_window.h"
+#include "foundation/forms/modal_form.h"
+
+namespace lv {
+
+class PathForm : public ModalForm {
+  public:
+    PathForm(wxWindow* owner, Path_Frm& form);
+    ~PathForm() override;
+
+  private:
+    void ShowDirectories();
+
+    Path_Frm& form_;
+    wxListBox* directories_ = nullptr;
+    std::vector<Text> shown_;
+};
+
+}  // namespace lv

@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+#include <wx/checkbox.h>
+#include <wx/textctrl.h>
+
+#include "catalogs/forms/entry_forms.h"
+#include "foundation/forms/wx_user.h"
+#include "foundation/settings.h"
+#include "platform/memory/memory_platform.h"
+#include "tests/forms/form_driver.h"
+#include "wizard/forms/install_form.h"
+#include "wizard/wizard.h"
+
+namespace lv {
+namespace {
+
+class WizardForm : public ::testing::Test {
+  protected:
+    WizardForm() {
+        system.Disk.AddFile("C:\\QUAKE\\QUAKE.EXE");
+        system.Disk.AddFile("C:\\QUAKE\\GLQUAKE.EXE");
+        system.Disk.AddDirectory("C:\\QUAKE\\ID1");
+        system.Disk.AddFile("C:\\OLD\\STUFF\\SIN\\SIN.EXE");
+        user.AddForms(MakeEntryForm);
+        user.AddForms(MakeInstallForm);
+    }
+
+    std::string Path(int row) {
+        return FindAs<wxTextCtrl>("GamePath_Txt(" + std::to_string(row) + ")")->GetValue().utf8_string();
+    }
+
+    MemoryPlatform system;
+    WxUser user{system.Disk};
+    lv::Run run{system.Services, user};
+    Launcher launcher{run};
+};
+
+TEST_F(WizardForm, FindsATickedGameAndListsItsPrograms) {
+    WhenModal([this] {
+        EXPECT_TRUE(HasKeyboard(Find("Game_Chk(0)")));
+        PressKey(WXK_SPACE);
+        ClickOn(Find("AutoSearch_Cmd"));
+        EXPECT_EQ(Path(0), "C:\\quake");
+        Screenshot("wizard");
+        ClickOn(Find("OK_Cmd"));
+    });
+    EXPECT_TRUE(ShowInstallWizard(launcher));
+    EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "Executables"),
+              "Quake;c:\\quake\\quake.exe;GL Quake;c:\\quake\\glquake.exe");
+}
+
+TEST_F(WizardForm, WalksTheDiskWhenTheUserWantsIt) {
+    WhenModal([this] {
+        ClickOn(Find("Game_Chk(4)"));
+        DoAndAnswer([] { ClickOn(Find("AutoSearch_Cmd")); },
+                    [] {
+                        Screenshot("wizard_question");
+                        ClickOn(Find("Button_Cmd(0)"));
+                    });
+        EXPECT_EQ(Path(4), "C:\\OLD\\STUFF\\SIN");
+        EXPECT_EQ(Find("Status_Lbl")->GetLabel(), "Search Complete:");
+        ClickOn(Find("Cancel_Cmd"));
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+}
+
+TEST_F(WizardForm, SaysThatAGameHasToBeTicked) {
+    WhenModal([] {
+        DoAndAnswer([] { ClickOn(Find("AutoSearch_Cmd")); }, [] { PressKey(WXK_RETURN); });
+        PressKey(WXK_ESCAPE);
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+}
+
+TEST_F(WizardForm, BrowsesForADirectoryByKeyboard) {
+    WhenModal([this] {
+        DoAndAnswer([] { ClickOn(Find("Browse_Cmd(0)")); },
+                    [] {
+                        Screenshot("choose_directory");
+                        PressKey(WXK_ESCAPE);
+                    });
+        EXPECT_EQ(Path(0), "");
+        PressKey(WXK_ESCAPE);
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+}
+
+}  // namespace
+}  // namespace lv

@@ -1,0 +1,219 @@
+#include <algorithm>
+
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+#include "wizard/disk_walk.h"
+#include "wizard/install_frm.h"
+
+namespace lv {
+
+namespace {
+
+constexpr double kPumpSeconds = 0.02;  // between two looks at the window's events
+constexpr std::size_t kLongestProgram = 12;
+
+struct UsualPlace {
+    std::size_t Row;
+    const char* Path;
+};
+
+constexpr UsualPlace kUsualPlaces[] = {
+    {0, "\\quake\\"},
+    {0, "\\games\\quake\\"},
+    {0, "\\program files\\quake\\"},
+    {1, "\\hexen2\\"},
+    {1, "\\games\\hexen2\\"},
+    {1, "\\program files\\hexen2\\"},
+    {2, "\\quake2\\"},
+    {2, "\\games\\quake2\\"},
+    {2, "\\program files\\quake2\\"},
+    {3, "\\unreal\\system\\"},
+    {3, "\\games\\unreal\\system\\"},
+    {3, "\\program files\\unreal\\system\\"},
+    {4, "\\sin\\"},
+    {4, "\\games\\sin\\"},
+    {4, "\\program files\\sin\\"},
+    {4, "\\activision\\sin\\"},
+    {4, "\\games\\activision\\sin\\"},
+    {4, "\\program files\\activision\\sin\\"},
+    {4, "\\sin demo\\"},
+    {4, "\\games\\sin demo\\"},
+    {4, "\\program files\\sin demo\\"},
+    {4, "\\activision\\sin demo\\"},
+    {4, "\\games\\activision\\sin demo\\"},
+    {4, "\\program files\\activision\\sin demo\\"},
+    {5, "\\heretic ii\\"},
+    {5, "\\games\\heretic ii\\"},
+    {5, "\\program files\\heretic ii\\"},
+    {5, "\\heretic ii demo\\"},
+    {5, "\\games\\heretic ii demo\\"},
+    {5, "\\program files\\heretic ii demo\\"},
+    {6, "\\shogo\\"},
+    {6, "\\games\\shogo\\"},
+    {6, "\\program files\\shogo\\"},
+    {7, "\\blood2\\"},
+    {7, "\\games\\blood2\\"},
+    {7, "\\program files\\blood2\\"},
+    {8, "\\sierra\\half-life\\"},
+    {8, "\\games\\sierra\\half-life\\"},
+    {8, "\\program files\\sierra\\half-life\\"},
+};
+
+// Which games are looked for, and still open. A game that is known already is neither.
+using Rows = std::array<bool, kInstallRows>;
+
+Rows TickedRows(const Install_Frm& form) {
+    Rows ticked{};
+    std::transform(form.Game_Chk.begin(), form.Game_Chk.end(), ticked.begin(),
+                   [](const CheckBox& box) { return box.Value == 1; });
+    return ticked;
+}
+
+bool Any(const Rows& rows) {
+    return std::find(rows.begin(), rows.end(), true) != rows.end();
+}
+
+// "A:" and "B:" are never touched, not even to see whether a disk is there.
+std::vector<Text> SearchedDrives(Run& run) {
+    std::vector<Text> drives = run.System.Disk.Drives();
+    std::erase_if(drives, [](const Text& drive) { return SameText(drive, "A:") || SameText(drive, "B:"); });
+    return drives;
+}
+
+// The search goes on behind a hit, so the last place and the last drive win. Gives the rows that stay open.
+Rows SearchUsualPlaces(Install_Frm& form, const Rows& ticked) {
+    Rows open = ticked;
+    const std::vector<Text> drives = SearchedDrives(form.run);
+    for (const UsualPlace& place : kUsualPlaces) {
+        if (!ticked[place.Row]) {
+            continue;
+        }
+        for (const Text& drive : drives) {
+            const Text directory = Join(drive, place.Path);
+            if (form.run.System.Disk.FileExists(Join(directory, InstallRows()[place.Row].FileName))) {
+                form.GamePath_Txt[place.Row].Text = DropRight(directory, 1);
+                open[place.Row] = false;
+            }
+        }
+    }
+    return open;
+}
+
+Text NamesOf(const Rows& rows) {
+    Text names;
+    for (std::size_t i = 0; i < kInstallRows; ++i) {
+        if (rows[i]) {
+            names += Join(InstallRows()[i].ListName, ", ");
+        }
+    }
+    return DropRight(names, 2);
+}
+
+bool WantsWalk(Run& run, const Rows& open) {
+    return AskUser(run, "",
+                   Join("These games (", NamesOf(open), ") were not found in any of the 'usual' places.", NewLine,
+                        NewLine, "Would you like me to do an extensive hard drive search?", NewLine,
+                        "(This could take a few minutes)."),
+                   "&Yes,&No") == 0;
+}
+
+void SetSearching(Install_Frm& form, bool searching) {
+    form.SearchRunning = searching;
+    form.CancelSearch = false;
+    form.OK_Cmd.Enabled = !searching;
+    form.Cancel_Cmd.Enabled = !searching;
+    for (std::size_t i = 0; i < kInstallRows; ++i) {
+        form.Browse_Cmd[i].Enabled = !searching && form.Game_Chk[i].Enabled;  // a known game's stays out of use
+    }
+    form.AutoSearch_Cmd.Caption = searching ? "Cancel &Search" : "&Do An Auto-Search";
+}
+
+bool MayBeProgram(const DirectoryEntry& entry) {
+    return !entry.IsDirectory && entry.Name.size() <= kLongestProgram && LowerCase(entry.Name.back()) == 'e';
+}
+
+void TakeHits(Install_Frm& form, const DiskWalk::Step& step, Rows& open) {
+    for (const DirectoryEntry& entry : step.Entries) {
+        if (!MayBeProgram(entry)) {
+            continue;
+        }
+        for (std::size_t i = 0; i < kInstallRows; ++i) {
+            if (open[i] && SameText(entry.Name, InstallRows()[i].WalkedName)) {
+                form.GamePath_Txt[i].Text = step.Path.ends_with('\\') ? DropRight(step.Path, 1) : step.Path;
+                open[i] = false;
+            }
+        }
+    }
+}
+
+// Shows where the search is and lets the user at the window, often enough for a cancel to take effect at once.
+class Pulse {
+  public:
+    explicit Pulse(Install_Frm& form) : form_(form) {}
+
+    /// False if the search is to end.
+    bool GoOn(const Text& path) {
+        Run& run = form_.run;
+        if (!due_ || run.System.Time.Seconds() >= *due_) {
+            form_.Status_Lbl.Caption = Join("Searching...  ", path);
+            run.User.Refresh();
+            run.User.PumpEvents();
+            due_ = run.System.Time.Seconds() + kPumpSeconds;
+        }
+        return !form_.CancelSearch && !run.Ended;
+    }
+
+  private:
+    Install_Frm& form_;
+    std::optional<double> due_;
+};
+
+void WalkDisks(Install_Frm& form, Rows open) {
+    Files& disk = form.run.System.Disk;
+    DiskWalk walk(disk);
+    Pulse pulse(form);
+    for (const Text& drive : SearchedDrives(form.run)) {
+        if (disk.ProbeDrive(drive)) {
+            continue;
+        }
+        walk.Enter(drive);
+        while (const auto step = walk.Next()) {
+            if (!pulse.GoOn(step->Path)) {
+                return;
+            }
+            const bool ignored = form.ZipMagic_Chk.Value == 1 && Holds(UpperCase(step->Path), ".ZIP");
+            if (!ignored) {
+                TakeHits(form, *step, open);
+            }
+            if (!Any(open)) {
+                return;
+            }
+        }
+    }
+}
+
+}  // namespace
+
+void Install_AutoSearch_Cmd_Click(Install_Frm& form) {
+    if (form.SearchRunning) {
+        form.CancelSearch = true;
+        return;
+    }
+    const Rows ticked = TickedRows(form);
+    if (!Any(ticked)) {
+        AskUser(form.run, "", "Please check the games you have before starting the Auto-Search.");
+        return;
+    }
+    form.Hourglass = true;
+    form.run.User.Refresh();
+    const Rows open = SearchUsualPlaces(form, ticked);
+    if (Any(open) && WantsWalk(form.run, open)) {
+        SetSearching(form, true);
+        WalkDisks(form, open);
+        SetSearching(form, false);
+    }
+    form.Status_Lbl.Caption = "Search Complete:";
+    form.Hourglass = false;
+}
+
+}  // namespace lv

@@ -1,0 +1,62 @@
+// wizard/install_frm.h
+//
+// The setup wizard's window: a row a game, with its check box and its path.
+
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "foundation/modal_window.h"
+#include "launcher/known_games.h"
+
+namespace lv {
+
+constexpr std::size_t kInstallRows = 9;
+
+struct Install_Frm : ModalWindow {
+    /// The games that are known already are greyed and not looked for.
+    explicit Install_Frm(Run& owner, const std::vector<KnownGame>& known = {});
+
+    std::array<Panel, kInstallRows> GameSetup_Fra;
+    std::array<Picture, kInstallRows> GameIcon_Pic;
+    std::array<CheckBox, kInstallRows> Game_Chk;
+    std::array<Label, kInstallRows> Label1;
+    std::array<TextBox, kInstallRows> GamePath_Txt;
+    std::array<CommandButton, kInstallRows> Browse_Cmd;
+    std::array<Label, 3> Label2;  // what to do
+    CommandButton AutoSearch_Cmd;
+    CheckBox ZipMagic_Chk;
+    Label Status_Lbl;
+    CommandButton OK_Cmd;
+    CommandButton Cancel_Cmd;
+
+    bool Hourglass = false;  // the pointer's shape
+    bool SearchRunning = false;
+    bool CancelSearch = false;
+    bool DialogResult = false;
+};
+
+/// What a row shows.
+struct InstallRow {
+    const char* Caption;     // of its check box
+    const char* Name;        // in the title of the path dialog and in messages
+    const char* ListName;    // in the list of games not found
+    const char* Picture;     // of assets/icons/games
+    const char* FileName;    // looked for in the usual places
+    const char* WalkedName;  // looked for on whole disks
+};
+const std::array<InstallRow, kInstallRows>& InstallRows();
+
+/// Looks in the usual places, then on whole disks if the user wants that. While it runs it only asks it to stop.
+void Install_AutoSearch_Cmd_Click(Install_Frm& form);
+void Install_Browse_Cmd_Click(Install_Frm& form, int index);
+
+/// Turns the ticked rows into entries of the catalog of executables.
+void Install_OK_Cmd_Click(Install_Frm& form);
+void Install_Cancel_Cmd_Click(Install_Frm& form);
+
+/// The window's close box. True if the window may go; a search that runs is asked to stop first.
+bool Install_QueryUnload(Install_Frm& form);
+
+}  // namespace lv
