@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <limits>
 
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
@@ -154,7 +155,7 @@ class Pulse {
     /// False if the search is to end.
     bool GoOn(const Text& path) {
         Run& run = form_.run;
-        if (!due_ || run.System.Time.Seconds() >= *due_) {
+        if (run.System.Time.Seconds() >= due_) {
             form_.Status_Lbl.Caption = Join("Searching...  ", path);
             run.User.Refresh();
             run.User.PumpEvents();
@@ -165,7 +166,7 @@ class Pulse {
 
   private:
     Install_Frm& form_;
-    std::optional<double> due_;
+    double due_ = -std::numeric_limits<double>::infinity();  // the first time is at once
 };
 
 void WalkDisks(Install_Frm& form, Rows open) {
