@@ -166,7 +166,7 @@ class Pulse {
 
   private:
     Install_Frm& form_;
-    double due_ = -std::numeric_limits<double>::infinity();  // the first one at once
+    double due_ = -std::numeric_limits<double>::infinity();  // the first time is at once
 };
 
 void WalkDisks(Install_Frm& form, Rows open) {

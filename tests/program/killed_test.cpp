@@ -1,8 +1,12 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <map>
+#include <ostream>
+#include <string>
 #include <thread>
 
 #include "tests/program/program_run.h"
@@ -14,6 +18,7 @@ namespace lv {
 namespace {
 
 using std::chrono::steady_clock;
+using ::testing::HasSubstr;
 
 constexpr int kPoints = 10;
 
@@ -90,10 +95,18 @@ struct LaunchFiles {
     std::string Batch;
     std::string Script;
     bool operator==(const LaunchFiles&) const = default;
+    friend std::ostream& operator<<(std::ostream& out, const LaunchFiles& files) {
+        return out << files.Batch << files.Script;
+    }
 };
 
 LaunchFiles ReadLaunchFiles(const ProgramHome& home) {
     return {ReadBytes(home.Quake / "lv_666.bat"), ReadBytes(home.Quake / "ID1/lv_666.qs")};
+}
+
+void WriteLaunchFiles(const ProgramHome& home, const LaunchFiles& files) {
+    std::ofstream(home.Quake / "lv_666.bat", std::ios::binary) << files.Batch;
+    std::ofstream(home.Quake / "ID1/lv_666.qs", std::ios::binary) << files.Script;
 }
 
 /// Launches and ends; how long it took from the key to the game's output.
@@ -107,43 +120,57 @@ steady_clock::duration Launch(const ProgramHome& home) {
     return steady_clock::now() - start;
 }
 
+void ChooseScript(ProgramHome& home, const std::string& name) {
+    home.Set("DefaultScript", "c:\\quake\\ID1", "c:\\quake\\id1\\" + name + ".cfg");
+    home.Set("Options", "CustomCommandLineText", "+" + name);
+}
+
 TEST(Killed, AtAnyMomentOfALaunchLeavesEachFileWholeOldOrWholeNew) {
     ProgramHome home("killed_at_launch");
     home.Prepare();
     const auto stored = StoreValues(home);
     home.Set("Options", "UseCustomCommandLine", "1");
-    home.Set("Options", "CustomCommandLineText", "+new");
-    home.Set("Options", "NoCDAudio", "1");
+    home.Set("Options", "UseScripts", "1");
+    home.Set("Options", "UseDemos", "0");
+    for (const char* const script : {"old.cfg", "new.cfg"}) {
+        std::ofstream(home.Quake / "ID1" / script) << "echo A script.\r\n";
+    }
+    ChooseScript(home, "new");
     Launch(home);
     const LaunchFiles after = ReadLaunchFiles(home);
-    home.Set("Options", "CustomCommandLineText", "+old");
-    home.Set("Options", "NoCDAudio", "0");
-    home.Set("Options", "VideoProfilesPos", "1");
+    ChooseScript(home, "old");
     const auto whole = Launch(home);
     const LaunchFiles before = ReadLaunchFiles(home);
-    ASSERT_NE(before.Batch, after.Batch);
-    ASSERT_NE(before.Batch, "");
+    ASSERT_EQ(before.Script, "exec old.cfg\r\n");
+    ASSERT_EQ(after.Script, "exec new.cfg\r\n");
+    ASSERT_THAT(before.Batch, HasSubstr("+old"));
+    ASSERT_THAT(after.Batch, HasSubstr("+new"));
 
-    home.Set("Options", "CustomCommandLineText", "+new");
-    home.Set("Options", "NoCDAudio", "1");
+    ChooseScript(home, "new");
+    int stillOld = 0;
     for (int point = 0; point < kPoints; ++point) {
         SCOPED_TRACE(point);
+        WriteLaunchFiles(home, before);
         {
             ProgramRun program(home);
             ASSERT_TRUE(Activate(program.WaitForWindow()));
             const auto begin = steady_clock::now();
-            const OwnProcess key(home, {"xdotool", "key", "F2"});
+            OwnProcess key(home, {"xdotool", "key", "F2"});
             SleepUntilPoint(begin, whole, point);
             program.Kill();
+            ASSERT_EQ(key.WaitForEnd(), 0);  // or the key would stay pressed
         }
         const LaunchFiles now = ReadLaunchFiles(home);
+        stillOld += now == before ? 1 : 0;
         EXPECT_TRUE(now.Batch == before.Batch || now.Batch == after.Batch) << now.Batch;
         EXPECT_TRUE(now.Script == before.Script || now.Script == after.Script) << now.Script;
         ExpectAllKept(home, stored);
         ExpectAStartThatWorks(home);
     }
+    EXPECT_GT(stillOld, 0) << "every kill came after the launch";
+    EXPECT_LT(stillOld, kPoints) << "every kill came before the launch";
     Launch(home);
-    EXPECT_EQ(ReadLaunchFiles(home).Batch, after.Batch);
+    EXPECT_EQ(ReadLaunchFiles(home), after);
 }
 
 }  // namespace

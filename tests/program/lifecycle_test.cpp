@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "tests/program/program_run.h"
@@ -6,6 +7,8 @@
 namespace lv {
 
 namespace {
+
+using ::testing::HasSubstr;
 
 TEST(Lifecycle, ShowsTheSplashAndThenTheWindow) {
     ProgramHome home("splash");
@@ -92,8 +95,20 @@ TEST(Lifecycle, DoesNotGrowWithEveryChangeOfItsParts) {
     }
 }
 
+TEST(EmptyList, IsAskedAboutAndStaysEmptyOnNo) {
+    ProgramHome home("empty_list");
+    home.Set("LV-Stuff", "FirstTime", "0");
+    ProgramRun program(home);
+    ASSERT_NE(program.WaitForDialog("^Executables List Is Empty$"), "");
+    PressKey("alt+n");
+    EXPECT_NE(program.WaitForWindow(), "");
+    EXPECT_EQ(home.Get("Options", "Executables"), "(none)");
+    EXPECT_EQ(program.EndByF12(), 0);
+}
+
 TEST(FirstRun, AsksForTheChipsetAndTheGamesAndThenOpens) {
     ProgramHome home("first_run");
+    home.MakeGame();
     ProgramRun program(home);
     ASSERT_TRUE(WaitUntil([&] { return !ShownWindowsOf(program.Id(), kChipsetTitle).empty(); }));
     KeepScreenshot("first_run_chipset");
@@ -102,11 +117,17 @@ TEST(FirstRun, AsksForTheChipsetAndTheGamesAndThenOpens) {
     const std::string verify = program.WaitForDialog("^Verify Setup Information$");
     ASSERT_NE(verify, "");
     PressKey("Return");
-    const std::string empty = program.WaitForDialog("^Executables List Is Empty$");
-    ASSERT_NE(empty, "");
-    PressKey("alt+n");
+    ASSERT_TRUE(WaitUntil([&] { return ShownWindowsOf(program.Id(), "^Verify Setup Information$").empty(); }));
+    const std::string games = program.WaitForDialog(kChipsetTitle);
+    ASSERT_NE(games, "");
+    PressKey("space");  // ticks the first game, Quake
+    PressKey("Tab");
+    OutputOf({"xdotool", "type", "c:\\quake"});
+    KeepScreenshot("first_run_games");
+    PressKey("alt+o");  // "&OK"
     EXPECT_NE(program.WaitForWindow(), "");
     EXPECT_EQ(home.Get("LV-Stuff", "FirstTime"), "0");
+    EXPECT_THAT(home.Get("Options", "Executables"), HasSubstr("c:\\quake\\quake.exe"));
     EXPECT_EQ(home.Get("Options", "VidCard"), "1");
     EXPECT_EQ(program.EndByF12(), 0);
 }

@@ -101,13 +101,17 @@ ProgramHome::~ProgramHome() {
     EndAllStartedIn(*this);
 }
 
-void ProgramHome::Prepare() {
+void ProgramHome::MakeGame() {
     const fs::path ours = Root / "data/lorvane3d";
     fs::create_directories(ours / "drives");
     fs::create_directories(Quake / "ID1");
     fs::create_directory_symlink("../drive_c", ours / "drives/c:");
     fs::create_directory_symlink("/", ours / "drives/z:");
     fs::copy_file(fs::path(LV_TEST_BINARY_DIR) / "standins/show_native", Quake / "QUAKE.EXE");
+}
+
+void ProgramHome::Prepare() {
+    MakeGame();
     Set("LV-Stuff", "FirstTime", "0");
     Set("LV-Stuff", "VP_Version", "1");
     Set("LV-Stuff", "NVC_Version", "1");

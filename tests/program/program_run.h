@@ -30,7 +30,9 @@ class ProgramHome {
     ProgramHome(const ProgramHome&) = delete;
     ProgramHome& operator=(const ProgramHome&) = delete;
 
-    /// A game C:\QUAKE\QUAKE.EXE, which is the native stand-in, and settings with which a start asks nothing.
+    /// A game C:\QUAKE\QUAKE.EXE, which is the native stand-in.
+    void MakeGame();
+    /// The game, and settings with which a start asks nothing.
     void Prepare();
 
     void Set(const std::string& section, const std::string& key, const std::string& value);
