@@ -13,6 +13,12 @@
 
 namespace lv {
 
+namespace {
+
+constexpr int kPutBacks = 2;  // tries to give the window its size back
+
+}  // namespace
+
 LvForm::LvForm(Launcher& launcher, WxUser& user)
     : wxFrame(nullptr, wxID_ANY, ToWx(launcher.Window.Caption), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE & ~wxMAXIMIZE_BOX),
@@ -64,6 +70,10 @@ void LvForm::BindEvents() {
     Bind(
         wxEVT_TIMER,
         [this](wxTimerEvent&) {
+            // What the window manager or the menu bar does not let be, is as good as it gets.
+            if (++putBacks_ > kPutBacks) {
+                launcher_.Window.Remembered = OuterSize();
+            }
             Size_Tmr_Timer(launcher_.Window, OuterSize());
             shownSize_ = {};
             user_.Refresh();
@@ -153,6 +163,7 @@ void LvForm::ShowSize() {
         sizeTimer_.Start(kSizeTimerMilliseconds);
     } else if (!window.Size_Tmr_Enabled && sizeTimer_.IsRunning()) {
         sizeTimer_.Stop();
+        putBacks_ = 0;
     }
 }
 

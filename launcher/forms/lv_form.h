@@ -51,6 +51,7 @@ class LvForm : public wxFrame {
     PixelSize shownSize_;
     wxSize measuredFrame_;
     wxPoint place_;
+    int putBacks_ = 0;
     bool placed_ = false;
     bool keptPlace_ = false;
     bool topmost_ = false;
