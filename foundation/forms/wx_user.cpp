@@ -21,19 +21,23 @@
 
 namespace lv {
 
-namespace {
+/// One measure for all windows: the toolkit's own font, on a bitmap of no size that matters. Kept, for making one costs
+/// more than a thousand measurements.
+struct WxUser::Ruler {
+    Ruler() : Canvas(Bitmap) { Canvas.SetFont(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT)); }
 
-// One measure for all windows: the toolkit's own font, on a bitmap of no size that matters.
-wxSize Measure(const wxString& line) {
-    wxBitmap bitmap(1, 1);
-    wxMemoryDC canvas(bitmap);
-    canvas.SetFont(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT));
-    return canvas.GetTextExtent(line);
-}
-
-}  // namespace
+    wxBitmap Bitmap{1, 1};
+    wxMemoryDC Canvas;
+};
 
 WxUser::WxUser(Files& files) : files_(files) {}
+
+WxUser::Ruler& WxUser::TheRuler() {
+    if (!ruler_) {
+        ruler_ = std::make_unique<Ruler>();
+    }
+    return *ruler_;
+}
 
 WxUser::~WxUser() = default;
 
@@ -104,11 +108,11 @@ void WxUser::EndProgram() {
 }
 
 int WxUser::TextWidth(TextView line) {
-    return Measure(ToWx(line)).GetWidth();
+    return TheRuler().Canvas.GetTextExtent(ToWx(line)).GetWidth();
 }
 
 int WxUser::TextHeight() {
-    return Measure("Wg").GetHeight();
+    return TheRuler().Canvas.GetTextExtent("Wg").GetHeight();
 }
 
 ScreenSize WxUser::Screen() {

@@ -55,6 +55,8 @@ class WxUser : public UserInterface {
     void EnterWhatsThis() override;
 
   private:
+    struct Ruler;
+    Ruler& TheRuler();
     [[nodiscard]] wxWindow* Owner() const;
 
     Files& files_;
@@ -64,6 +66,7 @@ class WxUser : public UserInterface {
     wxDialog* onTop_ = nullptr;  // the dialog that is up: what it opens stands over it
     std::function<void(TextView)> popUp_;
     std::unique_ptr<wxHtmlHelpController> help_;
+    std::unique_ptr<Ruler> ruler_;
 };
 
 }  // namespace lv
