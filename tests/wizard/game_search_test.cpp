@@ -249,6 +249,23 @@ TEST_F(GameSearch, ACancelKeepsThePathsFoundSoFar) {
     EXPECT_FALSE(form.CancelSearch);
 }
 
+TEST_F(GameSearch, EventsAreHandledTenTimesASecondOrMore) {
+    for (int i = 0; i < 500; ++i) {
+        system.Disk.AddDirectory("C:\\games\\d" + std::to_string(i));
+    }
+    system.Time.Step = 0.001;  // a directory, and its look at the clock, takes a millisecond
+    Install_Frm form(run);
+    Tick(form, kSin);
+    ExpectWalkOffer("Sin", 0);
+    std::vector<double> pumped;
+    user.OnPump = [&] { pumped.push_back(system.Time.Elapsed); };
+    Install_AutoSearch_Cmd_Click(form);
+    ASSERT_GE(pumped.size(), 10u);
+    for (std::size_t i = 1; i < pumped.size(); ++i) {
+        EXPECT_LE(pumped[i] - pumped[i - 1], 0.1) << i;
+    }
+}
+
 TEST_F(GameSearch, TheCloseBoxOnlyStopsASearch) {
     Install_Frm form(run);
     Tick(form, kQuake);
