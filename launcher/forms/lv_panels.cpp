@@ -180,7 +180,7 @@ wxWindow* LvPanels::MakeSmallButton(const char* name, CommandButton LV_Frm::*but
     return view;
 }
 
-wxSizer* LvPanels::MakeRow(CheckBox LV_Frm::*box, wxWindow* list, std::vector<wxWindow*> behind) {
+wxSizer* LvPanels::MakeRow(CheckBox LV_Frm::*box, wxWindow* list, const std::vector<wxWindow*>& behind) {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     if (box != nullptr) {
         wxCheckBox* tick = MakeOption(box);

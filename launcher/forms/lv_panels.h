@@ -54,7 +54,7 @@ class LvPanels : public wxScrolledWindow {
     wxWindow* MakeMenuPicture(int index);
     wxWindow* MakeSmallButton(const char* name, CommandButton LV_Frm::*button, const char* picture,
                               void (*click)(Launcher&));
-    wxSizer* MakeRow(CheckBox LV_Frm::*box, wxWindow* list, std::vector<wxWindow*> behind = {});
+    wxSizer* MakeRow(CheckBox LV_Frm::*box, wxWindow* list, const std::vector<wxWindow*>& behind = {});
     void PlaceRightColumn();
     bool ShowParts();
 

@@ -1,5 +1,7 @@
 #include "launcher/forms/tray_icon.h"
 
+#include <wx/platinfo.h>
+
 #include "foundation/forms/pictures.h"
 #include "launcher/window_life.h"
 
@@ -7,21 +9,19 @@ namespace lv {
 
 namespace {
 
-// GTK tells of the pressing of a button in the tray and never of its release.
-#ifdef __WXGTK__
-const auto& kLeft = wxEVT_TASKBAR_LEFT_DOWN;
-const auto& kRight = wxEVT_TASKBAR_RIGHT_DOWN;
-#else
-const auto& kLeft = wxEVT_TASKBAR_LEFT_UP;
-const auto& kRight = wxEVT_TASKBAR_RIGHT_UP;
-#endif
+// GTK tells of a tray button only when it goes down.
+bool TellsOfRelease() {
+    return wxPlatformInfo::Get().GetPortId() != wxPORT_GTK;
+}
 
 }  // namespace
 
-TrayIcon::TrayIcon(std::function<void(int)> click) {
+TrayIcon::TrayIcon(const std::function<void(int)>& click) {
     SetIcon(ProgramIcon().GetIcon(wxSize(24, 24)), "Lorvane 3D");
-    Bind(kLeft, [click](wxTaskBarIconEvent&) { click(kTrayLeftButtonUp); });
-    Bind(kRight, [click](wxTaskBarIconEvent&) { click(kTrayRightButtonUp); });
+    Bind(TellsOfRelease() ? wxEVT_TASKBAR_LEFT_UP : wxEVT_TASKBAR_LEFT_DOWN,
+         [click](wxTaskBarIconEvent&) { click(kTrayLeftButtonUp); });
+    Bind(TellsOfRelease() ? wxEVT_TASKBAR_RIGHT_UP : wxEVT_TASKBAR_RIGHT_DOWN,
+         [click](wxTaskBarIconEvent&) { click(kTrayRightButtonUp); });
 }
 
 }  // namespace lv

@@ -13,7 +13,7 @@ namespace lv {
 class TrayIcon : public wxTaskBarIcon {
   public:
     /// `click` gets the number of the tray message: left or right button up.
-    explicit TrayIcon(std::function<void(int)> click);
+    explicit TrayIcon(const std::function<void(int)>& click);
 
   protected:
     wxMenu* CreatePopupMenu() override { return nullptr; }
