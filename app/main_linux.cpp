@@ -25,6 +25,8 @@
 #include "platform/linux/sqlite_settings.h"
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_registry.h"
+#include "video/forms/add_vid_profile_form.h"
+#include "video/forms/video_profile_form.h"
 #include "wizard/forms/install_form.h"
 #include "wizard/wizard.h"
 
@@ -39,6 +41,7 @@ struct Program {
         User.SetRun(TheRun);
         User.AddForms(MakeEntryForm);
         User.AddForms(MakeInstallForm);
+        User.AddForms(MakeAddVidProfileForm);
         ConnectWizard(TheLauncher);
     }
 
@@ -53,6 +56,7 @@ struct Program {
     LauncherUser User{Disk};
     Run TheRun{System, User};
     Launcher TheLauncher{TheRun};
+    VideoProfileWindow Profiles{TheLauncher.VideoProfile, User};
 };
 
 void TellThatTheStoreFails(const Error& failed) {

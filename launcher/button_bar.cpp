@@ -3,6 +3,7 @@
 #include "foundation/question_box.h"
 #include "launcher/launch_flow.h"
 #include "launcher/lv_events.h"
+#include "launcher/video_profile_menu.h"
 #include "launcher/window_life.h"
 #include "launcher/window_menu.h"
 

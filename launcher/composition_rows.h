@@ -6,7 +6,7 @@
 
 #include <span>
 
-#include "launcher/game_numbers.h"
+#include "foundation/game_numbers.h"
 #include "launcher/launch_composition.h"
 
 namespace lv {

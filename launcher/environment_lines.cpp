@@ -1,7 +1,7 @@
 #include "launcher/environment_lines.h"
 
 #include "foundation/field_strings.h"
-#include "launcher/game_numbers.h"
+#include "foundation/game_numbers.h"
 #include "launcher/patterns.h"
 
 namespace lv {

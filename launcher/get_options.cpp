@@ -58,12 +58,6 @@ void CountRun(Run& run) {
     CutTrailingBackslash(run.DefaultGameDirectory);
 }
 
-void LoadVideoProfiles(Launcher& launcher) {
-    launcher.ProfileChangeQuiet = true;
-    FillVideoProfiles(launcher.run, launcher.Window.VideoProfiles_Cbo);
-    launcher.ProfileChangeQuiet = false;
-}
-
 void SetUpExecutables(Launcher& launcher) {
     Run& run = launcher.run;
     if (!launcher.ShowInstallWizard) {
@@ -91,12 +85,6 @@ void OfferWizardForEmptyList(Launcher& launcher) {
     SetSplashTopmost(run, launcher.Splash, true);
 }
 
-void UnloadVideoProfileWindow(VideoProfileWindow& profiles) {
-    if (profiles.Open && profiles.Unload) {
-        profiles.Unload();
-    }
-}
-
 }  // namespace
 
 Text LongDate(Clock& clock) {
@@ -117,13 +105,13 @@ bool GetOptions(Launcher& launcher) {
         return false;
     }
     SizeTo(launcher, ModeOfWord(GetSetting(run, run.AppName, kOptions, "ShowAll", "Yes")));
-    LoadVideoProfiles(launcher);
+    FillVideoProfiles(run, launcher.Window.VideoProfiles_Cbo);
     OfferWizardForEmptyList(launcher);
     if (!LoadExes(run, launcher.Lists)) {
         return false;
     }
     Exe_Cbo_Click(launcher);
-    UnloadVideoProfileWindow(launcher.VideoProfiles);
+    VideoProfile_Frm_Unload(launcher.VideoProfile);
     return !run.Ended && FillMemoryCombo(run, launcher.Lists) && FillDemoCombo(run, launcher.Lists);
 }
 

@@ -2,7 +2,7 @@
 
 #include "foundation/field_strings.h"
 #include "launcher/composition_rows.h"
-#include "launcher/game_numbers.h"
+#include "foundation/game_numbers.h"
 #include "launcher/patterns.h"
 
 namespace lv {

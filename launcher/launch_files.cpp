@@ -1,7 +1,7 @@
 #include "launcher/launch_files.h"
 
 #include "foundation/field_strings.h"
-#include "launcher/game_numbers.h"
+#include "foundation/game_numbers.h"
 
 namespace lv {
 

@@ -11,16 +11,9 @@
 #include "launcher/known_games.h"
 #include "launcher/lv_frm.h"
 #include "launcher/splash.h"
+#include "video/video_profile_frm.h"
 
 namespace lv {
-
-/// What the launcher knows of the video profile window. Without Load there is none.
-struct VideoProfileWindow {
-    bool Open = false;
-    bool Reopen = false;           // it was open when the main window was hidden
-    std::function<void()> Load;    // opens it and sets Open
-    std::function<void()> Unload;  // closes it and clears Open
-};
 
 struct Launcher {
     explicit Launcher(Run& owner) : run(owner) {}
@@ -30,7 +23,8 @@ struct Launcher {
     Run& run;
     Splash_Frm Splash;
     LV_Frm Window;
-    VideoProfileWindow VideoProfiles;
+    VideoProfile_Frm VideoProfile{run};
+    bool VideoProfileReopen = false;  // it was open when the main window was hidden
     CatalogLists Lists{Window.Exe_Cbo,
                        Window.Game_Cbo,
                        Window.Game_Chk,
@@ -60,7 +54,7 @@ struct Launcher {
     std::function<WindowMeasures()> Measure;
 
     bool ClearingGameChk = false;     // Game_Chk clears itself: its own click does nothing meanwhile
-    bool ProfileChangeQuiet = false;  // the profile list is being filled: its click does nothing
+    bool ProfileChangeQuiet = false;  // a change of the profile tells nothing of the live window
 };
 
 }  // namespace lv

@@ -7,7 +7,6 @@
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "launcher/option_rules.h"
-#include "video/profile_model.h"
 
 namespace lv {
 
@@ -149,6 +148,7 @@ void Exe_Cbo_Click(Launcher& launcher) {
     }
     ApplyGamePanels(window, {run.GameKind, run.ScriptFamily, run.IsQuakeWorld, run.IsHexenWorld});
     ApplyMissionPackRule(run, launcher.Lists);
+    ShowGameControls(launcher.VideoProfile);
     window.LaunchQspy_Chk.Enabled = run.GameKind != 9 && run.GameKind != 6;
     if (run.GameKind != 0) {
         ApplyModification(launcher);
@@ -184,14 +184,6 @@ void Demo_Cbo_Click(Launcher& launcher) {
 
 void Server_Cbo_Click(Launcher& launcher) {
     SavePosition(launcher, "ServerPos", launcher.Window.Server_Cbo);
-}
-
-void VideoProfiles_Cbo_Click(Launcher& launcher) {
-    if (launcher.ProfileChangeQuiet || !launcher.Window.VideoProfiles_Cbo.HasSelection()) {
-        return;
-    }
-    SavePosition(launcher, "VideoProfilePos", launcher.Window.VideoProfiles_Cbo);
-    SelectVideoProfile(launcher.run, Trim(launcher.Window.VideoProfiles_Cbo.Selected()));
 }
 
 void CommandLineAdditions_Txt_Change(Launcher& launcher) {

@@ -23,7 +23,6 @@ void Script_Cbo_Click(Launcher& launcher);
 void Mem_Cbo_Click(Launcher& launcher);
 void Demo_Cbo_Click(Launcher& launcher);
 void Server_Cbo_Click(Launcher& launcher);
-void VideoProfiles_Cbo_Click(Launcher& launcher);
 void CommandLineAdditions_Txt_Change(Launcher& launcher);
 
 /// With a modification ticked and selected, its directory becomes the current one, otherwise the base directory;

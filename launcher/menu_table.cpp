@@ -5,6 +5,7 @@
 
 #include "launcher/catalog_menu.h"
 #include "launcher/launch_flow.h"
+#include "launcher/video_profile_menu.h"
 #include "launcher/window_life.h"
 #include "launcher/window_menu.h"
 
@@ -66,9 +67,12 @@ constexpr MenuRow kRows[] = {
     {MemEdit_Bar, "MemEdit_Bar", kNoIndex, "&Edit", "", Mem_Bar, MemEdit_Bar_Click},
 
     {VideoProfiles_Bar, "VideoProfiles_Bar", kNoIndex, "&Video Profiles", "", None, nullptr},
-    {VideoProfilesAdd_Bar, "VideoProfilesAdd_Bar", kNoIndex, "&Add", "", VideoProfiles_Bar, nullptr},
-    {VideoProfilesEdit_Bar, "VideoProfilesEdit_Bar", kNoIndex, "&Edit", "", VideoProfiles_Bar, nullptr},
-    {VideoProfilesDelete_Bar, "VideoProfilesDelete_Bar", kNoIndex, "&Delete", "", VideoProfiles_Bar, nullptr},
+    {VideoProfilesAdd_Bar, "VideoProfilesAdd_Bar", kNoIndex, "&Add", "", VideoProfiles_Bar,
+     VideoProfilesAdd_Bar_Click},
+    {VideoProfilesEdit_Bar, "VideoProfilesEdit_Bar", kNoIndex, "&Edit", "", VideoProfiles_Bar,
+     VideoProfilesEdit_Bar_Click},
+    {VideoProfilesDelete_Bar, "VideoProfilesDelete_Bar", kNoIndex, "&Delete", "", VideoProfiles_Bar,
+     VideoProfilesDelete_Bar_Click},
 
     {Scripts_Bar, "Scripts_Bar", kNoIndex, "&Player Script", "", None, nullptr},
     {ScriptsViewAll_Bar, "ScriptsViewAll_Bar", kNoIndex, "&View All", "", Scripts_Bar, ScriptsViewAll_Bar_Click},

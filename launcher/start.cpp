@@ -7,6 +7,7 @@
 #include "launcher/main_window_load.h"
 #include "launcher/start_directories.h"
 #include "launcher/start_repairs.h"
+#include "launcher/video_profile_menu.h"
 #include "launcher/window_life.h"
 #include "launcher/window_menu.h"
 

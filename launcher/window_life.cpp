@@ -6,14 +6,6 @@ namespace lv {
 
 namespace {
 
-constexpr TextView kVideoProfileForm = "VideoProfile_Frm";
-
-void UnloadVideoProfiles(VideoProfileWindow& profiles) {
-    if (profiles.Open && profiles.Unload) {
-        profiles.Unload();
-    }
-}
-
 bool DialogIsUp(const Run& run) {
     return run.Topmost.Nesting > 0;
 }
@@ -29,19 +21,19 @@ void ShowMainWindow(Launcher& launcher) {
     }
     window.Bar(MenuItem::ShowLorvane_Bar).Caption = "&Hide Lorvane 3D";
     launcher.run.User.Refresh();
-    if (launcher.VideoProfiles.Reopen && launcher.VideoProfiles.Load) {
-        launcher.VideoProfiles.Load();
+    if (launcher.VideoProfileReopen) {
+        launcher.VideoProfileReopen = false;
+        VideoProfile_Frm_Load(launcher.VideoProfile);
     }
-    launcher.VideoProfiles.Reopen = false;
 }
 
 void HideMainWindow(Launcher& launcher) {
     LV_Frm& window = launcher.Window;
     window.Visible = false;
     window.TrayAvailable = window.TrayIcon && launcher.run.User.TrayAvailable();
-    if (launcher.VideoProfiles.Open) {
-        launcher.VideoProfiles.Reopen = true;
-        UnloadVideoProfiles(launcher.VideoProfiles);
+    if (launcher.VideoProfile.VideoProfileWindowOpen) {
+        launcher.VideoProfileReopen = true;
+        VideoProfile_Frm_Unload(launcher.VideoProfile);
     }
     window.Bar(MenuItem::ShowLorvane_Bar).Caption = "&Show Lorvane 3D";
     launcher.run.User.Refresh();
@@ -93,15 +85,9 @@ void Exit_Bar_Click(Launcher& launcher) {
     SavePlacement(run, "LV_Frm", window.Placement);
     window.TrayIcon = false;
     run.MainFormLoaded = false;
-    Save(run, kVideoProfileForm, "LoadAtStartup", launcher.VideoProfiles.Open ? 1 : 0);
-    UnloadVideoProfiles(launcher.VideoProfiles);
+    Save(run, "VideoProfile_Frm", "LoadAtStartup", launcher.VideoProfile.VideoProfileWindowOpen ? 1 : 0);
+    VideoProfile_Frm_Unload(launcher.VideoProfile);
     EndProgram(run);
-}
-
-void VideoProfileEdit_Cmd_Click(Launcher& launcher) {
-    if (launcher.VideoProfiles.Load && !launcher.VideoProfiles.Open) {
-        launcher.VideoProfiles.Load();
-    }
 }
 
 Presence PresenceOf(const LV_Frm& window) {

@@ -32,9 +32,6 @@ bool LV_Frm_QueryUnload(Launcher& launcher);
 /// The only way out: the placement is saved, the tray icon removed, the video profile window noted, the program ends.
 void Exit_Bar_Click(Launcher& launcher);
 
-/// Opens the video profile window, where there is one.
-void VideoProfileEdit_Cmd_Click(Launcher& launcher);
-
 /// Shown, minimised to the task bar, or hidden.
 Presence PresenceOf(const LV_Frm& window);
 

@@ -47,6 +47,14 @@ Text PaddedPair(TextView list, Index index) {
            GetField(list, static_cast<Index>(caption + 1), ";");
 }
 
+std::vector<Text> PaddedPairs(TextView list) {
+    std::vector<Text> pairs;
+    for (Index i = 0; i < PairsIn(list); ++i) {
+        pairs.push_back(PaddedPair(list, i));
+    }
+    return pairs;
+}
+
 bool IsListOfPairs(TextView list) {
     return list.size() >= kShortestList && CountDelimiters(list, ";") % 2 == 1;
 }
@@ -102,8 +110,7 @@ void StoreShippedRow(Run& run, const ShippedRow& row, const ShippedSetting& ship
     if (tunable == nullptr || shipped.Setting == ShippedSetting::kNotSet) {
         return;
     }
-    Save(run, run.VideoProfileSection, tunable->SettingKey, shipped.Setting);
-    Save(run, run.VideoProfileSection, tunable->ContentKey(), tunable->Item(shipped.Setting));
+    SaveTunableSetting(run, *tunable, shipped.Setting);
 }
 
 }  // namespace
@@ -183,6 +190,19 @@ bool CheckProfileLists(Run& run) {
 void ClampProfilePositions(Run& run) {
     ClampPosition(run, "Resolutions", kDefaultResolutions, "ResolutionsPos");
     ClampPosition(run, "Bits", kDefaultBits, "BitsPos");
+}
+
+std::vector<Text> ProfileResolutions(Run& run) {
+    return PaddedPairs(ReadText(run, "Resolutions", kDefaultResolutions));
+}
+
+std::vector<Text> ProfileBits(Run& run) {
+    return PaddedPairs(ReadText(run, "Bits", kDefaultBits));
+}
+
+void SaveTunableSetting(Run& run, const ProfileTunable& tunable, Index setting) {
+    Save(run, run.VideoProfileSection, tunable.SettingKey, setting);
+    Save(run, run.VideoProfileSection, tunable.ContentKey(), tunable.Item(setting));
 }
 
 void StoreBaseProfile(Run& run) {

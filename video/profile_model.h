@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "foundation/controls.h"
 #include "foundation/run.h"
@@ -69,6 +70,13 @@ bool CheckProfileLists(Run& run);
 
 /// Brings ResolutionsPos and BitsPos of the current section back into their lists, and saves what it changed.
 void ClampProfilePositions(Run& run);
+
+/// The resolutions and colour depths of the current section as padded items: caption, and the payload behind it.
+std::vector<Text> ProfileResolutions(Run& run);
+std::vector<Text> ProfileBits(Run& run);
+
+/// Stores the index in the current section, and the item's text behind it.
+void SaveTunableSetting(Run& run, const ProfileTunable& tunable, Index setting);
 
 /// Stores every key of the current section with the value it has, or its default, and VidCard in Options.
 void StoreBaseProfile(Run& run);

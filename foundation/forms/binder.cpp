@@ -82,14 +82,14 @@ bool Binder::Show() {
     return changed;
 }
 
-void Binder::Bind(const char* name, CheckBox& model, wxCheckBox* view, Handler click) {
+void Binder::Bind(const char* name, CheckBox& model, wxCheckBox* view, Handler click, Text (*shown)(TextView)) {
     view->Bind(wxEVT_CHECKBOX, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
         model.Value = view->Get3StateValue() == wxCHK_CHECKED ? 1 : 0;
         Run(click);
     });
-    Add(name, model, view, [&model, view] {
+    Add(name, model, view, [&model, view, shown] {
         if (!model.Caption.empty()) {
-            ShowLabel(model.Caption, view);
+            ShowLabel(shown != nullptr ? shown(model.Caption) : model.Caption, view);
         }
         const wxCheckBoxState state = model.Value == 2   ? wxCHK_UNDETERMINED
                                       : model.Value == 1 ? wxCHK_CHECKED

@@ -28,7 +28,8 @@ class Binder {
     Binder(const Binder&) = delete;
     Binder& operator=(const Binder&) = delete;
 
-    void Bind(const char* name, CheckBox& model, wxCheckBox* view, Handler click);
+    /// `shown` makes the label out of the caption; without it that is the label.
+    void Bind(const char* name, CheckBox& model, wxCheckBox* view, Handler click, Text (*shown)(TextView) = nullptr);
     void Bind(const char* name, CommandButton& model, wxAnyButton* view, Handler click);
     void Bind(const char* name, ListBox& model, wxChoice* view, Handler click);
     void Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, Handler click);

@@ -45,7 +45,8 @@ wxWindow* WxUser::Owner() const {
     if (onTop_ != nullptr) {
         return onTop_;
     }
-    return activeForm_ != nullptr && activeForm_->IsShownOnScreen() ? activeForm_ : nullptr;
+    wxWindow* const form = foremost_ != nullptr ? foremost_ : activeForm_;
+    return form != nullptr && form->IsShownOnScreen() ? form : nullptr;
 }
 
 void WxUser::ShowModal(ModalWindow& window) {
@@ -84,9 +85,18 @@ Result<std::optional<Text>> WxUser::ChooseFile(const FileRequest& request) {
     return std::optional<Text>(path);
 }
 
+void WxUser::OnRefresh(const void* owner, std::function<void()> show) {
+    std::erase_if(refresh_, [owner](const auto& entry) { return entry.first == owner; });
+    if (show) {
+        refresh_.emplace_back(owner, std::move(show));
+    }
+}
+
 void WxUser::Refresh() {
-    if (refresh_) {
-        refresh_();
+    // By index: a window may come up, or go, while another shows itself.
+    for (std::size_t i = 0; i < refresh_.size(); ++i) {
+        const auto show = refresh_[i].second;
+        show();
     }
     if (auto* dialog = dynamic_cast<ModalForm*>(onTop_)) {
         dialog->ShowState();

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class wxHtmlHelpController;
@@ -25,8 +26,10 @@ class WxUser : public UserInterface {
 
     /// The window that question boxes stand over, once there is one.
     void SetActiveForm(wxWindow* form) { activeForm_ = form; }
-    /// Called by Refresh.
-    void OnRefresh(std::function<void()> show) { refresh_ = std::move(show); }
+    /// The live window that the user works in, if that is another one: what is asked then stands over it.
+    void SetForemost(wxWindow* form) { foremost_ = form; }
+    /// Called by Refresh, for each owner its own; an empty one takes the owner's back.
+    void OnRefresh(const void* owner, std::function<void()> show);
     /// Called by PopUpMenu.
     void OnPopUp(std::function<void(TextView)> popUp) { popUp_ = std::move(popUp); }
 
@@ -61,7 +64,8 @@ class WxUser : public UserInterface {
 
     Files& files_;
     wxWindow* activeForm_ = nullptr;
-    std::function<void()> refresh_;
+    wxWindow* foremost_ = nullptr;
+    std::vector<std::pair<const void*, std::function<void()>>> refresh_;
     std::vector<FormMaker> makers_;
     wxDialog* onTop_ = nullptr;  // the dialog that is up: what it opens stands over it
     std::function<void(TextView)> popUp_;

@@ -34,13 +34,13 @@ LvForm::LvForm(Launcher& launcher, WxUser& user)
     GiveWhatsThis(this);
     BindEvents();
     user_.SetActiveForm(this);
-    user_.OnRefresh([this] { ShowState(); });
+    user_.OnRefresh(this, [this] { ShowState(); });
     user_.OnPopUp([this](TextView menu) { PopUp(menu); });
 }
 
 LvForm::~LvForm() {
     user_.SetActiveForm(nullptr);
-    user_.OnRefresh({});
+    user_.OnRefresh(this, {});
     user_.OnPopUp({});
     launcher_.Measure = nullptr;
     if (tray_) {
@@ -82,6 +82,7 @@ void LvForm::BindEvents() {
     Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
         event.Skip();
         if (event.GetActive()) {
+            user_.SetForemost(nullptr);
             KeepPlace();
         }
     });

@@ -13,6 +13,7 @@
 #include "foundation/forms/wx_text.h"
 #include "launcher/launch_flow.h"
 #include "launcher/lv_events.h"
+#include "launcher/video_profile_menu.h"
 #include "launcher/window_life.h"
 #include "launcher/window_menu.h"
 #include "platform/spoken_name.h"

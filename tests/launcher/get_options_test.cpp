@@ -279,14 +279,9 @@ TEST_F(GetOptionsTest, TheStoredExecutableRunsTheChangeOfGame) {
 
 TEST_F(GetOptionsTest, AnOpenVideoProfileWindowIsUnloaded) {
     AddGames();
-    int unloads = 0;
-    launcher.VideoProfiles.Open = true;
-    launcher.VideoProfiles.Unload = [&] {
-        ++unloads;
-        launcher.VideoProfiles.Open = false;
-    };
+    VideoProfile_Frm_Load(launcher.VideoProfile);
     EXPECT_TRUE(GetOptions(launcher));
-    EXPECT_EQ(unloads, 1);
+    EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
 }
 
 TEST_F(GetOptionsTest, MemoryAndDemosAreFilled) {

@@ -195,17 +195,6 @@ TEST_F(LvEvents, PickingInTheListsSavesTheirPositions) {
     EXPECT_EQ(Stored(kOptions, "ServerPos"), "5");
 }
 
-TEST_F(LvEvents, PickingAVideoProfileMakesItsSectionCurrent) {
-    Load();
-    window.VideoProfiles_Cbo.ListIndex = 2;
-    VideoProfiles_Cbo_Click(launcher);
-    EXPECT_EQ(run.VideoProfileSection, "Optimize for Beauty");
-    EXPECT_EQ(Stored(kOptions, "VideoProfilePos"), "2");
-    window.VideoProfiles_Cbo.ListIndex = 0;
-    VideoProfiles_Cbo_Click(launcher);
-    EXPECT_EQ(run.VideoProfileSection, "Options");
-}
-
 TEST_F(LvEvents, TheCommandLineAdditionsAreSavedAtEachChange) {
     window.CommandLineAdditions_Txt.Text = "+developer 1";
     CommandLineAdditions_Txt_Change(launcher);

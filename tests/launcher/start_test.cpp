@@ -197,18 +197,15 @@ TEST_F(StartTest, AlwaysOnTopIsReadFromTheStore) {
 }
 
 TEST_F(StartTest, TheVideoProfileWindowOpensIfItWasOpenAtExit) {
-    int loads = 0;
-    launcher.VideoProfiles.Load = [&] { ++loads; };
     Save(run, "VideoProfile_Frm", "LoadAtStartup", "1");
+    user.Expect({"Video Profiles", "'Base'", 0});
     EXPECT_TRUE(Start(launcher));
-    EXPECT_EQ(loads, 1);
+    EXPECT_TRUE(launcher.VideoProfile.VideoProfileWindowOpen);
 }
 
 TEST_F(StartTest, TheVideoProfileWindowStaysClosedOtherwise) {
-    int loads = 0;
-    launcher.VideoProfiles.Load = [&] { ++loads; };
     EXPECT_TRUE(Start(launcher));
-    EXPECT_EQ(loads, 0);
+    EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
 }
 
 }  // namespace lv

@@ -14,18 +14,9 @@ class WindowLife : public LauncherTest {
         window.Visible = true;
         window.EverShown = true;
         window.TrayIcon = true;
-        launcher.VideoProfiles.Load = [this] {
-            calls.emplace_back("load");
-            launcher.VideoProfiles.Open = true;
-        };
-        launcher.VideoProfiles.Unload = [this] {
-            calls.emplace_back("unload");
-            launcher.VideoProfiles.Open = false;
-        };
     }
+    bool ProfilesOpen() { return launcher.VideoProfile.VideoProfileWindowOpen; }
     Text Caption() { return window.Bar(MenuItem::ShowLorvane_Bar).Caption; }
-
-    std::vector<Text> calls;  // of the video profile window
 };
 
 }  // namespace
@@ -65,19 +56,19 @@ TEST_F(WindowLife, BeforeItWasEverShownTheWindowIsHidden) {
 }
 
 TEST_F(WindowLife, AnOpenVideoProfileWindowHidesAndComesBack) {
-    launcher.VideoProfiles.Open = true;
+    VideoProfile_Frm_Load(launcher.VideoProfile);
     ShowLorvane_Bar_Click(launcher);
-    EXPECT_EQ(calls, (std::vector<Text>{"unload"}));
-    EXPECT_TRUE(launcher.VideoProfiles.Reopen);
+    EXPECT_FALSE(ProfilesOpen());
+    EXPECT_TRUE(launcher.VideoProfileReopen);
     ShowLorvane_Bar_Click(launcher);
-    EXPECT_EQ(calls, (std::vector<Text>{"unload", "load"}));
-    EXPECT_FALSE(launcher.VideoProfiles.Reopen);
+    EXPECT_TRUE(ProfilesOpen());
+    EXPECT_FALSE(launcher.VideoProfileReopen);
 }
 
 TEST_F(WindowLife, AClosedVideoProfileWindowStaysClosed) {
     ShowLorvane_Bar_Click(launcher);
     ShowLorvane_Bar_Click(launcher);
-    EXPECT_TRUE(calls.empty());
+    EXPECT_FALSE(ProfilesOpen());
 }
 
 TEST_F(WindowLife, ItsCloseBoxHidesTheWindow) {
@@ -176,14 +167,14 @@ TEST_F(WindowLife, ExitTakesTheTrayIconAwayAndEndsTheProgram) {
 TEST_F(WindowLife, ExitNotesAClosedVideoProfileWindow) {
     Exit_Bar_Click(launcher);
     EXPECT_EQ(Stored("VideoProfile_Frm", "LoadAtStartup"), "0");
-    EXPECT_TRUE(calls.empty());
+    EXPECT_FALSE(ProfilesOpen());
 }
 
 TEST_F(WindowLife, ExitNotesAnOpenVideoProfileWindowAndUnloadsIt) {
-    launcher.VideoProfiles.Open = true;
+    VideoProfile_Frm_Load(launcher.VideoProfile);
     Exit_Bar_Click(launcher);
     EXPECT_EQ(Stored("VideoProfile_Frm", "LoadAtStartup"), "1");
-    EXPECT_EQ(calls, (std::vector<Text>{"unload"}));
+    EXPECT_FALSE(ProfilesOpen());
 }
 
 TEST_F(WindowLife, ALaunchWithExitOnLaunchExitsAsTheMenuWould) {
@@ -202,17 +193,11 @@ TEST_F(WindowLife, ALaunchHidesTheVideoProfileWindowToo) {
     AddGames();
     Load();
     window.Visible = true;
-    launcher.VideoProfiles.Open = true;
+    VideoProfile_Frm_Load(launcher.VideoProfile);
     DoIt_Cmd_Click(launcher, 0);
-    EXPECT_EQ(calls, (std::vector<Text>{"unload"}));
-    EXPECT_TRUE(launcher.VideoProfiles.Reopen);
+    EXPECT_FALSE(ProfilesOpen());
+    EXPECT_TRUE(launcher.VideoProfileReopen);
     EXPECT_EQ(PresenceOf(window), Presence::Hidden);
-}
-
-TEST_F(WindowLife, VideoProfileEditOpensTheWindowOnce) {
-    VideoProfileEdit_Cmd_Click(launcher);
-    VideoProfileEdit_Cmd_Click(launcher);
-    EXPECT_EQ(calls, (std::vector<Text>{"load"}));
 }
 
 }  // namespace lv

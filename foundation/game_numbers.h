@@ -1,6 +1,6 @@
-// launcher/game_numbers.h
+// foundation/game_numbers.h
 //
-// The games and script dialects by the numbers under which a launch knows them.
+// The games and script dialects by the numbers under which all of the program knows them.
 
 #pragma once
 

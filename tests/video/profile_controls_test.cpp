@@ -1,0 +1,145 @@
+#include "video/profile_controls.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "video/profile_keys.h"
+
+namespace lv {
+namespace {
+
+using enum ProfilePanel;
+
+struct BoxCase {
+    const char* Name;
+    ProfilePanel Panel;
+    const char* Shown;  // the caption without the dashes
+    const char* Ends;   // what it ends in
+};
+
+// clang-format off
+const BoxCase kBoxCases[] = {
+    {"FX_GLIDE_NO_SPLASH",            Resolution,        "Skip 3DFX Splash",             "Splash"},
+    {"SST_VIDEO_FILTER_DISABLE",      VoodooScreenColor, "24 to 16-bit Color Smoothing", "->"},
+    {"SST_VIDEO_FILTER_THRESHOLD",    VoodooScreenColor, "Color Smoothing Threshold",    "->"},
+    {"SST_VIDEO_24BPP",               VoodooScreenColor, "24-bit Video Output",          "->"},
+    {"SST_SCREENREFRESH",             VoodooScreenColor, "Screen Refresh Rate",          "--"},
+    {"SST_RGAMMA",                    VoodooScreenColor, "Red Gamma (Brightness)",       "->"},
+    {"SST_BGAMMA",                    VoodooScreenColor, "Blue Gamma (Brightness)",      "->"},
+    {"SST_GGAMMA",                    VoodooScreenColor, "Green Gamma (Brightness)",     "->"},
+    {"gl_polyblend",                  Effects,           "Polyblend",                    "->"},
+    {"WaterAlpha",                    Effects,           "Water Transparency",           "->"},
+    {"Mirrors",                       Effects,           "Mirrors",                      "->"},
+    {"GL_FLASHBLEND",                 Effects,           "Lighting",                     "->"},
+    {"GL_PICMIP",                     Effects,           "Texture Mip (Blur)",           "->"},
+    {"GL_PLAYERMIP",                  Effects,           "Player Mip (Blur)",            "->"},
+    {"GL_TEXTUREMODE",                Effects,           "Mode",                         "->"},
+    {"GL_ROUND_DOWN",                 Effects,           "Round Texture Sizes Down",     "->"},
+    {"gl_keeptjunctions",             Effects,           "Keep T Junctions",             "->"},
+    {"gl_ztrick",                     Effects,           "Z Trick",                      "->"},
+    {"GL_FINISH",                     Effects,           "Issue gl_finish",              "->"},
+    {"Shadows",                       Effects,           "Shadows",                      "->"},
+    {"D_MIPCAP",                      Effects,           "Mip Cap",                      "->"},
+    {"SST_GRXCLK",                    Voodoo1,           "Clock Rate (MHz)",             "--"},
+    {"SST_FASTMEM",                   Voodoo1,           "Enable Fast Memory Access",    "->"},
+    {"SST_FASTPCIRD",                 Voodoo1,           "Enable Fast PCI Bus Usage",    "->"},
+    {"SST_VIDEO_NOCLEAR",             Voodoo1,           "Don't Clear Video Memory",     "->"},
+    {"SST_SWAP_EN_WAIT_ON_VSYNC",     Voodoo1,           "Wait for Vertical Sync",       "->"},
+    {"FX_GLIDE_SWAPINTERVAL",         Voodoo1,           "Glide Swap Interval",          "--"},
+    {"SSTV2_GRXCLK",                  Voodoo2,           "Clock Rate (MHz)",             "--"},
+    {"FX_GLIDE_SWAPINTERVAL_VOODOO2", Voodoo2, "Don't sync buffer swaps to monitor refresh rate for Glide apps.", "."},
+    {"SSTV2_SWAPINTERVAL",            Voodoo2, "Don't sync buffer swaps to monitor refresh rate for Direct3D apps.", "."},
+    {"FX_LOD_DITHER",                 Voodoo2, "Force advanced texture filtering for Glide apps.", "."},
+    {"SSTV2_FORCE_TRILINEAR",         Voodoo2, "Force trilinear texture filtering for Direct3D apps.", "."},
+    {"SSTV2_SLIDETECT",               Voodoo2, "Disable SLI Autodection", "Autodection"},
+    {"SSTV2_TMU_MEMSIZE",             Voodoo2, "Limit texture memory for Glide apps.", "."},
+    {"UnrealCurvedSurfaces",          UnrealVideo,       "Curved Surfaces",              "->"},
+    {"UnrealUseDirectDraw",           UnrealVideo,       "Use Direct Draw",              "->"},
+    {"UnrealLowDetailTextures",       UnrealVideo,       "Low Detail Textures",          "->"},
+    {"UnrealNoLighting",              UnrealVideo,       "No Lighting",                  "->"},
+    {"UnrealScreenFlashes",           UnrealVideo,       "Screen Flashes",               "->"},
+    {"UnrealDeadZoneXYZ",             UnrealVideo,       "Dead Zone XYZ",                "->"},
+    {"UnrealSlowVideoBuffering",      UnrealVideo,       "Slow Video Buffering",         "->"},
+    {"UnrealScaleXYZ",                UnrealVideo,       "Scale XYZ",                    "->"},
+    {"UnrealDeadZoneRUV",             UnrealVideo,       "Dead Zone RUV",                "->"},
+    {"UnrealBrightness",              UnrealVideo,       "Brightness",                   "->"},
+    {"UnrealMipFactor",               UnrealVideo,       "Mip Factor",                   "->"},
+    {"UnrealScaleRUV",                UnrealVideo,       "Scale RUV",                    "->"},
+};
+// clang-format on
+
+TEST(ProfileControls, EachBoxStandsOnItsPanelWithItsCaption) {
+    const auto rows = ProfileBoxRows();
+    ASSERT_EQ(rows.size(), std::size(kBoxCases));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        EXPECT_STREQ(rows[i].Name, kBoxCases[i].Name);
+        EXPECT_EQ(rows[i].Panel, kBoxCases[i].Panel) << rows[i].Name;
+        EXPECT_EQ(WithoutLeader(rows[i].Caption), kBoxCases[i].Shown);
+        EXPECT_TRUE(TextView(rows[i].Caption).ends_with(kBoxCases[i].Ends)) << rows[i].Caption;
+    }
+}
+
+TEST(ProfileControls, EveryTunableWithAListAndEveryFlagHasExactlyOneBox) {
+    std::multiset<TextView> keys;
+    for (const ProfileBoxRow& row : ProfileBoxRows()) {
+        keys.insert(row.Key);
+    }
+    for (const ProfileTunable& tunable : ProfileTunables()) {
+        EXPECT_EQ(keys.count(tunable.Stem), tunable.Items.empty() ? 0u : 1u) << tunable.Stem;
+    }
+    for (const ProfileFlag& flag : ProfileFlags()) {
+        EXPECT_EQ(keys.count(flag.Key), 1u) << flag.Key;
+    }
+    EXPECT_EQ(keys.size(), 46u);
+}
+
+TEST(ProfileControls, SomeCaptionsStandToTheLetter) {
+    const auto caption = [](TextView name) {
+        for (const ProfileBoxRow& row : ProfileBoxRows()) {
+            if (row.Name == name) {
+                return Text(row.Caption);
+            }
+        }
+        return Text();
+    };
+    EXPECT_EQ(caption("gl_polyblend"), "Polyblend ------------------------------>");
+    EXPECT_EQ(caption("WaterAlpha"), "Water Transparency------------->");
+    EXPECT_EQ(caption("gl_ztrick"), "Z Trick----------------------------------->");
+    EXPECT_EQ(caption("UnrealScreenFlashes"), "Screen Flashes  --------------->");
+    EXPECT_EQ(caption("UnrealDeadZoneRUV"), "Dead Zone RUV--------------->");
+    EXPECT_EQ(caption("GL_ROUND_DOWN"), "Round Texture Sizes Down -->");
+}
+
+TEST(ProfileControls, PanelsHaveTheirCaptions) {
+    const struct {
+        ProfilePanel Panel;
+        const char* Name;
+        const char* Caption;
+    } kCases[] = {
+        {Resolution, "Resolution_Pan", "  Resolution"},
+        {VoodooScreenColor, "VoodooScreenColor_Pan", "  Voodoo 1 or 2  Screen / Color"},
+        {Effects, "Effects_Pan", "' Effects; Q1, Q2, Hexen2, SIN, Heretic2"},
+        {NoEffects, "NoEffects_Pan", "  Non GL Effects"},
+        {UnrealVideo, "UnrealVideo_Pan", "  Video Effects for Unreal"},
+        {Voodoo2, "Voodoo2_Pan", "  Voodoo2 Settings"},
+        {Voodoo1, "Voodoo1_Pan", "  Voodoo1 Settings"},
+        {No3DHardware, "No3DHardware_Pan", "No 3D Harware"},
+    };
+    const auto rows = ProfilePanelRows();
+    ASSERT_EQ(rows.size(), std::size(kCases));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        EXPECT_EQ(rows[i].Panel, kCases[i].Panel);
+        EXPECT_STREQ(rows[i].Name, kCases[i].Name);
+        EXPECT_STREQ(rows[i].Caption, kCases[i].Caption);
+    }
+}
+
+TEST(WithoutLeader, KeepsACaptionThatHasNone) {
+    EXPECT_EQ(WithoutLeader("Skip 3DFX Splash"), "Skip 3DFX Splash");
+    EXPECT_EQ(WithoutLeader("24-bit"), "24-bit");
+    EXPECT_EQ(WithoutLeader(""), "");
+}
+
+}  // namespace
+}  // namespace lv

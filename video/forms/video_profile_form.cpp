@@ -1,0 +1,303 @@
+#include "video/forms/video_profile_form.h"
+
+#include <wx/display.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+
+#include <algorithm>
+
+#include "foundation/field_strings.h"
+#include "foundation/forms/pictures.h"
+#include "foundation/forms/whats_this.h"
+#include "foundation/forms/wx_text.h"
+#include "platform/spoken_name.h"
+#include "video/forms/leader_line.h"
+
+namespace lv {
+
+namespace {
+
+constexpr int kGap = 6;
+constexpr int kRowGap = 3;
+constexpr int kWideList = 160;  // at 100 %
+constexpr int kFrameRoom = 40;  // of the screen's height, left for the frame
+
+}  // namespace
+
+VideoProfileForm::VideoProfileForm(VideoProfile_Frm& model, WxUser& user)
+    : wxFrame(nullptr, wxID_ANY, ToWx(model.Caption), wxDefaultPosition, wxDefaultSize,
+              wxDEFAULT_FRAME_STYLE & ~wxMAXIMIZE_BOX),
+      model_(model),
+      user_(user),
+      binder_([&user] { user.Refresh(); }) {
+    SetName("VideoProfile_Frm");
+    SetIcons(ProgramIcon());
+    content_ = new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                                    wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
+    content_->SetScrollRate(FromDIP(10), FromDIP(10));
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(MakeCardRow(), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap));
+    rows->Add(MakeColumns(), wxSizerFlags(1).Expand().Border(wxALL, kGap / 2));
+    content_->SetSizer(rows);
+    GiveWhatsThis(this);
+    BindEvents();
+}
+
+void VideoProfileForm::BindEvents() {
+    Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { binder_.Run([this] { VideoProfile_Frm_Unload(model_); }); });
+    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_ESCAPE) {
+            Close();
+        } else {
+            event.Skip();
+        }
+    });
+    Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
+        event.Skip();
+        if (event.GetActive()) {
+            user_.SetForemost(this);
+        }
+    });
+    const auto keep = [this](wxEvent& event) {
+        event.Skip();
+        KeepPlacement();
+    };
+    Bind(wxEVT_MOVE, keep);
+    Bind(wxEVT_SIZE, keep);
+    Bind(wxEVT_ICONIZE, keep);
+}
+
+void VideoProfileForm::KeepPlacement() {
+    if (!placed_ || !IsShown()) {
+        return;
+    }
+    WindowPlacement& placement = model_.Placement;
+    placement.WindowState = IsIconized() ? kWindowMinimised : IsMaximized() ? kWindowMaximised : kWindowNormal;
+    if (placement.WindowState == kWindowNormal) {
+        placement.Left = ToTwips(GetPosition().x);
+        placement.Top = ToTwips(GetPosition().y);
+        placement.Width = ToTwips(GetSize().x);
+        placement.Height = ToTwips(GetSize().y);
+    }
+}
+
+wxSizer* VideoProfileForm::MakeCardRow() {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    auto* label = new wxStaticText(content_, wxID_ANY, ToWx(model_.VidCard_Lbl.Caption));
+    binder_.Bind("VidCard_Lbl", model_.VidCard_Lbl, label);
+    panel_ = nullptr;
+    wxChoice* cards = MakeList("VidCard_Cbo", model_.VidCard_Cbo, label->GetLabel(),
+                               [this] { VidCard_Cbo_Click(model_); });
+    auto* hint = new wxStaticText(content_, wxID_ANY, ToWx(model_.Hint_Lbl.Caption), wxDefaultPosition, wxDefaultSize,
+                                  wxST_ELLIPSIZE_END);
+    hint->SetMinSize(FromDIP(wxSize(80, -1)));
+    binder_.Bind("Hint_Lbl", model_.Hint_Lbl, hint);
+    row->Add(label, wxSizerFlags().CenterVertical().Border(wxRIGHT, kGap));
+    row->Add(cards, wxSizerFlags().CenterVertical().Border(wxRIGHT, kGap * 2));
+    row->Add(hint, wxSizerFlags(1).CenterVertical());
+    return row;
+}
+
+wxSizer* VideoProfileForm::MakeColumns() {
+    const std::vector<ProfilePanel> columns[] = {
+        {ProfilePanel::Resolution, ProfilePanel::No3DHardware, ProfilePanel::UnrealVideo},
+        {ProfilePanel::VoodooScreenColor, ProfilePanel::Voodoo1, ProfilePanel::Voodoo2},
+        {ProfilePanel::Effects, ProfilePanel::NoEffects},
+    };
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    for (const auto& column : columns) {
+        auto* panels = new wxBoxSizer(wxVERTICAL);
+        for (const ProfilePanel panel : column) {
+            StartPanel(panel);
+            if (panel == ProfilePanel::Resolution) {
+                MakeResolutionRows();
+            }
+            MakeBoxes(panel);
+            EndPanel(panels);
+        }
+        row->Add(panels, wxSizerFlags().Expand());
+    }
+    return row;
+}
+
+wxWindow* VideoProfileForm::StartPanel(ProfilePanel panel) {
+    Panel& model = model_.PanelOf(panel);
+    panel_ = new wxPanel(content_);
+    rows_ = new wxStaticBoxSizer(wxVERTICAL, panel_, ToWx(Trim(model.Caption)));
+    lists_.clear();
+    binder_.Bind(ProfilePanelRows()[static_cast<std::size_t>(panel)].Name, model, panel_);
+    return panel_;
+}
+
+// A panel's lists are all as wide as the widest, so that they stand below each other; but for one of long names.
+void VideoProfileForm::EndPanel(wxSizer* column) {
+    int width = 0;
+    for (const wxChoice* list : lists_) {
+        const int own = list->GetBestSize().x;
+        width = own < FromDIP(kWideList) ? std::max(width, own) : width;
+    }
+    for (wxChoice* list : lists_) {
+        list->SetMinSize(wxSize(std::max(width, list->GetBestSize().x), -1));
+    }
+    panel_->SetSizer(rows_);
+    column->Add(panel_, wxSizerFlags().Expand().Border(wxALL, kGap / 2));
+}
+
+wxCheckBox* VideoProfileForm::MakeCheck(const std::string& name, CheckBox& model, const wxString& label,
+                                        Binder::Handler click) {
+    auto* check = new wxCheckBox(rows_->GetStaticBox(), wxID_ANY, label, wxDefaultPosition, wxDefaultSize, wxCHK_3STATE);
+    binder_.Bind(name.c_str(), model, check, std::move(click), WithoutLeader);
+    return check;
+}
+
+wxChoice* VideoProfileForm::MakeList(const std::string& name, ListBox& model, const wxString& spoken,
+                                     Binder::Handler click) {
+    wxWindow* const parent = panel_ != nullptr ? rows_->GetStaticBox() : static_cast<wxWindow*>(content_);
+    auto* list = new wxChoice(parent, wxID_ANY);
+    SetSpokenName(list->GetHandle(), spoken.utf8_string());
+    binder_.Bind(name.c_str(), model, list, std::move(click));
+    binder_.Show();  // with its rows it knows how wide it has to be
+    lists_.push_back(list);
+    return list;
+}
+
+void VideoProfileForm::AddRow(const CheckBox& model, wxCheckBox* check, const std::vector<wxChoice*>& lists) {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(check, wxSizerFlags().CenterVertical());
+    if (lists.empty()) {
+        row->AddStretchSpacer();
+    } else {
+        auto* line = new LeaderLine(rows_->GetStaticBox());
+        followers_.push_back({&model, {line}});
+        row->Add(line, wxSizerFlags(1).Expand());
+    }
+    for (wxChoice* list : lists) {
+        row->Add(list, wxSizerFlags().CenterVertical());
+    }
+    rows_->Add(row, wxSizerFlags().Expand().Border(wxALL, kRowGap));
+}
+
+void VideoProfileForm::MakeResolutionRows() {
+    AddRow(model_.Windowed_Chk,
+           MakeCheck("Windowed_Chk", model_.Windowed_Chk, ToWx(model_.Windowed_Chk.Caption),
+                     [this] { Windowed_Chk_Click(model_); }),
+           {});
+    wxCheckBox* useRez = MakeCheck("GL_Chk(0)", model_.GL_Chk[0], "Resolution", [this] { GL_Chk_Click(model_, 0); });
+    AddRow(model_.GL_Chk[0], useRez,
+           {MakeList("Rez_Cbo", model_.Rez_Cbo, "Resolution", [this] { Rez_Cbo_Click(model_); }),
+            MakeList("Q2_Rez_Cbo", model_.Q2_Rez_Cbo, "Resolution", [this] { Q2_Rez_Cbo_Click(model_); })});
+    wxCheckBox* useBits = MakeCheck("GL_Chk(1)", model_.GL_Chk[1], "Color depth", [this] { GL_Chk_Click(model_, 1); });
+    AddRow(model_.GL_Chk[1], useBits,
+           {MakeList("Bits_Cbo", model_.Bits_Cbo, "Color depth", [this] { Bits_Cbo_Click(model_); })});
+    wxCheckBox* useDriver = MakeCheck("GraphicsDriver_Chk", model_.GraphicsDriver_Chk, "Graphics driver",
+                                      [this] { GraphicsDriver_Chk_Click(model_); });
+    AddRow(model_.GraphicsDriver_Chk, useDriver,
+           {MakeList("GraphicsDriver_Cbo", model_.GraphicsDriver_Cbo, "Graphics driver",
+                     [this] { GraphicsDriver_Cbo_Click(model_); })});
+}
+
+void VideoProfileForm::MakeBoxes(ProfilePanel panel) {
+    for (ProfileBox& box : model_.Boxes) {
+        if (box.Row->Panel == panel) {
+            MakeBox(box);
+        }
+    }
+}
+
+void VideoProfileForm::MakeBox(ProfileBox& box) {
+    const std::string name = box.Row->Name;
+    const wxString label = ToWx(WithoutLeader(box.Row->Caption));
+    wxCheckBox* check =
+        MakeCheck(name + "_Chk", box.Chk, label, [this, &box] { Profile_Chk_Click(model_, box); });
+    if (box.Tunable == nullptr) {
+        AddRow(box.Chk, check, {});
+        return;
+    }
+    AddRow(box.Chk, check,
+           {MakeList(name + "_Cbo", box.Cbo, label, [this, &box] { Profile_Cbo_Click(model_, box); })});
+}
+
+void VideoProfileForm::ShowState() {
+    if (GetTitle() != ToWx(model_.Caption)) {
+        SetTitle(ToWx(model_.Caption));
+    }
+    bool changed = binder_.Show();
+    for (const Row& row : followers_) {
+        for (wxWindow* window : row.Follows) {
+            changed = window->Show(row.Model->Visible) || changed;
+        }
+    }
+    if (changed || !placed_) {
+        FitToContent();
+    }
+}
+
+void VideoProfileForm::FitToContent() {
+    for (wxWindow* panel : content_->GetChildren()) {
+        if (panel->GetSizer() != nullptr) {
+            panel->GetSizer()->Layout();
+        }
+    }
+    const wxSize wanted = content_->GetSizer()->CalcMin();
+    wxSize room = wxDisplay(this).GetClientArea().GetSize();
+    room.y -= FromDIP(kFrameRoom);
+    content_->SetVirtualSize(wanted);
+    SetClientSize(std::min(wanted.x, room.x), std::min(wanted.y, room.y));
+    content_->Layout();
+}
+
+void VideoProfileForm::Open() {
+    if (!placed_) {
+        Move(ToPixels(model_.Placement.Left), ToPixels(model_.Placement.Top));
+        placed_ = true;
+    }
+    if (!IsShown()) {
+        Show();
+    }
+    if (model_.Raise) {
+        model_.Raise = false;
+        Iconize(false);
+        Raise();
+        user_.SetForemost(this);
+    }
+}
+
+VideoProfileWindow::VideoProfileWindow(VideoProfile_Frm& model, WxUser& user) : model_(model), user_(user) {
+    model_.Measure = [this] {
+        TheForm().ShowState();
+        const wxSize size = TheForm().GetSize();
+        return TwipsSize{ToTwips(size.x), ToTwips(size.y)};
+    };
+    user_.OnRefresh(this, [this] { ShowState(); });
+}
+
+VideoProfileWindow::~VideoProfileWindow() {
+    model_.Measure = nullptr;
+    user_.OnRefresh(this, {});
+    if (form_) {
+        form_->Destroy();
+    }
+}
+
+VideoProfileForm& VideoProfileWindow::TheForm() {
+    if (!form_) {
+        form_ = new VideoProfileForm(model_, user_);
+    }
+    return *form_;
+}
+
+void VideoProfileWindow::ShowState() {
+    if (model_.VideoProfileWindowOpen) {
+        TheForm().ShowState();
+        TheForm().Open();
+        return;
+    }
+    if (form_) {
+        user_.SetForemost(nullptr);
+        form_->Hide();
+        form_->Destroy();
+        form_ = nullptr;
+    }
+}
+
+}  // namespace lv
