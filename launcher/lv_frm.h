@@ -82,6 +82,7 @@ struct LV_Frm {
     CheckBox UnrealDisableK6Support_Chk;
     CheckBox UnrealDisableMMXSupport_Chk;
     CheckBox UnrealNoDirectSound_Chk;
+    CheckBox UnrealNoCDNeeded_Chk;
 
     CommandButton SetupFoundry_Cmd;
     CommandButton VideoProfileEdit_Cmd;
