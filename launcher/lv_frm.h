@@ -36,6 +36,8 @@ struct LV_Frm {
     bool SizeChanging = false;  // the program changes the size: not the user's doing
     bool Size_Tmr_Enabled = false;
 
+    Text ChangedIniLines;  // what the last launch set in Unreal's ini
+
     Label Hint_Lbl;  // what to do next
 
     Panel Exe_Pan;
