@@ -5,8 +5,10 @@
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "launcher/environment_lines.h"
+#include "launcher/game_numbers.h"
 #include "launcher/launch_composition.h"
 #include "launcher/launch_files.h"
+#include "launcher/unreal_options.h"
 #include "launcher/window_life.h"
 #include "video/profile_model.h"
 
@@ -78,8 +80,10 @@ bool ExecutableIsThere(Click& click) {
     return false;
 }
 
-LaunchHooks HooksOf(Run& run) {
+LaunchHooks HooksOf(Launcher& launcher) {
+    Run& run = launcher.run;
     LaunchHooks hooks;
+    hooks.RewriteUnrealIni = [&launcher] { return SetUnrealVideoOptionsForLaunch(launcher); };
     hooks.GameSpyFetch = [&run]() -> std::optional<Text> {
         Tell(run, Join("Lorvane 3D can't take the server from GameSpy 3D's window yet.", NewLine, NewLine,
                        "To play on a server now, pick it in the list of servers and launch."));
@@ -90,7 +94,7 @@ LaunchHooks HooksOf(Run& run) {
 
 /// False if the composition stopped the launch; the user knows why.
 bool Compose(Click& click) {
-    click.Texts = ComposeLaunch(click.Selection, click.Game, click.Profile, HooksOf(click.run));
+    click.Texts = ComposeLaunch(click.Selection, click.Game, click.Profile, HooksOf(click.launcher));
     switch (click.Texts.Stop.Kind) {
         case StopKind::None:
             return true;
@@ -113,7 +117,7 @@ bool WriteScript(Click& click) {
     click.Texts.LaunchStep = 205;
     AddCommandLineAdditions(click.Selection, click.Texts);
     click.Script = ScriptText(click.Texts, click.Game);
-    if (click.Script.empty() || click.Game.GameKind == 4 || !hasDirectory) {
+    if (click.Script.empty() || click.Game.GameKind == game_kind::kUnreal || !hasDirectory) {
         if (hasDirectory) {
             (void)disk.Delete(ScriptFilePath(click.Game));
         }
@@ -148,7 +152,8 @@ bool WriteBatch(Click& click) {
 /// What the view box shows, and the clipboard gets.
 Text ViewText(const Click& click) {
     return Join("AppDir = ", click.run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
-                NewLine, "Script File = ", NewLine, click.Game.GameKind == 4 ? Text() : click.Script);
+                NewLine, "Script File = ", NewLine,
+                click.Game.GameKind == game_kind::kUnreal ? click.launcher.Window.ChangedIniLines : click.Script);
 }
 
 /// Shows the files where that was asked for. True if the game is to be started.
