@@ -5,7 +5,7 @@
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "launcher/environment_lines.h"
-#include "launcher/game_numbers.h"
+#include "foundation/game_numbers.h"
 #include "launcher/launch_composition.h"
 #include "launcher/launch_files.h"
 #include "launcher/unreal_options.h"

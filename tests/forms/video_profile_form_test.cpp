@@ -188,6 +188,7 @@ TEST_F(VideoProfileForm_, AHiddenMainWindowTakesItAlongAndBringsItBack) {
     Open();
     HideMainWindow(launcher);
     EXPECT_TRUE(SettleUntil([] { return Shown() == nullptr || !Shown()->IsShown(); }));
+    ASSERT_TRUE(SettleUntil([this] { return form->IsIconized() || !form->IsShown(); }));
     ShowMainWindow(launcher);
     EXPECT_TRUE(SettleUntil([] { return Shown() != nullptr && Shown()->IsShown(); }));
 }

@@ -30,7 +30,7 @@ const LaunchCase kCases[] = {
     {"Shadows",                    1,  1, kGlQuake, kScript, "r_shadows 1\r\n"},
     {"Mirrors",                    5,  1, kGlQuake, kScript, "r_mirroralpha .5\r\n"},
     {"WaterAlpha",                 6,  3, kGlQuake, kScript, "r_wateralpha .6\r\n"},
-    {"GL_ROUND_DOWN",              0,  1, kGlQuake, kBatch,  "+GL_ROUND_DOWN 0 "},
+    {"GL_ROUND_DOWN",              0,  1, kGlQuake, kBatch,  "+GL_ROUND_DOWN 0"},
     {"GL_PICMIP",                  2,  1, kGlQuake, kScript, "gl_picmip 2\r\n"},
     {"D_MIPCAP",                   3,  1, kQuake,   kScript, "d_mipcap 3\r\n"},
     {"GL_PLAYERMIP",               3,  1, kGlQuake, kScript, "gl_playermip 3\r\n"},
