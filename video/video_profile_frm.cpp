@@ -107,6 +107,7 @@ void ShowSnapshot(VideoProfile_Frm& form, const ProfileSnapshot& profile) {
 
 VideoProfile_Frm::VideoProfile_Frm(Run& owner) : run(owner) {
     Hint_Lbl.Caption = "Every change is saved at once and holds from the next launch on.";
+    No3DHardware_Lbl.Caption = "Pick the card above to see what can be set for it.";
     VidCard_Lbl.Caption = "3D Card";
     VidCard_Cbo.Items = Texts(VideoCards());
     VidCard_Cbo.ToolTip = "The 3D card in this computer; it holds for all video profiles";

@@ -38,6 +38,7 @@ struct VideoProfile_Frm {
     Index CardClass = 0;
 
     Label Hint_Lbl;
+    Label No3DHardware_Lbl;
     Label VidCard_Lbl;
     ListBox VidCard_Cbo;
     std::array<Panel, kProfilePanels> Panels;  // in the order of ProfilePanel

@@ -37,7 +37,10 @@ VideoProfileForm::VideoProfileForm(VideoProfile_Frm& model, WxUser& user)
     content_->SetScrollRate(FromDIP(10), FromDIP(10));
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeCardRow(), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap));
+    auto* hint = new wxStaticText(content_, wxID_ANY, ToWx(model_.Hint_Lbl.Caption));
+    binder_.Bind("Hint_Lbl", model_.Hint_Lbl, hint);
     rows->Add(MakeColumns(), wxSizerFlags(1).Expand().Border(wxALL, kGap / 2));
+    rows->Add(hint, wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, kGap));
     content_->SetSizer(rows);
     GiveWhatsThis(this);
     BindEvents();
@@ -88,13 +91,8 @@ wxSizer* VideoProfileForm::MakeCardRow() {
     panel_ = nullptr;
     wxChoice* cards = MakeList("VidCard_Cbo", model_.VidCard_Cbo, label->GetLabel(),
                                [this] { VidCard_Cbo_Click(model_); });
-    auto* hint = new wxStaticText(content_, wxID_ANY, ToWx(model_.Hint_Lbl.Caption), wxDefaultPosition, wxDefaultSize,
-                                  wxST_ELLIPSIZE_END);
-    hint->SetMinSize(FromDIP(wxSize(80, -1)));
-    binder_.Bind("Hint_Lbl", model_.Hint_Lbl, hint);
     row->Add(label, wxSizerFlags().CenterVertical().Border(wxRIGHT, kGap));
-    row->Add(cards, wxSizerFlags().CenterVertical().Border(wxRIGHT, kGap * 2));
-    row->Add(hint, wxSizerFlags(1).CenterVertical());
+    row->Add(cards, wxSizerFlags().CenterVertical());
     return row;
 }
 
@@ -111,6 +109,9 @@ wxSizer* VideoProfileForm::MakeColumns() {
             StartPanel(panel);
             if (panel == ProfilePanel::Resolution) {
                 MakeResolutionRows();
+            }
+            if (panel == ProfilePanel::No3DHardware) {
+                MakeNo3DHardwareRow();
             }
             MakeBoxes(panel);
             EndPanel(panels);
@@ -194,6 +195,13 @@ void VideoProfileForm::MakeResolutionRows() {
     AddRow(model_.GraphicsDriver_Chk, useDriver,
            {MakeList("GraphicsDriver_Cbo", model_.GraphicsDriver_Cbo, "Graphics driver",
                      [this] { GraphicsDriver_Cbo_Click(model_); })});
+}
+
+void VideoProfileForm::MakeNo3DHardwareRow() {
+    auto* label =
+        new wxStaticText(rows_->GetStaticBox(), wxID_ANY, ToWx(model_.No3DHardware_Lbl.Caption));
+    binder_.Bind("No3DHardware_Lbl", model_.No3DHardware_Lbl, label);
+    rows_->Add(label, wxSizerFlags().Border(wxALL, kGap));
 }
 
 void VideoProfileForm::MakeBoxes(ProfilePanel panel) {

@@ -40,6 +40,7 @@ class VideoProfileForm : public wxFrame {
     wxWindow* StartPanel(ProfilePanel panel);
     void EndPanel(wxSizer* column);
     void MakeResolutionRows();
+    void MakeNo3DHardwareRow();
     void MakeBoxes(ProfilePanel panel);
     void MakeBox(ProfileBox& box);
     wxCheckBox* MakeCheck(const std::string& name, CheckBox& model, const wxString& label, Binder::Handler click);
