@@ -50,6 +50,8 @@ struct Run {
     bool DecimalPointIsDot = true;
 
     bool ShowAgain = true;  // outcome of AskUserOnce
+    int SaveGroups = 0;     // open SavesTogether
+    bool GroupFailed = false;  // a save in them did, and the user was told
     bool MainFormLoaded = false;
     TopmostState Topmost{};
     bool Ended = false;  // the program is over: handlers return, the event loop ends

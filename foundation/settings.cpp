@@ -21,6 +21,13 @@ Text FaultOf(TextView section, TextView key, TextView value) {
     return reason;
 }
 
+void Tell(Run& run, TextView what, TextView which, const Error& failed) {
+    Text title = run.AppName;
+    AskUser(run, title,
+            Join(what, NewLine, NewLine, which, which.empty() ? "" : NewLine,
+                 "Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text));
+}
+
 }  // namespace
 
 Text GetSetting(Run& run, TextView application, TextView section, TextView key, TextView fallback) {
@@ -46,15 +53,31 @@ bool SaveChecked(Run& run, Text& application, TextView section, TextView key, Te
                  NewLine, NewLine, application, "\\/\\", section, "\\/\\", key, "\\/\\", "\\/\\", value, NewLine));
         return false;
     }
+    if (run.GroupFailed) {
+        return false;
+    }
     if (const Error failed = run.System.Settings.Write(application, section, key, value)) {
-        Text title = run.AppName;
-        AskUser(run, title,
-                Join("This setting could not be saved; the old one is still there.", NewLine, NewLine, section, "\\/\\",
-                     key, NewLine, "Error Number = ", std::to_string(failed.Number), NewLine,
-                     "Error String = ", failed.Text));
+        run.GroupFailed = run.SaveGroups > 0;
+        Tell(run, "This setting could not be saved; the old one is still there.", Join(section, "\\/\\", key), failed);
         return false;
     }
     return true;
+}
+
+SavesTogether::SavesTogether(Run& run) : run_(run) {
+    ++run_.SaveGroups;
+    run_.System.Settings.BeginGroup();
+}
+
+SavesTogether::~SavesTogether() {
+    const Error failed = run_.System.Settings.EndGroup();
+    const bool told = run_.GroupFailed;
+    if (--run_.SaveGroups == 0) {
+        run_.GroupFailed = false;
+    }
+    if (failed && !told) {
+        Tell(run_, "These settings could not be saved; the old ones are still there.", "", failed);
+    }
 }
 
 bool Save(Run& run, TextView section, TextView key, TextView value) {

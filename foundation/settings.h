@@ -25,6 +25,19 @@ bool SaveChecked(Run& run, Text& application, TextView section, TextView key, Te
 bool Save(Run& run, TextView section, TextView key, TextView value);
 bool Save(Run& run, TextView section, TextView key, int value);
 
+/// Groups the saves of a scope: they become durable together, or not at all. The first that fails is told to the user
+/// as any other is; those behind it fail without a word. Groups nest.
+class SavesTogether {
+  public:
+    explicit SavesTogether(Run& run);
+    ~SavesTogether();
+    SavesTogether(const SavesTogether&) = delete;
+    SavesTogether& operator=(const SavesTogether&) = delete;
+
+  private:
+    Run& run_;
+};
+
 /// The raw registry of other programs, below HKEY_CURRENT_USER. Text (type 1) or a number (type 4); any other type,
 /// or a value that cannot be read, gives an empty value and no error.
 struct RegValue {

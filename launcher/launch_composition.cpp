@@ -1,8 +1,8 @@
 #include "launcher/launch_composition.h"
 
 #include "foundation/field_strings.h"
-#include "launcher/composition_rows.h"
 #include "foundation/game_numbers.h"
+#include "launcher/composition_rows.h"
 #include "launcher/patterns.h"
 
 namespace lv {

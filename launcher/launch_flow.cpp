@@ -1,11 +1,11 @@
 #include "launcher/launch_flow.h"
 
 #include "foundation/field_strings.h"
+#include "foundation/game_numbers.h"
 #include "foundation/numbers.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "launcher/environment_lines.h"
-#include "foundation/game_numbers.h"
 #include "launcher/launch_composition.h"
 #include "launcher/launch_files.h"
 #include "launcher/unreal_options.h"

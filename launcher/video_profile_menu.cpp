@@ -21,14 +21,13 @@ Text ShownName(const Run& run) {
 }
 
 void TellOfLiveWindow(Run& run) {
-    AskUserUnlessTold(
-        run, "VideoProfiles", "Video Profiles",
-        Join("The Video Profiles window is now open and active for the following Video Profile:", NewLine, NewLine,
-             ShownName(run), NewLine,
-             Join(NewLine, "This is a 'live' window.", NewLine,
-                  "    -Everything changed is AUTOMATICALLY saved.", NewLine),
-             Join("    -There is no need to close the window when done - the main window still works.", NewLine,
-                  "    -If you have the screen space, place the 2 windows side by side.")));
+    AskUserUnlessTold(run, "VideoProfiles", "Video Profiles",
+                      Join("The Video Profiles window is now open and active for the following Video Profile:", NewLine,
+                           NewLine, ShownName(run), NewLine,
+                           Join(NewLine, "This is a 'live' window.", NewLine,
+                                "    -Everything changed is AUTOMATICALLY saved.", NewLine),
+                           Join("    -There is no need to close the window when done - the main window still works.",
+                                NewLine, "    -If you have the screen space, place the 2 windows side by side.")));
 }
 
 void SaveProfileList(Launcher& launcher) {
@@ -40,9 +39,8 @@ void SaveProfileList(Launcher& launcher) {
 }
 
 bool IsListed(const ListBox& profiles, TextView name) {
-    return std::ranges::any_of(profiles.Items, [wanted = LowerCase(Trim(name))](const Text& item) {
-        return LowerCase(Trim(item)) == wanted;
-    });
+    return std::ranges::any_of(
+        profiles.Items, [wanted = LowerCase(Trim(name))](const Text& item) { return LowerCase(Trim(item)) == wanted; });
 }
 
 void SelectRow(Launcher& launcher, int row, TextView nameOfEmptyList) {

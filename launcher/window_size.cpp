@@ -117,7 +117,10 @@ void LV_Frm_Resize(Launcher& launcher, int windowState, PixelSize now) {
     LV_Frm& window = launcher.Window;
     window.Placement.WindowState = windowState;
     if (windowState == kWindowMinimised) {
-        HideMainWindow(launcher);
+        // Under a dialog the window stays: hiding takes along the live window that the dialog may stand over.
+        if (launcher.run.Topmost.Nesting == 0) {
+            HideMainWindow(launcher);
+        }
         return;
     }
     if (launcher.run.MainFormLoaded && window.EverShown && !window.Visible) {

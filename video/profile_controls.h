@@ -10,7 +10,16 @@
 
 namespace lv {
 
-enum class ProfilePanel { Resolution, VoodooScreenColor, Effects, NoEffects, UnrealVideo, Voodoo2, Voodoo1, No3DHardware };
+enum class ProfilePanel {
+    Resolution,
+    VoodooScreenColor,
+    Effects,
+    NoEffects,
+    UnrealVideo,
+    Voodoo2,
+    Voodoo1,
+    No3DHardware
+};
 
 constexpr std::size_t kProfilePanels = 8;
 
@@ -36,6 +45,5 @@ std::span<const ProfileBoxRow> ProfileBoxRows();
 
 /// The caption without the dashes that lead the eye to the list behind it; forms draw that line themselves.
 Text WithoutLeader(TextView caption);
-
 
 }  // namespace lv

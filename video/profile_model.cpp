@@ -209,7 +209,7 @@ void StoreBaseProfile(Run& run) {
     if (!CheckProfileLists(run)) {
         return;
     }
-    const SettingsGroup together(run.System.Settings);
+    const SavesTogether together(run);
     ClampProfilePositions(run);
     for (const ProfileTunable& tunable : ProfileTunables()) {
         if (tunable.Items.empty()) {
@@ -234,7 +234,7 @@ void StoreBaseProfile(Run& run) {
 }
 
 void StoreShippedProfiles(Run& run) {
-    const SettingsGroup together(run.System.Settings);
+    const SavesTogether together(run);
     const Text before = run.VideoProfileSection;
     for (std::size_t i = 0; i < kShippedProfiles; ++i) {
         SelectVideoProfile(run, ShippedProfileNames()[i]);
@@ -247,7 +247,7 @@ void StoreShippedProfiles(Run& run) {
 
 void UpgradeVideoProfiles(Run& run) {
     constexpr TextView kStuff = "LV-Stuff";
-    const SettingsGroup together(run.System.Settings);
+    const SavesTogether together(run);
     if (GetNumber(run, kStuff, "VP_Version") == 0) {
         run.VideoProfileSection = kOptions;
         StoreBaseProfile(run);

@@ -116,6 +116,9 @@ VideoProfile_Frm::VideoProfile_Frm(Run& owner) : run(owner) {
     }
     Windowed_Chk.Caption = "&Windowed";
     Windowed_Chk.ToolTip = "Keep your Windows desktop from resizing";
+    GL_Chk[0].Caption = "Resolution";
+    GL_Chk[1].Caption = "Color depth";
+    GraphicsDriver_Chk.Caption = "Graphics driver";
     Q2_Rez_Cbo.Items = Texts(Q2Resolutions());
     GraphicsDriver_Cbo.Items = Texts(GraphicsDrivers());
     for (const ProfileBoxRow& row : ProfileBoxRows()) {
@@ -194,7 +197,9 @@ void VidCard_Cbo_Click(VideoProfile_Frm& form) {
         return;
     }
     form.CardClass = CardClassOf(static_cast<Index>(form.VidCard_Cbo.ListIndex));
-    Save(form.run, kOptions, "VidCard", form.CardClass);
+    if (!form.ProfileLoading) {
+        Save(form.run, kOptions, "VidCard", form.CardClass);
+    }
     ShowCardPanels(form);
 }
 

@@ -25,6 +25,7 @@ LvForm::LvForm(Launcher& launcher, WxUser& user)
       launcher_(launcher),
       user_(user),
       binder_([&user] { user.Refresh(); }),
+      place_(*this, launcher.Window.Placement),
       sizeTimer_(this) {
     SetName("LV_Frm");
     SetIcons(ProgramIcon());
@@ -83,7 +84,6 @@ void LvForm::BindEvents() {
         event.Skip();
         if (event.GetActive()) {
             user_.SetForemost(nullptr);
-            KeepPlace();
         }
     });
     BindResize();
@@ -92,7 +92,7 @@ void LvForm::BindEvents() {
 void LvForm::BindResize() {
     const auto resized = [this](wxEvent& event) {
         event.Skip();
-        if (!showing_ && placed_) {
+        if (!showing_ && place_.IsPut()) {
             MeasureInNewFrame();
             LV_Frm_Resize(launcher_, State(), OuterSize());
             user_.Refresh();
@@ -100,14 +100,6 @@ void LvForm::BindResize() {
     };
     Bind(wxEVT_SIZE, resized);
     Bind(wxEVT_ICONIZE, resized);
-    Bind(wxEVT_MOVE_END, [](wxMoveEvent& event) { event.Skip(); });
-    Bind(wxEVT_MOVE, [this](wxMoveEvent& event) {
-        event.Skip();
-        if (!showing_ && keptPlace_ && !IsIconized() && IsShown()) {
-            launcher_.Window.Placement.Left = ToTwips(GetPosition().x);
-            launcher_.Window.Placement.Top = ToTwips(GetPosition().y);
-        }
-    });
 }
 
 // The window manager puts its frame around the window only when that is shown: what was measured before lacks it.
@@ -171,21 +163,8 @@ void LvForm::ShowSize() {
 // The place is the program's once, at the load; from then on it is the user's.
 void LvForm::ShowPlace() {
     const LV_Frm& window = launcher_.Window;
-    if (placed_ || !launcher_.run.MainFormLoaded || !window.Visible) {
-        return;
-    }
-    placed_ = true;
-    place_ = wxPoint(ToPixels(window.Placement.Left), ToPixels(window.Placement.Top));
-    Move(place_);
-}
-
-// Some window managers place a new window themselves, whatever it asked for. The step aside is for the toolkit, which
-// believes the window to be where it was sent.
-void LvForm::KeepPlace() {
-    if (placed_ && !keptPlace_) {
-        keptPlace_ = true;
-        Move(place_ + wxPoint(1, 0));
-        Move(place_);
+    if (launcher_.run.MainFormLoaded && window.Visible) {
+        place_.Put();
     }
 }
 

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "foundation/forms/binder.h"
+#include "foundation/forms/kept_place.h"
 #include "foundation/forms/wx_user.h"
 #include "launcher/forms/lv_panels.h"
 #include "launcher/forms/splash_form.h"
@@ -35,7 +36,6 @@ class LvForm : public wxFrame {
     [[nodiscard]] PixelSize OuterSize() const;
     [[nodiscard]] int State() const;
     void ShowPlace();
-    void KeepPlace();
     void ShowSize();
     void ShowPresence();
     void ShowTray();
@@ -44,16 +44,14 @@ class LvForm : public wxFrame {
     Launcher& launcher_;
     WxUser& user_;
     Binder binder_;
+    KeptPlace place_;
     LvPanels* panels_ = nullptr;
     std::unique_ptr<SplashForm> splash_;
     std::unique_ptr<TrayIcon> tray_;
     wxTimer sizeTimer_;  // Size_Tmr
     PixelSize shownSize_;
     wxSize measuredFrame_;
-    wxPoint place_;
     int putBacks_ = 0;
-    bool placed_ = false;
-    bool keptPlace_ = false;
     bool topmost_ = false;
     bool showing_ = false;
 };

@@ -20,10 +20,12 @@ class MemorySettings : public SettingsBacking {
                                     std::string_view key) override;
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
+    Error EndGroup() override { return RefuseGroups; }
 
     /// Each write, as "section|key|value", in order.
     std::vector<std::string> Log;
     Error RefuseWrites;
+    Error RefuseGroups;  // at their end
     [[nodiscard]] std::size_t Count() const { return values_.size(); }
 
   private:

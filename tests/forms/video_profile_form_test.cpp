@@ -11,6 +11,7 @@
 #include "launcher/main_window_load.h"
 #include "launcher/video_profile_menu.h"
 #include "launcher/window_life.h"
+#include "launcher/window_size.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
 #include "video/forms/add_vid_profile_form.h"
@@ -187,7 +188,7 @@ TEST_F(VideoProfileForm_, TheWarningsStandOverItAndBringTheListBack) {
 TEST_F(VideoProfileForm_, AHiddenMainWindowTakesItAlongAndBringsItBack) {
     Open();
     HideMainWindow(launcher);
-    EXPECT_TRUE(SettleUntil([] { return Shown() == nullptr || !Shown()->IsShown(); }));
+    EXPECT_TRUE(SettleUntil([] { return !Shown()->IsShown(); }));
     ASSERT_TRUE(SettleUntil([this] { return form->IsIconized() || !form->IsShown(); }));
     ShowMainWindow(launcher);
     EXPECT_TRUE(SettleUntil([] { return Shown() != nullptr && Shown()->IsShown(); }));
@@ -200,17 +201,42 @@ TEST_F(VideoProfileForm_, ComesBackWhereItWasLeft) {
     Settle();
     const wxPoint left = Shown()->GetPosition();
     Shown()->Close();
-    EXPECT_TRUE(SettleUntil([] { return Shown() == nullptr; }));
+    EXPECT_TRUE(SettleUntil([] { return !Shown()->IsShown(); }));
     EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
     Open();
-    EXPECT_NEAR(Shown()->GetPosition().x, left.x, 30);
-    EXPECT_NEAR(Shown()->GetPosition().y, left.y, 60);
+    EXPECT_NEAR(Shown()->GetPosition().x, left.x, 2);
+    EXPECT_NEAR(Shown()->GetPosition().y, left.y, 2);
+}
+
+TEST_F(VideoProfileForm_, TheMainWindowMinimisedUnderAWarningTakesNothingAway) {
+    Open();
+    FindAs<wxChoice>("SST_GRXCLK_Cbo")->SetFocus();
+    Settle();
+    DoAndAnswer([] { PressKey(WXK_END); },
+                [this] {
+                    LV_Frm_Resize(launcher, kWindowMinimised, {});
+                    user.Refresh();
+                    Settle();
+                    EXPECT_TRUE(Shown()->IsShown());
+                    ClickOn(Find("Button_Cmd(1)"));
+                });
+    EXPECT_TRUE(SettleUntil([this] { return StoredOption("SST_GRXCLK_Setting_Content") == "50"; }));
+    EXPECT_TRUE(launcher.VideoProfile.VideoProfileWindowOpen);
+}
+
+TEST_F(VideoProfileForm_, ARightClickOnABoxTellsWhatItIsFor) {
+    Open();
+    wxWindow* box = Find("Mirrors_Chk");
+    EXPECT_FALSE(box->GetHelpText().empty());
+    for (const ProfileBoxRow& row : ProfileBoxRows()) {
+        EXPECT_FALSE(Find(std::string(row.Name) + "_Chk")->GetHelpText().empty()) << row.Name;
+    }
 }
 
 TEST_F(VideoProfileForm_, EscapeClosesIt) {
     Open();
     PressKey(WXK_ESCAPE);
-    EXPECT_TRUE(SettleUntil([] { return Shown() == nullptr; }));
+    EXPECT_TRUE(SettleUntil([] { return !Shown()->IsShown(); }));
     EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
 }
 

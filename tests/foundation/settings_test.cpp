@@ -47,6 +47,35 @@ TEST_F(SettingsTest, NumbersAreReadTolerantly) {
     EXPECT_EQ(GetNumber(run, kOptions, "MemoryPos", 7), 0);
 }
 
+TEST_F(SettingsTest, AGroupTellsOfItsFirstFailureOnly) {
+    system.Settings.RefuseWrites = MakeError(error::kDiskFull);
+    user.Expect({"Lorvane 3D", "This setting could not be saved; the old one is still there.\r\n\r\nOptions\\/\\a", 0});
+    {
+        const SavesTogether outer(run);
+        const SavesTogether inner(run);
+        EXPECT_FALSE(Save(run, kOptions, "a", 1));
+        EXPECT_FALSE(Save(run, kOptions, "b", 1));
+        system.Settings.RefuseWrites = {};
+        EXPECT_FALSE(Save(run, kOptions, "c", 1)) << "all or nothing";
+    }
+    EXPECT_TRUE(Save(run, kOptions, "d", 1));
+}
+
+TEST_F(SettingsTest, AGroupThatFailsAtItsEndIsTold) {
+    system.Settings.RefuseGroups = MakeError(error::kDiskFull);
+    user.Expect({"Lorvane 3D", "These settings could not be saved; the old ones are still there.", 0});
+    const SavesTogether together(run);
+    EXPECT_TRUE(Save(run, kOptions, "a", 1));
+}
+
+TEST_F(SettingsTest, EachSaveOutsideAGroupTellsOfItsOwnFailure) {
+    system.Settings.RefuseWrites = MakeError(error::kDiskFull);
+    user.Expect({"Lorvane 3D", "This setting could not be saved", 0});
+    user.Expect({"Lorvane 3D", "This setting could not be saved", 0});
+    EXPECT_FALSE(Save(run, kOptions, "a", 1));
+    EXPECT_FALSE(Save(run, kOptions, "b", 1));
+}
+
 TEST_F(SettingsTest, AValueOfSixteenThousandCharactersIsStored) {
     EXPECT_TRUE(Save(run, kOptions, "Games", TextView(Text(16000, 'x'))));
     EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "Games"), Text(16000, 'x'));

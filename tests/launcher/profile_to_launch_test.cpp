@@ -9,6 +9,8 @@ namespace {
 
 constexpr const char* kGlQuake = "C:\\QUAKE\\GLQUAKE.EXE";
 constexpr const char* kQuake = "C:\\QUAKE\\QUAKE.EXE";
+constexpr const char* kUnreal = "C:\\UNREAL\\SYSTEM\\UNREAL.EXE";
+constexpr const char* kIni = "C:\\UNREAL\\SYSTEM\\unreal.ini";
 constexpr const char* kBatch = "C:\\QUAKE\\lv_666.bat";
 constexpr const char* kScript = "C:\\QUAKE\\ID1\\lv_666.qs";
 
@@ -55,6 +57,18 @@ const LaunchCase kCases[] = {
     {"SST_SCREENREFRESH",          3,  1, kGlQuake, kBatch,  "SET SST_SCREENREFRESH=120\r\n"},
     {"SST_GRXCLK",                 0,  1, kGlQuake, kBatch,  "SET SST_GRXCLK=50\r\n"},
     {"SSTV2_GRXCLK",               1,  2, kGlQuake, kBatch,  "SET SSTV2_GRXCLK=85\r\n"},
+    {"UnrealBrightness",           10, 1, kUnreal,  kIni,    "Brightness=10\r\n"},
+    {"UnrealMipFactor",            19, 0, kUnreal,  kIni,    "MipFactor=2.0\r\n"},
+    {"UnrealScaleXYZ",             2,  1, kUnreal,  kIni,    "ScaleXYZ=1500\r\n"},
+    {"UnrealScaleRUV",             1,  1, kUnreal,  kIni,    "ScaleRUV=2000\r\n"},
+    {"UnrealUseDirectDraw",        1,  1, kUnreal,  kIni,    "UseDirectDraw=False\r\n"},
+    {"UnrealCurvedSurfaces",       1,  1, kUnreal,  kIni,    "CurvedSurfaces=False\r\n"},
+    {"UnrealLowDetailTextures",    0,  1, kUnreal,  kIni,    "LowDetailTextures=True\r\n"},
+    {"UnrealScreenFlashes",        1,  1, kUnreal,  kIni,    "ScreenFlashes=False\r\n"},
+    {"UnrealNoLighting",           0,  3, kUnreal,  kIni,    "NoLighting=True\r\n"},
+    {"UnrealSlowVideoBuffering",   1,  1, kUnreal,  kIni,    "SlowVideoBuffering=False\r\n"},
+    {"UnrealDeadZoneXYZ",          0,  1, kUnreal,  kIni,    "DeadZoneXYZ=True\r\n"},
+    {"UnrealDeadZoneRUV",          1,  1, kUnreal,  kIni,    "DeadZoneRUV=False\r\n"},
 };
 
 const LaunchCase kFlagCases[] = {
@@ -71,6 +85,7 @@ class ProfileToLaunch : public LauncherTest, public ::testing::WithParamInterfac
   protected:
     void SetUp() override {
         AddGames();
+        system.Disk.AddFile(kIni, "[WinDrv.WindowsClient]\r\n[Engine.Input]\r\n");
         Load();
         PickExe(GetParam().Exe);
         run.VideoProfileSection = "Mine";
@@ -153,6 +168,31 @@ TEST_F(ProfileListsToLaunch, AQuake2ResolutionReachesItsScript) {
     form.Q2_Rez_Cbo.ListIndex = 6;
     Q2_Rez_Cbo_Click(form);
     EXPECT_NE(Launched("C:\\QUAKE2\\BASEQ2\\lv_666.qs").find("set gl_mode \"6\""), Text::npos);
+}
+
+TEST_F(ProfileListsToLaunch, WindowedReachesTheCommandLine) {
+    OpenFor(kGlQuake);
+    EXPECT_EQ(Launched(kBatch).find("-window"), Text::npos);
+    form.Windowed_Chk.Value = 1;
+    Windowed_Chk_Click(form);
+    EXPECT_NE(Launched(kBatch).find("-window"), Text::npos);
+}
+
+TEST_F(ProfileListsToLaunch, AGraphicsDriverReachesQuake2) {
+    OpenFor("C:\\QUAKE2\\QUAKE2.EXE");
+    form.GraphicsDriver_Cbo.ListIndex = 0;
+    GraphicsDriver_Cbo_Click(form);
+    EXPECT_EQ(Launched("C:\\QUAKE2\\BASEQ2\\lv_666.qs").find("vid_ref"), Text::npos);
+    form.GraphicsDriver_Chk.Value = 1;
+    GraphicsDriver_Chk_Click(form);
+    EXPECT_NE(Launched("C:\\QUAKE2\\BASEQ2\\lv_666.qs").find("set vid_ref \"soft\""), Text::npos);
+}
+
+TEST_F(ProfileListsToLaunch, AColourDepthIsKeptButAsksNoGame) {
+    OpenFor(kGlQuake);
+    form.GL_Chk[1].Value = 1;
+    GL_Chk_Click(form, 1);
+    EXPECT_EQ(Launched(kBatch).find("-bpp"), Text::npos);
 }
 
 TEST_F(ProfileListsToLaunch, AnotherProfileIsInForceAtOnce) {

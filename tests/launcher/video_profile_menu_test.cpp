@@ -187,8 +187,8 @@ TEST_F(VideoProfileMenu, TheFirstFourCannotBeDeletedWhateverTheirNames) {
 
 TEST_F(VideoProfileMenu, CoolDeletesAndSelectsTheFirst) {
     Add("Mine");
-    user.Expect({"Lorvane 3D", "The selected Video Profile:\r\n'Mine'\r\nwas deleted.", 0, false, true,
-                 "&Cool,&Not Cool"});
+    user.Expect(
+        {"Lorvane 3D", "The selected Video Profile:\r\n'Mine'\r\nwas deleted.", 0, false, true, "&Cool,&Not Cool"});
     ExpectNote("Base");
     VideoProfilesDelete_Bar_Click(launcher);
     EXPECT_EQ(Stored(kOptions, "VideoProfileList"), kShippedList);

@@ -200,4 +200,29 @@ TEST_F(WindowLife, ALaunchHidesTheVideoProfileWindowToo) {
     EXPECT_EQ(PresenceOf(window), Presence::Hidden);
 }
 
+TEST_F(WindowLife, ViewAndCreateOnlyLeaveTheVideoProfileWindowOpen) {
+    AddGames();
+    Load();
+    window.Visible = true;
+    VideoProfile_Frm_Load(launcher.VideoProfile);
+    DoIt_Cmd_Click(launcher, 2);
+    EXPECT_TRUE(ProfilesOpen());
+    user.OnDialog = [] {};
+    user.Expect({"Viewing Commands", "", 0});
+    DoIt_Cmd_Click(launcher, 1);
+    EXPECT_TRUE(ProfilesOpen());
+}
+
+TEST_F(WindowLife, MinimisedUnderADialogItStaysAsItIs) {
+    VideoProfile_Frm_Load(launcher.VideoProfile);
+    run.Topmost.Nesting = 1;
+    LV_Frm_Resize(launcher, kWindowMinimised, {});
+    EXPECT_TRUE(window.Visible);
+    EXPECT_TRUE(ProfilesOpen());
+    run.Topmost.Nesting = 0;
+    LV_Frm_Resize(launcher, kWindowMinimised, {});
+    EXPECT_FALSE(window.Visible);
+    EXPECT_FALSE(ProfilesOpen());
+}
+
 }  // namespace lv

@@ -118,8 +118,8 @@ TEST_F(WindowMenu, ACancelledChoiceKeepsTheEditor) {
 TEST_F(WindowMenu, AFileDialogThatFailsIsTold) {
     user.FileAnswers.push_back(Error{76, "Path not found"});
     user.Expect({"A Windows Related Error Occured",
-                 "Error Number = 76\r\nError String = Path not found\r\n\r\nLorvane 3D setting have not been altered.", 0,
-                 false, true});
+                 "Error Number = 76\r\nError String = Path not found\r\n\r\nLorvane 3D setting have not been altered.",
+                 0, false, true});
     ScriptEditorChangeDefault_Bar_Click(launcher);
     EXPECT_EQ(Stored(kOptions, "ScriptEditor"), "(none)");
 }

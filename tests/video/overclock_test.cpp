@@ -27,8 +27,7 @@ class Overclock : public ProfileModel {
     /// A click on that item.
     void Pick(TextView name, TextView item) {
         ProfileBox& box = form.BoxOf(name);
-        box.Cbo.ListIndex =
-            static_cast<int>(std::ranges::find(box.Cbo.Items, item) - box.Cbo.Items.begin());
+        box.Cbo.ListIndex = static_cast<int>(std::ranges::find(box.Cbo.Items, item) - box.Cbo.Items.begin());
         ASSERT_TRUE(box.Cbo.HasSelection()) << item;
         Profile_Cbo_Click(form, box);
     }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "video/profile_keys.h"
@@ -94,21 +95,60 @@ TEST(ProfileControls, EveryTunableWithAListAndEveryFlagHasExactlyOneBox) {
     EXPECT_EQ(keys.size(), 46u);
 }
 
-TEST(ProfileControls, SomeCaptionsStandToTheLetter) {
-    const auto caption = [](TextView name) {
-        for (const ProfileBoxRow& row : ProfileBoxRows()) {
-            if (row.Name == name) {
-                return Text(row.Caption);
-            }
-        }
-        return Text();
+TEST(ProfileControls, CaptionsStandToTheLetter) {
+    const struct {
+        const char* Name;
+        const char* Caption;
+    } kCases[] = {
+        // clang-format off
+        {"FX_GLIDE_NO_SPLASH", "Skip 3DFX Splash"},
+        {"SST_VIDEO_FILTER_DISABLE", "24 to 16-bit Color Smoothing -------------------------------->"},
+        {"SST_SCREENREFRESH", "Screen Refresh Rate -------------------------------------------"},
+        {"SST_RGAMMA", "Red Gamma (Brightness) -------------------------------------->"},
+        {"SST_BGAMMA", "Blue Gamma (Brightness) -------------------------------------->"},
+        {"SST_GGAMMA", "Green Gamma (Brightness) ----------------------------------->"},
+        {"gl_polyblend", "Polyblend ------------------------------>"},
+        {"WaterAlpha", "Water Transparency------------->"},
+        {"Mirrors", "Mirrors ----------------------------------->"},
+        {"GL_FLASHBLEND", "Lighting --------------------------------->"},
+        {"GL_PICMIP", "Texture Mip (Blur) ------------------>"},
+        {"GL_PLAYERMIP", "Player Mip (Blur) -------------------->"},
+        {"GL_TEXTUREMODE", "Mode -->"},
+        {"GL_ROUND_DOWN", "Round Texture Sizes Down -->"},
+        {"gl_keeptjunctions", "Keep T Junctions ------------------>"},
+        {"gl_ztrick", "Z Trick----------------------------------->"},
+        {"GL_FINISH", "Issue gl_finish ------------------------>"},
+        {"Shadows", "Shadows ------------------------------->"},
+        {"D_MIPCAP", "Mip Cap -------------------------------->"},
+        {"SST_FASTPCIRD", "Enable Fast PCI Bus Usage ---------------------------------->"},
+        {"FX_GLIDE_SWAPINTERVAL", "Glide Swap Interval -------------------------------------------"},
+        {"FX_GLIDE_SWAPINTERVAL_VOODOO2", "Don't sync buffer swaps to monitor refresh rate for Glide apps."},
+        {"SSTV2_SWAPINTERVAL", "Don't sync buffer swaps to monitor refresh rate for Direct3D apps."},
+        {"FX_LOD_DITHER", "Force advanced texture filtering for Glide apps."},
+        {"SSTV2_FORCE_TRILINEAR", "Force trilinear texture filtering for Direct3D apps."},
+        {"SSTV2_SLIDETECT", "Disable SLI Autodection"},
+        {"SSTV2_TMU_MEMSIZE", "Limit texture memory for Glide apps."},
+        {"UnrealCurvedSurfaces", "Curved Surfaces -------------->"},
+        {"UnrealUseDirectDraw", "Use Direct Draw --------------->"},
+        {"UnrealLowDetailTextures", "Low Detail Textures --------->"},
+        {"UnrealNoLighting", "No Lighting ---------------------->"},
+        {"UnrealScreenFlashes", "Screen Flashes  --------------->"},
+        {"UnrealDeadZoneXYZ", "Dead Zone XYZ ------------->"},
+        {"UnrealSlowVideoBuffering", "Slow Video Buffering ------->"},
+        {"UnrealScaleXYZ", "Scale XYZ ----------------------->"},
+        {"UnrealDeadZoneRUV", "Dead Zone RUV--------------->"},
+        {"UnrealBrightness", "Brightness ------------------------>"},
+        {"UnrealMipFactor", "Mip Factor ------------------------>"},
+        {"UnrealScaleRUV", "Scale RUV ---------------------->"},
+        // clang-format on
     };
-    EXPECT_EQ(caption("gl_polyblend"), "Polyblend ------------------------------>");
-    EXPECT_EQ(caption("WaterAlpha"), "Water Transparency------------->");
-    EXPECT_EQ(caption("gl_ztrick"), "Z Trick----------------------------------->");
-    EXPECT_EQ(caption("UnrealScreenFlashes"), "Screen Flashes  --------------->");
-    EXPECT_EQ(caption("UnrealDeadZoneRUV"), "Dead Zone RUV--------------->");
-    EXPECT_EQ(caption("GL_ROUND_DOWN"), "Round Texture Sizes Down -->");
+    for (const auto& expected : kCases) {
+        const auto rows = ProfileBoxRows();
+        const auto row =
+            std::ranges::find_if(rows, [&](const auto& each) { return TextView(each.Name) == expected.Name; });
+        ASSERT_NE(row, rows.end()) << expected.Name;
+        EXPECT_STREQ(row->Caption, expected.Caption);
+    }
 }
 
 TEST(ProfileControls, PanelsHaveTheirCaptions) {

@@ -89,9 +89,8 @@ TEST_F(VideoProfile, EachBoxAndEachListSavesItsOwnKeysAtOnceAndNoOthers) {
         system.Settings.Log.clear();
         box.Cbo.ListIndex = expected.Pick;
         Profile_Cbo_Click(form, box);
-        EXPECT_EQ(WritesTo("Mine"),
-                  (std::vector<Text>{Join(expected.SettingKey, "|", std::to_string(expected.Pick)),
-                                     Join(expected.SettingKey, "_Content|", expected.Content)}));
+        EXPECT_EQ(WritesTo("Mine"), (std::vector<Text>{Join(expected.SettingKey, "|", std::to_string(expected.Pick)),
+                                                       Join(expected.SettingKey, "_Content|", expected.Content)}));
         system.Settings.Log.clear();
         box.Chk.Value = 0;
         Profile_Chk_Click(form, box);
@@ -182,8 +181,21 @@ TEST_F(VideoProfile, WhileAProfileIsLoadedHandlersSaveNothing) {
             Profile_Cbo_Click(form, box);
         }
     }
+    form.Rez_Cbo.Items = {"a"};
+    form.Bits_Cbo.Items = {"b"};
+    for (ListBox* list : {&form.Rez_Cbo, &form.Q2_Rez_Cbo, &form.Bits_Cbo, &form.VidCard_Cbo}) {
+        list->ListIndex = 0;
+    }
+    for (CheckBox* box : {&form.GL_Chk[0], &form.GL_Chk[1]}) {
+        box->Value = 1;
+    }
     Windowed_Chk_Click(form);
     GL_Chk_Click(form, 0);
+    GL_Chk_Click(form, 1);
+    Rez_Cbo_Click(form);
+    Q2_Rez_Cbo_Click(form);
+    Bits_Cbo_Click(form);
+    VidCard_Cbo_Click(form);
     GraphicsDriver_Chk_Click(form);
     GraphicsDriver_Cbo_Click(form);
     EXPECT_TRUE(system.Settings.Log.empty());
@@ -195,8 +207,8 @@ TEST_F(VideoProfile, AFreshProfileShowsTheDefaults) {
     run.VideoProfileSection = "Fresh";
     Videop(form);
     for (const ProfileBox& box : form.Boxes) {
-        const bool on = TextView(box.Row->Name) == "SSTV2_GRXCLK" ||
-                        TextView(box.Row->Name) == "FX_GLIDE_SWAPINTERVAL_VOODOO2";
+        const bool on =
+            TextView(box.Row->Name) == "SSTV2_GRXCLK" || TextView(box.Row->Name) == "FX_GLIDE_SWAPINTERVAL_VOODOO2";
         EXPECT_EQ(box.Chk.Value, on ? 1 : 0) << box.Row->Name;
     }
     EXPECT_EQ(form.BoxOf("Mirrors").Cbo.Selected(), "1");

@@ -19,13 +19,17 @@ std::unique_ptr<wxDialog> MakeAddVidProfileForm(wxWindow* owner, ModalWindow& wi
                         [dialog] { AddVidProfile_NewVidProfileName_Txt_Change(*dialog); });
     name->Bind(wxEVT_CHAR, [](wxKeyEvent& event) {
         const wxString typed(event.GetUnicodeKey());
-        if (event.GetUnicodeKey() < WXK_SPACE || event.HasModifiers() || TakesProfileNameCharacter(FromWx(typed)[0])) {
+        const Text inCodePage = FromWx(typed);
+        const bool known = ToWx(inCodePage) == typed;
+        if (event.GetUnicodeKey() < WXK_SPACE || event.HasModifiers() ||
+            (known && TakesProfileNameCharacter(inCodePage.front()))) {
             event.Skip();
         }
     });
     form->AddField(dialog->NewVidProfileName_Lbl, "NewVidProfileName_Lbl", name);
-    form->Finish(form->MakeButton("OK_Cmd", dialog->OK_Cmd, [dialog] { AddVidProfile_OK_Cmd_Click(*dialog); }),
-                 form->MakeButton("Cancel_Cmd", dialog->Cancel_Cmd, [dialog] { AddVidProfile_Cancel_Cmd_Click(*dialog); }));
+    form->Finish(
+        form->MakeButton("OK_Cmd", dialog->OK_Cmd, [dialog] { AddVidProfile_OK_Cmd_Click(*dialog); }),
+        form->MakeButton("Cancel_Cmd", dialog->Cancel_Cmd, [dialog] { AddVidProfile_Cancel_Cmd_Click(*dialog); }));
     return form;
 }
 

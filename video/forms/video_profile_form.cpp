@@ -29,11 +29,12 @@ VideoProfileForm::VideoProfileForm(VideoProfile_Frm& model, WxUser& user)
               wxDEFAULT_FRAME_STYLE & ~wxMAXIMIZE_BOX),
       model_(model),
       user_(user),
-      binder_([&user] { user.Refresh(); }) {
+      binder_([&user] { user.Refresh(); }),
+      place_(*this, model.Placement) {
     SetName("VideoProfile_Frm");
     SetIcons(ProgramIcon());
-    content_ = new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                                    wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
+    content_ =
+        new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
     content_->SetScrollRate(FromDIP(10), FromDIP(10));
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeCardRow(), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap));
@@ -63,22 +64,19 @@ void VideoProfileForm::BindEvents() {
     });
     const auto keep = [this](wxEvent& event) {
         event.Skip();
-        KeepPlacement();
+        KeepSize();
     };
-    Bind(wxEVT_MOVE, keep);
     Bind(wxEVT_SIZE, keep);
     Bind(wxEVT_ICONIZE, keep);
 }
 
-void VideoProfileForm::KeepPlacement() {
-    if (!placed_ || !IsShown()) {
+void VideoProfileForm::KeepSize() {
+    if (!place_.IsPut() || !IsShown()) {
         return;
     }
     WindowPlacement& placement = model_.Placement;
-    placement.WindowState = IsIconized() ? kWindowMinimised : IsMaximized() ? kWindowMaximised : kWindowNormal;
-    if (placement.WindowState == kWindowNormal) {
-        placement.Left = ToTwips(GetPosition().x);
-        placement.Top = ToTwips(GetPosition().y);
+    placement.WindowState = IsIconized() ? kWindowMinimised : kWindowNormal;
+    if (!IsIconized()) {
         placement.Width = ToTwips(GetSize().x);
         placement.Height = ToTwips(GetSize().y);
     }
@@ -89,8 +87,8 @@ wxSizer* VideoProfileForm::MakeCardRow() {
     auto* label = new wxStaticText(content_, wxID_ANY, ToWx(model_.VidCard_Lbl.Caption));
     binder_.Bind("VidCard_Lbl", model_.VidCard_Lbl, label);
     panel_ = nullptr;
-    wxChoice* cards = MakeList("VidCard_Cbo", model_.VidCard_Cbo, label->GetLabel(),
-                               [this] { VidCard_Cbo_Click(model_); });
+    wxChoice* cards =
+        MakeList("VidCard_Cbo", model_.VidCard_Cbo, model_.VidCard_Lbl.Caption, [this] { VidCard_Cbo_Click(model_); });
     row->Add(label, wxSizerFlags().CenterVertical().Border(wxRIGHT, kGap));
     row->Add(cards, wxSizerFlags().CenterVertical());
     return row;
@@ -144,18 +142,19 @@ void VideoProfileForm::EndPanel(wxSizer* column) {
     column->Add(panel_, wxSizerFlags().Expand().Border(wxALL, kGap / 2));
 }
 
-wxCheckBox* VideoProfileForm::MakeCheck(const std::string& name, CheckBox& model, const wxString& label,
-                                        Binder::Handler click) {
-    auto* check = new wxCheckBox(rows_->GetStaticBox(), wxID_ANY, label, wxDefaultPosition, wxDefaultSize, wxCHK_3STATE);
+wxCheckBox* VideoProfileForm::MakeCheck(const std::string& name, CheckBox& model, Binder::Handler click) {
+    auto* check = new wxCheckBox(rows_->GetStaticBox(), wxID_ANY, ToWx(WithoutLeader(model.Caption)), wxDefaultPosition,
+                                 wxDefaultSize, wxCHK_3STATE);
     binder_.Bind(name.c_str(), model, check, std::move(click), WithoutLeader);
     return check;
 }
 
-wxChoice* VideoProfileForm::MakeList(const std::string& name, ListBox& model, const wxString& spoken,
+// The list is called by the control before it.
+wxChoice* VideoProfileForm::MakeList(const std::string& name, ListBox& model, const Text& caption,
                                      Binder::Handler click) {
     wxWindow* const parent = panel_ != nullptr ? rows_->GetStaticBox() : static_cast<wxWindow*>(content_);
     auto* list = new wxChoice(parent, wxID_ANY);
-    SetSpokenName(list->GetHandle(), spoken.utf8_string());
+    SetSpokenName(list->GetHandle(), ToUtf8(WithoutLeader(caption)));
     binder_.Bind(name.c_str(), model, list, std::move(click));
     binder_.Show();  // with its rows it knows how wide it has to be
     lists_.push_back(list);
@@ -179,27 +178,26 @@ void VideoProfileForm::AddRow(const CheckBox& model, wxCheckBox* check, const st
 }
 
 void VideoProfileForm::MakeResolutionRows() {
-    AddRow(model_.Windowed_Chk,
-           MakeCheck("Windowed_Chk", model_.Windowed_Chk, ToWx(model_.Windowed_Chk.Caption),
-                     [this] { Windowed_Chk_Click(model_); }),
-           {});
-    wxCheckBox* useRez = MakeCheck("GL_Chk(0)", model_.GL_Chk[0], "Resolution", [this] { GL_Chk_Click(model_, 0); });
-    AddRow(model_.GL_Chk[0], useRez,
-           {MakeList("Rez_Cbo", model_.Rez_Cbo, "Resolution", [this] { Rez_Cbo_Click(model_); }),
-            MakeList("Q2_Rez_Cbo", model_.Q2_Rez_Cbo, "Resolution", [this] { Q2_Rez_Cbo_Click(model_); })});
-    wxCheckBox* useBits = MakeCheck("GL_Chk(1)", model_.GL_Chk[1], "Color depth", [this] { GL_Chk_Click(model_, 1); });
-    AddRow(model_.GL_Chk[1], useBits,
-           {MakeList("Bits_Cbo", model_.Bits_Cbo, "Color depth", [this] { Bits_Cbo_Click(model_); })});
-    wxCheckBox* useDriver = MakeCheck("GraphicsDriver_Chk", model_.GraphicsDriver_Chk, "Graphics driver",
-                                      [this] { GraphicsDriver_Chk_Click(model_); });
-    AddRow(model_.GraphicsDriver_Chk, useDriver,
-           {MakeList("GraphicsDriver_Cbo", model_.GraphicsDriver_Cbo, "Graphics driver",
-                     [this] { GraphicsDriver_Cbo_Click(model_); })});
+    CheckBox& windowed = model_.Windowed_Chk;
+    AddRow(windowed, MakeCheck("Windowed_Chk", windowed, [this] { Windowed_Chk_Click(model_); }), {});
+    CheckBox& useRez = model_.GL_Chk[0];
+    wxCheckBox* check = MakeCheck("GL_Chk(0)", useRez, [this] { GL_Chk_Click(model_, 0); });
+    AddRow(useRez, check,
+           {MakeList("Rez_Cbo", model_.Rez_Cbo, useRez.Caption, [this] { Rez_Cbo_Click(model_); }),
+            MakeList("Q2_Rez_Cbo", model_.Q2_Rez_Cbo, useRez.Caption, [this] { Q2_Rez_Cbo_Click(model_); })});
+    CheckBox& useBits = model_.GL_Chk[1];
+    check = MakeCheck("GL_Chk(1)", useBits, [this] { GL_Chk_Click(model_, 1); });
+    AddRow(useBits, check,
+           {MakeList("Bits_Cbo", model_.Bits_Cbo, useBits.Caption, [this] { Bits_Cbo_Click(model_); })});
+    CheckBox& useDriver = model_.GraphicsDriver_Chk;
+    check = MakeCheck("GraphicsDriver_Chk", useDriver, [this] { GraphicsDriver_Chk_Click(model_); });
+    AddRow(useDriver, check, {MakeList("GraphicsDriver_Cbo", model_.GraphicsDriver_Cbo, useDriver, [this] {
+               GraphicsDriver_Cbo_Click(model_);
+           })});
 }
 
 void VideoProfileForm::MakeNo3DHardwareRow() {
-    auto* label =
-        new wxStaticText(rows_->GetStaticBox(), wxID_ANY, ToWx(model_.No3DHardware_Lbl.Caption));
+    auto* label = new wxStaticText(rows_->GetStaticBox(), wxID_ANY, ToWx(model_.No3DHardware_Lbl.Caption));
     binder_.Bind("No3DHardware_Lbl", model_.No3DHardware_Lbl, label);
     rows_->Add(label, wxSizerFlags().Border(wxALL, kGap));
 }
@@ -214,15 +212,13 @@ void VideoProfileForm::MakeBoxes(ProfilePanel panel) {
 
 void VideoProfileForm::MakeBox(ProfileBox& box) {
     const std::string name = box.Row->Name;
-    const wxString label = ToWx(WithoutLeader(box.Row->Caption));
-    wxCheckBox* check =
-        MakeCheck(name + "_Chk", box.Chk, label, [this, &box] { Profile_Chk_Click(model_, box); });
+    wxCheckBox* check = MakeCheck(name + "_Chk", box.Chk, [this, &box] { Profile_Chk_Click(model_, box); });
     if (box.Tunable == nullptr) {
         AddRow(box.Chk, check, {});
         return;
     }
     AddRow(box.Chk, check,
-           {MakeList(name + "_Cbo", box.Cbo, label, [this, &box] { Profile_Cbo_Click(model_, box); })});
+           {MakeList(name + "_Cbo", box.Cbo, box.Chk.Caption, [this, &box] { Profile_Cbo_Click(model_, box); })});
 }
 
 void VideoProfileForm::ShowState() {
@@ -235,7 +231,7 @@ void VideoProfileForm::ShowState() {
             changed = window->Show(row.Model->Visible) || changed;
         }
     }
-    if (changed || !placed_) {
+    if (changed || !place_.IsPut()) {
         FitToContent();
     }
 }
@@ -255,10 +251,7 @@ void VideoProfileForm::FitToContent() {
 }
 
 void VideoProfileForm::Open() {
-    if (!placed_) {
-        Move(ToPixels(model_.Placement.Left), ToPixels(model_.Placement.Top));
-        placed_ = true;
-    }
+    place_.Put();
     if (!IsShown()) {
         Show();
     }
@@ -268,6 +261,11 @@ void VideoProfileForm::Open() {
         Raise();
         user_.SetForemost(this);
     }
+}
+
+void VideoProfileForm::CloseUp() {
+    place_.Forget();
+    Hide();
 }
 
 VideoProfileWindow::VideoProfileWindow(VideoProfile_Frm& model, WxUser& user) : model_(model), user_(user) {
@@ -300,11 +298,9 @@ void VideoProfileWindow::ShowState() {
         TheForm().Open();
         return;
     }
-    if (form_) {
+    if (form_ && form_->IsShown()) {
         user_.SetForemost(nullptr);
-        form_->Hide();
-        form_->Destroy();
-        form_ = nullptr;
+        form_->CloseUp();
     }
 }
 

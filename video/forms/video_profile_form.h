@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "foundation/forms/binder.h"
+#include "foundation/forms/kept_place.h"
 #include "foundation/forms/wx_user.h"
 #include "video/video_profile_frm.h"
 
@@ -27,6 +28,7 @@ class VideoProfileForm : public wxFrame {
 
     /// Puts the window where the struct says and shows it.
     void Open();
+    void CloseUp();
 
   private:
     struct Row {
@@ -43,24 +45,25 @@ class VideoProfileForm : public wxFrame {
     void MakeNo3DHardwareRow();
     void MakeBoxes(ProfilePanel panel);
     void MakeBox(ProfileBox& box);
-    wxCheckBox* MakeCheck(const std::string& name, CheckBox& model, const wxString& label, Binder::Handler click);
-    wxChoice* MakeList(const std::string& name, ListBox& model, const wxString& spoken, Binder::Handler click);
+    wxCheckBox* MakeCheck(const std::string& name, CheckBox& model, Binder::Handler click);
+    wxChoice* MakeList(const std::string& name, ListBox& model, const Text& caption, Binder::Handler click);
     void AddRow(const CheckBox& model, wxCheckBox* check, const std::vector<wxChoice*>& lists);
     void FitToContent();
-    void KeepPlacement();
+    void KeepSize();
 
     VideoProfile_Frm& model_;
     WxUser& user_;
     Binder binder_;
+    KeptPlace place_;
     wxScrolledWindow* content_ = nullptr;
     wxPanel* panel_ = nullptr;  // the one that is being made
     wxStaticBoxSizer* rows_ = nullptr;
     std::vector<wxChoice*> lists_;  // of the panel that is being made
     std::vector<Row> followers_;
-    bool placed_ = false;
 };
 
-/// The window as the program has it: made when the struct opens, gone when that closes.
+/// The window as the program has it: made when the struct opens for the first time. One that closes is only hidden, for
+/// a dialog may stand over it at that moment.
 class VideoProfileWindow {
   public:
     VideoProfileWindow(VideoProfile_Frm& model, WxUser& user);

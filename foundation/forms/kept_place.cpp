@@ -1,0 +1,45 @@
+#include "foundation/forms/kept_place.h"
+
+namespace lv {
+
+KeptPlace::KeptPlace(wxTopLevelWindow& window, WindowPlacement& placement) : window_(window), placement_(placement) {
+    window_.Bind(wxEVT_ACTIVATE, [this](wxActivateEvent& event) {
+        event.Skip();
+        if (event.GetActive()) {
+            Keep();
+        }
+    });
+    window_.Bind(wxEVT_MOVE, [this](wxMoveEvent& event) {
+        event.Skip();
+        if (kept_ && !window_.IsIconized() && window_.IsShown()) {
+            placement_.Left = ToTwips(window_.GetPosition().x);
+            placement_.Top = ToTwips(window_.GetPosition().y);
+        }
+    });
+}
+
+void KeptPlace::Put() {
+    if (put_) {
+        return;
+    }
+    put_ = true;
+    place_ = wxPoint(ToPixels(placement_.Left), ToPixels(placement_.Top));
+    window_.Move(place_);
+}
+
+void KeptPlace::Forget() {
+    put_ = false;
+    kept_ = false;
+}
+
+// Some window managers place a new window themselves, whatever it asked for. The step aside is for the toolkit, which
+// believes the window to be where it was sent.
+void KeptPlace::Keep() {
+    if (put_ && !kept_) {
+        kept_ = true;
+        window_.Move(place_ + wxPoint(1, 0));
+        window_.Move(place_);
+    }
+}
+
+}  // namespace lv

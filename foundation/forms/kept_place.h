@@ -1,0 +1,36 @@
+// foundation/forms/kept_place.h
+//
+// Puts a window where it was left, and keeps note of where the user moves it.
+
+#pragma once
+
+#include <wx/toplevel.h>
+
+#include "foundation/window_services.h"
+
+namespace lv {
+
+class KeptPlace {
+  public:
+    KeptPlace(wxTopLevelWindow& window, WindowPlacement& placement);
+    KeptPlace(const KeptPlace&) = delete;
+    KeptPlace& operator=(const KeptPlace&) = delete;
+
+    /// Moves the window to its place. From the second time on it does nothing: the place is the user's then.
+    void Put();
+    [[nodiscard]] bool IsPut() const { return put_; }
+
+    /// The next Put is a first one again, as for a window that was closed.
+    void Forget();
+
+  private:
+    void Keep();
+
+    wxTopLevelWindow& window_;
+    WindowPlacement& placement_;
+    wxPoint place_;
+    bool put_ = false;
+    bool kept_ = false;
+};
+
+}  // namespace lv
