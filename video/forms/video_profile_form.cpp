@@ -191,7 +191,7 @@ void VideoProfileForm::MakeResolutionRows() {
            {MakeList("Bits_Cbo", model_.Bits_Cbo, useBits.Caption, [this] { Bits_Cbo_Click(model_); })});
     CheckBox& useDriver = model_.GraphicsDriver_Chk;
     check = MakeCheck("GraphicsDriver_Chk", useDriver, [this] { GraphicsDriver_Chk_Click(model_); });
-    AddRow(useDriver, check, {MakeList("GraphicsDriver_Cbo", model_.GraphicsDriver_Cbo, useDriver, [this] {
+    AddRow(useDriver, check, {MakeList("GraphicsDriver_Cbo", model_.GraphicsDriver_Cbo, useDriver.Caption, [this] {
                GraphicsDriver_Cbo_Click(model_);
            })});
 }
