@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <iterator>
 #include <limits>
 #include <system_error>
 
@@ -61,15 +60,6 @@ Index ToIndex(TextView text) {
 
 std::int32_t ToLong(TextView text) {
     return Rounded<std::int32_t>(text);
-}
-
-Text ShortestNumber(double number) {
-    if (number == 0) {
-        return "0";  // also of a negative zero
-    }
-    char digits[400];  // the greatest has 309
-    const auto written = std::to_chars(digits, std::end(digits), number, std::chars_format::fixed);
-    return {digits, written.ptr};
 }
 
 }  // namespace lv

@@ -17,7 +17,4 @@ Index ToIndex(TextView text);
 /// As ToNumber, rounded, and held within 32 bits.
 std::int32_t ToLong(TextView text);
 
-/// The number in the fewest digits that read as it again, with a point and without an exponent: "2500", "-0.022".
-Text ShortestNumber(double number);
-
 }  // namespace lv

@@ -81,23 +81,5 @@ TEST(Numbers, SurviveHostileTexts) {
     }
 }
 
-TEST(ShortestNumber, HasNoDigitMoreThanItNeeds) {
-    EXPECT_EQ(ShortestNumber(2500), "2500");
-    EXPECT_EQ(ShortestNumber(0.1), "0.1");
-    EXPECT_EQ(ShortestNumber(-0.022), "-0.022");
-    EXPECT_EQ(ShortestNumber(ToNumber("007.50")), "7.5");
-}
-
-TEST(ShortestNumber, HasNoExponent) {
-    EXPECT_EQ(ShortestNumber(1e21), "1000000000000000000000");
-    EXPECT_EQ(ShortestNumber(0.0000001), "0.0000001");
-    EXPECT_EQ(ShortestNumber(1.7976931348623157e308).size(), 309u);
-}
-
-TEST(ShortestNumber, OfNothingIsOneZero) {
-    EXPECT_EQ(ShortestNumber(0), "0");
-    EXPECT_EQ(ShortestNumber(-0.0), "0");
-}
-
 }  // namespace
 }  // namespace lv
