@@ -38,12 +38,21 @@ TEST(FillCommandTable, CrouchesOnTheJumpRowInQuake2AndSin) {
 TEST(FillCommandTable, MovesUpAndDownByJumpAndDuckInHalfLife) {
     EXPECT_EQ(CommandOf(109, 9), "+jump");
     EXPECT_EQ(CommandOf(110, 9), "+duck");
-    EXPECT_EQ(CaptionOf(109, 9), " Jump / Up");
-    EXPECT_EQ(CaptionOf(110, 9), " Crouch / Dn");
+    EXPECT_EQ(CommandOf(109, 3), "+moveup");
+    EXPECT_EQ(CommandOf(110, 3), "+movedown");
+}
+
+TEST(FillCommandTable, CaptionsUpAndDownByTheFamily) {
+    for (const Index kind : Kinds{3, 5, 6, 9}) {
+        EXPECT_EQ(CaptionOf(109, kind), " Jump / Up") << kind;
+        EXPECT_EQ(CaptionOf(110, kind), " Crouch / Dn") << kind;
+        EXPECT_FALSE(Shown(112, kind)) << kind;
+    }
     EXPECT_EQ(CaptionOf(109, 4), " View Up");
     EXPECT_EQ(CaptionOf(110, 4), " View Down");
     EXPECT_EQ(CaptionOf(109, 1), " Swim Up");
-    EXPECT_EQ(CaptionOf(110, 1), " Swim Down");
+    EXPECT_EQ(CaptionOf(110, 2), " Swim Down");
+    EXPECT_TRUE(Shown(112, 1));
 }
 
 TEST(FillCommandTable, KeepsTheLeadingBlankOfFiveUnrealCommands) {
@@ -135,7 +144,7 @@ TEST(FillCommandTable, HidesWhatTheKindHasNot) {
     EXPECT_FALSE(Shown(1123, 4));
 }
 
-TEST(FillCommandTable, HidesFourRowsThatHaveACommand) {
+TEST(FillCommandTable, HidesRowsThatHaveACommand) {
     EXPECT_EQ(CommandOf(1105, 5), "invdrop");
     EXPECT_FALSE(Shown(1105, 5));
     EXPECT_TRUE(Shown(1105, 3));
@@ -144,8 +153,15 @@ TEST(FillCommandTable, HidesFourRowsThatHaveACommand) {
     EXPECT_EQ(CommandOf(1116, 4), "use silencer");
     for (SlotNumber slot = 1114; slot <= 1116; ++slot) {
         EXPECT_FALSE(Shown(slot, 4)) << slot;
-        EXPECT_TRUE(Shown(slot, 5)) << slot;
+        EXPECT_TRUE(Shown(slot, 3)) << slot;
     }
+    EXPECT_EQ(CommandOf(205, 2), "impulse 5");
+    EXPECT_FALSE(Shown(205, 2));
+    EXPECT_TRUE(Shown(204, 2));
+    EXPECT_EQ(CommandOf(1120, 5), "wave 0");
+    EXPECT_FALSE(Shown(1120, 5));
+    EXPECT_TRUE(Shown(1112, 5));
+    EXPECT_FALSE(Shown(211, 4));
 }
 
 TEST(FillCommandTable, RenamesTheFirstUnrealMenus) {
