@@ -111,25 +111,21 @@ WineSetup FindWine() {
 WineRegistry::WineRegistry(SettingsBacking& store, WineSetup wine) : store_(store), wine_(std::move(wine)) {}
 
 Result<RegistryValue> WineRegistry::Query(std::string_view path, std::string_view name) {
-    path = WithoutEndingSeparators(path);
-    if (wine_.Command.empty()) {
-        return QueryStore(path, name);
-    }
     const RegistryPlace place = {std::string(path), std::string(name)};
     return QueryAll(std::span(&place, 1)).front();
 }
 
 std::vector<Result<RegistryValue>> WineRegistry::QueryAll(std::span<const RegistryPlace> places) {
-    if (wine_.Command.empty()) {
-        return UserRegistry::QueryAll(places);
-    }
-    if (const Error failed = RememberKeys(places)) {
-        return {places.size(), Result<RegistryValue>(failed)};
+    const bool hasPrefix = HasPrefix();
+    if (hasPrefix) {
+        if (const Error failed = RememberKeys(places)) {
+            return {places.size(), Result<RegistryValue>(failed)};
+        }
     }
     std::vector<Result<RegistryValue>> values;
     values.reserve(places.size());
     for (const RegistryPlace& place : places) {
-        values.push_back(Recall(place));
+        values.push_back(hasPrefix ? Recall(place) : QueryStore(WithoutEndingSeparators(place.Path), place.Name));
     }
     return values;
 }
@@ -170,8 +166,7 @@ Error WineRegistry::RememberKeys(std::span<const RegistryPlace> places) {
             missing.emplace(std::move(id), path);
         }
     }
-    std::error_code failed;
-    if (missing.empty() || !fs::exists(wine_.Prefix / "dosdevices", failed)) {
+    if (missing.empty()) {
         return {};
     }
     const Result<std::string> file = Export(CommonKey(missing));
@@ -188,6 +183,11 @@ Error WineRegistry::RememberKeys(std::span<const RegistryPlace> places) {
 Result<RegistryValue> WineRegistry::Recall(const RegistryPlace& place) const {
     const auto known = remembered_.find(LowerCase(WithoutEndingSeparators(place.Path)));
     return known == remembered_.end() ? Result<RegistryValue>(NotThere()) : ValueIn(known->second.Key, place.Name);
+}
+
+bool WineRegistry::HasPrefix() const {
+    std::error_code failed;
+    return !wine_.Command.empty() && fs::exists(wine_.Prefix / "dosdevices", failed);
 }
 
 Result<RegistryValue> WineRegistry::QueryStore(std::string_view path, std::string_view name) {

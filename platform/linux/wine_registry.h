@@ -27,8 +27,9 @@ struct WineSetup {
 /// The wine found on PATH, with this user's prefix.
 WineSetup FindWine();
 
-/// Reading never makes a prefix: before there is one, nothing is in it. Writing makes it. A key that was read is
-/// remembered for two seconds or until a Set, so that hundreds of values in a row cost one run of Wine.
+/// Reading never makes a prefix: before there is one, the store is asked, where the values lie that were set without
+/// Wine. Writing makes it. A key that was read is remembered for two seconds or until a Set, so that hundreds of values
+/// in a row cost one run of Wine.
 /// Without Wine a value is kept under the application "User Registry", the key's path as the section and its name as
 /// the key, as "1:text" or "4:number". Error 57 if Wine does not answer.
 class WineRegistry : public UserRegistry {
@@ -51,6 +52,7 @@ class WineRegistry : public UserRegistry {
         std::chrono::steady_clock::time_point At;
         std::optional<RegistryKey> Key;
     };
+    [[nodiscard]] bool HasPrefix() const;
     Result<RegistryValue> QueryStore(std::string_view path, std::string_view name);
     Error SetInStore(std::string_view path, std::string_view name, const RegistryValue& value);
     Error RememberKeys(std::span<const RegistryPlace> places);

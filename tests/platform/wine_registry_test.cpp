@@ -155,6 +155,19 @@ TEST(WineRegistry, MakesNoPrefixToRead) {
     EXPECT_EQ(fake.Calls(), fake.Call("reg import lv_666.reg"));
 }
 
+TEST(WineRegistry, AsksTheStoreBeforeThereIsAPrefix) {
+    WithFakeWine fake;
+    fs::remove_all(fake.Prefix);
+    EXPECT_EQ(WineRegistry(fake.Store, {}).Set(kSettings, "a", {kRegistryText, "from before Wine", 0}).Number, 0);
+    WineRegistry registry(fake.Store, fake.Setup());
+    EXPECT_EQ(registry.Query(kSettings, "a").Value.Text, "from before Wine");
+    EXPECT_EQ(fake.Calls(), "(none)");
+    fs::create_directories(fake.Prefix / "dosdevices");
+    fake.Holds(kSettings, "b", {kRegistryText, "Wine's", 0});
+    EXPECT_EQ(registry.Query(kSettings, "a").Fault.Number, 2);
+    EXPECT_EQ(registry.Query(kSettings, "b").Value.Text, "Wine's");
+}
+
 TEST(WineRegistry, TellsFailuresApart) {
     WithFakeWine fake;
     fake.Script("exit 1");
