@@ -5,6 +5,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundry/save_filters.h"
+#include "foundry/script_messages.h"
 #include "foundry/script_writer.h"
 #include "launcher/game_numbers.h"
 
@@ -77,8 +78,7 @@ bool MayOwnConfig(Run& run, const ScriptDocument& document, TextView path) {
 bool Write(Run& run, const ScriptDocument& document, const Text& path) {
     const Text script = ComposeScript(document, run.System.Time.Now());
     if (const Error failed = run.System.Disk.Replace(path, script)) {
-        AskUser(run, "Error During Save",
-                Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text));
+        AskUser(run, "Error During Save", ErrorLines(failed));
         return false;
     }
     return true;
@@ -120,10 +120,6 @@ bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, const S
         FillScriptsCombo(run, lists);
     }
     return true;
-}
-
-Text EditorCaption(TextView scriptPath) {
-    return Join("Setup Foundry - [", ReplaceSameLength(scriptPath, "\\", "/"), "]");
 }
 
 }  // namespace lv

@@ -25,7 +25,4 @@ struct SaveManner {
 /// the empty command was written so and is free now. True if the file was written.
 bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, const SaveManner& manner = {});
 
-/// What the editor's window is called.
-Text EditorCaption(TextView scriptPath);
-
 }  // namespace lv

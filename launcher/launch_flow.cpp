@@ -78,8 +78,10 @@ bool ExecutableIsThere(Click& click) {
     return false;
 }
 
-LaunchHooks HooksOf(Run& run) {
+LaunchHooks HooksOf(Launcher& launcher) {
+    Run& run = launcher.run;
     LaunchHooks hooks;
+    hooks.ScriptToRegistry = launcher.ScriptToRegistry;
     hooks.GameSpyFetch = [&run]() -> std::optional<Text> {
         Tell(run, Join("Lorvane 3D can't take the server from GameSpy 3D's window yet.", NewLine, NewLine,
                        "To play on a server now, pick it in the list of servers and launch."));
@@ -90,7 +92,7 @@ LaunchHooks HooksOf(Run& run) {
 
 /// False if the composition stopped the launch; the user knows why.
 bool Compose(Click& click) {
-    click.Texts = ComposeLaunch(click.Selection, click.Game, click.Profile, HooksOf(click.run));
+    click.Texts = ComposeLaunch(click.Selection, click.Game, click.Profile, HooksOf(click.launcher));
     switch (click.Texts.Stop.Kind) {
         case StopKind::None:
             return true;
