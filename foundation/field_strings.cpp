@@ -143,11 +143,12 @@ Text TrimWhite(TextView text) {
 }
 
 Text Trim(TextView text) {
+    return Text(TrimmedView(text));
+}
+
+TextView TrimmedView(TextView text) {
     const std::size_t begin = text.find_first_not_of(' ');
-    if (begin == kNone) {
-        return {};
-    }
-    return Text(text.substr(begin, text.find_last_not_of(' ') - begin + 1));
+    return begin == kNone ? TextView() : text.substr(begin, text.find_last_not_of(' ') - begin + 1);
 }
 
 Text StripQuotes(TextView text) {

@@ -47,6 +47,9 @@ Text TrimWhite(TextView text);
 /// Without blanks at both ends, and nothing but blanks.
 Text Trim(TextView text);
 
+/// The same, as a part of the text itself.
+TextView TrimmedView(TextView text);
+
 /// Without one closing and one opening double quote.
 Text StripQuotes(TextView text);
 
