@@ -146,16 +146,13 @@ Text TrimWhite(TextView text) {
     return Text(text);
 }
 
-TextView TrimView(TextView text) {
-    const std::size_t begin = text.find_first_not_of(' ');
-    if (begin == kNone) {
-        return {};
-    }
-    return text.substr(begin, text.find_last_not_of(' ') - begin + 1);
+Text Trim(TextView text) {
+    return Text(TrimmedView(text));
 }
 
-Text Trim(TextView text) {
-    return Text(TrimView(text));
+TextView TrimmedView(TextView text) {
+    const std::size_t begin = text.find_first_not_of(' ');
+    return begin == kNone ? TextView() : text.substr(begin, text.find_last_not_of(' ') - begin + 1);
 }
 
 TextView StripQuotesView(TextView text) {

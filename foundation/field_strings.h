@@ -48,7 +48,9 @@ Text TrimWhite(TextView text);
 
 /// Without blanks at both ends, and nothing but blanks.
 Text Trim(TextView text);
-TextView TrimView(TextView text);
+
+/// The same, as a part of the text itself.
+TextView TrimmedView(TextView text);
 
 /// Without one closing and one opening double quote.
 Text StripQuotes(TextView text);

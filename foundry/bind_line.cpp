@@ -20,7 +20,7 @@ bool StartsWithText(TextView text, TextView start) {
 }
 
 TextView CaptionOf(const ScriptDocument& document, SlotNumber slot) {
-    return TrimView(document.Bound_Lbl[slot].Caption);
+    return TrimmedView(document.Bound_Lbl[slot].Caption);
 }
 
 /// The first slot of the block that `takes`, or that is free; nothing if there is neither.
@@ -53,7 +53,7 @@ SlotNumber FindOrFill(ScriptDocument& document, ScriptView& view, SlotBlock bloc
 }
 
 SlotNumber ExecSlot(ScriptDocument& document, ScriptView& view, Text& command) {
-    const TextView file = TrimView(TextView(command).substr(kExec.size()));
+    const TextView file = TrimmedView(TextView(command).substr(kExec.size()));
     if (file.empty()) {
         return kNoSlot;
     }
@@ -64,7 +64,7 @@ SlotNumber ExecSlot(ScriptDocument& document, ScriptView& view, Text& command) {
 SlotNumber SaySlot(ScriptDocument& document, ScriptView& view, Text& command) {
     const bool toTeam = StartsWithText(command, kSayTeam);
     const TextView message = TextView(command).substr(toTeam ? kSayTeam.size() : kSay.size());
-    if (TrimView(message).empty()) {
+    if (TrimmedView(message).empty()) {
         return kNoSlot;
     }
     // A message to the team takes a slot of its own each time, and is never said to all.
@@ -114,7 +114,7 @@ SlotNumber AliasSlot(ScriptDocument& document, ScriptView& view, TextView comman
 }
 
 SlotNumber ExtraSlot(ScriptDocument& document, ScriptView& view, Text& command) {
-    const TextView wanted = TrimView(command);
+    const TextView wanted = TrimmedView(command);
     return FindOrFill(document, view, kExtras, wanted, command,
                       [&](SlotNumber slot) { return CaptionOf(document, slot) == wanted; });
 }
@@ -141,7 +141,7 @@ KeyIndex KeyOf(TextView spelling) {
 AliasNames::AliasNames(const AliasList& aliases) {
     places_.reserve(aliases.size());
     for (std::size_t place = 0; place < aliases.size(); ++place) {
-        places_.try_emplace(LowerCase(TrimView(aliases[place].Name)), place);
+        places_.try_emplace(LowerCase(TrimmedView(aliases[place].Name)), place);
     }
 }
 
@@ -151,7 +151,7 @@ std::size_t AliasNames::Find(const Text& lowerCaseName) const {
 }
 
 Text BindLine(ScriptDocument& document, ScriptView& view, TextView key, Text command, const AliasNames& aliases) {
-    if (TrimView(command).empty()) {
+    if (TrimmedView(command).empty()) {
         command = kEmptyCommand;
     }
     const Index kind = document.Dialect.GameKind;

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <utility>
-#include <vector>
 
 #include "foundation/field_strings.h"
 #include "launcher/game_numbers.h"
@@ -13,14 +12,14 @@ namespace {
 
 constexpr TextView kBetweenKeys = " : ";
 
-/// The captions that a key list names, without blanks at their ends. An empty list names one empty caption.
-std::vector<Text> KeysOf(TextView keyList) {
-    std::vector<Text> keys;
+/// Visits each caption of a key list, without blanks at its ends. An empty list has one, an empty one.
+template <class Visit>
+void ForEachKey(TextView keyList, Visit visit) {
     for (;;) {
         const std::size_t end = keyList.find(':');
-        keys.push_back(Trim(keyList.substr(0, end)));
+        visit(TrimmedView(keyList.substr(0, end)));
         if (end == TextView::npos) {
-            return keys;
+            return;
         }
         keyList.remove_prefix(end + 1);
     }
@@ -30,13 +29,14 @@ Text WithoutKey(const Text& keyList, TextView key) {
     if (keyList == key) {
         return {};
     }
-    Text rest;
-    for (const Text& other : KeysOf(keyList)) {
+    Text kept;
+    kept.reserve(keyList.size() + kBetweenKeys.size());
+    ForEachKey(keyList, [&](TextView other) {
         if (other != key) {
-            rest += Join(other, kBetweenKeys);
+            kept.append(other).append(kBetweenKeys);
         }
-    }
-    return Trim(rest.size() > 2 ? DropRight(rest, 2) : rest);
+    });
+    return Trim(kept.size() > 2 ? DropRight(kept, 2) : kept);
 }
 
 void Paint(const ScriptDocument& document, ScriptView& view, KeyIndex key, Color color) {
@@ -119,9 +119,8 @@ void ClearSlotKeys(ScriptDocument& document, ScriptView& view, SlotNumber slot) 
     if (keyList.empty()) {
         return;
     }
-    for (const Text& caption : KeysOf(keyList)) {
-        UnbindKey(document, view, KeyFromCaption(document.KeyCaption, caption));
-    }
+    ForEachKey(keyList,
+               [&](TextView caption) { UnbindKey(document, view, KeyFromCaption(document.KeyCaption, caption)); });
 }
 
 AliasPlace FindAlias(const ScriptDocument& document, TextView name) {

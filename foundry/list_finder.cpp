@@ -18,7 +18,7 @@ double ValueOf(TextView text) {
 
 /// "0.5", ",5" and "22050Hz" are numbers, "True" is none.
 bool IsNumber(TextView text) {
-    text = TrimView(text.substr(0, kLongestNumber));
+    text = TrimmedView(text.substr(0, kLongestNumber));
     const std::size_t digit = std::min(text.find_first_not_of("+-.,"), text.size());
     return digit <= 2 && digit < text.size() && text[digit] >= '0' && text[digit] <= '9';
 }

@@ -199,7 +199,7 @@ LineUse SelectPitch(KeywordContext& context, const ScriptLine& line, const Keywo
     if (line.Value.empty()) {
         return kUnderstood;
     }
-    const TextView value = TrimView(line.Value);
+    const TextView value = TrimmedView(line.Value);
     const bool negative = value.starts_with('-') && ToNumber(value) < 0;
     SetCheck(context.Document.InvertMouse_Chk, negative);
     return SelectValue(context, context.Document.*row.List, negative ? value.substr(1) : line.Value);

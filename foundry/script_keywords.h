@@ -66,6 +66,7 @@ class Keywords {
 
     /// nullptr for a keyword, in lower case, that is none.
     [[nodiscard]] const KeywordRow* Find(TextView keyword) const;
+    [[nodiscard]] std::size_t Count() const { return rows_.size(); }
 
   private:
     std::unordered_map<TextView, const KeywordRow*> rows_;

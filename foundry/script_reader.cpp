@@ -42,7 +42,7 @@ IniLine SplitIni(TextView line) {
 }
 
 TextView BeforeComment(TextView line) {
-    return TrimView(line.substr(0, line.find(kComment)));
+    return TrimmedView(line.substr(0, line.find(kComment)));
 }
 
 bool IsUnreal(const ScriptDocument& document) {
@@ -82,9 +82,9 @@ Parts TakeConsoleLine(TextView line) {
     const auto word = [line](Index index) { return StripQuotesView(QuotedWordView(line, index)); };
     Text keyword = KeywordOf(word(0));
     if (keyword == "set") {
-        return {KeywordOf(word(1)), {.Value = TrimView(word(2))}};
+        return {KeywordOf(word(1)), {.Value = TrimmedView(word(2))}};
     }
-    return {std::move(keyword), {.Value = TrimView(word(1)), .Value2 = TrimView(word(2))}};
+    return {std::move(keyword), {.Value = TrimmedView(word(1)), .Value2 = TrimmedView(word(2))}};
 }
 
 Parts TakeIniLine(TextView line) {
@@ -98,7 +98,7 @@ Parts TakeIniLine(TextView line) {
 
 /// The value behind the second "=" of MouseX=Axis aMouseX Speed=6.0.
 TextView AxisSpeed(TextView right) {
-    return TrimView(SplitIni(SplitIni(right).Right).Left);
+    return TrimmedView(SplitIni(SplitIni(right).Right).Left);
 }
 
 Parts TakeInputLine(TextView line) {
@@ -160,9 +160,9 @@ TextView SecondPass::TakeComment(TextView line) {
 
 void SecondPass::TakeLine(std::span<char> bytes) {
     const TextView whole(bytes.data(), bytes.size());
-    const TextView statement = TakeComment(TrimView(whole));
+    const TextView statement = TakeComment(TrimmedView(whole));
     std::ranges::replace(bytes, kHardBlank, ' ');
-    const TextView line = TrimView(statement);
+    const TextView line = TrimmedView(statement);
     if (line.starts_with('[')) {
         sections_.Open(line);
     } else if (!line.empty() && !sections_.IsOwn()) {
