@@ -98,10 +98,17 @@ const std::vector<SlotNumber>& SlotNumbers() {
 }
 
 SlotMatch SlotFromCommand(TextView lowerCaseCommand, Index gameKind) {
-    const auto same = std::ranges::equal_range(kSpellings, lowerCaseCommand, {}, &Spelling::Text);
     const KindSet kind = Only(KnownKind(gameKind));
-    const auto holds = std::ranges::find_if(same, [&](const Spelling& s) { return (s.Row->Kinds & kind) != 0; });
-    return {.Known = !same.empty(), .Slot = holds == same.end() ? kNoSlot : holds->Row->Slot};
+    SlotMatch match;
+    const auto* spelling = std::ranges::lower_bound(kSpellings, lowerCaseCommand, {}, &Spelling::Text);
+    for (; spelling != kSpellings.end() && spelling->Text == lowerCaseCommand; ++spelling) {
+        match.Known = true;
+        if ((spelling->Row->Kinds & kind) != 0) {
+            match.Slot = spelling->Row->Slot;
+            break;
+        }
+    }
+    return match;
 }
 
 Color SlotColor(SlotNumber slot, Index gameKind) {
