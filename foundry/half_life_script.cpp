@@ -94,7 +94,7 @@ struct Words {
 };
 
 TextView WordOf(TextView line, Index index) {
-    return TrimView(StripQuotesView(QuotedWordView(line, index)));
+    return TrimmedView(StripQuotesView(QuotedWordView(line, index)));
 }
 
 Words WordsOf(TextView line) {
@@ -176,7 +176,7 @@ HalfLifePlayer ReadHalfLifeScript(ScriptLines& lines) {
     std::span<char> bytes;
     while (lines.Next(bytes)) {
         const TextView line(bytes.data(), bytes.size());
-        TakeLine(player, WordsOf(TrimView(line.substr(0, line.find("//")))));
+        TakeLine(player, WordsOf(TrimmedView(line.substr(0, line.find("//")))));
     }
     return player;
 }
