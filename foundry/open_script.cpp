@@ -1,12 +1,9 @@
 #include "foundry/open_script.h"
 
-#include <algorithm>
-#include <memory>
-#include <utility>
-
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "foundry/script_messages.h"
 #include "foundry/script_reader.h"
 #include "foundry/skin_page.h"
 
@@ -17,27 +14,14 @@ namespace {
 constexpr TextView kBackupEnding = "SetupFoundry_Config_Backup";
 constexpr const char* kInformation = "SetupFoundry Information";
 
-Text ErrorLines(const Error& failed) {
-    return Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text);
-}
-
-std::unique_ptr<RandomAccessFile> Open(Run& run, TextView path) {
-    auto file = run.System.Disk.Open(path);
-    if (!file.Ok()) {
-        AskUser(run, "Script Not Opened",
-                Join("Error opening specified script file.", NewLine, NewLine, ErrorLines(file.Fault)), "&OK");
-    }
-    return std::move(file.Value);
-}
-
 std::optional<ScriptReading> Read(Run& run, ScriptDocument& document, ScriptView& view, TextView path) {
-    auto file = Open(run, path);
+    auto file = OpenScriptFile(run, path);
     if (!file) {
         return std::nullopt;
     }
     document.ScriptLoading = true;
     const std::uint64_t firstLineWithoutAlias = ReadAliases(*file, document);
-    file = Open(run, path);
+    file = OpenScriptFile(run, path);
     if (!file) {
         document.ScriptLoading = false;
         return std::nullopt;
@@ -46,13 +30,6 @@ std::optional<ScriptReading> Read(Run& run, ScriptDocument& document, ScriptView
         ReadLines(*file, document, view, firstLineWithoutAlias, [&] { Sex_Cbo_Click(run, document); });
     document.ScriptLoading = false;
     return reading;
-}
-
-/// "Setup Foundry - [c:/quake/id1/my.cfg]".
-Text CaptionOf(TextView path) {
-    Text shown(path);
-    std::ranges::replace(shown, '\\', '/');
-    return Join("Setup Foundry - [", shown, "]");
 }
 
 void BackUp(Run& run, TextView path) {
@@ -92,7 +69,7 @@ bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView p
     if (!reading) {
         return false;
     }
-    document.Caption = CaptionOf(given);
+    document.Caption = EditorCaption(given);
     if (reading->Foreign) {
         BackUp(run, given);
     }
