@@ -81,10 +81,10 @@ LineUse SelectNumber(KeywordContext& context, const ScriptLine& line, const Keyw
     return SelectValue(context, context.Document.*row.List, ShortestForm(context, line.Value));
 }
 
-/// The whole number as the list's index, if the list has it.
+/// The whole number as the list's index, if the list has it; -1 is no row, as a script of this program says it.
 LineUse RowNumber(KeywordContext& context, ListBox& list, TextView value) {
     const std::int32_t index = ToLong(value);
-    if (value.empty() || index < 0 || static_cast<std::size_t>(index) >= list.Items.size()) {
+    if (value.empty() || index < -1 || index >= static_cast<std::int32_t>(list.Items.size())) {
         return SelectValue(context, list, value);
     }
     list.ListIndex = index;

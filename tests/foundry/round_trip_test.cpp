@@ -196,6 +196,14 @@ TEST(RoundTrip, APlayerWithoutANameIsCalledPlayer) {
     EXPECT_EQ(ReadScript(kQuakeDialect, Written(ReadScript(kQuakeDialect, "bind w +forward"))).Name_Txt.Text, "player");
 }
 
+TEST(RoundTrip, AHandThatWasNotChosenStaysSo) {
+    for (const ScriptDialect& dialect : {kQuake2Dialect, kSinDialect}) {
+        const Text written = Written(ReadScript(dialect, "name a"));
+        EXPECT_EQ(CountLines(written, "hand \"-1\""), 1);
+        EXPECT_EQ(Written(ReadScript(dialect, written)), written) << dialect.GameKind;
+    }
+}
+
 // Kept on purpose: the older games don't tell the keypad from the main keys.
 TEST(RoundTrip, TheOlderGamesLoseTheirKeypad) {
     const ScriptDocument d = ReadScript(kQuakeDialect, "bind kp_home +forward");
