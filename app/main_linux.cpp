@@ -14,6 +14,7 @@
 #include "catalogs/forms/entry_forms.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "foundation/question_box.h"
+#include "foundry/foundry.h"
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/start.h"
@@ -43,6 +44,7 @@ struct Program {
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);
         ConnectWizard(TheLauncher);
+        ConnectFoundry(TheLauncher);
     }
 
     std::unique_ptr<SqliteSettings> Settings;

@@ -14,6 +14,7 @@ namespace {
 
 constexpr Index kQuake = 1;
 constexpr Index kHexen2 = 2;
+constexpr Index kHalfLife = 9;
 
 enum class Test {
     Below,         // this directory stands below the executable's
@@ -83,7 +84,7 @@ void ReportEmptyPath(Run& run, TextView path) {
                  "DefaultGameDirectory not found and was NOT SET - YOU WILL NOT BE ABLE TO LAUNCH."));
 }
 
-bool EnterDirectory(Run& run, CatalogLists& lists, TextView path) {
+bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const RegistryToScript& toScript) {
     run.DefaultGameDirectory = DirectoryOf(path);
     const GameFacts facts = FactsOfDirectory(run.System.Disk, run.DefaultGameDirectory);
     run.BaseGameDir = facts.BaseGameDir;
@@ -99,7 +100,10 @@ bool EnterDirectory(Run& run, CatalogLists& lists, TextView path) {
     run.IsHexenWorld = flags.IsHexenWorld;
     run.IsMissionPack = flags.IsMissionPack;
     run.UsesAccelerator = flags.UsesAccelerator;
-    return FillGamesCombo(run, lists) && FillScriptsCombo(run, lists) && FillServerCombo(run, lists);
+    if (facts.GameKind == kHalfLife && toScript) {
+        toScript(Join(run.DefaultGameDirectory, "\\valve\\lv3dhlrg.cfg"));
+    }
+    return !run.Ended && FillGamesCombo(run, lists) && FillScriptsCombo(run, lists) && FillServerCombo(run, lists);
 }
 
 }  // namespace
@@ -129,7 +133,7 @@ ExecutableFlags FlagsOfPath(Index gameKind, TextView path) {
     return flags;
 }
 
-bool IdentifyGame(Run& run, CatalogLists& lists) {
+bool IdentifyGame(Run& run, CatalogLists& lists, const RegistryToScript& toScript) {
     if (!lists.Exe_Cbo.HasSelection()) {
         return !run.Ended;
     }
@@ -145,7 +149,7 @@ bool IdentifyGame(Run& run, CatalogLists& lists) {
     if (path.empty()) {
         ReportEmptyPath(run, path);
         run.DefaultGameDirectory.clear();
-    } else if (!EnterDirectory(run, lists, path)) {
+    } else if (!EnterDirectory(run, lists, path, toScript)) {
         return false;
     }
     if (run.GameKind != before) {

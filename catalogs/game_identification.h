@@ -5,6 +5,8 @@
 
 #pragma once
 
+#include <functional>
+
 #include "catalogs/catalog_lists.h"
 
 namespace lv {
@@ -29,9 +31,13 @@ struct ExecutableFlags {
 /// What the executable's path says, in any letter case.
 ExecutableFlags FlagsOfPath(Index gameKind, TextView path);
 
+/// Writes Half-Life's registry settings as a script to this path.
+using RegistryToScript = std::function<void(TextView path)>;
+
 /// The change of game to the selected row of Exe_Cbo: saves the position, sets the run's globals, fills the lists of
-/// modifications, scripts and servers. Without a selected row nothing happens. False if the program ended.
-bool IdentifyGame(Run& run, CatalogLists& lists);
+/// modifications, scripts and servers. Half-Life's settings become a script before, if there is a conversion. Without a
+/// selected row nothing happens. False if the program ended.
+bool IdentifyGame(Run& run, CatalogLists& lists, const RegistryToScript& toScript = {});
 
 /// Selects the mission pack's modification for its own executable and drops it for the others of Hexen II. For after
 /// the window was set up for the game.

@@ -28,6 +28,22 @@ void Tell(Run& run, TextView what, TextView which, const Error& failed) {
                  "Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text));
 }
 
+constexpr int kNotThere = 2;  // the registry's number for a key or value that is missing
+
+RegValue ReadableValue(const Result<RegistryValue>& read) {
+    if (!read.Ok()) {
+        return {};
+    }
+    const RegistryValue& value = read.Value;
+    if (value.Type == kRegistryText) {
+        return {kRegistryText, value.Text.substr(0, value.Text.find('\0')), 0};
+    }
+    if (value.Type == kRegistryNumber) {
+        return {kRegistryNumber, {}, value.Number};
+    }
+    return {};
+}
+
 }  // namespace
 
 Text GetSetting(Run& run, TextView application, TextView section, TextView key, TextView fallback) {
@@ -90,18 +106,19 @@ bool Save(Run& run, TextView section, TextView key, int value) {
 }
 
 RegValue RegQueryOpen(Run& run, const RegKey& key, TextView name) {
-    const Result<RegistryValue> read = run.System.Registry.Query(key.Path, name);
-    if (!read.Ok()) {
-        return {};
+    return ReadableValue(run.System.Registry.Query(key.Path, name));
+}
+
+Result<std::vector<RegValue>> RegQueryAll(Run& run, std::span<const RegistryPlace> places) {
+    std::vector<RegValue> values;
+    values.reserve(places.size());
+    for (const Result<RegistryValue>& read : run.System.Registry.QueryAll(places)) {
+        if (!read.Ok() && read.Fault.Number != kNotThere) {
+            return read.Fault;
+        }
+        values.push_back(ReadableValue(read));
     }
-    const RegistryValue& value = read.Value;
-    if (value.Type == kRegistryText) {
-        return {kRegistryText, value.Text.substr(0, value.Text.find('\0')), 0};
-    }
-    if (value.Type == kRegistryNumber) {
-        return {kRegistryNumber, {}, value.Number};
-    }
-    return {};
+    return values;
 }
 
 RegValue RegQueryPath(Run& run, TextView path, TextView name) {
@@ -114,6 +131,10 @@ Error RegWriteOpen(Run& run, const RegKey& key, TextView name, const RegValue& v
 
 Error RegWritePath(Run& run, TextView path, TextView name, const RegValue& value) {
     return RegWriteOpen(run, {Text(path)}, name, value);
+}
+
+Error RegWriteAll(Run& run, std::span<const RegistryEntry> entries) {
+    return run.System.Registry.SetAll(entries);
 }
 
 }  // namespace lv

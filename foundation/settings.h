@@ -4,6 +4,9 @@
 
 #pragma once
 
+#include <span>
+#include <vector>
+
 #include "foundation/run.h"
 
 namespace lv {
@@ -55,8 +58,13 @@ struct RegKey {
 RegValue RegQueryOpen(Run& run, const RegKey& key, TextView name);
 RegValue RegQueryPath(Run& run, TextView path, TextView name);
 
+/// Many values at once, in the order of their places. What is not there, or is of another type, is empty; an error
+/// only says that the registry itself can't be read.
+Result<std::vector<RegValue>> RegQueryAll(Run& run, std::span<const RegistryPlace> places);
+
 /// Makes the key if it is not there.
 Error RegWriteOpen(Run& run, const RegKey& key, TextView name, const RegValue& value);
 Error RegWritePath(Run& run, TextView path, TextView name, const RegValue& value);
+Error RegWriteAll(Run& run, std::span<const RegistryEntry> entries);
 
 }  // namespace lv

@@ -84,6 +84,7 @@ LaunchHooks HooksOf(Launcher& launcher) {
     Run& run = launcher.run;
     LaunchHooks hooks;
     hooks.RewriteUnrealIni = [&launcher] { return SetUnrealVideoOptionsForLaunch(launcher); };
+    hooks.ScriptToRegistry = launcher.ScriptToRegistry;
     hooks.GameSpyFetch = [&run]() -> std::optional<Text> {
         Tell(run, Join("Lorvane 3D can't take the server from GameSpy 3D's window yet.", NewLine, NewLine,
                        "To play on a server now, pick it in the list of servers and launch."));

@@ -47,6 +47,11 @@ struct Launcher {
     /// The same for the games that are not known yet.
     std::function<bool(const std::vector<KnownGame>&)> ShowInstallScan;
 
+    /// Writes Half-Life's registry settings as a script to this path, and a script's settings to the registry. Empty:
+    /// the program can't.
+    std::function<void(TextView path)> RegistryToScript;
+    std::function<Error(TextView path)> ScriptToRegistry;
+
     /// Opens the selected script in the script editor. Empty: the program has none.
     std::function<void()> OpenSetupFoundry;
 

@@ -143,7 +143,7 @@ void ApplyModification(Launcher& launcher) {
 void Exe_Cbo_Click(Launcher& launcher) {
     Run& run = launcher.run;
     LV_Frm& window = launcher.Window;
-    if (!window.Exe_Cbo.HasSelection() || !IdentifyGame(run, launcher.Lists)) {
+    if (!window.Exe_Cbo.HasSelection() || !IdentifyGame(run, launcher.Lists, launcher.RegistryToScript)) {
         return;
     }
     ApplyGamePanels(window, {run.GameKind, run.ScriptFamily, run.IsQuakeWorld, run.IsHexenWorld});

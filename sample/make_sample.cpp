@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "platform/linux/sqlite_settings.h"
+#include "platform/linux/wine_registry.h"
 
 namespace {
 
@@ -123,6 +124,33 @@ struct SettingRow {
     std::string Value;
 };
 
+/// A player of Half-Life, as the game would have left him in the registry. The sample has no Wine prefix yet, so he is
+/// kept where the program looks before there is one.
+bool WriteHalfLifePlayer(lv::SettingsBacking& store) {
+    const std::string settings = "Software\\Valve\\Half-Life\\Settings";
+    const std::string profile = "Software\\Valve\\Half-Life\\Player Profiles\\Gordon";
+    const auto text = [](const char* value) { return lv::RegistryValue{lv::kRegistryText, value, 0}; };
+    const std::vector<lv::RegistryEntry> entries = {
+        {{settings, "SelectedProfile"}, text("Gordon")},   {{profile, "Chat Nickname"}, text("Player of the sample")},
+        {{profile + "\\KB", "009"}, text("+showscores")},  {{profile + "\\KB", "027"}, text("cancelselect")},
+        {{profile + "\\KB", "032"}, text("+jump")},        {{profile + "\\KB", "096"}, text("toggleconsole")},
+        {{profile + "\\KB", "097"}, text("+moveleft")},    {{profile + "\\KB", "100"}, text("+moveright")},
+        {{profile + "\\KB", "102"}, text("impulse 100")},  {{profile + "\\KB", "115"}, text("+back")},
+        {{profile + "\\KB", "119"}, text("+forward")},     {{profile + "\\KB", "133"}, text("+duck")},
+        {{profile + "\\KB", "200"}, text("+attack")},      {{profile + "\\KB", "201"}, text("+attack2")},
+        {{profile + "\\KB", "239"}, text("invnext")},      {{profile + "\\KB", "240"}, text("invprev")},
+        {{profile + "\\CVAR", "crosshair"}, text("1")},    {{profile + "\\CVAR", "gamma"}, text("2.5")},
+        {{profile + "\\CVAR", "mlook"}, text("1")},        {{profile + "\\CVAR", "model"}, text("gordon")},
+        {{profile + "\\CVAR", "plate color"}, text("30")}, {{profile + "\\CVAR", "Rate"}, text("2500")},
+        {{profile + "\\CVAR", "sensitivity"}, text("3")},
+    };
+    if (const lv::Error failed = lv::WineRegistry(store, {}).SetAll(entries)) {
+        std::fprintf(stderr, "%s\n", failed.Text.c_str());
+        return false;
+    }
+    return true;
+}
+
 bool WriteSettings(const fs::path& file) {
     auto store = lv::SqliteSettings::Open(file);
     if (!store.Ok()) {
@@ -151,6 +179,9 @@ bool WriteSettings(const fs::path& file) {
         SettingRow{"DefaultScript", "c:\\quake\\ID1", "c:\\quake\\id1\\player.cfg"},
         SettingRow{"LV-Stuff", "FirstTime", "0"},
     };
+    if (!WriteHalfLifePlayer(*store.Value)) {
+        return false;
+    }
     for (const SettingRow& row : rows) {
         if (const lv::Error failed = store.Value->Write(kApplication, row.Section, row.Key, row.Value)) {
             std::fprintf(stderr, "%s\n", failed.Text.c_str());

@@ -27,8 +27,9 @@ struct WineSetup {
 /// The wine found on PATH, with this user's prefix.
 WineSetup FindWine();
 
-/// Reading never makes a prefix: before there is one, nothing is in it. Writing makes it. A key that was read is
-/// remembered for two seconds or until a Set, so that hundreds of values in a row cost one run of Wine.
+/// Reading never makes a prefix: before there is one, the store is asked, where the values lie that were set without
+/// Wine. Writing makes it. A key that was read is remembered for two seconds or until a Set, so that hundreds of values
+/// in a row cost one run of Wine.
 /// Without Wine a value is kept under the application "User Registry", the key's path as the section and its name as
 /// the key, as "1:text" or "4:number". Error 57 if Wine does not answer.
 class WineRegistry : public UserRegistry {
@@ -40,14 +41,24 @@ class WineRegistry : public UserRegistry {
     /// Error 5 also for a value that is neither text nor a number, and for control characters in the names.
     Error Set(std::string_view path, std::string_view name, const RegistryValue& value) override;
 
+    /// One run of Wine for all. If Wine itself fails, each value has that error.
+    std::vector<Result<RegistryValue>> QueryAll(std::span<const RegistryPlace> places) override;
+
+    /// One run of Wine for all. One value that would be refused keeps all from being written.
+    Error SetAll(std::span<const RegistryEntry> entries) override;
+
   private:
     struct Remembered {
         std::chrono::steady_clock::time_point At;
         std::optional<RegistryKey> Key;
     };
+    [[nodiscard]] bool HasPrefix() const;
     Result<RegistryValue> QueryStore(std::string_view path, std::string_view name);
     Error SetInStore(std::string_view path, std::string_view name, const RegistryValue& value);
-    Result<std::optional<RegistryKey>> Export(std::string_view path);
+    Error RememberKeys(std::span<const RegistryPlace> places);
+    [[nodiscard]] Result<RegistryValue> Recall(const RegistryPlace& place) const;
+    /// A registry file of the key and all below it; empty if there is no such key.
+    Result<std::string> Export(std::string_view path);
     Error Import(std::string_view bytes);
     Result<int> RunReg(const std::filesystem::path& directory, std::vector<std::string> arguments);
 

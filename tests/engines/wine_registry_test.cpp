@@ -42,6 +42,18 @@ TEST(WineRegistry, BringsValuesIntoWineAndBack) {
     EXPECT_EQ(registry.Query(path, "Chat Nickname").Value.Text, "");
     EXPECT_TRUE(registry.Query(path, "Chat Nickname").Ok());
 
+    std::vector<RegistryEntry> entries;
+    std::vector<RegistryPlace> places;
+    for (int code = 0; code < 256; ++code) {
+        places.push_back({path + "\\KB", std::to_string(code)});
+        entries.push_back({places.back(), {kRegistryText, "bind \"" + std::to_string(code) + "\"", 0}});
+    }
+    EXPECT_EQ(registry.SetAll(entries).Number, 0);
+    const auto values = registry.QueryAll(places);
+    ASSERT_EQ(values.size(), 256u);
+    EXPECT_EQ(values[0].Value.Text, "bind \"0\"");
+    EXPECT_EQ(values[255].Value.Text, "bind \"255\"");
+
     // Wine's server would write into the prefix for some seconds more.
     const std::string end = "WINEPREFIX='" + wine.Prefix.string() + "' wineserver -k -w 2>/dev/null";
     (void)std::system(end.c_str());

@@ -265,6 +265,21 @@ TEST(Trim, TakesBlanksOnly) {
     EXPECT_EQ(Trim("   "), "");
 }
 
+TEST(TrimmedView, IsAPartOfTheText) {
+    constexpr TextView text = "  a b ";
+    EXPECT_EQ(TrimmedView(text), "a b");
+    EXPECT_EQ(TrimmedView(text).data(), text.data() + 2);
+    EXPECT_EQ(TrimmedView("   "), "");
+    EXPECT_EQ(TrimmedView(""), "");
+}
+
+TEST(FieldStringViews, AreStretchesOfTheText) {
+    const Text line = "  bind \"a b\"  ";
+    EXPECT_EQ(QuotedWordView(line, 1), "\"a b\"");
+    EXPECT_EQ(StripQuotesView(QuotedWordView(line, 1)), "a b");
+    EXPECT_EQ(StripQuotesView(QuotedWordView(line, 1)).data(), line.data() + 8);
+}
+
 TEST(StripQuotes, TakesOneOfEach) {
     EXPECT_EQ(StripQuotes("\"a b\""), "a b");
     EXPECT_EQ(StripQuotes("\"\"a\"\""), "\"a\"");

@@ -1,0 +1,12 @@
+#include "foundry/foundry.h"
+
+#include "foundry/half_life.h"
+
+namespace lv {
+
+void ConnectFoundry(Launcher& launcher) {
+    launcher.RegistryToScript = [&launcher](TextView path) { ConvertRegistryToScript(launcher.run, path); };
+    launcher.ScriptToRegistry = [&launcher](TextView path) { return ConvertScriptToRegistry(launcher.run, path); };
+}
+
+}  // namespace lv
