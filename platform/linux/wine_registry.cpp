@@ -94,14 +94,6 @@ std::string_view CommonKey(const std::map<std::string, std::string_view>& paths)
     return paths.begin()->second.substr(0, id.size());
 }
 
-Result<RegistryValue> ValueIn(const std::optional<RegistryKey>& key, std::string_view name) {
-    if (!key) {
-        return NotThere();
-    }
-    const auto found = key->find(LowerCase(name));
-    return found == key->end() ? Result<RegistryValue>(NotThere()) : found->second;
-}
-
 }  // namespace
 
 WineSetup FindWine() {
@@ -116,16 +108,15 @@ Result<RegistryValue> WineRegistry::Query(std::string_view path, std::string_vie
 }
 
 std::vector<Result<RegistryValue>> WineRegistry::QueryAll(std::span<const RegistryPlace> places) {
-    const bool hasPrefix = HasPrefix();
-    if (hasPrefix) {
-        if (const Error failed = RememberKeys(places)) {
-            return {places.size(), Result<RegistryValue>(failed)};
-        }
+    if (!HasPrefix()) {
+        remembered_.clear();
+    } else if (const Error failed = RememberKeys(places)) {
+        return {places.size(), Result<RegistryValue>(failed)};
     }
     std::vector<Result<RegistryValue>> values;
     values.reserve(places.size());
     for (const RegistryPlace& place : places) {
-        values.push_back(hasPrefix ? Recall(place) : QueryStore(WithoutEndingSeparators(place.Path), place.Name));
+        values.push_back(Recall(place));
     }
     return values;
 }
@@ -180,9 +171,15 @@ Error WineRegistry::RememberKeys(std::span<const RegistryPlace> places) {
     return {};
 }
 
-Result<RegistryValue> WineRegistry::Recall(const RegistryPlace& place) const {
-    const auto known = remembered_.find(LowerCase(WithoutEndingSeparators(place.Path)));
-    return known == remembered_.end() ? Result<RegistryValue>(NotThere()) : ValueIn(known->second.Key, place.Name);
+Result<RegistryValue> WineRegistry::Recall(const RegistryPlace& place) {
+    const std::string_view path = WithoutEndingSeparators(place.Path);
+    const auto known = remembered_.find(LowerCase(path));
+    if (known == remembered_.end() || !known->second.Key) {
+        return QueryStore(path, place.Name);
+    }
+    const RegistryKey& key = *known->second.Key;
+    const auto found = key.find(LowerCase(place.Name));
+    return found == key.end() ? Result<RegistryValue>(NotThere()) : found->second;
 }
 
 bool WineRegistry::HasPrefix() const {

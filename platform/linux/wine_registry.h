@@ -27,11 +27,11 @@ struct WineSetup {
 /// The wine found on PATH, with this user's prefix.
 WineSetup FindWine();
 
-/// Reading never makes a prefix: before there is one, the store is asked, where the values lie that were set without
-/// Wine. Writing makes it. A key that was read is remembered for two seconds or until a Set, so that hundreds of values
-/// in a row cost one run of Wine.
-/// Without Wine a value is kept under the application "User Registry", the key's path as the section and its name as
-/// the key, as "1:text" or "4:number". Error 57 if Wine does not answer.
+/// Reading never makes a prefix; writing does. A key that Wine does not have, and before there is a prefix every one,
+/// is looked for in the store, where what was set without Wine still lies. A key that was read is remembered for two
+/// seconds or until a Set, so that hundreds of values in a row cost one run of Wine. Without Wine a value is kept under
+/// the application "User Registry", the key's path as the section and its name as the key, as "1:text" or "4:number".
+/// Error 57 if Wine does not answer.
 class WineRegistry : public UserRegistry {
   public:
     WineRegistry(SettingsBacking& store, WineSetup wine);
@@ -56,7 +56,7 @@ class WineRegistry : public UserRegistry {
     Result<RegistryValue> QueryStore(std::string_view path, std::string_view name);
     Error SetInStore(std::string_view path, std::string_view name, const RegistryValue& value);
     Error RememberKeys(std::span<const RegistryPlace> places);
-    [[nodiscard]] Result<RegistryValue> Recall(const RegistryPlace& place) const;
+    Result<RegistryValue> Recall(const RegistryPlace& place);
     /// A registry file of the key and all below it; empty if there is no such key.
     Result<std::string> Export(std::string_view path);
     Error Import(std::string_view bytes);

@@ -168,6 +168,21 @@ TEST(WineRegistry, AsksTheStoreBeforeThereIsAPrefix) {
     EXPECT_EQ(registry.Query(kSettings, "b").Value.Text, "Wine's");
 }
 
+TEST(WineRegistry, AsksTheStoreForAKeyThatWineDoesNotHave) {
+    WithFakeWine fake;
+    WineRegistry without(fake.Store, {});
+    EXPECT_EQ(without.Set("Software\\A\\Old", "a", {kRegistryText, "from before Wine", 0}).Number, 0);
+    EXPECT_EQ(without.Set("Software\\A\\New", "b", {kRegistryText, "from before Wine", 0}).Number, 0);
+    fake.Holds("Software\\A\\New", "c", {kRegistryText, "Wine's", 0});
+    WineRegistry registry(fake.Store, fake.Setup());
+    const std::vector<RegistryPlace> places = {
+        {"Software\\A\\Old", "a"}, {"Software\\A\\New", "b"}, {"Software\\A\\New", "c"}};
+    const auto values = registry.QueryAll(places);
+    EXPECT_EQ(values[0].Value.Text, "from before Wine");
+    EXPECT_EQ(values[1].Fault.Number, 2);
+    EXPECT_EQ(values[2].Value.Text, "Wine's");
+}
+
 TEST(WineRegistry, TellsFailuresApart) {
     WithFakeWine fake;
     fake.Script("exit 1");
