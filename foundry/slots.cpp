@@ -98,10 +98,12 @@ const std::vector<SlotNumber>& SlotNumbers() {
 }
 
 SlotMatch SlotFromCommand(TextView lowerCaseCommand, Index gameKind) {
-    const auto same = std::ranges::equal_range(kSpellings, lowerCaseCommand, {}, &Spelling::Text);
+    // Not equal_range: its subrange is more than clang 14 understands.
+    const auto* const first = std::ranges::lower_bound(kSpellings, lowerCaseCommand, {}, &Spelling::Text);
+    const auto* const last = std::ranges::upper_bound(kSpellings, lowerCaseCommand, {}, &Spelling::Text);
     const KindSet kind = Only(KnownKind(gameKind));
-    const auto holds = std::ranges::find_if(same, [&](const Spelling& s) { return (s.Row->Kinds & kind) != 0; });
-    return {.Known = !same.empty(), .Slot = holds == same.end() ? kNoSlot : holds->Row->Slot};
+    const auto* const holds = std::find_if(first, last, [&](const Spelling& s) { return (s.Row->Kinds & kind) != 0; });
+    return {.Known = first != last, .Slot = holds == last ? kNoSlot : holds->Row->Slot};
 }
 
 Color SlotColor(SlotNumber slot, Index gameKind) {
