@@ -98,12 +98,17 @@ const std::vector<SlotNumber>& SlotNumbers() {
 }
 
 SlotMatch SlotFromCommand(TextView lowerCaseCommand, Index gameKind) {
-    // Not equal_range: its subrange is more than clang 14 understands.
-    const auto* const first = std::ranges::lower_bound(kSpellings, lowerCaseCommand, {}, &Spelling::Text);
-    const auto* const last = std::ranges::upper_bound(kSpellings, lowerCaseCommand, {}, &Spelling::Text);
     const KindSet kind = Only(KnownKind(gameKind));
-    const auto* const holds = std::find_if(first, last, [&](const Spelling& s) { return (s.Row->Kinds & kind) != 0; });
-    return {.Known = first != last, .Slot = holds == last ? kNoSlot : holds->Row->Slot};
+    SlotMatch match;
+    const auto* spelling = std::ranges::lower_bound(kSpellings, lowerCaseCommand, {}, &Spelling::Text);
+    for (; spelling != kSpellings.end() && spelling->Text == lowerCaseCommand; ++spelling) {
+        match.Known = true;
+        if ((spelling->Row->Kinds & kind) != 0) {
+            match.Slot = spelling->Row->Slot;
+            break;
+        }
+    }
+    return match;
 }
 
 Color SlotColor(SlotNumber slot, Index gameKind) {
