@@ -1,4 +1,4 @@
-// bench/script_bench.cpp
+// bench/read_script_bench.cpp
 //
 // Opening a script in the editor: 10,000 lines of all that scripts hold (limit 25 ms), and ten times as many (250 ms);
 // 100,000 lines that nobody understands (250 ms); and a file of 100 MB in one line (4 times its size in memory).
