@@ -348,17 +348,22 @@ constexpr KeywordRow kKeywords[] = {
 };
 // clang-format on
 
+constexpr auto kByKeyword = [] {
+    std::array<const KeywordRow*, std::size(kKeywords)> rows{};
+    std::ranges::transform(kKeywords, rows.begin(), [](const KeywordRow& row) { return &row; });
+    std::ranges::sort(rows, {}, &KeywordRow::Keyword);
+    return rows;
+}();
+
 }  // namespace
 
-Keywords::Keywords() {
-    for (const KeywordRow& row : kKeywords) {
-        rows_.emplace(row.Keyword, &row);
-    }
+const KeywordRow* FindKeyword(TextView keyword) {
+    const auto* const found = std::ranges::lower_bound(kByKeyword, keyword, {}, &KeywordRow::Keyword);
+    return found == kByKeyword.end() || (*found)->Keyword != keyword ? nullptr : *found;
 }
 
-const KeywordRow* Keywords::Find(TextView keyword) const {
-    const auto found = rows_.find(keyword);
-    return found == rows_.end() ? nullptr : found->second;
+std::size_t CountKeywords() {
+    return std::size(kKeywords);
 }
 
 }  // namespace lv

@@ -5,7 +5,6 @@
 #pragma once
 
 #include <optional>
-#include <unordered_map>
 
 #include "foundry/bind_line.h"
 #include "foundry/list_finder.h"
@@ -59,17 +58,10 @@ struct KeywordRow {
         : Keyword(keyword), Effect(effect), Place(static_cast<std::size_t>(place)) {}
 };
 
-/// The table by keyword.
-class Keywords {
-  public:
-    Keywords();
+/// nullptr for a keyword, in lower case, that is none.
+const KeywordRow* FindKeyword(TextView keyword);
 
-    /// nullptr for a keyword, in lower case, that is none.
-    [[nodiscard]] const KeywordRow* Find(TextView keyword) const;
-    [[nodiscard]] std::size_t Count() const { return rows_.size(); }
-
-  private:
-    std::unordered_map<TextView, const KeywordRow*> rows_;
-};
+/// How many there are.
+std::size_t CountKeywords();
 
 }  // namespace lv

@@ -141,7 +141,6 @@ class SecondPass {
 
     KeywordContext context_;
     SectionReader sections_;
-    Keywords keywords_;
     bool sawBanner_ = false;
 };
 
@@ -174,7 +173,7 @@ void SecondPass::TakeStatement(TextView line) {
     Parts parts = sections_.IsInput()           ? TakeInputLine(line)
                   : IsUnreal(context_.Document) ? TakeIniLine(line)
                                                 : TakeConsoleLine(line);
-    const KeywordRow* row = keywords_.Find(parts.Keyword);
+    const KeywordRow* row = FindKeyword(parts.Keyword);
     if (row == nullptr || row->Effect(context_, parts.Values, *row) == LineUse::kFreeForm) {
         AddFreeForm(sections_.Current(), line);
     }

@@ -63,6 +63,27 @@ TEST_F(SlotCaptions, AMillionCharactersAreCutWithFewMeasurements) {
     EXPECT_LT(counting.Measured, 30);
 }
 
+TEST_F(SlotCaptions, AVeryLongTextIsNeverMeasuredWhole) {
+    struct Measuring : WatchingView {
+        int TextWidth(TextView text) override {
+            Longest = std::max(Longest, text.size());
+            return WatchingView::TextWidth(text);
+        }
+        std::size_t Longest = 0;
+    } measuring;
+    CaptionSlot(document, measuring, 501, Text(1'000'000, 'w'));
+    EXPECT_EQ(label().Caption, " " + Text(15, 'w') + "...");
+    EXPECT_EQ(label().ToolTip.size(), 1'000'000U);
+    EXPECT_LE(measuring.Longest, 505U);
+}
+
+TEST_F(SlotCaptions, AnAmplyWideLabelShowsALongTextWhole) {
+    view.LabelWidth = 100'000;
+    CaptionSlot(document, view, 501, Text(9'000, 'w'));
+    EXPECT_EQ(label().Caption, " " + Text(9'000, 'w'));
+    EXPECT_EQ(ShortenToFit(view, Text(20'000, 'w'), 501), Text(9'995, 'w') + "...");
+}
+
 TEST_F(SlotCaptions, NothingIsCutWithoutAWindow) {
     ScriptView nobody;
     const Text text(500, 'w');
