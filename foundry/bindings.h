@@ -1,0 +1,37 @@
+// foundry/bindings.h
+//
+// The operations on the key, slot and alias tables. Each key holds one command at most, and a slot's key list always
+// tells what the key table holds.
+
+#pragma once
+
+#include "foundry/script_document.h"
+#include "foundry/script_view.h"
+
+namespace lv {
+
+/// Moves the key to the slot. Clears ScriptClean.
+void BindKey(ScriptDocument& document, ScriptView& view, KeyIndex key, SlotNumber slot);
+
+/// Frees the key: all slots with its command lose it. Nothing happens for a negative index; a free key only loses its
+/// tool tip. A key that was bound clears ScriptClean.
+void UnbindKey(ScriptDocument& document, ScriptView& view, KeyIndex key);
+
+/// Unbinds all keys that the slot's key list names. What is no key's caption is passed over.
+void ClearSlotKeys(ScriptDocument& document, ScriptView& view, SlotNumber slot);
+
+/// The place of an alias, case-blind.
+AliasPlace FindAlias(const ScriptDocument& document, TextView name);
+
+/// Adds an alias, not bound, if there is none of that name yet; true if it was added. In Unreal `body` is the right
+/// part of an ini's line, (Command="Fire | Jump",Alias=both), which says both, and `name` is not looked at.
+bool AddAlias(ScriptDocument& document, TextView name, TextView body);
+
+/// The text as a caption that fits Bound_Lbl(slot): "..." in place of its end. At least three characters stay.
+Text ShortenToFit(ScriptView& view, TextView text, SlotNumber slot);
+
+/// Captions the slot with a blank and the text, without blanks at its ends. Where that is too wide it is shortened
+/// and the tool tip holds the whole text; otherwise the tool tip is emptied.
+void CaptionSlot(ScriptDocument& document, ScriptView& view, SlotNumber slot, TextView text);
+
+}  // namespace lv
