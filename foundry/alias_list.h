@@ -41,7 +41,8 @@ class AliasList {
 
     void Erase(std::size_t place);
 
-    /// Gives the record a new content and moves it where its name belongs; returns the new place.
+    /// Gives the record a new content and moves it where its name belongs; returns the new place. Nothing changes if
+    /// another record has that name.
     std::size_t Replace(std::size_t place, Alias alias);
 
     void Clear();

@@ -10,11 +10,11 @@
 
 namespace lv {
 
-/// Moves the key to the slot. Clears ScriptClean.
+/// Moves the key to the slot. Clears ScriptClean. Nothing happens for an index that is no key.
 void BindKey(ScriptDocument& document, ScriptView& view, KeyIndex key, SlotNumber slot);
 
-/// Frees the key: all slots with its command lose it. Nothing happens for a negative index; a free key only loses its
-/// tool tip. A key that was bound clears ScriptClean.
+/// Frees the key: all slots with its command lose it. Nothing happens for an index that is no key; a free key
+/// only loses its tool tip. A key that was bound clears ScriptClean.
 void UnbindKey(ScriptDocument& document, ScriptView& view, KeyIndex key);
 
 /// Unbinds all keys that the slot's key list names. What is no key's caption is passed over.
@@ -24,7 +24,8 @@ void ClearSlotKeys(ScriptDocument& document, ScriptView& view, SlotNumber slot);
 AliasPlace FindAlias(const ScriptDocument& document, TextView name);
 
 /// Adds an alias, not bound, if there is none of that name yet; true if it was added. In Unreal `body` is the right
-/// part of an ini's line, (Command="Fire | Jump",Alias=both), which says both, and `name` is not looked at.
+/// part of an ini's line, (Command="Fire | Jump",Alias=both), which says both, and `name` is not looked at; the name
+/// "None" marks a place that is not in use. Neither name nor body may be empty.
 bool AddAlias(ScriptDocument& document, TextView name, TextView body);
 
 /// The text as a caption that fits Bound_Lbl(slot): "..." in place of its end. At least three characters stay.

@@ -12,7 +12,8 @@ namespace lv {
 /// read before has added. `decimalSeparator` is the locale's, "." or ",".
 void FillSettingLists(ScriptSettings& settings, char decimalSeparator);
 
-/// The same for the other lists of the pages: crosshair, hand, player class, the Unreal lists and weapons.
+/// The same for the other lists of the pages: crosshair, hand, player class, the Unreal lists and weapons. An Unreal
+/// ini's numbers have a point in every locale.
 void FillPageLists(ScriptSettings& settings, Index gameKind, Index scriptFamily, bool isMissionPack);
 
 }  // namespace lv

@@ -5,7 +5,6 @@
 #pragma once
 
 #include <array>
-#include <cassert>
 #include <cstdint>
 #include <vector>
 
@@ -48,10 +47,7 @@ class SlotArray {
     const T& operator[](SlotNumber slot) const { return values_[Place(slot)]; }
 
   private:
-    static std::size_t Place(SlotNumber slot) {
-        assert(slot >= First && slot <= Last);
-        return static_cast<std::size_t>(slot - First);
-    }
+    static std::size_t Place(SlotNumber slot) { return static_cast<std::size_t>(slot - First); }
 
     std::vector<T> values_;
 };

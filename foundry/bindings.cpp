@@ -1,0 +1,141 @@
+#include "foundry/bindings.h"
+
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "foundation/field_strings.h"
+#include "launcher/game_numbers.h"
+
+namespace lv {
+
+namespace {
+
+constexpr TextView kBetweenKeys = " : ";
+
+/// The captions that a key list names, without blanks at their ends. An empty list names one empty caption.
+std::vector<Text> KeysOf(TextView keyList) {
+    std::vector<Text> keys;
+    for (;;) {
+        const std::size_t end = keyList.find(':');
+        keys.push_back(Trim(keyList.substr(0, end)));
+        if (end == TextView::npos) {
+            return keys;
+        }
+        keyList.remove_prefix(end + 1);
+    }
+}
+
+Text WithoutKey(const Text& keyList, TextView key) {
+    if (keyList == key) {
+        return {};
+    }
+    Text rest;
+    for (const Text& other : KeysOf(keyList)) {
+        if (other != key) {
+            rest += Join(other, kBetweenKeys);
+        }
+    }
+    return Trim(rest.size() > 2 ? DropRight(rest, 2) : rest);
+}
+
+void Paint(const ScriptDocument& document, ScriptView& view, KeyIndex key, Color color) {
+    view.PaintKey(key, color);
+    const Index mirror = MirrorLabel(key, document.Dialect.GameKind);
+    if (mirror != kNoKey) {
+        view.PaintKey(mirror, color);
+    }
+}
+
+bool IsKey(KeyIndex key) {
+    return key >= 0 && key < kKeyCount;
+}
+
+struct IniAlias {
+    Text Name;
+    Text Body;
+};
+
+/// The parts of (Command="Fire | Jump",Alias=both).
+IniAlias ReadIniAlias(TextView text) {
+    constexpr TextView kName = "alias=";
+    IniAlias alias;
+    const std::size_t open = text.find('"');
+    const std::size_t close = open == TextView::npos ? open : text.find('"', open + 1);
+    if (close != TextView::npos) {
+        alias.Body = text.substr(open + 1, close - open - 1);
+    }
+    const std::size_t name = LowerCase(text).find(kName);
+    if (name != Text::npos) {
+        const TextView rest = text.substr(name + kName.size());
+        alias.Name = rest.substr(0, rest.find(')'));
+    }
+    return alias;
+}
+
+}  // namespace
+
+void BindKey(ScriptDocument& document, ScriptView& view, KeyIndex key, SlotNumber slot) {
+    if (!IsKey(key)) {
+        return;
+    }
+    UnbindKey(document, view, key);
+    Paint(document, view, key, SlotColor(slot, document.Dialect.GameKind));
+    const auto index = static_cast<std::size_t>(key);
+    document.KeyBinding[index] = document.SlotCommand[slot];
+    Text& keyList = document.Setting_Lbl[slot].Caption;
+    if (!keyList.empty()) {
+        keyList += kBetweenKeys;
+    }
+    keyList += document.KeyCaption[index];
+    view.SlotChanged(slot);
+    document.ScriptClean = false;
+}
+
+void UnbindKey(ScriptDocument& document, ScriptView& view, KeyIndex key) {
+    if (!IsKey(key)) {
+        return;
+    }
+    view.ClearKeyToolTip(key);
+    const auto index = static_cast<std::size_t>(key);
+    Text& binding = document.KeyBinding[index];
+    if (binding.empty()) {
+        return;
+    }
+    Paint(document, view, key, kWhite);
+    for (const SlotNumber slot : SlotNumbers()) {
+        Text& keyList = document.Setting_Lbl[slot].Caption;
+        if (!keyList.empty() && document.SlotCommand[slot] == binding) {
+            keyList = WithoutKey(keyList, document.KeyCaption[index]);
+            view.SlotChanged(slot);
+        }
+    }
+    binding.clear();
+    document.ScriptClean = false;
+}
+
+void ClearSlotKeys(ScriptDocument& document, ScriptView& view, SlotNumber slot) {
+    const Text keyList = document.Setting_Lbl[slot].Caption;
+    if (keyList.empty()) {
+        return;
+    }
+    for (const Text& caption : KeysOf(keyList)) {
+        UnbindKey(document, view, KeyFromCaption(document.KeyCaption, caption));
+    }
+}
+
+AliasPlace FindAlias(const ScriptDocument& document, TextView name) {
+    return document.AliasTable.Find(name);
+}
+
+bool AddAlias(ScriptDocument& document, TextView name, TextView body) {
+    const bool unreal = document.Dialect.GameKind == game_kind::kUnreal;
+    IniAlias alias = unreal ? ReadIniAlias(body) : IniAlias{Text(name), Text(body)};
+    const bool placeHolder = unreal && SameText(alias.Name, "none");
+    if (alias.Name.empty() || alias.Body.empty() || placeHolder) {
+        return false;
+    }
+    return document.AliasTable.Insert({.Bound = false, .Name = std::move(alias.Name), .Body = std::move(alias.Body)});
+}
+
+}  // namespace lv

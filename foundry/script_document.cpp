@@ -1,0 +1,17 @@
+#include "foundry/script_document.h"
+
+#include "foundry/setting_lists.h"
+
+namespace lv {
+
+ScriptDocument MakeScriptDocument(const ScriptDialect& dialect) {
+    ScriptDocument document;
+    document.Dialect = dialect;
+    FillSettingLists(document, dialect.DecimalSeparator);
+    FillPageLists(document, dialect.GameKind, dialect.ScriptFamily, dialect.IsMissionPack);
+    document.KeyCaption = KeyCaptions(dialect.GameKind);
+    FillCommandTable(document, dialect.GameKind);
+    return document;
+}
+
+}  // namespace lv
