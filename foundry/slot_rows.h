@@ -198,7 +198,13 @@ constexpr KindText kOtherCommands[] = {
 };
 
 constexpr KindText kOtherCaptions[] = {
+    {109, game_kind::kQuake2, " Jump / Up"},
+    {109, game_kind::kSin, " Jump / Up"},
+    {109, game_kind::kHeretic2, " Jump / Up"},
     {109, game_kind::kHalfLife, " Jump / Up"},
+    {110, game_kind::kQuake2, " Crouch / Dn"},
+    {110, game_kind::kSin, " Crouch / Dn"},
+    {110, game_kind::kHeretic2, " Crouch / Dn"},
     {110, game_kind::kHalfLife, " Crouch / Dn"},
     {109, game_kind::kUnreal, " View Up"},
     {110, game_kind::kUnreal, " View Down"},
@@ -211,7 +217,26 @@ struct KindSlot {
 
 /// Hidden, though they have a command.
 constexpr KindSlot kHiddenSlots[] = {
+    {112, game_kind::kQuake2},
+    {112, game_kind::kSin},
+    {112, game_kind::kHeretic2},
+    {112, game_kind::kHalfLife},
+    {205, game_kind::kHexen2},
+    {206, game_kind::kHexen2},
+    {207, game_kind::kHexen2},
+    {208, game_kind::kHexen2},
+    {211, game_kind::kUnreal},
+    {212, game_kind::kUnreal},
     {1105, game_kind::kSin},
+    {1113, game_kind::kSin},
+    {1114, game_kind::kSin},
+    {1115, game_kind::kSin},
+    {1116, game_kind::kSin},
+    {1120, game_kind::kSin},
+    {1121, game_kind::kSin},
+    {1122, game_kind::kSin},
+    {1123, game_kind::kSin},
+    {1124, game_kind::kSin},
     {1114, game_kind::kUnreal},
     {1115, game_kind::kUnreal},
     {1116, game_kind::kUnreal},

@@ -358,9 +358,8 @@ constexpr HeadingRow kHeadingsOfHalfLife[] = {
     {1100, " Camera Tricks!"},
 };
 constexpr int kHiddenInHalfLife[] = {
-    112, 206, 207, 208, 209, 210, 211, 212, 409, 411, 412, 413, 909, 1110, 1111, 1112, 1113, 1114, 1115, 1116,
+    112, 209, 210, 211, 212, 409, 411, 412, 413, 909, 1110, 1111, 1112, 1113, 1114, 1115, 1116,
 };
-
 // clang-format on
 
 }  // namespace lv::listing

@@ -183,7 +183,6 @@ constexpr HeadingRow kHeadingsOfHexen2[] = {
 constexpr int kHiddenInHexen2[] = {
     205, 206, 207, 208, 211, 212, 411, 412, 413,
 };
-
 // clang-format on
 
 }  // namespace lv::listing

@@ -80,7 +80,6 @@ constexpr HeadingRow kHeadingsOfUnreal[] = {
 constexpr int kHiddenInUnreal[] = {
     114, 116, 211, 212, 301, 302, 304, 308, 409, 1101, 1105, 1114, 1115, 1116, 1123, 1124,
 };
-
 // clang-format on
 
 }  // namespace lv::listing
