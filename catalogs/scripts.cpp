@@ -116,4 +116,20 @@ bool FillScriptsCombo(Run& run, CatalogLists& lists) {
     return true;
 }
 
+bool AddToScripts(Run& run, TextView title, TextView path) {
+    const auto stored = ReadCatalog(run, kScripts);
+    const Text lower = LowerCase(path);
+    if (!stored || !FitsAField(lower)) {
+        return false;
+    }
+    for (std::size_t i = 0; i < stored->Count(); ++i) {
+        if (SameText(Trim(stored->Field(i, 1)), lower)) {
+            return false;
+        }
+    }
+    Text all = stored->Count() == 0 ? Text() : CatalogValue(run, kScripts);
+    AppendRecord(all, Join(title, ";", lower));
+    return StoreCatalog(run, kScripts.Key, all);
+}
+
 }  // namespace lv

@@ -21,4 +21,8 @@ bool FixScriptRegistries(Run& run);
 /// script. All stored paths become lower case. False if the program ended over a damaged value.
 bool FillScriptsCombo(Run& run, CatalogLists& lists);
 
+/// Puts a script into the stored catalog, its path in lower case, unless it stands there or its path can't stand in a
+/// list. True if the value has changed: the lists don't show it yet. Over a damaged value the program ends.
+bool AddToScripts(Run& run, TextView title, TextView path);
+
 }  // namespace lv

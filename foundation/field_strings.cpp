@@ -52,7 +52,7 @@ Text GetKeyOrValue(TextView line, bool wantValue) {
     return Text(line.substr(0, at));
 }
 
-Text GetQuotedWord(TextView line, Index index) {
+TextView QuotedWordView(TextView line, Index index) {
     bool inQuotes = false;
     bool inWord = false;
     int word = -1;
@@ -79,9 +79,13 @@ Text GetQuotedWord(TextView line, Index index) {
             }
             ++end;
         }
-        return Text(line.substr(at, end - at));
+        return line.substr(at, end - at);
     }
     return {};
+}
+
+Text GetQuotedWord(TextView line, Index index) {
+    return Text(QuotedWordView(line, index));
 }
 
 Text PadToWidth(TextView text, std::size_t width) {
@@ -142,22 +146,30 @@ Text TrimWhite(TextView text) {
     return Text(text);
 }
 
-Text Trim(TextView text) {
+TextView TrimView(TextView text) {
     const std::size_t begin = text.find_first_not_of(' ');
     if (begin == kNone) {
         return {};
     }
-    return Text(text.substr(begin, text.find_last_not_of(' ') - begin + 1));
+    return text.substr(begin, text.find_last_not_of(' ') - begin + 1);
 }
 
-Text StripQuotes(TextView text) {
+Text Trim(TextView text) {
+    return Text(TrimView(text));
+}
+
+TextView StripQuotesView(TextView text) {
     if (!text.empty() && text.back() == '"') {
         text.remove_suffix(1);
     }
     if (!text.empty() && text.front() == '"') {
         text.remove_prefix(1);
     }
-    return Text(text);
+    return text;
+}
+
+Text StripQuotes(TextView text) {
+    return Text(StripQuotesView(text));
 }
 
 Text LastPathPart(TextView path) {

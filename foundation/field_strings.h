@@ -2,6 +2,7 @@
 //
 // Lists kept in one text value: fields joined by a one-character separator, with no escape. Every catalog is read,
 // changed and written back through these functions, so their edges are part of the stored format.
+// What ends in View is a stretch of the argument, for texts too long to be copied.
 
 #pragma once
 
@@ -23,6 +24,7 @@ Text GetKeyOrValue(TextView line, bool wantValue);
 /// The word at `index` (from 0) of a line whose words are parted by blanks outside double quotes. The quotes stay in
 /// the result. Empty beyond the last word.
 Text GetQuotedWord(TextView line, Index index);
+TextView QuotedWordView(TextView line, Index index);
 
 /// Cut, or padded with blanks, to exactly `width` characters.
 Text PadToWidth(TextView text, std::size_t width);
@@ -46,9 +48,11 @@ Text TrimWhite(TextView text);
 
 /// Without blanks at both ends, and nothing but blanks.
 Text Trim(TextView text);
+TextView TrimView(TextView text);
 
 /// Without one closing and one opening double quote.
 Text StripQuotes(TextView text);
+TextView StripQuotesView(TextView text);
 
 /// What stands behind the last "\", less leading blanks; the whole path without one.
 Text LastPathPart(TextView path);

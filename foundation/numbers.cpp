@@ -1,5 +1,6 @@
 #include "foundation/numbers.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -60,6 +61,14 @@ Index ToIndex(TextView text) {
 
 std::int32_t ToLong(TextView text) {
     return Rounded<std::int32_t>(text);
+}
+
+Text NumberText(double number) {
+    std::array<char, 400> digits{};  // the longest, 5e-324, takes 326
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed).ptr;
+    const Text text(digits.data(), end);
+    return text == "-0" ? "0" : text;
 }
 
 }  // namespace lv

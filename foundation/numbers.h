@@ -17,4 +17,7 @@ Index ToIndex(TextView text);
 /// As ToNumber, rounded, and held within 32 bits.
 std::int32_t ToLong(TextView text);
 
+/// The number in its shortest form, with "." and without an exponent: 0.50 is "0.5".
+Text NumberText(double number);
+
 }  // namespace lv

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 
 #include "foundation/numbers.h"
@@ -19,13 +18,6 @@ constexpr double kWidestScreen = 100000;  // pixels
 // The manual of the home system, and the handbook for the toolkit's own viewer.
 constexpr std::array<TextView, 2> kHelpFiles = {"\\LV3D.hlp", "\\handbook\\handbook.hhp"};
 constexpr TextView kUsualDirectory = "C:\\Progra~1\\ostran~1\\lorvan~1";
-
-/// Whole numbers have no point.
-Text NumberText(double number) {
-    std::array<char, 64> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    return {digits.data(), end};
-}
 
 double Middle(double outer, double inner) {
     return std::trunc((std::nearbyint(outer) - std::nearbyint(inner)) / 2);

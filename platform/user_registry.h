@@ -6,8 +6,10 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/error.h"
 
@@ -22,6 +24,16 @@ struct RegistryValue {
     std::uint32_t Number = 0;
 };
 
+struct RegistryPlace {
+    std::string Path;
+    std::string Name;
+};
+
+struct RegistryEntry {
+    RegistryPlace Place;
+    RegistryValue Value;
+};
+
 class UserRegistry {
   public:
     virtual ~UserRegistry() = default;
@@ -31,6 +43,12 @@ class UserRegistry {
 
     /// Writes the value; a key that is not there is made first. Error 5 if access is denied.
     virtual Error Set(std::string_view path, std::string_view name, const RegistryValue& value) = 0;
+
+    /// Query for each place, in their order; for hundreds of values, where one access is dear.
+    virtual std::vector<Result<RegistryValue>> QueryAll(std::span<const RegistryPlace> places);
+
+    /// Set for each entry, in their order; what stands behind the first that fails is not written.
+    virtual Error SetAll(std::span<const RegistryEntry> entries);
 };
 
 }  // namespace lv

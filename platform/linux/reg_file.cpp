@@ -232,6 +232,11 @@ std::string TextData(std::string_view text) {
     return data + "00,00";
 }
 
+bool IsWritable(const RegistryPlace& place, const RegistryValue& value) {
+    const bool known = value.Type == kRegistryText || value.Type == kRegistryNumber;
+    return known && !place.Path.empty() && !HasControls(place.Path) && !HasControls(place.Name);
+}
+
 std::string NumberData(std::uint32_t number) {
     char digits[24];
     std::snprintf(digits, sizeof digits, "dword:%08x", static_cast<unsigned>(number));
@@ -261,15 +266,26 @@ std::optional<RegistryKey> ReadRegFile(std::string_view bytes, std::string_view 
 }
 
 std::optional<std::string> ComposeRegFile(std::string_view path, std::string_view name, const RegistryValue& value) {
-    const bool known = value.Type == kRegistryText || value.Type == kRegistryNumber;
-    if (path.empty() || HasControls(path) || HasControls(name) || !known) {
-        return std::nullopt;
-    }
+    const RegistryEntry entry = {{std::string(path), std::string(name)}, value};
+    return ComposeRegFile(std::span(&entry, 1));
+}
+
+std::optional<std::string> ComposeRegFile(std::span<const RegistryEntry> entries) {
     std::string text(kTitle);
-    text += "\r\n\r\n[" + std::string(kRoot) + std::string(path) + "]\r\n";
-    text += name.empty() ? "@" : "\"" + Escaped(name) + "\"";
-    text += "=" + (value.Type == kRegistryText ? TextData(value.Text) : NumberData(value.Number)) + "\r\n\r\n";
-    return std::string(kByteOrderMark) + ToUtf16(text);
+    text += "\r\n";
+    std::string_view inKey;
+    for (const auto& [place, value] : entries) {
+        if (!IsWritable(place, value)) {
+            return std::nullopt;
+        }
+        if (place.Path != inKey) {
+            text += "\r\n[" + std::string(kRoot) + place.Path + "]\r\n";
+            inKey = place.Path;
+        }
+        text += place.Name.empty() ? "@" : "\"" + Escaped(place.Name) + "\"";
+        text += "=" + (value.Type == kRegistryText ? TextData(value.Text) : NumberData(value.Number)) + "\r\n";
+    }
+    return std::string(kByteOrderMark) + ToUtf16(text + "\r\n");
 }
 
 }  // namespace lv

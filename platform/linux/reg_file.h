@@ -6,6 +6,7 @@
 
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -23,5 +24,8 @@ std::optional<RegistryKey> ReadRegFile(std::string_view bytes, std::string_view 
 /// A registry file that sets one value. Nothing if `path` or `name` holds a control character, or the value is neither
 /// text nor a number: such a file could say something else than is meant.
 std::optional<std::string> ComposeRegFile(std::string_view path, std::string_view name, const RegistryValue& value);
+
+/// The same for any number of values, in their order; nothing if one of them is refused.
+std::optional<std::string> ComposeRegFile(std::span<const RegistryEntry> entries);
 
 }  // namespace lv

@@ -78,6 +78,22 @@ std::string_view PlainStart(std::string_view path) {
     return end == std::string_view::npos ? std::string_view() : plain.substr(0, end);
 }
 
+bool LiesIn(std::string_view path, std::string_view key) {
+    return path == key || (path.starts_with(key) && path[key.size()] == '\\');
+}
+
+// The deepest key that holds all of these, by id; empty if they share none.
+std::string_view CommonKey(const std::map<std::string, std::string_view>& paths) {
+    std::string_view id = paths.begin()->first;
+    for (const auto& [other, path] : paths) {
+        while (!id.empty() && !LiesIn(other, id)) {
+            const std::size_t end = id.rfind('\\');
+            id = id.substr(0, end == std::string_view::npos ? 0 : end);
+        }
+    }
+    return paths.begin()->second.substr(0, id.size());
+}
+
 Result<RegistryValue> ValueIn(const std::optional<RegistryKey>& key, std::string_view name) {
     if (!key) {
         return NotThere();
@@ -99,35 +115,79 @@ Result<RegistryValue> WineRegistry::Query(std::string_view path, std::string_vie
     if (wine_.Command.empty()) {
         return QueryStore(path, name);
     }
-    const auto now = std::chrono::steady_clock::now();
-    const std::string id = LowerCase(path);
-    if (const auto known = remembered_.find(id); known != remembered_.end()) {
-        if (now - known->second.At < kRememberedFor) {
-            return ValueIn(known->second.Key, name);
-        }
-        remembered_.erase(known);
+    const RegistryPlace place = {std::string(path), std::string(name)};
+    return QueryAll(std::span(&place, 1)).front();
+}
+
+std::vector<Result<RegistryValue>> WineRegistry::QueryAll(std::span<const RegistryPlace> places) {
+    if (wine_.Command.empty()) {
+        return UserRegistry::QueryAll(places);
     }
-    std::error_code failed;
-    if (!fs::exists(wine_.Prefix / "dosdevices", failed)) {
-        return NotThere();
+    if (const Error failed = RememberKeys(places)) {
+        return {places.size(), Result<RegistryValue>(failed)};
     }
-    Result<std::optional<RegistryKey>> key = Export(path);
-    if (!key.Ok()) {
-        return key.Fault;
+    std::vector<Result<RegistryValue>> values;
+    values.reserve(places.size());
+    for (const RegistryPlace& place : places) {
+        values.push_back(Recall(place));
     }
-    auto found = ValueIn(key.Value, name);
-    remembered_[id] = {std::chrono::steady_clock::now(), std::move(key.Value)};
-    return found;
+    return values;
 }
 
 Error WineRegistry::Set(std::string_view path, std::string_view name, const RegistryValue& value) {
-    path = WithoutEndingSeparators(path);
+    const RegistryEntry entry = {{std::string(path), std::string(name)}, value};
+    return SetAll(std::span(&entry, 1));
+}
+
+Error WineRegistry::SetAll(std::span<const RegistryEntry> entries) {
+    std::vector<RegistryEntry> plain(entries.begin(), entries.end());
+    for (RegistryEntry& entry : plain) {
+        entry.Place.Path = WithoutEndingSeparators(entry.Place.Path);
+    }
     remembered_.clear();
-    const auto file = ComposeRegFile(path, name, value);
+    const auto file = ComposeRegFile(plain);
     if (!file) {
         return Denied();
     }
-    return wine_.Command.empty() ? SetInStore(path, name, value) : Import(*file);
+    if (!wine_.Command.empty()) {
+        return plain.empty() ? Error() : Import(*file);
+    }
+    for (const RegistryEntry& entry : plain) {
+        if (Error failed = SetInStore(entry.Place.Path, entry.Place.Name, entry.Value)) {
+            return failed;
+        }
+    }
+    return {};
+}
+
+Error WineRegistry::RememberKeys(std::span<const RegistryPlace> places) {
+    const auto now = std::chrono::steady_clock::now();
+    std::erase_if(remembered_, [now](const auto& known) { return now - known.second.At >= kRememberedFor; });
+    std::map<std::string, std::string_view> missing;
+    for (const RegistryPlace& place : places) {
+        const std::string_view path = WithoutEndingSeparators(place.Path);
+        if (std::string id = LowerCase(path); !remembered_.contains(id)) {
+            missing.emplace(std::move(id), path);
+        }
+    }
+    std::error_code failed;
+    if (missing.empty() || !fs::exists(wine_.Prefix / "dosdevices", failed)) {
+        return {};
+    }
+    const Result<std::string> file = Export(CommonKey(missing));
+    if (!file.Ok()) {
+        return file.Fault;
+    }
+    const auto at = std::chrono::steady_clock::now();
+    for (const auto& [id, path] : missing) {
+        remembered_[id] = {at, ReadRegFile(file.Value, path)};
+    }
+    return {};
+}
+
+Result<RegistryValue> WineRegistry::Recall(const RegistryPlace& place) const {
+    const auto known = remembered_.find(LowerCase(WithoutEndingSeparators(place.Path)));
+    return known == remembered_.end() ? Result<RegistryValue>(NotThere()) : ValueIn(known->second.Key, place.Name);
 }
 
 Result<RegistryValue> WineRegistry::QueryStore(std::string_view path, std::string_view name) {
@@ -151,10 +211,13 @@ Result<RegistryValue> WineRegistry::QueryStore(std::string_view path, std::strin
 
 Error WineRegistry::SetInStore(std::string_view path, std::string_view name, const RegistryValue& value) {
     const std::string text = value.Type == kRegistryText ? "1:" + value.Text : "4:" + std::to_string(value.Number);
+    if (store_.Read(kStoreApplication, path, name) == text) {
+        return {};  // a write waits for the disk, and most of what is set stands there already
+    }
     return store_.Write(kStoreApplication, path, name, text);
 }
 
-Result<std::optional<RegistryKey>> WineRegistry::Export(std::string_view path) {
+Result<std::string> WineRegistry::Export(std::string_view path) {
     const PrivateDirectory directory;
     const std::string key = "HKCU\\" + std::string(PlainStart(path));
     const Result<int> status =
@@ -164,13 +227,9 @@ Result<std::optional<RegistryKey>> WineRegistry::Export(std::string_view path) {
     }
     const auto file = OpenHostFile((directory.Path() / kFileName).string());
     if (status.Value != 0 || !file.Ok()) {
-        return std::optional<RegistryKey>();
+        return std::string();
     }
-    const Result<std::string> bytes = ReadToEnd(file.Value->Number());
-    if (!bytes.Ok()) {
-        return bytes.Fault;
-    }
-    return ReadRegFile(bytes.Value, path);
+    return ReadToEnd(file.Value->Number());
 }
 
 Error WineRegistry::Import(std::string_view bytes) {

@@ -40,6 +40,12 @@ class WineRegistry : public UserRegistry {
     /// Error 5 also for a value that is neither text nor a number, and for control characters in the names.
     Error Set(std::string_view path, std::string_view name, const RegistryValue& value) override;
 
+    /// One run of Wine for all. If Wine itself fails, each value has that error.
+    std::vector<Result<RegistryValue>> QueryAll(std::span<const RegistryPlace> places) override;
+
+    /// One run of Wine for all. One value that would be refused keeps all from being written.
+    Error SetAll(std::span<const RegistryEntry> entries) override;
+
   private:
     struct Remembered {
         std::chrono::steady_clock::time_point At;
@@ -47,7 +53,10 @@ class WineRegistry : public UserRegistry {
     };
     Result<RegistryValue> QueryStore(std::string_view path, std::string_view name);
     Error SetInStore(std::string_view path, std::string_view name, const RegistryValue& value);
-    Result<std::optional<RegistryKey>> Export(std::string_view path);
+    Error RememberKeys(std::span<const RegistryPlace> places);
+    [[nodiscard]] Result<RegistryValue> Recall(const RegistryPlace& place) const;
+    /// A registry file of the key and all below it; empty if there is no such key.
+    Result<std::string> Export(std::string_view path);
     Error Import(std::string_view bytes);
     Result<int> RunReg(const std::filesystem::path& directory, std::vector<std::string> arguments);
 

@@ -31,6 +31,9 @@ Error MemorySettings::Write(std::string_view application, std::string_view secti
 }
 
 Result<RegistryValue> MemoryRegistry::Query(std::string_view path, std::string_view name) {
+    if (RefuseQueries) {
+        return RefuseQueries;
+    }
     const auto found = Values.find(LowerCase(path) + '|' + LowerCase(name));
     if (found == Values.end()) {
         return Error{2, "The system cannot find the file specified."};
@@ -39,6 +42,9 @@ Result<RegistryValue> MemoryRegistry::Query(std::string_view path, std::string_v
 }
 
 Error MemoryRegistry::Set(std::string_view path, std::string_view name, const RegistryValue& value) {
+    if (RefuseWrites) {
+        return RefuseWrites;
+    }
     Values[LowerCase(path) + '|' + LowerCase(name)] = value;
     return {};
 }

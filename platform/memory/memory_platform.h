@@ -36,6 +36,8 @@ class MemoryRegistry : public UserRegistry {
     Error Set(std::string_view path, std::string_view name, const RegistryValue& value) override;
 
     std::map<std::string, RegistryValue> Values;  // by the lower-case "path|name"
+    Error RefuseQueries;
+    Error RefuseWrites;
 };
 
 /// A tree of files. Entries are listed in the order they were made.

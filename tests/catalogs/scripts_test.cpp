@@ -218,5 +218,41 @@ TEST_F(ScriptsTest, ACatalogThatOutgrowsTheStoreIsRefused) {
     EXPECT_EQ(lists.Script_Cbo.Items.size(), 600U);
 }
 
+TEST_F(ScriptsTest, AScriptIsAddedBehindTheOthersInLowerCase) {
+    Store("Scripts", "A;c:\\q\\a.cfg");
+    EXPECT_TRUE(AddToScripts(run, "My Own", "C:\\Q\\MY.CFG"));
+    EXPECT_EQ(Stored("Scripts"), "A;c:\\q\\a.cfg;My Own;c:\\q\\my.cfg");
+}
+
+TEST_F(ScriptsTest, AScriptIsAddedToNothing) {
+    EXPECT_TRUE(AddToScripts(run, "my.cfg", "C:\\Q\\MY.CFG"));
+    EXPECT_EQ(Stored("Scripts"), "my.cfg;c:\\q\\my.cfg");
+}
+
+TEST_F(ScriptsTest, AValueTooShortForARecordIsReplaced) {
+    Store("Scripts", "x");
+    EXPECT_TRUE(AddToScripts(run, "my.cfg", "C:\\Q\\MY.CFG"));
+    EXPECT_EQ(Stored("Scripts"), "my.cfg;c:\\q\\my.cfg");
+}
+
+TEST_F(ScriptsTest, AScriptThatStandsThereIsNotAddedAgain) {
+    Store("Scripts", "A; C:\\Q\\a.CFG ;B;c:\\q\\b.cfg");
+    EXPECT_FALSE(AddToScripts(run, "again", "c:\\q\\A.cfg"));
+    EXPECT_EQ(Stored("Scripts"), "A; C:\\Q\\a.CFG ;B;c:\\q\\b.cfg");
+}
+
+TEST_F(ScriptsTest, APathThatNoListCanHoldIsNotAdded) {
+    Store("Scripts", "A;c:\\q\\a.cfg");
+    EXPECT_FALSE(AddToScripts(run, "odd", "c:\\q\\a;b.cfg"));
+    EXPECT_EQ(Stored("Scripts"), "A;c:\\q\\a.cfg");
+}
+
+TEST_F(ScriptsTest, AddingToADamagedCatalogEndsTheProgram) {
+    Store("Scripts", "A;c:\\q\\a.cfg;B");
+    ExpectDamage("defaultScripts", "A;c:\\q\\a.cfg;B");
+    EXPECT_FALSE(AddToScripts(run, "my.cfg", "c:\\q\\my.cfg"));
+    EXPECT_TRUE(run.Ended);
+}
+
 }  // namespace
 }  // namespace lv

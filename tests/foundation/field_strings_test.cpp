@@ -265,6 +265,16 @@ TEST(Trim, TakesBlanksOnly) {
     EXPECT_EQ(Trim("   "), "");
 }
 
+TEST(FieldStringViews, AreStretchesOfTheText) {
+    const Text line = "  bind \"a b\"  ";
+    EXPECT_EQ(TrimView(line), "bind \"a b\"");
+    EXPECT_EQ(TrimView(line).data(), line.data() + 2);
+    EXPECT_EQ(QuotedWordView(line, 1), "\"a b\"");
+    EXPECT_EQ(StripQuotesView(QuotedWordView(line, 1)), "a b");
+    EXPECT_EQ(StripQuotesView(QuotedWordView(line, 1)).data(), line.data() + 8);
+    EXPECT_EQ(TrimView("   "), "");
+}
+
 TEST(StripQuotes, TakesOneOfEach) {
     EXPECT_EQ(StripQuotes("\"a b\""), "a b");
     EXPECT_EQ(StripQuotes("\"\"a\"\""), "\"a\"");

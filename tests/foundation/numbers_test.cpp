@@ -68,6 +68,21 @@ TEST(ToLong, IsHeldWithinThirtyTwoBits) {
     EXPECT_EQ(ToLong("70000"), 70000);
 }
 
+TEST(NumberText, IsTheShortestForm) {
+    EXPECT_EQ(NumberText(0.5), "0.5");
+    EXPECT_EQ(NumberText(0.022), "0.022");
+    EXPECT_EQ(NumberText(-3), "-3");
+    EXPECT_EQ(NumberText(-0.0), "0");
+}
+
+TEST(NumberText, HasNoExponent) {
+    EXPECT_EQ(NumberText(100000), "100000");
+    EXPECT_EQ(NumberText(1e21), "1000000000000000000000");
+    EXPECT_EQ(NumberText(0.000001), "0.000001");
+    EXPECT_EQ(NumberText(5e-324).size(), 326);
+    EXPECT_EQ(NumberText(-std::numeric_limits<double>::max()).size(), 310);
+}
+
 TEST(Numbers, SurviveHostileTexts) {
     std::mt19937 random(7);
     for (int round = 0; round < 5000; ++round) {

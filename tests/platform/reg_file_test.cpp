@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace lv {
 
 namespace {
@@ -188,6 +190,27 @@ TEST(ComposeRegFile, IsReadBack) {
     EXPECT_EQ(ReadRegFile(file.value_or(""), "a\\b")->at("n").Text, all);
     const auto plain = ComposeRegFile("A\\B", "n", {kRegistryText, all.substr(32), 0});
     EXPECT_EQ(ReadRegFile(plain.value_or(""), "a\\b")->at("n").Text, all.substr(32));
+}
+
+TEST(ComposeRegFile, NamesAKeyOnceForItsValues) {
+    const std::vector<RegistryEntry> entries = {{{"A", "x"}, {kRegistryText, "1", 0}},
+                                                {{"A", "y"}, {kRegistryNumber, "", 2}},
+                                                {{"A\\B", ""}, {kRegistryText, "3", 0}}};
+    EXPECT_EQ(ComposeRegFile(entries), Utf16("Windows Registry Editor Version 5.00\r\n"
+                                             "\r\n"
+                                             "[HKEY_CURRENT_USER\\A]\r\n"
+                                             "\"x\"=\"1\"\r\n"
+                                             "\"y\"=dword:00000002\r\n"
+                                             "\r\n"
+                                             "[HKEY_CURRENT_USER\\A\\B]\r\n"
+                                             "@=\"3\"\r\n"
+                                             "\r\n"));
+}
+
+TEST(ComposeRegFile, IsRefusedWholeForOneValue) {
+    const std::vector<RegistryEntry> entries = {{{"A", "x"}, {kRegistryText, "1", 0}},
+                                                {{"A", "new\nline"}, {kRegistryText, "1", 0}}};
+    EXPECT_EQ(ComposeRegFile(entries), std::nullopt);
 }
 
 }  // namespace lv

@@ -174,6 +174,102 @@ TEST(WineRegistry, GivesUpAWineThatHangs) {
     EXPECT_EQ(registry.Set(kSettings, "a", {kRegistryText, "1", 0}).Number, 57);
 }
 
+TEST(WineRegistry, AsksWineOnceForPlacesInSeveralKeys) {
+    WithFakeWine fake;
+    const std::vector<RegistryEntry> held = {{{"Software\\P\\Player", "Nick"}, {kRegistryText, "Zo\xEB", 0}},
+                                             {{"Software\\P\\Player\\KB", "119"}, {kRegistryText, "+forward", 0}}};
+    WriteBytes(fake.Scratch / "export.reg", ComposeRegFile(held).value_or(""));
+    WineRegistry registry(fake.Store, fake.Setup());
+    const std::vector<RegistryPlace> places = {
+        {"Software\\P\\PLAYER\\KB\\", "119"}, {"Software\\P\\Player", "Nick"}, {"Software\\P\\Player\\CVAR", "gamma"}};
+    const auto values = registry.QueryAll(places);
+    ASSERT_EQ(values.size(), 3u);
+    EXPECT_EQ(values[0].Value.Text, "+forward");
+    EXPECT_EQ(values[1].Value.Text, "Zo\xEB");
+    EXPECT_EQ(values[2].Fault.Number, 2);
+    EXPECT_EQ(registry.Query("Software\\P\\Player\\KB", "119").Value.Text, "+forward");
+    EXPECT_EQ(fake.Calls(), fake.Call("reg export HKCU\\Software\\P\\Player lv_666.reg /y"));
+}
+
+TEST(WineRegistry, ExportsTheKeyAboveAllThatAreAskedFor) {
+    struct Case {
+        const char* First;
+        const char* Second;
+        const char* Exported;
+    };
+    const Case cases[] = {
+        {"Software\\A\\B", "Software\\A\\C", "HKCU\\Software\\A"},
+        {"Software\\A", "Software\\AB", "HKCU\\Software"},
+        {"Software\\A\\B", "Software\\A", "HKCU\\Software\\A"},
+        {"SOFTWARE\\A\\C", "Software\\A\\B", "HKCU\\Software\\A"},
+        {"Software\\A", "System\\A", "HKCU"},
+        {"Software\\Zo\xEB\\A", "Software\\Zo\xEB\\B", "HKCU\\Software"},
+    };
+    for (const Case& one : cases) {
+        WithFakeWine fake;
+        WineRegistry registry(fake.Store, fake.Setup());
+        const std::vector<RegistryPlace> places = {{one.First, "a"}, {one.Second, "a"}};
+        EXPECT_EQ(registry.QueryAll(places).size(), 2u);
+        EXPECT_EQ(fake.Calls(), fake.Call(std::string("reg export ") + one.Exported + " lv_666.reg /y")) << one.First;
+    }
+}
+
+TEST(WineRegistry, WritesManyValuesThroughOneImport) {
+    WithFakeWine fake;
+    WineRegistry registry(fake.Store, fake.Setup());
+    const std::vector<RegistryEntry> entries = {{{"Software\\A\\KB\\", "119"}, {kRegistryText, "+forward", 0}},
+                                                {{"Software\\A", "Count"}, {kRegistryNumber, "", 7}}};
+    EXPECT_EQ(registry.SetAll(entries).Number, 0);
+    EXPECT_EQ(fake.Calls(), fake.Call("reg import lv_666.reg"));
+    const std::string written = BytesOf(fake.Scratch / "import.reg");
+    EXPECT_EQ(ReadRegFile(written, "Software\\A\\KB").value_or(RegistryKey())["119"].Text, "+forward");
+    EXPECT_EQ(ReadRegFile(written, "Software\\A").value_or(RegistryKey())["count"].Number, 7u);
+}
+
+TEST(WineRegistry, WritesNothingWithOneValueThatIsRefused) {
+    WithFakeWine fake;
+    WithoutWine without;
+    WineRegistry registry(fake.Store, fake.Setup());
+    const std::vector<RegistryEntry> entries = {{{"Software\\A", "n"}, {kRegistryText, "x", 0}},
+                                                {{"Software\\A", "b"}, {3, "x", 0}}};
+    EXPECT_EQ(registry.SetAll(entries).Number, 5);
+    EXPECT_EQ(without.Registry.SetAll(entries).Number, 5);
+    EXPECT_EQ(fake.Calls(), "(none)");
+    EXPECT_EQ(without.Store.Count(), 0u);
+}
+
+TEST(WineRegistry, HasNothingToDoForNothing) {
+    WithFakeWine fake;
+    WineRegistry registry(fake.Store, fake.Setup());
+    EXPECT_EQ(registry.SetAll({}).Number, 0);
+    EXPECT_TRUE(registry.QueryAll({}).empty());
+    EXPECT_EQ(fake.Calls(), "(none)");
+}
+
+TEST(WineRegistry, GivesEachPlaceTheErrorOfWine) {
+    WithFakeWine fake;
+    fake.Script("sleep 60");
+    WineRegistry registry(fake.Store, {fake.Command, fake.Prefix, std::chrono::milliseconds(100)});
+    const std::vector<RegistryPlace> places = {{"Software\\A", "a"}, {"Software\\B", "b"}};
+    const auto values = registry.QueryAll(places);
+    ASSERT_EQ(values.size(), 2u);
+    EXPECT_EQ(values[0].Fault.Number, 57);
+    EXPECT_EQ(values[1].Fault.Number, 57);
+}
+
+TEST(WineRegistry, WritesToTheStoreOnlyWhatIsNew) {
+    WithoutWine without;
+    const std::vector<RegistryEntry> entries = {{{"Software\\A", "a"}, {kRegistryText, "1", 0}},
+                                                {{"Software\\A", "b"}, {kRegistryText, "2", 0}}};
+    EXPECT_EQ(without.Registry.Set("Software\\A", "a", {kRegistryText, "1", 0}).Number, 0);
+    EXPECT_EQ(without.Registry.SetAll(entries).Number, 0);
+    const std::vector<std::string> log = {"Software\\A|a|1:1", "Software\\A|b|1:2"};
+    EXPECT_EQ(without.Store.Log, log);
+    const std::vector<RegistryPlace> places = {{"Software\\A", "B"}, {"Software\\A", "c"}};
+    EXPECT_EQ(without.Registry.QueryAll(places)[0].Value.Text, "2");
+    EXPECT_EQ(without.Registry.QueryAll(places)[1].Fault.Number, 2);
+}
+
 TEST(WineRegistry, LeavesNothingBehind) {
     WithFakeWine fake;
     fake.Script("pwd >>'" + fake.Scratch.Path().string() + "/places'");

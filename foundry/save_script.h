@@ -1,0 +1,31 @@
+// foundry/save_script.h
+//
+// Saving the editor's script: under its name or another one, with what the user is asked and told on the way.
+
+#pragma once
+
+#include "catalogs/catalog_lists.h"
+#include "foundry/script_document.h"
+
+namespace lv {
+
+enum class SaveName {
+    Same,      // CurrentScriptPath
+    AskForIt,  // the user chooses the file
+};
+
+struct SaveManner {
+    SaveName Name = SaveName::Same;
+    bool Quiet = false;        // success is not told: the program saves by itself
+    bool Diagnostics = false;  // tells how long a path the dialog may give
+};
+
+/// Writes the script, in one step: after a failure the old file is there whole and the document is as it was. After
+/// success the document is clean, has the file's path, and the file stands in the catalog of scripts; a key bound to
+/// the empty command was written so and is free now. True if the file was written.
+bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, const SaveManner& manner = {});
+
+/// What the editor's window is called.
+Text EditorCaption(TextView scriptPath);
+
+}  // namespace lv
