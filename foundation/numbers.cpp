@@ -65,8 +65,7 @@ std::int32_t ToLong(TextView text) {
 
 Text NumberText(double number) {
     std::array<char, 400> digits{};  // the longest, 5e-324, takes 326
-    const auto end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed).ptr;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed).ptr;
     const Text text(digits.data(), end);
     return text == "-0" ? "0" : text;
 }
