@@ -14,6 +14,7 @@
 #include "catalogs/forms/entry_forms.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "foundation/question_box.h"
+#include "gamespy/forms/game_spy_form.h"
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/start.h"
@@ -39,6 +40,7 @@ struct Program {
         User.SetRun(TheRun);
         User.AddForms(MakeEntryForm);
         User.AddForms(MakeInstallForm);
+        User.AddForms(MakeGameSpyForm);
         ConnectWizard(TheLauncher);
     }
 
