@@ -2,6 +2,7 @@
 #include <wx/checkbox.h>
 #include <wx/choice.h>
 #include <wx/radiobut.h>
+#include <wx/timer.h>
 
 #include "catalogs/add_server.h"
 #include "catalogs/forms/entry_forms.h"
@@ -82,12 +83,19 @@ TEST_F(GameSpyFormTest, ListsAreUsedByKeyboard) {
     EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "SpyExecutablesPos0"), "1");
 }
 
+/// Leaves the window that is up by then.
+struct LaterEscape : wxTimer {
+    void Notify() override { PressKey(WXK_ESCAPE); }
+};
+
 TEST_F(GameSpyFormTest, AsksForTheProgramThatWasNotFound) {
-    WhenModal([] {
+    LaterEscape chooser;  // comes when the question has gone
+    WhenModal([&chooser] {
         DoAndAnswer([] { ClickOn(Find("DoIt_Cmd")); },
-                    [] {
+                    [&chooser] {
                         Screenshot("game_spy_where");
-                        DoAndAnswer([] { PressKey(WXK_RETURN); }, [] { PressKey(WXK_ESCAPE); });
+                        PressKey(WXK_RETURN);
+                        chooser.StartOnce(1000);
                     });
         EXPECT_TRUE(Find("DoIt_Cmd")->IsShownOnScreen());
         ClickOn(Find("Cancel_Cmd"));
