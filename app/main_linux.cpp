@@ -26,6 +26,7 @@
 #include "platform/linux/sqlite_settings.h"
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_registry.h"
+#include "platform/linux/x11_desktop.h"
 #include "wizard/forms/install_form.h"
 #include "wizard/wizard.h"
 
@@ -37,6 +38,7 @@ namespace {
 struct Program {
     explicit Program(std::unique_ptr<SqliteSettings> store) : Settings(std::move(store)) {
         System.Instance = &Instance;
+        System.Windows = &Windows;
         User.SetRun(TheRun);
         User.AddForms(MakeEntryForm);
         User.AddForms(MakeInstallForm);
@@ -50,6 +52,7 @@ struct Program {
     LinuxProcesses Programs{Disk};
     WxClipboard Clip;
     LinuxClock Time;
+    X11Desktop Windows;
     LinuxInstance Instance{ConfigDirectory().string()};
     Platform System{*Settings, Registry, Disk, Programs, Clip, Time};
     LauncherUser User{Disk};
