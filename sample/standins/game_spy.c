@@ -6,8 +6,9 @@
 
      game_spy [TITLE [FILE [SECONDS]]]
 
-   TITLE tells the version ("GameSpy 3D 2.20"). FILE holds what is copied, in the system's code page; without it, or
-   with an empty one, the clipboard is emptied. The window closes by itself after SECONDS (600). */
+   TITLE tells the version ("GameSpy 3D 2.20"). FILE holds what is copied, in the system's code page, by default
+   copied.txt beside the program; without it, or with an empty one, the clipboard is emptied. The window closes by
+   itself after SECONDS (600). */
 
 #include <stdio.h>
 #include <stdlib.h>
@@ -18,8 +19,17 @@
 #define LONGEST 65536
 
 static const char* title = "GameSpy 3D 2.20";
-static const char* file_name = "copied.txt";
+static char own_file[MAX_PATH];
+static const char* file_name = own_file;
 static char text[LONGEST];
+
+/* copied.txt beside the program. */
+static void FindOwnFile(void) {
+    char* slash;
+    GetModuleFileNameA(NULL, own_file, sizeof own_file - 16);
+    slash = strrchr(own_file, '\\');
+    strcpy(slash != NULL ? slash + 1 : own_file, "copied.txt");
+}
 
 static size_t ReadText(void) {
     size_t length = 0;
@@ -93,6 +103,7 @@ int main(int count, char** arguments) {
     MSG message;
     HWND window;
     UINT seconds = 600;
+    FindOwnFile();
     if (count > 1) {
         title = arguments[1];
     }
