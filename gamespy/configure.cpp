@@ -9,6 +9,7 @@
 #include "gamespy/spy_files.h"
 #include "gamespy/start_game_spy.h"
 #include "launcher/missing_executable.h"
+#include "launcher/unreal_options.h"
 #include "launcher/window_life.h"
 
 namespace lv {
@@ -95,8 +96,8 @@ Error WriteScripts(SpyLaunch& launch, const SpyGames& games) {
         }
     }
     const SpyGame& unreal = games[spy_slot::kUnreal];
-    return unreal.InUse && !unreal.Script.empty() && launch.RewriteUnrealIni ? launch.RewriteUnrealIni(unreal.Script)
-                                                                             : Error();
+    return unreal.InUse && !unreal.Script.empty() ? SetUnrealVideoOptionsForLaunch(launch.launcher, unreal.Script)
+                                                  : Error();
 }
 
 // Unreal's goes to Sin's directory: kept on purpose. Without a template the game starts without one.

@@ -5,8 +5,6 @@
 
 #pragma once
 
-#include <functional>
-
 #include "gamespy/game_spy_config.h"
 #include "launcher/launch_composition.h"
 #include "launcher/launcher.h"
@@ -19,8 +17,6 @@ struct SpyLaunch {
     const LaunchSelection& Selection;
     LaunchTexts& Texts;     // composed up to step 205; LaunchStep follows what is done
     Text EnvironmentLines;  // each ended by NewLine
-    /// Puts the video profile into an Unreal ini. Empty: the ini stays as it is.
-    std::function<Error(TextView ini)> RewriteUnrealIni;
 };
 
 /// What is left to tell, in the error report.

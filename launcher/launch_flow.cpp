@@ -7,9 +7,11 @@
 #include "gamespy/configure.h"
 #include "gamespy/game_spy_fetch.h"
 #include "launcher/environment_lines.h"
+#include "launcher/game_numbers.h"
 #include "launcher/launch_composition.h"
 #include "launcher/launch_files.h"
 #include "launcher/missing_executable.h"
+#include "launcher/unreal_options.h"
 #include "launcher/window_life.h"
 #include "video/profile_model.h"
 
@@ -77,15 +79,17 @@ bool ExecutableIsThere(Click& click) {
     return false;
 }
 
-LaunchHooks HooksOf(Run& run) {
+LaunchHooks HooksOf(Launcher& launcher) {
+    Run& run = launcher.run;
     LaunchHooks hooks;
+    hooks.RewriteUnrealIni = [&launcher] { return SetUnrealVideoOptionsForLaunch(launcher); };
     hooks.GameSpyFetch = [&run] { return std::optional<Text>(GameSpyFetch(run)); };
     return hooks;
 }
 
 /// False if the composition stopped the launch; the user knows why.
 bool Compose(Click& click) {
-    click.Texts = ComposeLaunch(click.Selection, click.Game, click.Profile, HooksOf(click.run));
+    click.Texts = ComposeLaunch(click.Selection, click.Game, click.Profile, HooksOf(click.launcher));
     switch (click.Texts.Stop.Kind) {
         case StopKind::None:
             return true;
@@ -108,7 +112,7 @@ bool WriteScript(Click& click) {
     click.Texts.LaunchStep = 205;
     AddCommandLineAdditions(click.Selection, click.Texts);
     click.Script = ScriptText(click.Texts, click.Game);
-    if (click.Script.empty() || click.Game.GameKind == 4 || !hasDirectory) {
+    if (click.Script.empty() || click.Game.GameKind == game_kind::kUnreal || !hasDirectory) {
         if (hasDirectory) {
             (void)disk.Delete(ScriptFilePath(click.Game));
         }
@@ -143,7 +147,8 @@ bool WriteBatch(Click& click) {
 /// What the view box shows, and the clipboard gets.
 Text ViewText(const Click& click) {
     return Join("AppDir = ", click.run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
-                NewLine, "Script File = ", NewLine, click.Game.GameKind == 4 ? Text() : click.Script);
+                NewLine, "Script File = ", NewLine,
+                click.Game.GameKind == game_kind::kUnreal ? click.launcher.Window.ChangedIniLines : click.Script);
 }
 
 /// Shows the files where that was asked for. True if the game is to be started.
@@ -223,12 +228,8 @@ void ConfigureInstead(Click& click, GameSpyConfig_Frm& form) {
         (void)run.System.Disk.Delete(ScriptFilePath(click.Game));
         (void)run.System.Disk.Delete(Join(click.Game.DefaultGameDirectory, "\\", kLaunchBatchFile));
     }
-    SpyLaunch launch{click.launcher,
-                     form,
-                     click.Selection,
-                     click.Texts,
-                     hasDirectory ? EnvironmentLines(click.Game, click.Profile) : Text(),
-                     {}};
+    SpyLaunch launch{click.launcher, form, click.Selection, click.Texts,
+                     hasDirectory ? EnvironmentLines(click.Game, click.Profile) : Text()};
     const SpyFailure failed = ConfigureGameSpy(launch);
     if (failed.Fault) {
         click.FailureFile = failed.FailureFile;

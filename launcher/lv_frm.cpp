@@ -36,6 +36,7 @@ constexpr OptionBox kOptionBoxes[] = {
     {&LV_Frm::UnrealDisableK6Support_Chk, "UnrealDisableK6Support_Chk", "Disable K6 Support", "", 0, kBenchTip},
     {&LV_Frm::UnrealDisableMMXSupport_Chk, "UnrealDisableMMXSupport_Chk", "Disable MMX Support", "", 0, kBenchTip},
     {&LV_Frm::UnrealNoDirectSound_Chk, "UnrealNoDirectSound_Chk", "Disable DirectSound", "", 0, kBenchTip},
+    {&LV_Frm::UnrealNoCDNeeded_Chk, "UnrealNoCDNeeded_Chk", "No CD Needed", "", 0, "Check to have Unreal read the CD's files from its own directory"},
 };
 
 struct PanelRow {
@@ -69,7 +70,7 @@ LV_Frm::LV_Frm() {
     }
     for (CheckBox LV_Frm::*const box :
          {&LV_Frm::UnrealSimulateFirstRun_Chk, &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk,
-          &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk}) {
+          &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk, &LV_Frm::UnrealNoCDNeeded_Chk}) {
         (this->*box).Visible = false;  // until Unreal is picked
     }
     Exe_Cbo.ToolTip = "List of recognized games";

@@ -36,6 +36,8 @@ struct LV_Frm {
     bool SizeChanging = false;  // the program changes the size: not the user's doing
     bool Size_Tmr_Enabled = false;
 
+    Text ChangedIniLines;  // what the last launch set in Unreal's ini
+
     Label Hint_Lbl;  // what to do next
 
     Panel Exe_Pan;
@@ -82,6 +84,7 @@ struct LV_Frm {
     CheckBox UnrealDisableK6Support_Chk;
     CheckBox UnrealDisableMMXSupport_Chk;
     CheckBox UnrealNoDirectSound_Chk;
+    CheckBox UnrealNoCDNeeded_Chk;
 
     CommandButton SetupFoundry_Cmd;
     CommandButton VideoProfileEdit_Cmd;

@@ -28,7 +28,7 @@ const std::vector<ExclusionRow>& Exclusions() {
 
 constexpr Box kUnrealBoxes[] = {
     &LV_Frm::UnrealSimulateFirstRun_Chk,  &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk,
-    &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk,
+    &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk,    &LV_Frm::UnrealNoCDNeeded_Chk,
 };
 
 constexpr Box kNotForUnreal[] = {&LV_Frm::NOCDAUDIO_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::Bench_Chk};

@@ -92,6 +92,31 @@ void CopyProgram(const fs::path& from, const fs::path& to) {
     }
 }
 
+/// An ini as Unreal would leave it; a launch sets the display settings in it.
+void MakeUnreal(const fs::path& unreal) {
+    Write(unreal / "SYSTEM/Unreal.ini", Lines({
+                                            "[URL]",
+                                            "Name=Sample",
+                                            "MapExt=unr",
+                                            "",
+                                            "[Core.System]",
+                                            "CdPath=D:\\",
+                                            "",
+                                            "[WinDrv.WindowsClient]",
+                                            "ViewportX=320",
+                                            "ViewportY=240",
+                                            "Brightness=0.400000",
+                                            "MipFactor=1.000000",
+                                            "UseJoystick=False",
+                                            "StartupFullscreen=False",
+                                            "CurvedSurfaces=False",
+                                            "",
+                                            "[Galaxy.GalaxyAudioSubsystem]",
+                                            "UseSurround=False",
+                                        }));
+    Write(unreal / "MAPS/dm-sample.unr", "a map in name only");
+}
+
 struct SettingRow {
     const char* Section;
     const char* Key;
@@ -108,6 +133,7 @@ bool WriteSettings(const fs::path& file) {
         SettingRow{"Options", "Executables",
                    "Quake;c:\\quake\\glquake.exe;"
                    "Quake 2;c:\\quake2\\quake2.exe;"
+                   "Unreal;c:\\unreal\\system\\unreal.exe;"
                    "Half-Life (Windows);c:\\sierra\\half-life\\hl.exe;"
                    "Quake (DOS);c:\\dosquake\\quake.exe"},
         SettingRow{"Options", "ExecutablesPos", "0"},
@@ -115,6 +141,12 @@ bool WriteSettings(const fs::path& file) {
         SettingRow{"Options", "UseGames", "0"},
         SettingRow{"Options", "UseDemos", "0"},
         SettingRow{"Options", "VidCard", "2"},
+        SettingRow{"Options", "UnrealBrightness", "1"},
+        SettingRow{"Options", "UnrealBrightnessSetting", "7"},
+        SettingRow{"Options", "UnrealBrightnessSetting_Content", "0.8"},
+        SettingRow{"Options", "UnrealSlowVideoBuffering", "1"},
+        SettingRow{"Options", "UnrealSlowVideoBufferingSetting", "1"},
+        SettingRow{"Options", "UnrealSlowVideoBufferingSetting_Content", "False"},
         SettingRow{"Options", "NetServers", "Server on this machine;127.0.0.1;26000;0;"},
         SettingRow{"DefaultScript", "c:\\quake\\ID1", "c:\\quake\\id1\\player.cfg"},
         SettingRow{"LV-Stuff", "FirstTime", "0"},
@@ -151,6 +183,8 @@ int main(int count, char** arguments) {
     Write(drive / "QUAKE2/baseq2/pak0.pak", MakePak({{"maps/base1.bsp", "a map in name only"}}));
     Write(drive / "QUAKE2/baseq2/player.cfg", Lines({"echo Player of the second part.", "set name Sample"}));
     CopyProgram(standins / "show_native", drive / "QUAKE2/quake2.exe");
+    MakeUnreal(drive / "UNREAL");
+    CopyProgram(standins / "show_native", drive / "UNREAL/SYSTEM/UNREAL.EXE");
     Write(drive / "SIERRA/Half-Life/valve/player.cfg", Lines({"echo The player of the sample drive."}));
     CopyProgram(standins / "show_windows.exe", drive / "SIERRA/Half-Life/hl.exe");
     Write(drive / "DOSQUAKE/id1/player.cfg", Lines({"echo The DOS player."}));

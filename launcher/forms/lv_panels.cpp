@@ -325,7 +325,7 @@ wxSizer* LvPanels::MakeOtherPanel() {
     auto* right = new wxBoxSizer(wxVERTICAL);
     for (CheckBox LV_Frm::*const option :
          {&LV_Frm::Bench_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::UnrealSimulateFirstRun_Chk,
-          &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk}) {
+          &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk, &LV_Frm::UnrealNoCDNeeded_Chk}) {
         left->Add(MakeOption(option), Row());
     }
     for (CheckBox LV_Frm::*const option : {&LV_Frm::nosound_chk, &LV_Frm::NOCDAUDIO_Chk,

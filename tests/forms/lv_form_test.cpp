@@ -134,6 +134,7 @@ TEST_F(LvForm_, UnrealShowsItsOwnOptions) {
     EXPECT_FALSE(Find("UnrealNoDirectSound_Chk")->IsShown());
     PickExe(2);
     EXPECT_TRUE(Find("UnrealNoDirectSound_Chk")->IsShownOnScreen());
+    EXPECT_TRUE(Find("UnrealNoCDNeeded_Chk")->IsShownOnScreen());
     EXPECT_FALSE(Find("Bench_Chk")->IsShown());
     EXPECT_FALSE(Find("Mem_Cbo")->IsEnabled());
     EXPECT_FALSE(Find("Game_Cbo")->IsEnabled());

@@ -223,6 +223,33 @@ TEST_F(Configure, SinsScriptGoesToTheQuake2Directory) {
     EXPECT_FALSE(system.Disk.FileExists("C:\\SIN\\BASE\\lvgs_666.qs"));
 }
 
+TEST_F(Configure, UnrealsIniGetsTheVideoProfileAndItsDirectoryBecomesTheDefaultOne) {
+    Save(run, kOptions, "Windowed", 1);
+    system.Disk.AddFile("C:\\UNREAL\\SYSTEM\\unreal.ini", "[WinDrv.WindowsClient]\r\nStartupFullScreen=True\r\n");
+    Run([](GameSpyConfig_Frm& form) {
+        Use(form, {4});
+        form.ScriptSpy_Cbo[4].ListIndex = 0;
+    });
+    EXPECT_EQ(Bytes("C:\\UNREAL\\SYSTEM\\unreal.ini"), "[WinDrv.WindowsClient]\r\nStartupFullScreen=False\r\n");
+    EXPECT_EQ(run.DefaultGameDirectory, "c:\\unreal\\system");
+}
+
+TEST_F(Configure, UnrealWithoutAnIniLeavesAllInisAlone) {
+    system.Disk.AddFile("C:\\UNREAL\\SYSTEM\\unreal.ini", "[WinDrv.WindowsClient]\r\nStartupFullScreen=False\r\n");
+    RunFor({4});
+    EXPECT_EQ(Bytes("C:\\UNREAL\\SYSTEM\\unreal.ini"), "[WinDrv.WindowsClient]\r\nStartupFullScreen=False\r\n");
+}
+
+TEST_F(Configure, AnIniThatIsGoneIsReported) {
+    user.Expect({"Lorvane 3D", "Error Number = 53\r\nError Code = EC00294\r\n"});
+    Run([this](GameSpyConfig_Frm& form) {
+        Use(form, {4});
+        form.ScriptSpy_Cbo[4].ListIndex = 0;
+        system.Disk.Delete("C:\\UNREAL\\SYSTEM\\unreal.ini");
+    });
+    EXPECT_FALSE(system.Disk.FileExists("C:\\UNREAL\\SYSTEM\\QSL5_666.bat"));
+}
+
 TEST_F(Configure, MemoryIsWrittenPerBatch) {
     Click(&LV_Frm::Memory_Chk, 1);
     window.Mem_Cbo.ListIndex = 2;

@@ -73,6 +73,7 @@ constexpr OptionCase kOptionCases[] = {
     {"UnrealDisableK6Support_Chk", "Disable K6 Support", "", 0, kBench},
     {"UnrealDisableMMXSupport_Chk", "Disable MMX Support", "", 0, kBench},
     {"UnrealNoDirectSound_Chk", "Disable DirectSound", "", 0, kBench},
+    {"UnrealNoCDNeeded_Chk", "No CD Needed", "", 0, "Check to have Unreal read the CD's files from its own directory"},
 };
 
 TEST(OptionBoxes, HoldsEachRowOfTheTable) {
@@ -220,7 +221,7 @@ TEST(ApplyGamePanels, ChangesTheOptionsForUnreal) {
     }
     for (const Box box :
          {&LV_Frm::UnrealSimulateFirstRun_Chk, &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk,
-          &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk}) {
+          &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk, &LV_Frm::UnrealNoCDNeeded_Chk}) {
         EXPECT_TRUE((window.*box).Visible) << OptionBoxOf(box).Name;
     }
     ApplyGamePanels(window, kQuake);

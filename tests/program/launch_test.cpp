@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "tests/program/program_run.h"
 #include "tests/program/screen.h"
@@ -14,6 +15,7 @@ namespace {
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::UnorderedElementsAre;
 
 namespace fs = std::filesystem;
 
@@ -110,6 +112,36 @@ TEST(Launch, LeavesTheGameRunningWhenTheProgramIsKilled) {
     program.Kill();
     ASSERT_FALSE(fs::exists(home.Quake / "output.txt")) << "the game was over before the program";
     EXPECT_THAT(WaitForOutput(home.Quake / "output.txt"), Contains("ARGUMENT=2000"));
+}
+
+TEST(Launch, OfUnrealSetsTheVideoProfileInItsIniFirst) {
+    ProgramHome home("launch_unreal");
+    home.Prepare();
+    const fs::path unreal = home.Quake.parent_path() / "Unreal/System";
+    fs::create_directories(unreal);
+    fs::rename(home.Quake / "QUAKE.EXE", unreal / "Unreal.exe");
+    std::ofstream(unreal / "Unreal.ini", std::ios::binary)
+        << "[WinDrv.WindowsClient]\r\nViewportX=320\r\nViewportY=240\r\nMouse=True\r\n[URL]\r\nBrightness=0.1\r\n";
+    std::ofstream(unreal / "temp666_.ini", std::ios::binary) << "left behind";
+    home.Set("Options", "Executables", "Unreal;c:\\unreal\\system\\unreal.exe");
+    home.Set("Options", "UseRez", "1");
+    home.Set("Options", "ResolutionsPos", "5");
+    home.Set("Options", "ResolutionsPos_Content", "800x600" + std::string(93, ' ') + "-width 800");
+    home.Set("Options", "UnrealBrightness", "1");
+    home.Set("Options", "UnrealBrightnessSetting_Content", "0.8");
+    ProgramRun program(home);
+    ASSERT_TRUE(Activate(program.WaitForWindow()));
+    PressKey("F2");
+    const std::vector<std::string> lines = WaitForOutput(unreal / "output.txt");
+    EXPECT_THAT(LinesAfter(lines, "ARGUMENT="), ElementsAre("-nohard"));
+    EXPECT_EQ(ReadBytes(unreal / "Unreal.ini"),
+              "[WinDrv.WindowsClient]\r\nViewPortX=800\r\nViewPortY=600\r\nMouse=True\r\n"
+              "Brightness=0.8\r\nStartupFullScreen=True\r\n[URL]\r\nBrightness=0.1\r\n");
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(unreal)) {
+        names.push_back(entry.path().filename().string());
+    }
+    EXPECT_THAT(names, UnorderedElementsAre("Unreal.exe", "Unreal.ini", "lv_666.bat", "lv_666.pif", "output.txt"));
 }
 
 TEST(Launch, EndsTheProgramWithExitOnLaunch) {

@@ -1,0 +1,51 @@
+#include "launcher/unreal_options.h"
+
+#include "foundation/field_strings.h"
+#include "launcher/launch_flow.h"
+#include "launcher/unreal_ini.h"
+#include "video/profile_model.h"
+
+namespace lv {
+
+namespace {
+
+Text PickIni(Launcher& launcher) {
+    const LaunchSelection selection = SelectionOf(launcher.Window);
+    if (selection.Script_Chk && selection.Script) {
+        return *selection.Script;
+    }
+    return Join(launcher.run.DefaultGameDirectory, "\\", kUnrealIni);
+}
+
+/// Also one that an ended run has left. A user's ini of that very name is no work file.
+void RemoveWorkFile(Run& run, TextView ini) {
+    const Text workFile = Join(run.DefaultGameDirectory, "\\", kUnrealWorkFile);
+    if (!SameText(workFile, ini)) {
+        (void)run.System.Disk.Delete(workFile);
+    }
+}
+
+}  // namespace
+
+Error SetUnrealVideoOptionsForLaunch(Launcher& launcher, const std::optional<Text>& ini) {
+    Run& run = launcher.run;
+    Text& changed = launcher.Window.ChangedIniLines;
+    changed.clear();
+    if (ini) {
+        run.DefaultGameDirectory = DirectoryOf(*ini);
+    } else if (run.DefaultGameDirectory.empty()) {
+        return {};
+    }
+    const Text path = ini ? *ini : PickIni(launcher);
+    RemoveWorkFile(run, path);
+    const Result<Text> old = run.System.Disk.Read(path);
+    if (!old.Ok()) {
+        return old.Fault;
+    }
+    UnrealIniResult rewritten = RewriteUnrealIni(
+        {old.Value, ReadProfile(run), launcher.Window.UnrealNoCDNeeded_Chk.Value == 1, run.DefaultGameDirectory});
+    changed = std::move(rewritten.ChangedIniLines);
+    return run.System.Disk.Replace(path, rewritten.Ini);
+}
+
+}  // namespace lv
