@@ -19,6 +19,7 @@ TEST(GameSpy, TheServerInItsWindowIsJoined) {
     home.Prepare();
     fs::rename(home.Quake / "QUAKE.EXE", home.Quake / "GLQUAKE.EXE");
     home.Set("Options", "Executables", "Quake;c:\\quake\\glquake.exe");
+    home.Set("Options", "UseDemos", "0");
     home.Set("Options", "Qspy", "1");
     const fs::path copied = home.Root / "copied.txt";
     std::ofstream(copied) << "43      10.0.0.1        27500 Home";
