@@ -15,6 +15,7 @@
 #include "foundation/forms/wx_clipboard.h"
 #include "foundation/question_box.h"
 #include "foundry/foundry.h"
+#include "gamespy/forms/game_spy_form.h"
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/start.h"
@@ -26,6 +27,7 @@
 #include "platform/linux/sqlite_settings.h"
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_registry.h"
+#include "platform/linux/x11_desktop.h"
 #include "video/forms/add_vid_profile_form.h"
 #include "video/forms/video_profile_form.h"
 #include "wizard/forms/install_form.h"
@@ -39,10 +41,12 @@ namespace {
 struct Program {
     explicit Program(std::unique_ptr<SqliteSettings> store) : Settings(std::move(store)) {
         System.Instance = &Instance;
+        System.Windows = &Windows;
         User.SetRun(TheRun);
         User.AddForms(MakeEntryForm);
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);
+        User.AddForms(MakeGameSpyForm);
         ConnectWizard(TheLauncher);
         ConnectFoundry(TheLauncher);
     }
@@ -53,6 +57,7 @@ struct Program {
     LinuxProcesses Programs{Disk};
     WxClipboard Clip;
     LinuxClock Time;
+    X11Desktop Windows;
     LinuxInstance Instance{ConfigDirectory().string()};
     Platform System{*Settings, Registry, Disk, Programs, Clip, Time};
     LauncherUser User{Disk};

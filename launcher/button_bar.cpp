@@ -24,12 +24,9 @@ void EditScript(Launcher& launcher) {
     AskUser(launcher.run, "", "Setup Foundry, the script editor, isn't part of this version of Lorvane 3D yet.");
 }
 
-// The box says so and stays clear as long as GameSpy 3D cannot be configured; then nothing is launched.
 void LaunchGameSpy(Launcher& launcher) {
     SetOption(launcher, &LV_Frm::LaunchQspy_Chk, 1);
-    if (launcher.Window.LaunchQspy_Chk.Value == 1) {
-        DoIt_Cmd_Click(launcher, 0);
-    }
+    DoIt_Cmd_Click(launcher, 0);
 }
 
 template <int Row>

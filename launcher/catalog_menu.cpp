@@ -12,6 +12,7 @@
 #include "catalogs/modifications.h"
 #include "catalogs/view_all.h"
 #include "foundation/question_box.h"
+#include "gamespy/add_servers.h"
 #include "launcher/lv_events.h"
 
 namespace lv {
@@ -192,6 +193,14 @@ void DemoDelete_Bar_Click(Launcher& launcher) {
 
 void ServerViewAll_Bar_Click(Launcher& launcher) {
     ViewAllServers(launcher.run, launcher.Lists);
+}
+
+void ServerAddCurrentGameSpy_Bar_Click(Launcher& launcher) {
+    if (!launcher.LaunchUnderWay) {
+        launcher.LaunchUnderWay = true;
+        AddCurrentGameSpyServers(launcher.run, launcher.Lists);
+        launcher.LaunchUnderWay = false;
+    }
 }
 
 void ServerAddManual_Bar_Click(Launcher& launcher) {

@@ -38,6 +38,8 @@ void DemoEdit_Bar_Click(Launcher& launcher);
 void DemoDelete_Bar_Click(Launcher& launcher);
 
 void ServerViewAll_Bar_Click(Launcher& launcher);
+/// Nothing happens while another launch or capture waits for GameSpy 3D.
+void ServerAddCurrentGameSpy_Bar_Click(Launcher& launcher);
 void ServerAddManual_Bar_Click(Launcher& launcher);
 void ServerEdit_Bar_Click(Launcher& launcher);
 void ServerCopy_Bar_Click(Launcher& launcher);

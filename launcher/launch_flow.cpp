@@ -5,9 +5,12 @@
 #include "foundation/numbers.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "gamespy/configure.h"
+#include "gamespy/game_spy_fetch.h"
 #include "launcher/environment_lines.h"
 #include "launcher/launch_composition.h"
 #include "launcher/launch_files.h"
+#include "launcher/missing_executable.h"
 #include "launcher/unreal_options.h"
 #include "launcher/window_life.h"
 #include "video/profile_model.h"
@@ -69,14 +72,10 @@ bool ExecutableIsThere(Click& click) {
         AskUser(run, "Error in executable path", "Executable defined as an empty string.");
         return false;
     }
-    if (run.System.Disk.FileExists(path)) {
+    if (click.Selection.LaunchQspy_Chk || run.System.Disk.FileExists(path)) {
         return true;
     }
-    Tell(run, Join("The executable game file -->", NewLine, NewLine, TabChar, DoubleQuote, path, DoubleQuote, NewLine,
-                   NewLine, "could not be found. The following possiblities exist.", NewLine, NewLine,
-                   "1) The game has been moved.", NewLine, "2) The game has been removed.", NewLine,
-                   "3) The game is corrupted.", NewLine, "4) Windows incorrectly reported that the file is missing.",
-                   NewLine));
+    Tell(run, MissingExecutableText(path, "4) Windows incorrectly reported that the file is missing."));
     return false;
 }
 
@@ -85,11 +84,7 @@ LaunchHooks HooksOf(Launcher& launcher) {
     LaunchHooks hooks;
     hooks.RewriteUnrealIni = [&launcher] { return SetUnrealVideoOptionsForLaunch(launcher); };
     hooks.ScriptToRegistry = launcher.ScriptToRegistry;
-    hooks.GameSpyFetch = [&run]() -> std::optional<Text> {
-        Tell(run, Join("Lorvane 3D can't take the server from GameSpy 3D's window yet.", NewLine, NewLine,
-                       "To play on a server now, pick it in the list of servers and launch."));
-        return std::nullopt;
-    };
+    hooks.GameSpyFetch = [&run] { return std::optional<Text>(GameSpyFetch(run)); };
     return hooks;
 }
 
@@ -224,6 +219,40 @@ void StartGame(Click& click) {
     }
 }
 
+/// GameSpy starts the game later, so that this click leaves neither script nor batch of a launch behind.
+void ConfigureInstead(Click& click, GameSpyConfig_Frm& form) {
+    Run& run = click.run;
+    const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
+    click.Texts.LaunchStep = 205;
+    AddCommandLineAdditions(click.Selection, click.Texts);
+    if (hasDirectory) {
+        (void)run.System.Disk.Delete(ScriptFilePath(click.Game));
+        (void)run.System.Disk.Delete(Join(click.Game.DefaultGameDirectory, "\\", kLaunchBatchFile));
+    }
+    SpyLaunch launch{click.launcher, form, click.Selection, click.Texts,
+                     hasDirectory ? EnvironmentLines(click.Game, click.Profile) : Text()};
+    const SpyFailure failed = ConfigureGameSpy(launch);
+    if (failed.Fault) {
+        click.FailureFile = failed.FailureFile;
+        ReportError(click, failed.Fault);
+    }
+}
+
+void LaunchThroughGameSpy(Click& click) {
+    GameSpyConfig_Frm form(click.run, click.launcher.Window.Exe_Cbo);
+    GameSpyConfig_Load(form);
+    ShowModal(form);
+    if (form.DialogResult != 0 && ExecutableIsThere(click) && Compose(click)) {
+        ConfigureInstead(click, form);
+    }
+}
+
+void LaunchDirectly(Click& click) {
+    if (ExecutableIsThere(click) && Compose(click) && WriteScript(click) && WriteBatch(click) && ViewOrGoOn(click)) {
+        StartGame(click);
+    }
+}
+
 std::optional<Text> Payload(const ListBox& list) {
     return list.HasSelection() ? std::optional(Trim(DropLeft(list.Selected(), NameFieldWidth))) : std::nullopt;
 }
@@ -284,6 +313,9 @@ LaunchGame GameOf(Run& run) {
 
 void DoIt_Cmd_Click(Launcher& launcher, int index) {
     Run& run = launcher.run;
+    if (launcher.LaunchUnderWay) {
+        return;
+    }
     Click click{launcher,
                 run,
                 static_cast<LaunchMode>(index),
@@ -294,9 +326,13 @@ void DoIt_Cmd_Click(Launcher& launcher, int index) {
                 {},
                 {},
                 {}};
-    if (ExecutableIsThere(click) && Compose(click) && WriteScript(click) && WriteBatch(click) && ViewOrGoOn(click)) {
-        StartGame(click);
+    launcher.LaunchUnderWay = true;
+    if (click.Selection.LaunchQspy_Chk) {
+        LaunchThroughGameSpy(click);
+    } else {
+        LaunchDirectly(click);
     }
+    launcher.LaunchUnderWay = false;
 }
 
 }  // namespace lv

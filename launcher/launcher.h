@@ -58,6 +58,7 @@ struct Launcher {
     /// Measures the main window's form. Empty: there is none, and the size stays as it is.
     std::function<WindowMeasures()> Measure;
 
+    bool LaunchUnderWay = false;      // a launch waits for GameSpy 3D: another click does nothing
     bool ClearingGameChk = false;     // Game_Chk clears itself: its own click does nothing meanwhile
     bool ProfileChangeQuiet = false;  // a change of the profile tells nothing of the live window
 };

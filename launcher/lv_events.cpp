@@ -36,16 +36,6 @@ void Game_Chk_Click(Launcher& launcher) {
     ScanForMaps(launcher.run, launcher.Lists);
 }
 
-// Configuring GameSpy 3D is not part of the program yet, so the box says so and stays clear.
-void LaunchQspy_Chk_Click(Launcher& launcher) {
-    LV_Frm& window = launcher.Window;
-    if (window.LaunchQspy_Chk.Value == 1) {
-        window.LaunchQspy_Chk.Value = 0;
-        Tell(launcher, Join("Lorvane 3D can't configure GameSpy 3D yet.", NewLine, NewLine,
-                            "To play on a server now, pick it in the list of servers and launch."));
-    }
-}
-
 void Listen_Chk_Click(Launcher& launcher) {
     if (launcher.Window.Listen_Chk.Value != 1 || launcher.run.GameKind != 9) {
         return;
@@ -115,7 +105,7 @@ void Option_Chk_Click(Launcher& launcher, CheckBox LV_Frm::*box) {
         return;
     }
     if (box == &LV_Frm::LaunchQspy_Chk) {
-        LaunchQspy_Chk_Click(launcher);
+        ApplyGameSpyRule(launcher.Window);
     }
     WriteKey(launcher, OptionBoxOf(box));
     ClearExcluded(launcher, box);

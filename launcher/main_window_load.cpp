@@ -24,7 +24,7 @@ void LoadOptionBoxes(Launcher& launcher) {
     if (!window.Game_Cbo.HasSelection()) {
         window.Game_Chk.Value = 0;
     }
-    window.LaunchQspy_Chk.Value = 0;  // not part of the program yet
+    ApplyGameSpyRule(window);
     window.CommandLineAdditions_Txt.Text = GetSetting(run, run.AppName, kOptions, "CustomCommandLineText");
     ApplyGamePanels(window, {run.GameKind, run.ScriptFamily, run.IsQuakeWorld, run.IsHexenWorld});
     if (run.GameKind != 0) {

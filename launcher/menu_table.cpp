@@ -94,7 +94,7 @@ constexpr MenuRow kRows[] = {
     {Server_Bar, "Server_Bar", kNoIndex, "&Server", "", None, nullptr},
     {ServerViewAll_Bar, "ServerViewAll_Bar", kNoIndex, "&View All", "", Server_Bar, ServerViewAll_Bar_Click},
     {ServerAdd_Bar, "ServerAdd_Bar", kNoIndex, "&Add", "", Server_Bar, nullptr},
-    {ServerAddCurrentGameSpy_Bar, "ServerAddCurrentGameSpy_Bar", kNoIndex, "&Current GameSpy Server(s)", "", ServerAdd_Bar, nullptr},
+    {ServerAddCurrentGameSpy_Bar, "ServerAddCurrentGameSpy_Bar", kNoIndex, "&Current GameSpy Server(s)", "", ServerAdd_Bar, ServerAddCurrentGameSpy_Bar_Click},
     {ServerAddManual_Bar, "ServerAddManual_Bar", kNoIndex, "&Manual", "", ServerAdd_Bar, ServerAddManual_Bar_Click},
     {ServerEdit_Bar, "ServerEdit_Bar", kNoIndex, "&Edit", "", Server_Bar, ServerEdit_Bar_Click},
     {ServerCopy_Bar, "ServerCopy_Bar", kNoIndex, "Co&py", "", Server_Bar, ServerCopy_Bar_Click},

@@ -158,4 +158,8 @@ void ApplyGamePanels(LV_Frm& window, const PanelGame& game) {
     ApplyFamily(window, game);
 }
 
+void ApplyGameSpyRule(LV_Frm& window) {
+    window.DoIt_Cmd[1].Enabled = window.DoIt_Cmd[2].Enabled = window.LaunchQspy_Chk.Value != 1;
+}
+
 }  // namespace lv

@@ -25,4 +25,7 @@ struct PanelGame {
 /// ticked for other games is there again at the next start. Applying it twice changes nothing more.
 void ApplyGamePanels(LV_Frm& window, const PanelGame& game);
 
+/// The files of a GameSpy launch are not the user's to view: the buttons for them follow LaunchQspy_Chk.
+void ApplyGameSpyRule(LV_Frm& window);
+
 }  // namespace lv

@@ -220,5 +220,7 @@ int main(int count, char** arguments) {
     CopyProgram(standins / "show_windows.exe", drive / "SIERRA/Half-Life/hl.exe");
     Write(drive / "DOSQUAKE/id1/player.cfg", Lines({"echo The DOS player."}));
     CopyProgram(standins / "show_dos.exe", drive / "DOSQUAKE/quake.exe");
+    Write(drive / "GAMESPY/copied.txt", "43      127.0.0.1       26000 Server on this machine\r\n");
+    CopyProgram(standins / "game_spy.exe", drive / "GAMESPY/gamespy.exe");
     return WriteSettings(sample / "config/lorvane3d/settings.sqlite") ? 0 : 1;
 }

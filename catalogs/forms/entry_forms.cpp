@@ -23,6 +23,8 @@ namespace {
 
 using Form = std::unique_ptr<ModalForm>;
 
+constexpr int kMessageWidth = 380;  // at 100 %
+
 Form Start(wxWindow* owner, EntryWindow& entry) {
     return std::make_unique<ModalForm>(owner, entry, [&entry] { Entry_Cancel_Cmd_Click(entry); });
 }
@@ -86,7 +88,11 @@ Form MakeServer(wxWindow* owner, AddServer_Frm& entry) {
 
 Form MakeServerType(wxWindow* owner, SelectServerType_Frm& entry) {
     Form form = Start(owner, entry);
-    form->AddWide(form->MakeLabel(form.get(), "Message_Lbl", entry.Message_Lbl));
+    // Not bound: it never changes, and a bound label would lose its line breaks.
+    auto* message = new wxStaticText(form.get(), wxID_ANY, ToWx(entry.Message_Lbl.Caption));
+    message->SetName("Message_Lbl");
+    message->Wrap(form->FromDIP(kMessageWidth));
+    form->AddWide(message);
     AddServerTypes(*form, entry, "", SelectServerType_Server_Opt_Click);
     return End(std::move(form), entry, SelectServerType_OK_Cmd_Click);
 }

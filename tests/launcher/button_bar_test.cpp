@@ -1,5 +1,6 @@
 #include "launcher/button_bar.h"
 
+#include "gamespy/game_spy_config.h"
 #include "tests/support/launcher_fixture.h"
 
 namespace lv {
@@ -57,11 +58,12 @@ TEST_F(ButtonBar, TheScriptEditorIsNotThereYet) {
     ButtonBar_Cmd_Click(launcher, 1);
 }
 
-TEST_F(ButtonBar, GameSpyIsNotThereYetAndNothingIsLaunched) {
+TEST_F(ButtonBar, GameSpyTicksItsBoxAndLaunches) {
     Load();
-    user.Expect({"Lorvane 3D", "Lorvane 3D can't configure GameSpy 3D yet."});
+    user.In<GameSpyConfig_Frm>([](GameSpyConfig_Frm& form) { GameSpyConfig_Cancel_Cmd_Click(form); });
     ButtonBar_Cmd_Click(launcher, 2);
-    EXPECT_EQ(window.LaunchQspy_Chk.Value, 0);
+    EXPECT_EQ(window.LaunchQspy_Chk.Value, 1);
+    EXPECT_EQ(Stored(kOptions, "LaunchQSpy"), "1");
     EXPECT_TRUE(system.Programs.Started.empty());
 }
 

@@ -279,12 +279,34 @@ TEST_F(LaunchFlow, ExitOnLaunchEndsTheProgramBehindTheStart) {
     EXPECT_TRUE(user.ProgramEnded);
 }
 
-TEST_F(LaunchFlow, AServerOfGameSpysWindowIsNotThereYet) {
+TEST_F(LaunchFlow, ConnectsToTheServerInGameSpysWindow) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
     Click(&LV_Frm::QSpy_Chk, 1);
-    user.Expect({"Lorvane 3D", "Lorvane 3D can't take the server from GameSpy 3D's window yet."});
+    system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
+    system.Clip.Held = "43 10.0.0.1 27500 Home";
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Disk.Bytes(kScript), "connect 10.0.0.1:27500\r\n");
+    EXPECT_EQ(system.Programs.Started.size(), 1u);
+}
+
+TEST_F(LaunchFlow, WithoutAServerInGameSpysWindowStopsWithoutAnotherWord) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::QSpy_Chk, 1);
+    user.Expect({"Error Looking for GameSpy 3D", "GameSpy 3D was not found.", 0, false, true, "&OK"});
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_TRUE(system.Programs.Started.empty());
+    EXPECT_FALSE(system.Disk.FileExists(kBatch));
+}
+
+TEST_F(LaunchFlow, AnotherClickWhileGameSpyIsWaitedForDoesNothing) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::QSpy_Chk, 1);
+    system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
+    system.Clip.Held = "10.0.0.1:27500";
+    user.OnPump = [this] { DoIt_Cmd_Click(launcher, 0); };
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Programs.Started.size(), 1u);
+    EXPECT_EQ(Stored("LV-Stuff", "LaunchCount"), "1");
 }
 
 TEST_F(LaunchFlow, ALaunchMakesTheGamesDirectoryCurrent) {

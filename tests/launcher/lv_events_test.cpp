@@ -66,12 +66,30 @@ TEST_F(LvEvents, MapWithASelectedMapClearsTheServer) {
     EXPECT_EQ(window.Server_Chk.Value, 0);
 }
 
-TEST_F(LvEvents, GameSpySaysThatItIsNotThereYetAndStaysClear) {
-    user.Expect({"Lorvane 3D", "Lorvane 3D can't configure GameSpy 3D yet."});
+TEST_F(LvEvents, GameSpyDisablesTheViewOfTheLaunchFilesAndTheirCreationAlone) {
     window.Server_Chk.Value = 1;
     Click(&LV_Frm::LaunchQspy_Chk, 1);
+    EXPECT_EQ(window.Server_Chk.Value, 0);
+    EXPECT_EQ(Stored(kOptions, "LaunchQSpy"), "1");
+    EXPECT_TRUE(window.DoIt_Cmd[0].Enabled);
+    EXPECT_FALSE(window.DoIt_Cmd[1].Enabled);
+    EXPECT_FALSE(window.DoIt_Cmd[2].Enabled);
+}
+
+TEST_F(LvEvents, WithoutGameSpyTheLaunchFilesCanBeViewedAgain) {
+    Click(&LV_Frm::LaunchQspy_Chk, 1);
+    Click(&LV_Frm::LaunchQspy_Chk, 0);
+    EXPECT_EQ(Stored(kOptions, "LaunchQSpy"), "0");
+    EXPECT_TRUE(window.DoIt_Cmd[1].Enabled);
+    EXPECT_TRUE(window.DoIt_Cmd[2].Enabled);
+}
+
+TEST_F(LvEvents, AServerClearsGameSpyAndBringsTheButtonsBack) {
+    Click(&LV_Frm::LaunchQspy_Chk, 1);
+    Click(&LV_Frm::Server_Chk, 1);
     EXPECT_EQ(window.LaunchQspy_Chk.Value, 0);
-    EXPECT_EQ(window.Server_Chk.Value, 1);
+    EXPECT_TRUE(window.DoIt_Cmd[1].Enabled);
+    EXPECT_TRUE(window.DoIt_Cmd[2].Enabled);
 }
 
 TEST_F(LvEvents, AModificationWithoutASelectedRowSaysSoAndClearsItself) {

@@ -73,6 +73,16 @@ TEST_F(MainWindowLoad, AStoredServerTickClearsNoOther) {
     EXPECT_EQ(window.Demo_Chk.Value, 1);
 }
 
+TEST_F(MainWindowLoad, AStoredGameSpyTickDisablesTheButtonsOfTheLaunchFiles) {
+    AddGames();
+    Save(run, kOptions, "LaunchQSpy", 1);
+    Load();
+    EXPECT_EQ(window.LaunchQspy_Chk.Value, 1);
+    EXPECT_TRUE(window.DoIt_Cmd[0].Enabled);
+    EXPECT_FALSE(window.DoIt_Cmd[1].Enabled);
+    EXPECT_FALSE(window.DoIt_Cmd[2].Enabled);
+}
+
 TEST_F(MainWindowLoad, ACaptionOfTheLaunchButtonIsNotReadBack) {
     AddGames();
     Save(run, kOptions, "CommandCaption", "Go");

@@ -74,7 +74,7 @@ const std::vector<Written>& Table() {
         {Server_Bar, "Server_Bar", -1, "&Server", "", None, true},
         {ServerViewAll_Bar, "ServerViewAll_Bar", -1, "&View All", "", Server_Bar, true},
         {ServerAdd_Bar, "ServerAdd_Bar", -1, "&Add", "", Server_Bar, true},
-        {ServerAddCurrentGameSpy_Bar, "ServerAddCurrentGameSpy_Bar", -1, "&Current GameSpy Server(s)", "", ServerAdd_Bar, false},
+        {ServerAddCurrentGameSpy_Bar, "ServerAddCurrentGameSpy_Bar", -1, "&Current GameSpy Server(s)", "", ServerAdd_Bar, true},
         {ServerAddManual_Bar, "ServerAddManual_Bar", -1, "&Manual", "", ServerAdd_Bar, true},
         {ServerEdit_Bar, "ServerEdit_Bar", -1, "&Edit", "", Server_Bar, true},
         {ServerCopy_Bar, "ServerCopy_Bar", -1, "Co&py", "", Server_Bar, true},

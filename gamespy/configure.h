@@ -1,0 +1,31 @@
+// gamespy/configure.h
+//
+// The branch of a launch that makes GameSpy 3D start the games this program's way: files, registry, and GameSpy
+// itself.
+
+#pragma once
+
+#include "gamespy/game_spy_config.h"
+#include "launcher/launch_composition.h"
+#include "launcher/launcher.h"
+
+namespace lv {
+
+struct SpyLaunch {
+    Launcher& launcher;
+    GameSpyConfig_Frm& Form;  // answered with OK
+    const LaunchSelection& Selection;
+    LaunchTexts& Texts;     // composed up to step 205; LaunchStep follows what is done
+    Text EnvironmentLines;  // each ended by NewLine
+};
+
+/// What is left to tell, in the error report.
+struct SpyFailure {
+    Error Fault;
+    Text FailureFile;
+};
+
+/// Steps 250 to 460. A stop that is no failure was told to the user; what was written stays.
+SpyFailure ConfigureGameSpy(SpyLaunch& launch);
+
+}  // namespace lv

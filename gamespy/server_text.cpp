@@ -1,0 +1,166 @@
+#include "gamespy/server_text.h"
+
+#include <algorithm>
+#include <array>
+
+#include "foundation/field_strings.h"
+
+namespace lv {
+
+namespace {
+
+constexpr std::size_t kMostSteps = 10000;
+constexpr std::size_t kOctetLength = 3;
+constexpr std::size_t kPortLength = 5;
+
+bool IsBlank(char c) {
+    return static_cast<unsigned char>(c) <= ' ' || c == '\x7F';
+}
+
+bool FitsAnAddress(TextView part) {
+    return !part.empty() &&
+           std::none_of(part.begin(), part.end(), [](char c) { return IsBlank(c) || Holds(";:\"", TextView(&c, 1)); });
+}
+
+/// The four stretches around the first three dots; the fourth ends at the next one.
+std::array<TextView, 4> SplitAtDots(TextView text) {
+    std::array<TextView, 4> fields;
+    for (TextView& field : fields) {
+        const std::size_t dot = std::min(text.find('.'), text.size());
+        field = text.substr(0, dot);
+        text.remove_prefix(std::min(dot + 1, text.size()));
+    }
+    return fields;
+}
+
+TextView LastOctetBefore(TextView field) {
+    std::size_t length = 0;
+    while (length < std::min(kOctetLength, field.size()) && !IsBlank(field[field.size() - 1 - length])) {
+        ++length;
+    }
+    return field.substr(field.size() - length);
+}
+
+TextView FirstOctetOf(TextView field) {
+    std::size_t length = 0;
+    while (length < std::min(kOctetLength, field.size()) && !IsBlank(field[length])) {
+        ++length;
+    }
+    const TextView octet = field.substr(0, length);
+    const std::size_t colon = octet.rfind(':');
+    const bool ends = colon != TextView::npos && colon + 2 >= octet.size();
+    return ends ? octet.substr(0, colon) : octet;
+}
+
+template <class Stop>
+std::size_t StepTo(TextView text, std::size_t from, Stop stop) {
+    const std::size_t last = std::min(text.size(), from + kMostSteps);
+    while (from < last && !stop(text[from])) {
+        ++from;
+    }
+    return from;
+}
+
+/// Behind the first ":" or blank of the fourth field, and the blanks there.
+TextView PortOf(TextView field) {
+    std::size_t at = StepTo(field, 0, [](char c) { return c == ':' || IsBlank(c); });
+    at += at < field.size() && field[at] == ':' ? 1 : 0;
+    at = StepTo(field, at, [](char c) { return !IsBlank(c); });
+    const TextView port = field.substr(at, kPortLength);
+    return port.substr(0, StepTo(port, 0, IsBlank));
+}
+
+/// What stands before the first ":", and behind it up to a blank.
+CapturedServer ReadAddress(TextView line) {
+    const std::size_t colon = std::min(line.find(':'), line.size());
+    const TextView behind = line.substr(std::min(colon + 1, line.size()));
+    return {"", Text(line.substr(0, colon)), Text(behind.substr(0, std::min(behind.find(' '), behind.size())))};
+}
+
+Text WithSingleBlanks(TextView line) {
+    Text reduced;
+    for (const char c : line) {
+        if (c != ' ' || !reduced.ends_with(' ')) {
+            reduced += c;
+        }
+    }
+    return reduced;
+}
+
+/// The word at the front, which is taken off the line.
+Text TakeWord(TextView& line) {
+    const std::size_t end = std::min(line.find(' '), line.size());
+    const Text word(line.substr(0, end));
+    line.remove_prefix(std::min(end + 1, line.size()));
+    return word;
+}
+
+}  // namespace
+
+AssembledAddress AssembleAddress(TextView text) {
+    const auto fields = SplitAtDots(text);
+    const std::array<TextView, 4> octets = {LastOctetBefore(fields[0]), fields[1], fields[2], FirstOctetOf(fields[3])};
+    if (!std::all_of(octets.begin(), octets.end(), FitsAnAddress)) {
+        return {"", kNoAddress};
+    }
+    const TextView port = PortOf(fields[3]);
+    if (port.size() < 3 || !FitsAnAddress(port)) {
+        return {"", kNoPort};
+    }
+    return {Join(octets[0], ".", octets[1], ".", octets[2], ".", octets[3], ":", port), nullptr};
+}
+
+Text MarkLines(TextView copied) {
+    Text text(copied);
+    std::replace(text.begin(), text.end(), '|', 'I');
+    text = TrimWhite(text);
+    Text marked;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
+            continue;
+        }
+        marked += text[i] == '\n' ? '|' : IsBlank(text[i]) ? ' ' : text[i];
+    }
+    return marked;
+}
+
+Index CountLines(TextView marked) {
+    return static_cast<Index>(std::min<Index>(CountDelimiters(marked, "|"), 32766) + 1);
+}
+
+Text LineAt(TextView marked, Index index) {
+    for (; index > 0; --index) {
+        marked.remove_prefix(std::min(marked.find('|'), marked.size() - 1) + 1);
+    }
+    return Trim(marked.substr(0, std::min(marked.find('|'), marked.size())));
+}
+
+bool IsAddressAlone(TextView line) {
+    return !Holds(line, Blank);
+}
+
+CapturedServer ReadOneServer(TextView line) {
+    if (IsAddressAlone(line)) {
+        return ReadAddress(line);
+    }
+    const Text columns = PadToWidth(line, 50);
+    return {Trim(columns.substr(30, kLongestServerTitle)), Trim(columns.substr(8, 15)), Trim(columns.substr(24, 5))};
+}
+
+CapturedServer ReadListedServer(TextView line, bool addressesOnly) {
+    if (addressesOnly) {
+        CapturedServer server = ReadAddress(line);
+        server.Title = Join("Server ", server.Host, ":", server.Port);
+        return server;
+    }
+    const Text words = WithSingleBlanks(line);
+    TextView rest = words;
+    CapturedServer server;
+    TakeWord(rest);
+    server.Host = TakeWord(rest);
+    server.Port = TakeWord(rest);
+    server.Title = Trim(rest).substr(0, kLongestServerTitle);
+    return server;
+}
+
+}  // namespace lv
