@@ -4,7 +4,7 @@
 
 #pragma once
 
-#include <windows.h>
+#include "platform/windows/system.h"
 
 namespace lv {
 

@@ -1,10 +1,9 @@
 #include "platform/windows/full_path.h"
 
-#include <windows.h>
-
 #include <algorithm>
 
 #include "platform/code_page.h"
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 
 namespace lv {
@@ -98,12 +97,16 @@ std::wstring SystemPath(const FullPath& path) {
     return path.Root.ends_with(':') ? L"\\\\?\\" + wide : L"\\\\?\\UNC\\" + wide.substr(2);
 }
 
-std::string SayPath(const std::wstring& systemPath) {
+std::optional<std::string> PathInCodePage(const std::wstring& systemPath) {
     if (auto said = FromWide(systemPath)) {
-        return *said;
+        return said;
     }
-    const auto byShortNames = FromWide(ShortNames(systemPath));
-    return byShortNames && !byShortNames->empty() ? *byShortNames : FromWideLossy(systemPath);
+    auto byShortNames = FromWide(ShortNames(systemPath));
+    return byShortNames && !byShortNames->empty() ? byShortNames : std::nullopt;
+}
+
+std::string SayPath(const std::wstring& systemPath) {
+    return PathInCodePage(systemPath).value_or(FromWideLossy(systemPath));
 }
 
 }  // namespace lv

@@ -4,11 +4,11 @@
 
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <optional>
 #include <string>
+
+#include "platform/windows/system.h"
 
 namespace lv {
 

@@ -4,13 +4,12 @@
 
 #pragma once
 
-#include <windows.h>
-
 #include <functional>
 #include <string>
 #include <string_view>
 
 #include "platform/error.h"
+#include "platform/windows/system.h"
 
 namespace lv {
 

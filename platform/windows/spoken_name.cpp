@@ -1,11 +1,11 @@
 #include "platform/spoken_name.h"
 
-#include <windows.h>
+#include "platform/windows/system.h"
+#include "platform/windows/wide_text.h"
+
 // Behind windows.h, whose types they need.
 #include <initguid.h>
 #include <oleacc.h>
-
-#include "platform/windows/wide_text.h"
 
 namespace lv {
 

@@ -1,10 +1,9 @@
 #include "platform/windows/system_error.h"
 
-#include <windows.h>
-
 #include <array>
 #include <string_view>
 
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 
 namespace lv {

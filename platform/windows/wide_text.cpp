@@ -1,8 +1,7 @@
 #include "platform/windows/wide_text.h"
 
-#include <windows.h>
-
 #include "platform/code_page.h"
+#include "platform/windows/system.h"
 
 namespace lv {
 

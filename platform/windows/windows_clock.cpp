@@ -1,10 +1,9 @@
 #include "platform/windows/windows_clock.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <array>
 
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 
 namespace lv {

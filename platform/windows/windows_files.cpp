@@ -1,13 +1,11 @@
 #include "platform/windows/windows_files.h"
 
-#include <windows.h>
-#undef RemoveDirectory  // the member's name
-
 #include <array>
 
 #include "platform/code_page.h"
 #include "platform/windows/file_read.h"
 #include "platform/windows/replace_file.h"
+#include "platform/windows/system.h"
 #include "platform/windows/system_error.h"
 #include "platform/windows/wide_text.h"
 
@@ -214,7 +212,12 @@ Error WindowsFiles::Copy(std::string_view from, std::string_view to) {
     if (!file.Ok()) {
         return file.Fault;
     }
-    return ReplaceSystemFile(target->System, [&](HANDLE made) { return CopyAll(file.Value->Get(), made); });
+    // An open file keeps its place: a copy onto itself has to let go of it first.
+    return ReplaceSystemFile(target->System, [&](HANDLE made) {
+        const DWORD failed = CopyAll(file.Value->Get(), made);
+        file.Value->Close();
+        return failed;
+    });
 }
 
 Error WindowsFiles::Delete(std::string_view path) {
@@ -302,9 +305,9 @@ std::string WindowsFiles::FromHost(std::string_view hostPath) {
     if (!wide || wide->empty() || hostPath.find('\0') != std::string_view::npos) {
         return {};
     }
-    const std::string said = SayPath(WithoutPrefix(*wide));
-    const bool isWhole = said.size() > 2 && (said[1] == ':' || said.starts_with("\\\\"));
-    const auto taken = isWhole && said.find('?', 4) == std::string::npos ? TakeApart(said, current_) : std::nullopt;
+    const auto said = PathInCodePage(WithoutPrefix(*wide));
+    const bool isWhole = said && said->size() > 2 && ((*said)[1] == ':' || said->starts_with("\\\\"));
+    const auto taken = isWhole ? TakeApart(*said, current_) : std::nullopt;
     return taken ? PutTogether(*taken) : std::string();
 }
 

@@ -1,7 +1,6 @@
 #include "platform/windows/windows_instance.h"
 
-#include <windows.h>
-
+#include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 
 namespace lv {

@@ -1,13 +1,10 @@
 #include "platform/windows/windows_processes.h"
 
-#include <windows.h>
-// Behind windows.h, whose types it needs.
-#include <shellapi.h>
-
 #include <array>
 
 #include "platform/code_page.h"
 #include "platform/windows/command_line.h"
+#include "platform/windows/system.h"
 #include "platform/windows/system_error.h"
 #include "platform/windows/wide_text.h"
 

@@ -37,6 +37,9 @@ Result<RegistryValue> WindowsRegistry::Query(std::string_view path, std::string_
 }
 
 Error WindowsRegistry::Set(std::string_view path, std::string_view name, const RegistryValue& value) {
+    if (value.Type != kRegistryText && value.Type != kRegistryNumber) {
+        return RegistryError(ERROR_ACCESS_DENIED);
+    }
     RegistryKeyHandle key;
     if (const LSTATUS failed = key.OpenOrMake(ToWide(path), kAllAccess)) {
         return RegistryError(failed);
