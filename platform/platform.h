@@ -6,6 +6,7 @@
 
 #include "platform/clipboard.h"
 #include "platform/clock.h"
+#include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/processes.h"
 #include "platform/settings_backing.h"
@@ -22,6 +23,7 @@ struct Platform {
     Clipboard& Clip;
     Clock& Time;
     SingleInstance* Instance = nullptr;  // null: any number of programs may run
+    Desktop* Windows = nullptr;          // null: there is no desktop with windows of others
 };
 
 }  // namespace lv

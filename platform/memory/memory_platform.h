@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -130,6 +131,34 @@ class MemoryClock : public Clock {
     bool Win9x = false;
 };
 
+/// Windows that a test puts there.
+class MemoryDesktop : public Desktop {
+  public:
+    struct Window {
+        std::string Title;
+        std::string Class;
+        bool Iconic = false;
+    };
+
+    bool HasWindowClasses() override { return Classes; }
+    std::vector<TopWindow> EnumWindows() override;
+    std::string WindowTitle(WindowHandle window) override;
+    bool IsIconic(WindowHandle window) override;
+    void OpenIcon(WindowHandle window) override;
+    bool SetForegroundWindow(WindowHandle window) override;
+    void CloseWindow(WindowHandle window) override;
+    Error SendKeys(std::string_view keys) override;
+
+    std::map<WindowHandle, Window> Windows;  // enumerated in the order of the handles
+    bool Classes = true;
+    bool RefuseForeground = false;
+    Error RefuseKeys;
+    std::function<void(std::string_view keys)> OnKeys;  // the program that has the keys
+
+    /// What was done, in order: "open 7", "front 7", "keys %s", "close 7".
+    std::vector<std::string> Log;
+};
+
 struct MemoryPlatform {
     MemorySettings Settings;
     MemoryRegistry Registry;
@@ -137,7 +166,8 @@ struct MemoryPlatform {
     MemoryProcesses Programs;
     MemoryClipboard Clip;
     MemoryClock Time;
-    Platform Services{Settings, Registry, Disk, Programs, Clip, Time};
+    MemoryDesktop Windows;
+    Platform Services{Settings, Registry, Disk, Programs, Clip, Time, nullptr, &Windows};
 };
 
 }  // namespace lv

@@ -1,0 +1,63 @@
+// platform/desktop.h
+//
+// The other programs' windows on the user's desktop, and keys pressed as if the user did. Both are shared with
+// everything else that runs there: a window may go between two calls, and a user who types meanwhile is in the way.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/error.h"
+
+namespace lv {
+
+/// Names a window as long as it lives; 0 is no window.
+using WindowHandle = std::uint64_t;
+
+/// The buffer that EnumWindows reads titles and classes into, its closing NUL included: what is longer is cut.
+constexpr std::size_t kWindowTextBuffer = 255;
+
+/// A top window, texts in code page 1252.
+struct TopWindow {
+    WindowHandle Handle = 0;
+    std::string Title;
+    std::string Class;  // empty where windows have no classes of this kind
+};
+
+class Desktop {
+  public:
+    virtual ~Desktop() = default;
+
+    /// Whether TopWindow::Class is what the program that made the window calls its class. Windows knows; on an X11
+    /// desktop a Windows program's class is Wine's secret, so that a window can be told by its title alone.
+    virtual bool HasWindowClasses() = 0;
+
+    /// All top windows, hidden ones and this program's own included, the frontmost first where the system knows.
+    virtual std::vector<TopWindow> EnumWindows() = 0;
+
+    /// The whole title; empty if the window is gone.
+    virtual std::string WindowTitle(WindowHandle window) = 0;
+
+    /// Minimised to an icon or a button of the task bar.
+    virtual bool IsIconic(WindowHandle window) = 0;
+
+    /// Brings a minimised window back to its place.
+    virtual void OpenIcon(WindowHandle window) = 0;
+
+    /// Brings the window to the front and gives it the keys. False if the system refused or the window is gone.
+    virtual bool SetForegroundWindow(WindowHandle window) = 0;
+
+    /// Minimises the window; it stays open, whatever the name says.
+    virtual void CloseWindow(WindowHandle window) = 0;
+
+    /// Presses the keys one after the other, and returns when they were taken. The notation: a letter or digit is its
+    /// own key, "%" holds Alt for the key behind it: "%s", "c". Error 5 for anything else, 70 if the system lets
+    /// nobody press keys.
+    virtual Error SendKeys(std::string_view keys) = 0;
+};
+
+}  // namespace lv
