@@ -25,16 +25,15 @@ constexpr std::size_t kWindowTextBuffer = 255;
 struct TopWindow {
     WindowHandle Handle = 0;
     std::string Title;
-    std::string Class;  // empty where windows have no classes of this kind
+    std::string Class;
+    /// Whether Class is what the program itself calls it, as it always is on Windows. On an X11 desktop the class of
+    /// a Windows program stays inside Wine: such a window can be told by its title alone.
+    bool ClassKnown = true;
 };
 
 class Desktop {
   public:
     virtual ~Desktop() = default;
-
-    /// Whether TopWindow::Class is what the program that made the window calls its class. Windows knows; on an X11
-    /// desktop a Windows program's class is Wine's secret, so that a window can be told by its title alone.
-    virtual bool HasWindowClasses() = 0;
 
     /// All top windows, hidden ones and this program's own included, the frontmost first where the system knows.
     virtual std::vector<TopWindow> EnumWindows() = 0;

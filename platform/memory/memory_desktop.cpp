@@ -13,7 +13,7 @@ std::string CutToBuffer(const std::string& text) {
 std::vector<TopWindow> MemoryDesktop::EnumWindows() {
     std::vector<TopWindow> found;
     for (const auto& [handle, window] : Windows) {
-        found.push_back({handle, CutToBuffer(window.Title), Classes ? CutToBuffer(window.Class) : std::string()});
+        found.push_back({handle, CutToBuffer(window.Title), CutToBuffer(window.Class), window.ClassKnown});
     }
     return found;
 }

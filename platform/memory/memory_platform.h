@@ -138,9 +138,9 @@ class MemoryDesktop : public Desktop {
         std::string Title;
         std::string Class;
         bool Iconic = false;
+        bool ClassKnown = true;
     };
 
-    bool HasWindowClasses() override { return Classes; }
     std::vector<TopWindow> EnumWindows() override;
     std::string WindowTitle(WindowHandle window) override;
     bool IsIconic(WindowHandle window) override;
@@ -150,7 +150,6 @@ class MemoryDesktop : public Desktop {
     Error SendKeys(std::string_view keys) override;
 
     std::map<WindowHandle, Window> Windows;  // enumerated in the order of the handles
-    bool Classes = true;
     bool RefuseForeground = false;
     Error RefuseKeys;
     std::function<void(std::string_view keys)> OnKeys;  // the program that has the keys
