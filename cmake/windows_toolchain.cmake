@@ -9,7 +9,8 @@ set(CMAKE_CXX_COMPILER ${host}-g++-posix)
 set(CMAKE_RC_COMPILER ${host}-windres)
 
 get_filename_component(root ${CMAKE_CURRENT_LIST_DIR}/.. ABSOLUTE)
-set(libraries ${root}/build/windows_libraries)
+# What the libraries say of themselves holds their real place.
+get_filename_component(libraries ${root}/build/windows_libraries REALPATH)
 set(CMAKE_FIND_ROOT_PATH ${libraries} /usr/${host})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

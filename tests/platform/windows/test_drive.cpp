@@ -11,12 +11,14 @@ namespace lv {
 
 namespace {
 
-void Empty(const std::wstring& directory) {
+// False if something is still in use.
+bool Empty(const std::wstring& directory) {
     WIN32_FIND_DATAW found{};
     HANDLE find = FindFirstFileW((directory + L"\\*").c_str(), &found);
     if (find == INVALID_HANDLE_VALUE) {
-        return;
+        return true;
     }
+    bool emptied = true;
     do {
         const std::wstring name = found.cFileName;
         if (name == L"." || name == L"..") {
@@ -25,13 +27,20 @@ void Empty(const std::wstring& directory) {
         const std::wstring path = directory + L"\\" + name;
         SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
         if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-            Empty(path);
-            RemoveDirectoryW(path.c_str());
+            emptied = Empty(path) && RemoveDirectoryW(path.c_str()) != 0 && emptied;
         } else {
-            DeleteFileW(path.c_str());
+            emptied = DeleteFileW(path.c_str()) != 0 && emptied;
         }
     } while (FindNextFileW(find, &found) != 0);
     FindClose(find);
+    return emptied;
+}
+
+// A program that has just ended may not have let go of its directory yet.
+void EmptyInTheEnd(const std::wstring& directory) {
+    for (int tries = 0; tries < 100 && !Empty(directory); ++tries) {
+        Sleep(50);
+    }
 }
 
 // By the prefix, so that long paths go too.
@@ -48,11 +57,11 @@ TestDrive::TestDrive() : letter_('\0') {
         std::exit(2);
     }
     letter_ = *drive;
-    Empty(RootOf(letter_));
+    EmptyInTheEnd(RootOf(letter_));
 }
 
 TestDrive::~TestDrive() {
-    Empty(RootOf(letter_));
+    EmptyInTheEnd(RootOf(letter_));
 }
 
 std::string BytesOf(const std::wstring& file) {

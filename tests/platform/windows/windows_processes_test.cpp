@@ -3,11 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <vector>
 
 #include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
+#include "tests/platform/windows/own_window.h"
 #include "this_system.h"
 
 namespace lv {
@@ -16,16 +16,6 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
-
-bool WaitUntil(const std::function<bool()>& holds) {
-    for (int tries = 0; tries < 600; ++tries) {
-        if (holds()) {
-            return true;
-        }
-        Sleep(50);
-    }
-    return false;
-}
 
 // A game directory T:\QUAKE whose game says where and how it was started.
 struct Yard {
