@@ -4,9 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/sqlite_settings.h"
 #include "platform/memory/memory_platform.h"
-#include "tests/platform/scratch_directory.h"
+#include "this_system.h"
 
 namespace lv {
 
@@ -14,12 +13,6 @@ namespace {
 
 struct InMemory {
     MemorySettings Store;
-};
-
-struct InSqlite {
-    ScratchDirectory Scratch;
-    Result<std::unique_ptr<SqliteSettings>> Opened = SqliteSettings::Open(Scratch / "settings.sqlite");
-    SettingsBacking& Store = *Opened.Value;
 };
 
 }  // namespace
@@ -31,7 +24,7 @@ class AnySettings : public testing::Test {
     SettingsBacking& store_ = made_.Store;
 };
 
-using AllSettings = testing::Types<InMemory, InSqlite>;
+using AllSettings = testing::Types<InMemory, SystemSettings>;
 TYPED_TEST_SUITE(AnySettings, AllSettings);
 
 TYPED_TEST(AnySettings, HaveNothingUnderANewName) {

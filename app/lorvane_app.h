@@ -1,0 +1,106 @@
+// app/lorvane_app.h
+//
+// The program on whatever system: makes the window on the platform that a main has made, and runs.
+
+#pragma once
+
+#include <wx/app.h>
+#include <wx/cshelp.h>
+#include <wx/image.h>
+#include <wx/timer.h>
+
+#include <memory>
+#include <utility>
+
+#include "catalogs/forms/entry_forms.h"
+#include "foundry/foundry.h"
+#include "gamespy/forms/game_spy_form.h"
+#include "launcher/forms/launcher_user.h"
+#include "launcher/forms/lv_form.h"
+#include "launcher/start.h"
+#include "video/forms/add_vid_profile_form.h"
+#include "video/forms/video_profile_form.h"
+#include "wizard/forms/install_form.h"
+#include "wizard/wizard.h"
+
+namespace lv {
+
+/// Everything that one run owns, in the order in which it is made.
+template <class System>
+struct Program {
+    explicit Program(std::unique_ptr<System> host) : Host(std::move(host)) {
+        User.SetRun(TheRun);
+        User.AddForms(MakeEntryForm);
+        User.AddForms(MakeInstallForm);
+        User.AddForms(MakeAddVidProfileForm);
+        User.AddForms(MakeGameSpyForm);
+        ConnectWizard(TheLauncher);
+        ConnectFoundry(TheLauncher);
+    }
+
+    std::unique_ptr<System> Host;
+    LauncherUser User{Host->Disk};
+    Run TheRun{Host->Services, User};
+    Launcher TheLauncher{TheRun};
+    VideoProfileWindow Profiles{TheLauncher.VideoProfile, User};
+};
+
+/// A System has the members `Disk` and `Services`, the platform, and these functions:
+/// static Make(), which makes it, or tells the user why not and returns null;
+/// Started(window, launcher), called when the window is on the screen;
+/// AnswerKnocks(), called four times a second from then on.
+template <class System>
+class LorvaneApp : public wxApp {
+  public:
+    bool OnInit() override {
+        SetAppName("lorvane3d");
+        SetAppDisplayName("Lorvane 3D");
+        wxImage::AddHandler(new wxPNGHandler);
+        auto host = System::Make();
+        if (!host) {
+            return false;
+        }
+        program_ = std::make_unique<Program<System>>(std::move(host));
+        wxHelpProvider::Set(new wxSimpleHelpProvider);
+        form_ = new LvForm(program_->TheLauncher, program_->User);
+        SetTopWindow(form_);
+        SetExitOnFrameDelete(false);
+        CallAfter([this] { StartInsideTheLoop(); });
+        return true;
+    }
+
+    int OnExit() override {
+        look_.Stop();
+        return wxApp::OnExit();
+    }
+
+  private:
+    // The start pumps events, so it needs the loop around it.
+    void StartInsideTheLoop() {
+        if (!Start(program_->TheLauncher)) {
+            End();
+            return;
+        }
+        program_->Host->Started(*form_, program_->TheLauncher);
+        look_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
+            program_->Host->AnswerKnocks();
+            if (program_->TheRun.Ended) {
+                End();
+            }
+        });
+        look_.Start(kLookMilliseconds);
+    }
+
+    void End() {
+        form_->Destroy();
+        ExitMainLoop();
+    }
+
+    static constexpr int kLookMilliseconds = 250;
+
+    LvForm* form_ = nullptr;
+    wxTimer look_;
+    std::unique_ptr<Program<System>> program_;
+};
+
+}  // namespace lv

@@ -1,0 +1,57 @@
+// app/main_windows.cpp
+//
+// The program on Windows: makes the platform.
+
+#include <memory>
+
+#include "app/lorvane_app.h"
+#include "foundation/forms/wx_clipboard.h"
+#include "launcher/window_life.h"
+#include "platform/windows/registry_settings.h"
+#include "platform/windows/windows_clock.h"
+#include "platform/windows/windows_desktop.h"
+#include "platform/windows/windows_files.h"
+#include "platform/windows/windows_instance.h"
+#include "platform/windows/windows_processes.h"
+#include "platform/windows/windows_registry.h"
+
+namespace lv {
+
+namespace {
+
+struct WindowsSystem {
+    WindowsSystem() {
+        Services.Instance = &Instance;
+        Services.Windows = &Desk;
+    }
+
+    static std::unique_ptr<WindowsSystem> Make() { return std::make_unique<WindowsSystem>(); }
+
+    // A second start shows this window behind the program's back; everything else has to follow.
+    void Started(LvForm& window, Launcher& launcher) {
+        window.Bind(wxEVT_SHOW, [&launcher](wxShowEvent& event) {
+            event.Skip();
+            if (event.IsShown() && !launcher.Window.Visible) {
+                ComeForward(launcher);
+            }
+        });
+    }
+
+    void AnswerKnocks() {}
+
+    RegistrySettings Settings;
+    WindowsFiles Disk;
+    WindowsRegistry Registry;
+    WindowsProcesses Programs{Disk};
+    WxClipboard Clip;
+    WindowsClock Time;
+    WindowsInstance Instance{"   Lorvane 3D"};
+    WindowsDesktop Desk;
+    Platform Services{Settings, Registry, Disk, Programs, Clip, Time};
+};
+
+}  // namespace
+
+}  // namespace lv
+
+wxIMPLEMENT_APP(lv::LorvaneApp<lv::WindowsSystem>);

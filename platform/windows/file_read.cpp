@@ -1,0 +1,173 @@
+#include "platform/windows/file_read.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/windows/system_error.h"
+#include "platform/windows/wide_text.h"
+
+namespace lv {
+
+namespace {
+
+constexpr DWORD kSharedWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr DWORD kMostAtOnce = 1u << 30;
+
+class FindHandle {
+  public:
+    FindHandle(const std::wstring& pattern, WIN32_FIND_DATAW& first)
+        : handle_(FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &first, FindExSearchNameMatch, nullptr,
+                                   FIND_FIRST_EX_LARGE_FETCH)) {}
+    ~FindHandle() {
+        if (IsOpen()) {
+            FindClose(handle_);
+        }
+    }
+    FindHandle(const FindHandle&) = delete;
+    FindHandle& operator=(const FindHandle&) = delete;
+
+    [[nodiscard]] bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+    bool Next(WIN32_FIND_DATAW& next) { return FindNextFileW(handle_, &next) != 0; }
+
+  private:
+    HANDLE handle_;
+};
+
+class SystemFile : public RandomAccessFile {
+  public:
+    SystemFile(std::unique_ptr<FileHandle> file, std::uint64_t size) : file_(std::move(file)), size_(size) {}
+    [[nodiscard]] std::uint64_t Size() const override { return size_; }
+
+    Result<std::string> Read(std::uint64_t offset, std::size_t count) override {
+        if (offset >= size_) {
+            return std::string();
+        }
+        std::string bytes(static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)), '\0');
+        std::size_t done = 0;
+        while (done < bytes.size()) {
+            const std::uint64_t at = offset + done;
+            OVERLAPPED place{};
+            place.Offset = static_cast<DWORD>(at);
+            place.OffsetHigh = static_cast<DWORD>(at >> 32);
+            const auto most = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, kMostAtOnce));
+            DWORD got = 0;
+            if (ReadFile(file_->Get(), bytes.data() + done, most, &got, &place) == 0) {
+                if (GetLastError() == ERROR_HANDLE_EOF) {
+                    break;
+                }
+                return ErrorOfSystem(GetLastError());
+            }
+            if (got == 0) {
+                break;
+            }
+            done += got;
+        }
+        bytes.resize(done);
+        return bytes;
+    }
+
+  private:
+    std::unique_ptr<FileHandle> file_;
+    std::uint64_t size_;
+};
+
+}  // namespace
+
+Result<std::unique_ptr<FileHandle>> OpenPlainFile(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return MakeError(error::kPathFileAccess);
+    }
+    auto file = std::make_unique<FileHandle>(CreateFileW(path.c_str(), GENERIC_READ, kSharedWithAll, nullptr,
+                                                         OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!file->IsOpen()) {
+        return ErrorOfSystem(GetLastError());
+    }
+    if (GetFileType(file->Get()) != FILE_TYPE_DISK) {
+        return MakeError(error::kPathFileAccess);
+    }
+    return file;
+}
+
+Result<std::string> ReadToEnd(HANDLE file) {
+    LARGE_INTEGER size{};
+    std::string bytes;
+    std::size_t done = 0;
+    if (GetFileSizeEx(file, &size) != 0 && size.QuadPart > 0) {
+        bytes.resize(static_cast<std::size_t>(size.QuadPart) + 1);
+    }
+    while (true) {
+        if (done == bytes.size()) {
+            bytes.resize(done + std::max<std::size_t>(done, 4096));
+        }
+        const auto most = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, kMostAtOnce));
+        DWORD got = 0;
+        if (ReadFile(file, bytes.data() + done, most, &got, nullptr) == 0) {
+            return ErrorOfSystem(GetLastError());
+        }
+        if (got == 0) {
+            bytes.resize(done);
+            return bytes;
+        }
+        done += got;
+    }
+}
+
+Result<std::unique_ptr<RandomAccessFile>> OpenPlainFileAnywhere(const std::wstring& path) {
+    auto file = OpenPlainFile(path);
+    if (!file.Ok()) {
+        return file.Fault;
+    }
+    LARGE_INTEGER size{};
+    if (GetFileSizeEx(file.Value->Get(), &size) == 0) {
+        return ErrorOfSystem(GetLastError());
+    }
+    return std::unique_ptr<RandomAccessFile>(
+        std::make_unique<SystemFile>(std::move(file.Value), static_cast<std::uint64_t>(size.QuadPart)));
+}
+
+Result<std::vector<DirectoryEntry>> ListSystemDirectory(const std::wstring& path) {
+    WIN32_FIND_DATAW found{};
+    FindHandle find(path.ends_with(L'\\') ? path + L"*" : path + L"\\*", found);
+    std::vector<DirectoryEntry> entries = {{".", true}, {"..", true}};
+    if (!find.IsOpen()) {
+        const DWORD failed = GetLastError();
+        const DWORD attributes = GetFileAttributesW(path.c_str());
+        const bool isDirectory = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        // An empty drive has not even the two.
+        return failed == ERROR_FILE_NOT_FOUND && isDirectory ? Result(std::move(entries)) : ErrorOfDirectory(failed);
+    }
+    do {
+        const std::wstring_view systemName = found.cFileName;
+        const auto name = FromWide(systemName);
+        if (name && systemName != L"." && systemName != L"..") {
+            entries.push_back({*name, (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
+        }
+    } while (find.Next(found));
+    const DWORD failed = GetLastError();
+    return failed == ERROR_NO_MORE_FILES ? Result(std::move(entries)) : ErrorOfSystem(failed);
+}
+
+Result<std::uint64_t> IdentityOfDirectory(const std::wstring& path) {
+    const FileHandle directory(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, kSharedWithAll, nullptr, OPEN_EXISTING,
+                                           FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    BY_HANDLE_FILE_INFORMATION info{};
+    if (!directory.IsOpen() || GetFileInformationByHandle(directory.Get(), &info) == 0) {
+        return ErrorOfDirectory(GetLastError());
+    }
+    if ((info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
+        return MakeError(error::kPathNotFound);
+    }
+    constexpr std::uint64_t kSpread = 0x9E3779B97F4A7C15;  // odd, with its bits all over the word
+    const std::uint64_t index = (static_cast<std::uint64_t>(info.nFileIndexHigh) << 32) | info.nFileIndexLow;
+    return index ^ (info.dwVolumeSerialNumber * kSpread);
+}
+
+std::wstring NameAsFound(const std::wstring& path) {
+    const std::size_t slash = path.rfind(L'\\');
+    WIN32_FIND_DATAW found{};
+    const FindHandle find(path, found);
+    return find.IsOpen() ? std::wstring(found.cFileName) : path.substr(slash + 1);
+}
+
+}  // namespace lv

@@ -1,0 +1,44 @@
+// platform/windows/registry_key.h
+//
+// A key of the user's registry that closes itself, and the values in it, in the system's own text.
+
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "platform/windows/system.h"
+
+namespace lv {
+
+struct RawRegistryValue {
+    DWORD Type = 0;
+    std::wstring Text;  // for REG_SZ, as long as reported, its terminator cut off
+    std::uint32_t Number = 0;
+};
+
+class RegistryKeyHandle {
+  public:
+    RegistryKeyHandle() = default;
+    ~RegistryKeyHandle();
+    RegistryKeyHandle(const RegistryKeyHandle&) = delete;
+    RegistryKeyHandle& operator=(const RegistryKeyHandle&) = delete;
+
+    /// Below HKEY_CURRENT_USER. Each returns the system's error number, 0 for success.
+    LSTATUS Open(const std::wstring& path, REGSAM access);
+    /// Opens the key, and makes it if it is not there.
+    LSTATUS OpenOrMake(const std::wstring& path, REGSAM access);
+
+    /// A value of a type other than text and number comes back as its type alone.
+    LSTATUS Query(const std::wstring& name, RawRegistryValue& value) const;
+    [[nodiscard]] LSTATUS SetText(const std::wstring& name, const std::wstring& text) const;
+    [[nodiscard]] LSTATUS SetNumber(const std::wstring& name, std::uint32_t number) const;
+
+  private:
+    void Close();
+
+    HKEY key_ = nullptr;
+};
+
+}  // namespace lv

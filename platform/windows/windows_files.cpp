@@ -1,0 +1,314 @@
+#include "platform/windows/windows_files.h"
+
+#include <array>
+
+#include "platform/code_page.h"
+#include "platform/windows/file_read.h"
+#include "platform/windows/replace_file.h"
+#include "platform/windows/system.h"
+#include "platform/windows/system_error.h"
+#include "platform/windows/wide_text.h"
+
+namespace lv {
+
+namespace {
+
+// While this lives the system asks nobody to insert a disk: a drive that is not ready is an error.
+class Quiet {
+  public:
+    Quiet() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &before_); }
+    ~Quiet() { SetThreadErrorMode(before_, nullptr); }
+    Quiet(const Quiet&) = delete;
+    Quiet& operator=(const Quiet&) = delete;
+
+  private:
+    DWORD before_ = 0;
+};
+
+bool EndsInSeparator(std::string_view path) {
+    return path.ends_with('\\') || path.ends_with('/');
+}
+
+DWORD AttributesOf(const std::wstring& path) {
+    const Quiet quiet;
+    return GetFileAttributesW(path.c_str());
+}
+
+bool IsDirectoryAt(const std::wstring& path) {
+    const DWORD attributes = AttributesOf(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+std::wstring DriveRoot(char letter) {
+    return {static_cast<wchar_t>(UpperCase(letter)), L':', L'\\'};
+}
+
+// Those of other machines are left out of a walk.
+bool MayWalk(const FullPath& path) {
+    return path.Root.ends_with(':') && GetDriveTypeW(DriveRoot(path.Root[0]).c_str()) != DRIVE_REMOTE;
+}
+
+DWORD CopyAll(HANDLE from, HANDLE to) {
+    std::array<char, 65536> buffer{};
+    while (true) {
+        DWORD got = 0;
+        if (ReadFile(from, buffer.data(), static_cast<DWORD>(buffer.size()), &got, nullptr) == 0) {
+            return GetLastError();
+        }
+        if (got == 0) {
+            return ERROR_SUCCESS;
+        }
+        if (const DWORD failed = WriteAll(to, {buffer.data(), got})) {
+            return failed;
+        }
+    }
+}
+
+std::wstring OwnCurrentDirectory() {
+    std::wstring path(GetCurrentDirectoryW(0, nullptr), L'\0');
+    path.resize(GetCurrentDirectoryW(static_cast<DWORD>(path.size()), path.data()));
+    return path;
+}
+
+std::wstring OwnProgramFile() {
+    std::wstring path(MAX_PATH, L'\0');
+    while (true) {
+        const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        if (length < path.size()) {
+            path.resize(length);
+            return path;
+        }
+        path.resize(path.size() * 2);
+    }
+}
+
+// Without the prefix that long paths are reached by.
+std::wstring WithoutPrefix(std::wstring path) {
+    if (path.starts_with(L"\\\\?\\UNC\\")) {
+        return L"\\\\" + path.substr(8);
+    }
+    return path.starts_with(L"\\\\?\\") && path.size() > 5 && path[5] == L':' ? path.substr(4) : path;
+}
+
+}  // namespace
+
+WindowsFiles::WindowsFiles() : current_{"C:", {}} {
+    if (auto started = TakeApart(SayPath(WithoutPrefix(OwnCurrentDirectory())), current_)) {
+        current_ = *std::move(started);
+    }
+}
+
+std::optional<WindowsFiles::Place> WindowsFiles::Find(std::string_view path) const {
+    auto taken = TakeApart(path, current_);
+    if (!taken) {
+        return std::nullopt;
+    }
+    std::wstring system = SystemPath(*taken);
+    return Place{*std::move(taken), std::move(system)};
+}
+
+std::vector<std::string> WindowsFiles::Drives() {
+    std::vector<std::string> drives;
+    const DWORD there = GetLogicalDrives();
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        if ((there >> (letter - 'A') & 1u) != 0) {
+            drives.push_back({letter, ':'});
+        }
+    }
+    return drives;
+}
+
+Error WindowsFiles::ProbeDrive(std::string_view drive) {
+    const auto taken = TakeApart(drive, current_);
+    const bool isLetter = drive.size() >= 2 && drive[1] == ':' && taken;
+    if (!isLetter || GetDriveTypeW(DriveRoot(drive[0]).c_str()) == DRIVE_NO_ROOT_DIR) {
+        return MakeError(error::kDeviceUnavailable);
+    }
+    return IsDirectoryAt(DriveRoot(drive[0])) ? Error() : MakeError(error::kDiskNotReady);
+}
+
+bool WindowsFiles::FileExists(std::string_view path) {
+    const auto place = Find(path);
+    if (!place || EndsInSeparator(path)) {
+        return false;
+    }
+    const DWORD attributes = AttributesOf(place->System);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool WindowsFiles::DirectoryExists(std::string_view path) {
+    const auto place = Find(path);
+    return place && IsDirectoryAt(place->System);
+}
+
+Result<std::vector<DirectoryEntry>> WindowsFiles::List(std::string_view directory) {
+    const Quiet quiet;
+    const auto place = Find(directory);
+    return place ? ListSystemDirectory(place->System) : MakeError(error::kPathNotFound);
+}
+
+Result<WalkedDirectory> WindowsFiles::ListForWalk(std::string_view directory) {
+    const Quiet quiet;
+    const auto place = Find(directory);
+    if (!place) {
+        return MakeError(error::kPathNotFound);
+    }
+    const auto identity = IdentityOfDirectory(place->System);
+    if (!identity.Ok()) {
+        return identity.Fault;
+    }
+    if (!MayWalk(place->Path)) {
+        return MakeError(error::kPathFileAccess);
+    }
+    auto listed = ListSystemDirectory(place->System);
+    if (!listed.Ok()) {
+        return listed.Fault;
+    }
+    return WalkedDirectory{identity.Value, std::move(listed.Value)};
+}
+
+Result<std::string> WindowsFiles::Read(std::string_view path) {
+    const Quiet quiet;
+    const auto place = Find(path);
+    if (!place) {
+        return MakeError(error::kPathNotFound);
+    }
+    const auto file = OpenPlainFile(place->System);
+    return file.Ok() ? ReadToEnd(file.Value->Get()) : file.Fault;
+}
+
+Result<std::unique_ptr<RandomAccessFile>> WindowsFiles::Open(std::string_view path) {
+    const Quiet quiet;
+    const auto place = Find(path);
+    if (!place) {
+        return MakeError(error::kPathNotFound);
+    }
+    return OpenPlainFileAnywhere(place->System);
+}
+
+Error WindowsFiles::Replace(std::string_view path, std::string_view bytes) {
+    const Quiet quiet;
+    const auto place = Find(path);
+    if (!place) {
+        return MakeError(error::kPathNotFound);
+    }
+    if (EndsInSeparator(path) || place->Path.Parts.empty()) {
+        return MakeError(error::kPathFileAccess);
+    }
+    return ReplaceSystemFile(place->System, [bytes](HANDLE file) { return WriteAll(file, bytes); });
+}
+
+Error WindowsFiles::Copy(std::string_view from, std::string_view to) {
+    const Quiet quiet;
+    const auto source = Find(from);
+    const auto target = Find(to);
+    if (!source || !target) {
+        return MakeError(error::kPathNotFound);
+    }
+    if (EndsInSeparator(to) || target->Path.Parts.empty()) {
+        return MakeError(error::kPathFileAccess);
+    }
+    const auto file = OpenPlainFile(source->System);
+    if (!file.Ok()) {
+        return file.Fault;
+    }
+    // An open file keeps its place: a copy onto itself has to let go of it first.
+    return ReplaceSystemFile(target->System, [&](HANDLE made) {
+        const DWORD failed = CopyAll(file.Value->Get(), made);
+        file.Value->Close();
+        return failed;
+    });
+}
+
+Error WindowsFiles::Delete(std::string_view path) {
+    const auto place = Find(path);
+    if (!place) {
+        return MakeError(error::kPathNotFound);
+    }
+    const DWORD attributes = AttributesOf(place->System);
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        return ErrorOfSystem(GetLastError());
+    }
+    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return MakeError(error::kFileNotFound);
+    }
+    if ((attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+        return MakeError(error::kPathFileAccess);
+    }
+    const Quiet quiet;
+    return DeleteFileW(place->System.c_str()) != 0 ? Error() : ErrorOfSystem(GetLastError());
+}
+
+Error WindowsFiles::MakeDirectory(std::string_view path) {
+    const Quiet quiet;
+    const auto place = Find(path);
+    if (!place) {
+        return MakeError(error::kPathNotFound);
+    }
+    if (CreateDirectoryW(place->System.c_str(), nullptr) != 0) {
+        return {};
+    }
+    const DWORD failed = GetLastError();
+    return failed == ERROR_FILE_NOT_FOUND ? MakeError(error::kPathNotFound) : ErrorOfSystem(failed);
+}
+
+Error WindowsFiles::RemoveDirectory(std::string_view path) {
+    const auto place = Find(path);
+    if (!place || !IsDirectoryAt(place->System)) {
+        return MakeError(error::kPathNotFound);
+    }
+    if (place->Path.Parts.empty()) {
+        return MakeError(error::kPathFileAccess);
+    }
+    const Quiet quiet;
+    return RemoveDirectoryW(place->System.c_str()) != 0 ? Error() : ErrorOfSystem(GetLastError());
+}
+
+Error WindowsFiles::ChangeDrive(std::string_view drive) {
+    if (Error failed = ProbeDrive(drive)) {
+        return failed;
+    }
+    const std::string root = {UpperCase(drive[0]), ':'};
+    if (root != current_.Root) {
+        current_ = {root, {}};
+    }
+    return {};
+}
+
+Error WindowsFiles::ChangeDirectory(std::string_view path) {
+    const auto place = Find(path);
+    if (!place || !IsDirectoryAt(place->System)) {
+        return MakeError(error::kPathNotFound);
+    }
+    FullPath found = {place->Path.Root, {}};
+    for (const std::string& part : place->Path.Parts) {
+        found.Parts.push_back(part);
+        found.Parts.back() = FromWide(NameAsFound(SystemPath(found))).value_or(part);
+    }
+    current_ = std::move(found);
+    return {};
+}
+
+std::string WindowsFiles::ProgramDirectory() {
+    const std::wstring file = WithoutPrefix(OwnProgramFile());
+    const std::wstring directory = file.substr(0, file.rfind(L'\\'));
+    return SayPath(directory.ends_with(L':') ? directory + L"\\" : directory);
+}
+
+std::string WindowsFiles::ToHost(std::string_view path) {
+    const auto taken = TakeApart(path, current_);
+    return taken ? ToUtf8(PutTogether(*taken)) : std::string();
+}
+
+std::string WindowsFiles::FromHost(std::string_view hostPath) {
+    const auto wide = WideFromUtf8(hostPath);
+    if (!wide || wide->empty() || hostPath.find('\0') != std::string_view::npos) {
+        return {};
+    }
+    const auto said = PathInCodePage(WithoutPrefix(*wide));
+    const bool isWhole = said && said->size() > 2 && ((*said)[1] == ':' || said->starts_with("\\\\"));
+    const auto taken = isWhole ? TakeApart(*said, current_) : std::nullopt;
+    return taken ? PutTogether(*taken) : std::string();
+}
+
+}  // namespace lv

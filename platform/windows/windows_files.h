@@ -1,0 +1,54 @@
+// platform/windows/windows_files.h
+//
+// Files under the system's own paths: drives, and the shares of a network.
+
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/files.h"
+#include "platform/windows/full_path.h"
+
+namespace lv {
+
+/// The current directory is the program's own: it starts as the process's, which is never changed.
+class WindowsFiles : public Files {
+  public:
+    WindowsFiles();
+
+    std::vector<std::string> Drives() override;
+    Error ProbeDrive(std::string_view drive) override;
+    bool FileExists(std::string_view path) override;
+    bool DirectoryExists(std::string_view path) override;
+    Result<std::vector<DirectoryEntry>> List(std::string_view directory) override;
+    Result<WalkedDirectory> ListForWalk(std::string_view directory) override;
+    Result<std::string> Read(std::string_view path) override;
+    Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) override;
+    Error Replace(std::string_view path, std::string_view bytes) override;
+    Error Copy(std::string_view from, std::string_view to) override;
+    Error Delete(std::string_view path) override;
+    Error MakeDirectory(std::string_view path) override;
+    Error RemoveDirectory(std::string_view path) override;
+    std::string CurrentDirectory() override { return PutTogether(current_); }
+    Error ChangeDrive(std::string_view drive) override;
+    Error ChangeDirectory(std::string_view path) override;
+    std::string ProgramDirectory() override;
+
+    /// The whole path; nothing is looked up.
+    std::string ToHost(std::string_view path) override;
+
+    /// By its short names if the long ones have no code page 1252 form; empty if neither has.
+    std::string FromHost(std::string_view hostPath) override;
+
+  private:
+    struct Place {
+        FullPath Path;
+        std::wstring System;
+    };
+    [[nodiscard]] std::optional<Place> Find(std::string_view path) const;
+
+    FullPath current_;
+};
+
+}  // namespace lv

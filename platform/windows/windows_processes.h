@@ -1,0 +1,28 @@
+// platform/windows/windows_processes.h
+//
+// Starting other programs the system's own way. What is started outlives this program.
+
+#pragma once
+
+#include "platform/files.h"
+#include "platform/processes.h"
+
+namespace lv {
+
+class WindowsProcesses : public Processes {
+  public:
+    /// `disk` says what a path without a drive is taken from.
+    explicit WindowsProcesses(Files& disk) : disk_(disk) {}
+
+    /// The command processor of the system carries the batch out, in a console of its own. On a share of the network,
+    /// where it cannot stand, it starts in a directory of the system's.
+    Error StartBatch(std::string_view directory, std::string_view name) override;
+
+    /// A document is opened by the program that the user has for it.
+    Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
+
+  private:
+    Files& disk_;
+};
+
+}  // namespace lv

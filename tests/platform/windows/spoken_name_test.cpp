@@ -1,0 +1,45 @@
+#include "platform/spoken_name.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/platform/windows/own_window.h"
+
+// Behind windows.h, whose types they need.
+#include <initguid.h>
+#include <oleacc.h>
+
+namespace lv {
+
+namespace {
+
+// Windows has had this service since XP; Wine 8 has not.
+bool SystemKeepsNames() {
+    (void)CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    IAccPropServices* names = nullptr;
+    const HRESULT made = CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                                          reinterpret_cast<void**>(&names));
+    if (names != nullptr) {
+        names->Release();
+    }
+    CoUninitialize();
+    return SUCCEEDED(made);
+}
+
+}  // namespace
+
+TEST(SpokenName, IsWhatTheControlWasGivenWhereTheSystemKeepsNames) {
+    const OwnWindow own(L"QW Class", L"");
+    HWND control = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, own.Handle(), nullptr,
+                                   GetModuleHandleW(nullptr), nullptr);
+    ASSERT_NE(control, nullptr);
+    SetSpokenName(control, "Zo\xC3\xAB's port");
+    EXPECT_EQ(SpokenName(control), SystemKeepsNames() ? "Zo\xC3\xAB's port" : "");
+    DestroyWindow(control);
+}
+
+TEST(SpokenName, IsNothingForNoControl) {
+    SetSpokenName(nullptr, "x");
+    EXPECT_EQ(SpokenName(nullptr), "");
+}
+
+}  // namespace lv

@@ -1,0 +1,50 @@
+// tests/platform/windows/this_system.h
+//
+// The interfaces as Windows keeps them, for the tests of what every system promises.
+
+#pragma once
+
+#include <string>
+
+#include "platform/windows/registry_settings.h"
+#include "platform/windows/system.h"
+#include "platform/windows/windows_files.h"
+#include "platform/windows/windows_registry.h"
+#include "tests/platform/windows/test_drive.h"
+
+namespace lv {
+
+/// A drive with nothing on it.
+struct SystemDisk {
+    SystemDisk() { (void)Disk.ChangeDrive(std::string{Letter, ':'}); }
+
+    TestDrive Drive;
+    WindowsFiles Disk;
+    char Letter = Drive.Letter();
+};
+
+/// A key below HKEY_CURRENT_USER, without values when this is made and when it goes.
+class EmptyKey {
+  public:
+    explicit EmptyKey(std::wstring path) : path_(std::move(path)) { RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str()); }
+    ~EmptyKey() { RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str()); }
+    EmptyKey(const EmptyKey&) = delete;
+    EmptyKey& operator=(const EmptyKey&) = delete;
+
+  private:
+    std::wstring path_;
+};
+
+/// Nothing of the applications that the tests write.
+struct SystemSettings {
+    EmptyKey Ours{L"Software\\VB and VBA Program Settings\\Lorvane 3D"};
+    EmptyKey A{L"Software\\VB and VBA Program Settings\\a"};
+    RegistrySettings Store;
+};
+
+struct SystemRegistry {
+    EmptyKey Valve{L"Software\\Valve"};
+    WindowsRegistry Registry;
+};
+
+}  // namespace lv

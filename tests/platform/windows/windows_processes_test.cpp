@@ -1,0 +1,128 @@
+#include "platform/windows/windows_processes.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "platform/windows/system.h"
+#include "platform/windows/wide_text.h"
+#include "tests/platform/windows/own_window.h"
+#include "this_system.h"
+
+namespace lv {
+
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+
+// A game directory T:\QUAKE whose game says where and how it was started.
+struct Yard {
+    Yard() {
+        EXPECT_EQ(Made.Disk.MakeDirectory("T:\\QUAKE").Number, 0);
+        CopyGame("T:\\QUAKE\\GAME.EXE");
+    }
+    void CopyGame(const std::string& to) {
+        const std::wstring game = ToWide(Made.Disk.ProgramDirectory() + "\\..\\standins\\show_windows.exe");
+        EXPECT_NE(CopyFileW(game.c_str(), ToWide(to).c_str(), FALSE), 0) << GetLastError();
+    }
+    /// The lines of output.txt once it is complete.
+    static std::vector<std::string> Said(const std::wstring& file = L"T:\\QUAKE\\output.txt") {
+        WaitUntil([&] { return BytesOf(file).ends_with("end\n"); });
+        std::vector<std::string> lines;
+        std::string line;
+        for (const char c : BytesOf(file)) {
+            if (c == '\n') {
+                lines.push_back(line);
+                line.clear();
+            } else {
+                line += c;
+            }
+        }
+        return lines;
+    }
+
+    SystemDisk Made;
+    WindowsProcesses Programs{Made.Disk};
+};
+
+std::vector<std::string> After(const std::string& start, const std::vector<std::string>& lines) {
+    std::vector<std::string> found;
+    for (const std::string& line : lines) {
+        if (line.starts_with(start)) {
+            found.push_back(line.substr(start.size()));
+        }
+    }
+    return found;
+}
+
+}  // namespace
+
+TEST(StartBatch, StartsTheGameWithItsDirectoryArgumentsAndEnvironment) {
+    Yard yard;
+    EXPECT_EQ(yard.Made.Disk
+                  .Replace("T:\\QUAKE\\lv_666.bat",
+                           "SET SST_RGAMMA=1.70\r\nT:\r\ncd \\QUAKE\r\nGAME.EXE -game \"a b\" +map e1m1\r\n")
+                  .Number,
+              0);
+    EXPECT_EQ(yard.Programs.StartBatch("T:\\QUAKE", "lv_666.bat").Number, 0);
+    const std::vector<std::string> lines = Yard::Said();
+    EXPECT_THAT(After("DIRECTORY=", lines), ElementsAre("T:\\QUAKE"));
+    EXPECT_THAT(After("ARGUMENT=", lines), ElementsAre("-game", "a b", "+map", "e1m1"));
+    EXPECT_THAT(lines, Contains("SST_RGAMMA=1.70"));
+}
+
+TEST(StartBatch, StandsInTheDirectoryWhateverItIsCalled) {
+    Yard yard;
+    EXPECT_EQ(yard.Made.Disk.MakeDirectory("T:\\My & (own) \xE9 games").Number, 0);
+    yard.CopyGame("T:\\My & (own) \xE9 games\\GAME.EXE");
+    EXPECT_EQ(yard.Made.Disk.Replace("T:\\My & (own) \xE9 games\\lv_666.bat", "GAME.EXE\r\n").Number, 0);
+    EXPECT_EQ(yard.Programs.StartBatch("T:\\My & (own) \xE9 games", "lv_666.bat").Number, 0);
+    EXPECT_THAT(After("DIRECTORY=", Yard::Said(L"T:\\My & (own) \u00E9 games\\output.txt")),
+                ElementsAre("T:\\My & (own) \xC3\xA9 games"));
+}
+
+TEST(StartBatch, TakesTheCurrentDirectoryWithoutOne) {
+    Yard yard;
+    EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\lv_666.bat", "GAME.EXE\r\n").Number, 0);
+    EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\QUAKE").Number, 0);
+    EXPECT_EQ(yard.Programs.StartBatch("", "lv_666.bat").Number, 0);
+    EXPECT_THAT(After("DIRECTORY=", Yard::Said()), ElementsAre("T:\\QUAKE"));
+}
+
+TEST(StartBatch, SaysWhatIsMissing) {
+    Yard yard;
+    EXPECT_EQ(yard.Programs.StartBatch("T:\\QUAKE", "lv_666.bat").Number, 53);
+    const Error failed = yard.Programs.StartBatch("T:\\NONE", "lv_666.bat");
+    EXPECT_EQ(failed.Number, 76);
+    EXPECT_NE(failed.Text.find("T:\\NONE"), std::string::npos) << failed.Text;
+}
+
+TEST(StartProgram, HandsItsArgumentsOverAsTheyAre) {
+    Yard yard;
+    EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\QUAKE").Number, 0);
+    const std::vector<std::string> arguments = {"a b", "", "x\"y", "T:\\dir\\", "c:\\a b\\", "\xE9"};
+    EXPECT_EQ(yard.Programs.StartProgram("T:\\QUAKE\\GAME.EXE", arguments).Number, 0);
+    const std::vector<std::string> lines = Yard::Said();
+    EXPECT_THAT(After("ARGUMENT=", lines), ElementsAre("a b", "", "x\"y", "T:\\dir\\", "c:\\a b\\", "\xC3\xA9"));
+    EXPECT_THAT(After("DIRECTORY=", lines), ElementsAre("T:\\QUAKE"));
+}
+
+TEST(StartProgram, FindsTheSystemsProgramsByTheirNames) {
+    Yard yard;
+    EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\QUAKE").Number, 0);
+    EXPECT_EQ(yard.Programs.StartProgram("cmd.exe", {"/c", "GAME.EXE"}).Number, 0);
+    EXPECT_FALSE(Yard::Said().empty());
+}
+
+TEST(StartProgram, SaysWhichProgramIsMissing) {
+    Yard yard;
+    const Error failed = yard.Programs.StartProgram("T:\\NONE.EXE", {});
+    EXPECT_EQ(failed.Number, 53);
+    EXPECT_NE(failed.Text.find("T:\\NONE.EXE"), std::string::npos) << failed.Text;
+    EXPECT_EQ(yard.Programs.StartProgram("no such program.exe", {}).Number, 53);
+    EXPECT_EQ(yard.Programs.StartProgram("", {}).Number, 53);
+}
+
+}  // namespace lv
