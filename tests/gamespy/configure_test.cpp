@@ -426,17 +426,15 @@ TEST_F(Configure, AGameSpyThatDoesNotStartIsReported) {
 }
 
 TEST_F(Configure, MayHideTheMainWindowAsALaunchDoes) {
-    bool unloaded = false;
-    launcher.VideoProfiles.Open = true;
-    launcher.VideoProfiles.Unload = [&unloaded] { unloaded = true; };
+    VideoProfile_Frm_Load(launcher.VideoProfile);
     Run([](GameSpyConfig_Frm& form) {
         Use(form, {0});
         GameSpyConfig_MinimizeLorvane_Opt_Click(form, 1);
     });
     EXPECT_FALSE(window.Visible);
     EXPECT_EQ(window.Bar(MenuItem::ShowLorvane_Bar).Caption, "&Show Lorvane 3D");
-    EXPECT_TRUE(unloaded);
-    EXPECT_TRUE(launcher.VideoProfiles.Reopen);
+    EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
+    EXPECT_TRUE(launcher.VideoProfileReopen);
     EXPECT_FALSE(user.ProgramEnded);
 }
 
