@@ -78,7 +78,9 @@ std::string X11Display::BytesOfType(xcb_window_t window, const char* property, c
 std::vector<std::uint32_t> X11Display::Numbers(xcb_window_t window, const char* property) {
     const std::string bytes = Bytes(window, property);
     std::vector<std::uint32_t> numbers(bytes.size() / sizeof(std::uint32_t));
-    std::memcpy(numbers.data(), bytes.data(), numbers.size() * sizeof(std::uint32_t));
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        std::memcpy(&numbers[i], &bytes[i * sizeof(std::uint32_t)], sizeof(std::uint32_t));
+    }
     return numbers;
 }
 
@@ -149,9 +151,10 @@ xcb_keycode_t X11Display::KeyOf(std::uint32_t symbol) {
         return 0;
     }
     const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
-    for (int key = 0; key < count; ++key) {
-        if (symbols[key * reply->keysyms_per_keycode] == symbol) {
-            return static_cast<xcb_keycode_t>(setup->min_keycode + key);
+    const std::size_t width = reply->keysyms_per_keycode;
+    for (std::size_t key = 0; key < count; ++key) {
+        if (symbols[key * width] == symbol) {
+            return static_cast<xcb_keycode_t>(setup->min_keycode + static_cast<int>(key));
         }
     }
     return 0;
