@@ -44,12 +44,16 @@ Text GetField(TextView text, Index index, TextView delimiter) {
     return Text(field);
 }
 
-Text GetKeyOrValue(TextView line, bool wantValue) {
+TextView KeyOrValueView(TextView line, bool wantValue) {
     const std::size_t at = line.find('=');
     if (wantValue) {
-        return at == kNone ? Text() : Text(line.substr(at + 1));
+        return at == kNone ? TextView() : line.substr(at + 1);
     }
-    return Text(line.substr(0, at));
+    return line.substr(0, at);
+}
+
+Text GetKeyOrValue(TextView line, bool wantValue) {
+    return Text(KeyOrValueView(line, wantValue));
 }
 
 TextView QuotedWordView(TextView line, Index index) {

@@ -20,6 +20,7 @@ Text GetField(TextView text, Index index, TextView delimiter = ",");
 
 /// What stands behind the first "=" (empty without one), or before it (the whole line without one).
 Text GetKeyOrValue(TextView line, bool wantValue);
+TextView KeyOrValueView(TextView line, bool wantValue);
 
 /// The word at `index` (from 0) of a line whose words are parted by blanks outside double quotes. The quotes stay in
 /// the result. Empty beyond the last word.

@@ -15,10 +15,6 @@ constexpr TextView kSayTeam = "say_team ";
 constexpr TextView kEmptyCommand = "\"\"";
 constexpr std::size_t kLongestKeyName = 32;
 
-bool StartsWithText(TextView text, TextView start) {
-    return SameText(text.substr(0, start.size()), start);
-}
-
 TextView CaptionOf(const ScriptDocument& document, SlotNumber slot) {
     return TrimmedView(document.Bound_Lbl[slot].Caption);
 }

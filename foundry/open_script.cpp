@@ -3,6 +3,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "foundry/bindings.h"
 #include "foundry/script_messages.h"
 #include "foundry/script_reader.h"
 #include "foundry/skin_page.h"
@@ -49,6 +50,17 @@ void BackUp(Run& run, TextView path) {
     }
 }
 
+/// The view sees the keys of an older script come free, and all rows change.
+void MakeAnew(ScriptDocument& document, ScriptView& view, const ScriptDialect& dialect) {
+    for (KeyIndex key = 0; key < kKeyCount; ++key) {
+        UnbindKey(document, view, key);
+    }
+    document = MakeScriptDocument(dialect);
+    for (const SlotNumber slot : SlotNumbers()) {
+        view.SlotChanged(slot);
+    }
+}
+
 }  // namespace
 
 ScriptDialect DialectOfRun(const Run& run) {
@@ -61,7 +73,7 @@ ScriptDialect DialectOfRun(const Run& run) {
 
 bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView path) {
     const Text given(path);  // may be the document's own
-    document = MakeScriptDocument(DialectOfRun(run));
+    MakeAnew(document, view, DialectOfRun(run));
     document.CurrentScriptPath = given;
     document.CurrentScriptDirectory = given.substr(0, given.rfind('\\') + 1);
     PrepareSkinPage(run, document);

@@ -27,18 +27,12 @@ constexpr std::array<TextView, 7> kOldMarkers = {
     "/////////////////////", "//                 //", "// Setup Foundry   //", "// Settings        //",
     "// Aliases         //", "// Bindings        //", "// Free Form       //"};
 
-bool StartsWithText(TextView text, TextView start) {
-    return SameText(text.substr(0, start.size()), start);
+TextView LeftOf(TextView line) {
+    return KeyOrValueView(line, false);
 }
 
-struct IniLine {
-    TextView Left;
-    TextView Right;
-};
-
-IniLine SplitIni(TextView line) {
-    const std::size_t at = line.find('=');
-    return at == TextView::npos ? IniLine{line, {}} : IniLine{line.substr(0, at), line.substr(at + 1)};
+TextView RightOf(TextView line) {
+    return KeyOrValueView(line, true);
 }
 
 TextView BeforeComment(TextView line) {
@@ -62,8 +56,9 @@ AliasLine ConsoleAlias(TextView line) {
     return {LowerCase(StripQuotesView(QuotedWordView(line, 1))), LowerCase(StripQuotesView(QuotedWordView(line, 2)))};
 }
 
+/// The right part says both, as AddAlias takes it.
 AliasLine IniAlias(TextView line) {
-    return StartsWithText(line, kAlias) ? AliasLine{"-", Text(SplitIni(line).Right)} : AliasLine{};
+    return StartsWithText(line, kAlias) ? AliasLine{"-", Text(RightOf(line))} : AliasLine{};
 }
 
 /// What a line says to the table of keywords.
@@ -88,31 +83,31 @@ Parts TakeConsoleLine(TextView line) {
 }
 
 Parts TakeIniLine(TextView line) {
-    const IniLine parts = SplitIni(line);
-    if (StartsWithText(parts.Left, kWeaponPriority)) {
-        const std::int32_t index = ToLong(parts.Left.substr(kWeaponPriority.size(), kLongestKeyword));
-        return {"weaponpriority", {.Value = parts.Right, .Index = index}};
+    const TextView left = LeftOf(line);
+    if (StartsWithText(left, kWeaponPriority)) {
+        const std::int32_t index = ToLong(left.substr(kWeaponPriority.size(), kLongestKeyword));
+        return {"weaponpriority", {.Value = RightOf(line), .Index = index}};
     }
-    return {KeywordOf(parts.Left), {.Value = parts.Right}};
+    return {KeywordOf(left), {.Value = RightOf(line)}};
 }
 
 /// The value behind the second "=" of MouseX=Axis aMouseX Speed=6.0.
 TextView AxisSpeed(TextView right) {
-    return TrimmedView(SplitIni(SplitIni(right).Right).Left);
+    return TrimmedView(LeftOf(RightOf(right)));
 }
 
 Parts TakeInputLine(TextView line) {
-    const IniLine parts = SplitIni(line);
+    const TextView right = RightOf(line);
     if (StartsWithText(line, kAlias)) {
         return {Text(kAlias), {}};
     }
-    if (StartsWithText(line, "mousex") && StartsWithText(parts.Right, "axis amousex speed")) {
-        return {"mousex", {.Value = AxisSpeed(parts.Right)}};
+    if (StartsWithText(line, "mousex") && StartsWithText(right, "axis amousex speed")) {
+        return {"mousex", {.Value = AxisSpeed(right)}};
     }
-    if (StartsWithText(line, "mousey") && StartsWithText(parts.Right, "axis amousey speed")) {
-        return {"mousey", {.Value = AxisSpeed(parts.Right)}};
+    if (StartsWithText(line, "mousey") && StartsWithText(right, "axis amousey speed")) {
+        return {"mousey", {.Value = AxisSpeed(right)}};
     }
-    return {"bind", {.Value = parts.Left, .Value2 = parts.Right}};
+    return {"bind", {.Value = LeftOf(line), .Value2 = right}};
 }
 
 bool IsKeptComment(TextView line) {
@@ -244,7 +239,7 @@ std::uint64_t ReadAliases(RandomAccessFile& file, ScriptDocument& document) {
     while (lines.Next(bytes)) {
         const TextView line = BeforeComment(TextView(bytes.data(), bytes.size()));
         if (unreal && line.starts_with('[')) {
-            inInput = SameText(SplitIni(line).Left, "[engine.input]");
+            inInput = SameText(LeftOf(line), "[engine.input]");
         }
         if (line.empty() || (unreal && !inInput)) {
             continue;

@@ -156,4 +156,8 @@ bool SameText(std::string_view a, std::string_view b) {
            std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return LowerCase(x) == LowerCase(y); });
 }
 
+bool StartsWithText(std::string_view text, std::string_view start) {
+    return SameText(text.substr(0, start.size()), start);
+}
+
 }  // namespace lv

@@ -36,5 +36,6 @@ std::string LowerCase(std::string_view text);
 
 /// Equal but for letter case.
 bool SameText(std::string_view a, std::string_view b);
+bool StartsWithText(std::string_view text, std::string_view start);
 
 }  // namespace lv

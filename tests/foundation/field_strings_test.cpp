@@ -278,6 +278,10 @@ TEST(FieldStringViews, AreStretchesOfTheText) {
     EXPECT_EQ(QuotedWordView(line, 1), "\"a b\"");
     EXPECT_EQ(StripQuotesView(QuotedWordView(line, 1)), "a b");
     EXPECT_EQ(StripQuotesView(QuotedWordView(line, 1)).data(), line.data() + 8);
+    constexpr TextView ini = "a=b=c";
+    EXPECT_EQ(KeyOrValueView(ini, false), "a");
+    EXPECT_EQ(KeyOrValueView(ini, true), "b=c");
+    EXPECT_EQ(KeyOrValueView(ini, true).data(), ini.data() + 2);
 }
 
 TEST(StripQuotes, TakesOneOfEach) {

@@ -5,6 +5,7 @@
 #include "foundation/settings.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/foundry/reading.h"
+#include "tests/foundry/watching_view.h"
 #include "tests/support/scripted_user.h"
 
 namespace lv {
@@ -125,6 +126,21 @@ TEST_F(OpenScriptTest, MakesAllTablesAnewForAnotherFile) {
     EXPECT_EQ(document.Unbindall_Chk.Value, 0);
     EXPECT_EQ(document.fov_Cbo.Items.size(), 70);
     EXPECT_EQ(document.Sections.at(0).Text, "");
+}
+
+TEST_F(OpenScriptTest, ShowsThatTheKeysOfTheLastFileAreFree) {
+    WatchingView watcher;
+    system.Disk.AddFile("C:\\a.cfg", Join(kOurs, "bind a +attack\nbind 5 +jump"));
+    system.Disk.AddFile("C:\\b.cfg", Join(kOurs, "bind b +jump"));
+    EXPECT_TRUE(OpenScript(run, document, watcher, "C:\\a.cfg"));
+    EXPECT_NE(watcher.KeyColor(1), kWhite);
+    EXPECT_NE(watcher.KeyColor(88), kWhite);  // the keypad's 5
+    watcher.ChangedSlots.clear();
+    EXPECT_TRUE(OpenScript(run, document, watcher, "C:\\b.cfg"));
+    EXPECT_EQ(watcher.KeyColor(1), kWhite);
+    EXPECT_EQ(watcher.KeyColor(88), kWhite);
+    EXPECT_NE(watcher.KeyColor(2), kWhite);
+    EXPECT_GE(watcher.ChangedSlots.size(), SlotNumbers().size());
 }
 
 TEST_F(OpenScriptTest, OpensTheDocumentsOwnPathAgain) {

@@ -107,6 +107,14 @@ TEST(LetterCase, LeavesTheMultiplicationAndDivisionSignsAndTheSharpS) {
     EXPECT_EQ(LowerCase("\xF7\xD7\xDF"), "\xF7\xD7\xDF");
 }
 
+TEST(StartsWithText, IsBlindToCaseAndToNothingElse) {
+    EXPECT_TRUE(StartsWithText("\xC9T\xE9 and more", "\xE9t\xC9"));
+    EXPECT_TRUE(StartsWithText("say ", "SAY "));
+    EXPECT_TRUE(StartsWithText("x", ""));
+    EXPECT_FALSE(StartsWithText("say", "say "));
+    EXPECT_FALSE(StartsWithText("", "x"));
+}
+
 TEST(SameText, IsBlindToCaseAndToNothingElse) {
     EXPECT_TRUE(SameText("\xC9t\xE9", "\xE9T\xC9"));
     EXPECT_FALSE(SameText("id1", "id1 "));

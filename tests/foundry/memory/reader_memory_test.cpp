@@ -69,7 +69,7 @@ void ExpectModest(Index kind, const Text& script) {
 }
 
 constexpr std::size_t kLong = 2 << 20;  // bytes
-constexpr std::size_t kMany = 1 << 20;
+constexpr std::size_t kMany = 1 << 19;
 
 Text Repeated(TextView head, TextView line, std::size_t size) {
     Text script(head);
@@ -126,7 +126,7 @@ TEST(ReaderMemory, IsModestForManyTinyLines) {
             ExpectModest(kind, Repeated("", line, kMany));
         }
     }
-    ExpectModest(4, Repeated("", "[\n", 3 * kMany));
+    ExpectModest(4, Repeated("", "[\n", 6 * kMany));
     ExpectModest(4, Repeated("[Engine.Input]\n", "$=b\n", kMany));
     ExpectModest(4, Repeated("[Engine.Input]\n", "a=b\n", kMany));
 }
@@ -136,7 +136,7 @@ TEST(ReaderMemory, IsModestForManyDifferentValues) {
          {"alias n", "fov 1.", "vid_mode 1", "bind a x", "gamma x", "_cl_name ", "WeaponPriority[1]=w"}) {
         for (const Index kind : std::initializer_list<Index>{1, 4}) {
             Text script;
-            for (std::size_t number = 0; script.size() < 2 * kMany; ++number) {
+            for (std::size_t number = 0; script.size() < 4 * kMany; ++number) {
                 script += Join(start, std::to_string(number), kind == 1 && *start == 'a' ? " x\n" : "\n");
             }
             ExpectModest(kind, script);
