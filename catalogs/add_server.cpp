@@ -36,7 +36,7 @@ bool Validate(AddServer_Frm& form, const ServerEntry& entry) {
         TellFault(form, "ServerPath_Txt", "Enter the Server Address.");
     } else if (Holds(entry.Address, ";")) {
         TellFault(form, "ServerPath_Txt", "The Server Address may not contain a semi-colon.");
-    } else if (Holds(entry.Port, ",")) {
+    } else if (Holds(entry.Port, ",") || Holds(entry.Port, ";")) {
         TellFault(form, "Port_Txt", "The Server Port may not contain a semi-colon.");
     } else if (Holds(entry.Password, ";")) {
         TellFault(form, "Password_Txt", "The Server Port may not contain a semi-colon.");

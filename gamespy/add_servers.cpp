@@ -15,19 +15,19 @@ constexpr TextView kAskType = "Please select the game type of these servers.";
 constexpr TextView kAddressesOnly =
     " Note: to add the server names from GameSpy also, please deselect the 'copy IP address only' option in GameSpy.";
 
-void ShowOneServer(Run& run, CatalogLists& lists, TextView line) {
-    const CapturedServer server = ReadOneServer(line);
-    AddServer_Frm form(run, lists, EntryMode::Add, false);
-    form.ServerTitle_Txt.Text = server.Title;
-    form.ServerPath_Txt.Text = server.Host;
-    form.Port_Txt.Text = server.Port;
-    ShowModal(form);
-}
-
 // A name may hold what parts the fields of the catalog.
 Text AsField(Text text) {
     std::replace(text.begin(), text.end(), ';', ',');
     return text;
+}
+
+void ShowOneServer(Run& run, CatalogLists& lists, TextView line) {
+    const CapturedServer server = ReadOneServer(line);
+    AddServer_Frm form(run, lists, EntryMode::Add, false);
+    form.ServerTitle_Txt.Text = AsField(server.Title);
+    form.ServerPath_Txt.Text = AsField(server.Host);
+    form.Port_Txt.Text = AsField(server.Port);
+    ShowModal(form);
 }
 
 /// Lines without an address give no server.

@@ -10,7 +10,6 @@ namespace lv {
 
 namespace {
 
-constexpr TextView kLocation = "GameSpyLocation";
 constexpr TextView kProgram = "\\gamespy.exe";
 constexpr TextView kPlaces[] = {"\\gamespy\\gamespy.exe", "\\progra~1\\gamespy\\gamespy.exe"};
 
@@ -71,7 +70,7 @@ void ShowWorkingDirectory(GameSpyConfig_Frm& form) {
 
 void ShowLocation(GameSpyConfig_Frm& form, TextView location) {
     form.GameSpyLocation_Lbl.Caption = location;
-    Save(form.run, kOptions, kLocation, location);
+    Save(form.run, kOptions, kGameSpyLocation, location);
 }
 
 }  // namespace
@@ -173,7 +172,7 @@ void GameSpyConfig_Cancel_Cmd_Click(GameSpyConfig_Frm& form) {
 
 void FindGameSpy(GameSpyConfig_Frm& form) {
     Files& disk = form.run.System.Disk;
-    Text location = GetSetting(form.run, form.run.AppName, kOptions, kLocation);
+    Text location = GetSetting(form.run, form.run.AppName, kOptions, kGameSpyLocation);
     if (location.empty() || !disk.FileExists(location)) {
         location.clear();
         for (const Text& drive : disk.Drives()) {

@@ -14,6 +14,9 @@ namespace lv {
 /// What becomes of the main window when GameSpy 3D is configured.
 enum class MinimizeLorvane { LeaveAlone = 0, Minimize = 1, Close = 2 };
 
+/// Key of the full path of gamespy.exe, in section "Options".
+constexpr TextView kGameSpyLocation = "GameSpyLocation";
+
 struct GameSpyConfig_Frm : ModalWindow {
     /// `executables` is the main window's list; it must outlive the window.
     GameSpyConfig_Frm(Run& owner, const ImageCombo& executables);

@@ -64,6 +64,9 @@ Text GameSpyFetch(Run& run, bool raw) {
         return Refuse(run, kNoData);
     }
     const Result<Text> copied = PressCopy(run, *desktop, title);
+    if (run.Ended) {
+        return {};
+    }
     run.User.RaiseMainWindow();
     if (iconic) {
         desktop->CloseWindow(GameSpyHwnd);

@@ -2,6 +2,7 @@
 
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "gamespy/game_spy_config.h"
 #include "gamespy/window_search.h"
 
 namespace lv {
@@ -14,7 +15,7 @@ Text NotLaunched() {
 }
 
 bool StartProgram(Run& run) {
-    const Text location = GetSetting(run, run.AppName, kOptions, "GameSpyLocation");
+    const Text location = GetSetting(run, run.AppName, kOptions, kGameSpyLocation);
     if (location.empty()) {
         AskUser(run, "Error", NotLaunched());
         return false;

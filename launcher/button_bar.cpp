@@ -15,7 +15,7 @@ void Launch(Launcher& launcher) {
     DoIt_Cmd_Click(launcher, 0);
 }
 
-// The script editor is not part of the program yet; once its menu item works, so does this.
+// Once the menu item of the script editor works, so does this.
 void EditScript(Launcher& launcher) {
     if (MenuRowOf(MenuItem::SetupFoundry_Bar).Click != nullptr) {
         Menu_Click(launcher, MenuItem::SetupFoundry_Bar);
@@ -25,6 +25,9 @@ void EditScript(Launcher& launcher) {
 }
 
 void LaunchGameSpy(Launcher& launcher) {
+    if (launcher.LaunchUnderWay) {
+        return;
+    }
     SetOption(launcher, &LV_Frm::LaunchQspy_Chk, 1);
     DoIt_Cmd_Click(launcher, 0);
 }

@@ -93,7 +93,7 @@ bool Compose(Click& click) {
     click.Texts = ComposeLaunch(click.Selection, click.Game, click.Profile, HooksOf(click.launcher));
     switch (click.Texts.Stop.Kind) {
         case StopKind::None:
-            return true;
+            return !click.run.Ended;  // the user may have ended the program while GameSpy 3D was asked
         case StopKind::Silent:
             return false;
         case StopKind::Message:
@@ -196,11 +196,12 @@ void StartGame(Click& click) {
     Run& run = click.run;
     Save(run, "LV-Stuff", "LaunchCount",
          TextView(std::to_string(ToLong(GetSetting(run, run.AppName, "LV-Stuff", "LaunchCount", "0")) + 1)));
-    if (run.DefaultGameDirectory.empty()) {
+    const Text& directory = click.Game.DefaultGameDirectory;
+    if (directory.empty()) {
         Tell(run, "DefaultGameDirectory not set - cannot launch");
         return;
     }
-    if (const Error failed = SetCurrentPath(run, run.DefaultGameDirectory)) {
+    if (const Error failed = SetCurrentPath(run, directory)) {
         ReportError(click, failed);
         return;
     }
@@ -209,7 +210,7 @@ void StartGame(Click& click) {
     }
     PutPif(click);
     HideMainWindow(click.launcher);
-    if (const Error failed = run.System.Programs.StartBatch(run.DefaultGameDirectory, kLaunchBatchFile)) {
+    if (const Error failed = run.System.Programs.StartBatch(directory, kLaunchBatchFile)) {
         ShowMainWindow(click.launcher);  // no game has the screen, so the window comes back
         ReportError(click, failed);
         return;

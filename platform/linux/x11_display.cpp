@@ -152,9 +152,12 @@ xcb_keycode_t X11Display::KeyOf(std::uint32_t symbol) {
     }
     const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
     const std::size_t width = reply->keysyms_per_keycode;
-    for (std::size_t key = 0; key < count; ++key) {
-        if (symbols[key * width] == symbol) {
-            return static_cast<xcb_keycode_t>(setup->min_keycode + static_cast<int>(key));
+    // Layout by layout: the key that gives the letter without a switch comes first.
+    for (std::size_t layout = 0; layout < width; ++layout) {
+        for (std::size_t key = 0; key < count; ++key) {
+            if (symbols[key * width + layout] == symbol) {
+                return static_cast<xcb_keycode_t>(setup->min_keycode + static_cast<int>(key));
+            }
         }
     }
     return 0;

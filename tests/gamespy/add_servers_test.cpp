@@ -65,6 +65,20 @@ TEST_F(AddServers, OneAddressFillsItsDialogWithoutATitle) {
     EXPECT_EQ(Stored(kOptions, "NetServers"), "(none)");
 }
 
+TEST_F(AddServers, ASemicolonInAPortDoesNotBreakTheCatalog) {
+    user.In<AddServer_Frm>([](AddServer_Frm& form) {
+        EXPECT_EQ(form.Port_Txt.Text, "27,5");
+        form.Port_Txt.Text = "27;5";
+        form.ServerTitle_Txt.Text = "Mine";
+        AddServer_OK_Cmd_Click(form);
+        EXPECT_FALSE(form.Closed);
+        Entry_Cancel_Cmd_Click(form);
+    });
+    ExpectTold("Lorvane 3D", "The Server Port may not contain a semi-colon.");
+    Capture("10.0.0.1:27;5\r\n");
+    EXPECT_EQ(Stored(kOptions, "NetServers"), "(none)");
+}
+
 TEST_F(AddServers, OneServersDialogBeginsWithTheCurrentGame) {
     PickExe("C:\\QUAKE\\QWCL.EXE");
     user.In<AddServer_Frm>([](AddServer_Frm& form) { EXPECT_EQ(form.ServerType, 1); });

@@ -131,5 +131,12 @@ TEST_F(GameSpyFetchTest, AProgramThatEndsMeanwhilePressesNoKeys) {
     EXPECT_EQ(Done(), Lines{"front 7"});
 }
 
+TEST_F(GameSpyFetchTest, AProgramThatEndsBehindTheKeysTakesNothing) {
+    ShowGameSpy("10.0.0.1:27500");
+    user.OnPump = [this] { run.Ended = !Done().empty() && Done().back() == "keys c"; };
+    EXPECT_EQ(GameSpyFetch(run), "");
+    EXPECT_TRUE(run.Ended);
+}
+
 }  // namespace
 }  // namespace lv

@@ -309,6 +309,27 @@ TEST_F(LaunchFlow, AnotherClickWhileGameSpyIsWaitedForDoesNothing) {
     EXPECT_EQ(Stored("LV-Stuff", "LaunchCount"), "1");
 }
 
+TEST_F(LaunchFlow, AProgramThatEndsWhileGameSpyIsAskedStartsNoGame) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::QSpy_Chk, 1);
+    system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
+    system.Clip.Held = "10.0.0.1:27500";
+    user.OnPump = [this] { run.Ended = user.WindowCalls.empty() && !system.Windows.Log.empty(); };
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(system.Programs.Started.empty());
+    EXPECT_FALSE(system.Disk.FileExists(kBatch));
+}
+
+TEST_F(LaunchFlow, AnotherGamePickedWhileGameSpyIsAskedDoesNotChangeWhatStarts) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::QSpy_Chk, 1);
+    system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
+    system.Clip.Held = "10.0.0.1:27500";
+    user.OnPump = [this] { run.DefaultGameDirectory = "c:\\quake2"; };
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"c:\\quake\\lv_666.bat"}));
+}
+
 TEST_F(LaunchFlow, ALaunchMakesTheGamesDirectoryCurrent) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
     DoIt_Cmd_Click(launcher, 0);
