@@ -12,7 +12,6 @@ namespace {
 constexpr TextView kExec = "exec ";
 constexpr TextView kSay = "say ";
 constexpr TextView kSayTeam = "say_team ";
-constexpr TextView kEmptyCommand = "\"\"";
 constexpr std::size_t kLongestKeyName = 32;
 
 TextView CaptionOf(const ScriptDocument& document, SlotNumber slot) {

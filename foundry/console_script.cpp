@@ -1,6 +1,8 @@
 // The layout of a console script: what a player's script of every game but Unreal looks like, line by line.
 
 #include <cstddef>
+#include <cstdint>
+#include <utility>
 
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
@@ -11,6 +13,8 @@
 namespace lv {
 
 namespace {
+
+constexpr std::size_t kRoomForTheEnd = 256;  // what stands behind the free form
 
 struct ListLine {
     TextView Name;
@@ -138,8 +142,8 @@ void AddColors(Writing& w) {
         AddLine(w.Script, "setupfoundry_info specifycolors 0");
         return;
     }
-    const int top = w.Document.PlayerColor_Lbl[0].Tag;
-    const int bottom = w.Document.PlayerColor_Lbl[1].Tag;
+    const std::int64_t top = w.Document.PlayerColor_Lbl[0].Tag;  // any number that a script gave
+    const std::int64_t bottom = w.Document.PlayerColor_Lbl[1].Tag;
     AddLine(w.Script, "color ", std::to_string(top), Blank, std::to_string(bottom));
     AddLine(w.Script, "_cl_color ", std::to_string(top * 16 + bottom));
 }
@@ -314,6 +318,7 @@ void AddFreeForm(Writing& w) {
     AddLine(w.Script);
     AddBanner(w.Script, kFreeFormLine);
     AddLine(w.Script);
+    w.Script.reserve(w.Script.size() + sections.front().Text.size() + kRoomForTheEnd);
     w.Script += sections.front().Text;
 }
 
@@ -321,7 +326,16 @@ void AddEnd(Writing& w) {
     AddLine(w.Script);
     AddLine(w.Script);
     AddBanner(w.Script, kSetupFoundryLine);
-    w.Script = DropRight(w.Script, NewLine.size());
+    w.Script.resize(w.Script.size() - NewLine.size());
+}
+
+// The game tells the letter case of this one, and reading a script has lowered it.
+void RaiseWeaponName(Text& script) {
+    constexpr TextView kLowered = "weapon_9mmar";
+    constexpr TextView kOwn = "weapon_9mmAR";
+    for (std::size_t at = script.find(kLowered); at != Text::npos; at = script.find(kLowered, at)) {
+        script.replace(at, kOwn.size(), kOwn);
+    }
 }
 
 }  // namespace
@@ -338,8 +352,10 @@ Text ConsoleScript(const ScriptDocument& document, const LocalTime& date) {
     AddBindings(w);
     AddFreeForm(w);
     AddEnd(w);
-    // The game tells the letter case of this one, and reading a script has lowered it.
-    return kind == game_kind::kHalfLife ? ReplaceText(w.Script, "weapon_9mmar", "weapon_9mmAR") : w.Script;
+    if (kind == game_kind::kHalfLife) {
+        RaiseWeaponName(w.Script);
+    }
+    return std::move(w.Script);
 }
 
 }  // namespace lv

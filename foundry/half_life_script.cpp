@@ -30,6 +30,7 @@ struct CodeRun {
 
 constexpr CodeRun kConvertedCodes[] = {{0, 32}, {42, 152}, {200, 240}, {255, 255}};
 
+constexpr int kLineFeedCode = 10;
 constexpr int kDoubleQuoteCode = 34;
 
 struct Setting {
@@ -144,7 +145,7 @@ void TakeLine(HalfLifePlayer& player, const Words& words) {
 }  // namespace
 
 bool IsConvertedKey(int code) {
-    return code != kDoubleQuoteCode &&
+    return code != kDoubleQuoteCode && code != kLineFeedCode &&  // both would end the key's name
            std::any_of(std::begin(kConvertedCodes), std::end(kConvertedCodes),
                        [code](const CodeRun& run) { return code >= run.First && code <= run.Last; });
 }

@@ -24,6 +24,7 @@ std::optional<ScriptReading> Read(Run& run, ScriptDocument& document, ScriptView
     const std::uint64_t firstLineWithoutAlias = ReadAliases(*file, document);
     file = OpenScriptFile(run, path);
     if (!file) {
+        document.AliasTable = {};
         document.ScriptLoading = false;
         return std::nullopt;
     }

@@ -1,3 +1,4 @@
+#include "foundry/bindings.h"
 #include "foundry/save_script.h"
 
 #include "catalogs/browse.h"
@@ -89,9 +90,10 @@ void FreeEmptyBindings(ScriptDocument& document) {
     if (document.Dialect.GameKind == game_kind::kUnreal) {
         return;
     }
-    for (Text& command : document.KeyBinding) {
-        if (command == kEmptyCommand) {
-            command.clear();
+    ScriptView unseen;
+    for (KeyIndex key = 0; key < kKeyCount; ++key) {
+        if (document.KeyBinding[static_cast<std::size_t>(key)] == kEmptyCommand) {
+            UnbindKey(document, unseen, key);
         }
     }
 }

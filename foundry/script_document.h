@@ -34,6 +34,9 @@ struct TabPage : Control {
     Text Caption;
 };
 
+/// How an empty command stands in KeyBinding: two double quotes.
+constexpr TextView kEmptyCommand = "\"\"";
+
 struct ScriptDocument : ScriptSettings {
     ScriptDialect Dialect;
 

@@ -126,7 +126,11 @@ class SecondPass {
 
     void TakeLine(std::span<char> bytes);
     void Finish(const std::function<void()>& modelChosen);
-    [[nodiscard]] bool Foreign() const { return !sawBanner_ && !sections_.SawOwn(); }
+    /// An ini has no banner; there the program's own section tells who wrote it.
+    [[nodiscard]] bool Foreign() const {
+        const bool isIni = context_.Document.Dialect.GameKind == game_kind::kUnreal;
+        return !sawBanner_ && !(isIni && sections_.SawOwn());
+    }
 
   private:
     TextView TakeComment(TextView line);

@@ -9,9 +9,6 @@
 
 namespace lv {
 
-/// How an empty command stands in KeyBinding: two double quotes.
-constexpr TextView kEmptyCommand = "\"\"";
-
 /// The script as the document's kind of game reads it. Only the header's date, or an ini's "LastEdited", depends on
 /// `date`.
 Text ComposeScript(const ScriptDocument& document, const LocalTime& date);

@@ -1,7 +1,7 @@
 // foundry/slot_rows.h
 //
 // The fixed slots, a row a slot: the command that each kind of game writes, and the caption. An empty command: the
-// kind has no such slot. These spellings are the games' and the documents'; what looks mistaken is meant so.
+// kind has no such slot. These spellings are the games' own; what looks mistaken is meant so.
 
 #pragma once
 

@@ -14,7 +14,7 @@ namespace lv {
 
 using SlotNumber = Index;
 
-/// A colour as the documents' number 0xBBGGRR.
+/// A colour as the number 0xBBGGRR.
 using Color = std::uint32_t;
 constexpr Color kWhite = 0xffffff;
 

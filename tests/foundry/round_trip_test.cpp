@@ -173,6 +173,33 @@ TEST(RoundTrip, WritesACommandInItsGamesOwnWords) {
     EXPECT_EQ(CountLines(Written(ReadScript(kQuakeDialect, "set joystick 1\n")), "joystick 1"), 1);
 }
 
+TEST(RoundTrip, WritesACommandInCapitalsInItsOwnCase) {
+    const ScriptDocument d = ReadScript(kQuakeDialect, "bind \"a\" \"+ATTACK\"\n");
+    EXPECT_EQ(d.Setting_Lbl[111].Caption, "{A}");
+    EXPECT_EQ(CountLines(Written(d), "bind \"a\"             \"+attack\""), 1);
+}
+
+TEST(RoundTrip, KeepsAVideoModeBeyondTheList) {
+    const ScriptDocument d = ReadScript(kQuakeDialect, "vid_mode 15\n");
+    EXPECT_EQ(d.vidmode_Cbo.Selected(), "15) Custom VESA Mode");
+}
+
+TEST(RoundTrip, TakesAnInisGammaFromAnySectionButTheInputsAndWritesItNowhere) {
+    const ScriptDocument d = ReadScript(kUnrealDialect, "[Any]\nGamma=0.5\nOther=1\n");
+    EXPECT_EQ(d.gamma_Cbo.Selected(), "0.5");
+    EXPECT_EQ(d.Sections[0].Text, "Other=1");
+    EXPECT_EQ(LowerCase(Written(d)).find("gamma"), Text::npos);
+    const ScriptDocument input = ReadScript(kUnrealDialect, "[Engine.Input]\nGamma=0.5\n");
+    EXPECT_FALSE(input.gamma_Cbo.HasSelection());
+    EXPECT_NE(input.Sections[0].Text.find("Gamma=0.5"), Text::npos);
+}
+
+TEST(RoundTrip, WritesAColorBeyondAllColors) {
+    const Text written = Written(ReadScript(kQuakeDialect, "color 2147483647 1\n"));
+    EXPECT_EQ(CountLines(written, "color 2147483647 1"), 1);
+    EXPECT_EQ(CountLines(written, "_cl_color 34359738353"), 1);
+}
+
 TEST(RoundTrip, BringsTheSecondEnterOfAnIniBackAsTheFirst) {
     ScriptDocument d = ReadScript(kUnrealDialect,
                                   "[Engine.Input]\nMouseX=Axis aMouseX Speed=2.0\n"

@@ -1,5 +1,6 @@
 #include "foundry/save_script.h"
 
+#include "foundry/bind_line.h"
 #include "tests/foundry/script_fixture.h"
 #include "tests/support/launcher_fixture.h"
 
@@ -96,6 +97,16 @@ TEST_F(SaveScriptTest, FreesAKeyThatWasBoundToTheEmptyCommand) {
     EXPECT_EQ(CountLines(system.Disk.Bytes(kPath), "bind \"x\"             \"\""), 1);
     EXPECT_EQ(document.KeyBinding[24], "");
     EXPECT_EQ(document.KeyBinding[25], "+back");
+}
+
+TEST_F(SaveScriptTest, AKeyThatIsFreedSoLeavesItsRowToo) {
+    ScriptView view;
+    BindLine(document, view, "x", "");
+    EXPECT_EQ(document.Setting_Lbl[501].Caption, "{X}");
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    EXPECT_EQ(document.KeyBinding[24], "");
+    EXPECT_EQ(document.Setting_Lbl[501].Caption, "");
+    EXPECT_TRUE(document.ScriptClean);
 }
 
 TEST_F(SaveScriptTest, AfterAFailureTheOldFileAndTheDocumentAreAsTheyWere) {
