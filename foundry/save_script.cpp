@@ -1,5 +1,5 @@
-#include "foundry/bindings.h"
 #include "foundry/save_script.h"
+#include "foundry/bindings.h"
 
 #include "catalogs/browse.h"
 #include "catalogs/scripts.h"

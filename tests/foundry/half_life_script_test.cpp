@@ -147,7 +147,8 @@ TEST(HalfLifeScript, LooksAtFourRunsOfKeyCodes) {
     for (int code = 0; code < 256; ++code) {
         HalfLifePlayer player;
         player.Keys[static_cast<std::size_t>(code)] = "x";
-        const bool converted = code <= 32 || (code >= 42 && code <= 152) || (code >= 200 && code <= 240) || code == 255;
+        // A line feed names no key: it would end the line in the middle of the name.
+        const bool converted = (code <= 32 && code != 10) || (code >= 42 && code <= 152) || (code >= 200 && code <= 240) || code == 255;
         EXPECT_EQ(Holds(Written(player), "\"x\"\r\n"), converted) << code;
     }
 }

@@ -191,7 +191,7 @@ TEST(RoundTrip, TakesAnInisGammaFromAnySectionButTheInputsAndWritesItNowhere) {
     EXPECT_EQ(LowerCase(Written(d)).find("gamma"), Text::npos);
     const ScriptDocument input = ReadScript(kUnrealDialect, "[Engine.Input]\nGamma=0.5\n");
     EXPECT_FALSE(input.gamma_Cbo.HasSelection());
-    EXPECT_NE(input.Sections[0].Text.find("Gamma=0.5"), Text::npos);
+    EXPECT_NE(LowerCase(input.Sections[0].Text).find("gamma=0.5"), Text::npos);
 }
 
 TEST(RoundTrip, WritesAColorBeyondAllColors) {

@@ -101,6 +101,8 @@ TEST_F(SaveScriptTest, FreesAKeyThatWasBoundToTheEmptyCommand) {
 
 TEST_F(SaveScriptTest, AKeyThatIsFreedSoLeavesItsRowToo) {
     ScriptView view;
+    document = MakeScriptDocument(kQuakeDialect);
+    document.CurrentScriptPath = kPath;
     BindLine(document, view, "x", "");
     EXPECT_EQ(document.Setting_Lbl[501].Caption, "{X}");
     EXPECT_TRUE(Save({SaveName::Same, true, false}));
