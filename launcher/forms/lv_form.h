@@ -37,6 +37,7 @@ class LvForm : public wxFrame {
     void ShowPlace();
     void KeepPlace();
     void ShowSize();
+    void TakeSize();
     void ShowPresence();
     void ShowTray();
     WindowMeasures MeasureWindow();
