@@ -10,6 +10,7 @@ namespace {
 
 using ::testing::HasSubstr;
 
+constexpr const wchar_t* kSetupTitle = L"Lorvane 3D Setup";
 constexpr const wchar_t* kOurKey = L"\"HKCU\\Software\\VB and VBA Program Settings\\Lorvane 3D";
 
 }  // namespace
@@ -56,10 +57,32 @@ TEST(Lifecycle, ReadsWhatRegWrote) {
     EXPECT_EQ(home.Get("LV-Stuff", "RunCount"), "42");
 }
 
+TEST(FirstRun, FindsTheGameByItsSearchAndF2LaunchesIt) {
+    WindowsHome home;
+    home.MakeGame();
+    ProgramRun program;
+    ASSERT_TRUE(Activate(program.WaitForWindow(kSetupTitle)));
+    PressKey(VK_RETURN);
+    ASSERT_TRUE(Activate(program.WaitForWindow(L"Verify Setup Information")));
+    PressKey(VK_RETURN);
+    ASSERT_TRUE(WaitUntil([&] { return program.ShownWindow(L"Verify Setup Information") == nullptr; }));
+    ASSERT_TRUE(Activate(program.WaitForWindow(kSetupTitle)));
+    PressKey(VK_SPACE);  // ticks the first game, Quake
+    Sleep(300);
+    PressKey('D', true);  // "&Do An Auto-Search"
+    Sleep(300);
+    PressKey('O', true);  // "&OK"
+    ASSERT_TRUE(Activate(program.WaitForWindow()));
+    EXPECT_EQ(home.Get("LV-Stuff", "FirstTime"), "0");
+    EXPECT_THAT(home.Get("Options", "Executables"), HasSubstr("t:\\quake\\quake.exe"));
+    PressKey(VK_F2);
+    EXPECT_FALSE(WindowsHome::GameSaid().empty());
+}
+
 TEST(FirstRun, StaysAFirstRunWhenItIsCancelled) {
     WindowsHome home;
     ProgramRun program;
-    ASSERT_TRUE(Activate(program.WaitForWindow(L"Lorvane 3D Setup")));
+    ASSERT_TRUE(Activate(program.WaitForWindow(kSetupTitle)));
     PressKey(VK_ESCAPE);
     HWND box = nullptr;
     ASSERT_TRUE(WaitUntil([&] {

@@ -66,11 +66,15 @@ std::wstring BuiltProgram() {
     return BuildDirectory() + L"\\lorvane3d.exe";
 }
 
-void WindowsHome::Prepare() {
+void WindowsHome::MakeGame() {
     CreateDirectoryW(L"T:\\QUAKE", nullptr);
     CreateDirectoryW(L"T:\\QUAKE\\ID1", nullptr);
     const std::wstring standIn = BuildDirectory() + L"\\standins\\show_windows.exe";
     ASSERT_NE(CopyFileW(standIn.c_str(), L"T:\\QUAKE\\QUAKE.EXE", FALSE), 0) << GetLastError();
+}
+
+void WindowsHome::Prepare() {
+    MakeGame();
     Set("LV-Stuff", "FirstTime", "0");
     Set("LV-Stuff", "VP_Version", "1");
     Set("LV-Stuff", "NVC_Version", "1");

@@ -28,7 +28,9 @@ std::wstring BuiltProgram();
 /// This user's settings and the test drive, both empty at first.
 class WindowsHome {
   public:
-    /// A game T:\QUAKE\QUAKE.EXE, which is the stand-in, and settings with which a start asks nothing.
+    /// A game T:\QUAKE\QUAKE.EXE, which is the stand-in.
+    static void MakeGame();
+    /// The game, and settings with which a start asks nothing.
     void Prepare();
     void Set(const std::string& section, const std::string& key, const std::string& value);
     /// "(none)" if it is not stored.
