@@ -2,6 +2,7 @@
 
 #include <wx/button.h>
 #include <wx/checkbox.h>
+#include <wx/platinfo.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/textctrl.h>
@@ -19,6 +20,11 @@ constexpr int kIconHeight = 32;
 
 // The toolkit's own margins inside a text field, so that a text that was measured to fit does fit.
 constexpr int kTextMargin = 24;
+
+// Windows gives a text that does not wrap a scroll bar, however short it is.
+bool UnwrappedTextHasABar() {
+    return wxPlatformInfo::Get().GetPortId() == wxPORT_MSW;
+}
 
 wxString IconName(int index) {
     return wxString::Format("icons/question/%02d", index);
@@ -57,7 +63,10 @@ wxSizer* QuestionBoxForm::MakeMessage() {
     picture->SetName("Display_Pic");
     row->Add(picture, wxSizerFlags().Top().Border(wxRIGHT, layout.Gap * 2));
 
-    long style = wxTE_MULTILINE | wxTE_READONLY | wxTE_NO_VSCROLL | wxTE_DONTWRAP | wxBORDER_NONE;
+    long style = wxTE_MULTILINE | wxTE_READONLY | wxTE_NO_VSCROLL | wxBORDER_NONE;
+    if (!UnwrappedTextHasABar()) {
+        style |= wxTE_DONTWRAP;
+    }
     if (layout.ScrollsDown || layout.ScrollsAcross) {
         style = wxTE_MULTILINE | wxTE_READONLY | wxTE_DONTWRAP;
     }

@@ -142,15 +142,25 @@ void LvForm::ShowState() {
     showing_ = false;
 }
 
+void LvForm::TakeSize() {
+    const LV_Frm& window = launcher_.Window;
+    shownSize_ = window.Size;
+    const wxSize room = wxDisplay(this).GetClientArea().GetSize();
+    const wxSize size(std::min(window.Size.Width, room.x), std::min(window.Size.Height, room.y));
+    SetSizeHints(size, size);
+    SetSize(size);
+    panels_->Layout();
+}
+
 void LvForm::ShowSize() {
     const LV_Frm& window = launcher_.Window;
     if (window.Size.Width > 0 && shownSize_ != window.Size) {
-        shownSize_ = window.Size;
-        const wxSize room = wxDisplay(this).GetClientArea().GetSize();
-        const wxSize size(std::min(window.Size.Width, room.x), std::min(window.Size.Height, room.y));
-        SetSizeHints(size, size);
-        SetSize(size);
-        panels_->Layout();
+        TakeSize();
+        // A menu bar that had to break its line in the narrower window has less height now.
+        if (GetSize() - GetClientSize() != measuredFrame_) {
+            SizeTo(launcher_, window.SizeMode);
+            TakeSize();
+        }
     }
     if (window.Size_Tmr_Enabled && !sizeTimer_.IsRunning()) {
         sizeTimer_.Start(kSizeTimerMilliseconds);

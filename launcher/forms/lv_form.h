@@ -37,6 +37,7 @@ class LvForm : public wxFrame {
     [[nodiscard]] int State() const;
     void ShowPlace();
     void ShowSize();
+    void TakeSize();
     void ShowPresence();
     void ShowTray();
     WindowMeasures MeasureWindow();

@@ -76,7 +76,8 @@ std::wstring OwnProgramFile() {
         const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
         if (length < path.size()) {
             path.resize(length);
-            return path;
+            // Wine leaves the start out of a path that lies on no drive.
+            return path.starts_with(L"unix\\") ? L"\\\\?\\" + path : path;
         }
         path.resize(path.size() * 2);
     }
@@ -93,7 +94,8 @@ std::wstring WithoutPrefix(std::wstring path) {
 }  // namespace
 
 WindowsFiles::WindowsFiles() : current_{"C:", {}} {
-    if (auto started = TakeApart(SayPath(WithoutPrefix(OwnCurrentDirectory())), current_)) {
+    auto started = TakeApart(SayPath(WithoutPrefix(OwnCurrentDirectory())), current_);
+    if (started && IsDirectoryAt(SystemPath(*started))) {
         current_ = *std::move(started);
     }
 }

@@ -12,7 +12,8 @@
 
 namespace lv {
 
-/// The current directory is the program's own: it starts as the process's, which is never changed.
+/// The current directory is the program's own: it starts as the process's, which is never changed; as "C:\" if that
+/// cannot be said.
 class WindowsFiles : public Files {
   public:
     WindowsFiles();

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/platform/windows/own_window.h"
+#include "tests/support/windows/own_window.h"
 
 // Behind windows.h, whose types they need.
 #include <initguid.h>

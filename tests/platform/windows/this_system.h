@@ -7,10 +7,10 @@
 #include <string>
 
 #include "platform/windows/registry_settings.h"
-#include "platform/windows/system.h"
 #include "platform/windows/windows_files.h"
 #include "platform/windows/windows_registry.h"
-#include "tests/platform/windows/test_drive.h"
+#include "tests/support/windows/empty_key.h"
+#include "tests/support/windows/test_drive.h"
 
 namespace lv {
 
@@ -21,18 +21,6 @@ struct SystemDisk {
     TestDrive Drive;
     WindowsFiles Disk;
     char Letter = Drive.Letter();
-};
-
-/// A key below HKEY_CURRENT_USER, without values when this is made and when it goes.
-class EmptyKey {
-  public:
-    explicit EmptyKey(std::wstring path) : path_(std::move(path)) { RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str()); }
-    ~EmptyKey() { RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str()); }
-    EmptyKey(const EmptyKey&) = delete;
-    EmptyKey& operator=(const EmptyKey&) = delete;
-
-  private:
-    std::wstring path_;
 };
 
 /// Nothing of the applications that the tests write.

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tests/platform/windows/own_window.h"
+#include "tests/support/windows/own_window.h"
 
 namespace lv {
 

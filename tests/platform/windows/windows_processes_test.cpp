@@ -7,7 +7,7 @@
 
 #include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
-#include "tests/platform/windows/own_window.h"
+#include "tests/support/windows/own_window.h"
 #include "this_system.h"
 
 namespace lv {

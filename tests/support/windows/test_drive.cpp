@@ -1,4 +1,4 @@
-#include "tests/platform/windows/test_drive.h"
+#include "tests/support/windows/test_drive.h"
 
 #include <array>
 #include <cstdio>

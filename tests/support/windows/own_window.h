@@ -1,4 +1,4 @@
-// tests/platform/windows/own_window.h
+// tests/support/windows/own_window.h
 //
 // A top window of the test's own, served by a thread of its own as another program's would be.
 

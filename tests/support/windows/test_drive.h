@@ -1,4 +1,4 @@
-// tests/platform/windows/test_drive.h
+// tests/support/windows/test_drive.h
 //
 // The drive that the tests may fill and empty, T:, as scripts/under_wine makes it; on Windows itself
 //   subst T: <an empty directory>

@@ -1,4 +1,4 @@
-#include "tests/platform/windows/own_window.h"
+#include "tests/support/windows/own_window.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,31 @@
+# What is handed out: lorvane3d-<version>-windows.zip, one folder with the program and its data. Target `zip` makes it,
+# and unpacks it to shipped/, where the tests take the program from.
+set(folder "Lorvane 3D")
+set(stage ${CMAKE_CURRENT_BINARY_DIR}/stage)
+set(shipped ${CMAKE_BINARY_DIR}/shipped)
+set(zip ${CMAKE_BINARY_DIR}/lorvane3d-${PROJECT_VERSION}-windows.zip)
+
+install(TARGETS lorvane3d DESTINATION "${folder}" COMPONENT zip)
+install(FILES ${CMAKE_SOURCE_DIR}/assets/lv_666.hid ${CMAKE_SOURCE_DIR}/assets/lv_666_q2.hid DESTINATION "${folder}"
+    COMPONENT zip)
+install(FILES ${pages} DESTINATION "${folder}/handbook" COMPONENT zip)
+install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION "${folder}" RENAME LICENSE.txt COMPONENT zip)
+# The licences of what is linked in, as Debian's packages bring them.
+foreach(package libwxgtk3.2-dev libpng16-16 libz-mingw-w64-dev mingw-w64-common g++-mingw-w64-x86-64-posix)
+    install(FILES /usr/share/doc/${package}/copyright DESTINATION "${folder}/licences" RENAME ${package}.txt
+        COMPONENT zip)
+endforeach()
+
+set(data ${pages} ${CMAKE_SOURCE_DIR}/assets/lv_666.hid ${CMAKE_SOURCE_DIR}/assets/lv_666_q2.hid
+    ${CMAKE_SOURCE_DIR}/LICENSE)
+add_custom_command(
+    OUTPUT ${zip}
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage} ${shipped} ${zip}
+    COMMAND ${CMAKE_COMMAND} --install ${CMAKE_BINARY_DIR} --component zip --prefix ${stage}
+    COMMAND ${CMAKE_COMMAND} -E chdir ${stage} ${CMAKE_COMMAND} -E tar c ${zip} --format=zip ${folder}
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${shipped}
+    COMMAND ${CMAKE_COMMAND} -E chdir ${shipped} ${CMAKE_COMMAND} -E tar x ${zip}
+    DEPENDS lorvane3d ${data}
+    COMMENT "Packing the Windows program"
+    VERBATIM)
+add_custom_target(zip ALL DEPENDS ${zip})
