@@ -150,6 +150,13 @@ HWND ProgramRun::WaitForWindow(const wchar_t* title) {
     return window;
 }
 
+bool ProgramRun::ActivateShown(const wchar_t* title) {
+    return WaitUntil([&] {
+        const HWND window = ShownWindow(title);
+        return window != nullptr && Activate(window, 1000);
+    });
+}
+
 bool ProgramRun::IsRunning() {
     return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT;
 }
@@ -177,13 +184,15 @@ std::optional<DWORD> ProgramRun::EndByF12() {
 }
 
 // A window manager may give the keys to another new window a moment later.
-bool Activate(HWND window) {
+bool Activate(HWND window, int milliseconds) {
     int quietLooks = 0;
-    return WaitUntil([&] {
-        const bool isThere = GetForegroundWindow() == window || SetForegroundWindow(window) == 0;
-        quietLooks = isThere ? quietLooks + 1 : 0;
-        return quietLooks > 8 && GetForegroundWindow() == window;
-    });
+    return WaitUntil(
+        [&] {
+            const bool isThere = GetForegroundWindow() == window || SetForegroundWindow(window) == 0;
+            quietLooks = isThere ? quietLooks + 1 : 0;
+            return quietLooks > 8 && GetForegroundWindow() == window;
+        },
+        milliseconds);
 }
 
 void PressKey(WORD key, bool withAlt) {

@@ -56,6 +56,8 @@ class ProgramRun {
 
     /// A window of this run that is on the screen; null if there is none within twenty seconds, and a failed test.
     HWND WaitForWindow(const wchar_t* title = kMainTitle);
+    /// Gives the keys to the window of that title, whichever bears it by then; false if none takes them.
+    bool ActivateShown(const wchar_t* title);
     /// The same, now.
     [[nodiscard]] HWND ShownWindow(const wchar_t* title = kMainTitle) const;
 
@@ -70,7 +72,7 @@ class ProgramRun {
 };
 
 /// Brings the window to the front and waits until it is there.
-bool Activate(HWND window);
+bool Activate(HWND window, int milliseconds = 10000);
 /// Presses a key of the system's number in whatever window is in front, with Alt if told so.
 void PressKey(WORD key, bool withAlt = false);
 

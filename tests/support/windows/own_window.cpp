@@ -4,8 +4,8 @@
 
 namespace lv {
 
-bool WaitUntil(const std::function<bool()>& holds) {
-    for (int tries = 0; tries < 200; ++tries) {
+bool WaitUntil(const std::function<bool()>& holds, int milliseconds) {
+    for (int tries = 0; tries < milliseconds / 50; ++tries) {
         if (holds()) {
             return true;
         }

@@ -14,8 +14,8 @@
 
 namespace lv {
 
-/// Whether it comes to hold within ten seconds.
-bool WaitUntil(const std::function<bool()>& holds);
+/// Whether it comes to hold within that time.
+bool WaitUntil(const std::function<bool()>& holds, int milliseconds = 10000);
 
 class OwnWindow {
   public:
