@@ -132,6 +132,10 @@ Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons, int de
     return Ask(run, title, text, buttons, defaultButton, icon, true);
 }
 
+bool MessageIsOn(Run& run, TextView messageKey) {
+    return GetNumber(run, "ShowMessage", messageKey, 1) == 1;
+}
+
 Index AskUserUnlessTold(Run& run, TextView messageKey, TextView title, TextView text, TextView buttons,
                         int defaultButton, int icon) {
     if (GetSetting(run, run.AppName, "ShowMessage", messageKey, "1") == "0") {

@@ -78,6 +78,9 @@ void TellOfFailure(Run& run, const Error& failed) {
 }
 
 void TellOfConversion(Run& run, TextView path) {
+    if (!MessageIsOn(run, "HalfLifeRegConversion")) {
+        return;
+    }
     AskUserUnlessTold(run, "HalfLifeRegConversion", "Half-Life Registry Conversion",
                       Join("Lorvane has just converted your Half-Life settings from the registry", NewLine,
                            "to the following file:", NewLine, path, NewLine,

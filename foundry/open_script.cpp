@@ -43,7 +43,7 @@ void BackUp(Run& run, TextView path) {
         AskUser(run, kInformation, ErrorLines(failed), "&OK");
         return;
     }
-    if (GetNumber(run, "ShowMessage", "BackupScript", 1) == 1) {
+    if (MessageIsOn(run, "BackupScript")) {
         AskUserUnlessTold(run, "BackupScript", kInformation,
                           Join("SetupFoundry has not edited this script before. A backup copy has been stored as -->",
                                NewLine, NewLine, DoubleQuote, copy, DoubleQuote),

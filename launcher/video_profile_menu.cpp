@@ -21,6 +21,9 @@ Text ShownName(const Run& run) {
 }
 
 void TellOfLiveWindow(Run& run) {
+    if (!MessageIsOn(run, "VideoProfiles")) {
+        return;
+    }
     AskUserUnlessTold(run, "VideoProfiles", "Video Profiles",
                       Join("The Video Profiles window is now open and active for the following Video Profile:", NewLine,
                            NewLine, ShownName(run), NewLine,

@@ -121,6 +121,12 @@ TEST_F(HalfLifeTest, TellsOfTheConversionUntilToldNotTo) {
     ConvertRegistryToScript(run, kPath);
 }
 
+TEST_F(HalfLifeTest, TellsOfTheConversionOnlyIfTheSettingIsOne) {
+    Save(run, "ShowMessage", "HalfLifeRegConversion", "2");
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_TRUE(user.Asked.empty());
+}
+
 TEST_F(HalfLifeTest, AScriptThatCannotBeWrittenIsToldAndLeftAsItWas) {
     for (const int number : {61, 70, 75}) {
         system.Disk.AddFile(kPath, "the old one");

@@ -102,6 +102,14 @@ TEST_F(VideoProfileMenu, TheNoteCanBeSwitchedOffForGood) {
     EXPECT_EQ(user.Asked.size(), 1u);
 }
 
+TEST_F(VideoProfileMenu, TheNoteComesOnlyIfTheSettingIsOne) {
+    for (const char* value : {"2", "x", ""}) {
+        Save(run, "ShowMessage", "VideoProfiles", value);
+        VideoProfileEdit_Cmd_Click(launcher);
+        EXPECT_TRUE(user.Asked.empty()) << value;
+    }
+}
+
 TEST_F(VideoProfileMenu, TheNoteOffersNotToComeAgain) {
     ExpectNote("Base");
     VideoProfileEdit_Cmd_Click(launcher);
