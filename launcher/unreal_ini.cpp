@@ -41,8 +41,10 @@ Value Height(const ProfileSnapshot& profile, TextView) {
     return SideOf(profile, false);
 }
 
+// A tick beside a list without a selection has nothing to write, and the ini keeps what it says.
 Value Chosen(const ProfileSnapshot& profile, TextView stem) {
-    return profile.Ticked(stem) ? Value(profile.Value(stem)) : Value();
+    const bool nothing_selected = profile.Of(stem).Setting < 0 && profile.Value(stem).empty();
+    return profile.Ticked(stem) && !nothing_selected ? Value(profile.Value(stem)) : Value();
 }
 
 Value FullScreen(const ProfileSnapshot& profile, TextView) {

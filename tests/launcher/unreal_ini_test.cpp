@@ -263,6 +263,14 @@ TEST(UnrealIni, GetsAValueWhateverItsPlaceInTheList) {
     EXPECT_EQ(IniOf(InSection("ScaleXYZ=500\r\n"), profile), InSection("ScaleXYZ=700\r\nStartupFullScreen=True\r\n"));
 }
 
+TEST(UnrealIni, KeepsItsValueForATickWithoutASelection) {
+    ProfileSnapshot profile;
+    Use(profile, "UnrealBrightness", "", -1);
+    EXPECT_EQ(IniOf(InSection("Brightness=0.7\r\n"), profile),
+              InSection("Brightness=0.7\r\nStartupFullScreen=True\r\n"));
+    EXPECT_EQ(IniOf(InSection(""), profile), InSection("StartupFullScreen=True\r\n"));
+}
+
 struct ViewPortCase {
     const char* Content;
     const char* Lines;
