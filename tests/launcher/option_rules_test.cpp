@@ -104,6 +104,10 @@ TEST(LV_Frm, HasEachPanelsTitle) {
     EXPECT_EQ(window.Command_Pan.Caption, " Command Center");
 }
 
+TEST(LV_Frm, NamesItsListOfVideoProfiles) {
+    EXPECT_EQ(LV_Frm().VideoProfiles_Cbo.ToolTip, "List of video profiles");
+}
+
 TEST(LV_Frm, NamesItsLaunchButtons) {
     const LV_Frm window;
     EXPECT_EQ(window.DoIt_Cmd[0].ToolTip, "Click to launch your game [F2]");

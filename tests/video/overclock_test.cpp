@@ -141,6 +141,15 @@ TEST_F(Overclock, WhileAProfileIsLoadedNothingIsAsked) {
     EXPECT_EQ(form.BoxOf("SSTV2_GRXCLK").Cbo.Selected(), "100");
 }
 
+TEST_F(Overclock, AClickOnADangerousClockWhileLoadingAsksAndSavesNothing) {
+    form.ProfileLoading = true;
+    Pick("SST_GRXCLK", "63");
+    Pick("SSTV2_GRXCLK", "100");
+    EXPECT_TRUE(user.Asked.empty());
+    EXPECT_EQ(Stored(kOptions, "SST_GRXCLK_Setting"), "(none)");
+    EXPECT_EQ(Stored(kOptions, "SSTV2_GRXCLK_Setting"), "(none)");
+}
+
 TEST_F(Overclock, OtherTunablesMayBeAnything) {
     EXPECT_TRUE(MayOverclock(run, *FindTunable("SST_SCREENREFRESH"), 120));
 }

@@ -23,6 +23,12 @@ class VideoProfileWindowTest : public ProfileModel {
 
 using VideoProfile = VideoProfileWindowTest;
 
+TEST_F(VideoProfile, IsCalledVideoProfileUntilAProfileIsLoaded) {
+    EXPECT_EQ(form.Caption, "Video Profile");
+    Videop(form);
+    EXPECT_EQ(form.Caption, "Video Profile - 'Base'");
+}
+
 struct SavedCase {
     const char* Name;
     const char* FlagKey;
