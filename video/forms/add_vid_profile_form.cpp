@@ -21,7 +21,8 @@ std::unique_ptr<wxDialog> MakeAddVidProfileForm(wxWindow* owner, ModalWindow& wi
         const wxString typed(event.GetUnicodeKey());
         const Text inCodePage = FromWx(typed);
         const bool known = ToWx(inCodePage) == typed;
-        if (event.GetUnicodeKey() < WXK_SPACE || event.HasModifiers() ||
+        const wxChar key = event.GetUnicodeKey();
+        if (key < WXK_SPACE || key == WXK_DELETE || event.HasModifiers() ||
             (known && TakesProfileNameCharacter(inCodePage.front()))) {
             event.Skip();
         }
