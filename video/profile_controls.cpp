@@ -80,6 +80,7 @@ constexpr ProfileBoxRow kBoxes[] = {
 static_assert(std::size(kPanels) == kProfilePanels);
 
 constexpr TextView kLeader = "--";
+constexpr std::size_t kLongCaption = 45;  // characters that one line takes beside two other columns
 
 }  // namespace
 
@@ -93,6 +94,23 @@ std::span<const ProfileBoxRow> ProfileBoxRows() {
 
 Text WithoutLeader(TextView caption) {
     return Trim(caption.substr(0, caption.find(kLeader)));
+}
+
+Text InTwoLines(TextView caption) {
+    if (caption.size() <= kLongCaption) {
+        return Text(caption);
+    }
+    const std::size_t middle = caption.size() / 2;
+    const std::size_t before = caption.rfind(' ', middle);
+    const std::size_t behind = caption.find(' ', middle);
+    if (before == TextView::npos && behind == TextView::npos) {
+        return Text(caption);
+    }
+    const bool take_behind =
+        before == TextView::npos || (behind != TextView::npos && behind - middle < middle - before);
+    Text lines(caption);
+    lines[take_behind ? behind : before] = '\n';
+    return lines;
 }
 
 }  // namespace lv

@@ -46,4 +46,7 @@ std::span<const ProfileBoxRow> ProfileBoxRows();
 /// The caption without the dashes that lead the eye to the list behind it; forms draw that line themselves.
 Text WithoutLeader(TextView caption);
 
+/// A caption too long for one line beside other columns, broken at the blank nearest to its middle.
+Text InTwoLines(TextView caption);
+
 }  // namespace lv

@@ -1,26 +1,20 @@
 #include "platform/spoken_name.h"
 
-#include <dlfcn.h>
+#include "platform/linux/toolkit_function.h"
 
 namespace lv {
 
 namespace {
 
-// The toolkit brings GTK and ATK along; their functions are taken from there, so that nothing else links them.
-template <class Function>
-Function Loaded(const char* name) {
-    return reinterpret_cast<Function>(dlsym(RTLD_DEFAULT, name));
-}
-
 void* AccessibleOf(void* control) {
-    const auto get = Loaded<void* (*)(void*)>("gtk_widget_get_accessible");
+    const auto get = ToolkitFunction<void* (*)(void*)>("gtk_widget_get_accessible");
     return get != nullptr && control != nullptr ? get(control) : nullptr;
 }
 
 }  // namespace
 
 void SetSpokenName(void* control, const std::string& name) {
-    const auto set = Loaded<void (*)(void*, const char*)>("atk_object_set_name");
+    const auto set = ToolkitFunction<void (*)(void*, const char*)>("atk_object_set_name");
     void* accessible = AccessibleOf(control);
     if (set != nullptr && accessible != nullptr) {
         set(accessible, name.c_str());
@@ -28,7 +22,7 @@ void SetSpokenName(void* control, const std::string& name) {
 }
 
 std::string SpokenName(void* control) {
-    const auto get = Loaded<const char* (*)(void*)>("atk_object_get_name");
+    const auto get = ToolkitFunction<const char* (*)(void*)>("atk_object_get_name");
     void* accessible = AccessibleOf(control);
     const char* name = get != nullptr && accessible != nullptr ? get(accessible) : nullptr;
     return name == nullptr ? std::string() : std::string(name);

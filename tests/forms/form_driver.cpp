@@ -39,6 +39,15 @@ int OpenModals() {
     return open;
 }
 
+void PressButtonOn(wxWindow* control, int button) {
+    const wxRect place = control->GetScreenRect();
+    wxUIActionSimulator hand;
+    hand.MouseMove(place.GetTopLeft() + wxPoint(place.width / 2, place.height / 2));
+    Settle(50);
+    hand.MouseClick(button);
+    Settle();
+}
+
 }  // namespace
 
 wxWindow* Find(const std::string& name) {
@@ -77,12 +86,11 @@ bool HasKeyboard(wxWindow* control) {
 }
 
 void ClickOn(wxWindow* control) {
-    const wxRect place = control->GetScreenRect();
-    wxUIActionSimulator hand;
-    hand.MouseMove(place.GetTopLeft() + wxPoint(place.width / 2, place.height / 2));
-    Settle(50);
-    hand.MouseClick();
-    Settle();
+    PressButtonOn(control, wxMOUSE_BTN_LEFT);
+}
+
+void RightClickOn(wxWindow* control) {
+    PressButtonOn(control, wxMOUSE_BTN_RIGHT);
 }
 
 void PressKey(int key, int modifiers) {

@@ -29,6 +29,7 @@ bool SettleUntil(const std::function<bool()>& holds, int milliseconds = 5000);
 bool HasKeyboard(wxWindow* control);
 
 void ClickOn(wxWindow* control);
+void RightClickOn(wxWindow* control);
 void PressKey(int key, int modifiers = 0);
 
 /// Calls back once a modal window more is open than now.

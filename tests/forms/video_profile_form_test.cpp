@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <wx/choice.h>
+#include <wx/cshelp.h>
 #include <wx/textctrl.h>
 
 #include "foundation/settings.h"
@@ -134,9 +135,28 @@ TEST_F(VideoProfileForm_, BothWindowsSideBySideForEachCard) {
         sizes.push_back(Shown()->GetSize());
         Screenshot("video_profile_card_" + std::to_string(row));
     }
-    EXPECT_LT(sizes[0].x, sizes[3].x) << "the window shrinks to what is shown";
+    EXPECT_LE(sizes[0].x, sizes[3].x) << "the window shrinks to what is shown";
     EXPECT_LT(sizes[0].y, sizes[1].y);
     EXPECT_LT(sizes[3].x, sizes[1].x);
+}
+
+TEST_F(VideoProfileForm_, AScreenOf1024By768TakesItWholeForEveryCardAndGame) {
+    constexpr int kTaskBar = 40;
+    Open();
+    for (int game = 0; game < 3; ++game) {
+        PickExe(game);
+        for (int card = 0; card < 4; ++card) {
+            PickCard(card);
+            const wxSize wanted = Shown()->GetChildren().front()->GetSizer()->CalcMin();
+            const wxSize client = Shown()->GetClientSize();
+            const wxSize size = Shown()->GetSize();
+            const std::string what = "game " + std::to_string(game) + ", card " + std::to_string(card);
+            EXPECT_GE(client.x, wanted.x) << what;
+            EXPECT_GE(client.y, wanted.y) << what;
+            EXPECT_LE(size.x, 1024) << what;
+            EXPECT_LE(size.y, 768 - kTaskBar) << what;
+        }
+    }
 }
 
 TEST_F(VideoProfileForm_, UnrealAndQuake2HaveTheirOwn) {
@@ -224,13 +244,60 @@ TEST_F(VideoProfileForm_, TheMainWindowMinimisedUnderAWarningTakesNothingAway) {
     EXPECT_TRUE(launcher.VideoProfile.VideoProfileWindowOpen);
 }
 
-TEST_F(VideoProfileForm_, ARightClickOnABoxTellsWhatItIsFor) {
+TEST_F(VideoProfileForm_, EveryBoxHasItsHelp) {
     Open();
-    wxWindow* box = Find("Mirrors_Chk");
-    EXPECT_FALSE(box->GetHelpText().empty());
     for (const ProfileBoxRow& row : ProfileBoxRows()) {
         EXPECT_FALSE(Find(std::string(row.Name) + "_Chk")->GetHelpText().empty()) << row.Name;
     }
+    for (const char* name : {"Windowed_Chk", "GL_Chk(0)", "GL_Chk(1)", "GraphicsDriver_Chk"}) {
+        EXPECT_FALSE(Find(name)->GetHelpText().empty()) << name;
+    }
+}
+
+TEST_F(VideoProfileForm_, ARightClickOnABoxTellsWhatItIsFor) {
+    struct Told : public wxHelpProvider {
+        wxString GetHelp(const wxWindowBase*) override { return {}; }
+        bool ShowHelpAtPoint(wxWindowBase* window, const wxPoint&, wxHelpEvent::Origin) override {
+            Names.push_back(window->GetName());
+            return true;
+        }
+        std::vector<wxString> Names;
+    };
+    Open();
+    Told told;
+    wxHelpProvider* const before = wxHelpProvider::Set(&told);
+    RightClickOn(Find("Mirrors_Chk"));
+    RightClickOn(Find("Windowed_Chk"));
+    wxHelpProvider::Set(before);
+    EXPECT_EQ(told.Names, (std::vector<wxString>{"Mirrors_Chk", "Windowed_Chk"}));
+}
+
+TEST_F(VideoProfileForm_, DeleteWorksInTheNameOfANewProfile) {
+    DoAndAnswer([this] { Menu_Click(launcher, MenuItem::VideoProfilesAdd_Bar); },
+                [] {
+                    auto* name = FindAs<wxTextCtrl>("NewVidProfileName_Txt");
+                    PressKey('a');
+                    PressKey('b');
+                    PressKey(WXK_HOME);
+                    PressKey(WXK_DELETE);
+                    EXPECT_EQ(name->GetValue(), "b");
+                    PressKey(WXK_END);
+                    PressKey(WXK_BACK);
+                    EXPECT_EQ(name->GetValue(), "");
+                    PressKey(WXK_ESCAPE);
+                });
+}
+
+TEST_F(VideoProfileForm_, AWindowAtTheEdgeStaysOnTheScreenWhenItGrows) {
+    Open();
+    PickCard(0);
+    Shown()->Move(1024 - Shown()->GetSize().x, 768 - Shown()->GetSize().y);
+    Settle();
+    PickCard(2);
+    EXPECT_TRUE(SettleUntil([] { return Shown()->GetRect().GetRight() < 1024; }));
+    EXPECT_LT(Shown()->GetRect().GetBottom(), 768);
+    EXPECT_GE(Shown()->GetRect().x, 0);
+    EXPECT_GE(Shown()->GetRect().y, 0);
 }
 
 TEST_F(VideoProfileForm_, EscapeClosesIt) {

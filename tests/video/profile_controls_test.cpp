@@ -175,6 +175,25 @@ TEST(ProfileControls, PanelsHaveTheirCaptions) {
     }
 }
 
+TEST(InTwoLines, BreaksALongCaptionAtTheBlankNearestToItsMiddle) {
+    EXPECT_EQ(InTwoLines("Don't sync buffer swaps to monitor refresh rate for Glide apps."),
+              "Don't sync buffer swaps to monitor\nrefresh rate for Glide apps.");
+    EXPECT_EQ(InTwoLines("Don't sync buffer swaps to monitor refresh rate for Direct3D apps."),
+              "Don't sync buffer swaps to monitor\nrefresh rate for Direct3D apps.");
+    EXPECT_EQ(InTwoLines("Force trilinear texture filtering for Direct3D apps."),
+              "Force trilinear texture\nfiltering for Direct3D apps.");
+}
+
+TEST(InTwoLines, KeepsACaptionThatFitsOne) {
+    EXPECT_EQ(InTwoLines("Limit texture memory for Glide apps."), "Limit texture memory for Glide apps.");
+    EXPECT_EQ(InTwoLines(""), "");
+}
+
+TEST(InTwoLines, KeepsACaptionWithoutABlank) {
+    const Text caption(60, 'x');
+    EXPECT_EQ(InTwoLines(caption), caption);
+}
+
 TEST(WithoutLeader, KeepsACaptionThatHasNone) {
     EXPECT_EQ(WithoutLeader("Skip 3DFX Splash"), "Skip 3DFX Splash");
     EXPECT_EQ(WithoutLeader("24-bit"), "24-bit");

@@ -1,6 +1,7 @@
 #include "video/forms/video_profile_form.h"
 
 #include <wx/display.h>
+#include <wx/settings.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 
@@ -10,6 +11,7 @@
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/scroll_bars.h"
 #include "platform/spoken_name.h"
 #include "video/forms/leader_line.h"
 
@@ -18,9 +20,19 @@ namespace lv {
 namespace {
 
 constexpr int kGap = 6;
-constexpr int kRowGap = 3;
+constexpr int kRowGap = 2;
 constexpr int kWideList = 160;  // at 100 %
 constexpr int kFrameRoom = 40;  // of the screen's height, left for the frame
+
+// As large as wanted where the screen has room, with room for the bars where it has not.
+wxSize ScrolledSize(wxSize wanted, wxSize room, int bar) {
+    const wxSize with_bars(wanted.x + (wanted.y > room.y ? bar : 0), wanted.y + (wanted.x > room.x ? bar : 0));
+    return {std::min(with_bars.x, room.x), std::min(with_bars.y, room.y)};
+}
+
+Text ShownCaption(TextView caption) {
+    return InTwoLines(WithoutLeader(caption));
+}
 
 }  // namespace
 
@@ -35,13 +47,11 @@ VideoProfileForm::VideoProfileForm(VideoProfile_Frm& model, WxUser& user)
     SetIcons(ProgramIcon());
     content_ =
         new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
+    KeepScrollBarsInSight(content_->GetHandle());
     content_->SetScrollRate(FromDIP(10), FromDIP(10));
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeCardRow(), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap));
-    auto* hint = new wxStaticText(content_, wxID_ANY, ToWx(model_.Hint_Lbl.Caption));
-    binder_.Bind("Hint_Lbl", model_.Hint_Lbl, hint);
     rows->Add(MakeColumns(), wxSizerFlags(1).Expand().Border(wxALL, kGap / 2));
-    rows->Add(hint, wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, kGap));
     content_->SetSizer(rows);
     GiveWhatsThis(this);
     BindEvents();
@@ -91,6 +101,9 @@ wxSizer* VideoProfileForm::MakeCardRow() {
         MakeList("VidCard_Cbo", model_.VidCard_Cbo, model_.VidCard_Lbl.Caption, [this] { VidCard_Cbo_Click(model_); });
     row->Add(label, wxSizerFlags().CenterVertical().Border(wxRIGHT, kGap));
     row->Add(cards, wxSizerFlags().CenterVertical());
+    auto* hint = new wxStaticText(content_, wxID_ANY, ToWx(model_.Hint_Lbl.Caption));
+    binder_.Bind("Hint_Lbl", model_.Hint_Lbl, hint);
+    row->Add(hint, wxSizerFlags().CenterVertical().Border(wxLEFT, 3 * kGap));
     return row;
 }
 
@@ -143,9 +156,9 @@ void VideoProfileForm::EndPanel(wxSizer* column) {
 }
 
 wxCheckBox* VideoProfileForm::MakeCheck(const std::string& name, CheckBox& model, Binder::Handler click) {
-    auto* check = new wxCheckBox(rows_->GetStaticBox(), wxID_ANY, ToWx(WithoutLeader(model.Caption)), wxDefaultPosition,
+    auto* check = new wxCheckBox(rows_->GetStaticBox(), wxID_ANY, ToWx(ShownCaption(model.Caption)), wxDefaultPosition,
                                  wxDefaultSize, wxCHK_3STATE);
-    binder_.Bind(name.c_str(), model, check, std::move(click), WithoutLeader);
+    binder_.Bind(name.c_str(), model, check, std::move(click), ShownCaption);
     return check;
 }
 
@@ -246,8 +259,25 @@ void VideoProfileForm::FitToContent() {
     wxSize room = wxDisplay(this).GetClientArea().GetSize();
     room.y -= FromDIP(kFrameRoom);
     content_->SetVirtualSize(wanted);
-    SetClientSize(std::min(wanted.x, room.x), std::min(wanted.y, room.y));
+    const wxSize client = ScrolledSize(wanted, room, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, content_));
+    content_->ShowScrollbars(client.x < wanted.x ? wxSHOW_SB_ALWAYS : wxSHOW_SB_NEVER,
+                             client.y < wanted.y ? wxSHOW_SB_ALWAYS : wxSHOW_SB_NEVER);
+    SetClientSize(client);
     content_->Layout();
+    if (IsShown()) {
+        StayOnScreen();
+    }
+}
+
+// What comes beside a window at the screen's edge is to be seen too.
+void VideoProfileForm::StayOnScreen() {
+    const wxRect screen = wxDisplay(this).GetClientArea();
+    const wxRect own = GetRect();
+    const wxPoint inside(std::max(screen.x, std::min(own.x, screen.GetRight() + 1 - own.width)),
+                         std::max(screen.y, std::min(own.y, screen.GetBottom() + 1 - own.height)));
+    if (inside != own.GetPosition()) {
+        Move(inside);
+    }
 }
 
 void VideoProfileForm::Open() {
