@@ -128,6 +128,7 @@ void GameSpyConfig_ExeSpy_Cbo_Click(GameSpyConfig_Frm& form, std::size_t slot) {
     if (scripts != form.ScriptSpy_Cbo[slot].Items) {
         form.ScriptSpy_Cbo[slot].Items = std::move(scripts);
         form.ScriptSpy_Cbo[slot].ListIndex = -1;
+        GameSpyConfig_ScriptSpy_Cbo_Click(form, slot);  // the stored position was one of the list that has gone
     }
     if (slot == spy_slot::kQuake) {
         ShowWorkingDirectory(form);

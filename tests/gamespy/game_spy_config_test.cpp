@@ -163,6 +163,24 @@ TEST_F(GameSpyConfig, AnExecutableOfAnotherDirectoryBringsItsScripts) {
     EXPECT_EQ(form.ScriptSpy_Cbo[0].ListIndex, -1);
 }
 
+TEST_F(GameSpyConfig, AResetScriptStaysUnselectedNextTime) {
+    system.Disk.AddFile("D:\\Q\\quake.exe");
+    system.Disk.AddDirectory("D:\\Q\\ID1");
+    AddExecutable("First", "C:\\QUAKE\\QUAKE.EXE");
+    AddExecutable("Second", "D:\\Q\\quake.exe");
+    Save(run, kOptions, "Scripts", "Mine;c:\\quake\\id1\\my.cfg;Other;d:\\q\\id1\\o.cfg");
+    Save(run, kOptions, "SpyScriptsPos0", 0);
+    GameSpyConfig_Load(form);
+    form.ExeSpy_Cbo[0].ListIndex = 1;
+    GameSpyConfig_ExeSpy_Cbo_Click(form, 0);
+    EXPECT_EQ(Stored(kOptions, "SpyScriptsPos0"), "-1");
+    GameSpyConfig_Frm next(run, executables);
+    GameSpyConfig_Load(next);
+    EXPECT_EQ(next.ExeSpy_Cbo[0].ListIndex, 1);
+    EXPECT_EQ(next.ScriptSpy_Cbo[0].Items, Lines{Row("Other", "d:\\q\\id1\\o.cfg")});
+    EXPECT_EQ(next.ScriptSpy_Cbo[0].ListIndex, -1);
+}
+
 TEST_F(GameSpyConfig, AnExecutableOfTheSameDirectoryKeepsTheScript) {
     AddQuakes();
     Save(run, kOptions, "Scripts", "Mine;c:\\quake\\id1\\my.cfg");
@@ -171,6 +189,7 @@ TEST_F(GameSpyConfig, AnExecutableOfTheSameDirectoryKeepsTheScript) {
     form.ExeSpy_Cbo[0].ListIndex = 1;
     GameSpyConfig_ExeSpy_Cbo_Click(form, 0);
     EXPECT_EQ(form.ScriptSpy_Cbo[0].ListIndex, 0);
+    EXPECT_EQ(Stored(kOptions, "SpyScriptsPos0"), "0");
 }
 
 TEST_F(GameSpyConfig, OnlyQuakesDirectoryIsShown) {
