@@ -347,6 +347,15 @@ TEST_F(Configure, ABatchThatCannotBeWrittenIsReportedWithItsTag) {
     }
 }
 
+TEST_F(Configure, ARegistryThatRefusesIsReported) {
+    system.Registry.RefuseWrites = MakeError(error::kPermissionDenied);
+    user.Expect({"Lorvane 3D", "Error Number = 70\r\nError Code = EC00404\r\n"});
+    RunStarting();
+    EXPECT_TRUE(system.Disk.FileExists("C:\\QUAKE\\QSL1_666.bat"));
+    EXPECT_TRUE(system.Registry.Values.empty());
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
 TEST_F(Configure, AScriptThatCannotBeWrittenIsReported) {
     SetTunable("gl_polyblend", "0");
     system.Disk.Refused = {{"c:\\quake\\id1\\lvgs_666.qs", MakeError(error::kDiskFull)}};
