@@ -77,6 +77,12 @@ CapturedServer ReadAddress(TextView line) {
     return {"", Text(line.substr(0, colon)), Text(behind.substr(0, std::min(behind.find(' '), behind.size())))};
 }
 
+/// Columns of fixed width.
+CapturedServer ReadColumns(TextView line) {
+    const Text columns = PadToWidth(line, 50);
+    return {Trim(columns.substr(30, kLongestServerTitle)), Trim(columns.substr(8, 15)), Trim(columns.substr(24, 5))};
+}
+
 Text WithSingleBlanks(TextView line) {
     Text reduced;
     for (const char c : line) {
@@ -93,6 +99,24 @@ Text TakeWord(TextView& line) {
     const Text word(line.substr(0, end));
     line.remove_prefix(std::min(end + 1, line.size()));
     return word;
+}
+
+/// Host and port as the words at `hostAt` (from 0) and behind it, and what is left as the title.
+CapturedServer ReadWords(TextView words, int hostAt) {
+    for (; hostAt > 0; --hostAt) {
+        TakeWord(words);
+    }
+    CapturedServer server;
+    server.Host = TakeWord(words);
+    server.Port = TakeWord(words);
+    server.Title = Trim(words).substr(0, kLongestServerTitle);
+    return server;
+}
+
+/// A dotted host, and a port of digits or none.
+bool HasAddress(const CapturedServer& server) {
+    return FitsAnAddress(server.Host) && Holds(server.Host, ".") &&
+           server.Port.find_first_not_of("0123456789") == Text::npos;
 }
 
 }  // namespace
@@ -140,11 +164,7 @@ bool IsAddressAlone(TextView line) {
 }
 
 CapturedServer ReadOneServer(TextView line) {
-    if (IsAddressAlone(line)) {
-        return ReadAddress(line);
-    }
-    const Text columns = PadToWidth(line, 50);
-    return {Trim(columns.substr(30, kLongestServerTitle)), Trim(columns.substr(8, 15)), Trim(columns.substr(24, 5))};
+    return IsAddressAlone(line) ? ReadAddress(line) : ReadColumns(line);
 }
 
 CapturedServer ReadListedServer(TextView line, bool addressesOnly) {
@@ -154,12 +174,16 @@ CapturedServer ReadListedServer(TextView line, bool addressesOnly) {
         return server;
     }
     const Text words = WithSingleBlanks(line);
-    TextView rest = words;
-    CapturedServer server;
-    TakeWord(rest);
-    server.Host = TakeWord(rest);
-    server.Port = TakeWord(rest);
-    server.Title = Trim(rest).substr(0, kLongestServerTitle);
+    const CapturedServer server = ReadWords(words, 2);
+    if (HasAddress(server)) {
+        return server;
+    }
+    // A line as it is copied alone has one word before the address, or, in full columns, no blank between the two.
+    for (const CapturedServer& other : {ReadWords(words, 1), ReadColumns(line)}) {
+        if (HasAddress(other)) {
+            return other;
+        }
+    }
     return server;
 }
 

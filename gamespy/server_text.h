@@ -45,7 +45,8 @@ bool IsAddressAlone(TextView line);
 /// A line that was copied alone: columns of fixed width, or just the address, which leaves the title empty.
 CapturedServer ReadOneServer(TextView line);
 
-/// A line among several: words, or, if `addressesOnly`, an address that also makes the title.
+/// A line among several. Words: the third is the host, the fourth the port; a line whose address stands as in one that
+/// is copied alone is read there. If `addressesOnly`, an address that also makes the title.
 CapturedServer ReadListedServer(TextView line, bool addressesOnly);
 
 }  // namespace lv

@@ -102,6 +102,13 @@ TEST_F(AddServers, SeveralOfTheCurrentGameBecomeRows) {
     EXPECT_EQ(Stored(kOptions, "NetServers"), "Home;10.0.0.1;27500;0;;Away;10.0.0.2;27501;0;");
 }
 
+TEST_F(AddServers, SeveralMayHaveTwoWordsBeforeTheAddress) {
+    AnswerType(0);
+    ExpectTold("Lorvane 3D", "3 Servers Added");
+    Capture("QW  43      10.0.0.1        27500 Home\r\nQW  121 10.0.0.2  27501 Away\r\n43 10.0.0.3 27502 Near\r\n");
+    EXPECT_EQ(Stored(kOptions, "NetServers"), "Home;10.0.0.1;27500;0;;Away;10.0.0.2;27501;0;;Near;10.0.0.3;27502;0;");
+}
+
 TEST_F(AddServers, SeveralOfAnotherGameAreHidden) {
     AnswerType(3);
     ExpectTold("Lorvane 3D", "2 Servers Added");

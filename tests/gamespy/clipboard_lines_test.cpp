@@ -1,4 +1,4 @@
-// A hundred lines as they might stand on the clipboard, each with what is made of it.
+// More than a hundred lines as they might stand on the clipboard, each with what is made of it.
 
 #include <gtest/gtest.h>
 
@@ -103,17 +103,50 @@ constexpr ServerRow kAlone[] = {
     {"43 ", "||"},
 };
 
+// Two words before the address.
 constexpr ServerRow kListed[] = {
+    {"QW 43 10.0.0.1 27500 Home of the Brave", "Home of the Brave|10.0.0.1|27500"},
+    {"QW  43  10.0.0.1  27500  Home  Sweet  Home", "Home Sweet Home|10.0.0.1|27500"},
+    {"QW      43      130.232.80.140  27500 Quake.fi", "Quake.fi|130.232.80.140|27500"},
+    {"QW 43 10.0.0.1 27500 123456789012345678901234", "1234567890123456789|10.0.0.1|27500"},
+    {"QW 43 10.0.0.1 27500 10.0.0.2 27501", "10.0.0.2 27501|10.0.0.1|27500"},
+    {"QW 43 10.0.0.1 27500 a,b", "a,b|10.0.0.1|27500"},
+    {"v1.09 2.0 10.0.0.1 27500 Home", "Home|10.0.0.1|27500"},
+    {"10.0.0.9 43 10.0.0.1 27500 Home", "Home|10.0.0.1|27500"},
+    {"QW 43 10.0.0.1 27500", "|10.0.0.1|27500"},
+    {"QW 43 10.0.0.1", "|10.0.0.1|"},
+    {"QW 43 localhost 27500 Home", "Home|localhost|27500"},
+    {"QW 43", "||"},
+    {"QW", "||"},
+    {"", "||"},
+};
+
+// One word before the address, as in a line that is copied alone.
+constexpr ServerRow kListedAsAlone[] = {
     {"43      10.0.0.1        27500 Home of the Brave", "Home of the Brave|10.0.0.1|27500"},
     {"43 10.0.0.1 27500 Home", "Home|10.0.0.1|27500"},
     {"43  10.0.0.1  27500  Home  Sweet  Home", "Home Sweet Home|10.0.0.1|27500"},
     {"QW      130.232.80.140  27500 Quake.fi", "Quake.fi|130.232.80.140|27500"},
     {"43 10.0.0.1 27500 123456789012345678901234", "1234567890123456789|10.0.0.1|27500"},
+    {"43 10.0.0.1 27500 10.0.0.2 27501", "10.0.0.2 27501|10.0.0.1|27500"},
     {"43 10.0.0.1 27500 a,b", "a,b|10.0.0.1|27500"},
     {"43 10.0.0.1 27500", "|10.0.0.1|27500"},
     {"43 10.0.0.1", "|10.0.0.1|"},
-    {"43", "||"},
-    {"", "||"},
+    {"43      10.0.0.1              No port", "No port|10.0.0.1|"},
+    {"12345678123.123.123.123 27500 Home", "Home|123.123.123.123|27500"},
+};
+
+// The single form, which reads the same alone and among others.
+constexpr ServerRow kEitherWay[] = {
+    {"43      10.0.0.1        27500 Home of the Brave", "Home of the Brave|10.0.0.1|27500"},
+    {"QW      130.232.80.140  27500 Quake.fi", "Quake.fi|130.232.80.140|27500"},
+    {"43      10.0.0.1        7777  Facing Worlds", "Facing Worlds|10.0.0.1|7777"},
+    {"12345678 23.123.123.123 27500 123456789012345678901234", "1234567890123456789|23.123.123.123|27500"},
+    {"12345678123.123.123.123 27500 Home", "Home|123.123.123.123|27500"},
+    {"QW 43   10.0.0.1        27500 Home", "Home|10.0.0.1|27500"},
+    {"1 2 3   10.0.0.1        27500 Home", "Home|10.0.0.1|27500"},
+    {"43      10.0.0.1        27500 v1.09 27501", "v1.09 27501|10.0.0.1|27500"},
+    {"43      10.0.0.1", "|10.0.0.1|"},
 };
 
 constexpr ServerRow kAddressesOnly[] = {
@@ -129,7 +162,7 @@ constexpr ServerRow kAddressesOnly[] = {
     {"a|b:1", "Server a|b:1|a|b|1"},
 };
 
-static_assert(std::size(kAddresses) + std::size(kAlone) + std::size(kListed) + std::size(kAddressesOnly) == 100);
+static_assert(std::size(kAddresses) + std::size(kAlone) + std::size(kListed) + std::size(kAddressesOnly) > 100);
 
 Text Shown(const CapturedServer& server) {
     return server.Title + "|" + server.Host + "|" + server.Port;
@@ -158,8 +191,21 @@ TEST(ClipboardLines, GiveTheseServersAlone) {
     }
 }
 
-TEST(ClipboardLines, GiveTheseServersAmongOthers) {
+TEST(ClipboardLines, GiveTheseServersAmongOthersWithTheAddressAsThirdWord) {
     for (const ServerRow& row : kListed) {
+        EXPECT_EQ(Shown(ReadListedServer(row.Line, false)), row.Server) << row.Line;
+    }
+}
+
+TEST(ClipboardLines, GiveTheseServersAmongOthersWithTheAddressOneWordEarlier) {
+    for (const ServerRow& row : kListedAsAlone) {
+        EXPECT_EQ(Shown(ReadListedServer(row.Line, false)), row.Server) << row.Line;
+    }
+}
+
+TEST(ClipboardLines, OfFixedColumnsGiveTheSameServerAloneAndAmongOthers) {
+    for (const ServerRow& row : kEitherWay) {
+        EXPECT_EQ(Shown(ReadOneServer(row.Line)), row.Server) << row.Line;
         EXPECT_EQ(Shown(ReadListedServer(row.Line, false)), row.Server) << row.Line;
     }
 }
