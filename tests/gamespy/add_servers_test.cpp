@@ -204,6 +204,13 @@ TEST_F(AddServers, ACatalogThatWouldGrowTooLongStaysAsItWas) {
     EXPECT_EQ(Stored(kOptions, "NetServers"), "(none)");
 }
 
+TEST_F(AddServers, AnEmptyClipboardIsToldOnceAndShowsNoDialog) {
+    ExpectTold("Error Getting GameSpy Data", "No data was retrieved from GameSpy");
+    Capture("");
+    EXPECT_EQ(user.Asked.size(), 1u);
+    EXPECT_EQ(Stored(kOptions, "NetServers"), "(none)");
+}
+
 TEST_F(AddServers, WithoutGameSpyNothingIsAsked) {
     ExpectTold("Error Looking for GameSpy 3D", "GameSpy 3D was not found.");
     AddCurrentGameSpyServers(run, launcher.Lists);

@@ -104,12 +104,14 @@ TEST_F(GameSpyFetchTest, AnEmptyClipboardHasNoAddress) {
     ShowGameSpy("");
     ExpectTold("Error Getting GameSpy Data", "Could not assemble IP address from data");
     EXPECT_EQ(GameSpyFetch(run), "");
+    EXPECT_EQ(user.Asked.size(), 1u);
 }
 
 TEST_F(GameSpyFetchTest, AnEmptyClipboardIsNoDataInRawMode) {
     ShowGameSpy(" \r\n");
     ExpectTold("Error Getting GameSpy Data", "No data was retrieved from GameSpy");
     EXPECT_EQ(GameSpyFetch(run, true), "");
+    EXPECT_EQ(user.Asked.size(), 1u);
 }
 
 TEST_F(GameSpyFetchTest, ATextWithoutAnAddressIsRefused) {
