@@ -25,6 +25,9 @@ constexpr Catalog kServers = {"NetServers", "defaultServers", 5};
 constexpr Catalog kDemos = {"Demos", "defaultDemos", 2};
 constexpr Catalog kMemory = {"Memory", "defaultMem", 2};
 
+/// What a row of kMemory holds before its megabytes: "-winmem 16".
+constexpr TextView kMemoryOption = "-winmem";
+
 /// A value shorter than this holds no record.
 constexpr std::size_t kShortestCatalog = 11;
 

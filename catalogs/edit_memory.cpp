@@ -1,5 +1,6 @@
 #include "catalogs/edit_memory.h"
 
+#include "catalogs/catalog_store.h"
 #include "foundation/numbers.h"
 
 namespace lv {
@@ -50,7 +51,7 @@ void EditMem_OK_Cmd_Click(EditMem_Frm& form) {
     list.Clear();
     for (int size = Picked(form, 0); step > 0 && size <= Picked(form, 2); size += step) {
         const Text megabytes = std::to_string(size);
-        list.Items.push_back(MakeItem(Join(megabytes, " Megabytes"), Join("-winmem ", megabytes)));
+        list.Items.push_back(MakeItem(Join(megabytes, " Megabytes"), Join(kMemoryOption, Blank, megabytes)));
     }
     if (!list.Items.empty()) {
         list.ListIndex = 0;

@@ -42,7 +42,7 @@ bool NoteGame(SpyLaunch& launch, std::size_t slot, SpyGame& game) {
     Run& run = launch.launcher.run;
     const Text path = ItemValue(launch.Form.ExeSpy_Cbo[slot].Selected());
     if (path.empty()) {
-        AskUser(run, SpySlots()[slot].EmptyPathTitle, "Executable defined as an empty string.");
+        AskUser(run, SpySlots()[slot].EmptyPathTitle, kEmptyExecutable);
     } else if (!run.System.Disk.FileExists(path)) {
         AskUser(run, "",
                 MissingExecutableText(path, Join("4) Windows incorrectly reported the file as missing.", NewLine,

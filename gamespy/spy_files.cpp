@@ -1,12 +1,11 @@
 #include "gamespy/spy_files.h"
 
+#include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
 
 namespace lv {
 
 namespace {
-
-constexpr TextView kMemoryOption = "-winmem";
 
 enum class RegistryData { WorkingDirectory, Batch };
 

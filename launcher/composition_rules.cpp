@@ -1,5 +1,6 @@
 #include "launcher/composition_rules.h"
 
+#include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
 
@@ -101,7 +102,7 @@ LaunchStop MemoryRule(const Composition& c) {
         c.Texts.GameCommand += Join(payload, Blank);
         return {};
     }
-    const std::int64_t megabytes = ToLong(DropLeft(Join(payload, Blank), TextView("-winmem").size()));
+    const std::int64_t megabytes = ToLong(DropLeft(Join(payload, Blank), kMemoryOption.size()));
     c.Texts.GameCommand += Join("-heapsize ", std::to_string(megabytes * 1024), Blank);
     return {};
 }

@@ -69,7 +69,7 @@ bool ExecutableIsThere(Click& click) {
     }
     const Text& path = click.Selection.ExecutablePath;
     if (path.empty()) {
-        AskUser(run, "Error in executable path", "Executable defined as an empty string.");
+        AskUser(run, "Error in executable path", kEmptyExecutable);
         return false;
     }
     if (click.Selection.LaunchQspy_Chk || run.System.Disk.FileExists(path)) {
