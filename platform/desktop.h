@@ -21,6 +21,10 @@ using WindowHandle = std::uint64_t;
 /// The buffer that EnumWindows reads titles and classes into, its closing NUL included: what is longer is cut.
 constexpr std::size_t kWindowTextBuffer = 255;
 
+inline std::string CutToBuffer(std::string_view text) {
+    return std::string(text.substr(0, kWindowTextBuffer - 1));
+}
+
 /// A top window, texts in code page 1252.
 struct TopWindow {
     WindowHandle Handle = 0;
@@ -53,9 +57,8 @@ class Desktop {
     /// Minimises the window; it stays open, whatever the name says.
     virtual void CloseWindow(WindowHandle window) = 0;
 
-    /// Presses the keys one after the other, and returns when they were taken. The notation: a letter or digit is its
-    /// own key, "%" holds Alt for the key behind it: "%s", "c". Error 5 for anything else, 70 if the system lets
-    /// nobody press keys.
+    /// Presses the keys one after the other, and returns when they were taken. `keys` as KeyStrokesOf reads them: "%s",
+    /// "c". Error 5 for anything else, 70 if the system lets nobody press keys.
     virtual Error SendKeys(std::string_view keys) = 0;
 };
 

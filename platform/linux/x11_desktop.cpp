@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/code_page.h"
+#include "platform/key_strokes.h"
 #include "platform/linux/x11_display.h"
 
 namespace lv {
@@ -18,9 +19,13 @@ constexpr auto kPatience = 1500ms;  // with a window manager that does not do wh
 constexpr auto kLook = 10ms;
 constexpr auto kKeyTaken = 150ms;  // until a program has seen a key; nothing tells
 
-constexpr std::uint32_t kIconicState = 3;     // of WM_STATE
-constexpr std::uint32_t kFromUser = 2;        // the window manager need not guard the user's own window
-constexpr std::uint32_t kAltSymbol = 0xFFE9;  // the left one
+constexpr std::uint32_t kIconicState = 3;  // of WM_STATE
+constexpr std::uint32_t kFromUser = 2;     // the window manager need not guard the user's own window
+
+// The left ones.
+constexpr std::uint32_t kShiftSymbol = 0xFFE1;
+constexpr std::uint32_t kControlSymbol = 0xFFE3;
+constexpr std::uint32_t kAltSymbol = 0xFFE9;
 
 xcb_window_t WindowOf(WindowHandle window) {
     return static_cast<xcb_window_t>(window);
@@ -34,10 +39,6 @@ std::string TitleOf(X11Display& display, xcb_window_t window) {
     return title.empty() ? display.BytesOfType(window, "WM_NAME", "STRING") : FromUtf8Lossy(title);
 }
 
-std::string CutToBuffer(const std::string& text) {
-    return text.substr(0, kWindowTextBuffer - 1);
-}
-
 /// WM_CLASS: the instance's name and the class, each ended by a NUL.
 TopWindow WithClass(TopWindow window, const std::string& names) {
     const std::size_t end = std::min(names.find('\0'), names.size());
@@ -48,19 +49,33 @@ TopWindow WithClass(TopWindow window, const std::string& names) {
     return window;
 }
 
-bool IsPlainKey(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+/// The keys of a stroke in the order in which they go down; 0 for one that the keyboard does not have.
+std::vector<xcb_keycode_t> KeysOf(X11Display& display, const KeyStroke& stroke) {
+    std::vector<xcb_keycode_t> keys;
+    if (stroke.Alt) {
+        keys.push_back(display.KeyOf(kAltSymbol));
+    }
+    if (stroke.Control) {
+        keys.push_back(display.KeyOf(kControlSymbol));
+    }
+    if (stroke.Shift) {
+        keys.push_back(display.KeyOf(kShiftSymbol));
+    }
+    keys.push_back(display.KeyOf(static_cast<unsigned char>(stroke.Key)));
+    return keys;
 }
 
-bool IsNotation(std::string_view keys) {
-    bool held = false;
-    for (const char c : keys) {
-        if (c == '%' ? held : !IsPlainKey(c)) {
-            return false;
-        }
-        held = c == '%';
+Error Press(X11Display& display, const KeyStroke& stroke) {
+    const std::vector<xcb_keycode_t> keys = KeysOf(display, stroke);
+    if (std::ranges::find(keys, 0) != keys.end()) {
+        return MakeError(error::kInvalidCall);
     }
-    return !held;
+    for (const xcb_keycode_t key : keys) {
+        display.PressKey(key);
+    }
+    std::for_each(keys.rbegin(), keys.rend(), [&](xcb_keycode_t key) { display.ReleaseKey(key); });
+    std::this_thread::sleep_for(kKeyTaken);
+    return {};
 }
 
 }  // namespace
@@ -141,41 +156,21 @@ void X11Desktop::CloseWindow(WindowHandle window) {
     }
 }
 
-Error X11Desktop::PressKeys(X11Display& display, std::string_view keys) {
-    const xcb_keycode_t alt = display.KeyOf(kAltSymbol);
-    bool held = false;
-    for (const char c : LowerCase(keys)) {
-        if (c == '%') {
-            held = true;
-            continue;
-        }
-        const xcb_keycode_t key = display.KeyOf(static_cast<unsigned char>(c));
-        if (key == 0 || (held && alt == 0)) {
-            return MakeError(error::kInvalidCall);
-        }
-        if (held) {
-            display.PressKey(alt);
-        }
-        display.PressKey(key);
-        display.ReleaseKey(key);
-        if (held) {
-            display.ReleaseKey(alt);
-        }
-        held = false;
-        std::this_thread::sleep_for(kKeyTaken);
-    }
-    return {};
-}
-
 Error X11Desktop::SendKeys(std::string_view keys) {
     X11Display* const display = Connected();
-    if (!IsNotation(keys)) {
+    const auto strokes = KeyStrokesOf(keys);
+    if (!strokes) {
         return MakeError(error::kInvalidCall);
     }
     if (display == nullptr || !display->MayPressKeys()) {
         return MakeError(error::kPermissionDenied);
     }
-    return PressKeys(*display, keys);
+    for (const KeyStroke& stroke : *strokes) {
+        if (Error failed = Press(*display, stroke)) {
+            return failed;
+        }
+    }
+    return {};
 }
 
 }  // namespace lv

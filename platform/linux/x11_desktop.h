@@ -33,7 +33,6 @@ class X11Desktop : public Desktop {
   private:
     X11Display* Connected();
     bool WaitUntil(const std::function<bool()>& holds);
-    Error PressKeys(X11Display& display, std::string_view keys);
 
     std::string name_;
     std::unique_ptr<X11Display> display_;

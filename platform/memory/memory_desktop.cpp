@@ -1,14 +1,7 @@
+#include "platform/key_strokes.h"
 #include "platform/memory/memory_platform.h"
 
 namespace lv {
-
-namespace {
-
-std::string CutToBuffer(const std::string& text) {
-    return text.substr(0, kWindowTextBuffer - 1);
-}
-
-}  // namespace
 
 std::vector<TopWindow> MemoryDesktop::EnumWindows() {
     std::vector<TopWindow> found;
@@ -48,6 +41,9 @@ void MemoryDesktop::CloseWindow(WindowHandle window) {
 }
 
 Error MemoryDesktop::SendKeys(std::string_view keys) {
+    if (!KeyStrokesOf(keys)) {
+        return MakeError(error::kInvalidCall);
+    }
     if (RefuseKeys) {
         return RefuseKeys;
     }

@@ -1,9 +1,11 @@
 #include "platform/windows/windows_desktop.h"
 
+#include <algorithm>
 #include <array>
-#include <optional>
+#include <vector>
 
 #include "platform/code_page.h"
+#include "platform/key_strokes.h"
 #include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 
@@ -33,45 +35,45 @@ BOOL CALLBACK KeepWindow(HWND window, LPARAM list) {
     return TRUE;
 }
 
-bool IsPlainKey(char c) {
-    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+INPUT Move(WORD key, bool down) {
+    INPUT move{};
+    move.type = INPUT_KEYBOARD;
+    move.ki.wVk = key;
+    move.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    move.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+    return move;
 }
 
-INPUT Stroke(WORD key, bool down) {
-    INPUT stroke{};
-    stroke.type = INPUT_KEYBOARD;
-    stroke.ki.wVk = key;
-    stroke.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    stroke.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
-    return stroke;
-}
-
-// All strokes of the notation; nothing if it holds anything else.
-std::optional<std::vector<INPUT>> StrokesOf(std::string_view keys) {
-    std::vector<INPUT> strokes;
-    for (std::size_t at = 0; at < keys.size(); ++at) {
-        const bool alt = keys[at] == '%';
-        at += alt ? 1 : 0;
-        if (at == keys.size() || !IsPlainKey(keys[at])) {
-            return std::nullopt;
-        }
-        const auto key = static_cast<WORD>(UpperCase(keys[at]));
-        if (alt) {
-            strokes.push_back(Stroke(VK_MENU, true));
-        }
-        strokes.push_back(Stroke(key, true));
-        strokes.push_back(Stroke(key, false));
-        if (alt) {
-            strokes.push_back(Stroke(VK_MENU, false));
-        }
+// The keys of a stroke in the order in which they go down.
+std::vector<WORD> KeysOf(const KeyStroke& stroke) {
+    std::vector<WORD> keys;
+    if (stroke.Alt) {
+        keys.push_back(VK_MENU);
     }
-    return strokes;
+    if (stroke.Control) {
+        keys.push_back(VK_CONTROL);
+    }
+    if (stroke.Shift) {
+        keys.push_back(VK_SHIFT);
+    }
+    keys.push_back(static_cast<WORD>(UpperCase(stroke.Key)));
+    return keys;
+}
+
+std::vector<INPUT> InputsOf(const std::vector<KeyStroke>& strokes) {
+    std::vector<INPUT> inputs;
+    for (const KeyStroke& stroke : strokes) {
+        const std::vector<WORD> keys = KeysOf(stroke);
+        std::for_each(keys.begin(), keys.end(), [&](WORD key) { inputs.push_back(Move(key, true)); });
+        std::for_each(keys.rbegin(), keys.rend(), [&](WORD key) { inputs.push_back(Move(key, false)); });
+    }
+    return inputs;
 }
 
 // An answer to a message comes before the keys behind it are looked at: when there was one answer more than there are
 // keys, all were taken.
-void WaitUntilTaken(std::size_t strokes) {
-    for (std::size_t answer = 0; answer <= strokes; ++answer) {
+void WaitUntilTaken(std::size_t keys) {
+    for (std::size_t answer = 0; answer <= keys; ++answer) {
         DWORD_PTR ignored = 0;
         if (SendMessageTimeoutW(GetForegroundWindow(), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, kLongestTakeMs, &ignored) ==
             0) {
@@ -113,18 +115,19 @@ void WindowsDesktop::CloseWindow(WindowHandle window) {
 }
 
 Error WindowsDesktop::SendKeys(std::string_view keys) {
-    auto strokes = StrokesOf(keys);
+    const auto strokes = KeyStrokesOf(keys);
     if (!strokes) {
         return MakeError(error::kInvalidCall);
     }
     if (strokes->empty()) {
         return {};
     }
-    const auto count = static_cast<UINT>(strokes->size());
-    if (SendInput(count, strokes->data(), sizeof(INPUT)) != count) {
+    std::vector<INPUT> inputs = InputsOf(*strokes);
+    const auto count = static_cast<UINT>(inputs.size());
+    if (SendInput(count, inputs.data(), sizeof(INPUT)) != count) {
         return MakeError(error::kPermissionDenied);
     }
-    WaitUntilTaken(strokes->size());
+    WaitUntilTaken(inputs.size());
     return {};
 }
 

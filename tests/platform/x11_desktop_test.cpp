@@ -42,13 +42,14 @@ class Client {
         xcb_flush(connection_);
     }
 
-    /// The keys that went down since the last call: "54" for a key by its code, with "alt+" before it.
+    /// The keys that went down since the last call: "54" for a key by its code, with "alt+", "ctrl+" or "shift+" before
+    /// it.
     std::vector<std::string> Keys() {
         std::vector<std::string> keys;
         while (xcb_generic_event_t* event = xcb_poll_for_event(connection_)) {
             if ((event->response_type & 0x7F) == XCB_KEY_PRESS) {
                 const auto* key = reinterpret_cast<const xcb_key_press_event_t*>(event);
-                keys.push_back(((key->state & XCB_MOD_MASK_1) != 0 ? "alt+" : "") + std::to_string(key->detail));
+                keys.push_back(HeldFor(*key) + std::to_string(key->detail));
             }
             std::free(event);
         }
@@ -58,6 +59,11 @@ class Client {
     xcb_window_t Window = 0;
 
   private:
+    static std::string HeldFor(const xcb_key_press_event_t& key) {
+        return std::string((key.state & XCB_MOD_MASK_1) != 0 ? "alt+" : "") +
+               ((key.state & XCB_MOD_MASK_CONTROL) != 0 ? "ctrl+" : "") +
+               ((key.state & XCB_MOD_MASK_SHIFT) != 0 ? "shift+" : "");
+    }
     xcb_atom_t Atom(const char* name) {
         xcb_intern_atom_reply_t* reply = xcb_intern_atom_reply(
             connection_, xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(std::strlen(name)), name), nullptr);
@@ -168,8 +174,15 @@ TEST_P(X11DesktopTest, HoldsAltForTheKeyBehindAPercentSign) {
     EXPECT_EQ(client.Keys(), (std::vector<std::string>{"64", "alt+39", "64", "alt+26", "54"}));
 }
 
+TEST_P(X11DesktopTest, HoldsControlAndShift) {
+    Client client("client");
+    WaitForWindow(client);
+    ASSERT_TRUE(desktop.SetForegroundWindow(client.Window));
+    ASSERT_FALSE(desktop.SendKeys("^c+sc"));
+    EXPECT_EQ(client.Keys(), (std::vector<std::string>{"37", "ctrl+54", "50", "shift+39", "54"}));
+}
+
 TEST_P(X11DesktopTest, RefusesAnotherNotation) {
-    EXPECT_EQ(desktop.SendKeys("+s").Number, error::kInvalidCall);
     EXPECT_EQ(desktop.SendKeys("%").Number, error::kInvalidCall);
     EXPECT_EQ(desktop.SendKeys("%%s").Number, error::kInvalidCall);
     EXPECT_EQ(desktop.SendKeys("{F2}").Number, error::kInvalidCall);
