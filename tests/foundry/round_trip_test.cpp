@@ -224,10 +224,12 @@ TEST(RoundTrip, APlayerWithoutANameIsCalledPlayer) {
 }
 
 TEST(RoundTrip, AHandThatWasNotChosenStaysSo) {
-    for (const ScriptDialect& dialect : {kQuake2Dialect, kSinDialect}) {
+    for (const ScriptDialect& dialect : {kQuake2Dialect, kSinDialect, kHeretic2Dialect}) {
         const Text written = Written(ReadScript(dialect, "name a"));
         EXPECT_EQ(CountLines(written, "hand \"-1\""), 1);
-        EXPECT_EQ(Written(ReadScript(dialect, written)), written) << dialect.GameKind;
+        const ScriptDocument read = ReadScript(dialect, written);
+        EXPECT_EQ(read.Handed_Cbo.Items.size(), 3U) << dialect.GameKind;
+        EXPECT_EQ(Written(read), written) << dialect.GameKind;
     }
 }
 
