@@ -2,6 +2,7 @@
 
 #include "foundry/bind_line.h"
 #include "tests/foundry/script_fixture.h"
+#include "tests/foundry/watching_view.h"
 #include "tests/support/launcher_fixture.h"
 
 namespace lv {
@@ -40,7 +41,7 @@ class SaveScriptTest : public LauncherTest {
         document.Dialect = dialect;
     }
 
-    bool Save(const SaveManner& manner = {}) { return SaveScript(run, launcher.Lists, document, manner); }
+    bool Save(const SaveManner& manner = {}) { return SaveScript(run, launcher.Lists, document, view, manner); }
 
     void ExpectSuccess() {
         user.Expect({"Setup Foundry", "The script was saved successfully!", 0, false, true, "&OK"});
@@ -56,6 +57,7 @@ class SaveScriptTest : public LauncherTest {
     }
 
     ScriptDocument document = EmptyDocument(kQuakeDialect);
+    WatchingView view;
 };
 
 TEST_F(SaveScriptTest, ReplacesTheFileAndTellsOfIt) {
@@ -100,7 +102,6 @@ TEST_F(SaveScriptTest, FreesAKeyThatWasBoundToTheEmptyCommand) {
 }
 
 TEST_F(SaveScriptTest, AKeyThatIsFreedSoLeavesItsRowToo) {
-    ScriptView view;
     document = MakeScriptDocument(kQuakeDialect);
     document.CurrentScriptPath = kPath;
     BindLine(document, view, "x", "");
@@ -109,6 +110,24 @@ TEST_F(SaveScriptTest, AKeyThatIsFreedSoLeavesItsRowToo) {
     EXPECT_EQ(document.KeyBinding[24], "");
     EXPECT_EQ(document.Setting_Lbl[501].Caption, "");
     EXPECT_TRUE(document.ScriptClean);
+}
+
+TEST_F(SaveScriptTest, ShowsThatAKeyFreedByTheSaveIsFree) {
+    document = MakeScriptDocument(kQuakeDialect);
+    document.CurrentScriptPath = kPath;
+    BindLine(document, view, "home", "");
+    BindLine(document, view, "w", "+forward");
+    const Color moving = view.KeyColor(23);
+    EXPECT_NE(view.KeyColor(67), kWhite);
+    EXPECT_NE(view.KeyColor(84), kWhite);
+    view.ClearedTips.clear();
+    view.ChangedSlots.clear();
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    EXPECT_EQ(view.KeyColor(67), kWhite);
+    EXPECT_EQ(view.KeyColor(84), kWhite);  // the keypad's Home is the same key in Quake
+    EXPECT_EQ(view.KeyColor(23), moving);
+    EXPECT_EQ(view.ClearedTips, std::vector<KeyIndex>{67});
+    EXPECT_EQ(view.ChangedSlots, std::vector<SlotNumber>{501});
 }
 
 TEST_F(SaveScriptTest, AfterAFailureTheOldFileAndTheDocumentAreAsTheyWere) {
