@@ -71,7 +71,7 @@ Text Told(const ScriptDocument& d) {
     for (std::size_t key = 0; key < d.KeyBinding.size(); ++key) {
         told += d.KeyBinding[key].empty() ? Text() : Join("key ", std::to_string(key), " ", d.KeyBinding[key], "\n");
     }
-    for (std::size_t i = 0; i < d.AliasTable.size(); ++i) {
+    for (std::size_t i = 0; i < d.AliasTable.AliasCount(); ++i) {
         const Alias& alias = d.AliasTable[i];
         told += Join("alias ", alias.Name, " ", alias.Body, "\n");
     }
