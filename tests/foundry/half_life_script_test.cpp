@@ -143,12 +143,24 @@ windowed_mouse 123
                                          kEnd)));
 }
 
+TEST(HalfLifeScript, SpellsPlateColorWithAnUnderscore) {
+    HalfLifePlayer player;
+    SetCvar(player, "plate color", "30");
+    SetCvar(player, "suit color", "6");
+    const Text script = Written(player);
+    EXPECT_EQ(CountLines(script, "plate_color 30"), 1);
+    EXPECT_EQ(CountLines(script, "suit_color 6"), 1);
+    EXPECT_FALSE(Holds(script, "plate color"));
+    EXPECT_FALSE(Holds(script, "suit color"));
+}
+
 TEST(HalfLifeScript, LooksAtFourRunsOfKeyCodes) {
     for (int code = 0; code < 256; ++code) {
         HalfLifePlayer player;
         player.Keys[static_cast<std::size_t>(code)] = "x";
         // A line feed names no key: it would end the line in the middle of the name.
-        const bool converted = (code <= 32 && code != 10) || (code >= 42 && code <= 152) || (code >= 200 && code <= 240) || code == 255;
+        const bool converted =
+            (code <= 32 && code != 10) || (code >= 42 && code <= 152) || (code >= 200 && code <= 240) || code == 255;
         EXPECT_EQ(Holds(Written(player), "\"x\"\r\n"), converted) << code;
     }
 }

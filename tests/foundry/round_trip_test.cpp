@@ -169,8 +169,26 @@ TEST(RoundTrip, WritesACommandInItsGamesOwnWords) {
     EXPECT_EQ(CountLines(Written(ReadScript(kQuake2Dialect, "bind NumPad7 +attack\n")),
                          "bind \"kp_home\"       \"+attack\"  //* key pad 7"),
               1);
-    EXPECT_EQ(CountLines(Written(ReadScript(kQuake2Dialect, "joystick 1\n")), "set joystick 1"), 1);
-    EXPECT_EQ(CountLines(Written(ReadScript(kQuakeDialect, "set joystick 1\n")), "joystick 1"), 1);
+}
+
+TEST(RoundTrip, SetJoystickKeepsItsSetInQuake2AndSin) {
+    for (const ScriptDialect& dialect : {kQuake2Dialect, kSinDialect}) {
+        for (const TextView line : {"set joystick 1\n", "joystick 1\n"}) {
+            const Text written = Written(ReadScript(dialect, line));
+            EXPECT_EQ(CountLines(written, "set joystick 1"), 1) << dialect.GameKind;
+            EXPECT_EQ(CountLines(written, "joystick 1"), 0) << dialect.GameKind;
+            EXPECT_EQ(ReadScript(dialect, written).JoyStick_Chk.Value, 1) << dialect.GameKind;
+        }
+    }
+}
+
+TEST(RoundTrip, SetJoystickLosesItsSetInHeretic2AndTheOthers) {
+    for (const ScriptDialect& dialect : {kHeretic2Dialect, kHalfLifeDialect, kQuakeDialect, kHexen2Dialect}) {
+        const Text written = Written(ReadScript(dialect, "set joystick 1\n"));
+        EXPECT_EQ(CountLines(written, "joystick 1"), 1) << dialect.GameKind;
+        EXPECT_EQ(CountLines(written, "set joystick 1"), 0) << dialect.GameKind;
+        EXPECT_EQ(ReadScript(dialect, written).JoyStick_Chk.Value, 1) << dialect.GameKind;
+    }
 }
 
 TEST(RoundTrip, WritesACommandInCapitalsInItsOwnCase) {
@@ -180,8 +198,15 @@ TEST(RoundTrip, WritesACommandInCapitalsInItsOwnCase) {
 }
 
 TEST(RoundTrip, KeepsAVideoModeBeyondTheList) {
-    const ScriptDocument d = ReadScript(kQuakeDialect, "vid_mode 15\n");
+    const ScriptDocument d = ReadScript(kQuakeDialect, "name a\nvid_mode 15\n");
     EXPECT_EQ(d.vidmode_Cbo.Selected(), "15) Custom VESA Mode");
+    const Text written = Written(d);
+    EXPECT_EQ(CountLines(written, "vid_mode 15"), 1);
+    EXPECT_EQ(written.find("vid_mode"), written.rfind("vid_mode"));
+    const ScriptDocument read = ReadScript(kQuakeDialect, written);
+    EXPECT_EQ(read.vidmode_Cbo.Selected(), "15) Custom VESA Mode");
+    EXPECT_EQ(read.vidmode_Cbo.Items.size(), d.vidmode_Cbo.Items.size());
+    EXPECT_EQ(Written(read), written);
 }
 
 TEST(RoundTrip, TakesAnInisGammaFromAnySectionButTheInputsAndWritesItNowhere) {
