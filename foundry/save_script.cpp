@@ -15,7 +15,7 @@ namespace lv {
 namespace {
 
 constexpr const char* kTitle = "Setup Foundry";
-constexpr int kMaxFileSize = 32000;
+constexpr std::size_t kMaxFileSize = 32000;
 
 bool SayNotSaved(Run& run) {
     AskUser(run, kTitle, "Script NOT saved.");
@@ -36,11 +36,8 @@ Text ChoosePath(Run& run, const ScriptDocument& document, bool diagnostics) {
     request.InitialDirectory = kind == game_kind::kUnreal ? DirectoryOf(path) : ScriptDirectory(run);
     request.FileName = LastPathPart(path);
     request.ForSaving = true;
-    Result<std::optional<Text>> chosen;
-    {
-        const TopmostSuspension dialog(run);
-        chosen = run.User.ChooseFile(request);
-    }
+    request.MaxFileSize = kMaxFileSize;
+    const Result<std::optional<Text>> chosen = AskForFile(run, request);
     if (chosen.Ok()) {
         return chosen.Value.value_or("");
     }

@@ -177,6 +177,7 @@ TEST_F(SaveScriptTest, UnderANewNameAsksInTheGamesDirectory) {
     EXPECT_EQ(user.FileRequests[0].InitialDirectory, "c:\\quake\\ID1");
     EXPECT_EQ(user.FileRequests[0].FileName, "MY.CFG");
     EXPECT_TRUE(user.FileRequests[0].ForSaving);
+    EXPECT_EQ(user.FileRequests[0].MaxFileSize, 32000U);
     EXPECT_EQ(system.Disk.Bytes(kPath), "the old script");
     EXPECT_EQ(CountLines(system.Disk.Bytes("C:\\QUAKE\\ID1\\New One.cfg"), "name \"Me\""), 1);
     EXPECT_EQ(document.CurrentScriptPath, "C:\\QUAKE\\ID1\\New One.cfg");
@@ -229,6 +230,14 @@ TEST_F(SaveScriptTest, NamesTheLibraryOfADialogThatIsTooOld) {
                  "Lorvane 3D setting have not been altered.",
                  0, false, true, "&OK"});
     EXPECT_FALSE(Save({SaveName::AskForIt}));
+}
+
+TEST_F(SaveScriptTest, TakesNoPathBeyondTheDialogsLimit) {
+    user.FileAnswers = {std::optional<Text>("C:\\QUAKE\\ID1\\" + Text(32001 - 13, 'x'))};
+    user.Expect({"A Windows Related Error Occured", "Error Number = 20476"});
+    EXPECT_FALSE(Save({SaveName::AskForIt}));
+    EXPECT_EQ(document.CurrentScriptPath, kPath);
+    EXPECT_EQ(system.Disk.Bytes(kPath), "the old script");
 }
 
 TEST_F(SaveScriptTest, ShowsTheDialogsLimitForDiagnosis) {
