@@ -4,6 +4,7 @@
 
 #include "foundation/field_strings.h"
 #include "platform/memory/memory_platform.h"
+#include "tests/foundry/rounds.h"
 #include "tests/foundry/script_fixture.h"
 
 namespace lv {
@@ -298,7 +299,7 @@ TEST(ReadHalfLifeScript, SurvivesHostileScripts) {
         "bind ",  "name ",  "set ",           "\"",          " ",    "//",   "\r",      "\n",     "w",
         "+mlook", "gamma ", "plate_color ",   Text(1, '\0'), "\xA0", "\xFF", "mouse1 ", "alias ", "[",
         "\\",     "..\\",   "bind bind bind "};
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < Rounds(2000); ++round) {
         Text script;
         for (std::size_t left = random() % 200; left > 0; --left) {
             script += random() % 8 == 0 ? Text(1, static_cast<char>(random() % 256)) : pieces[random() % 21];
@@ -316,7 +317,7 @@ TEST(ReadHalfLifeScript, SurvivesHostileScripts) {
 
 TEST(ReadHalfLifeScript, HoldsOneOfManyBindingsOfAKey) {
     Text script;
-    for (int i = 0; i < 200000; ++i) {
+    for (int i = 0; i < Rounds(200000); ++i) {
         script += "bind w x\n";
     }
     EXPECT_EQ(Set(Read(script)), 1);

@@ -4,6 +4,7 @@
 #include "foundry/script_writer.h"
 #include "tests/foundry/made_up_scripts.h"
 #include "tests/foundry/reading.h"
+#include "tests/foundry/rounds.h"
 
 namespace lv {
 namespace {
@@ -97,7 +98,7 @@ void ExpectRest(const ScriptDialect& dialect, unsigned seed, int scripts) {
     }
 }
 
-constexpr int kScripts = 250;
+constexpr int kScripts = Rounds(250);
 
 TEST(RoundTrip, OfQuake) {
     ExpectRest(kQuakeDialect, 1, kScripts);
@@ -273,7 +274,7 @@ TEST(RoundTrip, SurvivesHostileScripts) {
         "Aliases[",   "MouseX=",       "+mlook",      "w ",   "vid_mode ", "99999999999", "skin ",
         "m_pitch --", "color -1 -1\n", Text(1, '\0'), "\xA0", "\xFF",      ";",           "exec ",
         "say "};
-    for (int round = 0; round < 150; ++round) {
+    for (int round = 0; round < Rounds(150); ++round) {
         Text script;
         for (std::size_t left = random() % 120; left > 0; --left) {
             script += random() % 8 == 0 ? Text(1, static_cast<char>(random() % 256)) : pieces[random() % 29];

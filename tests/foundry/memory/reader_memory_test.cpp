@@ -9,6 +9,7 @@
 #include <new>
 
 #include "tests/foundry/reading.h"
+#include "tests/foundry/rounds.h"
 
 namespace {
 
@@ -68,8 +69,8 @@ void ExpectModest(Index kind, const Text& script) {
     }
 }
 
-constexpr std::size_t kLong = 2 << 20;  // bytes
-constexpr std::size_t kMany = 1 << 19;
+constexpr std::size_t kLong = Rounds(2 << 20);  // bytes
+constexpr std::size_t kMany = Rounds(1 << 19);
 
 Text Repeated(TextView head, TextView line, std::size_t size) {
     Text script(head);
