@@ -52,7 +52,9 @@ class NarrowView : public ScriptView {
     int BoundLabelWidth(SlotNumber) override { return 30; }
 };
 
-constexpr std::size_t kTables = 1 << 20;  // bytes; what any script may cost besides
+/// Bytes that any script may cost besides. Of the shorter scripts that a sanitized build takes, full tables of
+/// aliases and sections are the greater part.
+constexpr std::size_t kTables = kShare == 1 ? 1 << 20 : 4 << 20;
 
 /// The most that reading a script takes, the file's own bytes not counted, in the file's size.
 void ExpectModest(Index kind, const Text& script) {
