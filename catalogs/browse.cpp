@@ -16,15 +16,20 @@ Text DialogFailureText(const Error& failed) {
     return text + "Lorvane 3D setting have not been altered.";
 }
 
+Result<std::optional<Text>> AskForFile(Run& run, const FileRequest& request) {
+    const TopmostSuspension dialog(run);
+    Result<std::optional<Text>> chosen = run.User.ChooseFile(request);
+    if (chosen.Ok() && chosen.Value && request.MaxFileSize > 0 && chosen.Value->size() > request.MaxFileSize) {
+        return Error{kDialogOutdated, "the path is too long"};
+    }
+    return chosen;
+}
+
 std::optional<Text> BrowseForFile(Run& run, TextView filter, TextView directory) {
     FileRequest request;
     request.Filter = filter;
     request.InitialDirectory = directory;
-    Result<std::optional<Text>> chosen;
-    {
-        const TopmostSuspension dialog(run);
-        chosen = run.User.ChooseFile(request);
-    }
+    const Result<std::optional<Text>> chosen = AskForFile(run, request);
     if (chosen.Ok()) {
         return chosen.Value && !chosen.Value->empty() ? chosen.Value : std::nullopt;
     }

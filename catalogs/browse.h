@@ -20,6 +20,10 @@ constexpr int kDialogOutdated = 20476;
 /// What is told of a failed dialog.
 Text DialogFailureText(const Error& failed);
 
+/// What the dialog gives, asked with no window of ours on top of it. A path longer than MaxFileSize is the error
+/// kDialogOutdated: room for it is what the newer dialog has.
+Result<std::optional<Text>> AskForFile(Run& run, const FileRequest& request);
+
 /// The chosen path; nothing if the user cancelled or the dialog failed, which the user was told then.
 std::optional<Text> BrowseForFile(Run& run, TextView filter, TextView directory);
 

@@ -24,6 +24,7 @@ struct FileRequest {
     Text InitialDirectory;  // a drive path
     Text FileName;
     bool ForSaving = false;
+    std::size_t MaxFileSize = 0;  // characters of the longest path that is taken; 0: any
 };
 
 struct ScreenSize {

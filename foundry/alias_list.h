@@ -26,7 +26,7 @@ struct AliasPlace {
 /// Adding one of ten thousand moves 4 bytes each of those behind it, not the records.
 class AliasList {
   public:
-    [[nodiscard]] std::size_t size() const { return order_.size(); }
+    [[nodiscard]] std::size_t AliasCount() const { return order_.size(); }
     [[nodiscard]] bool empty() const { return order_.empty(); }
 
     /// By place in the sorted order. Whoever changes the name through it must change its order too: use Replace.

@@ -134,8 +134,8 @@ KeyIndex KeyOf(TextView spelling) {
 }  // namespace
 
 AliasNames::AliasNames(const AliasList& aliases) {
-    places_.reserve(aliases.size());
-    for (std::size_t place = 0; place < aliases.size(); ++place) {
+    places_.reserve(aliases.AliasCount());
+    for (std::size_t place = 0; place < aliases.AliasCount(); ++place) {
         places_.try_emplace(LowerCase(TrimmedView(aliases[place].Name)), place);
     }
 }

@@ -120,7 +120,7 @@ void ClearSlotKeys(ScriptDocument& document, ScriptView& view, SlotNumber slot) 
         return;
     }
     ForEachKey(keyList,
-               [&](TextView caption) { UnbindKey(document, view, KeyFromCaption(document.KeyCaption, caption)); });
+               [&](TextView caption) { UnbindKey(document, view, KeyIndexOfCaption(document.KeyCaption, caption)); });
 }
 
 AliasPlace FindAlias(const ScriptDocument& document, TextView name) {

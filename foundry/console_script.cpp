@@ -285,7 +285,7 @@ void AddAliases(Writing& w) {
     AddLine(w.Script);
     AddBanner(w.Script, kAliasesLine);
     AddLine(w.Script);
-    for (std::size_t i = 0; i < aliases.size(); ++i) {
+    for (std::size_t i = 0; i < aliases.AliasCount(); ++i) {
         AddLine(w.Script, "alias \"", aliases[i].Name, "\" \"", aliases[i].Body, DoubleQuote);
     }
 }

@@ -139,7 +139,7 @@ KeyTexts KeyCaptions(Index gameKind) {
     return captions;
 }
 
-KeyIndex KeyFromCaption(const KeyTexts& captions, TextView caption) {
+KeyIndex KeyIndexOfCaption(const KeyTexts& captions, TextView caption) {
     const auto found = std::ranges::find(captions, caption);
     return found == captions.end() ? kNoKey : static_cast<KeyIndex>(found - captions.begin());
 }

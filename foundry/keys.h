@@ -43,7 +43,7 @@ KeyIndex KeyFromName(TextView spelling);
 KeyTexts KeyCaptions(Index gameKind);
 
 /// The first key with exactly this caption; kNoKey if there is none.
-KeyIndex KeyFromCaption(const KeyTexts& captions, TextView caption);
+KeyIndex KeyIndexOfCaption(const KeyTexts& captions, TextView caption);
 
 /// The second label of the keyboard's picture that shows the key's colour, or kNoKey. The older engines don't tell
 /// the keypad from the main keys, nor a right Shift, Ctrl or Alt (labels 149 to 151) from a left one.

@@ -1,11 +1,11 @@
 #include "foundry/save_script.h"
-#include "foundry/bindings.h"
 
 #include "catalogs/browse.h"
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
 #include "foundation/question_box.h"
+#include "foundry/bindings.h"
 #include "foundry/save_filters.h"
 #include "foundry/script_messages.h"
 #include "foundry/script_writer.h"
@@ -15,7 +15,7 @@ namespace lv {
 namespace {
 
 constexpr const char* kTitle = "Setup Foundry";
-constexpr int kMaxFileSize = 32000;
+constexpr std::size_t kMaxFileSize = 32000;
 
 bool SayNotSaved(Run& run) {
     AskUser(run, kTitle, "Script NOT saved.");
@@ -36,11 +36,8 @@ Text ChoosePath(Run& run, const ScriptDocument& document, bool diagnostics) {
     request.InitialDirectory = kind == game_kind::kUnreal ? DirectoryOf(path) : ScriptDirectory(run);
     request.FileName = LastPathPart(path);
     request.ForSaving = true;
-    Result<std::optional<Text>> chosen;
-    {
-        const TopmostSuspension dialog(run);
-        chosen = run.User.ChooseFile(request);
-    }
+    request.MaxFileSize = kMaxFileSize;
+    const Result<std::optional<Text>> chosen = AskForFile(run, request);
     if (chosen.Ok()) {
         return chosen.Value.value_or("");
     }
@@ -86,21 +83,20 @@ bool Write(Run& run, const ScriptDocument& document, const Text& path) {
 }
 
 /// An ini has no form for the empty command, so only a console script frees the key.
-void FreeEmptyBindings(ScriptDocument& document) {
+void FreeEmptyBindings(ScriptDocument& document, ScriptView& view) {
     if (document.Dialect.GameKind == game_kind::kUnreal) {
         return;
     }
-    ScriptView unseen;
     for (KeyIndex key = 0; key < kKeyCount; ++key) {
         if (document.KeyBinding[static_cast<std::size_t>(key)] == kEmptyCommand) {
-            UnbindKey(document, unseen, key);
+            UnbindKey(document, view, key);
         }
     }
 }
 
 }  // namespace
 
-bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, const SaveManner& manner) {
+bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, ScriptView& view, const SaveManner& manner) {
     Text path = document.CurrentScriptPath;
     if (manner.Name == SaveName::AskForIt) {
         path = ChoosePath(run, document, manner.Diagnostics);
@@ -111,7 +107,7 @@ bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, const S
     if (!Write(run, document, path)) {
         return false;
     }
-    FreeEmptyBindings(document);
+    FreeEmptyBindings(document, view);
     document.ScriptClean = true;
     document.CurrentScriptPath = path;
     document.Caption = EditorCaption(path);

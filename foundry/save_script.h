@@ -6,6 +6,7 @@
 
 #include "catalogs/catalog_lists.h"
 #include "foundry/script_document.h"
+#include "foundry/script_view.h"
 
 namespace lv {
 
@@ -22,7 +23,8 @@ struct SaveManner {
 
 /// Writes the script, in one step: after a failure the old file is there whole and the document is as it was. After
 /// success the document is clean, has the file's path, and the file stands in the catalog of scripts; a key bound to
-/// the empty command was written so and is free now. True if the file was written.
-bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, const SaveManner& manner = {});
+/// the empty command was written so and is free now, which the view is told. True if the file was written.
+bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, ScriptView& view,
+                const SaveManner& manner = {});
 
 }  // namespace lv

@@ -100,6 +100,14 @@ LineUse SelectRowInNewGames(KeywordContext& context, const ScriptLine& line, con
     return byRow ? SelectRow(context, line, row) : Select(context, line, row);
 }
 
+/// Heretic II's values are found in the list, but a hand that was not chosen is written as the row -1.
+LineUse SelectHand(KeywordContext& context, const ScriptLine& line, const KeywordRow& row) {
+    if (IsKind(context, {game_kind::kHeretic2}) && line.Value == "-1") {
+        return SelectRow(context, line, row);
+    }
+    return SelectRowInNewGames(context, line, row);
+}
+
 LineUse SelectClass(KeywordContext& context, const ScriptLine& line, const KeywordRow&) {
     if (!IsKind(context, {game_kind::kHexen2})) {
         return kFreeForm;
@@ -322,7 +330,7 @@ constexpr KeywordRow kKeywords[] = {
     {"showram",            ZeroOrOne, &Settings::ShowRAM_Chk},
     {"showturtle",         ZeroOrOne, &Settings::ShowTurtle_Chk},
     {"gamma",              Select, &Settings::gamma_Cbo},
-    {"hand",               SelectRowInNewGames, &Settings::Handed_Cbo},
+    {"hand",               SelectHand, &Settings::Handed_Cbo},
     {"m_forward",          Select, &Settings::m_forward_Cbo},
     {"m_side",             Select, &Settings::m_side_Cbo},
     {"m_yaw",              Select, &Settings::m_yaw_Cbo},

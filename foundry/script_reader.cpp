@@ -252,7 +252,7 @@ std::uint64_t ReadAliases(RandomAccessFile& file, ScriptDocument& document) {
         if (alias.Name.empty() || alias.Body.empty()) {
             continue;
         }
-        if (document.AliasTable.size() >= kMostAliases) {
+        if (document.AliasTable.AliasCount() >= kMostAliases) {
             return lines.Number();
         }
         lines.Release();

@@ -38,7 +38,7 @@ void AddLists(Text& ini, const TextView (&keys)[Count], const std::array<ListBox
 
 void AddAliases(Text& ini, const AliasList& aliases) {
     std::size_t place = 0;
-    for (; place < aliases.size(); ++place) {
+    for (; place < aliases.AliasCount(); ++place) {
         AddLine(ini, "Aliases[", std::to_string(place), "]=(Command=\"", aliases[place].Body,
                 "\",Alias=", aliases[place].Name, ")");
     }

@@ -28,6 +28,18 @@ TEST_F(Browsing, AFailedDialogIsTold) {
     EXPECT_EQ(BrowseForFile(run, "x", ""), std::nullopt);
 }
 
+TEST_F(Browsing, TakesAPathOfAllLengthsUpToTheLimit) {
+    FileRequest request;
+    const auto answer = [&](TextView path) {
+        user.FileAnswers.push_back(std::optional<Text>(path));
+        return AskForFile(run, request);
+    };
+    EXPECT_EQ(answer(Text(40000, 'x')).Value, Text(40000, 'x'));
+    request.MaxFileSize = 8;
+    EXPECT_EQ(answer("C:\\A.CFG").Value, "C:\\A.CFG");
+    EXPECT_EQ(answer("C:\\AB.CFG").Fault.Number, 20476);
+}
+
 TEST_F(Browsing, AnOutdatedDialogTellsWhatToUpdate) {
     EXPECT_EQ(DialogFailureText({20476, "Buffer too small"}),
               "Error Number = 20476\r\nError String = Buffer too small\r\n\r\n"

@@ -19,7 +19,7 @@ AliasList ListOf(std::initializer_list<TextView> names) {
 
 Text NamesOf(const AliasList& list) {
     Text names;
-    for (std::size_t i = 0; i < list.size(); ++i) {
+    for (std::size_t i = 0; i < list.AliasCount(); ++i) {
         names += list[i].Name + " ";
     }
     return names;
@@ -91,7 +91,7 @@ TEST(AliasList, HoldsWhatASortedMapHoldsAfterThousandsOfOperations) {
             EXPECT_EQ(list.Insert({.Bound = false, .Name = name, .Body = body}), expected.emplace(name, body).second);
         }
     }
-    ASSERT_EQ(list.size(), expected.size());
+    ASSERT_EQ(list.AliasCount(), expected.size());
     std::size_t place = 0;
     for (const auto& [name, body] : expected) {
         EXPECT_EQ(list[place].Name, name);

@@ -248,7 +248,7 @@ TEST_F(AliasTables, AnAliasDefinedTwiceKeepsItsFirstBody) {
     EXPECT_TRUE(AddAlias(document, "zoom", "fov 20"));
     EXPECT_FALSE(AddAlias(document, "zoom", "fov 40"));
     EXPECT_FALSE(AddAlias(document, "ZOOM", "fov 60"));
-    ASSERT_EQ(document.AliasTable.size(), 1U);
+    ASSERT_EQ(document.AliasTable.AliasCount(), 1U);
     EXPECT_EQ(document.AliasTable[0].Body, "fov 20");
 }
 
@@ -263,7 +263,7 @@ TEST_F(AliasTables, AreSortedWithoutRegardToCase) {
         AddAlias(document, name, "wait");
     }
     std::vector<Text> names;
-    for (std::size_t i = 0; i < document.AliasTable.size(); ++i) {
+    for (std::size_t i = 0; i < document.AliasTable.AliasCount(); ++i) {
         names.push_back(document.AliasTable[i].Name);
     }
     EXPECT_THAT(names, ElementsAre("_x", "Alpha", "BRAVO", "charlie", "delta"));
@@ -292,8 +292,8 @@ TEST_F(AliasTables, TakeTheNameNoneInAConsoleScript) {
 
 struct UnrealAliases : UnrealBindings {
     [[nodiscard]] Text Only() const {
-        return document.AliasTable.size() == 1 ? document.AliasTable[0].Name + "=" + document.AliasTable[0].Body
-                                               : std::to_string(document.AliasTable.size());
+        return document.AliasTable.AliasCount() == 1 ? document.AliasTable[0].Name + "=" + document.AliasTable[0].Body
+                                                     : std::to_string(document.AliasTable.AliasCount());
     }
 };
 

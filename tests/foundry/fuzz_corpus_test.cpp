@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/foundry/rounds.h"
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
@@ -51,9 +53,10 @@ TEST(FuzzCorpus, HasAScriptOfEachKind) {
 }
 
 TEST(FuzzCorpus, IsReadWhereverItIsCut) {
+    constexpr std::size_t kCuts = lv::Rounds(64U);
     for (const auto& file : Corpus()) {
         const std::string bytes = BytesOf(file);
-        for (std::size_t length = 0; length < bytes.size(); length += 1 + bytes.size() / 40) {
+        for (std::size_t length = 0; length < bytes.size(); length += 1 + bytes.size() / kCuts) {
             EXPECT_EQ(Read(bytes.substr(0, length)), 0) << file << " cut at " << length;
         }
     }

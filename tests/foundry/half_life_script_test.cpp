@@ -4,6 +4,7 @@
 
 #include "foundation/field_strings.h"
 #include "platform/memory/memory_platform.h"
+#include "tests/foundry/rounds.h"
 #include "tests/foundry/script_fixture.h"
 
 namespace lv {
@@ -143,12 +144,24 @@ windowed_mouse 123
                                          kEnd)));
 }
 
+TEST(HalfLifeScript, SpellsPlateColorWithAnUnderscore) {
+    HalfLifePlayer player;
+    SetCvar(player, "plate color", "30");
+    SetCvar(player, "suit color", "6");
+    const Text script = Written(player);
+    EXPECT_EQ(CountLines(script, "plate_color 30"), 1);
+    EXPECT_EQ(CountLines(script, "suit_color 6"), 1);
+    EXPECT_FALSE(Holds(script, "plate color"));
+    EXPECT_FALSE(Holds(script, "suit color"));
+}
+
 TEST(HalfLifeScript, LooksAtFourRunsOfKeyCodes) {
     for (int code = 0; code < 256; ++code) {
         HalfLifePlayer player;
         player.Keys[static_cast<std::size_t>(code)] = "x";
         // A line feed names no key: it would end the line in the middle of the name.
-        const bool converted = (code <= 32 && code != 10) || (code >= 42 && code <= 152) || (code >= 200 && code <= 240) || code == 255;
+        const bool converted =
+            (code <= 32 && code != 10) || (code >= 42 && code <= 152) || (code >= 200 && code <= 240) || code == 255;
         EXPECT_EQ(Holds(Written(player), "\"x\"\r\n"), converted) << code;
     }
 }
@@ -286,7 +299,7 @@ TEST(ReadHalfLifeScript, SurvivesHostileScripts) {
         "bind ",  "name ",  "set ",           "\"",          " ",    "//",   "\r",      "\n",     "w",
         "+mlook", "gamma ", "plate_color ",   Text(1, '\0'), "\xA0", "\xFF", "mouse1 ", "alias ", "[",
         "\\",     "..\\",   "bind bind bind "};
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < Rounds(2000); ++round) {
         Text script;
         for (std::size_t left = random() % 200; left > 0; --left) {
             script += random() % 8 == 0 ? Text(1, static_cast<char>(random() % 256)) : pieces[random() % 21];
@@ -304,7 +317,7 @@ TEST(ReadHalfLifeScript, SurvivesHostileScripts) {
 
 TEST(ReadHalfLifeScript, HoldsOneOfManyBindingsOfAKey) {
     Text script;
-    for (int i = 0; i < 200000; ++i) {
+    for (int i = 0; i < Rounds(200000); ++i) {
         script += "bind w x\n";
     }
     EXPECT_EQ(Set(Read(script)), 1);

@@ -163,12 +163,12 @@ TEST(KeysTable, EachCaptionLeadsToItsKeyInEachKind) {
         const KeyTexts captions = KeyCaptions(kind);
         for (const auto& row : kKeys) {
             if (row.Index != 77) {
-                EXPECT_EQ(KeyFromCaption(captions, row.Caption), row.Index) << row.Caption << " in " << kind;
+                EXPECT_EQ(KeyIndexOfCaption(captions, row.Caption), row.Index) << row.Caption << " in " << kind;
             }
         }
         const bool ofItsOwn = kind == 3 || kind == 5;
-        EXPECT_EQ(KeyFromCaption(captions, "kp+"), ofItsOwn ? 77 : -1) << kind;
-        EXPECT_EQ(KeyFromCaption(captions, "{+}"), ofItsOwn ? -1 : 77) << kind;
+        EXPECT_EQ(KeyIndexOfCaption(captions, "kp+"), ofItsOwn ? 77 : -1) << kind;
+        EXPECT_EQ(KeyIndexOfCaption(captions, "{+}"), ofItsOwn ? -1 : 77) << kind;
     }
 }
 
@@ -177,7 +177,7 @@ TEST(KeysTable, CaptionsAreComparedExactly) {
     for (const char* const text :
          {"",    " ",   "{a}",   "A",   "{A} ", " {A}", "spc", "SPC", "Spc ", "{Spc}", "shft", "Shift",
           "{[}", "{]}", "{kp7}", "KP7", "MW",   "J0",   "J7",  "A0",  "A33",  "M0",    "M4",   "Esc"}) {
-        EXPECT_EQ(KeyFromCaption(captions, text), kNoKey) << "\"" << text << "\"";
+        EXPECT_EQ(KeyIndexOfCaption(captions, text), kNoKey) << "\"" << text << "\"";
     }
 }
 

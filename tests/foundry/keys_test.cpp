@@ -198,32 +198,32 @@ TEST(KeyCaptions, TellAllKeysApartAndHoldNoColon) {
     }
 }
 
-TEST(KeyFromCaption, FindsTheKeypadsPlusInQuake2AndSinOnly) {
+TEST(KeyIndexOfCaption, FindsTheKeypadsPlusInQuake2AndSinOnly) {
     for (const Index kind : kKinds) {
         const bool keypad = kind == 3 || kind == 5;
-        EXPECT_EQ(KeyFromCaption(KeyCaptions(kind), "kp+"), keypad ? 77 : kNoKey) << kind;
-        EXPECT_EQ(KeyFromCaption(KeyCaptions(kind), "{+}"), keypad ? kNoKey : 77) << kind;
+        EXPECT_EQ(KeyIndexOfCaption(KeyCaptions(kind), "kp+"), keypad ? 77 : kNoKey) << kind;
+        EXPECT_EQ(KeyIndexOfCaption(KeyCaptions(kind), "{+}"), keypad ? kNoKey : 77) << kind;
     }
 }
 
-TEST(KeyFromCaption, ComparesExactly) {
+TEST(KeyIndexOfCaption, ComparesExactly) {
     const KeyTexts captions = KeyCaptions(1);
-    EXPECT_EQ(KeyFromCaption(captions, "Spc"), 0);
-    EXPECT_EQ(KeyFromCaption(captions, "A32"), 135);
-    EXPECT_EQ(KeyFromCaption(captions, "spc"), kNoKey);
-    EXPECT_EQ(KeyFromCaption(captions, " Spc"), kNoKey);
-    EXPECT_EQ(KeyFromCaption(captions, ""), kNoKey);
+    EXPECT_EQ(KeyIndexOfCaption(captions, "Spc"), 0);
+    EXPECT_EQ(KeyIndexOfCaption(captions, "A32"), 135);
+    EXPECT_EQ(KeyIndexOfCaption(captions, "spc"), kNoKey);
+    EXPECT_EQ(KeyIndexOfCaption(captions, " Spc"), kNoKey);
+    EXPECT_EQ(KeyIndexOfCaption(captions, ""), kNoKey);
 }
 
-TEST(KeyFromCaption, GivesMinusOneAsASigned16BitNumberForNoKey) {
-    EXPECT_EQ(static_cast<std::uint16_t>(KeyFromCaption(KeyCaptions(1), "no key")), 65535);
+TEST(KeyIndexOfCaption, GivesMinusOneAsASigned16BitNumberForNoKey) {
+    EXPECT_EQ(static_cast<std::uint16_t>(KeyIndexOfCaption(KeyCaptions(1), "no key")), 65535);
 }
 
-TEST(KeyFromCaption, TakesTheFirstOfEqualCaptions) {
+TEST(KeyIndexOfCaption, TakesTheFirstOfEqualCaptions) {
     KeyTexts captions;
     captions[40] = "twin";
     captions[90] = "twin";
-    EXPECT_EQ(KeyFromCaption(captions, "twin"), 40);
+    EXPECT_EQ(KeyIndexOfCaption(captions, "twin"), 40);
 }
 
 TEST(MirrorLabel, TiesTheKeypadToTheMainKeysWhereItIsNotToldApart) {

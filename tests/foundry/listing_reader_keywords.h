@@ -158,6 +158,7 @@ constexpr KeywordRow kKeywords[] = {
     {"crosshair",         "2",               "6",  "Crosshair_Cbo",       "2 (red dot)"},
     {"crosshair",         "1",               "9",  "Crosshair_Cbo",       "1 (crosshair on)"},
     {"hand",              "2",               "356", "Handed_Cbo",         "2 (none)"},
+    {"hand",              "-1",              "356", "Handed_Cbo",         ""},
     {"crosshaircolor",    "79",              "1",  "CrossHairColor_Cbo",  "079 -Red"},
     // console only: "set" shifts the words
     {"set",               "fov 100",         kConsole, "fov_Cbo",         "100"},

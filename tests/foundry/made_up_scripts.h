@@ -89,12 +89,21 @@ class MadeUpScripts {
         }
     }
 
+    /// A chosen hand, or none: said, as this program writes it, or without a word. Half-Life has no list of hands, so
+    /// its first value is its only row.
+    Text Hand(const ScriptDialect& dialect) {
+        if (dialect.GameKind == 9) {
+            return Join("hand 0", LineEnd());
+        }
+        return Below(5) == 0 ? Text() : Join("hand ", Number(-1, 2), LineEnd());
+    }
+
     Text Console(const ScriptDialect& dialect) {
         // What the game reads by its place in a list, within that list.
         Text script = Join("name ", Word(), LineEnd(), "crosshair ", Number(0, 1), LineEnd());
         if (dialect.ScriptFamily == 3) {
-            script += Join("hand ", dialect.GameKind == 9 ? "0" : Number(0, 2), LineEnd(), "cd_nocd ", Number(0, 1),
-                           LineEnd(), "s_wavonly ", Number(0, 1), LineEnd(), "rate ", Number(500, 9999), LineEnd());
+            script += Join(Hand(dialect), "cd_nocd ", Number(0, 1), LineEnd(), "s_wavonly ", Number(0, 1), LineEnd(),
+                           "rate ", Number(500, 9999), LineEnd());
         }
         if (dialect.GameKind == 2) {
             script += Join("_cl_playerclass ", Number(0, 3), LineEnd());

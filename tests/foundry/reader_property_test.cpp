@@ -6,6 +6,7 @@
 
 #include "tests/foundry/kinds.h"
 #include "tests/foundry/reading.h"
+#include "tests/foundry/rounds.h"
 #include "tests/foundry/table_agreement.h"
 
 namespace lv {
@@ -112,7 +113,8 @@ Words UnknownLinesOf(const ScriptDocument& document) {
 
 class ReaderProperties : public ::testing::TestWithParam<Index> {};
 
-constexpr unsigned kScripts = 2000;  // of each kind
+constexpr unsigned kScripts = Rounds(2000U);  // of each kind
+constexpr unsigned kFewScripts = Rounds(100U);
 
 TEST_P(ReaderProperties, KeepWhatNobodyUnderstandsAndTablesThatAgree) {
     const ScriptDocument fresh = MakeScriptDocument(DialectOf(GetParam()));
@@ -128,7 +130,7 @@ TEST_P(ReaderProperties, KeepWhatNobodyUnderstandsAndTablesThatAgree) {
 }
 
 TEST_P(ReaderProperties, BindNoKeyThatTheScriptDoesNotName) {
-    for (unsigned seed = 0; seed < kScripts / 20; ++seed) {
+    for (unsigned seed = 0; seed < kFewScripts; ++seed) {
         const ScriptDocument document = ReadScript(GetParam(), Maker(GetParam(), seed).Make());
         EXPECT_EQ(BindingOf(document, "b"), "");
         EXPECT_EQ(BindingOf(document, "f5"), "");
@@ -136,7 +138,7 @@ TEST_P(ReaderProperties, BindNoKeyThatTheScriptDoesNotName) {
 }
 
 TEST_P(ReaderProperties, LineEndsMakeNoDifference) {
-    for (unsigned seed = 0; seed < kScripts / 20; ++seed) {
+    for (unsigned seed = 0; seed < kFewScripts; ++seed) {
         const Text script = Maker(GetParam(), seed).Make();
         Text other;
         for (const char c : script) {

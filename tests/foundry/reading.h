@@ -64,7 +64,7 @@ inline Text BindingOf(const ScriptDocument& document, TextView key) {
 /// The aliases as "name=body", joined by ", ".
 inline Text AliasesOf(const ScriptDocument& document) {
     Text all;
-    for (std::size_t place = 0; place < document.AliasTable.size(); ++place) {
+    for (std::size_t place = 0; place < document.AliasTable.AliasCount(); ++place) {
         const Alias& alias = document.AliasTable[place];
         all += Join(all.empty() ? "" : ", ", alias.Name, "=", alias.Body);
     }

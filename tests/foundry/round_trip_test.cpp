@@ -4,6 +4,7 @@
 #include "foundry/script_writer.h"
 #include "tests/foundry/made_up_scripts.h"
 #include "tests/foundry/reading.h"
+#include "tests/foundry/rounds.h"
 
 namespace lv {
 namespace {
@@ -71,7 +72,7 @@ Text Told(const ScriptDocument& d) {
     for (std::size_t key = 0; key < d.KeyBinding.size(); ++key) {
         told += d.KeyBinding[key].empty() ? Text() : Join("key ", std::to_string(key), " ", d.KeyBinding[key], "\n");
     }
-    for (std::size_t i = 0; i < d.AliasTable.size(); ++i) {
+    for (std::size_t i = 0; i < d.AliasTable.AliasCount(); ++i) {
         const Alias& alias = d.AliasTable[i];
         told += Join("alias ", alias.Name, " ", alias.Body, "\n");
     }
@@ -97,7 +98,7 @@ void ExpectRest(const ScriptDialect& dialect, unsigned seed, int scripts) {
     }
 }
 
-constexpr int kScripts = 250;
+constexpr int kScripts = Rounds(250);
 
 TEST(RoundTrip, OfQuake) {
     ExpectRest(kQuakeDialect, 1, kScripts);
@@ -169,8 +170,26 @@ TEST(RoundTrip, WritesACommandInItsGamesOwnWords) {
     EXPECT_EQ(CountLines(Written(ReadScript(kQuake2Dialect, "bind NumPad7 +attack\n")),
                          "bind \"kp_home\"       \"+attack\"  //* key pad 7"),
               1);
-    EXPECT_EQ(CountLines(Written(ReadScript(kQuake2Dialect, "joystick 1\n")), "set joystick 1"), 1);
-    EXPECT_EQ(CountLines(Written(ReadScript(kQuakeDialect, "set joystick 1\n")), "joystick 1"), 1);
+}
+
+TEST(RoundTrip, SetJoystickKeepsItsSetInQuake2AndSin) {
+    for (const ScriptDialect& dialect : {kQuake2Dialect, kSinDialect}) {
+        for (const TextView line : {"set joystick 1\n", "joystick 1\n"}) {
+            const Text written = Written(ReadScript(dialect, line));
+            EXPECT_EQ(CountLines(written, "set joystick 1"), 1) << dialect.GameKind;
+            EXPECT_EQ(CountLines(written, "joystick 1"), 0) << dialect.GameKind;
+            EXPECT_EQ(ReadScript(dialect, written).JoyStick_Chk.Value, 1) << dialect.GameKind;
+        }
+    }
+}
+
+TEST(RoundTrip, SetJoystickLosesItsSetInHeretic2AndTheOthers) {
+    for (const ScriptDialect& dialect : {kHeretic2Dialect, kHalfLifeDialect, kQuakeDialect, kHexen2Dialect}) {
+        const Text written = Written(ReadScript(dialect, "set joystick 1\n"));
+        EXPECT_EQ(CountLines(written, "joystick 1"), 1) << dialect.GameKind;
+        EXPECT_EQ(CountLines(written, "set joystick 1"), 0) << dialect.GameKind;
+        EXPECT_EQ(ReadScript(dialect, written).JoyStick_Chk.Value, 1) << dialect.GameKind;
+    }
 }
 
 TEST(RoundTrip, WritesACommandInCapitalsInItsOwnCase) {
@@ -180,8 +199,15 @@ TEST(RoundTrip, WritesACommandInCapitalsInItsOwnCase) {
 }
 
 TEST(RoundTrip, KeepsAVideoModeBeyondTheList) {
-    const ScriptDocument d = ReadScript(kQuakeDialect, "vid_mode 15\n");
+    const ScriptDocument d = ReadScript(kQuakeDialect, "name a\nvid_mode 15\n");
     EXPECT_EQ(d.vidmode_Cbo.Selected(), "15) Custom VESA Mode");
+    const Text written = Written(d);
+    EXPECT_EQ(CountLines(written, "vid_mode 15"), 1);
+    EXPECT_EQ(written.find("vid_mode"), written.rfind("vid_mode"));
+    const ScriptDocument read = ReadScript(kQuakeDialect, written);
+    EXPECT_EQ(read.vidmode_Cbo.Selected(), "15) Custom VESA Mode");
+    EXPECT_EQ(read.vidmode_Cbo.Items.size(), d.vidmode_Cbo.Items.size());
+    EXPECT_EQ(Written(read), written);
 }
 
 TEST(RoundTrip, TakesAnInisGammaFromAnySectionButTheInputsAndWritesItNowhere) {
@@ -224,10 +250,12 @@ TEST(RoundTrip, APlayerWithoutANameIsCalledPlayer) {
 }
 
 TEST(RoundTrip, AHandThatWasNotChosenStaysSo) {
-    for (const ScriptDialect& dialect : {kQuake2Dialect, kSinDialect}) {
+    for (const ScriptDialect& dialect : {kQuake2Dialect, kSinDialect, kHeretic2Dialect}) {
         const Text written = Written(ReadScript(dialect, "name a"));
         EXPECT_EQ(CountLines(written, "hand \"-1\""), 1);
-        EXPECT_EQ(Written(ReadScript(dialect, written)), written) << dialect.GameKind;
+        const ScriptDocument read = ReadScript(dialect, written);
+        EXPECT_EQ(read.Handed_Cbo.Items.size(), 3U) << dialect.GameKind;
+        EXPECT_EQ(Written(read), written) << dialect.GameKind;
     }
 }
 
@@ -246,7 +274,7 @@ TEST(RoundTrip, SurvivesHostileScripts) {
         "Aliases[",   "MouseX=",       "+mlook",      "w ",   "vid_mode ", "99999999999", "skin ",
         "m_pitch --", "color -1 -1\n", Text(1, '\0'), "\xA0", "\xFF",      ";",           "exec ",
         "say "};
-    for (int round = 0; round < 150; ++round) {
+    for (int round = 0; round < Rounds(150); ++round) {
         Text script;
         for (std::size_t left = random() % 120; left > 0; --left) {
             script += random() % 8 == 0 ? Text(1, static_cast<char>(random() % 256)) : pieces[random() % 29];

@@ -2,6 +2,7 @@
 
 #include "foundry/bind_line.h"
 #include "tests/foundry/script_fixture.h"
+#include "tests/foundry/watching_view.h"
 #include "tests/support/launcher_fixture.h"
 
 namespace lv {
@@ -40,7 +41,7 @@ class SaveScriptTest : public LauncherTest {
         document.Dialect = dialect;
     }
 
-    bool Save(const SaveManner& manner = {}) { return SaveScript(run, launcher.Lists, document, manner); }
+    bool Save(const SaveManner& manner = {}) { return SaveScript(run, launcher.Lists, document, view, manner); }
 
     void ExpectSuccess() {
         user.Expect({"Setup Foundry", "The script was saved successfully!", 0, false, true, "&OK"});
@@ -56,6 +57,7 @@ class SaveScriptTest : public LauncherTest {
     }
 
     ScriptDocument document = EmptyDocument(kQuakeDialect);
+    WatchingView view;
 };
 
 TEST_F(SaveScriptTest, ReplacesTheFileAndTellsOfIt) {
@@ -100,7 +102,6 @@ TEST_F(SaveScriptTest, FreesAKeyThatWasBoundToTheEmptyCommand) {
 }
 
 TEST_F(SaveScriptTest, AKeyThatIsFreedSoLeavesItsRowToo) {
-    ScriptView view;
     document = MakeScriptDocument(kQuakeDialect);
     document.CurrentScriptPath = kPath;
     BindLine(document, view, "x", "");
@@ -109,6 +110,24 @@ TEST_F(SaveScriptTest, AKeyThatIsFreedSoLeavesItsRowToo) {
     EXPECT_EQ(document.KeyBinding[24], "");
     EXPECT_EQ(document.Setting_Lbl[501].Caption, "");
     EXPECT_TRUE(document.ScriptClean);
+}
+
+TEST_F(SaveScriptTest, ShowsThatAKeyFreedByTheSaveIsFree) {
+    document = MakeScriptDocument(kQuakeDialect);
+    document.CurrentScriptPath = kPath;
+    BindLine(document, view, "home", "");
+    BindLine(document, view, "w", "+forward");
+    const Color moving = view.KeyColor(23);
+    EXPECT_NE(view.KeyColor(67), kWhite);
+    EXPECT_NE(view.KeyColor(84), kWhite);
+    view.ClearedTips.clear();
+    view.ChangedSlots.clear();
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    EXPECT_EQ(view.KeyColor(67), kWhite);
+    EXPECT_EQ(view.KeyColor(84), kWhite);  // the keypad's Home is the same key in Quake
+    EXPECT_EQ(view.KeyColor(23), moving);
+    EXPECT_EQ(view.ClearedTips, std::vector<KeyIndex>{67});
+    EXPECT_EQ(view.ChangedSlots, std::vector<SlotNumber>{501});
 }
 
 TEST_F(SaveScriptTest, AfterAFailureTheOldFileAndTheDocumentAreAsTheyWere) {
@@ -158,6 +177,7 @@ TEST_F(SaveScriptTest, UnderANewNameAsksInTheGamesDirectory) {
     EXPECT_EQ(user.FileRequests[0].InitialDirectory, "c:\\quake\\ID1");
     EXPECT_EQ(user.FileRequests[0].FileName, "MY.CFG");
     EXPECT_TRUE(user.FileRequests[0].ForSaving);
+    EXPECT_EQ(user.FileRequests[0].MaxFileSize, 32000U);
     EXPECT_EQ(system.Disk.Bytes(kPath), "the old script");
     EXPECT_EQ(CountLines(system.Disk.Bytes("C:\\QUAKE\\ID1\\New One.cfg"), "name \"Me\""), 1);
     EXPECT_EQ(document.CurrentScriptPath, "C:\\QUAKE\\ID1\\New One.cfg");
@@ -210,6 +230,14 @@ TEST_F(SaveScriptTest, NamesTheLibraryOfADialogThatIsTooOld) {
                  "Lorvane 3D setting have not been altered.",
                  0, false, true, "&OK"});
     EXPECT_FALSE(Save({SaveName::AskForIt}));
+}
+
+TEST_F(SaveScriptTest, TakesNoPathBeyondTheDialogsLimit) {
+    user.FileAnswers = {std::optional<Text>("C:\\QUAKE\\ID1\\" + Text(32001 - 13, 'x'))};
+    user.Expect({"A Windows Related Error Occured", "Error Number = 20476"});
+    EXPECT_FALSE(Save({SaveName::AskForIt}));
+    EXPECT_EQ(document.CurrentScriptPath, kPath);
+    EXPECT_EQ(system.Disk.Bytes(kPath), "the old script");
 }
 
 TEST_F(SaveScriptTest, ShowsTheDialogsLimitForDiagnosis) {

@@ -35,7 +35,7 @@ TEST(MakeScriptDocument, CopiesAsAValue) {
     const ScriptDocument copy = document;
     document.AliasTable.Erase(0);
     document.SlotCommand[501] = "+hook";
-    EXPECT_EQ(copy.AliasTable.size(), 1U);
+    EXPECT_EQ(copy.AliasTable.AliasCount(), 1U);
     EXPECT_EQ(copy.SlotCommand[501], "");
 }
 

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "tests/foundry/reading.h"
+#include "tests/foundry/rounds.h"
 
 namespace lv {
 namespace {
@@ -139,7 +140,7 @@ TEST(ScriptLines, ReleasedEarlyGoOnWithTheNext) {
 
 TEST(ScriptLines, AreTheSameHoweverTheBytesFall) {
     std::mt19937 random(11);
-    for (int round = 0; round < 200; ++round) {
+    for (int round = 0; round < Rounds(200); ++round) {
         Lines expected;
         Text bytes;
         for (std::size_t count = 1 + random() % 20; count > 0; --count) {

@@ -92,7 +92,7 @@ TEST(ReadAliases, BeyondTheMostAreKeptInTheText) {
         script += "alias n" + std::to_string(number) + " x\n";
     }
     const ScriptDocument document = ReadScript(1, script);
-    EXPECT_EQ(document.AliasTable.size(), 32767);
+    EXPECT_EQ(document.AliasTable.AliasCount(), 32767);
     EXPECT_EQ(document.Sections[0].Text, "alias n32767 x\r\nalias n32768 x");
 }
 

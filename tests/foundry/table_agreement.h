@@ -18,7 +18,7 @@ inline Text DisagreementOf(const ScriptDocument& document) {
         Text rest = document.Setting_Lbl[slot].Caption;
         while (!rest.empty()) {
             const std::size_t end = rest.find(" : ");
-            const KeyIndex key = KeyFromCaption(document.KeyCaption, rest.substr(0, end));
+            const KeyIndex key = KeyIndexOfCaption(document.KeyCaption, rest.substr(0, end));
             if (key == kNoKey) {
                 return Join("slot ", std::to_string(slot), " lists no key: ", rest);
             }
