@@ -78,4 +78,7 @@ void PressKey(WORD key, bool withAlt = false);
 
 RECT PlaceOf(HWND window);
 
+/// What a question box says.
+std::wstring TextOfBox(HWND box);
+
 }  // namespace lv
