@@ -18,6 +18,7 @@
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/start.h"
+#include "launcher/window_life.h"
 #include "video/forms/add_vid_profile_form.h"
 #include "video/forms/video_profile_form.h"
 #include "wizard/forms/install_form.h"
@@ -65,6 +66,7 @@ class LorvaneApp : public wxApp {
         form_ = new LvForm(program_->TheLauncher, program_->User);
         SetTopWindow(form_);
         SetExitOnFrameDelete(false);
+        LetTheSessionEnd();
         CallAfter([this] { StartInsideTheLoop(); });
         return true;
     }
@@ -89,6 +91,12 @@ class LorvaneApp : public wxApp {
             }
         });
         look_.Start(kLookMilliseconds);
+    }
+
+    // On Windows, where the toolkit would ask the window to close: that hides it and has the user wait for the end.
+    void LetTheSessionEnd() {
+        Bind(wxEVT_QUERY_END_SESSION, [](wxCloseEvent&) {});
+        Bind(wxEVT_END_SESSION, [this](wxCloseEvent&) { SessionEnds(program_->TheLauncher); });
     }
 
     void End() {

@@ -5,12 +5,15 @@
 #include <poll.h>
 
 #include <cstdlib>
+#include <functional>
 #include <memory>
+#include <optional>
 
 #include "app/lorvane_app.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "foundation/question_box.h"
 #include "launcher/window_life.h"
+#include "platform/linux/end_signals.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_instance.h"
@@ -55,10 +58,16 @@ struct LinuxSystem {
 
     void Started(LvForm&, Launcher& launcher) {
         Instance.OnRaise = [&launcher] { ComeForward(launcher); };
+        Signals.emplace();
+        OnEnd = [&launcher] { SessionEnds(launcher); };
     }
 
     // A look that costs nothing.
     void AnswerKnocks() {
+        if (Signals && Signals->Came()) {
+            OnEnd();
+            Signals->Obey();
+        }
         pollfd waiting{Instance.Descriptor(), POLLIN, 0};
         if (waiting.fd >= 0 && poll(&waiting, 1, 0) > 0) {
             Instance.Serve();
@@ -73,6 +82,8 @@ struct LinuxSystem {
     LinuxClock Time;
     X11Desktop Windows;
     LinuxInstance Instance{ConfigDirectory().string()};
+    std::optional<EndSignals> Signals;  // before the window is up there is nothing to keep
+    std::function<void()> OnEnd;
     Platform Services{*Settings, Registry, Disk, Programs, Clip, Time};
 };
 

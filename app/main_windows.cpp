@@ -39,7 +39,7 @@ struct WindowsSystem {
 
     void AnswerKnocks() {}
 
-    RegistrySettings Settings;
+    RegistrySettings Settings{"Lorvane 3D"};
     WindowsFiles Disk;
     WindowsRegistry Registry;
     WindowsProcesses Programs{Disk};

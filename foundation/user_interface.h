@@ -68,7 +68,7 @@ class UserInterface {
     /// One line of text, `offered` at first; nothing if the user cancelled.
     virtual std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered);
 
-    /// Opens the help file, a drive path, in its viewer.
+    /// Opens the handbook, a drive path, in the toolkit's viewer.
     virtual Error OpenHelp(TextView path);
 
     /// Opens the address in the default browser. Error 53 if there is no browser, any other if it would not load.

@@ -1,8 +1,8 @@
 #include "foundation/window_services.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <utility>
 
 #include "foundation/numbers.h"
 #include "foundation/question_box.h"
@@ -15,8 +15,8 @@ namespace {
 constexpr double kMostOfScreen = 0.95;
 constexpr double kWidestScreen = 100000;  // pixels
 
-// The manual of the home system, and the handbook for the toolkit's own viewer.
-constexpr std::array<TextView, 2> kHelpFiles = {"\\LV3D.hlp", "\\handbook\\handbook.hhp"};
+constexpr TextView kManual = "\\LV3D.hlp";                  // for the home system's own viewer
+constexpr TextView kHandbook = "\\handbook\\handbook.hhp";  // for the toolkit's
 constexpr TextView kUsualDirectory = "C:\\Progra~1\\ostran~1\\lorvan~1";
 
 double Middle(double outer, double inner) {
@@ -78,28 +78,35 @@ void CenterOnOwner(WindowPlacement& placement, const WindowPlacement& owner) {
     placement.Top = owner.Top + std::trunc(owner.Height - placement.Height) / 2;
 }
 
-std::optional<Text> FindHelpFile(Run& run) {
-    for (const TextView directory : {TextView(run.AppDirectory), kUsualDirectory, TextView(run.DefaultGameDirectory)}) {
-        for (const TextView name : kHelpFiles) {
-            const Text path = Join(directory, name);
+std::vector<Text> HelpFiles(Run& run) {
+    std::vector<Text> found;
+    for (const TextView name : {kManual, kHandbook}) {
+        for (const TextView directory :
+             {TextView(run.AppDirectory), kUsualDirectory, TextView(run.DefaultGameDirectory)}) {
+            Text path = Join(directory, name);
             if (!directory.empty() && run.System.Disk.FileExists(path)) {
-                return path;
+                found.push_back(std::move(path));
             }
         }
     }
-    return std::nullopt;
+    return found;
 }
 
 void OpenHelpFile(Run& run) {
-    const std::optional<Text> path = FindHelpFile(run);
-    if (!path) {
+    const std::vector<Text> files = HelpFiles(run);
+    if (files.empty()) {
         TellHelpIsMissing(run);
         return;
     }
-    if (const Error failed = run.User.OpenHelp(*path)) {
-        AskUser(run, "",
-                Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text));
+    Error failed;
+    for (const Text& path : files) {
+        const bool isManual = path.ends_with(kManual);
+        failed = isManual ? run.System.Programs.StartHelpViewer(path) : run.User.OpenHelp(path);
+        if (!failed) {
+            return;
+        }
     }
+    AskUser(run, "", Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text));
 }
 
 void OpenWebPage(Run& run, TextView address) {

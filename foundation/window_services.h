@@ -5,7 +5,7 @@
 
 #pragma once
 
-#include <optional>
+#include <vector>
 
 #include "foundation/run.h"
 
@@ -50,10 +50,11 @@ void SavePlacement(Run& run, TextView formName, const WindowPlacement& placement
 void CenterOnScreen(WindowPlacement& placement, TwipsSize screen);
 void CenterOnOwner(WindowPlacement& placement, const WindowPlacement& owner);
 
-/// The first help file there is: in the program's directory, in its usual one, in that of the game.
-std::optional<Text> FindHelpFile(Run& run);
+/// The help files that are there, the first to be tried in front: manuals before handbooks, and of each the one in the
+/// program's directory, in its usual one, in that of the game.
+std::vector<Text> HelpFiles(Run& run);
 
-/// Shows the help file, or tells that there is none.
+/// Shows the first help file that this system can show, or tells what stood in the way.
 void OpenHelpFile(Run& run);
 
 /// Opens the address in the default browser, or tells what stood in the way.

@@ -90,6 +90,12 @@ void Exit_Bar_Click(Launcher& launcher) {
     EndProgram(run);
 }
 
+void SessionEnds(Launcher& launcher) {
+    if (launcher.run.MainFormLoaded && !launcher.run.Ended) {
+        Exit_Bar_Click(launcher);
+    }
+}
+
 Presence PresenceOf(const LV_Frm& window) {
     if (window.Visible) {
         return Presence::Shown;

@@ -29,8 +29,11 @@ void ComeForward(Launcher& launcher);
 /// The window's close box. True if the window may go: only Exit_Bar lets it. Otherwise it is hidden.
 bool LV_Frm_QueryUnload(Launcher& launcher);
 
-/// The only way out: the placement is saved, the tray icon removed, the video profile window noted, the program ends.
+/// The user's way out: the placement is saved, the tray icon removed, the video profile window noted, the program ends.
 void Exit_Bar_Click(Launcher& launcher);
+
+/// The user's session ends, and the program with it, whatever is up: all is kept that Exit_Bar keeps.
+void SessionEnds(Launcher& launcher);
 
 /// Shown, minimised to the task bar, or hidden.
 Presence PresenceOf(const LV_Frm& window);

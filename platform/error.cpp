@@ -9,8 +9,10 @@ struct ErrorRow {
     const char* Text;
 };
 
+// clang-format off
 constexpr ErrorRow kErrors[] = {
     {error::kInvalidCall, "Invalid procedure call"},
+    {error::kBadFileName, "Bad file name or number"},
     {error::kFileNotFound, "File not found"},
     {error::kAlreadyOpen, "File already open"},
     {error::kDeviceFault, "Device I/O error"},
@@ -21,6 +23,7 @@ constexpr ErrorRow kErrors[] = {
     {error::kPathFileAccess, "Path/File access error"},
     {error::kPathNotFound, "Path not found"},
 };
+// clang-format on
 
 }  // namespace
 

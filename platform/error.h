@@ -11,6 +11,7 @@ namespace lv {
 
 namespace error {
 constexpr int kInvalidCall = 5;
+constexpr int kBadFileName = 52;
 constexpr int kFileNotFound = 53;
 constexpr int kAlreadyOpen = 55;
 constexpr int kDeviceFault = 57;

@@ -1,7 +1,9 @@
 // platform/files.h
 //
 // Files and drives under the games' own paths: "C:\QUAKE\ID1", "\" between the components, letter case without
-// meaning, names in code page 1252. A path without a drive is taken from the current directory.
+// meaning, names in code page 1252. A path without a drive is taken from the current directory. A name is never a
+// pattern: "*" and "?" stand for themselves, or are error 52 in what makes, reads, or deletes a file, if the system has
+// no such names.
 
 #pragma once
 

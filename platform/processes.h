@@ -22,6 +22,9 @@ class Processes {
 
     /// Starts a program by its path, or by its name alone when the system finds it there.
     virtual Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) = 0;
+
+    /// Shows a manual of the kind that Windows has a viewer of its own for, LV3D.hlp. Error 53 without that viewer.
+    virtual Error StartHelpViewer(std::string_view) { return MakeError(error::kFileNotFound); }
 };
 
 }  // namespace lv

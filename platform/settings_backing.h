@@ -25,8 +25,8 @@ class SettingsBacking {
     virtual Error Write(std::string_view application, std::string_view section, std::string_view key,
                         std::string_view value) = 0;
 
-    /// Writes between BeginGroup and EndGroup become durable together, or not at all, where the store can hold them
-    /// back; where it cannot, each by itself in their order. Groups nest. For the hundreds of keys of a fresh profile.
+    /// Writes between BeginGroup and EndGroup become durable together, or not at all. Groups nest. For the hundreds of
+    /// keys of a fresh profile.
     virtual void BeginGroup() {}
     virtual Error EndGroup() { return {}; }
 };

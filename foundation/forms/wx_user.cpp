@@ -18,6 +18,7 @@
 #include "foundation/forms/small_dialogs.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/web_browser.h"
 
 namespace lv {
 
@@ -150,9 +151,6 @@ std::optional<Text> WxUser::InputBox(TextView title, TextView prompt, TextView o
 
 Error WxUser::OpenHelp(TextView path) {
     const wxFileName book(wxString::FromUTF8(files_.ToHost(path)));
-    if (book.GetExt().Lower() != "hhp") {
-        return MakeError(error::kInvalidCall, "this help file needs a viewer that this system does not have");
-    }
     if (!help_) {
         help_ = std::make_unique<wxHtmlHelpController>(wxHF_DEFAULT_STYLE | wxHF_OPEN_FILES);
         if (!help_->AddBook(book)) {
@@ -165,7 +163,7 @@ Error WxUser::OpenHelp(TextView path) {
 }
 
 Error WxUser::OpenUrl(TextView address) {
-    return wxLaunchDefaultBrowser(ToWx(address)) ? Error() : MakeError(error::kFileNotFound);
+    return OpenInBrowser(Text(address));
 }
 
 bool WxUser::TrayAvailable() {

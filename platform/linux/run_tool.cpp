@@ -123,6 +123,10 @@ Result<int> RunTool(const Tool& tool) {
         return MakeError(error::kFileNotFound);
     }
     const auto status = WaitFor(process, tool.Patience);
+    if (!status && tool.MayStay) {
+        std::thread([process] { StatusOf(process, 0); }).detach();  // it must not become a zombie
+        return 0;
+    }
     if (!status) {
         kill(-process, SIGKILL);
         StatusOf(process, 0);

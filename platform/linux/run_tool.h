@@ -20,6 +20,7 @@ struct Tool {
     std::filesystem::path Directory;       // it starts there
     std::vector<std::string> Environment;  // "NAME=value", over what this program has
     std::chrono::milliseconds Patience;    // then it and its process group are killed
+    bool MayStay = false;                  // no: then it is left to itself, and its exit status counts as 0
 };
 
 /// Runs it to its end, with nothing to read and its output thrown away. The exit status, 128 and the signal's number

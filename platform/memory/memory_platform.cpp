@@ -69,6 +69,10 @@ Error MemoryProcesses::StartProgram(std::string_view program, const std::vector<
     return {};
 }
 
+Error MemoryProcesses::StartHelpViewer(std::string_view path) {
+    return HasHelpViewer ? StartProgram("winhlp32.exe", {std::string(path)}) : Processes::StartHelpViewer(path);
+}
+
 std::string MemoryClock::MonthName(int month) {
     static constexpr const char* kMonths[] = {"January", "February", "March",     "April",   "May",      "June",
                                               "July",    "August",   "September", "October", "November", "December"};

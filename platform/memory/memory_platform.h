@@ -104,8 +104,11 @@ class MemoryProcesses : public Processes {
     Error StartBatch(std::string_view directory, std::string_view name) override;
     Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
 
+    Error StartHelpViewer(std::string_view path) override;
+
     std::vector<std::string> Started;  // "C:\QUAKE\lv_666.bat", or the program and its arguments joined by "|"
     Error Refuse;
+    bool HasHelpViewer = false;  // then it is "winhlp32.exe"
 };
 
 class MemoryClipboard : public Clipboard {

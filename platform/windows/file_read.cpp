@@ -164,10 +164,13 @@ Result<std::uint64_t> IdentityOfDirectory(const std::wstring& path) {
 }
 
 std::wstring NameAsFound(const std::wstring& path) {
-    const std::size_t slash = path.rfind(L'\\');
+    std::wstring name = path.substr(path.rfind(L'\\') + 1);
+    if (name.find_first_of(L"<>\"?*") != std::wstring::npos) {
+        return name;
+    }
     WIN32_FIND_DATAW found{};
     const FindHandle find(path, found);
-    return find.IsOpen() ? std::wstring(found.cFileName) : path.substr(slash + 1);
+    return find.IsOpen() ? std::wstring(found.cFileName) : name;
 }
 
 }  // namespace lv

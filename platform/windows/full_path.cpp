@@ -85,6 +85,11 @@ std::string PutTogether(const FullPath& path) {
     return path.Parts.empty() && path.Root.ends_with(':') ? whole + "\\" : whole;
 }
 
+bool HasPlainNames(const FullPath& path) {
+    return std::none_of(path.Parts.begin(), path.Parts.end(),
+                        [](const std::string& part) { return part.find_first_of("<>:\"|?*") != std::string::npos; });
+}
+
 std::wstring SystemPath(const FullPath& path) {
     std::string whole = PutTogether(path);
     if (path.Parts.empty() && !whole.ends_with('\\')) {

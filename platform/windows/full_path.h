@@ -25,6 +25,10 @@ std::optional<FullPath> TakeApart(std::string_view path, const FullPath& current
 /// "C:\QUAKE\ID1", "\\server\share\QUAKE"; a root is "C:\" or "\\server\share".
 std::string PutTogether(const FullPath& path);
 
+/// Whether the system lets anything have these names: it keeps <>:"|?* to itself, and takes some of them for a pattern
+/// where a name is asked for.
+bool HasPlainNames(const FullPath& path);
+
 /// The path as the system's calls take it. One longer than those allow goes round the limit by the prefix "\\?\".
 std::wstring SystemPath(const FullPath& path);
 

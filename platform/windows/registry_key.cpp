@@ -1,7 +1,7 @@
 #include "platform/windows/registry_key.h"
 
+#include <algorithm>
 #include <cstring>
-#include <string_view>
 
 namespace lv {
 
@@ -43,30 +43,43 @@ LSTATUS RegistryKeyHandle::OpenOrMake(const std::wstring& path, REGSAM access) {
 }
 
 LSTATUS RegistryKeyHandle::Query(const std::wstring& name, RawRegistryValue& value) const {
+    std::string bytes;
+    if (const LSTATUS failed = QueryBytes(name, value.Type, bytes)) {
+        return failed;
+    }
+    if (value.Type == REG_SZ) {
+        value.Text.assign(bytes.size() / sizeof(wchar_t), L'\0');
+        std::memcpy(value.Text.data(), bytes.data(), value.Text.size() * sizeof(wchar_t));
+        if (value.Text.ends_with(L'\0')) {
+            value.Text.pop_back();
+        }
+    } else if (value.Type == REG_DWORD && bytes.size() >= sizeof value.Number) {
+        std::memcpy(&value.Number, bytes.data(), sizeof value.Number);
+    }
+    return ERROR_SUCCESS;
+}
+
+LSTATUS RegistryKeyHandle::QueryBytes(const std::wstring& name, DWORD& type, std::string& bytes) const {
     DWORD size = 0;
-    LSTATUS status = RegQueryValueExW(key_, name.c_str(), nullptr, &value.Type, nullptr, &size);
-    std::wstring data;
+    LSTATUS status = RegQueryValueExW(key_, name.c_str(), nullptr, &type, nullptr, &size);
     while (status == ERROR_SUCCESS || status == ERROR_MORE_DATA) {
-        data.assign((size + sizeof(wchar_t) - 1) / sizeof(wchar_t), L'\0');
-        status =
-            RegQueryValueExW(key_, name.c_str(), nullptr, &value.Type, reinterpret_cast<BYTE*>(data.data()), &size);
+        bytes.resize(std::max<DWORD>(size, 1));  // without room only the size would be told
+        size = static_cast<DWORD>(bytes.size());
+        status = RegQueryValueExW(key_, name.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()), &size);
         if (status == ERROR_SUCCESS) {
+            bytes.resize(size);
             break;  // otherwise somebody made it longer in the meantime
         }
     }
-    if (status != ERROR_SUCCESS) {
-        return status;
-    }
-    data.resize(size / sizeof(wchar_t));
-    if (value.Type == REG_SZ) {
-        if (data.ends_with(L'\0')) {
-            data.pop_back();
-        }
-        value.Text = std::move(data);
-    } else if (value.Type == REG_DWORD && size >= sizeof value.Number) {
-        std::memcpy(&value.Number, data.data(), sizeof value.Number);
-    }
-    return ERROR_SUCCESS;
+    return status;
+}
+
+LSTATUS RegistryKeyHandle::SetBytes(const std::wstring& name, DWORD type, std::string_view bytes) const {
+    return RegSetValueExW(key_, name.c_str(), 0, type, BytesOf(bytes.data()), static_cast<DWORD>(bytes.size()));
+}
+
+LSTATUS RegistryKeyHandle::Delete(const std::wstring& name) const {
+    return RegDeleteValueW(key_, name.c_str());
 }
 
 LSTATUS RegistryKeyHandle::SetText(const std::wstring& name, const std::wstring& text) const {

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/windows/system.h"
 
@@ -32,6 +33,10 @@ class RegistryKeyHandle {
 
     /// A value of a type other than text and number comes back as its type alone.
     LSTATUS Query(const std::wstring& name, RawRegistryValue& value) const;
+    /// The value as it stands, of whatever type.
+    LSTATUS QueryBytes(const std::wstring& name, DWORD& type, std::string& bytes) const;
+    [[nodiscard]] LSTATUS SetBytes(const std::wstring& name, DWORD type, std::string_view bytes) const;
+    [[nodiscard]] LSTATUS Delete(const std::wstring& name) const;
     [[nodiscard]] LSTATUS SetText(const std::wstring& name, const std::wstring& text) const;
     [[nodiscard]] LSTATUS SetNumber(const std::wstring& name, std::uint32_t number) const;
 

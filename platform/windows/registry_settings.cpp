@@ -1,6 +1,11 @@
 #include "platform/windows/registry_settings.h"
 
+#include <array>
+#include <utility>
+
+#include "platform/code_page.h"
 #include "platform/windows/registry_key.h"
+#include "platform/windows/settings_undo.h"
 #include "platform/windows/wide_text.h"
 
 namespace lv {
@@ -8,9 +13,16 @@ namespace lv {
 namespace {
 
 constexpr std::string_view kSettings = "Software\\VB and VBA Program Settings\\";
+constexpr const wchar_t* kNote = L"Unfinished Group";
+constexpr DWORD kLockMilliseconds = 5000;
 
 std::wstring PathOf(std::string_view application, std::string_view section) {
     return ToWide(std::string(kSettings) + std::string(application) + "\\" + std::string(section));
+}
+
+std::string HeldKey(std::string_view application, std::string_view section, std::string_view key) {
+    const std::string names = std::string(application) + '\0' + std::string(section) + '\0' + std::string(key);
+    return LowerCase(names);
 }
 
 bool CannotBeNamed(std::string_view text) {
@@ -31,14 +43,88 @@ Error ErrorOfStore(LSTATUS status) {
     }
 }
 
+LSTATUS WriteText(const std::wstring& path, const std::wstring& name, const std::wstring& value) {
+    RegistryKeyHandle key;
+    const LSTATUS failed = key.OpenOrMake(path, KEY_SET_VALUE);
+    return failed != ERROR_SUCCESS ? failed : key.SetText(name, value);
+}
+
+LSTATUS WriteNote(const std::wstring& path, const std::vector<FormerValue>& former) {
+    RegistryKeyHandle key;
+    const LSTATUS failed = key.OpenOrMake(path, KEY_SET_VALUE);
+    return failed != ERROR_SUCCESS ? failed : key.SetBytes(kNote, REG_BINARY, PackFormerValues(former));
+}
+
+LSTATUS DeleteNote(const std::wstring& path) {
+    RegistryKeyHandle key;
+    const LSTATUS failed = key.Open(path, KEY_SET_VALUE);
+    return failed != ERROR_SUCCESS ? failed : key.Delete(kNote);
+}
+
+// What cannot be put back now could not be later either: the note goes in any case.
+void TakeBack(const std::wstring& notePath, const std::vector<FormerValue>& former) {
+    for (const FormerValue& value : former) {
+        (void)PutBack(value);
+    }
+    (void)DeleteNote(notePath);
+}
+
+void TakeBackUnfinished(const std::wstring& notePath) {
+    const FormerValue note = ValueNow(notePath, kNote);
+    if (note.WasThere) {
+        TakeBack(notePath, UnpackFormerValues(note.Bytes).value_or(std::vector<FormerValue>()));
+    }
+}
+
+// Nobody else of this user's writes a group, or takes one back, while this lives. A process that dies lets go.
+class GroupLock {
+  public:
+    GroupLock() {
+        std::array<wchar_t, 257> user{};
+        auto size = static_cast<DWORD>(user.size());
+        GetUserNameW(user.data(), &size);
+        const std::wstring name = L"Global\\lorvane3d group of settings of " + std::wstring(user.data());
+        mutex_ = CreateMutexW(nullptr, FALSE, name.c_str());
+        const DWORD got = mutex_ != nullptr ? WaitForSingleObject(mutex_, kLockMilliseconds) : WAIT_FAILED;
+        mayGoOn_ = got != WAIT_TIMEOUT;  // a system that makes no such lock has to do without
+    }
+    ~GroupLock() {
+        if (mutex_ != nullptr) {
+            ReleaseMutex(mutex_);  // refused if it was not ours
+            CloseHandle(mutex_);
+        }
+    }
+    GroupLock(const GroupLock&) = delete;
+    GroupLock& operator=(const GroupLock&) = delete;
+
+    [[nodiscard]] bool MayGoOn() const { return mayGoOn_; }
+
+  private:
+    HANDLE mutex_ = nullptr;
+    bool mayGoOn_ = false;
+};
+
 }  // namespace
+
+RegistrySettings::RegistrySettings(std::string_view application)
+    : notePath_(ToWide(std::string(kSettings) + std::string(application))) {
+    const GroupLock lock;
+    if (lock.MayGoOn()) {
+        TakeBackUnfinished(notePath_);
+    }
+}
 
 std::optional<std::string> RegistrySettings::Read(std::string_view application, std::string_view section,
                                                   std::string_view key) {
+    if (CannotBeNamed(application) || CannotBeNamed(section) || CannotBeNamed(key)) {
+        return std::nullopt;
+    }
+    if (const auto held = held_.find(HeldKey(application, section, key)); held != held_.end()) {
+        return FromWideLossy(held->second.Value);
+    }
     RegistryKeyHandle opened;
     RawRegistryValue value;
-    if (CannotBeNamed(application) || CannotBeNamed(section) || CannotBeNamed(key) ||
-        opened.Open(PathOf(application, section), KEY_QUERY_VALUE) != ERROR_SUCCESS ||
+    if (opened.Open(PathOf(application, section), KEY_QUERY_VALUE) != ERROR_SUCCESS ||
         opened.Query(ToWide(key), value) != ERROR_SUCCESS || value.Type != REG_SZ) {
         return std::nullopt;
     }
@@ -47,14 +133,80 @@ std::optional<std::string> RegistrySettings::Read(std::string_view application, 
 
 Error RegistrySettings::Write(std::string_view application, std::string_view section, std::string_view key,
                               std::string_view value) {
+    if (depth_ > 0 && groupFault_) {
+        return groupFault_;
+    }
     if (CannotBeNamed(application) || CannotBeNamed(section) || CannotBeNamed(key)) {
+        Error failed = MakeError(error::kDeviceFault);
+        if (depth_ > 0) {
+            groupFault_ = failed;
+            held_.clear();
+        }
+        return failed;
+    }
+    if (depth_ == 0) {
+        return ErrorOfStore(WriteText(PathOf(application, section), ToWide(key), ToWide(value)));
+    }
+    held_[HeldKey(application, section, key)] = {PathOf(application, section), ToWide(key), ToWide(value)};
+    return {};
+}
+
+void RegistrySettings::BeginGroup() {
+    if (depth_++ == 0) {
+        groupFault_ = {};
+    }
+}
+
+Error RegistrySettings::EndGroup() {
+    if (depth_ == 0 || --depth_ > 0) {
+        return {};
+    }
+    if (!groupFault_ && !held_.empty()) {
+        groupFault_ = WriteHeld();
+    }
+    held_.clear();
+    return std::exchange(groupFault_, {});
+}
+
+Error RegistrySettings::WriteHeld() {
+    const GroupLock lock;
+    if (!lock.MayGoOn()) {
         return MakeError(error::kDeviceFault);
     }
-    RegistryKeyHandle opened;
-    if (const LSTATUS failed = opened.OpenOrMake(PathOf(application, section), KEY_SET_VALUE)) {
-        return ErrorOfStore(failed);
+    TakeBackUnfinished(notePath_);
+    DropUnchanged();
+    if (held_.empty()) {
+        return {};
     }
-    return ErrorOfStore(opened.SetText(ToWide(key), ToWide(value)));
+    std::vector<FormerValue> former;
+    for (const auto& [names, held] : held_) {
+        former.push_back(ValueNow(held.Path, held.Name));
+    }
+    BeforeEachStep();
+    LSTATUS failed = WriteNote(notePath_, former);
+    for (auto held = held_.begin(); failed == ERROR_SUCCESS && held != held_.end(); ++held) {
+        BeforeEachStep();
+        failed = WriteText(held->second.Path, held->second.Name, held->second.Value);
+    }
+    if (failed == ERROR_SUCCESS) {
+        BeforeEachStep();
+        failed = DeleteNote(notePath_);
+    }
+    if (failed != ERROR_SUCCESS) {
+        TakeBack(notePath_, former);
+    }
+    return ErrorOfStore(failed);
+}
+
+// As the stores of other systems do, so that a group which changes nothing writes nothing.
+void RegistrySettings::DropUnchanged() {
+    std::erase_if(held_, [](const auto& entry) {
+        RegistryKeyHandle key;
+        RawRegistryValue value;
+        return key.Open(entry.second.Path, KEY_QUERY_VALUE) == ERROR_SUCCESS &&
+               key.Query(entry.second.Name, value) == ERROR_SUCCESS && value.Type == REG_SZ &&
+               value.Text == entry.second.Value;
+    });
 }
 
 }  // namespace lv

@@ -131,7 +131,9 @@ Error ReplaceSystemFile(const std::wstring& path, const FileFiller& fill) {
         return MakeError(error::kPathFileAccess);
     }
     const std::wstring directory = DirectoryOf(target);
-    target = directory + NameAsFound(target);
+    if (exists) {
+        target = directory + NameAsFound(target);
+    }
     NewFile made(directory);
     if (!made.IsOpen()) {
         return made.Failed() == ERROR_FILE_NOT_FOUND ? MakeError(error::kPathNotFound) : ErrorOfSystem(made.Failed());

@@ -109,6 +109,18 @@ std::optional<WindowsFiles::Place> WindowsFiles::Find(std::string_view path) con
     return Place{*std::move(taken), std::move(system)};
 }
 
+// Of what is to be opened, made or deleted: one thing, never what a pattern finds.
+Result<WindowsFiles::Place> WindowsFiles::FindNamed(std::string_view path) const {
+    auto place = Find(path);
+    if (!place) {
+        return MakeError(error::kPathNotFound);
+    }
+    if (!HasPlainNames(place->Path)) {
+        return MakeError(error::kBadFileName);
+    }
+    return *std::move(place);
+}
+
 std::vector<std::string> WindowsFiles::Drives() {
     std::vector<std::string> drives;
     const DWORD there = GetLogicalDrives();
@@ -171,51 +183,51 @@ Result<WalkedDirectory> WindowsFiles::ListForWalk(std::string_view directory) {
 
 Result<std::string> WindowsFiles::Read(std::string_view path) {
     const Quiet quiet;
-    const auto place = Find(path);
-    if (!place) {
-        return MakeError(error::kPathNotFound);
+    const auto place = FindNamed(path);
+    if (!place.Ok()) {
+        return place.Fault;
     }
-    const auto file = OpenPlainFile(place->System);
+    const auto file = OpenPlainFile(place.Value.System);
     return file.Ok() ? ReadToEnd(file.Value->Get()) : file.Fault;
 }
 
 Result<std::unique_ptr<RandomAccessFile>> WindowsFiles::Open(std::string_view path) {
     const Quiet quiet;
-    const auto place = Find(path);
-    if (!place) {
-        return MakeError(error::kPathNotFound);
+    const auto place = FindNamed(path);
+    if (!place.Ok()) {
+        return place.Fault;
     }
-    return OpenPlainFileAnywhere(place->System);
+    return OpenPlainFileAnywhere(place.Value.System);
 }
 
 Error WindowsFiles::Replace(std::string_view path, std::string_view bytes) {
     const Quiet quiet;
-    const auto place = Find(path);
-    if (!place) {
-        return MakeError(error::kPathNotFound);
+    const auto place = FindNamed(path);
+    if (!place.Ok()) {
+        return place.Fault;
     }
-    if (EndsInSeparator(path) || place->Path.Parts.empty()) {
+    if (EndsInSeparator(path) || place.Value.Path.Parts.empty()) {
         return MakeError(error::kPathFileAccess);
     }
-    return ReplaceSystemFile(place->System, [bytes](HANDLE file) { return WriteAll(file, bytes); });
+    return ReplaceSystemFile(place.Value.System, [bytes](HANDLE file) { return WriteAll(file, bytes); });
 }
 
 Error WindowsFiles::Copy(std::string_view from, std::string_view to) {
     const Quiet quiet;
-    const auto source = Find(from);
-    const auto target = Find(to);
-    if (!source || !target) {
-        return MakeError(error::kPathNotFound);
+    const auto source = FindNamed(from);
+    const auto target = FindNamed(to);
+    if (!source.Ok() || !target.Ok()) {
+        return source.Ok() ? target.Fault : source.Fault;
     }
-    if (EndsInSeparator(to) || target->Path.Parts.empty()) {
+    if (EndsInSeparator(to) || target.Value.Path.Parts.empty()) {
         return MakeError(error::kPathFileAccess);
     }
-    const auto file = OpenPlainFile(source->System);
+    const auto file = OpenPlainFile(source.Value.System);
     if (!file.Ok()) {
         return file.Fault;
     }
     // An open file keeps its place: a copy onto itself has to let go of it first.
-    return ReplaceSystemFile(target->System, [&](HANDLE made) {
+    return ReplaceSystemFile(target.Value.System, [&](HANDLE made) {
         const DWORD failed = CopyAll(file.Value->Get(), made);
         file.Value->Close();
         return failed;
@@ -223,11 +235,11 @@ Error WindowsFiles::Copy(std::string_view from, std::string_view to) {
 }
 
 Error WindowsFiles::Delete(std::string_view path) {
-    const auto place = Find(path);
-    if (!place) {
-        return MakeError(error::kPathNotFound);
+    const auto place = FindNamed(path);
+    if (!place.Ok()) {
+        return place.Fault;
     }
-    const DWORD attributes = AttributesOf(place->System);
+    const DWORD attributes = AttributesOf(place.Value.System);
     if (attributes == INVALID_FILE_ATTRIBUTES) {
         return ErrorOfSystem(GetLastError());
     }
@@ -238,16 +250,16 @@ Error WindowsFiles::Delete(std::string_view path) {
         return MakeError(error::kPathFileAccess);
     }
     const Quiet quiet;
-    return DeleteFileW(place->System.c_str()) != 0 ? Error() : ErrorOfSystem(GetLastError());
+    return DeleteFileW(place.Value.System.c_str()) != 0 ? Error() : ErrorOfSystem(GetLastError());
 }
 
 Error WindowsFiles::MakeDirectory(std::string_view path) {
     const Quiet quiet;
-    const auto place = Find(path);
-    if (!place) {
-        return MakeError(error::kPathNotFound);
+    const auto place = FindNamed(path);
+    if (!place.Ok()) {
+        return place.Fault;
     }
-    if (CreateDirectoryW(place->System.c_str(), nullptr) != 0) {
+    if (CreateDirectoryW(place.Value.System.c_str(), nullptr) != 0) {
         return {};
     }
     const DWORD failed = GetLastError();

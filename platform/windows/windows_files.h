@@ -48,6 +48,7 @@ class WindowsFiles : public Files {
         std::wstring System;
     };
     [[nodiscard]] std::optional<Place> Find(std::string_view path) const;
+    [[nodiscard]] Result<Place> FindNamed(std::string_view path) const;
 
     FullPath current_;
 };

@@ -85,4 +85,8 @@ Error WindowsProcesses::StartProgram(std::string_view program, const std::vector
     return ShellExecuteExW(&how) != 0 ? Error() : StartError(GetLastError(), std::string(program));
 }
 
+Error WindowsProcesses::StartHelpViewer(std::string_view path) {
+    return StartProgram("winhlp32.exe", {std::string(path)});
+}
+
 }  // namespace lv

@@ -175,16 +175,40 @@ TEST_F(WindowServices, HelpIsLookedForInTheProgramsDirectoryFirst) {
     run.AppDirectory = "C:\\LORVANE";
     run.DefaultGameDirectory = "C:\\QUAKE";
     for (const char* path :
-         {"C:\\LORVANE\\LV3D.hlp", "C:\\Progra~1\\ostran~1\\lorvan~1\\LV3D.hlp", "C:\\QUAKE\\LV3D.hlp"}) {
+         {"C:\\QUAKE\\LV3D.hlp", "C:\\Progra~1\\ostran~1\\lorvan~1\\LV3D.hlp", "C:\\LORVANE\\LV3D.hlp"}) {
         system.Disk.AddFile(path);
     }
-    EXPECT_EQ(FindHelpFile(run), "C:\\LORVANE\\LV3D.hlp");
+    EXPECT_EQ(HelpFiles(run), (std::vector<Text>{"C:\\LORVANE\\LV3D.hlp", "C:\\Progra~1\\ostran~1\\lorvan~1\\LV3D.hlp",
+                                                 "C:\\QUAKE\\LV3D.hlp"}));
     (void)system.Disk.Delete("C:\\LORVANE\\LV3D.hlp");
-    EXPECT_EQ(FindHelpFile(run), "C:\\Progra~1\\ostran~1\\lorvan~1\\LV3D.hlp");
     (void)system.Disk.Delete("C:\\Progra~1\\ostran~1\\lorvan~1\\LV3D.hlp");
-    EXPECT_EQ(FindHelpFile(run), "C:\\QUAKE\\LV3D.hlp");
+    EXPECT_EQ(HelpFiles(run), (std::vector<Text>{"C:\\QUAKE\\LV3D.hlp"}));
     (void)system.Disk.Delete("C:\\QUAKE\\LV3D.hlp");
-    EXPECT_EQ(FindHelpFile(run), std::nullopt);
+    EXPECT_TRUE(HelpFiles(run).empty());
+}
+
+TEST_F(WindowServices, TheManualIsShownByTheSystemsOwnViewer) {
+    run.AppDirectory = "C:\\LORVANE";
+    run.DefaultGameDirectory = "C:\\QUAKE";
+    system.Disk.AddFile("C:\\LORVANE\\handbook\\handbook.hhp");
+    system.Disk.AddFile("C:\\QUAKE\\LV3D.hlp");
+    system.Programs.HasHelpViewer = true;
+    OpenHelpFile(run);
+    EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"winhlp32.exe|C:\\QUAKE\\LV3D.hlp"}));
+    EXPECT_TRUE(user.Opened.empty());
+}
+
+TEST_F(WindowServices, WithoutThatViewerTheHandbookIsShown) {
+    run.AppDirectory = "C:\\LORVANE";
+    system.Disk.AddFile("C:\\LORVANE\\LV3D.hlp");
+    system.Disk.AddFile("C:\\LORVANE\\handbook\\handbook.hhp");
+    OpenHelpFile(run);
+    EXPECT_EQ(user.Opened, (std::vector<Text>{"C:\\LORVANE\\handbook\\handbook.hhp"}));
+    user.Opened.clear();
+    system.Programs.HasHelpViewer = true;
+    system.Programs.Refuse = {70, "Permission denied: winhlp32.exe"};
+    OpenHelpFile(run);
+    EXPECT_EQ(user.Opened, (std::vector<Text>{"C:\\LORVANE\\handbook\\handbook.hhp"}));
 }
 
 TEST_F(WindowServices, TheHandbookIsHelpToo) {
@@ -208,8 +232,17 @@ TEST_F(WindowServices, MissingHelpIsTold) {
 TEST_F(WindowServices, AViewerThatFailsIsTold) {
     run.AppDirectory = "C:\\LORVANE";
     system.Disk.AddFile("C:\\LORVANE\\LV3D.hlp");
-    user.HelpFails = {53, "File not found: winhlp32.exe"};
+    system.Programs.HasHelpViewer = true;
+    system.Programs.Refuse = {53, "File not found: winhlp32.exe"};
     user.Expect({"Lorvane 3D", "Error Number = 53\r\nError String = File not found: winhlp32.exe", 0, false, true});
+    OpenHelpFile(run);
+}
+
+TEST_F(WindowServices, AHandbookThatFailsIsTold) {
+    run.AppDirectory = "C:\\LORVANE";
+    system.Disk.AddFile("C:\\LORVANE\\handbook\\handbook.hhp");
+    user.HelpFails = {53, "File not found"};
+    user.Expect({"Lorvane 3D", "Error Number = 53\r\nError String = File not found", 0, false, true});
     OpenHelpFile(run);
 }
 

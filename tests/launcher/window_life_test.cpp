@@ -177,6 +177,33 @@ TEST_F(WindowLife, ExitNotesAnOpenVideoProfileWindowAndUnloadsIt) {
     EXPECT_FALSE(ProfilesOpen());
 }
 
+TEST_F(WindowLife, TheSessionsEndKeepsWhatExitKeeps) {
+    window.Placement = {150, 300, 4500, 6000, kWindowNormal};
+    VideoProfile_Frm_Load(launcher.VideoProfile);
+    SessionEnds(launcher);
+    EXPECT_EQ(Stored("LV_Frm", "Top"), "150");
+    EXPECT_EQ(Stored("LV_Frm", "Left"), "300");
+    EXPECT_EQ(Stored("VideoProfile_Frm", "LoadAtStartup"), "1");
+    EXPECT_TRUE(run.Ended);
+}
+
+TEST_F(WindowLife, TheSessionsEndBehindAnExitKeepsNothingMore) {
+    window.Placement = {150, 300, 4500, 6000, kWindowNormal};
+    VideoProfile_Frm_Load(launcher.VideoProfile);
+    Exit_Bar_Click(launcher);
+    window.Placement.Top = 900;
+    SessionEnds(launcher);
+    EXPECT_EQ(Stored("LV_Frm", "Top"), "150");
+    EXPECT_EQ(Stored("VideoProfile_Frm", "LoadAtStartup"), "1");
+}
+
+TEST_F(WindowLife, TheSessionsEndBeforeTheWindowIsThereKeepsNothing) {
+    run.MainFormLoaded = false;
+    SessionEnds(launcher);
+    EXPECT_EQ(Stored("LV_Frm", "Top"), "(none)");
+    EXPECT_EQ(Stored("VideoProfile_Frm", "LoadAtStartup"), "(none)");
+}
+
 TEST_F(WindowLife, ALaunchWithExitOnLaunchExitsAsTheMenuWould) {
     AddGames();
     Load();

@@ -153,6 +153,31 @@ TYPED_TEST(AnyFiles, DeleteFilesOnly) {
     EXPECT_TRUE(this->disk_.DirectoryExists(this->On("C:\\DIR")));
 }
 
+TYPED_TEST(AnyFiles, TakeNoNameForAPattern) {
+    EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\DIR")).Number, 0);
+    for (const char* name : {"C:\\A.CFG", "C:\\B.CFG", "C:\\DIR\\A.CFG"}) {
+        EXPECT_EQ(this->disk_.Replace(this->On(name), "mine").Number, 0);
+    }
+    for (const char* pattern : {"C:\\*", "C:\\*.*", "C:\\*.CFG", "C:\\?.CFG", "C:\\A.CF?", "C:\\D*\\A.CFG", "C:\\<.CFG",
+                                "C:\\>.CFG", "C:\\A\"CFG", "C:\\DIR\\*"}) {
+        const std::string path = this->On(pattern);
+        EXPECT_FALSE(this->disk_.FileExists(path)) << pattern;
+        EXPECT_FALSE(this->disk_.Read(path).Ok()) << pattern;
+        EXPECT_FALSE(this->disk_.Open(path).Ok()) << pattern;
+        EXPECT_NE(this->disk_.Delete(path).Number, 0) << pattern;
+        EXPECT_NE(this->disk_.RemoveDirectory(path).Number, 0) << pattern;
+        EXPECT_NE(this->disk_.ChangeDirectory(path).Number, 0) << pattern;
+        EXPECT_FALSE(this->disk_.List(path).Ok()) << pattern;
+        EXPECT_NE(this->disk_.Copy(path, this->On("C:\\B.CFG")).Number, 0) << pattern;
+        // A file of that very name, or an error.
+        (void)this->disk_.Replace(path, "theirs");
+        (void)this->disk_.Copy(this->On("C:\\B.CFG"), path);
+    }
+    for (const char* name : {"C:\\A.CFG", "C:\\B.CFG", "C:\\DIR\\A.CFG"}) {
+        EXPECT_EQ(this->disk_.Read(this->On(name)).Value, "mine") << name;
+    }
+}
+
 TYPED_TEST(AnyFiles, MakeAndRemoveDirectories) {
     EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\DIR")).Number, 0);
     EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\dir")).Number, 75);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <csignal>
 #include <thread>
 
 #include "tests/program/program_run.h"
@@ -100,6 +101,39 @@ TEST(Lifecycle, DoesNotGrowWithEveryChangeOfItsParts) {
         EXPECT_TRUE(WaitUntil([&] { return PlaceOf(window).Height == whole.Height; }));
         EXPECT_EQ(PlaceOf(window).Width, whole.Width);
     }
+}
+
+TEST(Lifecycle, LetsTheSessionEnd) {
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT}) {
+        ProgramHome home("session_end");
+        home.Prepare();
+        home.Set("LV_Frm", "Left", "750");
+        home.Set("LV_Frm", "Top", "4500");
+        ProgramRun program(home);
+        const std::string window = program.WaitForWindow();
+        ASSERT_TRUE(Activate(window));
+        const Rectangle before = PlaceOf(window);
+        OutputOf({"xdotool", "windowmove", window, "60", "320"});
+        ASSERT_TRUE(WaitUntil([&] { return PlaceOf(window).Left != before.Left; }));
+        program.Signal(signal);
+        EXPECT_EQ(program.WaitForEnd(), 128 + signal);
+        EXPECT_NE(home.Get("LV_Frm", "Left"), "750");
+        EXPECT_NE(home.Get("LV_Frm", "Top"), "4500");
+        EXPECT_EQ(home.Get("VideoProfile_Frm", "LoadAtStartup"), "0");
+    }
+}
+
+TEST(Lifecycle, LetsTheSessionEndUnderABox) {
+    ProgramHome home("session_end_box");
+    home.Prepare();
+    ProgramRun program(home);
+    ASSERT_TRUE(Activate(program.WaitForWindow()));
+    PressKey("alt+h");
+    PressKey("a");
+    ASSERT_NE(program.WaitForDialog("About"), "");
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.WaitForEnd(), 128 + SIGTERM);
+    EXPECT_EQ(home.Get("VideoProfile_Frm", "LoadAtStartup"), "0");
 }
 
 TEST(EmptyList, IsAskedAboutAndStaysEmptyOnNo) {

@@ -168,6 +168,10 @@ std::optional<int> OwnProcess::WaitForEnd(int milliseconds) {
     return code_;
 }
 
+void OwnProcess::Signal(int number) {
+    kill(id_, number);
+}
+
 void OwnProcess::Kill() {
     if (IsRunning()) {
         kill(id_, SIGKILL);

@@ -60,6 +60,7 @@ class OwnProcess {
     [[nodiscard]] bool IsRunning();
     /// The exit code once it has ended by itself; nothing while it runs, and 128 + N after signal N.
     std::optional<int> WaitForEnd(int milliseconds = 10000);
+    void Signal(int number);
     /// SIGKILL, and waits for the end.
     void Kill();
 

@@ -27,7 +27,7 @@ struct SystemDisk {
 struct SystemSettings {
     EmptyKey Ours{L"Software\\VB and VBA Program Settings\\Lorvane 3D"};
     EmptyKey A{L"Software\\VB and VBA Program Settings\\a"};
-    RegistrySettings Store;
+    RegistrySettings Store{"Lorvane 3D"};
 };
 
 struct SystemRegistry {

@@ -120,6 +120,24 @@ TEST(WindowsFiles, LeaveNothingBesideAReplacedFile) {
     EXPECT_EQ(NamesOf(made.Disk.List("T:\\").Value), (Names{"..\\", ".\\", "a.cfg", "b.cfg"}));
 }
 
+TEST(WindowsFiles, TakeNoNameForAPattern) {
+    SystemDisk made;
+    EXPECT_EQ(made.Disk.Replace("T:\\a.cfg", "mine").Number, 0);
+    for (const char* name : {"<", ">", "a:b", "a\"cfg", "a|b", "?.cfg", "*.cfg", "*\\a.cfg"}) {
+        const std::string path = std::string("T:\\") + name;
+        EXPECT_EQ(made.Disk.Replace(path, "x").Number, 52) << name;
+        EXPECT_EQ(made.Disk.Copy("T:\\a.cfg", path).Number, 52) << name;
+        EXPECT_EQ(made.Disk.Copy(path, "T:\\a.cfg").Number, 52) << name;
+        EXPECT_EQ(made.Disk.Delete(path).Number, 52) << name;
+        EXPECT_EQ(made.Disk.Read(path).Fault.Number, 52) << name;
+        EXPECT_EQ(made.Disk.Open(path).Fault.Number, 52) << name;
+        EXPECT_EQ(made.Disk.MakeDirectory(path).Number, 52) << name;
+    }
+    EXPECT_EQ(made.Disk.Delete("T:\\*").Text, "Bad file name or number");
+    EXPECT_EQ(NamesOf(made.Disk.List("T:\\").Value), (Names{"..\\", ".\\", "a.cfg"}));
+    EXPECT_EQ(BytesOf(L"T:\\a.cfg"), "mine");
+}
+
 TEST(WindowsFiles, TakeADeviceForNoFile) {
     SystemDisk made;
     EXPECT_EQ(made.Disk.Read("T:\\NUL").Fault.Number, 75);

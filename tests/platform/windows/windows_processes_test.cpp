@@ -116,6 +116,14 @@ TEST(StartProgram, FindsTheSystemsProgramsByTheirNames) {
     EXPECT_FALSE(Yard::Said().empty());
 }
 
+TEST(StartHelpViewer, HandsItTheManual) {
+    Yard yard;
+    yard.CopyGame("T:\\QUAKE\\WINHLP32.EXE");
+    EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\QUAKE").Number, 0);
+    EXPECT_EQ(yard.Programs.StartHelpViewer("C:\\My games\\LV3D.hlp").Number, 0);
+    EXPECT_THAT(After("ARGUMENT=", Yard::Said()), ElementsAre("C:\\My games\\LV3D.hlp"));
+}
+
 TEST(StartProgram, SaysWhichProgramIsMissing) {
     Yard yard;
     const Error failed = yard.Programs.StartProgram("T:\\NONE.EXE", {});

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "tests/program/windows/program_run.h"
 #include "tests/support/windows/own_window.h"
 
@@ -12,6 +14,14 @@ using ::testing::HasSubstr;
 
 constexpr const wchar_t* kSetupTitle = L"Lorvane 3D Setup";
 constexpr const wchar_t* kOurKey = L"\"HKCU\\Software\\VB and VBA Program Settings\\Lorvane 3D";
+
+// What the window answers to a message that the system sends when the session ends.
+std::optional<DWORD_PTR> Ask(HWND window, UINT message, WPARAM first) {
+    DWORD_PTR answer = 0;
+    const LRESULT sent =
+        SendMessageTimeoutW(window, message, first, static_cast<LPARAM>(ENDSESSION_LOGOFF), SMTO_BLOCK, 5000, &answer);
+    return sent != 0 ? std::optional(answer) : std::nullopt;
+}
 
 }  // namespace
 
@@ -55,6 +65,42 @@ TEST(Lifecycle, ReadsWhatRegWrote) {
     ProgramRun program;
     EXPECT_EQ(program.EndByF12(), 0u);
     EXPECT_EQ(home.Get("LV-Stuff", "RunCount"), "42");
+}
+
+TEST(Lifecycle, LetsTheSessionEnd) {
+    WindowsHome home;
+    home.Prepare();
+    home.Set("Options", "ShowAll", "No");
+    ProgramRun program;
+    HWND window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    SetWindowPos(window, nullptr, 40, 250, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ASSERT_TRUE(WaitUntil([&] { return PlaceOf(window).left == 40 && PlaceOf(window).top == 250; }));
+    EXPECT_EQ(Ask(window, WM_QUERYENDSESSION, 0), 1u);
+    EXPECT_NE(IsWindowVisible(window), 0);
+    Ask(window, WM_ENDSESSION, FALSE);  // somebody else wanted to stay
+    EXPECT_FALSE(program.WaitForEnd(1000));
+    EXPECT_EQ(home.Get("LV_Frm", "Left"), "(none)");
+    EXPECT_EQ(Ask(window, WM_QUERYENDSESSION, 0), 1u);
+    Ask(window, WM_ENDSESSION, TRUE);
+    // What is kept is kept when the message is answered: the system waits no longer.
+    EXPECT_EQ(home.Get("LV_Frm", "Left"), "600");
+    EXPECT_EQ(home.Get("LV_Frm", "Top"), "3750");
+    EXPECT_EQ(home.Get("VideoProfile_Frm", "LoadAtStartup"), "0");
+    EXPECT_EQ(program.WaitForEnd(), 0u);
+}
+
+TEST(Lifecycle, LetsTheSessionEndFromTheTray) {
+    WindowsHome home;
+    home.Prepare();
+    ProgramRun program;
+    HWND window = program.WaitForWindow();
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(WaitUntil([&] { return IsWindowVisible(window) == 0; }));
+    EXPECT_EQ(Ask(window, WM_QUERYENDSESSION, 0), 1u);
+    Ask(window, WM_ENDSESSION, TRUE);
+    EXPECT_NE(home.Get("LV_Frm", "Left"), "(none)");
+    EXPECT_EQ(program.WaitForEnd(), 0u);
 }
 
 TEST(FirstRun, FindsTheGameByItsSearchAndF2LaunchesIt) {

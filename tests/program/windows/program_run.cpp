@@ -210,4 +210,16 @@ RECT PlaceOf(HWND window) {
     return place;
 }
 
+std::wstring TextOfBox(HWND box) {
+    std::array<wchar_t, 1024> text{};
+    for (HWND child = nullptr; (child = FindWindowExW(box, child, nullptr, nullptr)) != nullptr;) {
+        std::array<wchar_t, 64> kind{};
+        GetClassNameW(child, kind.data(), static_cast<int>(kind.size()));
+        if (std::wstring(kind.data()) == L"Edit") {
+            SendMessageW(child, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+        }
+    }
+    return text.data();
+}
+
 }  // namespace lv

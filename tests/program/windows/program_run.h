@@ -41,7 +41,7 @@ class WindowsHome {
   private:
     TestDrive drive_;
     EmptyKey settings_{L"Software\\VB and VBA Program Settings\\Lorvane 3D"};
-    RegistrySettings store_;
+    RegistrySettings store_{"Lorvane 3D"};
 };
 
 /// What follows the start on those of the lines that begin with it.
@@ -77,5 +77,8 @@ bool Activate(HWND window, int milliseconds = 10000);
 void PressKey(WORD key, bool withAlt = false);
 
 RECT PlaceOf(HWND window);
+
+/// What a question box says.
+std::wstring TextOfBox(HWND box);
 
 }  // namespace lv
