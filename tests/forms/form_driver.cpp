@@ -1,15 +1,12 @@
 #include "tests/forms/form_driver.h"
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <wx/dialog.h>
 #include <wx/evtloop.h>
-#include <wx/filename.h>
 #include <wx/stopwatch.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
 
-#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -73,18 +70,6 @@ bool SettleUntil(const std::function<bool()>& holds, int milliseconds) {
     return holds();
 }
 
-bool HasKeyboard(wxWindow* control) {
-    using GetFocus = void* (*)(void*);
-    using IsAncestor = int (*)(void*, void*);
-    const auto getFocus = reinterpret_cast<GetFocus>(dlsym(RTLD_DEFAULT, "gtk_window_get_focus"));
-    const auto isAncestor = reinterpret_cast<IsAncestor>(dlsym(RTLD_DEFAULT, "gtk_widget_is_ancestor"));
-    if (getFocus == nullptr || isAncestor == nullptr) {
-        return false;
-    }
-    void* focus = getFocus(wxGetTopLevelParent(control)->GetHandle());
-    return focus != nullptr && (focus == control->GetHandle() || isAncestor(focus, control->GetHandle()) != 0);
-}
-
 void ClickOn(wxWindow* control) {
     PressButtonOn(control, wxMOUSE_BTN_LEFT);
 }
@@ -123,15 +108,6 @@ void DoAndAnswer(const std::function<void()>& open, const std::function<void()>&
     open();
     EXPECT_TRUE(SettleUntil([&] { return acted && OpenModals() <= before; })) << "the window did not come or go";
     Settle();
-}
-
-// By the screen's own eyes: the toolkit's view of the screen does not change once it was looked at.
-void Screenshot(const std::string& name) {
-    Settle(300);
-    const std::string folder = LV_TEST_BINARY_DIR "/../screenshots";
-    wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
-    const std::string command = "import -window root '" + folder + "/" + name + ".png'";
-    EXPECT_EQ(std::system(command.c_str()), 0) << command;
 }
 
 }  // namespace lv

@@ -38,6 +38,9 @@ void WhenModal(const std::function<void()>& act);
 /// Does what opens another modal window, acts in that, and waits until it is gone.
 void DoAndAnswer(const std::function<void()>& open, const std::function<void()>& act);
 
+/// Opens a menu by its access key, keeps a picture of it, and closes it again.
+void PassMenu(int key, const std::string& picture);
+
 /// Keeps a picture of the screen as <build>/screenshots/<name>.png.
 void Screenshot(const std::string& name);
 
