@@ -30,9 +30,7 @@ class EntryForms : public ::testing::Test {
         form = new LvForm(launcher, user);
         EXPECT_TRUE(LV_Frm_Load(launcher));
         ShowMainWindow(launcher);
-        form->Raise();
-        SettleUntil([this] { return form->IsActive(); });
-        Settle();
+        BringForward(form);
     }
     ~EntryForms() override {
         form->Destroy();

@@ -5,6 +5,7 @@
 #include <wx/evtloop.h>
 #include <wx/stopwatch.h>
 #include <wx/timer.h>
+#include <wx/toplevel.h>
 #include <wx/uiaction.h>
 
 #include <memory>
@@ -68,6 +69,12 @@ bool SettleUntil(const std::function<bool()>& holds, int milliseconds) {
         wxMilliSleep(5);
     }
     return holds();
+}
+
+void BringForward(wxTopLevelWindow* window) {
+    window->Raise();
+    EXPECT_TRUE(SettleUntil([window] { return window->IsActive(); })) << window->GetName() << " did not come forward";
+    Settle();
 }
 
 void ClickOn(wxWindow* control) {

@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include <wx/toplevel.h>
 #include <wx/window.h>
 
 #include <functional>
@@ -27,6 +28,9 @@ bool SettleUntil(const std::function<bool()>& holds, int milliseconds = 5000);
 
 /// Whether the keyboard goes to this control or to a part of it. The toolkit's own FindFocus does not see into lists.
 bool HasKeyboard(wxWindow* control);
+
+/// Gives the window the foreground. On a screen with other programs it need not have it by coming up.
+void BringForward(wxTopLevelWindow* window);
 
 void ClickOn(wxWindow* control);
 void RightClickOn(wxWindow* control);

@@ -37,9 +37,7 @@ class LvForm_ : public ::testing::Test {
         form = new LvForm(launcher, user);
         EXPECT_TRUE(LV_Frm_Load(launcher));
         ShowMainWindow(launcher);
-        form->Raise();
-        SettleUntil([this] { return form->IsActive(); });
-        Settle();
+        BringForward(form);
     }
     ~LvForm_() override {
         form->Destroy();
