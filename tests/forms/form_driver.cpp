@@ -1,15 +1,18 @@
 #include "tests/forms/form_driver.h"
 
 #include <gtest/gtest.h>
-#include <wx/dialog.h>
 #include <wx/evtloop.h>
 #include <wx/stopwatch.h>
 #include <wx/timer.h>
 #include <wx/toplevel.h>
 #include <wx/uiaction.h>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
+
+#include "tests/forms/form_system.h"
+#include "tests/forms/patience.h"
 
 namespace lv {
 
@@ -28,13 +31,10 @@ class PollingTimer : public wxTimer {
     std::function<bool()> act_;
 };
 
-int OpenModals() {
-    int open = 0;
-    for (const wxWindow* window : wxTopLevelWindows) {
-        const auto* dialog = dynamic_cast<const wxDialog*>(window);
-        open += dialog != nullptr && dialog->IsModal() && dialog->IsShownOnScreen() ? 1 : 0;
-    }
-    return open;
+// Those that wait live to the end of the test: one may be waiting while another one acts.
+std::vector<std::unique_ptr<PollingTimer>>& Waiting() {
+    static std::vector<std::unique_ptr<PollingTimer>> timers;
+    return timers;
 }
 
 void PressButtonOn(wxWindow* control, int button) {
@@ -61,6 +61,7 @@ void Settle(int milliseconds) {
 bool SettleUntil(const std::function<bool()>& holds, int milliseconds) {
     const wxStopWatch watch;
     while (watch.Time() < milliseconds) {
+        SignOfLife();
         if (holds()) {
             return true;
         }
@@ -92,9 +93,7 @@ void PressKey(int key, int modifiers) {
 }
 
 void WhenModal(const std::function<void()>& act) {
-    // Timers live to the end of the program: one may be waiting while another one acts.
-    static std::vector<std::unique_ptr<PollingTimer>> timers;
-    timers.push_back(std::make_unique<PollingTimer>([act, before = OpenModals(), shown = 0]() mutable {
+    Waiting().push_back(std::make_unique<PollingTimer>([act, before = OpenModals(), shown = 0]() mutable {
         shown = OpenModals() > before ? shown + 1 : 0;
         if (shown < 4) {
             return false;
@@ -103,6 +102,12 @@ void WhenModal(const std::function<void()>& act) {
         act();
         return true;
     }));
+}
+
+int ForgetModals() {
+    const auto waiting = std::ranges::count_if(Waiting(), [](const auto& timer) { return timer->IsRunning(); });
+    Waiting().clear();
+    return static_cast<int>(waiting);
 }
 
 void DoAndAnswer(const std::function<void()>& open, const std::function<void()>& act) {

@@ -36,8 +36,11 @@ void ClickOn(wxWindow* control);
 void RightClickOn(wxWindow* control);
 void PressKey(int key, int modifiers = 0);
 
-/// Calls back once a modal window more is open than now.
+/// Calls back once a modal window more is open than now. A test failure if none comes before the end of the test.
 void WhenModal(const std::function<void()>& act);
+
+/// Calls nobody back any more; how many were still waiting.
+int ForgetModals();
 
 /// Does what opens another modal window, acts in that, and waits until it is gone.
 void DoAndAnswer(const std::function<void()>& open, const std::function<void()>& act);
