@@ -18,6 +18,8 @@ namespace lv {
 
 namespace {
 
+constexpr int kBetweenKeys = 20;
+
 class PollingTimer : public wxTimer {
   public:
     explicit PollingTimer(std::function<bool()> act) : act_(std::move(act)) { Start(50); }
@@ -89,6 +91,15 @@ void RightClickOn(wxWindow* control) {
 void PressKey(int key, int modifiers) {
     wxUIActionSimulator hand;
     hand.Char(key, modifiers);
+    Settle();
+}
+
+void TypeText(const std::string& text) {
+    wxUIActionSimulator hand;
+    for (const char c : text) {
+        hand.Char(c, c == ':' ? wxMOD_SHIFT : wxMOD_NONE);
+        Settle(kBetweenKeys);
+    }
     Settle();
 }
 

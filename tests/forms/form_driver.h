@@ -36,6 +36,9 @@ void ClickOn(wxWindow* control);
 void RightClickOn(wxWindow* control);
 void PressKey(int key, int modifiers = 0);
 
+/// Types into the field that has the keyboard.
+void TypeText(const std::string& text);
+
 /// Calls back once a modal window more is open than now. A test failure if none comes before the end of the test.
 void WhenModal(const std::function<void()>& act);
 

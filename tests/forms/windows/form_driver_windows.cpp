@@ -113,7 +113,7 @@ void PassMenu(int key, const std::string& picture) {
 }
 
 void Screenshot(const std::string& name) {
-    Settle(300);
+    Settle();
     KeepPicture(name);
 }
 
