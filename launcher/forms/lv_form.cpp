@@ -212,7 +212,7 @@ void LvForm::ShowTray() {
     const bool wanted = launcher_.Window.TrayIcon;
     if (wanted && !tray_) {
         tray_ = std::make_unique<TrayIcon>(
-            [this](int message) { binder_.Run([this, message] { Tray_Click(launcher_, message); }); });
+            this, [this](int message) { binder_.Run([this, message] { Tray_Click(launcher_, message); }); });
     } else if (!wanted && tray_) {
         tray_->RemoveIcon();
         tray_.reset();
@@ -225,7 +225,12 @@ void LvForm::PopUp(TextView menu) {
         return;
     }
     const std::unique_ptr<wxMenu> popped(MakeMenu(launcher_.Window, item));
-    PopupMenu(popped.get());
+    // Windows closes a menu on a click elsewhere only if its window is in the foreground, where a hidden one can't be.
+    if (tray_ && !IsShownOnScreen()) {
+        tray_->PopupMenu(popped.get());
+    } else {
+        PopupMenu(popped.get());
+    }
 }
 
 WindowMeasures LvForm::MeasureWindow() {

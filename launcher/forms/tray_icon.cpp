@@ -16,12 +16,18 @@ bool TellsOfRelease() {
 
 }  // namespace
 
-TrayIcon::TrayIcon(const std::function<void(int)>& click) {
+TrayIcon::TrayIcon(wxEvtHandler* commands, const std::function<void(int)>& click) {
     SetIcon(ProgramIcon().GetIcon(wxSize(24, 24)), "Lorvane 3D");
     Bind(TellsOfRelease() ? wxEVT_TASKBAR_LEFT_UP : wxEVT_TASKBAR_LEFT_DOWN,
          [click](wxTaskBarIconEvent&) { click(kTrayLeftButtonUp); });
     Bind(TellsOfRelease() ? wxEVT_TASKBAR_RIGHT_UP : wxEVT_TASKBAR_RIGHT_DOWN,
          [click](wxTaskBarIconEvent&) { click(kTrayRightButtonUp); });
+    // Not at once: "E&xit" takes the icon away, which still has its menu up. The menu will be gone by then.
+    Bind(wxEVT_MENU, [commands](wxCommandEvent& event) {
+        auto* picked = new wxCommandEvent(wxEVT_MENU, event.GetId());
+        picked->SetEventObject(commands);
+        wxQueueEvent(commands, picked);
+    });
 }
 
 }  // namespace lv

@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include <wx/event.h>
 #include <wx/taskbar.h>
 
 #include <functional>
@@ -12,8 +13,9 @@ namespace lv {
 
 class TrayIcon : public wxTaskBarIcon {
   public:
-    /// `click` gets the number of the tray message: left or right button up.
-    explicit TrayIcon(const std::function<void(int)>& click);
+    /// `click` gets the number of the tray message: left or right button up. What is picked from a menu that pops up
+    /// at the icon is `commands`'s to do, once the menu has gone.
+    TrayIcon(wxEvtHandler* commands, const std::function<void(int)>& click);
 
   protected:
     wxMenu* CreatePopupMenu() override { return nullptr; }

@@ -30,24 +30,11 @@ class EntryForms : public ::testing::Test {
         form = new LvForm(launcher, user);
         EXPECT_TRUE(LV_Frm_Load(launcher));
         ShowMainWindow(launcher);
-        form->Raise();
-        SettleUntil([this] { return form->IsActive(); });
-        Settle();
+        BringForward(form);
     }
     ~EntryForms() override {
         form->Destroy();
         Settle();
-    }
-
-    /// Types into the field that has the keyboard; what was in it is selected.
-    static void Type(const std::string& text) {
-        for (const char c : text) {
-            if (c == ':') {
-                PressKey(':', wxMOD_SHIFT);
-            } else {
-                PressKey(c);
-            }
-        }
     }
 
     Text Stored(TextView key) { return GetSetting(run, run.AppName, kOptions, key); }
@@ -62,11 +49,11 @@ class EntryForms : public ::testing::Test {
 TEST_F(EntryForms, AddsAnExecutable) {
     WhenModal([] {
         EXPECT_TRUE(HasKeyboard(Find("ExeTitle_Txt")));
-        Type("plain");
+        TypeText("plain");
         PressKey(WXK_TAB);
         EXPECT_TRUE(HasKeyboard(Find("ExePath_Txt")));
         Find("ExePath_Txt");
-        Type("c:\\quake\\quake.exe");
+        TypeText("c:\\quake\\quake.exe");
         Screenshot("add_executable");
         DoAndAnswer([] { PressKey(WXK_RETURN); },
                     [] {

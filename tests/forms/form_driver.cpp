@@ -1,21 +1,24 @@
 #include "tests/forms/form_driver.h"
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
-#include <wx/dialog.h>
 #include <wx/evtloop.h>
-#include <wx/filename.h>
 #include <wx/stopwatch.h>
 #include <wx/timer.h>
+#include <wx/toplevel.h>
 #include <wx/uiaction.h>
 
-#include <cstdlib>
+#include <algorithm>
 #include <memory>
 #include <vector>
+
+#include "tests/forms/form_system.h"
+#include "tests/forms/patience.h"
 
 namespace lv {
 
 namespace {
+
+constexpr int kBetweenKeys = 20;
 
 class PollingTimer : public wxTimer {
   public:
@@ -30,13 +33,10 @@ class PollingTimer : public wxTimer {
     std::function<bool()> act_;
 };
 
-int OpenModals() {
-    int open = 0;
-    for (const wxWindow* window : wxTopLevelWindows) {
-        const auto* dialog = dynamic_cast<const wxDialog*>(window);
-        open += dialog != nullptr && dialog->IsModal() && dialog->IsShownOnScreen() ? 1 : 0;
-    }
-    return open;
+// Those that wait live to the end of the test: one may be waiting while another one acts.
+std::vector<std::unique_ptr<PollingTimer>>& Waiting() {
+    static std::vector<std::unique_ptr<PollingTimer>> timers;
+    return timers;
 }
 
 void PressButtonOn(wxWindow* control, int button) {
@@ -63,6 +63,7 @@ void Settle(int milliseconds) {
 bool SettleUntil(const std::function<bool()>& holds, int milliseconds) {
     const wxStopWatch watch;
     while (watch.Time() < milliseconds) {
+        SignOfLife();
         if (holds()) {
             return true;
         }
@@ -73,16 +74,10 @@ bool SettleUntil(const std::function<bool()>& holds, int milliseconds) {
     return holds();
 }
 
-bool HasKeyboard(wxWindow* control) {
-    using GetFocus = void* (*)(void*);
-    using IsAncestor = int (*)(void*, void*);
-    const auto getFocus = reinterpret_cast<GetFocus>(dlsym(RTLD_DEFAULT, "gtk_window_get_focus"));
-    const auto isAncestor = reinterpret_cast<IsAncestor>(dlsym(RTLD_DEFAULT, "gtk_widget_is_ancestor"));
-    if (getFocus == nullptr || isAncestor == nullptr) {
-        return false;
-    }
-    void* focus = getFocus(wxGetTopLevelParent(control)->GetHandle());
-    return focus != nullptr && (focus == control->GetHandle() || isAncestor(focus, control->GetHandle()) != 0);
+void BringForward(wxTopLevelWindow* window) {
+    window->Raise();
+    EXPECT_TRUE(SettleUntil([window] { return window->IsActive(); })) << window->GetName() << " did not come forward";
+    Settle();
 }
 
 void ClickOn(wxWindow* control) {
@@ -99,10 +94,17 @@ void PressKey(int key, int modifiers) {
     Settle();
 }
 
+void TypeText(const std::string& text) {
+    wxUIActionSimulator hand;
+    for (const char c : text) {
+        hand.Char(c, c == ':' ? wxMOD_SHIFT : wxMOD_NONE);
+        Settle(kBetweenKeys);
+    }
+    Settle();
+}
+
 void WhenModal(const std::function<void()>& act) {
-    // Timers live to the end of the program: one may be waiting while another one acts.
-    static std::vector<std::unique_ptr<PollingTimer>> timers;
-    timers.push_back(std::make_unique<PollingTimer>([act, before = OpenModals(), shown = 0]() mutable {
+    Waiting().push_back(std::make_unique<PollingTimer>([act, before = OpenModals(), shown = 0]() mutable {
         shown = OpenModals() > before ? shown + 1 : 0;
         if (shown < 4) {
             return false;
@@ -111,6 +113,12 @@ void WhenModal(const std::function<void()>& act) {
         act();
         return true;
     }));
+}
+
+int ForgetModals() {
+    const auto waiting = std::ranges::count_if(Waiting(), [](const auto& timer) { return timer->IsRunning(); });
+    Waiting().clear();
+    return static_cast<int>(waiting);
 }
 
 void DoAndAnswer(const std::function<void()>& open, const std::function<void()>& act) {
@@ -123,15 +131,6 @@ void DoAndAnswer(const std::function<void()>& open, const std::function<void()>&
     open();
     EXPECT_TRUE(SettleUntil([&] { return acted && OpenModals() <= before; })) << "the window did not come or go";
     Settle();
-}
-
-// By the screen's own eyes: the toolkit's view of the screen does not change once it was looked at.
-void Screenshot(const std::string& name) {
-    Settle(300);
-    const std::string folder = LV_TEST_BINARY_DIR "/../screenshots";
-    wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
-    const std::string command = "import -window root '" + folder + "/" + name + ".png'";
-    EXPECT_EQ(std::system(command.c_str()), 0) << command;
 }
 
 }  // namespace lv

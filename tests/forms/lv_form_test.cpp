@@ -18,57 +18,29 @@
 #include "launcher/main_window_load.h"
 #include "launcher/window_life.h"
 #include "platform/memory/memory_platform.h"
-#include "platform/spoken_name.h"
 #include "tests/forms/form_driver.h"
+#include "tests/forms/lv_form_fixture.h"
 
 namespace lv {
 namespace {
 
-/// The real main window over a platform in memory.
-class LvForm_ : public ::testing::Test {
-  protected:
-    LvForm_() {
-        MemoryFiles& disk = system.Disk;
-        disk.AddFile("C:\\QUAKE\\GLQUAKE.EXE");
-        disk.AddFile("C:\\QUAKE\\ID1\\my.cfg");
-        disk.AddFile("C:\\QUAKE\\ID1\\maps\\start.bsp");
-        disk.AddFile("C:\\QUAKE\\CTF\\pak0.pak");
-        disk.AddFile("C:\\QUAKE2\\QUAKE2.EXE");
-        disk.AddDirectory("C:\\QUAKE2\\BASEQ2");
-        disk.AddFile("C:\\UNREAL\\SYSTEM\\UNREAL.EXE");
-        Save(run, kOptions, "Executables",
-             "Quake;C:\\QUAKE\\GLQUAKE.EXE;Quake 2;C:\\QUAKE2\\QUAKE2.EXE;Unreal;C:\\UNREAL\\SYSTEM\\UNREAL.EXE");
-        Save(run, kOptions, "NetServers", "A server;10.0.0.1;26000;0;");
-        Save(run, kOptions, "UseDemos", 0);
-        Save(run, kOptions, "UseScripts", 1);
-        Save(run, "LV-Stuff", "FirstTime", 0);
-        form = new LvForm(launcher, user);
-        EXPECT_TRUE(LV_Frm_Load(launcher));
-        ShowMainWindow(launcher);
-        form->Raise();
-        SettleUntil([this] { return form->IsActive(); });
-        Settle();
+void ExpectNothingCutOff(const LvForm& form) {
+    const wxRect inside = form.GetScreenRect();
+    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
+        const wxWindow* box = Find(option->Name);
+        if (box->IsShownOnScreen()) {
+            EXPECT_TRUE(inside.Contains(box->GetScreenRect())) << option->Name;
+            EXPECT_GE(box->GetSize().x, box->GetBestSize().x) << option->Name;
+        }
     }
-    ~LvForm_() override {
-        form->Destroy();
-        Settle();
+    for (const char* button : {"DoIt_Cmd(0)", "DoIt_Cmd(1)", "DoIt_Cmd(2)"}) {
+        if (!Find(button)->IsShownOnScreen()) {
+            continue;
+        }
+        EXPECT_TRUE(inside.Contains(Find(button)->GetScreenRect())) << button;
+        EXPECT_GE(Find(button)->GetSize().x, Find(button)->GetBestSize().x) << button;
     }
-
-    void ExpectNothingCutOff();
-
-    void PickExe(int row) {
-        launcher.Window.Exe_Cbo.ListIndex = row;
-        Exe_Cbo_Click(launcher);
-        user.Refresh();
-        Settle();
-    }
-
-    MemoryPlatform system;
-    WxUser user{system.Disk};
-    lv::Run run{system.Services, user};
-    Launcher launcher{run};
-    LvForm* form = nullptr;
-};
+}
 
 TEST_F(LvForm_, F2Launches) {
     PressKey(WXK_F2);
@@ -149,9 +121,9 @@ TEST_F(LvForm_, NothingIsCutOff) {
     const wxSize screen = wxDisplay(form).GetClientArea().GetSize();
     EXPECT_LE(form->GetSize().x, screen.x);
     EXPECT_LE(form->GetSize().y, screen.y);
-    ExpectNothingCutOff();
+    ExpectNothingCutOff(*form);
     PickExe(2);
-    ExpectNothingCutOff();
+    ExpectNothingCutOff(*form);
 }
 
 TEST_F(LvForm_, EachSizeShowsItsParts) {
@@ -159,7 +131,7 @@ TEST_F(LvForm_, EachSizeShowsItsParts) {
     EXPECT_TRUE(Find("Exe_Cbo")->IsShownOnScreen());
     EXPECT_TRUE(Find("DoIt_Cmd(0)")->IsShownOnScreen());
     EXPECT_FALSE(Find("Game_Cbo")->IsShownOnScreen());
-    ExpectNothingCutOff();
+    ExpectNothingCutOff(*form);
     Screenshot("main_window_some");
     const int some = form->GetSize().y;
     ClickOn(Find("ButtonBar_Cmd(5)"));
@@ -169,7 +141,7 @@ TEST_F(LvForm_, EachSizeShowsItsParts) {
     Screenshot("main_window_buttons");
     ClickOn(Find("ButtonBar_Cmd(5)"));
     EXPECT_TRUE(Find("Game_Cbo")->IsShownOnScreen());
-    ExpectNothingCutOff();
+    ExpectNothingCutOff(*form);
 }
 
 TEST_F(LvForm_, TheMenuBarIsTheTable) {
@@ -192,30 +164,9 @@ TEST_F(LvForm_, TheMenuBarIsTheTable) {
 TEST_F(LvForm_, EachMenuOpensByItsAccessKey) {
     const char* const keys = "FOGMVPDSH";
     for (const char* key = keys; *key != '\0'; ++key) {
-        PressKey(*key, wxMOD_ALT);
-        Screenshot(std::string("menu_") + *key);
-        PressKey(WXK_ESCAPE);
-        PressKey(WXK_ESCAPE);
+        PassMenu(*key, std::string("menu_") + *key);
     }
     EXPECT_TRUE(system.Programs.Started.empty());
-}
-
-TEST_F(LvForm_, EveryControlHasATextOrANameThatAssistiveToolsRead) {
-    std::vector<const char*> names = {"Exe_Cbo",  "Game_Cbo",   "Script_Cbo", "VideoProfiles_Cbo",       "Mem_Cbo",
-                                      "Demo_Cbo", "Server_Cbo", "Map_Cbo",    "CommandLineAdditions_Txt"};
-    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
-        names.push_back(option->Name);
-    }
-    for (const char* name : names) {
-        wxWindow* control = Find(name);
-        EXPECT_TRUE(!control->GetLabel().empty() || !SpokenName(control->GetHandle()).empty()) << name;
-    }
-    for (int i = 0; i < 9; ++i) {
-        EXPECT_NE(SpokenName(Find("ButtonBar_Cmd(" + std::to_string(i) + ")")->GetHandle()), "") << i;
-    }
-    for (int i = 0; i < 7; ++i) {
-        EXPECT_NE(SpokenName(Find("Menu_Pic(" + std::to_string(i) + ")")->GetHandle()), "") << i;
-    }
 }
 
 TEST_F(LvForm_, ALongRowShowsInFullAsAToolTip) {
@@ -252,24 +203,6 @@ TEST_F(LvForm_, RenamingTheLaunchButtonShowsAtOnce) {
     Menu_Click(launcher, MenuItem::RenameButton_Bar);
     user.Refresh();
     EXPECT_EQ(Find("DoIt_Cmd(0)")->GetLabel(), "go");
-}
-
-void LvForm_::ExpectNothingCutOff() {
-    const wxRect inside = form->GetScreenRect();
-    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
-        const wxWindow* box = Find(option->Name);
-        if (box->IsShownOnScreen()) {
-            EXPECT_TRUE(inside.Contains(box->GetScreenRect())) << option->Name;
-            EXPECT_GE(box->GetSize().x, box->GetBestSize().x) << option->Name;
-        }
-    }
-    for (const char* button : {"DoIt_Cmd(0)", "DoIt_Cmd(1)", "DoIt_Cmd(2)"}) {
-        if (!Find(button)->IsShownOnScreen()) {
-            continue;
-        }
-        EXPECT_TRUE(inside.Contains(Find(button)->GetScreenRect())) << button;
-        EXPECT_GE(Find(button)->GetSize().x, Find(button)->GetBestSize().x) << button;
-    }
 }
 
 TEST_F(LvForm_, EveryControlIsReachedByTheTabKey) {

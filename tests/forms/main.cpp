@@ -7,6 +7,8 @@
 #include <wx/cshelp.h>
 #include <wx/image.h>
 
+#include "tests/forms/patience.h"
+
 namespace {
 
 // The toolkit's own complaints are failures, not dialogs that wait for a hand.
@@ -22,7 +24,12 @@ class TestApp : public wxApp {
         wxSetAssertHandler(FailTheTest);
         SetExitOnFrameDelete(false);
         CallAfter([this] {
+            // Within the toolkit's life, for it has a timer.
+            lv::Patience patience;
+            auto& listeners = ::testing::UnitTest::GetInstance()->listeners();
+            listeners.Append(&patience);
             result_ = RUN_ALL_TESTS();
+            listeners.Release(&patience);
             ExitMainLoop();
         });
         return true;

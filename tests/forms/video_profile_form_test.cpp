@@ -40,7 +40,7 @@ class VideoProfileForm_ : public ::testing::Test {
         form = new LvForm(launcher, user);
         EXPECT_TRUE(LV_Frm_Load(launcher));
         ShowMainWindow(launcher);
-        SettleUntil([this] { return form->IsActive(); });
+        BringForward(form);
     }
     ~VideoProfileForm_() override {
         form->Destroy();
