@@ -122,9 +122,9 @@ TEST_F(ButtonBar, CloseEndsTheProgram) {
 }
 
 TEST_F(ButtonBar, HelpOpensTheHelpFile) {
-    system.Disk.AddFile("C:\\LORVANE\\LV3D.hlp");
+    system.Disk.AddFile("C:\\LORVANE\\handbook\\handbook.hhp");
     ButtonBar_Cmd_Click(launcher, 8);
-    EXPECT_EQ(user.Opened, (std::vector<Text>{"C:\\LORVANE\\LV3D.hlp"}));
+    EXPECT_EQ(user.Opened, (std::vector<Text>{"C:\\LORVANE\\handbook\\handbook.hhp"}));
 }
 
 }  // namespace lv

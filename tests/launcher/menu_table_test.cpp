@@ -247,9 +247,9 @@ TEST_F(Menus, RenameAsks) {
 }
 
 TEST_F(Menus, HelpOpens) {
-    system.Disk.AddFile("C:\\LORVANE\\LV3D.hlp");
+    system.Disk.AddFile("C:\\LORVANE\\handbook\\handbook.hhp");
     Menu_Click(launcher, HelpView_Bar);
-    EXPECT_EQ(user.Opened, (std::vector<Text>{"C:\\LORVANE\\LV3D.hlp"}));
+    EXPECT_EQ(user.Opened, (std::vector<Text>{"C:\\LORVANE\\handbook\\handbook.hhp"}));
 }
 
 TEST_F(Menus, WhatsThisPutsTheWindowInItsMode) {
