@@ -12,13 +12,14 @@
 #include <thread>
 #include <vector>
 
+#include "tests/support/test_paths.h"
 #include "tests/support/virtual_display.h"
 
 namespace lv {
 
 namespace {
 
-const std::filesystem::path kHome = std::filesystem::path(LV_TEST_BINARY_DIR) / "engine_home";
+const std::filesystem::path kHome = std::filesystem::path(TestBinaryDir()) / "engine_home";
 
 class EngineRun : public testing::Environment {
   public:

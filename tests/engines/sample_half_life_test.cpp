@@ -19,6 +19,7 @@
 #include "tests/foundry/script_fixture.h"
 #include "tests/support/game_yard.h"
 #include "tests/support/scripted_user.h"
+#include "tests/support/test_paths.h"
 
 namespace lv {
 
@@ -54,9 +55,9 @@ void PickScript(Launcher& launcher, TextView title) {
 }  // namespace
 
 TEST(SampleHalfLife, TakesItsPlayerOutOfTheRegistryAndPutsHimBack) {
-    const fs::path sample = fs::path(LV_TEST_BINARY_DIR) / "yards" / "engine_sample";
+    const fs::path sample = fs::path(TestBinaryDir()) / "yards" / "engine_sample";
     fs::create_directories(sample);
-    const fs::path maker = fs::path(LV_TEST_BINARY_DIR) / "make_sample";
+    const fs::path maker = fs::path(TestBinaryDir()) / "make_sample";
     ASSERT_EQ(RunTool({maker.c_str(), sample.c_str()}), 0);
     fs::remove_all(sample / "wine");
 
@@ -68,7 +69,7 @@ TEST(SampleHalfLife, TakesItsPlayerOutOfTheRegistryAndPutsHimBack) {
     places.SearchPath = std::getenv("PATH");
     places.Cache = sample / "cache";
     places.WinePrefix = sample / "wine";
-    places.PauseHelper = fs::path(LV_TEST_BINARY_DIR) / "lorvane3d-pause";
+    places.PauseHelper = fs::path(TestBinaryDir()) / "lorvane3d-pause";
     LinuxProcesses programs(disk, places);
     MemoryClipboard clip;
     LinuxClock clock;

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "tests/foundry/rounds.h"
+#include "tests/support/test_paths.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
@@ -19,7 +20,7 @@ namespace {
 
 std::vector<std::filesystem::path> Corpus() {
     std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::directory_iterator(LV_TEST_SOURCE_DIR "/tests/foundry/fuzz/corpus")) {
+    for (const auto& entry : std::filesystem::directory_iterator(lv::TestSourceDir() + "/tests/foundry/fuzz/corpus")) {
         files.push_back(entry.path());
     }
     std::sort(files.begin(), files.end());

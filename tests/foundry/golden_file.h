@@ -10,12 +10,13 @@
 #include <sstream>
 
 #include "foundation/text.h"
+#include "tests/support/test_paths.h"
 
 namespace lv {
 
 /// All bytes of the file.
 inline Text Golden(const Text& name) {
-    std::ifstream file(Text(LV_TEST_SOURCE_DIR) + "/tests/foundry/golden/" + name, std::ios::binary);
+    std::ifstream file(TestSourceDir() + "/tests/foundry/golden/" + name, std::ios::binary);
     EXPECT_TRUE(file) << name;
     std::ostringstream bytes;
     bytes << file.rdbuf();

@@ -12,12 +12,14 @@
 #include <string>
 #include <string_view>
 
+#include "tests/support/test_paths.h"
+
 namespace lv {
 
 class ScratchDirectory {
   public:
     ScratchDirectory() {
-        std::string name = std::string(LV_TEST_BINARY_DIR) + "/scratch_XXXXXX";
+        std::string name = TestBinaryDir() + "/scratch_XXXXXX";
         path_ = std::filesystem::canonical(mkdtemp(name.data()));
     }
     ~ScratchDirectory() {

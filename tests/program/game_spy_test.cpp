@@ -7,6 +7,7 @@
 #include "tests/program/program_run.h"
 #include "tests/program/screen.h"
 #include "tests/support/game_yard.h"
+#include "tests/support/test_paths.h"
 
 namespace lv {
 
@@ -23,7 +24,7 @@ TEST(GameSpy, TheServerInItsWindowIsJoined) {
     home.Set("Options", "Qspy", "1");
     const fs::path copied = home.Root / "copied.txt";
     std::ofstream(copied) << "43      10.0.0.1        27500 Home";
-    const std::string spy = (fs::path(LV_TEST_BINARY_DIR) / "standins/game_spy.exe").string();
+    const std::string spy = (fs::path(TestBinaryDir()) / "standins/game_spy.exe").string();
     const OwnProcess wine(home, {"env", "WINEDLLOVERRIDES=mscoree,mshtml=", "wine", spy, "GameSpy 3D 2.20", copied});
     const auto spyIsThere = [] {
         return !OutputOf({"xdotool", "search", "--onlyvisible", "--name", "^GameSpy 3D 2.20$"}).empty();

@@ -14,6 +14,7 @@
 #include "platform/linux/sqlite_settings.h"
 #include "tests/program/screen.h"
 #include "tests/support/game_yard.h"
+#include "tests/support/test_paths.h"
 
 namespace lv {
 
@@ -24,7 +25,7 @@ namespace fs = std::filesystem;
 constexpr const char* kApplication = "Lorvane 3D";
 
 fs::path ProgramFile() {
-    return fs::path(LV_TEST_BINARY_DIR) / "lorvane3d";
+    return fs::path(TestBinaryDir()) / "lorvane3d";
 }
 
 void EnterHome(const ProgramHome& home) {
@@ -89,7 +90,7 @@ void EndAllStartedIn(const ProgramHome& home) {
 }  // namespace
 
 ProgramHome::ProgramHome(const std::string& name)
-    : Root(fs::path(LV_TEST_BINARY_DIR) / "programs" / name),
+    : Root(fs::path(TestBinaryDir()) / "programs" / name),
       Config(Root / "config"),
       Settings(Config / "lorvane3d" / "settings.sqlite"),
       Quake(Root / "data/lorvane3d/drive_c/QUAKE") {
@@ -107,7 +108,7 @@ void ProgramHome::MakeGame() {
     fs::create_directories(Quake / "ID1");
     fs::create_directory_symlink("../drive_c", ours / "drives/c:");
     fs::create_directory_symlink("/", ours / "drives/z:");
-    fs::copy_file(fs::path(LV_TEST_BINARY_DIR) / "standins/show_native", Quake / "QUAKE.EXE");
+    fs::copy_file(fs::path(TestBinaryDir()) / "standins/show_native", Quake / "QUAKE.EXE");
 }
 
 void ProgramHome::Prepare() {

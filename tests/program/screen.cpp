@@ -1,4 +1,5 @@
 #include "tests/program/screen.h"
+#include "tests/support/test_paths.h"
 
 #include <algorithm>
 #include <chrono>
@@ -147,7 +148,7 @@ std::string SelectedText() {
 }
 
 void KeepScreenshot(const std::string& name) {
-    const std::filesystem::path directory = std::filesystem::path(LV_TEST_BINARY_DIR) / "screenshots";
+    const std::filesystem::path directory = std::filesystem::path(TestBinaryDir()) / "screenshots";
     std::filesystem::create_directories(directory);
     OutputOf({"import", "-window", "root", (directory / (name + ".png")).string()});
 }

@@ -1,4 +1,5 @@
 #include "tests/support/game_yard.h"
+#include "tests/support/test_paths.h"
 
 #include <algorithm>
 #include <chrono>
@@ -48,19 +49,19 @@ void SetOrRemove(const std::string& name, const char* value) {
 }  // namespace
 
 GameYard::GameYard(const std::string& name)
-    : Root(std::filesystem::path(LV_TEST_BINARY_DIR) / "yards" / name), Drive(Root / "drive") {
+    : Root(std::filesystem::path(TestBinaryDir()) / "yards" / name), Drive(Root / "drive") {
     std::filesystem::remove_all(Root);
     std::filesystem::create_directories(Drive);
     Disk.AddDrive('C', Drive);
     Places.Cache = Root / "cache";
     Places.WinePrefix = Root / "wine";
-    Places.PauseHelper = std::filesystem::path(LV_TEST_BINARY_DIR) / "lorvane3d-pause";
+    Places.PauseHelper = std::filesystem::path(TestBinaryDir()) / "lorvane3d-pause";
 }
 
 std::filesystem::path GameYard::AddGame(const std::string& standIn, const std::string& file) {
     const std::filesystem::path game = Drive / file;
     std::filesystem::create_directories(game.parent_path());
-    std::filesystem::copy_file(std::filesystem::path(LV_TEST_BINARY_DIR) / "standins" / standIn, game);
+    std::filesystem::copy_file(std::filesystem::path(TestBinaryDir()) / "standins" / standIn, game);
     return game;
 }
 

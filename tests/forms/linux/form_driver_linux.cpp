@@ -8,6 +8,7 @@
 #include "platform/linux/toolkit_function.h"
 #include "tests/forms/form_driver.h"
 #include "tests/forms/form_system.h"
+#include "tests/support/test_paths.h"
 
 namespace lv {
 
@@ -93,7 +94,7 @@ void PassMenu(int key, const std::string& picture) {
 // By the screen's own eyes: the toolkit's view of the screen does not change once it was looked at.
 void Screenshot(const std::string& name) {
     Settle(300);
-    const std::string folder = LV_TEST_BINARY_DIR "/../screenshots";
+    const std::string folder = TestBinaryDir() + "/../screenshots";
     wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
     const std::string command = "import -window root '" + folder + "/" + name + ".png'";
     EXPECT_EQ(std::system(command.c_str()), 0) << command;

@@ -13,6 +13,7 @@
 #include "platform/windows/system.h"
 #include "tests/forms/form_driver.h"
 #include "tests/forms/form_system.h"
+#include "tests/support/test_paths.h"
 
 namespace lv {
 
@@ -21,7 +22,7 @@ namespace {
 constexpr int kMenuMilliseconds = 400;
 
 void KeepPicture(const std::string& name) {
-    const std::string folder = LV_TEST_BINARY_DIR "/screenshots";
+    const std::string folder = TestBinaryDir() + "/screenshots";
     wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
     wxScreenDC screen;
     wxBitmap picture(screen.GetSize());

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/program/windows/program_run.h"
+#include "tests/support/test_paths.h"
 #include "tests/support/windows/own_window.h"
 
 namespace lv {
@@ -96,7 +97,7 @@ TEST(Shipped, RunsFromAPathWithoutADriveUnderWine) {
     WindowsHome home;
     home.Prepare();
     std::wstring place = L"\\\\?\\unix";
-    for (const char c : std::string(LV_TEST_BINARY_DIR "/shipped/Lorvane 3D")) {
+    for (const char c : TestBinaryDir() + "/shipped/Lorvane 3D") {
         place += c == '/' ? L'\\' : static_cast<wchar_t>(c);
     }
     ProgramRun program(place + L"\\lorvane3d.exe", L"C:\\");
