@@ -1,6 +1,7 @@
 // tests/platform/scratch_directory.h
 //
-// A directory of a test's own below the build directory, gone when the test ends, and files in it.
+// A directory of a test's own, gone when the test ends, and files in it. It stands where any user may go: a test that
+// acts as somebody else could not get into a build directory below root's home.
 
 #pragma once
 
@@ -12,14 +13,12 @@
 #include <string>
 #include <string_view>
 
-#include "tests/support/test_paths.h"
-
 namespace lv {
 
 class ScratchDirectory {
   public:
     ScratchDirectory() {
-        std::string name = TestBinaryDir() + "/scratch_XXXXXX";
+        std::string name = (std::filesystem::temp_directory_path() / "lorvane3d_XXXXXX").string();
         path_ = std::filesystem::canonical(mkdtemp(name.data()));
     }
     ~ScratchDirectory() {
