@@ -13,7 +13,7 @@
 // The C library's newlocale forgets to free its copy of LOCPATH, which only these tests set.
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
-    return "leak:__argz_add_sep";
+    return "leak:argz_add_sep";  // with "__" before it where libc has its debug symbols
 }
 
 namespace lv {
