@@ -12,8 +12,8 @@
 
 #include "bench/limit.h"
 #include "bench/no_user.h"
-#include "foundry/open_script.h"
-#include "foundry/script_reader.h"
+#include "foundry/reading/open_script.h"
+#include "foundry/reading/script_reader.h"
 #include "platform/memory/memory_platform.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "bench/limit.h"
-#include "foundry/script_writer.h"
+#include "foundry/writing/compose_script.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_files.h"
 

@@ -1,6 +1,6 @@
 #include "foundry/foundry.h"
 
-#include "foundry/half_life.h"
+#include "foundry/half_life/convert_registry.h"
 
 namespace lv {
 

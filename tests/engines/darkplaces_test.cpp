@@ -11,7 +11,7 @@
 #include <chrono>
 #include <thread>
 
-#include "foundry/script_writer.h"
+#include "foundry/writing/compose_script.h"
 #include "platform/linux/linux_processes.h"
 #include "tests/support/game_yard.h"
 

@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "foundation/settings.h"
-#include "foundry/half_life.h"
+#include "foundry/half_life/convert_registry.h"
 #include "platform/linux/wine_registry.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/foundry/script_fixture.h"

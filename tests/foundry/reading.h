@@ -8,7 +8,7 @@
 #include <functional>
 #include <vector>
 
-#include "foundry/script_reader.h"
+#include "foundry/reading/script_reader.h"
 
 namespace lv {
 

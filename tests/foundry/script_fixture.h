@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-#include "foundry/script_document.h"
+#include "foundry/document/script_document.h"
 #include "platform/clock.h"
 
 namespace lv {

@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "foundry/script_document.h"
+#include "foundry/document/script_document.h"
 
 namespace lv {
 

@@ -7,7 +7,7 @@
 #include <map>
 #include <vector>
 
-#include "foundry/script_view.h"
+#include "foundry/document/script_view.h"
 
 namespace lv {
 

@@ -1,0 +1,29 @@
+#include "foundry/document/script_messages.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "foundation/question_box.h"
+
+namespace lv {
+
+Text ErrorLines(const Error& failed) {
+    return Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text);
+}
+
+std::unique_ptr<RandomAccessFile> OpenScriptFile(Run& run, TextView path) {
+    auto file = run.System.Disk.Open(path);
+    if (!file.Ok()) {
+        AskUser(run, "Script Not Opened",
+                Join("Error opening specified script file.", NewLine, NewLine, ErrorLines(file.Fault)));
+    }
+    return std::move(file.Value);
+}
+
+Text EditorCaption(TextView scriptPath) {
+    Text shown(scriptPath);
+    std::replace(shown.begin(), shown.end(), '\\', '/');
+    return Join("Setup Foundry - [", shown, "]");
+}
+
+}  // namespace lv

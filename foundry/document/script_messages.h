@@ -1,0 +1,22 @@
+// foundry/document/script_messages.h
+//
+// What reading and saving scripts say alike.
+
+#pragma once
+
+#include <memory>
+
+#include "foundation/run.h"
+
+namespace lv {
+
+/// Number and text of an error, as the boxes show them.
+Text ErrorLines(const Error& failed);
+
+/// The script to be read; nothing if it can't be opened, which the user was told then.
+std::unique_ptr<RandomAccessFile> OpenScriptFile(Run& run, TextView path);
+
+/// What the editor's window is called: "Setup Foundry - [c:/quake/id1/my.cfg]".
+Text EditorCaption(TextView scriptPath);
+
+}  // namespace lv

@@ -1,0 +1,149 @@
+#include "foundry/document/written_commands.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "foundry/tables/written_command_rows.h"
+
+namespace lv {
+
+namespace {
+
+// Every number that is no kind of its own is edited as Quake.
+
+TextView CommandOf(const MovementRow& row, Index kind) {
+    switch (kind) {
+        case game_kind::kHalfLife:
+            return row.HalfLife;
+        case game_kind::kUnreal:
+            return row.Unreal;
+        default:
+            return row.Console;
+    }
+}
+
+TextView CellOf(const WeaponRow& row, Index kind) {
+    switch (kind) {
+        case game_kind::kQuake2:
+            return row.Quake2;
+        case game_kind::kSin:
+            return row.Sin;
+        case game_kind::kHeretic2:
+            return row.Heretic2;
+        case game_kind::kHalfLife:
+            return row.HalfLife;
+        case game_kind::kUnreal:
+            return row.Unreal;
+        default:
+            return row.Quake;
+    }
+}
+
+TextView CommandOf(const SystemRow& row, Index kind) {
+    switch (kind) {
+        case game_kind::kQuake2:
+        case game_kind::kSin:
+        case game_kind::kHeretic2:
+        case game_kind::kHalfLife:
+            return row.NewConsole;
+        case game_kind::kUnreal:
+            return row.Unreal;
+        default:
+            return row.OldConsole;
+    }
+}
+
+struct Cells {
+    TextView Command;
+    TextView Caption;
+};
+
+Cells CellsOf(const ActionRow& row, Index kind) {
+    switch (kind) {
+        case game_kind::kHexen2:
+            return {row.Hexen2, row.Hexen2Caption};
+        case game_kind::kHeretic2:
+            return {row.Heretic2, row.Heretic2Caption};
+        case game_kind::kHalfLife:
+            return {row.HalfLife, row.HalfLifeCaption};
+        default:
+            return {};
+    }
+}
+
+Cells CellsOf(const ItemRow& row, Index kind) {
+    switch (kind) {
+        case game_kind::kSin:
+            return {row.Sin, row.SinCaption};
+        case game_kind::kHalfLife:
+            return {row.HalfLife, row.HalfLifeCaption};
+        case game_kind::kUnreal:
+            return {row.Unreal, row.UnrealCaption};
+        default:
+            return {row.Console, row.Caption};
+    }
+}
+
+/// What the kind has in place of the row's own text.
+template <std::size_t Count>
+TextView TextOr(const KindText (&others)[Count], SlotNumber slot, Index kind, TextView own) {
+    const auto* const found =
+        std::ranges::find_if(others, [&](const KindText& other) { return other.Slot == slot && other.Kind == kind; });
+    return found == std::end(others) ? own : found->Text;
+}
+
+template <std::size_t Count>
+bool Lists(const KindSlot (&slots)[Count], SlotNumber slot, Index kind) {
+    return std::ranges::any_of(slots, [&](const KindSlot& s) { return s.Slot == slot && s.Kind == kind; });
+}
+
+class Filler {
+  public:
+    Filler(ScriptDocument& document, Index kind) : document_(document), kind_(kind) {}
+
+    void Put(SlotNumber slot, TextView command, TextView caption) {
+        const TextView written = TextOr(kOtherCommands, slot, kind_, command);
+        const bool shown = written.empty() ? Lists(kShownSlots, slot, kind_) : !Lists(kHiddenSlots, slot, kind_);
+        document_.SlotCommand[slot] = written;
+        document_.Bound_Lbl[slot].Caption = TextOr(kOtherCaptions, slot, kind_, caption);
+        document_.Bound_Lbl[slot].Visible = shown;
+        document_.Setting_Lbl[slot].Visible = shown;
+    }
+
+    void PutHeading(const HeadingRow& row) {
+        document_.Bound_Lbl[row.Number].Caption = TextOr(kOtherHeadings, row.Number, kind_, row.Caption);
+    }
+
+  private:
+    ScriptDocument& document_;
+    Index kind_;
+};
+
+}  // namespace
+
+void FillCommandTable(ScriptDocument& document, Index gameKind) {
+    Filler filler(document, gameKind);
+    for (const MovementRow& row : kMovementRows) {
+        filler.Put(row.Slot, CommandOf(row, gameKind), row.Caption);
+    }
+    for (std::size_t i = 0; i < std::size(kWeaponRows); ++i) {
+        filler.Put(kWeaponRows[i].Slot, CellOf(kWeaponRows[i], gameKind), CellOf(kWeaponCaptionRows[i], gameKind));
+    }
+    for (const SystemRow& row : kSystemRows) {
+        const bool unreal = gameKind == game_kind::kUnreal;
+        filler.Put(row.Slot, CommandOf(row, gameKind), unreal ? row.UnrealCaption : row.Caption);
+    }
+    for (const ActionRow& row : kActionRows) {
+        const Cells cells = CellsOf(row, gameKind);
+        filler.Put(row.Slot, cells.Command, cells.Caption);
+    }
+    for (const ItemRow& row : kItemRows) {
+        const Cells cells = CellsOf(row, gameKind);
+        filler.Put(row.Slot, cells.Command, cells.Caption);
+    }
+    for (const HeadingRow& row : kHeadingRows) {
+        filler.PutHeading(row);
+    }
+}
+
+}  // namespace lv

@@ -1,0 +1,99 @@
+#include "foundry/reading/open_script.h"
+
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+#include "foundation/settings.h"
+#include "foundry/document/bindings.h"
+#include "foundry/document/script_messages.h"
+#include "foundry/reading/script_reader.h"
+#include "foundry/reading/skin_page.h"
+
+namespace lv {
+
+namespace {
+
+constexpr TextView kBackupEnding = "SetupFoundry_Config_Backup";
+constexpr const char* kInformation = "SetupFoundry Information";
+
+std::optional<ScriptReading> Read(Run& run, ScriptDocument& document, ScriptView& view, TextView path) {
+    auto file = OpenScriptFile(run, path);
+    if (!file) {
+        return std::nullopt;
+    }
+    document.ScriptLoading = true;
+    const std::uint64_t firstLineWithoutAlias = ReadAliases(*file, document);
+    file = OpenScriptFile(run, path);
+    if (!file) {
+        document.AliasTable = {};
+        document.ScriptLoading = false;
+        return std::nullopt;
+    }
+    const ScriptReading reading =
+        ReadLines(*file, document, view, firstLineWithoutAlias, [&] { Sex_Cbo_Click(run, document); });
+    document.ScriptLoading = false;
+    return reading;
+}
+
+void BackUp(Run& run, TextView path) {
+    const Text copy = BackupPathOf(path);
+    if (SameText(copy, path)) {
+        return;  // the script is itself such a copy
+    }
+    if (const Error failed = run.System.Disk.Copy(path, copy)) {
+        AskUser(run, kInformation, ErrorLines(failed), "&OK");
+        return;
+    }
+    if (MessageIsOn(run, "BackupScript")) {
+        AskUserUnlessTold(run, "BackupScript", kInformation,
+                          Join("SetupFoundry has not edited this script before. A backup copy has been stored as -->",
+                               NewLine, NewLine, DoubleQuote, copy, DoubleQuote),
+                          "&Thanks SetupFoundry!");
+    }
+}
+
+/// The view sees the keys of an older script come free, and all rows change.
+void MakeAnew(ScriptDocument& document, ScriptView& view, const ScriptDialect& dialect) {
+    for (KeyIndex key = 0; key < kKeyCount; ++key) {
+        UnbindKey(document, view, key);
+    }
+    document = MakeScriptDocument(dialect);
+    for (const SlotNumber slot : SlotNumbers()) {
+        view.SlotChanged(slot);
+    }
+}
+
+}  // namespace
+
+ScriptDialect DialectOfRun(const Run& run) {
+    return {.GameKind = run.GameKind,
+            .ScriptFamily = run.ScriptFamily,
+            .IsQuakeWorld = run.IsQuakeWorld,
+            .IsMissionPack = run.IsMissionPack,
+            .DecimalSeparator = run.DecimalPointIsDot ? '.' : ','};
+}
+
+bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView path) {
+    const Text given(path);  // may be the document's own
+    MakeAnew(document, view, DialectOfRun(run));
+    document.CurrentScriptPath = given;
+    document.CurrentScriptDirectory = given.substr(0, given.rfind('\\') + 1);
+    PrepareSkinPage(run, document);
+    const auto reading = Read(run, document, view, given);
+    if (!reading) {
+        return false;
+    }
+    document.Caption = EditorCaption(given);
+    if (reading->Foreign) {
+        BackUp(run, given);
+    }
+    document.ScriptClean = true;
+    return true;
+}
+
+Text BackupPathOf(TextView path) {
+    const std::size_t component = path.rfind('\\') + 1;
+    const std::size_t point = path.find('.', component);
+    return Join(path.substr(0, point), ".", kBackupEnding);
+}
+
+}  // namespace lv

@@ -1,0 +1,24 @@
+// foundry/reading/open_script.h
+//
+// Opens a script in the editor.
+
+#pragma once
+
+#include "foundation/run.h"
+#include "foundry/document/script_document.h"
+#include "foundry/document/script_view.h"
+
+namespace lv {
+
+/// The dialect of the game that is selected on the main window.
+ScriptDialect DialectOfRun(const Run& run);
+
+/// Makes all tables of the document anew, and reads the file at `path` into them. A file that this program has not
+/// written before gets a copy beside it. False if the file cannot be opened; the user was told why then, and the
+/// tables are as good as new.
+bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView path);
+
+/// Where the copy of a foreign script goes: C:\Q\my.cfg to C:\Q\my.SetupFoundry_Config_Backup.
+Text BackupPathOf(TextView path);
+
+}  // namespace lv

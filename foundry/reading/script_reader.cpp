@@ -1,0 +1,276 @@
+#include "foundry/reading/script_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
+
+#include "foundation/field_strings.h"
+#include "foundation/game_numbers.h"
+#include "foundation/numbers.h"
+#include "foundry/reading/free_form.h"
+#include "foundry/reading/script_keywords.h"
+
+namespace lv {
+
+namespace {
+
+constexpr TextView kComment = "//";
+constexpr TextView kWrittenComment = "//*";  // those of the writer
+constexpr std::array<TextView, 2> kBanners = {"//* Setup Foundry   *//", "// Setup Foundry   //"};
+constexpr TextView kAlias = "alias";
+constexpr TextView kWeaponPriority = "weaponpriority[";
+constexpr char kHardBlank = '\xA0';
+
+/// The comment lines of the banners that early versions wrote.
+constexpr std::array<TextView, 7> kOldMarkers = {
+    "/////////////////////", "//                 //", "// Setup Foundry   //", "// Settings        //",
+    "// Aliases         //", "// Bindings        //", "// Free Form       //"};
+
+TextView LeftOf(TextView line) {
+    return KeyOrValueView(line, false);
+}
+
+TextView RightOf(TextView line) {
+    return KeyOrValueView(line, true);
+}
+
+TextView BeforeComment(TextView line) {
+    return TrimmedView(line.substr(0, line.find(kComment)));
+}
+
+bool IsUnreal(const ScriptDocument& document) {
+    return document.Dialect.GameKind == game_kind::kUnreal;
+}
+
+/// An alias as the first pass reads it. The letter case of one in a console script is lost.
+struct AliasLine {
+    Text Name;
+    Text Body;
+};
+
+AliasLine ConsoleAlias(TextView line) {
+    if (!StartsWithText(StripQuotesView(QuotedWordView(line, 0)), kAlias)) {
+        return {};
+    }
+    return {LowerCase(StripQuotesView(QuotedWordView(line, 1))), LowerCase(StripQuotesView(QuotedWordView(line, 2)))};
+}
+
+/// The right part says both, as AddAlias takes it.
+AliasLine IniAlias(TextView line) {
+    return StartsWithText(line, kAlias) ? AliasLine{"-", Text(RightOf(line))} : AliasLine{};
+}
+
+/// What a line says to the table of keywords.
+struct Parts {
+    Text Keyword;
+    ScriptLine Values;
+};
+
+constexpr std::size_t kLongestKeyword = 32;
+
+Text KeywordOf(TextView word) {
+    return word.size() > kLongestKeyword ? Text() : LowerCase(word);
+}
+
+Parts TakeConsoleLine(TextView line) {
+    const auto word = [line](Index index) { return StripQuotesView(QuotedWordView(line, index)); };
+    Text keyword = KeywordOf(word(0));
+    if (keyword == "set") {
+        return {KeywordOf(word(1)), {.Value = TrimmedView(word(2))}};
+    }
+    return {std::move(keyword), {.Value = TrimmedView(word(1)), .Value2 = TrimmedView(word(2))}};
+}
+
+Parts TakeIniLine(TextView line) {
+    const TextView left = LeftOf(line);
+    if (StartsWithText(left, kWeaponPriority)) {
+        const std::int32_t index = ToLong(left.substr(kWeaponPriority.size(), kLongestKeyword));
+        return {"weaponpriority", {.Value = RightOf(line), .Index = index}};
+    }
+    return {KeywordOf(left), {.Value = RightOf(line)}};
+}
+
+/// The value behind the second "=" of MouseX=Axis aMouseX Speed=6.0.
+TextView AxisSpeed(TextView right) {
+    return TrimmedView(LeftOf(RightOf(right)));
+}
+
+Parts TakeInputLine(TextView line) {
+    const TextView right = RightOf(line);
+    if (StartsWithText(line, kAlias)) {
+        return {Text(kAlias), {}};
+    }
+    if (StartsWithText(line, "mousex") && StartsWithText(right, "axis amousex speed")) {
+        return {"mousex", {.Value = AxisSpeed(right)}};
+    }
+    if (StartsWithText(line, "mousey") && StartsWithText(right, "axis amousey speed")) {
+        return {"mousey", {.Value = AxisSpeed(right)}};
+    }
+    return {"bind", {.Value = LeftOf(line), .Value2 = right}};
+}
+
+bool IsKeptComment(TextView line) {
+    return !line.starts_with(kWrittenComment) && std::ranges::find(kOldMarkers, line) == kOldMarkers.end();
+}
+
+class SecondPass {
+  public:
+    SecondPass(ScriptLines& lines, ScriptDocument& document, ScriptView& view, std::uint64_t firstLineWithoutAlias)
+        : context_{.Document = document,
+                   .View = view,
+                   .Lines = lines,
+                   .Aliases = AliasNames(document.AliasTable),
+                   .FirstLineWithoutAlias = firstLineWithoutAlias},
+          sections_(document) {}
+
+    void TakeLine(std::span<char> bytes);
+    void Finish(const std::function<void()>& modelChosen);
+    /// An ini has no banner; there the program's own section tells who wrote it.
+    [[nodiscard]] bool Foreign() const {
+        const bool isIni = context_.Document.Dialect.GameKind == game_kind::kUnreal;
+        return !sawBanner_ && !(isIni && sections_.SawOwn());
+    }
+
+  private:
+    TextView TakeComment(TextView line);
+    void TakeStatement(TextView line);
+    void FillWeapons();
+    void ChooseSkin(const std::function<void()>& modelChosen);
+
+    KeywordContext context_;
+    SectionReader sections_;
+    bool sawBanner_ = false;
+};
+
+/// The line without its comment, which may be one to keep.
+TextView SecondPass::TakeComment(TextView line) {
+    const std::size_t at = line.find(kComment);
+    if (at == TextView::npos) {
+        return line;
+    }
+    sawBanner_ = sawBanner_ || std::ranges::any_of(kBanners, [line](TextView each) { return Holds(line, each); });
+    if (at == 0 && !sections_.IsOwn() && IsKeptComment(line)) {
+        AddFreeForm(sections_.Current(), line);
+    }
+    return line.substr(0, at);
+}
+
+void SecondPass::TakeLine(std::span<char> bytes) {
+    const TextView whole(bytes.data(), bytes.size());
+    const TextView statement = TakeComment(TrimmedView(whole));
+    std::ranges::replace(bytes, kHardBlank, ' ');
+    const TextView line = TrimmedView(statement);
+    if (line.starts_with('[')) {
+        sections_.Open(line);
+    } else if (!line.empty() && !sections_.IsOwn()) {
+        TakeStatement(line);
+    }
+}
+
+void SecondPass::TakeStatement(TextView line) {
+    Parts parts = sections_.IsInput()           ? TakeInputLine(line)
+                  : IsUnreal(context_.Document) ? TakeIniLine(line)
+                                                : TakeConsoleLine(line);
+    const KeywordRow* row = FindKeyword(parts.Keyword);
+    if (row == nullptr || row->Effect(context_, parts.Values, *row) == LineUse::kFreeForm) {
+        AddFreeForm(sections_.Current(), line);
+    }
+    if (!context_.PendingFreeForm.empty()) {
+        AddFreeForm(sections_.Current(), std::exchange(context_.PendingFreeForm, {}));
+    }
+}
+
+void SecondPass::Finish(const std::function<void()>& modelChosen) {
+    ScriptDocument& document = context_.Document;
+    const bool unreal = IsUnreal(document);
+    if (unreal) {
+        FillWeapons();
+        // An ini without any head still has its text shown, and written.
+        if (!sections_.SawHead() && !sections_.Current().empty()) {
+            document.Section_Cbo.Items.emplace_back();
+        }
+    }
+    document.Section_Cbo.Visible = unreal;
+    document.Section_Cbo.ListIndex = unreal && !document.Section_Cbo.Items.empty() ? 0 : -1;
+    if (context_.Skin) {
+        ChooseSkin(modelChosen);
+    }
+}
+
+/// Upwards from the least wanted: the list's last entry is priority 0.
+void SecondPass::FillWeapons() {
+    ScriptDocument& document = context_.Document;
+    std::vector<Text>& available = document.WeaponsAvailable_Lst.Items;
+    for (auto weapon = document.WeaponPriority.rbegin(); weapon != document.WeaponPriority.rend(); ++weapon) {
+        const int row = weapon->empty() ? -1 : RowOf(document.WeaponsAvailable_Lst, *weapon);
+        if (row >= 0) {
+            const auto place = available.begin() + row;
+            document.WeaponsPriority_Lst.Items.push_back(std::move(*place));
+            available.erase(place);
+        }
+    }
+}
+
+void SecondPass::ChooseSkin(const std::function<void()>& modelChosen) {
+    ScriptDocument& document = context_.Document;
+    const TextView skin = *context_.Skin;
+    if (document.Dialect.ScriptFamily != script_family::kQuake2) {
+        const bool hasEnding = skin.size() >= 4 && SameText(skin.substr(skin.size() - 4), ".pcx");
+        const int row = RowOf(document.Skin_Fil, hasEnding ? Text(skin) : Join(skin, ".pcx"));
+        document.Skin_Fil.ListIndex = row >= 0 ? row : document.Skin_Fil.ListIndex;
+        return;
+    }
+    const std::size_t slash = skin.find('/');
+    const TextView model = skin.substr(0, slash);
+    const TextView itsSkin = slash == TextView::npos ? TextView() : skin.substr(slash + 1);
+    if (!model.empty()) {
+        SelectInList(document.Sex_Cbo, model);
+        modelChosen();
+    }
+    if (!itsSkin.empty()) {
+        SelectInList(document.Skin_Cbo, itsSkin);
+    }
+}
+
+}  // namespace
+
+std::uint64_t ReadAliases(RandomAccessFile& file, ScriptDocument& document) {
+    const bool unreal = IsUnreal(document);
+    bool inInput = false;
+    ScriptLines lines(file);
+    std::span<char> bytes;
+    while (lines.Next(bytes)) {
+        const TextView line = BeforeComment(TextView(bytes.data(), bytes.size()));
+        if (unreal && line.starts_with('[')) {
+            inInput = SameText(LeftOf(line), "[engine.input]");
+        }
+        if (line.empty() || (unreal && !inInput)) {
+            continue;
+        }
+        const AliasLine alias = unreal ? IniAlias(line) : ConsoleAlias(line);
+        if (alias.Name.empty() || alias.Body.empty()) {
+            continue;
+        }
+        if (document.AliasTable.AliasCount() >= kMostAliases) {
+            return lines.Number();
+        }
+        lines.Release();
+        AddAlias(document, alias.Name, alias.Body);
+    }
+    return std::numeric_limits<std::uint64_t>::max();
+}
+
+ScriptReading ReadLines(RandomAccessFile& file, ScriptDocument& document, ScriptView& view,
+                        std::uint64_t firstLineWithoutAlias, const std::function<void()>& modelChosen) {
+    ScriptLines lines(file);
+    SecondPass pass(lines, document, view, firstLineWithoutAlias);
+    std::span<char> bytes;
+    while (lines.Next(bytes)) {
+        pass.TakeLine(bytes);
+    }
+    pass.Finish(modelChosen);
+    return {pass.Foreign()};
+}
+
+}  // namespace lv

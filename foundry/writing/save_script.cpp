@@ -1,0 +1,123 @@
+#include "foundry/writing/save_script.h"
+
+#include "catalogs/browse.h"
+#include "catalogs/scripts.h"
+#include "foundation/field_strings.h"
+#include "foundation/game_numbers.h"
+#include "foundation/question_box.h"
+#include "foundry/document/bindings.h"
+#include "foundry/writing/save_filters.h"
+#include "foundry/document/script_messages.h"
+#include "foundry/writing/compose_script.h"
+
+namespace lv {
+
+namespace {
+
+constexpr const char* kTitle = "Setup Foundry";
+constexpr std::size_t kMaxFileSize = 32000;
+
+bool SayNotSaved(Run& run) {
+    AskUser(run, kTitle, "Script NOT saved.");
+    return false;
+}
+
+void TellDialogFailure(Run& run, const Error& failed, bool diagnostics) {
+    const Text size = diagnostics ? Join("MaxFileSize is ", std::to_string(kMaxFileSize), NewLine) : Text();
+    AskUser(run, "A Windows Related Error Occured", Join(size, DialogFailureText(failed)));
+}
+
+/// Empty if the user chose none, or was told why there is none.
+Text ChoosePath(Run& run, const ScriptDocument& document, bool diagnostics) {
+    const Index kind = document.Dialect.GameKind;
+    const Text& path = document.CurrentScriptPath;
+    FileRequest request;
+    request.Filter = SaveFilter(kind, ExtensionOf(path));
+    request.InitialDirectory = kind == game_kind::kUnreal ? DirectoryOf(path) : ScriptDirectory(run);
+    request.FileName = LastPathPart(path);
+    request.ForSaving = true;
+    request.MaxFileSize = kMaxFileSize;
+    const Result<std::optional<Text>> chosen = AskForFile(run, request);
+    if (chosen.Ok()) {
+        return chosen.Value.value_or("");
+    }
+    if (chosen.Fault.Number != kDialogCancelled) {
+        TellDialogFailure(run, chosen.Fault, diagnostics);
+    }
+    return {};
+}
+
+/// The games of the newer family write their config.cfg themselves.
+bool MayOwnConfig(Run& run, const ScriptDocument& document, TextView path) {
+    if (document.Dialect.ScriptFamily != script_family::kQuake2 || !Holds(LowerCase(path), "\\config.cfg")) {
+        return true;
+    }
+    const Index answer = AskUser(run, kTitle,
+                                 Join("You have selected to save this script as", NewLine, TabChar, "config.cfg",
+                                      NewLine, "Quake 2 / Sin / Heretic2 may ruin some of your changes", NewLine,
+                                      "because Quake 2 / Sin / Heretic2 owns the config.cfg."),
+                                 "&I Don't Care,&Cancel,&Tell Me How To Avoid This");
+    if (answer == 1) {
+        return SayNotSaved(run);
+    }
+    if (answer != 2) {
+        return true;
+    }
+    const Index second = AskUser(
+        run, kTitle,
+        Join("Press 'Save As...', and name the script", NewLine, "something like 'myscript.cfg'. Then select", NewLine,
+             "the script from the script list box on the", NewLine, "main launch window. Check the box next to the",
+             NewLine, "script list box. Quake 2 will not mess with", NewLine,
+             "this new file, and Lorvane will execute it."),
+        "&Screw That - Save This Anyway,&Cancel and I'll Try That");
+    return second == 1 ? SayNotSaved(run) : true;
+}
+
+bool Write(Run& run, const ScriptDocument& document, const Text& path) {
+    const Text script = ComposeScript(document, run.System.Time.Now());
+    if (const Error failed = run.System.Disk.Replace(path, script)) {
+        AskUser(run, "Error During Save", ErrorLines(failed));
+        return false;
+    }
+    return true;
+}
+
+/// An ini has no form for the empty command, so only a console script frees the key.
+void FreeEmptyBindings(ScriptDocument& document, ScriptView& view) {
+    if (document.Dialect.GameKind == game_kind::kUnreal) {
+        return;
+    }
+    for (KeyIndex key = 0; key < kKeyCount; ++key) {
+        if (document.KeyBinding[static_cast<std::size_t>(key)] == kEmptyCommand) {
+            UnbindKey(document, view, key);
+        }
+    }
+}
+
+}  // namespace
+
+bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, ScriptView& view, const SaveManner& manner) {
+    Text path = document.CurrentScriptPath;
+    if (manner.Name == SaveName::AskForIt) {
+        path = ChoosePath(run, document, manner.Diagnostics);
+        if (path.empty() || !MayOwnConfig(run, document, path)) {
+            return false;
+        }
+    }
+    if (!Write(run, document, path)) {
+        return false;
+    }
+    FreeEmptyBindings(document, view);
+    document.ScriptClean = true;
+    document.CurrentScriptPath = path;
+    document.Caption = EditorCaption(path);
+    if (!manner.Quiet) {
+        AskUser(run, kTitle, "The script was saved successfully!");
+    }
+    if (AddToScripts(run, LowerCase(LastPathPart(path)), path)) {
+        FillScriptsCombo(run, lists);
+    }
+    return true;
+}
+
+}  // namespace lv

@@ -1,0 +1,279 @@
+#include "foundry/half_life/convert_registry.h"
+
+#include "foundation/field_strings.h"
+#include "foundry/foundry.h"
+#include "launcher/launch_flow.h"
+#include "launcher/lv_events.h"
+#include "tests/foundry/script_fixture.h"
+#include "tests/support/launcher_fixture.h"
+
+namespace lv {
+namespace {
+
+constexpr TextView kPath = "C:\\HL\\valve\\lv3dhlrg.cfg";
+constexpr TextView kProfiles = "software\\valve\\half-life\\player profiles\\";
+
+class HalfLifeTest : public LauncherTest {
+  protected:
+    HalfLifeTest() { system.Disk.AddDirectory("C:\\HL\\VALVE"); }
+
+    void Select(TextView profile) {
+        system.Registry.Values["software\\valve\\half-life\\settings|selectedprofile"] = {kRegistryText, Text(profile),
+                                                                                          0};
+    }
+    /// `name` as "|chat nickname", "\kb|119", "\cvar|gamma".
+    void Hold(TextView profile, TextView name, TextView value) {
+        system.Registry.Values[Join(kProfiles, profile, name)] = {kRegistryText, Text(value), 0};
+    }
+    Text Held(TextView profile, TextView name) {
+        const auto found = system.Registry.Values.find(Join(kProfiles, profile, name));
+        return found == system.Registry.Values.end() ? Text("(none)") : found->second.Text;
+    }
+    void BeQuiet() { Save(run, "ShowMessage", "HalfLifeRegConversion", 0); }
+
+    void ExpectTold(TextView path, bool notAgain = false) {
+        user.Expect({"Half-Life Registry Conversion",
+                     Join("Lorvane has just converted your Half-Life settings from the registry\r\n"
+                          "to the following file:\r\n",
+                          path,
+                          "\r\nThis will automatically occur each time you select Half-Life in the\r\n"
+                          "Game Executable list; the previous file is destroyed.\r\n"
+                          "Half-Life stores your settings in the registry. However, it still allows\r\n"
+                          "execution of player scripts. Lorvane will manage your Half-Life settings\r\n"
+                          "through scripts only. The automatic conversion of the registry to a file\r\n"
+                          "gives you an initial changeover. ROCK!"),
+                     0, notAgain, true, "&OK"});
+    }
+    void ExpectFailure(int number) {
+        user.Expect({"Error During Save of Half-Life Registry Settings Conversion",
+                     Join("Error Number = ", std::to_string(number), "\r\nError String = ", MakeError(number).Text), 0,
+                     false, true, "&OK"});
+    }
+
+    Text Script() { return system.Disk.Bytes(kPath); }
+};
+
+TEST_F(HalfLifeTest, WritesTheSelectedProfile) {
+    BeQuiet();
+    Select("Gordon");
+    Hold("gordon", "|chat nickname", "Dr. Freeman");
+    Hold("gordon", "\\kb|119", "+forward");
+    Hold("gordon", "\\cvar|plate color", "30");
+    Hold("player", "|chat nickname", "Somebody else");
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(CountLines(Script(), "name \"Dr. Freeman\""), 1);
+    EXPECT_EQ(CountLines(Script(), "bind \"w\"             \"+forward\""), 1);
+    EXPECT_EQ(CountLines(Script(), "plate_color 30"), 1);
+    EXPECT_EQ(CountLines(Script(), "//* 11/21/1999      *//"), 1);
+}
+
+TEST_F(HalfLifeTest, WithoutASelectedProfileThePlayersNameIsPlayer) {
+    BeQuiet();
+    Hold("player", "|chat nickname", "Unknown soldier");
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(CountLines(Script(), "name \"Unknown soldier\""), 1);
+    Select("");
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(CountLines(Script(), "name \"Unknown soldier\""), 1);
+}
+
+TEST_F(HalfLifeTest, AnEmptyRegistryGivesAScriptWithFewerLines) {
+    BeQuiet();
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(CountLines(Script(), "name \"\""), 1);
+    EXPECT_FALSE(Holds(Script(), "bind"));
+}
+
+TEST_F(HalfLifeTest, WritesANumberAsItsDigits) {
+    BeQuiet();
+    system.Registry.Values[Join(kProfiles, "player\\cvar|rate")] = {kRegistryNumber, "", 3500};
+    system.Registry.Values[Join(kProfiles, "player\\cvar|gamma")] = {3, "bytes", 0};
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(CountLines(Script(), "Rate 3500"), 1);
+    EXPECT_FALSE(Holds(Script(), "gamma"));
+}
+
+TEST_F(HalfLifeTest, TheSecondConversionOverwritesTheFirst) {
+    BeQuiet();
+    system.Disk.AddFile(kPath, "a script that somebody has edited");
+    Hold("player", "|chat nickname", "first");
+    ConvertRegistryToScript(run, kPath);
+    Hold("player", "|chat nickname", "second");
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(CountLines(Script(), "name \"second\""), 1);
+    EXPECT_FALSE(Holds(Script(), "first"));
+}
+
+TEST_F(HalfLifeTest, AddsTheScriptToTheCatalogOnce) {
+    BeQuiet();
+    ConvertRegistryToScript(run, kPath);
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(Stored(kOptions, "Scripts"), "Registry Settings;c:\\hl\\valve\\lv3dhlrg.cfg");
+}
+
+TEST_F(HalfLifeTest, TellsOfTheConversionUntilToldNotTo) {
+    ExpectTold(kPath);
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_NE(Stored("ShowMessage", "HalfLifeRegConversion"), "0");
+    ExpectTold(kPath, true);
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(Stored("ShowMessage", "HalfLifeRegConversion"), "0");
+    ConvertRegistryToScript(run, kPath);
+}
+
+TEST_F(HalfLifeTest, TellsOfTheConversionOnlyIfTheSettingIsOne) {
+    Save(run, "ShowMessage", "HalfLifeRegConversion", "2");
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_TRUE(user.Asked.empty());
+}
+
+TEST_F(HalfLifeTest, AScriptThatCannotBeWrittenIsToldAndLeftAsItWas) {
+    for (const int number : {61, 70, 75}) {
+        system.Disk.AddFile(kPath, "the old one");
+        system.Disk.Refused["c:\\hl\\valve\\lv3dhlrg.cfg"] = MakeError(number);
+        ExpectFailure(number);
+        ConvertRegistryToScript(run, kPath);
+        EXPECT_EQ(Script(), "the old one");
+        EXPECT_EQ(Stored(kOptions, "Scripts"), "(none)");
+    }
+}
+
+TEST_F(HalfLifeTest, ARegistryThatDoesNotAnswerCostsNobodyHisScript) {
+    system.Disk.AddFile(kPath, "the old one");
+    system.Registry.RefuseQueries = MakeError(error::kDeviceFault);
+    ExpectFailure(57);
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(Script(), "the old one");
+}
+
+TEST_F(HalfLifeTest, WritesAScriptsSettingsToTheSelectedProfile) {
+    Select("Gordon");
+    system.Disk.AddFile("C:\\HL\\VALVE\\my.cfg", "name \"Me\"\r\nbind w \"+forward\"\r\nrate 2500\r\n+mlook\r\n");
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "c:\\hl\\valve\\MY.CFG"));
+    EXPECT_EQ(Held("gordon", "|chat nickname"), "Me");
+    EXPECT_EQ(Held("gordon", "\\kb|119"), "+forward");
+    EXPECT_EQ(Held("gordon", "\\cvar|rate"), "2500");
+    EXPECT_EQ(Held("gordon", "\\cvar|mlook"), "1");
+    EXPECT_EQ(system.Registry.Values.size(), 5u);
+}
+
+TEST_F(HalfLifeTest, NamesAKeyByThreeDigits) {
+    system.Disk.AddFile("C:\\HL\\VALVE\\my.cfg", "bind tab x\nbind space y\nbind pause z\n");
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg"));
+    EXPECT_EQ(Held("player", "\\kb|009"), "x");
+    EXPECT_EQ(Held("player", "\\kb|032"), "y");
+    EXPECT_EQ(Held("player", "\\kb|255"), "z");
+}
+
+TEST_F(HalfLifeTest, LeavesWhatTheScriptDoesNotSet) {
+    Hold("player", "\\kb|119", "+back");
+    Hold("player", "\\cvar|gamma", "2");
+    system.Disk.AddFile("C:\\HL\\VALVE\\my.cfg", "unbindall\ngamma\nbind w \"\"\nhello 1\n");
+    const auto before = system.Registry.Values.size();
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg"));
+    EXPECT_EQ(Held("player", "\\kb|119"), "+back");
+    EXPECT_EQ(Held("player", "\\cvar|gamma"), "2");
+    EXPECT_EQ(system.Registry.Values.size(), before);
+}
+
+TEST_F(HalfLifeTest, WritesTextAsText) {
+    system.Disk.AddFile("C:\\HL\\VALVE\\my.cfg", "gamma 2");
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg"));
+    EXPECT_EQ(system.Registry.Values[Join(kProfiles, "player\\cvar|gamma")].Type, kRegistryText);
+}
+
+TEST_F(HalfLifeTest, AScriptThatCannotBeOpenedIsToldAndNoError) {
+    user.Expect(
+        {"Script Not Opened",
+         Join("Error opening specified script file.\r\n\r\nError Number = 53\r\nError String = ", MakeError(53).Text),
+         0, false, true, "&OK"});
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\gone.cfg"));
+    EXPECT_TRUE(system.Registry.Values.empty());
+}
+
+TEST_F(HalfLifeTest, PassesOnTheRegistrysErrors) {
+    system.Disk.AddFile("C:\\HL\\VALVE\\my.cfg", "gamma 2");
+    system.Registry.RefuseWrites = Error{5, "Access is denied."};
+    EXPECT_EQ(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg").Number, 5);
+    system.Registry.RefuseQueries = MakeError(57);
+    EXPECT_EQ(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg").Number, 57);
+}
+
+class ConnectFoundryTest : public HalfLifeTest {
+  protected:
+    ConnectFoundryTest() {
+        ConnectFoundry(launcher);
+        AddGames();
+    }
+};
+
+TEST_F(ConnectFoundryTest, PickingHalfLifeWritesItsScriptAndListsIt) {
+    Load();
+    Hold("player", "|chat nickname", "Gordon");
+    ExpectTold("c:\\hl\\valve\\lv3dhlrg.cfg");
+    PickExe("C:\\HL\\HL.EXE");
+    EXPECT_EQ(CountLines(Script(), "name \"Gordon\""), 1);
+    const auto& rows = window.Script_Cbo.Items;
+    ASSERT_FALSE(rows.empty());
+    EXPECT_TRUE(TextView(rows[0]).starts_with("Registry Settings "));
+    EXPECT_EQ(rows[0].substr(100), "c:\\hl\\valve\\lv3dhlrg.cfg");
+}
+
+TEST_F(ConnectFoundryTest, EachPickConvertsAnew) {
+    BeQuiet();
+    Load();
+    PickExe("C:\\HL\\HL.EXE");
+    Hold("player", "|chat nickname", "Gordon");
+    PickExe("C:\\HL\\HL.EXE");
+    EXPECT_EQ(CountLines(Script(), "name \"Gordon\""), 1);
+}
+
+TEST_F(ConnectFoundryTest, PickingAnotherGameConvertsNothing) {
+    Load();
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    EXPECT_EQ(Script(), "(none)");
+    EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE2\\valve\\lv3dhlrg.cfg"), "(none)");
+}
+
+TEST_F(ConnectFoundryTest, ALaunchWithAScriptWritesItToTheRegistryBeforeTheGameStarts) {
+    BeQuiet();
+    Load();
+    PickExe("C:\\HL\\HL.EXE");
+    system.Disk.AddFile("C:\\HL\\VALVE\\life.cfg", "name \"Alyx\"\nbind w +forward\n");
+    for (std::size_t i = 0; i < window.Script_Cbo.Items.size(); ++i) {
+        if (TextView(window.Script_Cbo.Items[i]).starts_with("life.cfg")) {
+            window.Script_Cbo.ListIndex = static_cast<int>(i);
+        }
+    }
+    Click(&LV_Frm::Script_Chk, 1);
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(Held("player", "|chat nickname"), "Alyx");
+    EXPECT_EQ(Held("player", "\\kb|119"), "+forward");
+    EXPECT_EQ(system.Programs.Started.size(), 1u);
+    EXPECT_EQ(system.Disk.Bytes("C:\\HL\\VALVE\\lv_666.qs"), "exec life.cfg\r\n");
+}
+
+TEST_F(ConnectFoundryTest, ALaunchWithoutAScriptLeavesTheRegistryAlone) {
+    BeQuiet();
+    Load();
+    PickExe("C:\\HL\\HL.EXE");
+    Click(&LV_Frm::Script_Chk, 0);
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(system.Registry.Values.empty());
+    EXPECT_EQ(system.Programs.Started.size(), 1u);
+}
+
+TEST_F(ConnectFoundryTest, ARegistryThatRefusesTheScriptStopsTheLaunch) {
+    BeQuiet();
+    Load();
+    Hold("player", "|chat nickname", "Gordon");
+    PickExe("C:\\HL\\HL.EXE");
+    Click(&LV_Frm::Script_Chk, 1);
+    system.Registry.RefuseWrites = Error{5, "Access is denied."};
+    user.Expect({"Lorvane 3D", "Error Number = 5\r\nError Code = EC00080"});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+}  // namespace
+}  // namespace lv

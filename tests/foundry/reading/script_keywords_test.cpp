@@ -1,0 +1,299 @@
+// The table of keywords a second time: for each a line, and what the document holds afterwards.
+
+#include "foundry/reading/script_keywords.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "tests/foundry/reading.h"
+
+namespace lv {
+namespace {
+
+Text Chosen(const ListBox& list) {
+    return list.HasSelection() ? list.Selected() : "-";
+}
+
+Text Row(const ListBox& list) {
+    return std::to_string(list.ListIndex);
+}
+
+Text Mark(const CheckBox& check) {
+    return check.Value == 1 ? "on" : "off";
+}
+
+using D = ScriptDocument;
+
+/// Reads the lines below a head, in an ini, or as they are.
+D Read(Index kind, TextView lines, bool quakeWorld = false) {
+    return ReadScript(DialectOf(kind, quakeWorld), Join(kind == 4 ? "[Any]\r\n" : "", lines));
+}
+
+struct KeywordCase {
+    Index Kind;
+    const char* Line;
+    Text (*Look)(const D&);
+    const char* Expected;
+};
+
+class Keyword : public ::testing::TestWithParam<KeywordCase> {};
+
+TEST_P(Keyword, IsUnderstood) {
+    const KeywordCase& row = GetParam();
+    const D document = Read(row.Kind, row.Line);
+    EXPECT_EQ(row.Look(document), row.Expected) << row.Line;
+    EXPECT_EQ(document.Sections.at(0).Text, "") << row.Line;
+}
+
+#define LOOK(expression) [](const D& d) -> Text { return expression; }
+
+// clang-format off
+constexpr KeywordCase kCases[] = {
+    {4, "WeaponPriority[3]=Quadshot",     LOOK(d.WeaponPriority[3]),              "Quadshot"},
+    {4, "WEAPONPRIORITY[50]=ASMD",        LOOK(d.WeaponPriority[50]),             "ASMD"},
+    {4, "WeaponPriority[3]=none",         LOOK(d.WeaponPriority[3]),              ""},
+    {4, "UseDirectSound=True",            LOOK(Chosen(d.UnrealAudio_Cbo[0])),     "True"},
+    {4, "UseFilter=False",                LOOK(Chosen(d.UnrealAudio_Cbo[1])),     "False"},
+    {4, "UseSurround=true",               LOOK(Chosen(d.UnrealAudio_Cbo[2])),     "True"},
+    {4, "UseStereo=FALSE",                LOOK(Chosen(d.UnrealAudio_Cbo[3])),     "False"},
+    {4, "UseCDMusic=True",                LOOK(Chosen(d.UnrealAudio_Cbo[4])),     "True"},
+    {4, "UseDigitalMusic=False",          LOOK(Chosen(d.UnrealAudio_Cbo[5])),     "False"},
+    {4, "UseSpatial=False",               LOOK(Chosen(d.UnrealAudio_Cbo[6])),     "False"},
+    {4, "UseReverb=True",                 LOOK(Chosen(d.UnrealAudio_Cbo[7])),     "True"},
+    {4, "Use3dHardware=False",            LOOK(Chosen(d.UnrealAudio_Cbo[8])),     "False"},
+    {4, "LowSoundQuality=Maybe",          LOOK(Chosen(d.UnrealAudio_Cbo[9])),     "Maybe"},
+    {4, "ReverseStereo=False",            LOOK(Chosen(d.UnrealAudio_Cbo[10])),    "False"},
+    {4, "Latency=40",                     LOOK(Chosen(d.UnrealAudio_Cbo[11])),    "40"},
+    {4, "OutputRate=22050Hz",             LOOK(Chosen(d.UnrealAudio_Cbo[12])),    "22050Hz"},
+    {4, "EffectsChannels=16",             LOOK(Chosen(d.UnrealAudio_Cbo[13])),    "16"},
+    {4, "DopplerSpeed=6500.000000",       LOOK(Chosen(d.UnrealAudio_Cbo[14])),    "6500.000000"},
+    {4, "MusicVolume=0.123",              LOOK(Chosen(d.UnrealAudio_Cbo[15])),    "0.123"},
+    {4, "SoundVolume=77",                 LOOK(Chosen(d.UnrealAudio_Cbo[16])),    "77"},
+    {4, "AmbientFactor=0.7",              LOOK(Chosen(d.UnrealAudio_Cbo[17])),    "0.700000"},
+    {4, "PlayerName=Joe \"X\" Doe",       LOOK(d.Name_Txt.Text),                  "Joe \"X\" Doe"},
+    {1, "playername \"Joe Doe\"",         LOOK(d.Name_Txt.Text),                  "Joe Doe"},
+    {4, "TeamName=Reds",                  LOOK(d.UnrealTeamName_Txt.Text),        "Reds"},
+    {4, "Password=Secret",                LOOK(d.UnrealPassword_Txt.Text),        "Secret"},
+    {4, "DodgeClickTime=0.250000",        LOOK(Chosen(d.PlayerPawn_Cbo[0])),      "0.250000"},
+    {4, "Bob=0.016",                      LOOK(Chosen(d.PlayerPawn_Cbo[1])),      "0.016000"},
+    {4, "MyAutoAim=0.85",                 LOOK(Chosen(d.PlayerPawn_Cbo[2])),      "0.850000"},
+    {4, "Handedness=-1.000000",           LOOK(Chosen(d.PlayerPawn_Cbo[3])),      "-1.000000"},
+    {4, "bLookUpStairs=False",            LOOK(Chosen(d.PlayerPawn_Cbo[4])),      "False"},
+    {4, "bSnapToLevel=True",              LOOK(Chosen(d.PlayerPawn_Cbo[5])),      "True"},
+    {4, "bAlwaysMouseLook=False",         LOOK(Chosen(d.PlayerPawn_Cbo[6])),      "False"},
+    {4, "bKeyboardLook=True",             LOOK(Chosen(d.PlayerPawn_Cbo[7])),      "True"},
+    {4, "bInvertMouse=False",             LOOK(Chosen(d.PlayerPawn_Cbo[8])),      "False"},
+    {4, "MouseSensitivity=3",             LOOK(Chosen(d.PlayerPawn_Cbo[9])),      "3.000000"},
+    {4, "NetSpeed=2600",                  LOOK(Chosen(d.PlayerPawn_Cbo[10])),     "2600"},
+    {4, "ClientNetMinDelta=0.05",         LOOK(Chosen(d.PlayerPawn_Cbo[11])),     "0.050000"},
+    {4, "ServerNetMinDelta=0.06",         LOOK(Chosen(d.PlayerPawn_Cbo[12])),     "0.06"},
+    {4, "MouseX=6.5",                     LOOK(Chosen(d.MouseBind_Cbo[0])),       "6.5"},
+    {4, "MouseY=7.0",                     LOOK(Chosen(d.MouseBind_Cbo[1])),       "7.0"},
+    {1, "_cl_color 52",                   LOOK(std::to_string(d.PlayerColor_Lbl[0].Tag)),       "3"},
+    {1, "_cl_color 52.0",                 LOOK(std::to_string(d.PlayerColor_Lbl[1].Tag)),       "4"},
+    {1, "_cl_color 52",                   LOOK(std::to_string(d.PlayerColor_Lbl[0].BackColor)), "32768"},
+    {1, "_cl_color 52",                   LOOK(std::to_string(d.PlayerColor_Lbl[1].BackColor)), "128"},
+    {1, "_cl_name \"Joe Doe\"",           LOOK(d.Name_Txt.Text),                  "Joe Doe"},
+    {2, "_cl_playerclass \"2\"",          LOOK(Row(d.PlayerClass_Cbo)),           "2"},
+    {2, "_cl_playerclass 3.0",            LOOK(Row(d.PlayerClass_Cbo)),           "3"},
+    {2, "_cl_playerclass 7.50",           LOOK(Chosen(d.PlayerClass_Cbo)),        "7.5"},
+    {3, "set cl_run 1",                   LOOK(Mark(d.Speed_Chk)),                "on"},
+    {3, "+speed\ncl_run 2",               LOOK(Mark(d.Speed_Chk)),                "off"},
+    {1, "_snd_mixahead .1",               LOOK(Chosen(d.snd_mixahead_Cbo)),       "0.10"},
+    {3, "set s_mixahead 0.2",             LOOK(Chosen(d.snd_mixahead_Cbo)),       "0.20"},
+    {1, "+mlook",                         LOOK(Mark(d.MLook_Chk)),                "on"},
+    {1, "+SPEED",                         LOOK(Mark(d.Speed_Chk)),                "on"},
+    {1, "alias rj \"+jump\"",             LOOK(AliasesOf(d)),                     "rj=+jump"},
+    {1, "bgmvolume 1",                    LOOK(Chosen(d.bgmvolume_Cbo)),          "1.0"},
+    {1, "bind a +attack",                 LOOK(BindingOf(d, "a")),                "+attack"},
+    {3, "cd_nocd 1",                      LOOK(Mark(d.Q2_EnableCD_Chk)),          "off"},
+    {3, "cd_nocd 0",                      LOOK(Mark(d.Q2_EnableCD_Chk)),          "on"},
+    {3, "cd_nocd x",                      LOOK(Mark(d.Q2_EnableCD_Chk)),          "on"},
+    {1, "cl_backspeed 400.000000",        LOOK(Chosen(d.cl_backspeed_Cbo)),       "400"},
+    {1, "cl_bob 0.010",                   LOOK(Chosen(d.cl_bob_Cbo)),             "0.01"},
+    {1, "cl_bobcycle 0.60",               LOOK(Chosen(d.cl_bobcycle_Cbo)),        "0.6"},
+    {1, "cl_bobup .5",                    LOOK(Chosen(d.cl_bobup_Cbo)),           "0.5"},
+    {1, "cl_forwardspeed 333.30",         LOOK(Chosen(d.cl_forwardspeed_Cbo)),    "333.3"},
+    {1, "cl_pitchspeed 150",              LOOK(Chosen(d.cl_pitchspeed_Cbo)),      "150"},
+    {1, "cl_rollangle 2.0",               LOOK(Chosen(d.cl_rollangle_Cbo)),       "2"},
+    {1, "cl_rollspeed 200",               LOOK(Chosen(d.cl_rollspeed_Cbo)),       "200"},
+    {1, "cl_sidespeed 350",               LOOK(Chosen(d.cl_sidespeed_Cbo)),       "350"},
+    {1, "cl_yawspeed fast",               LOOK(Chosen(d.cl_yawspeed_Cbo)),        "0"},
+    {1, "color 13 4",                     LOOK(std::to_string(d.PlayerColor_Lbl[0].Tag)),       "13"},
+    {1, "color 13 4",                     LOOK(std::to_string(d.PlayerColor_Lbl[1].Tag)),       "4"},
+    {1, "color 13 4",                     LOOK(std::to_string(d.PlayerColor_Lbl[0].BackColor)), "12582912"},
+    {1, "color 12",                       LOOK(std::to_string(d.PlayerColor_Lbl[1].Tag)),       "12"},
+    {1, "color 12",                       LOOK(std::to_string(d.PlayerColor_Lbl[1].BackColor)), "65535"},
+    {1, "color 3\ncolor 14 -1",           LOOK(std::to_string(d.PlayerColor_Lbl[0].BackColor)), "32768"},
+    {1, "color 14 -1",                    LOOK(std::to_string(d.PlayerColor_Lbl[1].Tag)),       "-1"},
+    {1, "crosshaircolor 79",              LOOK(Chosen(d.CrossHairColor_Cbo)),     "079 -Red"},
+    {1, "crosshaircolor 300",             LOOK(Chosen(d.CrossHairColor_Cbo)),     "300"},
+    {1, "crosshair 1",                    LOOK(Chosen(d.Crosshair_Cbo)),          "1"},
+    {1, "crosshair 2.0",                  LOOK(Chosen(d.Crosshair_Cbo)),          "2"},
+    {1, "crosshair +",                    LOOK(Chosen(d.Crosshair_Cbo)),          "0"},
+    {3, "crosshair 3",                    LOOK(Chosen(d.Crosshair_Cbo)),          "3 (red angle)"},
+    {3, "crosshair 4",                    LOOK(Chosen(d.Crosshair_Cbo)),          "4"},
+    {5, "crosshair 2",                    LOOK(Chosen(d.Crosshair_Cbo)),          "2 (red dot)"},
+    {6, "crosshair 1",                    LOOK(Chosen(d.Crosshair_Cbo)),          "1 (white cross)"},
+    {9, "crosshair 1.0",                  LOOK(Chosen(d.Crosshair_Cbo)),          "1 (crosshair on)"},
+    {1, "echo |========================|",    LOOK(d.Sections.at(0).Text),        ""},
+    {1, "echo |..Setup Foundry ROCKS!..|",    LOOK(d.Sections.at(0).Text),        ""},
+    {1, "echo |==setup",                      LOOK(d.Sections.at(0).Text),        ""},
+    {1, "echo |........................|",    LOOK(d.Sections.at(0).Text),        ""},
+    {1, "fov 90",                         LOOK(Chosen(d.fov_Cbo)),                "90"},
+    {3, "set freelook 1",                 LOOK(Mark(d.MLook_Chk)),                "on"},
+    {1, "joystick 1",                     LOOK(Mark(d.JoyStick_Chk)),             "on"},
+    {1, "lookspring 1",                   LOOK(Mark(d.LookSpring_Chk)),           "on"},
+    {1, "lookstrafe 1",                   LOOK(Mark(d.LookStrafe_Chk)),           "on"},
+    {1, "noaim 1",                        LOOK(Mark(d.NoAim_Chk)),                "on"},
+    {1, "showpause \"1\"",                LOOK(Mark(d.ShowPause_Chk)),            "on"},
+    {1, "showram 1\nshowram 0",           LOOK(Mark(d.ShowRAM_Chk)),              "off"},
+    {1, "showturtle 1\nshowturtle 2",     LOOK(Mark(d.ShowTurtle_Chk)),           "on"},
+    {1, "gamma 0.70",                     LOOK(Chosen(d.gamma_Cbo)),              "0.7"},
+    {3, "hand 1",                         LOOK(Chosen(d.Handed_Cbo)),             "1 (left)"},
+    {6, "hand 2",                         LOOK(Chosen(d.Handed_Cbo)),             "2 (none)"},
+    {1, "m_forward 1",                    LOOK(Chosen(d.m_forward_Cbo)),          "1"},
+    {1, "m_side 0.8",                     LOOK(Chosen(d.m_side_Cbo)),             "0.8"},
+    {1, "m_yaw 0.022",                    LOOK(Chosen(d.m_yaw_Cbo)),              "0.022"},
+    {1, "m_filter 1",                     LOOK(Chosen(d.m_filter_Cbo)),           "1"},
+    {1, "sensitivity 3",                  LOOK(Chosen(d.MouseSensitivity_Cbo)),   "3.0"},
+    {1, "m_pitch -0.022",                 LOOK(Chosen(d.m_pitch_Cbo)),            "0.022"},
+    {1, "m_pitch -0.022",                 LOOK(Mark(d.InvertMouse_Chk)),          "on"},
+    {1, "m_pitch 0.03",                   LOOK(Chosen(d.m_pitch_Cbo)),            "0.030"},
+    {1, "m_pitch 0.03",                   LOOK(Mark(d.InvertMouse_Chk)),          "off"},
+    {1, "m_pitch -0.03\nm_pitch 0.03",    LOOK(Mark(d.InvertMouse_Chk)),          "off"},
+    {1, "name \"Joe\xFF \xA8\"",          LOOK(d.Name_Txt.Text),                  "Joe\x9F \xA8"},
+    {1, "name \"player\"\nname \"Joe\"",  LOOK(d.Name_Txt.Text),                  "Joe"},
+    {3, "rate 5000",                      LOOK(d.Rate_Txt.Text),                  "5000"},
+    {9, "rate 5000",                      LOOK(d.Rate_Txt.Text),                  "5000"},
+    {3, "s_volume 0.70",                  LOOK(Chosen(d.volume_Cbo)),             "0.7"},
+    {1, "volume 0.7",                     LOOK(Chosen(d.volume_Cbo)),             "0.7"},
+    {3, "s_wavonly 1",                    LOOK(Mark(d.Q2_WaveOnly_Chk)),          "on"},
+    {3, "s_wavonly 1\ns_wavonly 2",       LOOK(Mark(d.Q2_WaveOnly_Chk)),          "off"},
+    {1, "scr_centerspeed 8",              LOOK(Chosen(d.scr_centerspeed_Cbo)),    "8"},
+    {1, "scr_conspeed 2000",              LOOK(Chosen(d.scr_conspeed_Cbo)),       "2000"},
+    {1, "v_kickpitch 0.60",               LOOK(Chosen(d.v_kickpitch_Cbo)),        "0.6"},
+    {1, "v_kickroll 3",                   LOOK(Chosen(d.v_kickroll_Cbo)),         "3.0"},
+    {1, "v_kicktime 0.5",                 LOOK(Chosen(d.v_kicktime_Cbo)),         "0.5"},
+    {1, "viewsize 100",                   LOOK(Chosen(d.viewsize_Cbo)),           "100"},
+    {1, "setupfoundry_info specifycolors 0",  LOOK(Mark(d.NoColors_Chk)),         "on"},
+    {1, "setupfoundry_info SpecifyColors 1",  LOOK(Mark(d.NoColors_Chk)),         "off"},
+    {1, "setupfoundry_info other 0",          LOOK(Mark(d.NoColors_Chk)),         "off"},
+    {3, "skin male/grunt",                LOOK(Chosen(d.Sex_Cbo)),                "male"},
+    {3, "skin male/grunt/x",              LOOK(Chosen(d.Skin_Cbo)),               "grunt/x"},
+    {3, "set sv_aim 1.0",                 LOOK(Mark(d.NoAim_Chk)),                "on"},
+    {3, "sv_aim 1\nsv_aim 0.5",           LOOK(Mark(d.NoAim_Chk)),                "off"},
+    {1, "unbindall",                      LOOK(Mark(d.Unbindall_Chk)),            "on"},
+    {1, "unbindall // removes all",       LOOK(Mark(d.Unbindall_Chk)),            "on"},
+    {1, "vid_mode 3",                     LOOK(Chosen(d.vidmode_Cbo)),            "3) 320x240"},
+    {1, "vid_mode 15",                    LOOK(Chosen(d.vidmode_Cbo)),            "15) Custom VESA Mode"},
+    {1, "vid_mode 11",                    LOOK(Chosen(d.vidmode_Cbo)),            "11) Custom VESA Mode"},
+    {1, "vid_mode 10",                    LOOK(Chosen(d.vidmode_Cbo)),            "10) 360x480"},
+    {1, "vid_mode -1",                    LOOK(Row(d.vidmode_Cbo)),               "-1"},
+    {1, "vid_mode -2",                    LOOK(Chosen(d.vidmode_Cbo)),            "-2) Custom VESA Mode"},
+    {1, "vid_mode x",                     LOOK(Chosen(d.vidmode_Cbo)),            "0) 320x200"},
+};
+// clang-format on
+
+INSTANTIATE_TEST_SUITE_P(Table, Keyword, ::testing::ValuesIn(kCases));
+
+struct KeptCase {
+    Index Kind;
+    const char* Line;
+};
+
+class KeptLine : public ::testing::TestWithParam<KeptCase> {};
+
+TEST_P(KeptLine, StaysInTheTextOfItsSection) {
+    EXPECT_EQ(Read(GetParam().Kind, GetParam().Line).Sections.at(0).Text, GetParam().Line);
+}
+
+constexpr KeptCase kKept[] = {
+    {1, "_cl_playerclass 2"},
+    {3, "_cl_playerclass"},
+    {1, "echo hello"},
+    {1, "echo"},
+    {1, "echo |=========================|"},
+    {4, "Name=Player"},
+    {4, "Name="},
+    {1, "rate 5000"},
+    {2, "rate"},
+    {4, "Rate=5000"},
+    {1, "skin base"},
+    {2, "skin male/grunt"},
+    {4, "Class=Botpack.TMale1"},
+    {1, "fovs 90"},
+    {1, "-mlook"},
+    {1, "\"fov \" 90"},
+    {4, "Gamma =0.5"},
+    {1, "crosshairs 1"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Table, KeptLine, ::testing::ValuesIn(kKept));
+
+TEST(Keywords, AreThese) {
+    // clang-format off
+    constexpr const char* kAll[] = {
+        "weaponpriority", "usedirectsound", "usefilter", "usesurround", "usestereo", "usecdmusic", "usedigitalmusic",
+        "usespatial", "usereverb", "use3dhardware", "lowsoundquality", "reversestereo", "latency", "outputrate",
+        "effectschannels", "dopplerspeed", "musicvolume", "soundvolume", "ambientfactor", "playername", "teamname",
+        "password", "dodgeclicktime", "bob", "myautoaim", "handedness", "blookupstairs", "bsnaptolevel",
+        "balwaysmouselook", "bkeyboardlook", "binvertmouse", "mousesensitivity", "netspeed", "clientnetmindelta",
+        "servernetmindelta", "mousex", "mousey", "_cl_color", "_cl_name", "_cl_playerclass", "cl_run",
+        "_snd_mixahead", "s_mixahead", "+mlook", "+speed", "alias", "bgmvolume", "bind", "cd_nocd", "cl_backspeed",
+        "cl_bob", "cl_bobcycle", "cl_bobup", "cl_forwardspeed", "cl_pitchspeed", "cl_rollangle", "cl_rollspeed",
+        "cl_sidespeed", "cl_yawspeed", "color", "crosshaircolor", "crosshair", "echo", "fov", "freelook", "joystick",
+        "lookspring", "lookstrafe", "noaim", "showpause", "showram", "showturtle", "gamma", "hand", "m_forward",
+        "m_side", "m_yaw", "m_filter", "sensitivity", "m_pitch", "name", "rate", "s_volume", "volume", "s_wavonly",
+        "scr_centerspeed", "scr_conspeed", "v_kickpitch", "v_kickroll", "v_kicktime", "viewsize",
+        "setupfoundry_info", "skin", "sv_aim", "unbindall", "vid_mode"
+    };
+    // clang-format on
+    EXPECT_EQ(CountKeywords(), std::size(kAll));
+    for (const char* keyword : kAll) {
+        EXPECT_NE(FindKeyword(keyword), nullptr) << keyword;
+    }
+    EXPECT_EQ(FindKeyword(""), nullptr);
+    EXPECT_EQ(FindKeyword("set"), nullptr);
+}
+
+TEST(Keywords, OfQuakeWorldTakeTheRate) {
+    const D document = Read(1, "rate 2500", true);
+    EXPECT_EQ(document.Rate_Txt.Text, "2500");
+    EXPECT_EQ(document.Sections.at(0).Text, "");
+}
+
+TEST(Keywords, LeaveABoxThatIsOffAsItIs) {
+    ScriptView view;
+    D document = MakeScriptDocument(DialectOf(3));
+    document.Q2_EnableCD_Chk.Enabled = false;
+    document.Q2_EnableCD_Chk.Value = 1;
+    document.Q2_WaveOnly_Chk.Enabled = false;
+    ReadInto(document, "cd_nocd 1\ns_wavonly 1", view);
+    EXPECT_EQ(document.Q2_EnableCD_Chk.Value, 1);
+    EXPECT_EQ(document.Q2_WaveOnly_Chk.Value, 0);
+}
+
+TEST(Keywords, AddVideoModesOnlyAsFarAsALongListGoes) {
+    Text script;
+    for (int mode = 11; mode < 3000; ++mode) {
+        script += "vid_mode " + std::to_string(mode) + "\n";
+    }
+    const D document = Read(1, script);
+    EXPECT_EQ(document.vidmode_Cbo.Items.size(), 1011);
+    EXPECT_EQ(document.vidmode_Cbo.Selected(), "2999) Custom VESA Mode");
+}
+
+TEST(Keywords, KeepAWeaponThatFindsNoRoom) {
+    Text script;
+    for (int weapon = 0; weapon < 1002; ++weapon) {
+        script += "WeaponPriority[5]=w" + std::to_string(weapon) + "\n";
+    }
+    const D document = Read(4, script);
+    EXPECT_EQ(document.Sections.at(0).Text, "WeaponPriority[5]=w1000\r\nWeaponPriority[5]=w1001");
+    EXPECT_EQ(document.WeaponPriority[5], "w999");
+}
+
+}  // namespace
+}  // namespace lv
