@@ -25,13 +25,15 @@ set(MAY_foundry/document foundry/document ${MAY_foundry/tables} platform)
 set(MAY_foundry/reading foundry/reading foundry/document foundry/tables ${BELOW_FOUNDRY})
 set(MAY_foundry/writing foundry/writing foundry/document foundry/tables ${BELOW_FOUNDRY})
 set(MAY_foundry/half_life foundry/half_life ${MAY_foundry/writing} foundry/reading)
-set(MAY_foundry/editor foundry/editor ${MAY_foundry/half_life})
+set(MAY_foundry/fonts foundry/fonts foundry/tables catalogs foundation platform)
+set(MAY_foundry/editor foundry/editor foundry/fonts ${MAY_foundry/half_life})
 set(MAY_foundry foundry ${MAY_foundry/editor})
 set(MAY_wizard wizard launcher video catalogs foundation platform)
 
 set(faults "")
 foreach(folder platform foundation catalogs launcher video wizard gamespy
-        foundry foundry/tables foundry/document foundry/reading foundry/writing foundry/half_life foundry/editor)
+        foundry foundry/tables foundry/document foundry/reading foundry/writing foundry/half_life foundry/fonts
+        foundry/editor)
     file(GLOB sources ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.cpp)
     foreach(source ${sources})
         file(STRINGS ${source} lines REGEX "^[ \t]*#[ \t]*(include|import|ifdef|ifndef|if)")

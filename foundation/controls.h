@@ -79,6 +79,19 @@ struct ImageCombo : Control {
     }
 };
 
+/// A page of a tab control.
+struct TabPage : Control {
+    Text Caption;
+};
+
+struct TabSet : Control {
+    std::vector<TabPage> Pages;
+    int Tab = 0;  // the page that is shown
+
+    TabPage& operator[](std::size_t page) { return Pages[page]; }
+    const TabPage& operator[](std::size_t page) const { return Pages[page]; }
+};
+
 struct Picture : Control {
     int Index = 0;
 };

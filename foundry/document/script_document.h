@@ -29,11 +29,6 @@ struct ScriptSection {
     lv::Text Text;  // the free-form lines, joined by CR LF: FreeForm_Txt(i)
 };
 
-/// A page of a tab control.
-struct TabPage : Control {
-    Text Caption;
-};
-
 /// How an empty command stands in KeyBinding: two double quotes.
 constexpr TextView kEmptyCommand = "\"\"";
 
@@ -57,7 +52,7 @@ struct ScriptDocument : ScriptSettings {
     std::vector<ScriptSection> Sections;
     ListBox Section_Cbo;                  // the sections' names, shown for Unreal only
     std::array<Text, 51> WeaponPriority;  // as read; empty or "None" is a free place
-    std::array<TabPage, 5> Options_Tab;   // 3 "&QuakeWorld Skins", 4 "&Rate"
+    TabSet Options_Tab{{}, std::vector<TabPage>(5), 0};  // 3 "&QuakeWorld Skins", 4 "&Rate"
 
     bool ScriptClean = true;     // equals the file
     bool ScriptLoading = false;  // the reader is at work: the pages ignore changes

@@ -1,0 +1,47 @@
+// foundry/editor/undo_history.h
+//
+// Every edit of the editor's document, to be taken back and repeated. What an edit is, is seen by looking: after each
+// event the document is compared with what it was.
+
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "foundation/text.h"
+
+namespace lv {
+
+struct Fig_Frm;
+
+/// One cell's change: `Removed` stood at `At` of the cell's text, and `Inserted` took its place.
+struct CellChange {
+    std::uint32_t Cell = 0;
+    std::size_t At = 0;
+    Text Removed;
+    Text Inserted;
+};
+
+struct UndoHistory {
+    std::vector<Text> State;                     // the document's cells as they were last seen
+    std::vector<std::vector<CellChange>> Edits;  // the oldest first
+    std::size_t Position = 0;                    // how many of them are in force
+    std::size_t CleanPosition = 0;               // where the document equals its file
+};
+
+/// The document was read: nothing to take back.
+void StartHistory(Fig_Frm& form);
+
+/// Looks for what the event that is over has changed; an edit, if it has. Edits that were taken back before are gone
+/// then. Letters typed one after the other into one text are one edit, up to a blank or the line's end.
+void NoteEdit(Fig_Frm& form);
+
+/// The document equals its file now.
+void NoteSaved(Fig_Frm& form);
+
+/// Takes the last edit back, or repeats the one that was taken back last; nothing happens without one. The pages show
+/// the document as it is then, keys in their colours, and ScriptClean is set where the document equals its file.
+void Undo_Cmd_Click(Fig_Frm& form);
+void Redo_Cmd_Click(Fig_Frm& form);
+
+}  // namespace lv
