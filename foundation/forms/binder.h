@@ -9,6 +9,9 @@
 #include <wx/bmpcbox.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
+#include <wx/combobox.h>
+#include <wx/listbox.h>
+#include <wx/notebook.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
@@ -32,10 +35,20 @@ class Binder {
     void Bind(const char* name, CheckBox& model, wxCheckBox* view, Handler click, Text (*shown)(TextView) = nullptr);
     void Bind(const char* name, CommandButton& model, wxAnyButton* view, Handler click);
     void Bind(const char* name, ListBox& model, wxChoice* view, Handler click);
+    void Bind(const char* name, ListBox& model, wxListBox* view, Handler click);
+    /// A list with a field: `typed` gets each text that is typed, and puts it into the list.
+    void Bind(const char* name, ListBox& model, wxComboBox* view, Handler click,
+              std::function<void(TextView)> typed);
+    /// A page that is not visible leaves the tabs. `pages` are the windows of all pages, in their order.
+    void Bind(const char* name, TabSet& model, wxNotebook* view, std::vector<wxWindow*> pages,
+              std::function<void(int)> click);
     void Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, Handler click);
     void Bind(const char* name, TextBox& model, wxTextCtrl* view, Handler change);
     void Bind(const char* name, Label& model, wxStaticText* view);
     void Bind(const char* name, Panel& model, wxWindow* view);
+
+    /// Anything that brings itself in line when it is asked to; it answers whether something came or went.
+    void OnShow(std::function<bool()> show) { showers_.push_back(std::move(show)); }
 
     /// Runs a handler as if its control had been used.
     void Run(const Handler& handler);

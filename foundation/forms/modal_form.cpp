@@ -113,6 +113,10 @@ void ModalForm::Finish(wxButton* ok, wxButton* cancel) {
     buttons->Add(cancel, wxSizerFlags().Border(wxLEFT, kGap));
     rows_->Add(buttons, wxSizerFlags().Center().Border(wxALL, kGap * 2));
     ok->SetDefault();
+    Arrange();
+}
+
+void ModalForm::Arrange() {
     Controls.Show();
     SetSizerAndFit(rows_);
     if (GetParent() != nullptr) {

@@ -31,6 +31,8 @@ class ModalForm : public wxDialog {
     void AddWide(wxSizer* sizer, int proportion = 0);
     /// The last row, and the form's size and place.
     void Finish(wxButton* ok, wxButton* cancel);
+    /// The form's size and place, for one whose buttons stand elsewhere.
+    void Arrange();
 
     /// Brings the dialog in line with its struct.
     virtual void ShowState();

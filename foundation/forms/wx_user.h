@@ -26,6 +26,7 @@ class WxUser : public UserInterface {
 
     /// The window that question boxes stand over, once there is one.
     void SetActiveForm(wxWindow* form) { activeForm_ = form; }
+    [[nodiscard]] wxWindow* ActiveForm() const { return activeForm_; }
     /// The live window that the user works in, if that is another one: what is asked then stands over it.
     void SetForemost(wxWindow* form) { foremost_ = form; }
     /// Called by Refresh, for each owner its own; an empty one takes the owner's back.

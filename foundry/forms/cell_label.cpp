@@ -1,0 +1,217 @@
+#include "foundry/forms/cell_label.h"
+
+#include <wx/control.h>
+#include <wx/dcbuffer.h>
+#include <wx/settings.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "foundation/field_strings.h"
+#include "foundation/forms/wx_text.h"
+#include "platform/spoken_name.h"
+
+namespace lv {
+
+namespace {
+
+constexpr int kLeftMargin = 3;
+constexpr int kAsideCosts = 3;  // a label aside of the way is that much farther than one straight ahead
+
+wxColour BackOf(const CellLook& look) {
+    if (look.Highlighted) {
+        return wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
+    }
+    if (look.Inactive) {
+        return wxSystemSettings::GetColour(wxSYS_COLOUR_INACTIVEBORDER);
+    }
+    return look.Dark ? *wxBLACK : ToWxColour(look.Back);
+}
+
+// Black on every group's colour, whatever the theme: they are all light.
+wxColour TextColorOn(const CellLook& look, const wxColour& back) {
+    if (look.Highlighted) {
+        return wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHTTEXT);
+    }
+    constexpr double kMiddle = 0.45;
+    return back.GetLuminance() > kMiddle ? *wxBLACK : *wxWHITE;
+}
+
+}  // namespace
+
+wxColour ToWxColour(Color color) {
+    return {static_cast<unsigned char>(color & 0xffU), static_cast<unsigned char>(color >> 8U & 0xffU),
+            static_cast<unsigned char>(color >> 16U & 0xffU)};
+}
+
+CellLabel::CellLabel(wxWindow* parent, const wxString& name, Look look, CellGroup* group)
+    : look_(std::move(look)), group_(group) {
+    SetBackgroundStyle(wxBG_STYLE_PAINT);
+    Create(parent, wxID_ANY, wxDefaultPosition, wxSize(1, 1), wxWANTS_CHARS | wxBORDER_NONE | wxFULL_REPAINT_ON_RESIZE,
+           name);
+    Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
+    if (group_ == nullptr) {
+        return;
+    }
+    group_->Add(this);
+    Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
+        event.Skip();
+        group_->SetEntry(this);
+        Speak();
+        Refresh();
+    });
+    Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+        event.Skip();
+        Refresh();
+    });
+    Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) { MoveFocus(event); });
+}
+
+CellLabel::~CellLabel() {
+    if (group_ != nullptr) {
+        group_->Remove(this);
+    }
+}
+
+bool CellLabel::AcceptsFocusFromKeyboard() const {
+    return AcceptsFocus() && group_->Entry() == this;
+}
+
+void CellLabel::Speak() {
+    if (!speaker_) {
+        return;
+    }
+    Text text = speaker_();
+    if (text != spoken_) {
+        spoken_ = std::move(text);
+        SetSpokenName(GetHandle(), ToUtf8(spoken_));
+    }
+}
+
+bool CellLabel::ShowState() {
+    CellLook look = look_();
+    if (!fresh_ && look == shown_) {
+        return false;
+    }
+    if (fresh_ || look.ToolTip != shown_.ToolTip) {
+        if (look.ToolTip.empty()) {
+            UnsetToolTip();
+        } else {
+            SetToolTip(ToWx(look.ToolTip));
+        }
+    }
+    const bool came = look.Visible != IsShown();
+    fresh_ = false;
+    shown_ = std::move(look);
+    if (came) {
+        Show(shown_.Visible);
+    }
+    if (speaker_ && (!spoken_.empty() || HasFocus())) {
+        Speak();
+    }
+    Refresh();
+    return came;
+}
+
+void CellLabel::Paint() {
+    wxAutoBufferedPaintDC canvas(this);
+    const wxSize size = GetClientSize();
+    const wxColour back = BackOf(shown_);
+    const wxColour ink = TextColorOn(shown_, back);
+    canvas.SetBrush(wxBrush(back));
+    canvas.SetPen(wxPen(wxColour(96, 96, 96)));
+    canvas.DrawRectangle(0, 0, size.x, size.y);
+    canvas.SetFont(shown_.Bold ? GetFont().Bold() : GetFont());
+    canvas.SetTextForeground(ink);
+    const int margin = FromDIP(kLeftMargin);
+    const wxString text = shown_.Centered ? ToWx(Trim(shown_.Caption)) : ToWx(shown_.Caption);
+    const int room = size.x - (shown_.Centered ? 2 : margin + 2);
+    wxSize extent = canvas.GetTextExtent(text);
+    wxString drawn = text;
+    if (extent.x > room) {
+        drawn = wxControl::Ellipsize(text, canvas, wxELLIPSIZE_END, room);
+        extent = canvas.GetTextExtent(drawn);
+    }
+    const int left = shown_.Centered ? std::max(1, (size.x - extent.x) / 2) : margin;
+    canvas.DrawText(drawn, left, (size.y - extent.y) / 2);
+    if (HasFocus()) {
+        canvas.SetBrush(*wxTRANSPARENT_BRUSH);
+        canvas.SetPen(wxPen(ink, std::max(2, FromDIP(2))));
+        canvas.DrawRectangle(1, 1, size.x - 1, size.y - 1);
+    }
+}
+
+void CellLabel::MoveFocus(wxKeyEvent& event) {
+    int dx = 0;
+    int dy = 0;
+    switch (event.GetKeyCode()) {
+        case WXK_LEFT:
+            dx = -1;
+            break;
+        case WXK_RIGHT:
+            dx = 1;
+            break;
+        case WXK_UP:
+            dy = -1;
+            break;
+        case WXK_DOWN:
+            dy = 1;
+            break;
+        case WXK_TAB:
+            Navigate(event.ShiftDown() ? wxNavigationKeyEvent::IsBackward : wxNavigationKeyEvent::IsForward);
+            return;
+        default:
+            event.Skip();
+            return;
+    }
+    if (CellLabel* next = group_->Neighbour(*this, dx, dy)) {
+        next->SetFocus();
+    }
+}
+
+void CellGroup::Add(CellLabel* label) {
+    labels_.push_back(label);
+}
+
+void CellGroup::Remove(CellLabel* label) {
+    std::erase(labels_, label);
+    if (entry_ == label) {
+        entry_ = nullptr;
+    }
+}
+
+CellLabel* CellGroup::Entry() const {
+    if (entry_ != nullptr && entry_->IsShown()) {
+        return entry_;
+    }
+    const auto first = std::ranges::find_if(labels_, [](CellLabel* label) { return label->IsShown(); });
+    return first == labels_.end() ? nullptr : *first;
+}
+
+CellLabel* CellGroup::Neighbour(const CellLabel& from, int dx, int dy) const {
+    const wxRect start = from.GetScreenRect();
+    const wxPoint middle(start.x + start.width / 2, start.y + start.height / 2);
+    CellLabel* best = nullptr;
+    int least = 0;
+    for (CellLabel* label : labels_) {
+        if (label == &from || !label->IsShownOnScreen()) {
+            continue;
+        }
+        const wxRect place = label->GetScreenRect();
+        const int x = place.x + place.width / 2 - middle.x;
+        const int y = place.y + place.height / 2 - middle.y;
+        const int ahead = dx * x + dy * y;
+        const int aside = std::abs(dx != 0 ? y : x);
+        if (ahead <= 0) {
+            continue;
+        }
+        const int distance = ahead + kAsideCosts * aside;
+        if (best == nullptr || distance < least) {
+            best = label;
+            least = distance;
+        }
+    }
+    return best;
+}
+
+}  // namespace lv

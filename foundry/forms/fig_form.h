@@ -1,0 +1,67 @@
+// foundry/forms/fig_form.h
+//
+// Shows Fig_Frm: the tabs, the keyboard under them, and the row above that finds.
+
+#pragma once
+
+#include <wx/dialog.h>
+#include <wx/notebook.h>
+#include <wx/scrolwin.h>
+#include <wx/timer.h>
+
+#include <vector>
+
+#include "foundation/forms/kept_place.h"
+#include "foundation/forms/wx_user.h"
+#include "foundry/forms/fig_parts.h"
+#include "foundry/forms/key_hand.h"
+#include "foundry/forms/key_panels.h"
+
+namespace lv {
+
+class FigForm : public wxDialog {
+  public:
+    FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user);
+    ~FigForm() override;
+
+    void ShowState();
+
+    [[nodiscard]] Fig_Frm& Model() const { return model_; }
+
+    /// Makes all pages that nobody has looked at yet.
+    void MakeAllPages();
+
+  private:
+    wxSizer* MakeFindRow();
+    wxNotebook* MakeMainTab();
+    wxWindow* MakePlayerPage(wxNotebook* tabs);
+    wxWindow* MakeBindingsTabs(wxNotebook* tabs);
+    wxPanel* AddLate(wxWindow* parent, std::function<void(wxPanel*)> make);
+    void BindEvents();
+    void PressKey(wxKeyEvent& event);
+    bool PressOnLabel(wxKeyEvent& event);
+    bool PressShortcut(const wxKeyEvent& event);
+    void MakeShownPages();
+    bool MakeOnePage();
+    void LeadToFound();
+    void FitToScreen();
+    void KeepSize();
+    void Finished();
+
+    Fig_Frm& model_;
+    WxUser& user_;
+    FigParts parts_;
+    KeyHand hand_;
+    KeptPlace place_;
+    wxScrolledWindow* content_ = nullptr;
+    KeyPanels* keys_ = nullptr;
+    std::vector<LatePage> late_;
+    wxTimer saveTimer_;  // Save_Tmr
+    bool showing_ = false;
+    bool refresh_ = false;
+};
+
+/// The form of Fig_Frm and of its dialogs, for a user interface's makers.
+WxUser::FormMaker MakeFoundryForms(WxUser& user);
+
+}  // namespace lv

@@ -1,0 +1,55 @@
+// foundry/forms/key_hand.h
+//
+// The hand that drags a key onto a row, and the ear that waits for a key. The mouse is held meanwhile; which pointer is
+// seen and which row is marked is the struct's.
+
+#pragma once
+
+#include <functional>
+
+#include "foundry/forms/fig_parts.h"
+
+namespace lv {
+
+class KeyHand {
+  public:
+    explicit KeyHand(FigParts& parts);
+
+    void WatchKey(CellLabel* label, Index index);
+    void WatchRow(CellLabel* label, SlotNumber slot);
+    void WatchName(CellLabel* label, SlotNumber slot);
+
+    /// A key pressed anywhere in the window; true if it was for the hand.
+    bool TakeKey(const wxKeyEvent& event);
+
+    /// Holds or frees the mouse as the struct's state asks for.
+    void ShowState();
+
+    [[nodiscard]] bool IsDragging() const { return holder_ != nullptr && !listening_; }
+
+  private:
+    struct Target {
+        SlotNumber Slot;
+        wxRect Place;
+    };
+
+    void PressKey(CellLabel* label, Index index);
+    void Move(const wxPoint& screen);
+    void Release(const wxPoint& screen);
+    void ShowPointer();
+    void LetGo();
+    void Hold(CellLabel* label);
+    void Hear(wxMouseEvent& event, CellLabel* label);
+    [[nodiscard]] SlotNumber RowAt(const wxPoint& screen) const;
+    void ShowRow(SlotNumber slot);
+
+    FigParts& parts_;
+    std::vector<Target> targets_;   // where a drag can end
+    SlotNumber over_ = kNoSlot;     // the row under the pointer
+    CellLabel* holder_ = nullptr;   // holds the mouse
+    bool listening_ = false;        // for a key, not for the end of a drag
+    bool keyUp_ = false;            // the key that began the waiting was let go
+    DragIcon shown_ = DragIcon::None;
+};
+
+}  // namespace lv

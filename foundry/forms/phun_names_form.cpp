@@ -1,0 +1,100 @@
+#include "foundry/forms/phun_names_form.h"
+
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/display.h>
+#include <wx/stattext.h>
+
+#include <algorithm>
+
+#include "foundation/field_strings.h"
+#include "foundation/forms/wx_text.h"
+#include "foundry/forms/name_picture.h"
+
+namespace lv {
+
+namespace {
+
+constexpr int kGap = 6;
+
+using Click = void (*)(Fig_Frm&);
+
+struct ButtonRow {
+    const char* Name;
+    CommandButton PhunNames_Frm::*Button;
+    Click Handler;
+    int Help;  // what it does: its place in Help_Lbl; -1 without
+};
+
+// clang-format off
+constexpr ButtonRow kButtons[] = {
+    {"ClearCurrent_Cmd", &PhunNames_Frm::ClearCurrent_Cmd, PhunNames_ClearCurrent_Cmd_Click, 2},
+    {"ClearAll_Cmd",     &PhunNames_Frm::ClearAll_Cmd,     PhunNames_ClearAll_Cmd_Click,     1},
+    {"Restore_Cmd",      &PhunNames_Frm::Restore_Cmd,      PhunNames_Restore_Cmd_Click,      0},
+};
+// clang-format on
+
+}  // namespace
+
+PhunNamesForm::PhunNamesForm(wxWindow* owner, Fig_Frm& editor)
+    : ModalForm(owner, editor.PhunNames, [&editor] { PhunNames_Cancel_Cmd_Click(editor); }) {
+    PhunNames_Frm& names = editor.PhunNames;
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    auto* map = new FontMapPicture(this, names.Map, [this, &editor](int x, int y) {
+        Controls.Run([&] { PhunNames_Picture1_MouseUp(editor, x, y); });
+    });
+    row->Add(map, wxSizerFlags().Border(wxRIGHT, 2 * kGap));
+    row->Add(MakeButtons(editor), wxSizerFlags(1));
+    AddWide(MakeLabel(this, "Help_Lbl(5)", names.Help_Lbl[5]));
+    AddWide(row);
+    Finish(MakeButton("OK_Cmd", names.OK_Cmd, [&editor] { PhunNames_OK_Cmd_Click(editor); }),
+           MakeButton("Cancel_Cmd", names.Cancel_Cmd, [&editor] { PhunNames_Cancel_Cmd_Click(editor); }));
+    PlaceUnderName(owner);
+    map->SetFocus();
+}
+
+wxCheckBox* PhunNamesForm::MakeBox(const char* name, CheckBox& model) {
+    auto* box =
+        new wxCheckBox(this, wxID_ANY, ToWx(Trim(model.Caption)), wxDefaultPosition, wxDefaultSize, wxCHK_3STATE);
+    Controls.Bind(name, model, box, [] {});
+    return box;
+}
+
+wxSizer* PhunNamesForm::MakeButtons(Fig_Frm& editor) {
+    PhunNames_Frm& names = editor.PhunNames;
+    auto* grid = new wxFlexGridSizer(2, kGap, kGap);
+    const auto add = [&](wxButton* button, int help) {
+        grid->Add(button, wxSizerFlags().Expand());
+        grid->Add(MakeLabel(this, wxString::Format("Help_Lbl(%d)", help).utf8_str(),
+                            names.Help_Lbl[static_cast<std::size_t>(help)]),
+                  wxSizerFlags().CenterVertical());
+    };
+    add(MakeButton("Navigate_Cmd(0)", names.Navigate_Cmd[0], [&editor] { PhunNames_Navigate_Cmd_Click(editor, 0); }),
+        4);
+    add(MakeButton("Navigate_Cmd(2)", names.Navigate_Cmd[2], [&editor] { PhunNames_Navigate_Cmd_Click(editor, 2); }),
+        3);
+    for (const ButtonRow& row : kButtons) {
+        const Click click = row.Handler;
+        add(MakeButton(row.Name, names.*row.Button, [&editor, click] { click(editor); }), row.Help);
+    }
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(grid);
+    rows->Add(MakeBox("InsertChars_Chk", names.InsertChars_Chk), wxSizerFlags().Border(wxTOP, 2 * kGap));
+    rows->Add(MakeBox("AutoAdvance_Chk", names.AutoAdvance_Chk), wxSizerFlags().Border(wxTOP, kGap));
+    return rows;
+}
+
+// So that the name stays in sight above.
+void PhunNamesForm::PlaceUnderName(wxWindow* owner) {
+    const wxWindow* const picture = owner->FindWindow("Name_Pic");
+    if (picture == nullptr) {
+        return;
+    }
+    const wxRect name = picture->GetScreenRect();
+    const wxRect screen = wxDisplay(owner).GetClientArea();
+    const wxSize size = GetSize();
+    Move(std::max(screen.x, std::min(name.x, screen.GetRight() - size.x)),
+         std::max(screen.y, std::min(name.GetBottom() + FromDIP(4 * kGap), screen.GetBottom() - size.y)));
+}
+
+}  // namespace lv
