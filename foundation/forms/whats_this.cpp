@@ -30,10 +30,17 @@ const std::map<std::string, std::string>& Texts() {
     return texts;
 }
 
+/// What is said of the control itself, or of all that it is one of: "Bound_Lbl(101)", then "Bound_Lbl(n)".
+auto TextOf(const std::string& name) {
+    const auto own = Texts().find(name);
+    const std::size_t open = name.find('(');
+    return own != Texts().end() || open == std::string::npos ? own : Texts().find(name.substr(0, open) + "(n)");
+}
+
 }  // namespace
 
 void GiveWhatsThis(wxWindow* window) {
-    const auto found = Texts().find(window->GetName().utf8_string());
+    const auto found = TextOf(window->GetName().utf8_string());
     if (found != Texts().end()) {
         window->SetHelpText(wxString::FromUTF8(found->second));
         window->Bind(wxEVT_RIGHT_UP, [window](wxMouseEvent&) {
