@@ -37,12 +37,14 @@ struct Program {
         User.AddForms(MakeGameSpyForm);
         ConnectWizard(TheLauncher);
         ConnectFoundry(TheLauncher);
+        ConnectEditor(Foundry);
     }
 
     std::unique_ptr<System> Host;
     LauncherUser User{Host->Disk};
     Run TheRun{Host->Services, User};
     Launcher TheLauncher{TheRun};
+    SetupFoundry Foundry{TheLauncher};
     VideoProfileWindow Profiles{TheLauncher.VideoProfile, User};
 };
 

@@ -9,4 +9,8 @@ void ConnectFoundry(Launcher& launcher) {
     launcher.ScriptToRegistry = [&launcher](TextView path) { return ConvertScriptToRegistry(launcher.run, path); };
 }
 
+void ConnectEditor(SetupFoundry& foundry) {
+    foundry.launcher.OpenSetupFoundry = [&foundry] { SetupFoundry_Bar_Click(foundry); };
+}
+
 }  // namespace lv

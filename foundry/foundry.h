@@ -4,11 +4,15 @@
 
 #pragma once
 
+#include "foundry/editor/setup_foundry.h"
 #include "launcher/launcher.h"
 
 namespace lv {
 
-/// Gives the launcher what the script editor does for it.
+/// Gives the launcher Half-Life's settings as a script, and the way back.
 void ConnectFoundry(Launcher& launcher);
+
+/// Gives its launcher the editor's window.
+void ConnectEditor(SetupFoundry& foundry);
 
 }  // namespace lv

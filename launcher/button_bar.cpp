@@ -1,6 +1,5 @@
 #include "launcher/button_bar.h"
 
-#include "foundation/question_box.h"
 #include "launcher/launch_flow.h"
 #include "launcher/lv_events.h"
 #include "launcher/video_profile_menu.h"
@@ -15,13 +14,8 @@ void Launch(Launcher& launcher) {
     DoIt_Cmd_Click(launcher, 0);
 }
 
-// Once the menu item of the script editor works, so does this.
 void EditScript(Launcher& launcher) {
-    if (MenuRowOf(MenuItem::SetupFoundry_Bar).Click != nullptr) {
-        Menu_Click(launcher, MenuItem::SetupFoundry_Bar);
-        return;
-    }
-    AskUser(launcher.run, "", "Setup Foundry, the script editor, isn't part of this version of Lorvane 3D yet.");
+    Menu_Click(launcher, MenuItem::SetupFoundry_Bar);
 }
 
 void LaunchGameSpy(Launcher& launcher) {

@@ -80,7 +80,7 @@ constexpr MenuRow kRows[] = {
     {ScriptsEdit_Bar, "ScriptsEdit_Bar", kNoIndex, "&Edit Script's List Name", "", Scripts_Bar, ScriptsEdit_Bar_Click},
     {ScriptsCopy_Bar, "ScriptsCopy_Bar", kNoIndex, "Co&py Script", "", Scripts_Bar, ScriptsCopy_Bar_Click},
     {ScriptsDelete_Bar, "ScriptsDelete_Bar", kNoIndex, "&Delete Script From Harddrive", "", Scripts_Bar, ScriptsDelete_Bar_Click},
-    {SetupFoundry_Bar, "SetupFoundry_Bar", kNoIndex, "&Open in Setup Foundry !", "F3", Scripts_Bar, nullptr},
+    {SetupFoundry_Bar, "SetupFoundry_Bar", kNoIndex, "&Open in Setup Foundry !", "F3", Scripts_Bar, SetupFoundry_Bar_Click},
     {ScriptNew_Bar, "ScriptNew_Bar", kNoIndex, "&New Script", "", Scripts_Bar, ScriptNew_Bar_Click},
     {ScriptsOpen_Bar, "ScriptsOpen_Bar", kNoIndex, "Open in Text &Editor", "", Scripts_Bar, ScriptsOpen_Bar_Click},
     {ScriptEditorChangeDefault_Bar, "ScriptEditorChangeDefault_Bar", kNoIndex, "&Change Default Text Editor", "", Scripts_Bar, ScriptEditorChangeDefault_Bar_Click},

@@ -72,6 +72,12 @@ void AlwaysOnTop_Bar_Click(Launcher& launcher) {
     Save(launcher.run, kOptions, "OnTop", onTop ? "True" : "False");
 }
 
+void SetupFoundry_Bar_Click(Launcher& launcher) {
+    if (launcher.OpenSetupFoundry) {
+        launcher.OpenSetupFoundry();
+    }
+}
+
 void ScriptEditorChangeDefault_Bar_Click(Launcher& launcher) {
     Run& run = launcher.run;
     if (const auto editor = BrowseForFile(run, "Executables (*.exe)|*.exe|All Files (*.*)|*.*", "")) {

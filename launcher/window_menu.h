@@ -1,6 +1,6 @@
 // launcher/window_menu.h
 //
-// What the menu's items do that belong to no list: renaming the launch button, always on top, the text editor, help.
+// What the menu's items do that belong to no list: renaming the launch button, always on top, the editors, help.
 
 #pragma once
 
@@ -21,6 +21,9 @@ void AlwaysOnTop_Bar_Click(Launcher& launcher);
 
 /// The check mark and the window, without a write: as the start does it.
 void SetAlwaysOnTop(Launcher& launcher, bool onTop);
+
+/// Opens the selected script in Setup Foundry, if the program has it.
+void SetupFoundry_Bar_Click(Launcher& launcher);
 
 void ScriptEditorChangeDefault_Bar_Click(Launcher& launcher);
 void ScriptsOpen_Bar_Click(Launcher& launcher);

@@ -122,6 +122,7 @@ struct Fig_Frm : ModalWindow, ScriptView {
     bool Save_Tmr_Enabled = false;
     Index MinutesSinceAutoSave = 0;
     bool AutoSaveRunning = false;
+    bool AutoSavePass = false;  // an auto save asks or writes: the minutes that pass meanwhile only count
 
     // Beside what the window has always had
     TextBox Find_Txt;

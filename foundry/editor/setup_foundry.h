@@ -23,14 +23,15 @@ struct SetupFoundry {
 
     Launcher& launcher;
     SFSplash_Frm Splash;
+    bool Open = false;  // from the click that opens the editor until it is closed
 };
 
-/// One more "."; from 78 characters on it begins with "..." again.
+/// One more "."; at 78 characters it begins with "..." again.
 void SFSplash_Timer1_Timer(SFSplash_Frm& splash);
 /// Unloads the program's splash, not this one: kept on purpose.
 void SFSplash_Unload_Tmr_Timer(SetupFoundry& foundry);
 
-/// Opens the selected script.
+/// Opens the selected script. Nothing happens while one is open, or while a launch is under way.
 void SetupFoundry_Bar_Click(SetupFoundry& foundry);
 
 }  // namespace lv

@@ -260,8 +260,8 @@ wxSizer* LvPanels::MakeModPanel() {
 wxSizer* LvPanels::MakeScriptPanel() {
     wxStaticBoxSizer* panel = MakePanel("PlayerScript_Pan", &LV_Frm::PlayerScript_Pan);
     wxChoice* list = MakeList("Script_Cbo", &LV_Frm::Script_Cbo, "Player script", Script_Cbo_Click);
-    wxWindow* edit = MakeSmallButton("SetupFoundry_Cmd", &LV_Frm::SetupFoundry_Cmd, "edit_script",
-                                     [](Launcher& launcher) { ButtonBar_Cmd_Click(launcher, 1); });
+    wxWindow* edit =
+        MakeSmallButton("SetupFoundry_Cmd", &LV_Frm::SetupFoundry_Cmd, "edit_script", SetupFoundry_Bar_Click);
     panel->Add(MakeRow(&LV_Frm::Script_Chk, list, {edit, MakeMenuPicture(3)}), Row());
     return panel;
 }

@@ -52,10 +52,19 @@ TEST_F(ButtonBar, TheFirstLaunches) {
     EXPECT_EQ(system.Programs.Started.size(), 1u);
 }
 
-TEST_F(ButtonBar, TheScriptEditorIsNotThereYet) {
-    user.Expect({"Lorvane 3D", "Setup Foundry, the script editor, isn't part of this version of Lorvane 3D yet.", 0,
-                 false, true});
+TEST_F(ButtonBar, EditScriptIsTheClickOfItsMenuItem) {
+    int opened = 0;
+    launcher.OpenSetupFoundry = [&] { ++opened; };
     ButtonBar_Cmd_Click(launcher, 1);
+    EXPECT_EQ(opened, 1);
+    window.Bar(MenuItem::SetupFoundry_Bar).Enabled = false;
+    ButtonBar_Cmd_Click(launcher, 1);
+    EXPECT_EQ(opened, 1);
+}
+
+TEST_F(ButtonBar, AProgramWithoutTheScriptEditorOpensNone) {
+    ButtonBar_Cmd_Click(launcher, 1);
+    EXPECT_TRUE(user.Asked.empty());
 }
 
 TEST_F(ButtonBar, GameSpyTicksItsBoxAndLaunches) {

@@ -62,7 +62,7 @@ const std::vector<Written>& Table() {
         {ScriptsEdit_Bar, "ScriptsEdit_Bar", -1, "&Edit Script's List Name", "", Scripts_Bar, true},
         {ScriptsCopy_Bar, "ScriptsCopy_Bar", -1, "Co&py Script", "", Scripts_Bar, true},
         {ScriptsDelete_Bar, "ScriptsDelete_Bar", -1, "&Delete Script From Harddrive", "", Scripts_Bar, true},
-        {SetupFoundry_Bar, "SetupFoundry_Bar", -1, "&Open in Setup Foundry !", "F3", Scripts_Bar, false},
+        {SetupFoundry_Bar, "SetupFoundry_Bar", -1, "&Open in Setup Foundry !", "F3", Scripts_Bar, true},
         {ScriptNew_Bar, "ScriptNew_Bar", -1, "&New Script", "", Scripts_Bar, true},
         {ScriptsOpen_Bar, "ScriptsOpen_Bar", -1, "Open in Text &Editor", "", Scripts_Bar, true},
         {ScriptEditorChangeDefault_Bar, "ScriptEditorChangeDefault_Bar", -1, "&Change Default Text Editor", "", Scripts_Bar, true},
@@ -244,6 +244,13 @@ TEST_F(Menus, RenameAsks) {
     user.InputAnswers.push_back(std::nullopt);
     Menu_Click(launcher, RenameButton_Bar);
     EXPECT_EQ(user.Inputs.size(), 1u);
+}
+
+TEST_F(Menus, TheScriptEditorOpens) {
+    int opened = 0;
+    launcher.OpenSetupFoundry = [&] { ++opened; };
+    Menu_Click(launcher, SetupFoundry_Bar);
+    EXPECT_EQ(opened, 1);
 }
 
 TEST_F(Menus, HelpOpens) {

@@ -1,0 +1,111 @@
+#include "foundry/editor/setup_foundry.h"
+
+#include <exception>
+#include <memory>
+
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+#include "foundry/editor/key_picture.h"
+#include "foundry/editor/lifecycle.h"
+#include "foundry/reading/open_script.h"
+
+namespace lv {
+
+namespace {
+
+constexpr std::size_t kProgressLength = 78;
+
+void Refuse(Run& run, TextView why) {
+    AskUser(run, "Error", Join(NewLine, why), "&OK");
+}
+
+/// Empty if there is none to open, which the user was told.
+Text SelectedScript(Launcher& launcher) {
+    const ListBox& scripts = launcher.Window.Script_Cbo;
+    if (!scripts.HasSelection()) {
+        Refuse(launcher.run, "No Script is selected.");
+        return {};
+    }
+    const Text path = Trim(DropLeft(scripts.Selected(), NameFieldWidth));
+    if (!launcher.run.System.Disk.FileExists(path)) {
+        Refuse(launcher.run, "Script Not Found");
+        return {};
+    }
+    return path;
+}
+
+void ShowSFSplash(SetupFoundry& foundry) {
+    Run& run = foundry.launcher.run;
+    foundry.Splash = {.Visible = true, .Progress_Lbl = {}};
+    run.User.Refresh();
+    run.User.PumpEvents();
+    PauseSeconds(run, 1);
+}
+
+void UnloadSFSplash(SetupFoundry& foundry) {
+    foundry.Splash.Visible = false;
+    foundry.launcher.run.User.Refresh();
+}
+
+void Edit(SetupFoundry& foundry, TextView path) {
+    Run& run = foundry.launcher.run;
+    const auto form = std::make_unique<Fig_Frm>(run, foundry.launcher.Lists);
+    LayOutKeys(*form);  // ahead of the reader, which gives the keys their colours
+    const bool opened = OpenScript(run, form->Document, *form, path);
+    UnloadSFSplash(foundry);
+    if (!opened || run.Ended) {
+        return;
+    }
+    Fig_Frm_Load(*form);
+    ShowModal(*form);
+    run.User.PumpEvents();
+}
+
+void TellWindowsError(Run& run, TextView what) {
+    AskUser(run, "Windows Error",
+            Join(what, NewLine, NewLine, "System low on Windows Resources.", NewLine,
+                 "Please close some other Windows programs."),
+            "&OK");
+}
+
+void OpenEditor(SetupFoundry& foundry, TextView path) {
+    ShowSFSplash(foundry);
+    if (foundry.launcher.run.Ended) {
+        UnloadSFSplash(foundry);
+        return;
+    }
+    try {
+        Edit(foundry, path);
+    } catch (const std::exception& failed) {
+        UnloadSFSplash(foundry);
+        TellWindowsError(foundry.launcher.run, failed.what());
+    }
+}
+
+}  // namespace
+
+void SFSplash_Timer1_Timer(SFSplash_Frm& splash) {
+    Text& line = splash.Progress_Lbl.Caption;
+    line += ".";
+    if (line.size() >= kProgressLength) {
+        line = "...";
+    }
+}
+
+void SFSplash_Unload_Tmr_Timer(SetupFoundry& foundry) {
+    UnloadSplash(foundry.launcher.run, foundry.launcher.Splash);
+}
+
+void SetupFoundry_Bar_Click(SetupFoundry& foundry) {
+    Launcher& launcher = foundry.launcher;
+    if (foundry.Open || launcher.LaunchUnderWay || launcher.run.Ended) {
+        return;
+    }
+    foundry.Open = true;
+    if (const Text path = SelectedScript(launcher); !path.empty()) {
+        OpenEditor(foundry, path);
+    }
+    foundry.Open = false;
+}
+
+}  // namespace lv
