@@ -1,0 +1,284 @@
+#include "tests/forms/fig_form_fixture.h"
+
+#include <gmock/gmock.h>
+#include <wx/checkbox.h>
+#include <wx/combobox.h>
+#include <wx/listbox.h>
+#include <wx/textctrl.h>
+
+#include "foundation/forms/wx_text.h"
+#include "platform/spoken_name.h"
+
+namespace lv {
+namespace {
+
+using testing::HasSubstr;
+
+constexpr const KindOfGame& kQuake = kGames[0];
+constexpr Color kGreen = 0x00c000;
+
+TEST_F(FigForm_, F3OpensTheSelectedScript) {
+    Use(kQuake, "bind w +forward\n");
+    DoAndAnswer([] { PressKey(WXK_F3); },
+                [] {
+                    auto* shown = dynamic_cast<FigForm*>(Find("Fig_Frm"));
+                    ASSERT_NE(shown, nullptr);
+                    EXPECT_EQ(shown->GetTitle(), "Setup Foundry - [C:/QUAKE/ID1/my.cfg]");
+                    EXPECT_FALSE(Find("LV_Frm")->IsEnabled());
+                    shown->Close();
+                });
+}
+
+TEST_F(FigForm_, AKeyDraggedOntoARowIsBoundToIt) {
+    Use(kQuake, "bind w +forward\n");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        EXPECT_EQ(Shown("Setting_Lbl(101)"), "{W}");
+        EXPECT_EQ(BackOf("Key_Lbl(23)"), kGreen);
+        Carry("Key_Lbl(5)", "Setting_Lbl(111)");
+        EXPECT_TRUE(FindAs<CellLabel>("Setting_Lbl(111)")->Shown().Highlighted);
+        Screenshot("foundry_drag");
+        Drop();
+        EXPECT_EQ(Shown("Setting_Lbl(111)"), "{E}");
+        EXPECT_EQ(BackOf("Key_Lbl(5)"), kGreen);
+        EXPECT_FALSE(FindAs<CellLabel>("Setting_Lbl(111)")->Shown().Highlighted);
+        EXPECT_FALSE(form->Model().Document.ScriptClean);
+    });
+}
+
+TEST_F(FigForm_, ADropElsewhereBindsNothing) {
+    Use(kQuake, "");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        Carry("Key_Lbl(5)", "Bound_Lbl(111)");
+        EXPECT_FALSE(FindAs<CellLabel>("Setting_Lbl(111)")->Shown().Highlighted);
+        Drop();
+        EXPECT_EQ(Shown("Setting_Lbl(111)"), "");
+        EXPECT_TRUE(form->Model().Document.ScriptClean);
+    });
+}
+
+TEST_F(FigForm_, EscapeGivesADragUp) {
+    Use(kQuake, "");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        Carry("Key_Lbl(5)", "Setting_Lbl(111)");
+        PressKey(WXK_ESCAPE);
+        EXPECT_FALSE(FindAs<CellLabel>("Setting_Lbl(111)")->Shown().Highlighted);
+        Drop();
+        EXPECT_EQ(Shown("Setting_Lbl(111)"), "");
+        EXPECT_TRUE(form->IsShown());
+    });
+}
+
+TEST_F(FigForm_, AnEmptyRowRefusesTheKey) {
+    Use(kQuake, "");
+    Edit([this] {
+        TurnBindings(BindingsPage::Extended);
+        Carry("Key_Lbl(5)", "Setting_Lbl(501)");
+        EXPECT_FALSE(FindAs<CellLabel>("Setting_Lbl(501)")->Shown().Highlighted);
+        Drop();
+        EXPECT_EQ(Shown("Setting_Lbl(501)"), "");
+    });
+}
+
+TEST_F(FigForm_, TheKeypadIsTheTwinOfTheMainKeysInQuake) {
+    Use(kQuake, "");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        Drag("Key_Lbl(88)", "Setting_Lbl(101)");
+        EXPECT_EQ(Shown("Setting_Lbl(101)"), "{5}");
+        EXPECT_EQ(BackOf("Key_Lbl(32)"), kGreen);
+        EXPECT_EQ(BackOf("Key_Lbl(88)"), kGreen);
+    });
+}
+
+TEST_F(FigForm_, ADoubleClickOnAKeyClearsItAndLeavesTheScriptClean) {
+    Use(kQuake, "bind w +forward\n");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        MoveTo(MiddleOf("Key_Lbl(23)"));
+        DoAndAnswer([] { wxUIActionSimulator().MouseDblClick(); },
+                    [] {
+                        EXPECT_EQ(wxGetTopLevelParent(Find("Button_Cmd(0)"))->GetLabel(), "Comfirm Clear");
+                        ClickOn(Find("Button_Cmd(0)"));
+                    });
+        EXPECT_EQ(Shown("Setting_Lbl(101)"), "");
+        EXPECT_EQ(BackOf("Key_Lbl(23)"), kWhite);
+        EXPECT_TRUE(form->Model().Document.ScriptClean);
+    });
+}
+
+TEST_F(FigForm_, ADoubleClickOnARowClearsItAndIsAnEdit) {
+    Use(kQuake, "bind w +forward\n");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        MoveTo(MiddleOf("Setting_Lbl(101)"));
+        DoAndAnswer([] { wxUIActionSimulator().MouseDblClick(); }, [] { ClickOn(Find("Button_Cmd(0)")); });
+        EXPECT_EQ(Shown("Setting_Lbl(101)"), "");
+        EXPECT_FALSE(form->Model().Document.ScriptClean);
+    });
+}
+
+TEST_F(FigForm_, EnterOnARowWaitsForTheKey) {
+    Use(kQuake, "");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        Find("Setting_Lbl(101)")->SetFocus();
+        Settle();
+        PressKey(WXK_RETURN);
+        EXPECT_EQ(Find("Hint_Lbl")->GetLabel(), "Press a key for Forward");
+        Screenshot("foundry_capture");
+        PressKey('K');
+        EXPECT_EQ(Shown("Setting_Lbl(101)"), "{K}");
+        PressKey(WXK_RETURN);
+        PressKey(WXK_ESCAPE);
+        EXPECT_EQ(Shown("Setting_Lbl(101)"), "{K}");
+        EXPECT_EQ(form->Model().CaptureRow, kNoSlot);
+        PressKey(WXK_DOWN);
+        PressKey(WXK_RETURN);
+        wxUIActionSimulator().MouseClick(wxMOUSE_BTN_RIGHT);
+        Settle();
+        EXPECT_EQ(Shown("Setting_Lbl(102)"), "M2");
+    });
+}
+
+TEST_F(FigForm_, AKeyIsPickedUpAndDroppedByKeyboard) {
+    Use(kQuake, "");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        Find("Key_Lbl(11)")->SetFocus();
+        Settle();
+        PressKey(WXK_RETURN);
+        EXPECT_EQ(form->Model().PickedKey, 11);
+        Find("Setting_Lbl(103)")->SetFocus();
+        Settle();
+        PressKey(WXK_RETURN);
+        EXPECT_EQ(Shown("Setting_Lbl(103)"), "{K}");
+        EXPECT_EQ(form->Model().PickedKey, kNoKey);
+    });
+}
+
+TEST_F(FigForm_, AssistiveToolsReadKeysAndRows) {
+    Use(kQuake, "bind w +forward\nbind uparrow +forward\n");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        Find("Setting_Lbl(101)")->SetFocus();
+        Settle();
+        EXPECT_EQ(SpokenName(Find("Setting_Lbl(101)")->GetHandle()), "Forward: W : Up");
+        Find("Key_Lbl(23)")->SetFocus();
+        Settle();
+        EXPECT_EQ(SpokenName(Find("Key_Lbl(23)")->GetHandle()), "W, Forward");
+    });
+}
+
+TEST_F(FigForm_, UndoAndRedoByTheirKeys) {
+    Use(kQuake, "bind w +forward\n");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        Drag("Key_Lbl(5)", "Setting_Lbl(111)");
+        PressKey('Z', wxMOD_CONTROL);
+        EXPECT_EQ(Shown("Setting_Lbl(111)"), "");
+        EXPECT_EQ(BackOf("Key_Lbl(5)"), kWhite);
+        EXPECT_TRUE(form->Model().Document.ScriptClean);
+        PressKey('Y', wxMOD_CONTROL);
+        EXPECT_EQ(Shown("Setting_Lbl(111)"), "{E}");
+        EXPECT_FALSE(form->Model().Document.ScriptClean);
+    });
+}
+
+TEST_F(FigForm_, TheBoxAboveFindsAFunctionAndLeadsToIt) {
+    Use(kQuake, "");
+    Edit([this] {
+        PressKey('F', wxMOD_CONTROL);
+        TypeText("quick save");
+        PressKey(WXK_RETURN);
+        EXPECT_TRUE(Find("Setting_Lbl(406)")->IsShownOnScreen());
+        EXPECT_TRUE(HasKeyboard(Find("Setting_Lbl(406)")));
+        Screenshot("foundry_find");
+    });
+}
+
+TEST_F(FigForm_, ATypedValueIsSavedThoughNoListHasIt) {
+    Use(kQuake, "fov 90\n");
+    Edit([this] {
+        auto* fov = FindAs<wxComboBox>("fov_Cbo");
+        EXPECT_EQ(fov->GetValue(), "90");
+        fov->SetFocus();
+        fov->SetSelection(-1, -1);
+        TypeText("97");
+        EXPECT_EQ(fov->GetValue(), "97");
+        EXPECT_EQ(form->Model().Document.fov_Cbo.Selected(), "97");
+        DoAndAnswer([] { PressKey('S', wxMOD_CONTROL); }, [] { ClickOn(Find("Button_Cmd(0)")); });
+    });
+    EXPECT_THAT(File(), HasSubstr("\r\nfov 97\r\n"));
+}
+
+TEST_F(FigForm_, SavesWhatWasBound) {
+    Use(kQuake, "bind w +forward\n");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        Drag("Key_Lbl(5)", "Setting_Lbl(112)");
+        Turn(EditorPage::SaveAndExit);
+        DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); },
+                    [] {
+                        Screenshot("foundry_saved");
+                        ClickOn(Find("Button_Cmd(0)"));
+                    });
+        EXPECT_TRUE(form->Model().Document.ScriptClean);
+    });
+    EXPECT_THAT(File(), HasSubstr("bind \"e\"             \"+jump\"\r\n"));
+    EXPECT_THAT(File(), HasSubstr("bind \"w\"             \"+forward\"\r\n"));
+}
+
+class FigFormClosing : public FigForm_ {
+  protected:
+    /// Closes with an unsaved change and answers; whether the window is still there.
+    bool StaysAfter(bool tick, const char* button, bool savesWith) {
+        Use(kQuake, "bind w +forward\n");
+        bool stays = false;
+        Edit([&] {
+            TurnBindings(BindingsPage::Standard);
+            Drag("Key_Lbl(5)", "Setting_Lbl(112)");
+            const int before = wxTopLevelWindows.GetCount();
+            WhenModal([&, savesWith] {
+                EXPECT_EQ(wxGetTopLevelParent(Find("Yes_Cmd"))->GetLabel(), "Confirm Exit");
+                if (tick) {
+                    ClickOn(Find("SaveNow_Chk"));
+                }
+                if (savesWith) {
+                    WhenModal([] { ClickOn(Find("Button_Cmd(0)")); });
+                }
+                ClickOn(Find(button));
+            });
+            form->Close();
+            Settle(1500);
+            EXPECT_GT(before, 0);
+            stays = !form->Model().Closed;
+        });
+        return stays;
+    }
+};
+
+TEST_F(FigFormClosing, YesLeavesWithoutSaving) {
+    EXPECT_FALSE(StaysAfter(false, "Yes_Cmd", false));
+    EXPECT_THAT(File(), testing::Not(HasSubstr("+jump")));
+}
+
+TEST_F(FigFormClosing, NoStays) {
+    EXPECT_TRUE(StaysAfter(false, "No_Cmd", false));
+    EXPECT_THAT(File(), testing::Not(HasSubstr("+jump")));
+}
+
+TEST_F(FigFormClosing, YesWithTheTickSavesAndLeaves) {
+    EXPECT_FALSE(StaysAfter(true, "Yes_Cmd", true));
+    EXPECT_THAT(File(), HasSubstr("+jump"));
+}
+
+TEST_F(FigFormClosing, NoWithTheTickSavesAndStays) {
+    EXPECT_TRUE(StaysAfter(true, "No_Cmd", true));
+    EXPECT_THAT(File(), HasSubstr("+jump"));
+}
+
+}  // namespace
+}  // namespace lv
