@@ -11,6 +11,8 @@ namespace lv {
 namespace {
 
 constexpr TextView kBetweenKeys = " : ";
+constexpr TextView kSay = "say ";
+constexpr TextView kSayTeam = "say_team ";
 
 /// Visits each caption of a key list, without blanks at its ends. An empty list has one, an empty one.
 template <class Visit>
@@ -51,6 +53,18 @@ bool IsKey(KeyIndex key) {
     return key >= 0 && key < kKeyCount;
 }
 
+void FollowTeamBox(ScriptDocument& document, SlotNumber slot) {
+    if (!kMessages.Holds(slot)) {
+        return;
+    }
+    Text& command = document.SlotCommand[slot];
+    const bool toTeam = document.Say_Team_Chk[slot].Value != 0;
+    const TextView wrong = toTeam ? kSay : kSayTeam;
+    if (StartsWithText(command, wrong)) {
+        command = SayCommand(DropLeft(command, wrong.size()), toTeam);
+    }
+}
+
 struct IniAlias {
     Text Name;
     Text Body;
@@ -81,6 +95,7 @@ void BindKey(ScriptDocument& document, ScriptView& view, KeyIndex key, SlotNumbe
     }
     UnbindKey(document, view, key);
     Paint(document, view, key, SlotColor(slot, document.Dialect.GameKind));
+    FollowTeamBox(document, slot);
     const auto index = static_cast<std::size_t>(key);
     document.KeyBinding[index] = document.SlotCommand[slot];
     Text& keyList = document.Setting_Lbl[slot].Caption;
@@ -121,6 +136,22 @@ void ClearSlotKeys(ScriptDocument& document, ScriptView& view, SlotNumber slot) 
     }
     ForEachKey(keyList,
                [&](TextView caption) { UnbindKey(document, view, KeyIndexOfCaption(document.KeyCaption, caption)); });
+}
+
+void RenameSlotCommand(ScriptDocument& document, ScriptView& view, SlotNumber slot, TextView command) {
+    document.SlotCommand[slot] = command;
+    view.SlotChanged(slot);
+    document.ScriptClean = false;
+    ForEachKey(document.Setting_Lbl[slot].Caption, [&](TextView caption) {
+        const KeyIndex key = KeyIndexOfCaption(document.KeyCaption, caption);
+        if (IsKey(key)) {
+            document.KeyBinding[static_cast<std::size_t>(key)] = command;
+        }
+    });
+}
+
+Text SayCommand(TextView message, bool toTeam) {
+    return Join(toTeam ? kSayTeam : kSay, message);
 }
 
 AliasPlace FindAlias(const ScriptDocument& document, TextView name) {

@@ -10,7 +10,8 @@
 
 namespace lv {
 
-/// Moves the key to the slot. Clears ScriptClean. Nothing happens for an index that is no key.
+/// Moves the key to the slot. Clears ScriptClean. Nothing happens for an index that is no key. A message is said to
+/// those that its box tells, also where the box was changed while no key was bound to it.
 void BindKey(ScriptDocument& document, ScriptView& view, KeyIndex key, SlotNumber slot);
 
 /// Frees the key: all slots with its command lose it. Nothing happens for an index that is no key; a free key
@@ -19,6 +20,12 @@ void UnbindKey(ScriptDocument& document, ScriptView& view, KeyIndex key);
 
 /// Unbinds all keys that the slot's key list names. What is no key's caption is passed over.
 void ClearSlotKeys(ScriptDocument& document, ScriptView& view, SlotNumber slot);
+
+/// Gives the slot another command, and the keys that its key list names with it, one for one. Clears ScriptClean.
+void RenameSlotCommand(ScriptDocument& document, ScriptView& view, SlotNumber slot, TextView command);
+
+/// The command of a message: "say_team " for the own team, else "say ", and the text.
+Text SayCommand(TextView message, bool toTeam);
 
 /// The place of an alias, case-blind.
 AliasPlace FindAlias(const ScriptDocument& document, TextView name);

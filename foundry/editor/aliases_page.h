@@ -8,8 +8,11 @@
 
 namespace lv {
 
-/// Alias_Lst anew from the table.
+/// Alias_Lst anew from the table: a row's number is the alias's place there. No row is selected then.
 void FillAliasList(Fig_Frm& form);
+
+/// The same, with the row of this alias selected.
+void ShowAlias(Fig_Frm& form, TextView name);
 
 void AddCustomAlias_Cmd_Click(Fig_Frm& form);
 void EditAlias_Cmd_Click(Fig_Frm& form);

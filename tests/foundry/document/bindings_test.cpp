@@ -242,6 +242,53 @@ TEST_F(Bindings, ClearingPassesOverWhatIsNoKeysCaption) {
     EXPECT_THAT(view.ClearedTips, ElementsAre(kA, kA));  // bound, then cleared
 }
 
+TEST_F(Bindings, ARenamedSlotGivesItsKeysTheNewCommand) {
+    document.SlotCommand[801] = "say hello";
+    Bind(kA, 801);
+    Bind(kSpace, 801);
+    Bind(kCtrl, 111);
+    document.ScriptClean = true;
+    RenameSlotCommand(document, view, 801, "say bye");
+    EXPECT_EQ(document.SlotCommand[801], "say bye");
+    EXPECT_EQ(Binding(kA), "say bye");
+    EXPECT_EQ(Binding(kSpace), "say bye");
+    EXPECT_EQ(Binding(kCtrl), "+attack");
+    EXPECT_EQ(Keys(801), "{A} : Spc");
+    EXPECT_FALSE(document.ScriptClean);
+    EXPECT_THAT(view.ChangedSlots, Contains(801));
+    Unbind(kA);
+    EXPECT_EQ(Keys(801), "Spc");
+}
+
+TEST_F(Bindings, ARenamedSlotPassesOverWhatIsNoKey) {
+    document.Setting_Lbl[801].Caption = "no key : {A} :";
+    RenameSlotCommand(document, view, 801, "say bye");
+    EXPECT_EQ(Binding(kA), "say bye");
+    EXPECT_EQ(std::ranges::count(document.KeyBinding, Text("say bye")), 1);
+}
+
+TEST_F(Bindings, ARenamedSlotWithoutKeysChangesNoKey) {
+    RenameSlotCommand(document, view, 801, "say bye");
+    EXPECT_EQ(document.SlotCommand[801], "say bye");
+    EXPECT_EQ(std::ranges::count(document.KeyBinding, Text()), kKeyCount);
+}
+
+TEST_F(Bindings, AMessageIsSaidToThoseThatItsBoxTellsWhenAKeyIsBound) {
+    document.SlotCommand[801] = "say hello";
+    document.Say_Team_Chk[801].Value = 1;
+    Bind(kA, 801);
+    EXPECT_EQ(Binding(kA), "say_team hello");
+    EXPECT_EQ(document.SlotCommand[801], "say_team hello");
+    document.Say_Team_Chk[801].Value = 0;
+    Bind(kSpace, 801);
+    EXPECT_EQ(Binding(kSpace), "say hello");
+}
+
+TEST_F(Bindings, AMessagesCommandIsItsWordAndItsText) {
+    EXPECT_EQ(SayCommand("hi", false), "say hi");
+    EXPECT_EQ(SayCommand("hi", true), "say_team hi");
+}
+
 struct AliasTables : Bindings {};
 
 TEST_F(AliasTables, AnAliasDefinedTwiceKeepsItsFirstBody) {
