@@ -34,7 +34,7 @@ void ShowRows(const std::vector<Text>& items, std::vector<Text>& shown, View* vi
 std::vector<int> VisiblePages(const TabSet& model) {
     std::vector<int> visible;
     for (std::size_t page = 0; page < model.Pages.size(); ++page) {
-        if (model[page].Visible) {
+        if (model[page].Visible && model[page].Enabled) {
             visible.push_back(static_cast<int>(page));
         }
     }

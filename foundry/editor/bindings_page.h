@@ -5,6 +5,7 @@
 #pragma once
 
 #include "foundry/editor/fig_frm.h"
+#include "foundry/editor/key_capture.h"
 
 namespace lv {
 
@@ -26,20 +27,5 @@ void Setting_Lbl_DblClick(Fig_Frm& form, SlotNumber slot);
 
 /// A click on the name of a row; `right` is the right mouse button.
 void Bound_Lbl_MouseUp(Fig_Frm& form, SlotNumber slot, bool right);
-
-// Without a mouse.
-/// Enter on a row: it takes the key that was picked up, or waits for one. A row that takes no key says so in Hint_Lbl.
-void StartCapture(Fig_Frm& form, SlotNumber slot);
-/// The key that was pressed while a row waits; kNoKey for one that can't be bound, which Hint_Lbl tells.
-void CaptureKey(Fig_Frm& form, KeyIndex key);
-void GiveUpCapture(Fig_Frm& form);
-/// Enter on a key picks it up, or lays it down again.
-void PickUpKey(Fig_Frm& form, Index label);
-/// Delete on a row or a key, which asks as the double click does.
-void ClearRow(Fig_Frm& form, SlotNumber slot);
-
-/// What assistive tools read: "W, Forward" and "Forward: W : Up".
-Text SpokenKey(const Fig_Frm& form, Index label);
-Text SpokenRow(const Fig_Frm& form, SlotNumber slot);
 
 }  // namespace lv

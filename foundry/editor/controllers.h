@@ -8,7 +8,16 @@
 
 namespace lv {
 
+/// The list of controllers, the unlisted one chosen.
+void FillDevices(Fig_Frm& form);
+
+/// All labels of the panel in rows and columns, and seen.
+void LayOutGrid(Fig_Frm& form);
+
 /// A controller was picked: its picture, and the labels over their buttons. A picture that is missing is told once.
 void Device_Cbo_Click(Fig_Frm& form);
+
+/// The form could not show the file DevicePicture: it is as if it were missing.
+void Device_Pic_LoadFailed(Fig_Frm& form);
 
 }  // namespace lv

@@ -81,7 +81,8 @@ struct Fig_Frm : ModalWindow, ScriptView {
     std::array<ColorLabel, 11> ColorCode_Lbl;  // the legend
     ListBox Device_Cbo;
     Control Device_Pic;
-    Text DevicePicture;  // path of its bitmap; empty: none
+    Text DevicePicture;       // path of its bitmap; empty: none
+    bool DeviceTold = false;  // that a bitmap is missing
     DragState Drag;
 
     // Bindings

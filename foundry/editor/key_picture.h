@@ -9,7 +9,12 @@
 
 namespace lv {
 
-/// All labels with their captions, places and colours, as for a kind of game none of whose keys is bound.
+// All labels of Keyboard_Fra lie within this, in twips.
+constexpr int kKeyboardWidth = 10500;
+constexpr int kKeyboardHeight = 1850;
+
+/// All labels with their captions, places and colours, and the list of controllers, as for a kind of game none of
+/// whose keys is bound. Comes before the reader, which paints the bound ones.
 void LayOutKeys(Fig_Frm& form);
 
 /// The key that a label acts on by a tool tip or a drag. kNoKey for the labels that can't be bound.
@@ -17,5 +22,8 @@ KeyIndex KeyOfLabel(Index label, Index gameKind);
 
 /// The key that a double click on the label frees: as KeyOfLabel, but Unreal's keypad Enter is the main one here.
 KeyIndex KeyToClear(Index label, Index gameKind);
+
+/// The label's key in words, for assistive tools and hints: "W", "Up", "Keypad 5". Empty for what is no label.
+Text SpokenName(Index label);
 
 }  // namespace lv

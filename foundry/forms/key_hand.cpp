@@ -3,7 +3,6 @@
 #include <wx/cursor.h>
 
 #include "foundry/editor/bindings_page.h"
-#include "foundry/editor/key_picture.h"
 #include "foundry/forms/key_codes.h"
 
 namespace lv {
@@ -151,7 +150,7 @@ void KeyHand::Release(const wxPoint& screen) {
     over_ = kNoSlot;
     LetGo();
     parts_.Controls.Run([&] {
-        if (row != kNoSlot && parts_.Model.Drag.Marked == row) {
+        if (row != kNoSlot) {
             Setting_Lbl_DragDrop(parts_.Model, row);
         } else {
             GiveUpDrag(parts_.Model);
@@ -197,7 +196,7 @@ void KeyHand::Hear(wxMouseEvent& event, CellLabel* /*label*/) {
     const Index heard = LabelOfMouse(event);
     if (heard != kNoKey) {
         LetGo();
-        parts_.Controls.Run([&] { CaptureKey(parts_.Model, KeyOfLabel(heard, parts_.Model.GameKind())); });
+        parts_.Controls.Run([&] { CaptureKey(parts_.Model, heard); });
     }
 }
 
@@ -213,9 +212,7 @@ bool KeyHand::TakeKey(const wxKeyEvent& event) {
         if (event.GetKeyCode() == WXK_ESCAPE) {
             parts_.Controls.Run([this] { GiveUpCapture(parts_.Model); });
         } else if (keyUp_) {
-            const Index label = LabelOfKey(event);
-            const KeyIndex key = label == kNoKey ? kNoKey : KeyOfLabel(label, parts_.Model.GameKind());
-            parts_.Controls.Run([&] { CaptureKey(parts_.Model, key); });
+            parts_.Controls.Run([&] { CaptureKey(parts_.Model, LabelOfKey(event)); });
         }
         return true;
     }

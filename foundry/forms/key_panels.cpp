@@ -203,6 +203,8 @@ void KeyPanels::LoadDevicePicture() {
             image.Rescale(std::max(1, FromDIP(static_cast<int>(image.GetWidth() * kEnlarged))),
                           std::max(1, FromDIP(static_cast<int>(image.GetHeight() * kEnlarged))));
             device_ = wxBitmap(image);
+        } else {
+            CallAfter([this] { parts_.Controls.Run([this] { Device_Pic_LoadFailed(parts_.Model); }); });
         }
     }
     devicePicture_->Refresh();
