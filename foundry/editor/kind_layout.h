@@ -4,14 +4,12 @@
 
 #pragma once
 
-#include "foundry/editor/fig_frm.h"
+#include "foundry/editor/captions.h"
 
 namespace lv {
 
-/// The captions and tool tips that all kinds share. Runs once, when the window is made.
-void FillCaptions(Fig_Frm& form);
-
-/// Pages, captions and what is hidden for the kind of game. Runs behind the reader, when the window loads.
+/// Pages, captions and what is hidden for the kind of game. Runs behind the reader, when the window loads, on a key
+/// picture and a document that are as they are made. No edit.
 void ApplyGameKind(Fig_Frm& form);
 
 }  // namespace lv

@@ -31,10 +31,19 @@ void SelectNoSkin_Cmd_Click(Fig_Frm& form);
 /// The colours of the game's own palette where its data lies beside the script, else ColorTable.
 std::array<Color, 14> PlayerColors(Fig_Frm& form);
 
+// What a script that was opened shows at once, without being an edit.
+
+/// The labels of shirt and pants in the colours of PlayerColors.
+void ShowPlayerColors(Fig_Frm& form);
+/// The weapon rows 201 to 204 named for the class.
+void CaptionClassWeapons(Fig_Frm& form);
+/// Only the crosshair 2 has a colour.
+void EnableCrosshairColor(Fig_Frm& form);
+
 // Unreal's weapons.
 void SelectWeapon_Cmd_Click(Fig_Frm& form, int index);
 void WeaponMove_Cmd_Click(Fig_Frm& form, int index);
-/// Key codes 38 (up) and 40 (down).
+/// Key codes 38 (up) and 40 (down), which do no more in the list than this.
 void WeaponsPriority_Lst_KeyDown(Fig_Frm& form, int keyCode);
 
 }  // namespace lv

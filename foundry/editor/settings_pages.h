@@ -10,14 +10,15 @@
 
 namespace lv {
 
-/// A setting with a list, as PaintLabels prints it: the caption left of the list, the grey hint with the game's own
-/// value right of it.
+/// A setting with a list: the caption left of the list, the grey hint with the game's own value right of it. A row
+/// whose list is not visible is left out, caption and all.
 struct SettingRow {
-    const char* Name;                     // of the control, "cl_forwardspeed_Cbo"
+    const char* Name;  // of the control, "cl_forwardspeed_Cbo"
     ListBox ScriptSettings::*List;
     Panel Fig_Frm::*Group;
     TextView Caption;
     TextView Hint;  // "(default 200)"; a decimal as "0.022", which HintOf puts in the locale's form
+    TextView ToolTip;
 };
 std::span<const SettingRow> SettingRows();
 
@@ -31,18 +32,20 @@ struct CheckRow {
 };
 std::span<const CheckRow> CheckRows();
 
-/// One list of the three Unreal pages, by its place in its array.
-struct UnrealRow {
-    TextView Caption;
-};
+// The lists of the Unreal pages, by their places in their arrays.
 std::span<const TextView> UnrealAudioCaptions();  // UnrealAudio_Cbo(0) to (17)
 std::span<const TextView> PlayerPawnCaptions();   // PlayerPawn_Cbo(0) to (12)
 std::span<const TextView> MouseBindCaptions();    // MouseBind_Cbo(0) and (1)
 
+constexpr TextView kTeamNameCaption = " Team Name";
+constexpr TextView kPasswordCaption = " Password";
+constexpr TextView kWeaponsAvailableCaption = "Unselected Weapons";
+constexpr TextView kWeaponsPriorityCaption = "Weapon Preferance Order";
+
 /// Headings of the group panels.
 void PaintLabels(Fig_Frm& form);
 
-/// The hint as it is shown: "(default 0,022)" where the locale has a comma.
+/// The hint as it is shown: "(default 0,022)" where the locale has a comma. Some kinds of games have another default.
 Text HintOf(const Fig_Frm& form, const SettingRow& row);
 
 /// A setting that the user has changed: any list or box that has no handler of its own.

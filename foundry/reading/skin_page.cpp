@@ -1,13 +1,14 @@
 #include "foundry/reading/skin_page.h"
 
 #include <algorithm>
-#include <array>
+#include <unordered_set>
 
 #include "catalogs/sorted_names.h"
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
 #include "foundation/question_box.h"
+#include "foundry/reading/archived_skins.h"
 
 namespace lv {
 
@@ -17,16 +18,22 @@ constexpr std::size_t kSkinsPage = 3;
 constexpr std::size_t kRatePage = 4;
 constexpr TextView kPlayers = "\\players\\";
 
-/// What goes with a model but is no skin for it.
-constexpr std::array<TextView, 3> kNoSkins = {"_i.", "pain.", "weapon."};
-
-bool IsSkin(TextView file) {
-    const Text name = LowerCase(file);
-    return std::ranges::none_of(kNoSkins, [&](TextView part) { return Holds(name, part); });
-}
-
 void Sort(std::vector<Text>& names) {
     std::ranges::sort(names, {}, [](const Text& name) { return LowerCase(name); });
+}
+
+/// Adds the names that are not there yet in any letter case, and sorts all.
+void Merge(std::vector<Text>& names, std::vector<Text> more) {
+    std::unordered_set<Text> known;
+    for (const Text& name : names) {
+        known.insert(LowerCase(name));
+    }
+    for (Text& name : more) {
+        if (known.insert(LowerCase(name)).second) {
+            names.push_back(std::move(name));
+        }
+    }
+    Sort(names);
 }
 
 void TellListFailed(Run& run, TextView which, const Error& failed, TextView directory) {
@@ -47,20 +54,23 @@ std::vector<DirectoryEntry> Entries(Run& run, TextView which, TextView directory
 }
 
 void FillModels(Run& run, ScriptDocument& document) {
-    const Text players = Join(run.DefaultGameDirectory, "\\", run.BaseGameDir, kPlayers);
-    document.Sex_Cbo.Items = SortedDirectories(Entries(run, "models", players));
-    document.Sex_Cbo.ListIndex = document.Sex_Cbo.Items.empty() ? -1 : 0;
+    const Text base = Join(run.DefaultGameDirectory, "\\", run.BaseGameDir);
+    ListBox& models = document.Sex_Cbo;
+    models.Items = SortedDirectories(Entries(run, "models", Join(base, kPlayers)));
+    Merge(models.Items, ArchivedModels(run.System.Disk, base, document.Dialect.GameKind));
+    models.ListIndex = models.Items.empty() ? -1 : 0;
 }
 
 void FillQuakeWorldSkins(Run& run, ScriptDocument& document) {
     FileListBox& list = document.Skin_Fil;
-    const Text skins = Join(run.DefaultGameDirectory, "\\qw\\skins");
+    const Text game = Join(run.DefaultGameDirectory, "\\qw");
+    const Text skins = Join(game, "\\skins");
     list.Pattern = "*.pcx";
     if (run.System.Disk.DirectoryExists(skins)) {
         list.Path = skins;
         list.Items = ListFiles(run.System.Disk, skins, list.Pattern);
-        Sort(list.Items);
     }
+    Merge(list.Items, ArchivedQuakeWorldSkins(run.System.Disk, game));
 }
 
 }  // namespace
@@ -87,13 +97,15 @@ void Sex_Cbo_Click(Run& run, ScriptDocument& document) {
     if (!document.Sex_Cbo.HasSelection()) {
         return;
     }
-    const Text directory = Join(DropRight(document.CurrentScriptDirectory, 1), kPlayers, document.Sex_Cbo.Selected());
+    const Text game = DropRight(document.CurrentScriptDirectory, 1);
+    const Text model = document.Sex_Cbo.Selected();
+    const Text directory = Join(game, kPlayers, model);
     for (const DirectoryEntry& entry : Entries(run, "skins", directory)) {
-        if (!entry.IsDirectory && MatchesWildcard(entry.Name, "*.pcx") && IsSkin(entry.Name)) {
+        if (!entry.IsDirectory && MatchesWildcard(entry.Name, "*.pcx") && IsModelSkin(entry.Name)) {
             document.Skin_Cbo.Items.push_back(DropRight(entry.Name, 4));
         }
     }
-    Sort(document.Skin_Cbo.Items);
+    Merge(document.Skin_Cbo.Items, ArchivedSkins(run.System.Disk, game, model, document.Dialect.GameKind));
 }
 
 }  // namespace lv
