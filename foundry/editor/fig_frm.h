@@ -129,6 +129,8 @@ struct Fig_Frm : ModalWindow, ScriptView {
     TextBox Find_Txt;
     Label Find_Lbl;  // what was found
     CommandButton FindNext_Cmd;
+    std::size_t FoundPlace = 0;  // which of all that was found is shown
+    bool FoundTaken = false;     // the keyboard was led to it
     CommandButton Undo_Cmd, Redo_Cmd;
     Label Hint_Lbl;                   // what to do next
     Text FoundControl;                // the form gives it the keyboard, and clears this

@@ -22,18 +22,21 @@ struct CellChange {
     Text Inserted;
 };
 
+constexpr std::size_t kNoPosition = static_cast<std::size_t>(-1);
+
 struct UndoHistory {
     std::vector<Text> State;                     // the document's cells as they were last seen
     std::vector<std::vector<CellChange>> Edits;  // the oldest first
     std::size_t Position = 0;                    // how many of them are in force
-    std::size_t CleanPosition = 0;               // where the document equals its file
+    std::size_t CleanPosition = 0;               // where the document equals its file, or kNoPosition
 };
 
-/// The document was read: nothing to take back.
+/// The document was read and laid out: nothing to take back.
 void StartHistory(Fig_Frm& form);
 
 /// Looks for what the event that is over has changed; an edit, if it has. Edits that were taken back before are gone
-/// then. Letters typed one after the other into one text are one edit, up to a blank or the line's end.
+/// then. Letters typed one after the other into one text are one edit, up to a blank or the line's end. Nothing happens
+/// before StartHistory, nor while the reader runs.
 void NoteEdit(Fig_Frm& form);
 
 /// The document equals its file now.
