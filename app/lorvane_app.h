@@ -13,6 +13,8 @@
 #include <utility>
 
 #include "catalogs/forms/entry_forms.h"
+#include "foundry/forms/fig_form.h"
+#include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
 #include "gamespy/forms/game_spy_form.h"
 #include "launcher/forms/launcher_user.h"
@@ -35,6 +37,7 @@ struct Program {
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);
         User.AddForms(MakeGameSpyForm);
+        User.AddForms(MakeFoundryForms(User));
         ConnectWizard(TheLauncher);
         ConnectFoundry(TheLauncher);
         ConnectEditor(Foundry);
@@ -45,6 +48,7 @@ struct Program {
     Run TheRun{Host->Services, User};
     Launcher TheLauncher{TheRun};
     SetupFoundry Foundry{TheLauncher};
+    SFSplashWindow FoundrySplash{Foundry, User};
     VideoProfileWindow Profiles{TheLauncher.VideoProfile, User};
 };
 

@@ -78,12 +78,21 @@ void SFSplashWindow::ShowState() {
     if (foundry_.Splash.Visible) {
         if (!form_) {
             form_ = new SFSplashForm(user_.ActiveForm(), foundry_);
+            Enable(false);
         }
         form_->ShowState();
     } else if (form_) {
         SFSplashForm* const gone = form_;
         form_ = nullptr;
+        Enable(true);
         gone->Destroy();
+    }
+}
+
+// What is opened belongs to the game that was picked: nobody picks another one meanwhile.
+void SFSplashWindow::Enable(bool enabled) {
+    if (wxWindow* const main = user_.ActiveForm()) {
+        main->Enable(enabled);
     }
 }
 

@@ -38,6 +38,7 @@ class SFSplashWindow {
 
   private:
     void ShowState();
+    void Enable(bool enabled);
 
     SetupFoundry& foundry_;
     WxUser& user_;
