@@ -8,6 +8,8 @@
 #include <wx/uiaction.h>
 
 #include "catalogs/forms/entry_forms.h"
+#include "foundation/field_strings.h"
+#include "foundation/forms/wx_text.h"
 #include "foundation/settings.h"
 #include "foundry/editor/setup_foundry.h"
 #include "foundry/foundry.h"
