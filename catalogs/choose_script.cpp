@@ -27,7 +27,10 @@ ChooseScript_Frm::ChooseScript_Frm(Run& owner, TextView directory)
 
 void ChooseScript_Browse_Cmd_Click(ChooseScript_Frm& form) {
     if (auto path = BrowseForFile(form.run, FilterFor(form.run.GameKind), form.Directory)) {
-        form.ScriptPath_Txt.Text = *std::move(path);
+        // The game looks for a script in its own directory, so one that lies there goes by its name.
+        const bool lies = path->size() > form.Directory.size() &&
+                          SameText(TextView(*path).substr(0, form.Directory.size()), form.Directory);
+        form.ScriptPath_Txt.Text = lies ? path->substr(form.Directory.size()) : *std::move(path);
     }
 }
 

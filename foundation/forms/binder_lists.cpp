@@ -116,12 +116,15 @@ void Binder::Bind(const char* name, TabSet& model, wxNotebook* view, std::vector
                 page->Hide();
             }
             for (const int page : visible) {
+                pages[static_cast<std::size_t>(page)]->Show();
                 view->AddPage(pages[static_cast<std::size_t>(page)], "", page == model.Tab);
             }
             shown = visible;
         }
         for (std::size_t tab = 0; tab < visible.size(); ++tab) {
-            const wxString caption = ToWx(Trim(model[static_cast<std::size_t>(visible[tab])].Caption));
+            // A tab shows no access key; whoever takes keys for the window sees to them.
+            const wxString caption =
+                wxControl::RemoveMnemonics(ToWx(Trim(model[static_cast<std::size_t>(visible[tab])].Caption)));
             if (view->GetPageText(tab) != caption) {
                 view->SetPageText(tab, caption);
             }

@@ -4,6 +4,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "platform/spoken_name.h"
 
@@ -124,6 +125,7 @@ void ModalForm::Arrange() {
     } else {
         CentreOnScreen();
     }
+    GiveWhatsThis(this);
     AfterHandler();
 }
 

@@ -11,6 +11,8 @@ namespace lv {
 
 namespace {
 
+constexpr long kOwnRightButton = 0x40000000;  // among the extra styles, where the toolkit has none
+
 // One line a control: its name, a tab, the text. UTF-8.
 const std::map<std::string, std::string>& Texts() {
     static const std::map<std::string, std::string> texts = [] {
@@ -39,10 +41,16 @@ auto TextOf(const std::string& name) {
 
 }  // namespace
 
+void UsesRightButton(wxWindow* window) {
+    window->SetExtraStyle(window->GetExtraStyle() | kOwnRightButton);
+}
+
 void GiveWhatsThis(wxWindow* window) {
     const auto found = TextOf(window->GetName().utf8_string());
     if (found != Texts().end()) {
         window->SetHelpText(wxString::FromUTF8(found->second));
+    }
+    if (found != Texts().end() && (window->GetExtraStyle() & kOwnRightButton) == 0) {
         window->Bind(wxEVT_RIGHT_UP, [window](wxMouseEvent&) {
             wxHelpProvider::Get()->ShowHelpAtPoint(window, wxGetMousePosition(), wxHelpEvent::Origin_Keyboard);
         });

@@ -8,8 +8,12 @@
 
 namespace lv {
 
-/// Gives every named control below the window its text and its right click.
+/// Gives every named control below the window its text and its right click. A control that has a use of its own for the
+/// right button (UsesRightButton) gets the text alone.
 void GiveWhatsThis(wxWindow* window);
+
+/// Said by controls of their own drawing, once for each.
+void UsesRightButton(wxWindow* window);
 
 /// The next click on a control tells what it is for.
 void EnterWhatsThisMode(wxWindow* window);

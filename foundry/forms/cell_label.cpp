@@ -5,9 +5,11 @@
 #include <wx/settings.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 
 #include "foundation/field_strings.h"
+#include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "platform/spoken_name.h"
 
@@ -28,13 +30,19 @@ wxColour BackOf(const CellLook& look) {
     return look.Dark ? *wxBLACK : ToWxColour(look.Back);
 }
 
-// Black on every group's colour, whatever the theme: they are all light.
+double Linear(unsigned char channel) {
+    const double part = channel / 255.0;
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+// The ink with the greater contrast: black on every group's colour, whatever the theme, white on dark player colours.
 wxColour TextColorOn(const CellLook& look, const wxColour& back) {
     if (look.Highlighted) {
         return wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHTTEXT);
     }
-    constexpr double kMiddle = 0.45;
-    return back.GetLuminance() > kMiddle ? *wxBLACK : *wxWHITE;
+    constexpr double kMiddle = 0.179;
+    const double light = 0.2126 * Linear(back.Red()) + 0.7152 * Linear(back.Green()) + 0.0722 * Linear(back.Blue());
+    return light > kMiddle ? *wxBLACK : *wxWHITE;
 }
 
 }  // namespace
@@ -50,6 +58,7 @@ CellLabel::CellLabel(wxWindow* parent, const wxString& name, Look look, CellGrou
     Create(parent, wxID_ANY, wxDefaultPosition, wxSize(1, 1), wxWANTS_CHARS | wxBORDER_NONE | wxFULL_REPAINT_ON_RESIZE,
            name);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
+    UsesRightButton(this);
     if (group_ == nullptr) {
         return;
     }

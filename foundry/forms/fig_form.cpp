@@ -1,6 +1,7 @@
 #include "foundry/forms/fig_form.h"
 
 #include <wx/button.h>
+#include <wx/cshelp.h>
 #include <wx/display.h>
 #include <wx/settings.h>
 #include <wx/stattext.h>
@@ -11,6 +12,7 @@
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
+#include "foundation/settings.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/editor/find_text.h"
 #include "foundry/editor/lifecycle.h"
@@ -28,6 +30,28 @@ namespace {
 
 constexpr int kFindLetters = 30;
 constexpr int kFrameRoom = 40;  // of the screen's height, left for the frame
+constexpr int kUsualWidth = 1000;  // at 100 %: what a screen of 1024 by 768 has room for
+constexpr int kUsualHeight = 700;
+constexpr int kTabHeight = 39;
+constexpr int kPageRows = 17;   // of labels, that a page has room for
+
+// The letter behind the "&" of a caption; 0 without one.
+char AccessKeyOf(TextView caption) {
+    const std::size_t mark = caption.find('&');
+    const bool has = mark != TextView::npos && mark + 1 < caption.size() && caption[mark + 1] != '&';
+    return has ? UpperCase(caption[mark + 1]) : '\0';
+}
+
+/// The page that the access key leads to; -1 if none does.
+int PageOfAccessKey(const TabSet& tabs, int code) {
+    for (std::size_t page = 0; page < tabs.Pages.size(); ++page) {
+        const TabPage& tab = tabs[page];
+        if (tab.Visible && tab.Enabled && AccessKeyOf(tab.Caption) == code) {
+            return static_cast<int>(page);
+        }
+    }
+    return -1;
+}
 
 template <std::size_t Count>
 struct Named {
@@ -67,12 +91,13 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
     keys_ = new KeyPanels(content_, parts_);
     rows->Add(keys_, wxSizerFlags().Expand().Border(wxTOP, kPageGap / 2));
     rows->Add(parts_.MakeLabel(content_, "Hint_Lbl", model_.Hint_Lbl),
-              wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap));
+              wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap / 2));
     content_->SetSizer(rows);
     BindEvents();
     ShowState();
+    GiveWhatsThis(this);
     FitToScreen();
-    place_.Put();
+    PlaceOnScreen();
     user_.OnRefresh(this, [this] { ShowState(); });
 }
 
@@ -149,6 +174,7 @@ wxNotebook* FigForm::MakeMainTab() {
     for (std::size_t i = 0; i < pages.size(); ++i) {
         pages[i]->SetName(kMainPages.Names[i]);
     }
+    tabs->SetMinSize(wxSize(-1, kPageRows * (parts_.RowHeight(this) + kCellGap) + 2 * FromDIP(kTabHeight) + 3 * kPageGap));
     parts_.Controls.Bind("Main_Tab", model_.Main_Tab, tabs, pages, [this](int page) { Main_Tab_Click(model_, page); });
     return tabs;
 }
@@ -185,12 +211,35 @@ void FigForm::KeepSize() {
 }
 
 void FigForm::PressKey(wxKeyEvent& event) {
-    if (hand_.TakeKey(event) || PressShortcut(event) || PressOnLabel(event)) {
+    if (hand_.TakeKey(event) || PressShortcut(event) || PressAccessKey(event) || PressOnLabel(event)) {
         return;
     }
     if (event.GetKeyCode() != WXK_ESCAPE) {
         event.Skip();
     }
+}
+
+// The tabs' own: those of the page that is seen come before those of all pages.
+bool FigForm::PressAccessKey(const wxKeyEvent& event) {
+    if (event.GetModifiers() != wxMOD_ALT) {
+        return false;
+    }
+    const int code = event.GetKeyCode();
+    const auto main = static_cast<EditorPage>(model_.Main_Tab.Tab);
+    if (const int page = PageOfAccessKey(model_.Bindings_Tab, code); main == EditorPage::Bindings && page >= 0) {
+        parts_.Controls.Run([&] { Bindings_Tab_Click(model_, page); });
+        return true;
+    }
+    const int options = PageOfAccessKey(model_.Document.Options_Tab, code);
+    if (main == EditorPage::Player && options >= 0) {
+        parts_.Controls.Run([&] { Options_Tab_Click(model_, options); });
+        return true;
+    }
+    if (const int page = PageOfAccessKey(model_.Main_Tab, code); page >= 0) {
+        parts_.Controls.Run([&] { Main_Tab_Click(model_, page); });
+        return true;
+    }
+    return false;
 }
 
 bool FigForm::PressShortcut(const wxKeyEvent& event) {
@@ -207,6 +256,10 @@ bool FigForm::PressShortcut(const wxKeyEvent& event) {
         FindWindow("Find_Txt")->SetFocus();
     } else if (code == WXK_F3 && !event.HasAnyModifiers()) {
         parts_.Controls.Run([this] { FindNext_Cmd_Click(model_); });
+    } else if (code == WXK_F1 && event.GetModifiers() == wxMOD_SHIFT) {
+        if (wxWindow* focus = FindFocus()) {
+            wxHelpProvider::Get()->ShowHelp(focus);
+        }
     } else if (code == WXK_F1 && !event.HasAnyModifiers()) {
         parts_.Controls.Run([this] { OpenHelpFile(model_.run); });
     } else {
@@ -277,7 +330,9 @@ void FigForm::MakeShownPages() {
             late.Make()) {
             parts_.Controls.Show();
             late.Page()->Layout();
-            GiveWhatsThis(late.Page());
+            if (place_.IsPut()) {
+                GiveWhatsThis(late.Page());
+            }
         }
     }
 }
@@ -290,6 +345,8 @@ void FigForm::ShowState() {
     if (GetTitle() != ToWx(model_.Document.Caption)) {
         SetTitle(ToWx(model_.Document.Caption));
     }
+    wxWindow* const before = FindFocus();
+    const bool finding = before != nullptr && before->GetName() == "Find_Txt";
     bool changed = parts_.Controls.Show();
     MakeShownPages();
     changed = keys_->ShowState() || changed;
@@ -306,6 +363,11 @@ void FigForm::ShowState() {
         saveTimer_.Stop();
     }
     showing_ = false;
+    // A page that is turned takes the keyboard, which whoever is typing would miss.
+    if (finding && FindFocus() != before) {
+        before->SetFocus();
+        dynamic_cast<wxTextCtrl&>(*before).SetInsertionPointEnd();
+    }
     LeadToFound();
 }
 
@@ -326,8 +388,32 @@ void FigForm::Finished() {
     }
 }
 
+// Where it was left; the first time in the middle of the screen. What would lie beyond the screen is drawn in.
+void FigForm::PlaceOnScreen() {
+    const wxRect screen = wxDisplay(static_cast<unsigned>(0)).GetClientArea();
+    WindowPlacement& placement = model_.Placement;
+    if (GetSetting(model_.run, model_.run.AppName, model_.Name, "Left").empty()) {
+        placement.Width = ToTwips(GetSize().x);
+        placement.Height = ToTwips(GetSize().y);
+        lv::CenterOnScreen(placement, ScreenInTwips(model_.run));
+    }
+    const double right = ToTwips(screen.GetRight() + 1 - GetSize().x);
+    const double bottom = ToTwips(screen.GetBottom() + 1 - GetSize().y);
+    placement.Left = std::max(ToTwips(screen.x), std::min(placement.Left, right));
+    placement.Top = std::max(ToTwips(screen.y), std::min(placement.Top, bottom));
+    place_.Put();
+    if (placement.WindowState == kWindowMaximised) {
+        Maximize();
+    }
+}
+
 void FigForm::FitToScreen() {
-    const wxSize wanted = content_->GetSizer()->CalcMin();
+    wxSize wanted = content_->GetSizer()->CalcMin();
+    if (!keys_->IsShown()) {
+        const wxSize keys = keys_->GetBestSize();
+        wanted = wxSize(std::max(wanted.x, keys.x), wanted.y + keys.y);
+    }
+    wanted.IncTo(FromDIP(wxSize(kUsualWidth, kUsualHeight)));
     wxSize room = wxDisplay(GetParent() != nullptr ? GetParent() : static_cast<wxWindow*>(this)).GetClientArea().GetSize();
     room.y -= FromDIP(kFrameRoom);
     content_->SetVirtualSize(wanted);

@@ -41,10 +41,12 @@ class FigForm : public wxDialog {
     void PressKey(wxKeyEvent& event);
     bool PressOnLabel(wxKeyEvent& event);
     bool PressShortcut(const wxKeyEvent& event);
+    bool PressAccessKey(const wxKeyEvent& event);
     void MakeShownPages();
     bool MakeOnePage();
     void LeadToFound();
     void FitToScreen();
+    void PlaceOnScreen();
     void KeepSize();
     void Finished();
 
@@ -58,7 +60,6 @@ class FigForm : public wxDialog {
     std::vector<LatePage> late_;
     wxTimer saveTimer_;  // Save_Tmr
     bool showing_ = false;
-    bool refresh_ = false;
 };
 
 /// The form of Fig_Frm and of its dialogs, for a user interface's makers.

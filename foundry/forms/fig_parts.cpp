@@ -13,7 +13,7 @@ namespace lv {
 
 namespace {
 
-constexpr int kRowMargin = 5;
+constexpr int kRowMargin = 2;
 constexpr int kComboMargin = 44;  // of its arrow and its frame, at 100 %
 
 }  // namespace

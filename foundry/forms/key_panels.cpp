@@ -26,6 +26,12 @@ constexpr std::uint64_t kMostPictureBytes = 4'000'000;
 constexpr int kMostPicturePixels = 4000;  // both ways
 constexpr std::size_t kBmpHeader = 26;    // up to width and height
 
+constexpr int kAboveKeyboard = 210;  // twips over the highest key, where the panel's caption was
+
+int TopOf(const KeyLabel& key, Index label) {
+    return label >= kFirstJoyLabel && label < kKeyCount ? key.Top : key.Top - kAboveKeyboard;
+}
+
 int Scaled(const wxWindow* window, int twips) {
     return window->FromDIP(static_cast<int>(twips * kEnlarged / kTwipsPerPixel));
 }
@@ -110,7 +116,7 @@ wxPanel* KeyPanels::MakePicture(wxWindow* panel, bool controller) {
         if (key.Exists && StandsOnController(label) == controller) {
             MakeKey(picture, label);
             size.x = std::max(size.x, Scaled(this, key.Left + key.Width));
-            size.y = std::max(size.y, Scaled(this, key.Top + key.Height));
+            size.y = std::max(size.y, Scaled(this, TopOf(key, label) + key.Height));
         }
     }
     picture->SetMinSize(size);
@@ -120,8 +126,9 @@ wxPanel* KeyPanels::MakePicture(wxWindow* panel, bool controller) {
 void KeyPanels::PlaceKeys() {
     for (const auto& [label, window] : parts_.KeyLabels) {
         const KeyLabel& key = parts_.Model.KeyLabelOf(label);
-        const wxPoint from(Scaled(this, key.Left), Scaled(this, key.Top));
-        const wxPoint to(Scaled(this, key.Left + key.Width), Scaled(this, key.Top + key.Height));
+        const int top = TopOf(key, label);
+        const wxPoint from(Scaled(this, key.Left), Scaled(this, top));
+        const wxPoint to(Scaled(this, key.Left + key.Width), Scaled(this, top + key.Height));
         const wxRect place(from, wxSize(to.x - from.x, to.y - from.y));
         if (window->GetRect() != place) {
             window->SetSize(place);

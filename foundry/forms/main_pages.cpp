@@ -223,10 +223,12 @@ void MakeFreeFormPage(FigParts& parts, wxWindow* page) {
 }
 
 void MakeSavePage(FigParts& parts, wxWindow* page) {
-    auto* rows = new wxBoxSizer(wxVERTICAL);
+    auto* frames = new wxBoxSizer(wxVERTICAL);
     for (wxSizer* frame : {MakeAutoSave(parts, page), MakeSaveNow(parts, page), MakeExit(parts, page)}) {
-        rows->Add(frame, wxSizerFlags().Border(wxALL, kPageGap));
+        frames->Add(frame, wxSizerFlags().Expand().Border(wxALL, kPageGap));
     }
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(frames);
     page->SetSizer(rows);
 }
 

@@ -12,14 +12,14 @@
 #include "foundation/forms/wx_text.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/editor/free_rows.h"
-#include "foundry/editor/lifecycle.h"
+#include "foundry/editor/player_page.h"
 #include "foundry/editor/settings_pages.h"
 
 namespace lv {
 
 namespace {
 
-constexpr int kLeastKeyLetters = 11;  // that a row's keys have room for
+constexpr int kLeastKeyLetters = 9;   // that a row's keys have room for
 constexpr int kNameMargin = 8;        // at 100 %, around the text of a name
 
 /// A run of rows under a heading; no heading: the column continues the one before it.
@@ -199,6 +199,15 @@ wxSizer* MakeButtons(FigParts& parts, wxWindow* page, BindingsPage which) {
     return row;
 }
 
+wxSizer* MakePlayerClass(FigParts& parts, wxWindow* page) {
+    Fig_Frm& form = parts.Model;
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(parts.MakeLabel(page, "Some_Lbl", form.Some_Lbl), wxSizerFlags().CenterVertical().Border(wxRIGHT, kPageGap));
+    row->Add(parts.MakeList(page, "PlayerClass_Cbo", form.Document.PlayerClass_Cbo,
+                            [&form] { PlayerClass_Cbo_Click(form); }, "Player class"));
+    return row;
+}
+
 }  // namespace
 
 void MakeBindingsPage(FigParts& parts, wxWindow* page, BindingsPage which) {
@@ -216,6 +225,9 @@ void MakeBindingsPage(FigParts& parts, wxWindow* page, BindingsPage which) {
     if (which == BindingsPage::System) {
         rows->Add(parts.MakeCheck(page, "Unbindall_Chk", form.Document.Unbindall_Chk, [&form] { Setting_Change(form); }),
                   below);
+    }
+    if (which == BindingsPage::Hexen2) {
+        rows->Add(MakePlayerClass(parts, page), below);
     }
     if (which == BindingsPage::Talking) {
         rows->Add(parts.MakeLabel(page, "Label7", form.Label7), below);

@@ -140,7 +140,7 @@ class OptionsPageMaker {
 
     void AddList(wxSizer* lists, const SettingRow& row) {
         ListBox& model = form_.Document.*row.List;
-        auto* caption = new wxStaticText(box_, wxID_ANY, ToWx(Trim(row.Caption)));
+        auto* caption = new wxStaticText(box_, wxID_ANY, wxControl::EscapeMnemonics(ToWx(Trim(row.Caption))));
         auto* hint = new wxStaticText(box_, wxID_ANY, ToWx(HintOf(form_, row)));
         hint->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT));
         wxComboBox* combo = parts_.MakeCombo(box_, row.Name, model, HandlerOf(row), row.Caption,

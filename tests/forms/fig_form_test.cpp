@@ -1,9 +1,11 @@
 #include "tests/forms/fig_form_fixture.h"
 
 #include <gmock/gmock.h>
+#include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
 #include <wx/listbox.h>
+#include <wx/stattext.h>
 #include <wx/textctrl.h>
 
 #include "foundation/forms/wx_text.h"
@@ -229,6 +231,72 @@ TEST_F(FigForm_, SavesWhatWasBound) {
     });
     EXPECT_THAT(File(), HasSubstr("bind \"e\"             \"+jump\"\r\n"));
     EXPECT_THAT(File(), HasSubstr("bind \"w\"             \"+forward\"\r\n"));
+}
+
+/// Each kind of game in turn, on a screen of 1024 by 768.
+class FigFormOfKind : public FigForm_, public ::testing::WithParamInterface<KindOfGame> {
+  protected:
+    /// What is shown of a page has its whole text and lies within the window.
+    void ExpectNothingCutOff(wxWindow* window) {
+        if (!window->IsShownOnScreen()) {
+            return;
+        }
+        const wxString what = window->GetName() + " " + window->GetLabel();
+        const bool whole = dynamic_cast<wxCheckBox*>(window) != nullptr || dynamic_cast<wxButton*>(window) != nullptr ||
+                           dynamic_cast<wxComboBox*>(window) != nullptr || dynamic_cast<wxStaticText*>(window) != nullptr;
+        if (whole) {
+            EXPECT_GE(window->GetSize().x, window->GetBestSize().x) << what;
+            EXPECT_GE(window->GetSize().y, window->GetBestSize().y) << what;
+        }
+        if (whole || dynamic_cast<CellLabel*>(window) != nullptr) {
+            const wxRect room = form->GetScreenRect();
+            EXPECT_TRUE(room.Contains(window->GetScreenRect())) << what;
+        }
+        for (wxWindow* child : window->GetChildren()) {
+            ExpectNothingCutOff(child);
+        }
+    }
+
+    void Keep(const std::string& page) {
+        const wxWindow* const content = form->GetChildren().front();
+        const wxSize wanted = content->GetSizer()->CalcMin();
+        EXPECT_LE(wanted.x, content->GetClientSize().x) << page;
+        EXPECT_LE(wanted.y, content->GetClientSize().y) << page;
+        ExpectNothingCutOff(form);
+        Screenshot("foundry_" + std::string(GetParam().Name) + "_" + page);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Kinds, FigFormOfKind, ::testing::ValuesIn(kGames),
+                         [](const auto& kind) { return std::string(kind.param.Name); });
+
+TEST_P(FigFormOfKind, EveryPageFitsTheScreen) {
+    Use(GetParam(), GetParam().Dialect.GameKind == 4 ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
+    Edit([this] {
+        form->MakeAllPages();
+        Settle();
+        EXPECT_LE(form->GetRect().GetRight(), 1024);
+        EXPECT_LE(form->GetRect().GetBottom(), 768);
+        auto* options = FindAs<wxNotebook>("Options_Tab");
+        for (std::size_t page = 0; page < options->GetPageCount(); ++page) {
+            options->SetSelection(page);
+            Settle();
+            Keep("options_" + std::to_string(page));
+        }
+        Turn(EditorPage::Bindings);
+        auto* bindings = FindAs<wxNotebook>("Bindings_Tab");
+        for (std::size_t page = 0; page < bindings->GetPageCount(); ++page) {
+            bindings->SetSelection(page);
+            Settle();
+            Keep("bindings_" + std::to_string(page));
+        }
+        ClickOn(Find("JoyToggle_Cmd(0)"));
+        Keep("joystick");
+        for (const EditorPage page : {EditorPage::Aliases, EditorPage::FreeForm, EditorPage::SaveAndExit}) {
+            Turn(page);
+            Keep("page_" + std::to_string(static_cast<int>(page)));
+        }
+    });
 }
 
 class FigFormClosing : public FigForm_ {
