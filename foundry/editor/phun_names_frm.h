@@ -9,12 +9,17 @@
 
 #include "foundation/modal_window.h"
 #include "foundry/fonts/font_map.h"
+#include "foundry/tables/slots.h"
 
 namespace lv {
 
 struct Fig_Frm;
 
 constexpr int kNameLength = 15;
+
+// Back colours of NamePosition_Lbl. The system's colour of buttons has a number that no other has.
+constexpr Color kButtonFace = 0x8000000f;
+constexpr Color kCursorGreen = 0x00ff00;
 
 struct PhunNames_Frm : ModalWindow {
     explicit PhunNames_Frm(Run& owner);
@@ -43,13 +48,15 @@ struct NameLetter {
 /// What Name_Pic shows: Name_Txt without blanks at its ends, its first 15 characters.
 std::vector<NameLetter> PaintName(const Fig_Frm& form);
 
-/// The map of the kind of game: from the game's own data where that lies beside the script, else our own.
+/// The map of the kind of game: from the game's own data where that lies beside the script, else our own. Hides the
+/// fifteen cells.
 void LoadPhunNames(Fig_Frm& form);
 
+/// Comes back when the window was closed, however that was.
 void ViewCustomLetters_Cmd_Click(Fig_Frm& form);
 void NavigatePosition(Fig_Frm& form, int step);
 void PhunNames_Navigate_Cmd_Click(Fig_Frm& form, int index);
-/// A click on the map, in its pixels.
+/// A click on the map, in its pixels. One beside the map is none.
 void PhunNames_Picture1_MouseUp(Fig_Frm& form, int x, int y);
 void PhunNames_ClearCurrent_Cmd_Click(Fig_Frm& form);
 void PhunNames_ClearAll_Cmd_Click(Fig_Frm& form);
