@@ -63,6 +63,7 @@ CellLabel::CellLabel(wxWindow* parent, const wxString& name, Look look, CellGrou
         return;
     }
     group_->Add(this);
+    SetCanFocus(true);
     Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
         event.Skip();
         group_->SetEntry(this);

@@ -31,7 +31,7 @@ namespace {
 constexpr int kFindLetters = 30;
 constexpr int kFrameRoom = 40;  // of the screen's height, left for the frame
 constexpr int kUsualWidth = 1000;  // at 100 %: what a screen of 1024 by 768 has room for
-constexpr int kUsualHeight = 700;
+constexpr int kUsualHeight = 706;
 constexpr int kTabHeight = 39;
 constexpr int kPageRows = 17;   // of labels, that a page has room for
 

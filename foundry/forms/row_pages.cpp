@@ -92,7 +92,9 @@ class RowMaker {
         auto* column = new wxBoxSizer(wxVERTICAL);
         column->Add(MakeHeading(heading), wxSizerFlags().Expand().Border(wxBOTTOM, kCellGap));
         for (SlotNumber slot = slots.First; slot <= slots.Last; ++slot) {
-            column->Add(MakeRow(slot), wxSizerFlags().Expand().Border(wxBOTTOM, kCellGap));
+            // A box is higher than a label, and keeps its row apart from the next by itself.
+            const int gap = kMessages.Holds(slot) ? 0 : kCellGap;
+            column->Add(MakeRow(slot), wxSizerFlags().Expand().Border(wxBOTTOM, gap));
         }
         return column;
     }
@@ -196,6 +198,10 @@ wxSizer* MakeButtons(FigParts& parts, wxWindow* page, BindingsPage which) {
         row->Add(parts.MakeButton(page, button.Name, form.*button.Button, [&form, click] { click(form); }),
                  wxSizerFlags().Border(wxRIGHT, kPageGap));
     }
+    if (which == BindingsPage::Talking) {
+        row->AddStretchSpacer();
+        row->Add(parts.MakeLabel(page, "Label7", form.Label7), wxSizerFlags().CenterVertical());
+    }
     return row;
 }
 
@@ -228,9 +234,6 @@ void MakeBindingsPage(FigParts& parts, wxWindow* page, BindingsPage which) {
     }
     if (which == BindingsPage::Hexen2) {
         rows->Add(MakePlayerClass(parts, page), below);
-    }
-    if (which == BindingsPage::Talking) {
-        rows->Add(parts.MakeLabel(page, "Label7", form.Label7), below);
     }
     if (which == BindingsPage::Extended || which == BindingsPage::Talking) {
         rows->Add(MakeButtons(parts, page, which), below);
