@@ -14,6 +14,7 @@ namespace lv {
 constexpr int kFontCell = 16;  // pixels, both ways
 constexpr int kFontCellsInRow = 15;
 constexpr int kFontRows = 18;
+constexpr int kFontCodes = 256;
 constexpr int kFontMapWidth = kFontCell * kFontCellsInRow;
 constexpr int kFontMapHeight = kFontCell * kFontRows;
 

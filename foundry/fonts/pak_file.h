@@ -1,0 +1,24 @@
+// foundry/fonts/pak_file.h
+//
+// A file out of an archive in id Software's PAK format, or in Sin's of the magic "SPAK". Both have a header of 12
+// bytes; a directory entry is 64 or 128 bytes long and ends with the file's place and length. Nothing in them is
+// compressed.
+
+#pragma once
+
+#include <optional>
+
+#include "foundation/text.h"
+#include "platform/files.h"
+
+namespace lv {
+
+/// The largest directory that is read, in bytes and in entries.
+constexpr std::uint32_t kLargestPakDirectory = 4U << 20U;
+constexpr std::uint32_t kMostPakEntries = 65536;
+
+/// The content of the first entry of that name ("gfx/palette.lmp"), case-blind. Nothing if there is none, if it or the
+/// directory lies outside of the archive, or if it is longer than `most` bytes.
+std::optional<Text> ReadFromPak(RandomAccessFile& archive, TextView name, std::uint32_t most);
+
+}  // namespace lv
