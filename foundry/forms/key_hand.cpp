@@ -42,6 +42,16 @@ void KeyHand::WatchKey(CellLabel* label, Index index) {
     };
     label->Bind(wxEVT_LEFT_DCLICK, clear);
     label->Bind(wxEVT_RIGHT_DCLICK, clear);
+    WatchKeyboard(label);
+}
+
+// While the mouse is held the toolkit gives keys to the window that holds it and to no other.
+void KeyHand::WatchKeyboard(CellLabel* label) {
+    label->Bind(wxEVT_KEY_DOWN, [this, label](wxKeyEvent& event) {
+        if (!label->HasCapture() || !TakeKey(event)) {
+            event.Skip();
+        }
+    });
 }
 
 void KeyHand::WatchRow(CellLabel* label, SlotNumber slot) {
@@ -63,6 +73,7 @@ void KeyHand::WatchRow(CellLabel* label, SlotNumber slot) {
     label->Bind(wxEVT_RIGHT_DOWN, hear);
     label->Bind(wxEVT_MIDDLE_DOWN, hear);
     label->Bind(wxEVT_MOUSEWHEEL, hear);
+    WatchKeyboard(label);
     label->Bind(wxEVT_KEY_UP, [this](wxKeyEvent& event) {
         event.Skip();
         keyUp_ = true;

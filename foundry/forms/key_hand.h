@@ -33,6 +33,7 @@ class KeyHand {
         wxRect Place;
     };
 
+    void WatchKeyboard(CellLabel* label);
     void PressKey(CellLabel* label, Index index);
     void Move(const wxPoint& screen);
     void Release(const wxPoint& screen);
