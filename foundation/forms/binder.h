@@ -37,9 +37,9 @@ class Binder {
     void Bind(const char* name, ListBox& model, wxChoice* view, Handler click);
     void Bind(const char* name, ListBox& model, wxListBox* view, Handler click);
     /// A list with a field: `typed` gets each text that is typed, and puts it into the list.
-    void Bind(const char* name, ListBox& model, wxComboBox* view, Handler click,
-              std::function<void(TextView)> typed);
-    /// A page that is not visible, or not enabled, leaves the tabs. `pages` are the windows of all pages, in their order.
+    void Bind(const char* name, ListBox& model, wxComboBox* view, Handler click, std::function<void(TextView)> typed);
+    /// A page that is not visible, or not enabled, leaves the tabs. `pages` are the windows of all pages, in their
+    /// order.
     void Bind(const char* name, TabSet& model, wxNotebook* view, std::vector<wxWindow*> pages,
               std::function<void(int)> click);
     void Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, Handler click);

@@ -75,8 +75,8 @@ Result<std::optional<Text>> WxUser::ChooseFile(const FileRequest& request) {
     const long style = request.ForSaving ? wxFD_SAVE | wxFD_OVERWRITE_PROMPT : wxFD_OPEN | wxFD_FILE_MUST_EXIST;
     const std::string directory = files_.ToHost(request.InitialDirectory);
     const wxString usual = request.ForSaving ? "Save As" : "Open";
-    wxFileDialog dialog(Owner(), request.Title.empty() ? usual : ToWx(request.Title),
-                        wxString::FromUTF8(directory), ToWx(request.FileName), ToWx(request.Filter), style);
+    wxFileDialog dialog(Owner(), request.Title.empty() ? usual : ToWx(request.Title), wxString::FromUTF8(directory),
+                        ToWx(request.FileName), ToWx(request.Filter), style);
     if (dialog.ShowModal() != wxID_OK) {
         return std::optional<Text>();
     }

@@ -50,8 +50,8 @@ struct ScriptDocument : ScriptSettings {
     AliasList AliasTable;
 
     std::vector<ScriptSection> Sections;
-    ListBox Section_Cbo;                  // the sections' names, shown for Unreal only
-    std::array<Text, 51> WeaponPriority;  // as read; empty or "None" is a free place
+    ListBox Section_Cbo;                                 // the sections' names, shown for Unreal only
+    std::array<Text, 51> WeaponPriority;                 // as read; empty or "None" is a free place
     TabSet Options_Tab{{}, std::vector<TabPage>(5), 0};  // 3 "&QuakeWorld Skins", 4 "&Rate"
 
     bool ScriptClean = true;     // equals the file

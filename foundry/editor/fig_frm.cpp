@@ -13,12 +13,7 @@ struct LabelRoom {
 };
 
 constexpr LabelRoom kLabelRooms[] = {
-    {kExtras, 26},
-    {kBoundAliases, 16},
-    {kBoundScripts, 22},
-    {kMessages, 64},
-    {{901, 923}, 34},
-    {{1101, 1124}, 30},
+    {kExtras, 26}, {kBoundAliases, 16}, {kBoundScripts, 22}, {kMessages, 64}, {{901, 923}, 34}, {{1101, 1124}, 28},
 };
 constexpr int kUsualLetters = 18;
 

@@ -54,8 +54,8 @@ enum class DragIcon { None, Refuse, Accept };
 struct DragState {
     bool Dragging = false;
     KeyIndex Key = kNoKey;
-    bool OverRow = false;           // over a row that takes the key
-    SlotNumber Marked = kNoSlot;    // Setting_Lbl(Marked) is in the system's highlight colours
+    bool OverRow = false;         // over a row that takes the key
+    SlotNumber Marked = kNoSlot;  // Setting_Lbl(Marked) is in the system's highlight colours
     DragIcon Icon = DragIcon::None;
 };
 

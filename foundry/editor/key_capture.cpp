@@ -138,7 +138,17 @@ Text UsualHint(const Fig_Frm& form) {
         return Join(SpokenName(form.PickedKey),
                     " is picked up. Press Enter on the row that it is to do, Escape lays it down.");
     }
-    return "Drag a key onto a function, or press Enter on a function and then the key.";
+    switch (static_cast<EditorPage>(form.Main_Tab.Tab)) {
+        case EditorPage::Bindings:
+        case EditorPage::Aliases:
+            return "Drag a key onto a function, or press Enter on a function and then the key.";
+        case EditorPage::SaveAndExit:
+            return "Save writes the script anew; what this editor does not know stays among the free form additions.";
+        case EditorPage::FreeForm:
+            return "These lines are written as they stand, behind all others.";
+        default:
+            return "What you leave empty is not written. The game reads the script when it is ticked at the launch.";
+    }
 }
 
 void RestoreHint(Fig_Frm& form) {

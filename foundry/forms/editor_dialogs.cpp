@@ -62,9 +62,11 @@ Form MakeAlias(wxWindow* owner, Alias_Frm& alias) {
     form->AddField(alias.AliasName_Lbl, "AliasName_Lbl", form->MakeText("AliasName_Txt", alias.AliasName_Txt));
     auto* commands = new wxComboBox(form.get(), wxID_ANY, "", wxDefaultPosition, form->FromDIP(wxSize(kLineWidth, -1)),
                                     0, nullptr, wxCB_DROPDOWN | wxCB_READONLY);
-    form->Controls.Bind("AddableCommands_Cbo", alias.AddableCommands_Cbo, commands, [] {}, [](TextView) {});
-    form->AddField(alias.AddableCommands_Lbl, "AddableCommands_Lbl", commands,
-                   form->MakeButton("AddCommand_Cmd", alias.AddCommand_Cmd, [&alias] { Alias_AddCommand_Cmd_Click(alias); }));
+    form->Controls.Bind(
+        "AddableCommands_Cbo", alias.AddableCommands_Cbo, commands, [] {}, [](TextView) {});
+    form->AddField(
+        alias.AddableCommands_Lbl, "AddableCommands_Lbl", commands,
+        form->MakeButton("AddCommand_Cmd", alias.AddCommand_Cmd, [&alias] { Alias_AddCommand_Cmd_Click(alias); }));
     auto* body = new wxTextCtrl(form.get(), wxID_ANY, "", wxDefaultPosition,
                                 form->FromDIP(wxSize(kLineWidth, kBodyHeight)), wxTE_MULTILINE);
     BindLines(*form, "AliasBody_Txt", alias.AliasBody_Txt, body);
@@ -82,7 +84,8 @@ Form MakeAlias(wxWindow* owner, Alias_Frm& alias) {
 /// The swatches lead each other to the keyboard, and go before the group that knows them.
 class ColorForm : public ModalForm {
   public:
-    ColorForm(wxWindow* owner, Color_Frm& colors) : ModalForm(owner, colors, [&colors] { Color_Cancel_Cmd_Click(colors); }) {
+    ColorForm(wxWindow* owner, Color_Frm& colors)
+        : ModalForm(owner, colors, [&colors] { Color_Cancel_Cmd_Click(colors); }) {
         auto* grid = new wxGridSizer(kSwatchesInRow, kGap, kGap);
         for (int index = 0; index < static_cast<int>(colors.Color_Lbl.size()); ++index) {
             grid->Add(MakeSwatch(colors, index));

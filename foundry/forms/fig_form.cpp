@@ -29,11 +29,11 @@ namespace lv {
 namespace {
 
 constexpr int kFindLetters = 30;
-constexpr int kFrameRoom = 40;  // of the screen's height, left for the frame
+constexpr int kFrameRoom = 40;     // of the screen's height, left for the frame
 constexpr int kUsualWidth = 1000;  // at 100 %: what a screen of 1024 by 768 has room for
 constexpr int kUsualHeight = 706;
 constexpr int kTabHeight = 39;
-constexpr int kPageRows = 17;   // of labels, that a page has room for
+constexpr int kPageRows = 17;  // of labels, that a page has room for
 
 // The letter behind the "&" of a caption; 0 without one.
 char AccessKeyOf(TextView caption) {
@@ -81,8 +81,8 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
     parts_.WatchKey = [this](CellLabel* label, Index index) { hand_.WatchKey(label, index); };
     parts_.WatchRow = [this](CellLabel* label, SlotNumber slot) { hand_.WatchRow(label, slot); };
     parts_.WatchName = [this](CellLabel* label, SlotNumber slot) { hand_.WatchName(label, slot); };
-    content_ = new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize,
-                                    wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
+    content_ =
+        new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
     KeepScrollBarsInSight(content_->GetHandle());
     content_->SetScrollRate(FromDIP(10), FromDIP(10));
     auto* rows = new wxBoxSizer(wxVERTICAL);
@@ -109,9 +109,11 @@ FigForm::~FigForm() {
 wxSizer* FigForm::MakeFindRow() {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     const auto right = wxSizerFlags().CenterVertical().Border(wxRIGHT, kPageGap);
-    row->Add(new wxStaticText(content_, wxID_ANY, "Find"), wxSizerFlags().CenterVertical().Border(wxLEFT | wxRIGHT, kPageGap));
-    wxTextCtrl* find = parts_.MakeText(content_, "Find_Txt", model_.Find_Txt, [this] { Find_Txt_Change(model_); },
-                                       "Find a function, command, key or alias", wxTE_PROCESS_ENTER);
+    row->Add(new wxStaticText(content_, wxID_ANY, "Find"),
+             wxSizerFlags().CenterVertical().Border(wxLEFT | wxRIGHT, kPageGap));
+    wxTextCtrl* find = parts_.MakeText(
+        content_, "Find_Txt", model_.Find_Txt, [this] { Find_Txt_Change(model_); },
+        "Find a function, command, key or alias", wxTE_PROCESS_ENTER);
     find->SetMinSize(wxSize(kFindLetters * GetTextExtent("n").x, -1));
     find->Bind(wxEVT_TEXT_ENTER,
                [this](wxCommandEvent&) { parts_.Controls.Run([this] { FindNext_Cmd_Click(model_); }); });
@@ -166,15 +168,15 @@ wxWindow* FigForm::MakeBindingsTabs(wxNotebook* tabs) {
 
 wxNotebook* FigForm::MakeMainTab() {
     auto* tabs = new wxNotebook(content_, wxID_ANY);
-    std::vector<wxWindow*> pages = {
-        MakePlayerPage(tabs), MakeBindingsTabs(tabs),
-        AddLate(tabs, [this](wxPanel* made) { MakeAliasPage(parts_, made); }),
-        AddLate(tabs, [this](wxPanel* made) { MakeFreeFormPage(parts_, made); }),
-        AddLate(tabs, [this](wxPanel* made) { MakeSavePage(parts_, made); })};
+    std::vector<wxWindow*> pages = {MakePlayerPage(tabs), MakeBindingsTabs(tabs),
+                                    AddLate(tabs, [this](wxPanel* made) { MakeAliasPage(parts_, made); }),
+                                    AddLate(tabs, [this](wxPanel* made) { MakeFreeFormPage(parts_, made); }),
+                                    AddLate(tabs, [this](wxPanel* made) { MakeSavePage(parts_, made); })};
     for (std::size_t i = 0; i < pages.size(); ++i) {
         pages[i]->SetName(kMainPages.Names[i]);
     }
-    tabs->SetMinSize(wxSize(-1, kPageRows * (parts_.RowHeight(this) + kCellGap) + 2 * FromDIP(kTabHeight) + 3 * kPageGap));
+    tabs->SetMinSize(
+        wxSize(-1, kPageRows * (parts_.RowHeight(this) + kCellGap) + 2 * FromDIP(kTabHeight) + 3 * kPageGap));
     parts_.Controls.Bind("Main_Tab", model_.Main_Tab, tabs, pages, [this](int page) { Main_Tab_Click(model_, page); });
     return tabs;
 }
@@ -182,8 +184,9 @@ wxNotebook* FigForm::MakeMainTab() {
 void FigForm::BindEvents() {
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { parts_.Controls.Run([this] { Fig_Frm_Unload(model_); }); });
     Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { PressKey(event); });
-    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { parts_.Controls.Run([this] { Save_Tmr_Timer(model_); }); },
-         saveTimer_.GetId());
+    Bind(
+        wxEVT_TIMER, [this](wxTimerEvent&) { parts_.Controls.Run([this] { Save_Tmr_Timer(model_); }); },
+        saveTimer_.GetId());
     Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
         event.Skip();
         if (IsShownOnScreen() && MakeOnePage()) {
@@ -326,8 +329,8 @@ void FigForm::MakeAllPages() {
 
 void FigForm::MakeShownPages() {
     for (LatePage& late : late_) {
-        if (late.Page()->IsShown() && late.Page()->GetParent()->IsShown() && late.Page()->GetParent()->GetParent()->IsShown() &&
-            late.Make()) {
+        if (late.Page()->IsShown() && late.Page()->GetParent()->IsShown() &&
+            late.Page()->GetParent()->GetParent()->IsShown() && late.Make()) {
             parts_.Controls.Show();
             late.Page()->Layout();
             if (place_.IsPut()) {
@@ -414,7 +417,8 @@ void FigForm::FitToScreen() {
         wanted = wxSize(std::max(wanted.x, keys.x), wanted.y + keys.y);
     }
     wanted.IncTo(FromDIP(wxSize(kUsualWidth, kUsualHeight)));
-    wxSize room = wxDisplay(GetParent() != nullptr ? GetParent() : static_cast<wxWindow*>(this)).GetClientArea().GetSize();
+    wxSize room =
+        wxDisplay(GetParent() != nullptr ? GetParent() : static_cast<wxWindow*>(this)).GetClientArea().GetSize();
     room.y -= FromDIP(kFrameRoom);
     content_->SetVirtualSize(wanted);
     const int bar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, content_);

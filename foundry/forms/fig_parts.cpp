@@ -32,14 +32,13 @@ wxStaticText* FigParts::MakeLabel(wxWindow* parent, const char* name, Label& mod
 }
 
 wxCheckBox* FigParts::MakeCheck(wxWindow* parent, const char* name, CheckBox& model, std::function<void()> click) {
-    auto* check = new wxCheckBox(parent, wxID_ANY, ToWx(Trim(model.Caption)), wxDefaultPosition, wxDefaultSize,
-                                 wxCHK_3STATE);
+    auto* check =
+        new wxCheckBox(parent, wxID_ANY, ToWx(Trim(model.Caption)), wxDefaultPosition, wxDefaultSize, wxCHK_3STATE);
     Controls.Bind(name, model, check, std::move(click));
     return check;
 }
 
-wxButton* FigParts::MakeButton(wxWindow* parent, const char* name, CommandButton& model,
-                               std::function<void()> click) {
+wxButton* FigParts::MakeButton(wxWindow* parent, const char* name, CommandButton& model, std::function<void()> click) {
     auto* button = new wxButton(parent, wxID_ANY, ToWx(Trim(model.Caption)));
     Controls.Bind(name, model, button, std::move(click));
     return button;

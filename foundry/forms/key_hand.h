@@ -45,11 +45,11 @@ class KeyHand {
     void ShowRow(SlotNumber slot);
 
     FigParts& parts_;
-    std::vector<Target> targets_;   // where a drag can end
-    SlotNumber over_ = kNoSlot;     // the row under the pointer
-    CellLabel* holder_ = nullptr;   // holds the mouse
-    bool listening_ = false;        // for a key, not for the end of a drag
-    bool keyUp_ = false;            // the key that began the waiting was let go
+    std::vector<Target> targets_;  // where a drag can end
+    SlotNumber over_ = kNoSlot;    // the row under the pointer
+    CellLabel* holder_ = nullptr;  // holds the mouse
+    bool listening_ = false;       // for a key, not for the end of a drag
+    bool keyUp_ = false;           // the key that began the waiting was let go
     DragIcon shown_ = DragIcon::None;
 };
 

@@ -163,8 +163,8 @@ wxPanel* KeyPanels::MakeKeyboard() {
     auto* rows = new wxBoxSizer(wxVERTICAL);
     auto* top = new wxBoxSizer(wxHORIZONTAL);
     top->Add(MakeLegend(panel), wxSizerFlags(1).CenterVertical());
-    top->Add(parts_.MakeButton(panel, "JoyToggle_Cmd(0)", form.JoyToggle_Cmd[0],
-                               [&form] { JoyToggle_Cmd_Click(form, 0); }));
+    top->Add(
+        parts_.MakeButton(panel, "JoyToggle_Cmd(0)", form.JoyToggle_Cmd[0], [&form] { JoyToggle_Cmd_Click(form, 0); }));
     rows->Add(top, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, kPageGap));
     rows->Add(MakePicture(panel, false), wxSizerFlags().Center().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap));
     panel->SetSizer(rows);
@@ -179,11 +179,12 @@ wxPanel* KeyPanels::MakeController() {
     auto* top = new wxBoxSizer(wxHORIZONTAL);
     auto* caption = new wxStaticText(panel, wxID_ANY, ToWx(Trim(form.Joy_Fra.Caption)));
     top->Add(caption, wxSizerFlags().CenterVertical().Border(wxRIGHT, kPageGap));
-    top->Add(parts_.MakeList(panel, "Device_Cbo", form.Device_Cbo, [&form] { Device_Cbo_Click(form); }, "Controller"),
+    top->Add(parts_.MakeList(
+                 panel, "Device_Cbo", form.Device_Cbo, [&form] { Device_Cbo_Click(form); }, "Controller"),
              wxSizerFlags().CenterVertical());
     top->AddStretchSpacer();
-    top->Add(parts_.MakeButton(panel, "JoyToggle_Cmd(1)", form.JoyToggle_Cmd[1],
-                               [&form] { JoyToggle_Cmd_Click(form, 1); }));
+    top->Add(
+        parts_.MakeButton(panel, "JoyToggle_Cmd(1)", form.JoyToggle_Cmd[1], [&form] { JoyToggle_Cmd_Click(form, 1); }));
     rows->Add(top, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, kPageGap));
     devicePicture_ = MakePicture(panel, true);
     devicePicture_->SetName("Device_Pic");

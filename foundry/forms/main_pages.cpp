@@ -76,8 +76,9 @@ wxSizer* MakeAutoSave(FigParts& parts, wxWindow* page) {
     row->Add(parts.MakeCheck(frame.Box, "AutoSaveEnable_Chk", form.AutoSaveEnable_Chk,
                              [&form] { AutoSaveEnable_Chk_Click(form); }),
              wxSizerFlags().CenterVertical());
-    row->Add(parts.MakeList(frame.Box, "Minutes_Cbo", form.Minutes_Cbo, [&form] { Minutes_Cbo_Click(form); },
-                            "Minutes between two auto saves"),
+    row->Add(parts.MakeList(
+                 frame.Box, "Minutes_Cbo", form.Minutes_Cbo, [&form] { Minutes_Cbo_Click(form); },
+                 "Minutes between two auto saves"),
              wxSizerFlags().Border(wxLEFT | wxRIGHT, kPageGap));
     row->Add(parts.MakeLabel(frame.Box, "Label2", form.Label2), wxSizerFlags().CenterVertical());
     frame.Add(row);
@@ -94,16 +95,15 @@ wxSizer* MakeSaveNow(FigParts& parts, wxWindow* page) {
     row->Add(parts.MakeButton(frame.Box, "View_Cmd(7)", form.View_Cmd[7], [&form] { View_Cmd_Click(form, 7); }),
              wxSizerFlags().Border(wxLEFT, kPageGap));
     frame.Add(row);
-    frame.Add(parts.MakeCheck(frame.Box, "ExitOnSave_Chk", form.ExitOnSave_Chk,
-                              [&form] { ExitOnSave_Chk_Click(form); }));
+    frame.Add(
+        parts.MakeCheck(frame.Box, "ExitOnSave_Chk", form.ExitOnSave_Chk, [&form] { ExitOnSave_Chk_Click(form); }));
     return frame.Frame;
 }
 
 wxSizer* MakeExit(FigParts& parts, wxWindow* page) {
     Fig_Frm& form = parts.Model;
     FrameMaker frame(parts, page, "Exit SetupFoundry Now");
-    frame.Add(
-        parts.MakeButton(frame.Box, "UnloadSF_Cmd", form.UnloadSF_Cmd, [&form] { UnloadSF_Cmd_Click(form); }));
+    frame.Add(parts.MakeButton(frame.Box, "UnloadSF_Cmd", form.UnloadSF_Cmd, [&form] { UnloadSF_Cmd_Click(form); }));
     frame.Add(parts.MakeLabel(frame.Box, "Label3", form.Label3));
     return frame.Frame;
 }
@@ -114,8 +114,8 @@ NamePicture* MakeNameRow(FigParts& parts, wxWindow* page, wxSizer* rows) {
     Fig_Frm& form = parts.Model;
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     auto* field = new wxBoxSizer(wxVERTICAL);
-    wxTextCtrl* name =
-        parts.MakeText(page, "Name_Txt", form.Document.Name_Txt, [&form] { Name_Txt_Change(form); }, "Player's name");
+    wxTextCtrl* name = parts.MakeText(
+        page, "Name_Txt", form.Document.Name_Txt, [&form] { Name_Txt_Change(form); }, "Player's name");
     name->SetMinSize(wxSize(kNameLetters * page->GetTextExtent("n").x, -1));
     name->Bind(wxEVT_CHAR, [&form, name](wxKeyEvent& event) {
         const int typed = event.GetUnicodeKey();
@@ -152,8 +152,8 @@ NamePicture* MakeNameRow(FigParts& parts, wxWindow* page, wxSizer* rows) {
 void MakeAliasPage(FigParts& parts, wxWindow* page) {
     Fig_Frm& form = parts.Model;
     auto* rows = new wxBoxSizer(wxVERTICAL);
-    auto* list = new wxListBox(page, wxID_ANY, wxDefaultPosition,
-                               wxSize(-1, kAliasRows * parts.RowHeight(page)), 0, nullptr, wxLB_SINGLE | wxLB_HSCROLL);
+    auto* list = new wxListBox(page, wxID_ANY, wxDefaultPosition, wxSize(-1, kAliasRows * parts.RowHeight(page)), 0,
+                               nullptr, wxLB_SINGLE | wxLB_HSCROLL);
     parts.Controls.Bind("Alias_Lst", form.Alias_Lst, list, [] {});
     SetSpokenName(list->GetHandle(), "Aliases");
     list->Bind(wxEVT_LISTBOX_DCLICK,
@@ -164,13 +164,15 @@ void MakeAliasPage(FigParts& parts, wxWindow* page) {
     buttons->Add(parts.MakeButton(page, "AddCustomAlias_Cmd", form.AddCustomAlias_Cmd,
                                   [&form] { AddCustomAlias_Cmd_Click(form); }),
                  right);
-    buttons->Add(
-        parts.MakeButton(page, "EditAlias_Cmd", form.EditAlias_Cmd, [&form] { EditAlias_Cmd_Click(form); }), right);
+    buttons->Add(parts.MakeButton(page, "EditAlias_Cmd", form.EditAlias_Cmd, [&form] { EditAlias_Cmd_Click(form); }),
+                 right);
     buttons->Add(
         parts.MakeButton(page, "DeleteAlias_Cmd", form.DeleteAlias_Cmd, [&form] { DeleteAlias_Cmd_Click(form); }),
         right);
     buttons->AddStretchSpacer();
-    buttons->Add(parts.MakeList(page, "StdAliases_Cbo", form.StdAliases_Cbo, [] {}, "Standard aliases"), right);
+    buttons->Add(parts.MakeList(
+                     page, "StdAliases_Cbo", form.StdAliases_Cbo, [] {}, "Standard aliases"),
+                 right);
     buttons->Add(parts.MakeButton(page, "AddStandardAlias_Cmd", form.AddStandardAlias_Cmd,
                                   [&form] { AddStandardAlias_Cmd_Click(form); }),
                  wxSizerFlags().CenterVertical());
@@ -182,9 +184,10 @@ void MakeAliasPage(FigParts& parts, wxWindow* page) {
 void MakeFreeFormPage(FigParts& parts, wxWindow* page) {
     Fig_Frm& form = parts.Model;
     auto* rows = new wxBoxSizer(wxVERTICAL);
-    rows->Add(parts.MakeList(page, "Section_Cbo", form.Document.Section_Cbo, [&form] { Section_Cbo_Click(form); },
-                             "Section of the ini"),
-              wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kPageGap));
+    rows->Add(
+        parts.MakeList(
+            page, "Section_Cbo", form.Document.Section_Cbo, [&form] { Section_Cbo_Click(form); }, "Section of the ini"),
+        wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kPageGap));
     auto* text = new wxTextCtrl(page, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                                 wxTE_MULTILINE | wxTE_DONTWRAP | wxHSCROLL);
     text->SetFont(wxFont(wxFontInfo(text->GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE)));

@@ -8,8 +8,8 @@
 #include <string>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
 #include "foundation/forms/wx_text.h"
+#include "foundation/game_numbers.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/editor/free_rows.h"
 #include "foundry/editor/player_page.h"
@@ -19,8 +19,9 @@ namespace lv {
 
 namespace {
 
-constexpr int kLeastKeyLetters = 9;   // that a row's keys have room for
-constexpr int kNameMargin = 8;        // at 100 %, around the text of a name
+constexpr int kLeastKeyLetters = 9;          // that a row's keys have room for
+constexpr SlotNumber kActionsHeading = 900;  // the player's class stands under its column
+constexpr int kNameMargin = 8;               // at 100 %, around the text of a name
 
 /// A run of rows under a heading; no heading: the column continues the one before it.
 struct ColumnRow {
@@ -107,8 +108,8 @@ class RowMaker {
             return room;
         }
         Fig_Frm& form = parts_.Model;
-        CellLabel* label =
-            parts_.MakeCell(page_, Indexed("Bound_Lbl", number), [&form, number] { return LookOfHeading(form, number); });
+        CellLabel* label = parts_.MakeCell(page_, Indexed("Bound_Lbl", number),
+                                           [&form, number] { return LookOfHeading(form, number); });
         label->SetMinSize(wxSize(-1, parts_.RowHeight(page_)));
         return label;
     }
@@ -137,9 +138,9 @@ class RowMaker {
 
     void AddTeamBox(wxSizer* row, SlotNumber slot) {
         Fig_Frm& form = parts_.Model;
-        wxCheckBox* team = parts_.MakeCheck(page_, Indexed("Say_Team_Chk", slot).utf8_str(),
-                                            form.Document.Say_Team_Chk[slot],
-                                            [&form, slot] { Say_Team_Chk_Click(form, slot); });
+        wxCheckBox* team =
+            parts_.MakeCheck(page_, Indexed("Say_Team_Chk", slot).utf8_str(), form.Document.Say_Team_Chk[slot],
+                             [&form, slot] { Say_Team_Chk_Click(form, slot); });
         row->Add(team, wxSizerFlags().CenterVertical().Border(wxLEFT, kPageGap));
     }
 
@@ -208,9 +209,11 @@ wxSizer* MakeButtons(FigParts& parts, wxWindow* page, BindingsPage which) {
 wxSizer* MakePlayerClass(FigParts& parts, wxWindow* page) {
     Fig_Frm& form = parts.Model;
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    row->Add(parts.MakeLabel(page, "Some_Lbl", form.Some_Lbl), wxSizerFlags().CenterVertical().Border(wxRIGHT, kPageGap));
-    row->Add(parts.MakeList(page, "PlayerClass_Cbo", form.Document.PlayerClass_Cbo,
-                            [&form] { PlayerClass_Cbo_Click(form); }, "Player class"));
+    row->Add(parts.MakeLabel(page, "Some_Lbl", form.Some_Lbl),
+             wxSizerFlags().CenterVertical().Border(wxRIGHT, kPageGap));
+    row->Add(parts.MakeList(
+        page, "PlayerClass_Cbo", form.Document.PlayerClass_Cbo, [&form] { PlayerClass_Cbo_Click(form); },
+        "Player class"));
     return row;
 }
 
@@ -223,17 +226,19 @@ void MakeBindingsPage(FigParts& parts, wxWindow* page, BindingsPage which) {
     RowMaker maker(parts, page);
     for (const ColumnRow& column : kColumns) {
         if (Belongs(column, which, form.GameKind())) {
-            columns->Add(maker.MakeColumn(column.Heading, column.Slots), wxSizerFlags(1).Border(wxRIGHT, kPageGap));
+            wxSizer* made = maker.MakeColumn(column.Heading, column.Slots);
+            if (column.Heading == kActionsHeading) {
+                made->Add(MakePlayerClass(parts, page), wxSizerFlags().Border(wxTOP, kPageGap));
+            }
+            columns->Add(made, wxSizerFlags(1).Border(wxRIGHT, kPageGap));
         }
     }
     rows->Add(columns, wxSizerFlags(1).Expand().Border(wxALL, kPageGap));
     const auto below = wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap);
     if (which == BindingsPage::System) {
-        rows->Add(parts.MakeCheck(page, "Unbindall_Chk", form.Document.Unbindall_Chk, [&form] { Setting_Change(form); }),
-                  below);
-    }
-    if (which == BindingsPage::Hexen2) {
-        rows->Add(MakePlayerClass(parts, page), below);
+        rows->Add(
+            parts.MakeCheck(page, "Unbindall_Chk", form.Document.Unbindall_Chk, [&form] { Setting_Change(form); }),
+            below);
     }
     if (which == BindingsPage::Extended || which == BindingsPage::Talking) {
         rows->Add(MakeButtons(parts, page, which), below);

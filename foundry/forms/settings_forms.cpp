@@ -78,8 +78,8 @@ class OptionsPageMaker {
 
     void MakeSkins() {
         auto* rows = new wxBoxSizer(wxVERTICAL);
-        auto* list = new wxListBox(page_, wxID_ANY, wxDefaultPosition,
-                                   wxSize(-1, kSkinRows * parts_.RowHeight(page_)), 0, nullptr, wxLB_SINGLE);
+        auto* list = new wxListBox(page_, wxID_ANY, wxDefaultPosition, wxSize(-1, kSkinRows * parts_.RowHeight(page_)),
+                                   0, nullptr, wxLB_SINGLE);
         parts_.Controls.Bind("Skin_Fil", form_.Document.Skin_Fil, list, [this] { Setting_Change(form_); });
         SetSpokenName(list->GetHandle(), "Skins");
         rows->Add(list, wxSizerFlags(1).Expand().Border(wxALL, kPageGap));
@@ -98,7 +98,8 @@ class OptionsPageMaker {
         tip->SetName("Label4");
         tip->Wrap(page_->FromDIP(kRateWrap));
         rows->Add(tip, wxSizerFlags().Border(wxALL, kPageGap));
-        rows->Add(parts_.MakeText(page_, "Rate_Txt", form_.Document.Rate_Txt, [this] { Setting_Change(form_); }, "Rate"),
+        rows->Add(parts_.MakeText(
+                      page_, "Rate_Txt", form_.Document.Rate_Txt, [this] { Setting_Change(form_); }, "Rate"),
                   wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap));
         page_->SetSizer(rows);
     }
@@ -113,7 +114,8 @@ class OptionsPageMaker {
         auto* checks = new wxGridSizer(2, kCellGap, 2 * kPageGap);
         for (const CheckRow& row : CheckRows()) {
             if (row.Group == group.Group) {
-                checks->Add(parts_.MakeCheck(box_, row.Name, form_.Document.*row.Box, [this] { Setting_Change(form_); }));
+                checks->Add(
+                    parts_.MakeCheck(box_, row.Name, form_.Document.*row.Box, [this] { Setting_Change(form_); }));
             }
         }
         frame->Add(checks, wxSizerFlags().Expand().Border(wxALL, kCellGap));
@@ -164,12 +166,14 @@ class OptionsPageMaker {
         ScriptDocument& document = form_.Document;
         wxWindow* model = parts_.MakeLabel(page_, "Sex_Lbl", form_.Sex_Lbl);
         rows->Add(model, wxSizerFlags().CenterVertical());
-        rows->Add(parts_.MakeCombo(page_, "Sex_Cbo", document.Sex_Cbo, [this] { Fig_Sex_Cbo_Click(form_); },
-                                   form_.Sex_Lbl.Caption, kWideValueLetters));
+        rows->Add(parts_.MakeCombo(
+            page_, "Sex_Cbo", document.Sex_Cbo, [this] { Fig_Sex_Cbo_Click(form_); }, form_.Sex_Lbl.Caption,
+            kWideValueLetters));
         wxWindow* skin = parts_.MakeLabel(page_, "Skin_Lbl", form_.Skin_Lbl);
         rows->Add(skin, wxSizerFlags().CenterVertical());
-        rows->Add(parts_.MakeCombo(page_, "Skin_Cbo", document.Skin_Cbo, [this] { Setting_Change(form_); },
-                                   form_.Skin_Lbl.Caption, kWideValueLetters));
+        rows->Add(parts_.MakeCombo(
+            page_, "Skin_Cbo", document.Skin_Cbo, [this] { Setting_Change(form_); }, form_.Skin_Lbl.Caption,
+            kWideValueLetters));
         return rows;
     }
 

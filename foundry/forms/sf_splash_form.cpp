@@ -47,7 +47,8 @@ SFSplashForm::SFSplashForm(wxWindow* owner, SetupFoundry& foundry)
             ShowState();
         },
         dots_.GetId());
-    Bind(wxEVT_TIMER, [this](wxTimerEvent&) { SFSplash_Unload_Tmr_Timer(foundry_); }, unload_.GetId());
+    Bind(
+        wxEVT_TIMER, [this](wxTimerEvent&) { SFSplash_Unload_Tmr_Timer(foundry_); }, unload_.GetId());
     dots_.Start(kSplashDotMilliseconds);
     unload_.StartOnce(kSplashUnloadMilliseconds);
 }

@@ -11,8 +11,8 @@
 #include <span>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
 #include "foundation/forms/wx_text.h"
+#include "foundation/game_numbers.h"
 #include "foundry/editor/player_page.h"
 #include "foundry/editor/settings_pages.h"
 #include "platform/spoken_name.h"
@@ -102,14 +102,15 @@ class UnrealPageMaker {
 
     void AddList(wxSizer* column, const char* name, std::size_t index, ListBox& model, TextView caption) {
         column->Add(new wxStaticText(box_, wxID_ANY, ToWx(Trim(caption))), wxSizerFlags().CenterVertical());
-        column->Add(parts_.MakeCombo(box_, wxString::Format("%s(%d)", name, static_cast<int>(index)).utf8_str(), model,
-                                     [this] { Setting_Change(form_); }, caption, kValueLetters));
+        column->Add(parts_.MakeCombo(
+            box_, wxString::Format("%s(%d)", name, static_cast<int>(index)).utf8_str(), model,
+            [this] { Setting_Change(form_); }, caption, kValueLetters));
     }
 
     void AddText(wxSizer* column, const char* name, const char* caption, TextBox& model, long style) {
         column->Add(new wxStaticText(box_, wxID_ANY, ToWx(Trim(caption))), wxSizerFlags().CenterVertical());
-        wxTextCtrl* text = parts_.MakeText(box_, name, model, [this] { Setting_Change(form_); },
-                                           Trim(caption).c_str(), style);
+        wxTextCtrl* text = parts_.MakeText(
+            box_, name, model, [this] { Setting_Change(form_); }, Trim(caption).c_str(), style);
         text->SetMinSize(wxSize(kTextLetters * box_->GetTextExtent("n").x, -1));
         column->Add(text);
     }

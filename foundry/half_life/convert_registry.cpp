@@ -5,8 +5,8 @@
 #include "catalogs/scripts.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
-#include "foundry/half_life/registry_script.h"
 #include "foundry/document/script_messages.h"
+#include "foundry/half_life/registry_script.h"
 
 namespace lv {
 

@@ -8,8 +8,8 @@
 
 namespace lv {
 
-/// Empties and fills the other lists of the pages, with nothing selected: crosshair, hand, player class, the Unreal lists and weapons. An Unreal
-/// ini's numbers have a point in every locale.
+/// Empties and fills the other lists of the pages, with nothing selected: crosshair, hand, player class, the Unreal
+/// lists and weapons. An Unreal ini's numbers have a point in every locale.
 void FillPageLists(ScriptSettings& settings, Index gameKind, Index scriptFamily, bool isMissionPack);
 
 }  // namespace lv

@@ -6,9 +6,9 @@
 #include "foundation/game_numbers.h"
 #include "foundation/question_box.h"
 #include "foundry/document/bindings.h"
-#include "foundry/writing/save_filters.h"
 #include "foundry/document/script_messages.h"
 #include "foundry/writing/compose_script.h"
+#include "foundry/writing/save_filters.h"
 
 namespace lv {
 

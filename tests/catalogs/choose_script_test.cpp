@@ -44,8 +44,21 @@ TEST_F(ChooseScript, BrowsesWithTheGamesFilter) {
         ChooseScript_Browse_Cmd_Click(form);
         EXPECT_EQ(user.FileRequests.back().Filter, filter);
         EXPECT_EQ(user.FileRequests.back().InitialDirectory, "C:\\QUAKE\\ID1\\");
-        EXPECT_EQ(form.ScriptPath_Txt.Text, "C:\\QUAKE\\ID1\\A.CFG");
     }
+}
+
+TEST_F(ChooseScript, AScriptOfTheDirectoryGoesByItsNameAsTheGameLooksForIt) {
+    ChooseScript_Frm form(run, "C:\\QUAKE\\ID1\\");
+    user.FileAnswers.push_back(std::optional<Text>("c:\\quake\\ID1\\A.CFG"));
+    ChooseScript_Browse_Cmd_Click(form);
+    EXPECT_EQ(form.ScriptPath_Txt.Text, "A.CFG");
+}
+
+TEST_F(ChooseScript, AScriptFromElsewhereKeepsItsPath) {
+    ChooseScript_Frm form(run, "C:\\QUAKE\\ID1\\");
+    user.FileAnswers.push_back(std::optional<Text>("C:\\QUAKE\\CTF\\A.CFG"));
+    ChooseScript_Browse_Cmd_Click(form);
+    EXPECT_EQ(form.ScriptPath_Txt.Text, "C:\\QUAKE\\CTF\\A.CFG");
 }
 
 }  // namespace lv

@@ -12,9 +12,9 @@
 #include "foundation/forms/wx_text.h"
 #include "foundation/settings.h"
 #include "foundry/editor/setup_foundry.h"
-#include "foundry/foundry.h"
 #include "foundry/forms/fig_form.h"
 #include "foundry/forms/sf_splash_form.h"
+#include "foundry/foundry.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/lv_events.h"
 #include "launcher/main_window_load.h"
@@ -94,12 +94,14 @@ class FigForm_ : public ::testing::Test {
                     });
     }
 
-    void Turn(EditorPage page) { FindAs<wxNotebook>("Main_Tab")->SetSelection(static_cast<std::size_t>(page)); Settle(); }
+    void Turn(EditorPage page) {
+        FindAs<wxNotebook>("Main_Tab")->SetSelection(static_cast<std::size_t>(page));
+        Settle();
+    }
     void TurnBindings(BindingsPage page) {
         Turn(EditorPage::Bindings);
         auto* tabs = FindAs<wxNotebook>("Bindings_Tab");
-        const wxString caption =
-            ToWx(Trim(form->Model().Bindings_Tab[static_cast<std::size_t>(page)].Caption));
+        const wxString caption = ToWx(Trim(form->Model().Bindings_Tab[static_cast<std::size_t>(page)].Caption));
         for (std::size_t tab = 0; tab < tabs->GetPageCount(); ++tab) {
             if (tabs->GetPageText(tab) == caption) {
                 tabs->SetSelection(tab);

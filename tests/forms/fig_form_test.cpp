@@ -242,12 +242,17 @@ class FigFormOfKind : public FigForm_, public ::testing::WithParamInterface<Kind
         }
         const wxString what = window->GetName() + " " + window->GetLabel();
         const bool whole = dynamic_cast<wxCheckBox*>(window) != nullptr || dynamic_cast<wxButton*>(window) != nullptr ||
-                           dynamic_cast<wxComboBox*>(window) != nullptr || dynamic_cast<wxStaticText*>(window) != nullptr;
+                           dynamic_cast<wxComboBox*>(window) != nullptr ||
+                           dynamic_cast<wxStaticText*>(window) != nullptr;
         if (whole) {
             EXPECT_GE(window->GetSize().x, window->GetBestSize().x) << what;
             EXPECT_GE(window->GetSize().y, window->GetBestSize().y) << what;
         }
-        if (whole || dynamic_cast<CellLabel*>(window) != nullptr) {
+        const bool label = dynamic_cast<CellLabel*>(window) != nullptr;
+        if (label && !window->GetName().StartsWith("NamePosition")) {
+            EXPECT_GE(window->GetSize().y, window->GetTextExtent("Wg").y) << what;
+        }
+        if (whole || label) {
             const wxRect room = form->GetScreenRect();
             EXPECT_TRUE(room.Contains(window->GetScreenRect())) << what;
         }

@@ -23,6 +23,7 @@ class KeyBindingTest : public FigTest {
     void NewScript(Index kind) {
         LayOutKeys(form);
         form.Document = MakeScriptDocument({.GameKind = kind});
+        form.Main_Tab.Tab = static_cast<int>(EditorPage::Bindings);
     }
 
     void DragOnto(Index label, SlotNumber slot) {

@@ -83,6 +83,11 @@ TEST_F(KeyPages, AreNoEdit) {
 TEST_F(KeyPages, SayWhatToDo) {
     Main_Tab_Click(form, 1);
     EXPECT_EQ(form.Hint_Lbl.Caption, "Drag a key onto a function, or press Enter on a function and then the key.");
+    Main_Tab_Click(form, 3);
+    EXPECT_EQ(form.Hint_Lbl.Caption, "These lines are written as they stand, behind all others.");
+    Main_Tab_Click(form, 0);
+    EXPECT_EQ(form.Hint_Lbl.Caption,
+              "What you leave empty is not written. The game reads the script when it is ticked at the launch.");
 }
 
 // The double clicks

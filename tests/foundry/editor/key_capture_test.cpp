@@ -20,6 +20,7 @@ struct KeyCapture : FigTest {
     void NewScript(Index kind) {
         LayOutKeys(form);
         form.Document = MakeScriptDocument({.GameKind = kind});
+        form.Main_Tab.Tab = static_cast<int>(EditorPage::Bindings);
         RestoreHint(form);
     }
 
@@ -137,6 +138,7 @@ TEST_F(KeyCapture, EndsWhenThePageIsLeft) {
     StartCapture(form, 101);
     Main_Tab_Click(form, 0);
     EXPECT_EQ(form.CaptureRow, kNoSlot);
+    Main_Tab_Click(form, 1);
     StartCapture(form, 101);
     Bindings_Tab_Click(form, 1);
     EXPECT_EQ(form.CaptureRow, kNoSlot);

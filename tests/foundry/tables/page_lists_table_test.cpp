@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "foundry/tables/setting_lists.h"
 #include "foundry/tables/page_lists.h"
+#include "foundry/tables/setting_lists.h"
 #include "tests/foundry/listing_page_lists.h"
 
 namespace lv {

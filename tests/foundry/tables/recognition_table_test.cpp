@@ -6,9 +6,9 @@
 #include <set>
 
 #include "foundry/document/script_document.h"
-#include "foundry/tables/slots.h"
 #include "foundry/document/written_commands.h"
 #include "foundry/tables/read_commands.h"
+#include "foundry/tables/slots.h"
 #include "tests/foundry/listing_recognition.h"
 
 namespace lv {

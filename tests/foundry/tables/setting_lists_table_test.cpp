@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <map>
 
-#include "foundry/tables/setting_lists.h"
 #include "foundry/tables/page_lists.h"
+#include "foundry/tables/setting_lists.h"
 #include "tests/foundry/listing_settings.h"
 
 namespace lv {

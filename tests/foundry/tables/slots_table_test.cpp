@@ -8,8 +8,8 @@
 #include <span>
 
 #include "foundry/document/script_document.h"
-#include "foundry/tables/slots.h"
 #include "foundry/document/written_commands.h"
+#include "foundry/tables/slots.h"
 #include "tests/foundry/listing_slots_newer.h"
 #include "tests/foundry/listing_slots_older.h"
 #include "tests/foundry/listing_slots_unreal.h"
