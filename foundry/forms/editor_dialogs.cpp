@@ -2,9 +2,12 @@
 
 #include <wx/button.h>
 #include <wx/checkbox.h>
-#include <wx/combobox.h>
+#include <wx/choice.h>
+#include <wx/display.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
+
+#include <algorithm>
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/modal_form.h"
@@ -60,10 +63,9 @@ void BindLines(ModalForm& form, const char* name, TextBox& model, wxTextCtrl* vi
 Form MakeAlias(wxWindow* owner, Alias_Frm& alias) {
     auto form = std::make_unique<ModalForm>(owner, alias, [&alias] { Alias_Cancel_Cmd_Click(alias); });
     form->AddField(alias.AliasName_Lbl, "AliasName_Lbl", form->MakeText("AliasName_Txt", alias.AliasName_Txt));
-    auto* commands = new wxComboBox(form.get(), wxID_ANY, "", wxDefaultPosition, form->FromDIP(wxSize(kLineWidth, -1)),
-                                    0, nullptr, wxCB_DROPDOWN | wxCB_READONLY);
-    form->Controls.Bind(
-        "AddableCommands_Cbo", alias.AddableCommands_Cbo, commands, [] {}, [](TextView) {});
+    auto* commands = new wxChoice(form.get(), wxID_ANY);
+    commands->SetMinSize(form->FromDIP(wxSize(kLineWidth, -1)));
+    form->Controls.Bind("AddableCommands_Cbo", alias.AddableCommands_Cbo, commands, [] {});
     form->AddField(
         alias.AddableCommands_Lbl, "AddableCommands_Lbl", commands,
         form->MakeButton("AddCommand_Cmd", alias.AddCommand_Cmd, [&alias] { Alias_AddCommand_Cmd_Click(alias); }));
@@ -94,14 +96,27 @@ class ColorForm : public ModalForm {
         wxButton* cancel = MakeButton("Cancel_Cmd", colors.Cancel_Cmd, [&colors] { Color_Cancel_Cmd_Click(colors); });
         auto* below = new wxBoxSizer(wxHORIZONTAL);
         below->AddStretchSpacer();
-        below->Add(cancel);
+        below->Add(cancel, wxSizerFlags().Border(wxBOTTOM, 2 * kGap));
         AddWide(below);
         Arrange();
+        PlaceBesideLabel();
         FindWindow("Color_Lbl(0)")->SetFocus();
     }
     ~ColorForm() override { DestroyChildren(); }
 
   private:
+    // Beside the label that was clicked on, as far as the screen has room.
+    void PlaceBesideLabel() {
+        const wxWindow* const label = FindFocus();
+        if (label == nullptr || !label->GetName().StartsWith("PlayerColor_Lbl")) {
+            return;
+        }
+        const wxRect place = label->GetScreenRect();
+        const wxRect screen = wxDisplay(this).GetClientArea();
+        Move(std::min(place.GetRight() + kGap, screen.GetRight() - GetSize().x),
+             std::min(place.y, screen.GetBottom() - GetSize().y));
+    }
+
     CellLabel* MakeSwatch(Color_Frm& colors, int index) {
         const ColorLabel& color = colors.Color_Lbl[static_cast<std::size_t>(index)];
         auto* swatch = new CellLabel(

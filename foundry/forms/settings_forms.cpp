@@ -195,7 +195,10 @@ class OptionsPageMaker {
         const auto choose = [&parts = parts_, index] {
             parts.Controls.Run([&] { PlayerColor_Lbl_Click(parts.Model, index); });
         };
-        label->Bind(wxEVT_LEFT_UP, [choose](wxMouseEvent&) { choose(); });
+        label->Bind(wxEVT_LEFT_UP, [label, choose](wxMouseEvent&) {
+            label->SetFocus();
+            choose();
+        });
         label->Bind(wxEVT_CHAR_HOOK, [choose](wxKeyEvent& event) {
             if (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_SPACE) {
                 choose();
