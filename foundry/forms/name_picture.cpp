@@ -18,7 +18,8 @@ constexpr int kCells = 256;
 const wxColour kNight(48, 40, 32);  // the games' consoles are dark
 
 int WholeScale(const wxWindow* window) {
-    return std::max(1, static_cast<int>(window->GetDPIScaleFactor()));
+    constexpr int kHundred = 100;
+    return std::max(1, window->FromDIP(kHundred) / kHundred);
 }
 
 }  // namespace
