@@ -139,6 +139,10 @@ void PressKey(const std::string& key) {
     OutputOf({"xdotool", "key", "--clearmodifiers", key});
 }
 
+void TypeText(const std::string& text) {
+    OutputOf({"xdotool", "type", "--clearmodifiers", text});
+}
+
 void Click(int left, int top, int button) {
     OutputOf({"xdotool", "mousemove", std::to_string(left), std::to_string(top), "click", std::to_string(button)});
 }

@@ -44,6 +44,8 @@ Rectangle PlaceOf(const std::string& window);
 
 /// Presses and lets go: "F2", "alt+F4".
 void PressKey(const std::string& key);
+/// Types it letter by letter.
+void TypeText(const std::string& text);
 /// Clicks the mouse there: 1 left, 3 right.
 void Click(int left, int top, int button);
 
