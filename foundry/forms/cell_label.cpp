@@ -98,6 +98,7 @@ void CellLabel::Speak() {
     Text text = speaker_();
     if (text != spoken_) {
         spoken_ = std::move(text);
+        SetLabel(ToWx(spoken_));  // what Windows calls a window that has no name of its own
         SetSpokenName(GetHandle(), ToUtf8(spoken_));
     }
 }
