@@ -69,7 +69,9 @@ void Binder::Run(const Handler& handler) {
         return;
     }
     handler();
-    after_();
+    if (!turning_) {
+        after_();
+    }
 }
 
 bool Binder::Show() {

@@ -64,6 +64,7 @@ class Binder {
     Handler after_;
     std::vector<Shower> showers_;
     bool showing_ = false;
+    bool turning_ = false;  // a page is: its turn ends in a handler of its own
 };
 
 }  // namespace lv

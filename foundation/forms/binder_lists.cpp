@@ -97,8 +97,15 @@ void Binder::Bind(const char* name, ListBox& model, wxComboBox* view, Handler cl
 
 void Binder::Bind(const char* name, TabSet& model, wxNotebook* view, std::vector<wxWindow*> pages,
                   std::function<void(int)> click) {
+    // The page that comes takes the keyboard, and a list then selects a row: what follows from that waits for the turn,
+    // for until then the struct has the page that goes.
+    view->Bind(wxEVT_NOTEBOOK_PAGE_CHANGING, [this, view](wxBookCtrlEvent& event) {
+        event.Skip();
+        turning_ = turning_ || event.GetEventObject() == view;
+    });
     view->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, [this, view, &model, click = std::move(click)](wxBookCtrlEvent& event) {
         event.Skip();
+        turning_ = turning_ && event.GetEventObject() != view;
         const std::vector<int> visible = VisiblePages(model);
         const int tab = event.GetSelection();
         if (event.GetEventObject() == view && !showing_ && tab >= 0 && static_cast<std::size_t>(tab) < visible.size()) {

@@ -53,6 +53,17 @@ int PageOfAccessKey(const TabSet& tabs, int code) {
     return -1;
 }
 
+// All pages count as shown, those behind the others too.
+bool IsOnTop(const wxWindow* window) {
+    for (const wxWindow* parent = window->GetParent(); parent != nullptr; window = parent, parent = window->GetParent()) {
+        const auto* tabs = dynamic_cast<const wxNotebook*>(parent);
+        if (tabs != nullptr && tabs->GetCurrentPage() != window) {
+            return false;
+        }
+    }
+    return true;
+}
+
 template <std::size_t Count>
 struct Named {
     const char* Names[Count];
@@ -329,8 +340,7 @@ void FigForm::MakeAllPages() {
 
 void FigForm::MakeShownPages() {
     for (LatePage& late : late_) {
-        if (late.Page()->IsShown() && late.Page()->GetParent()->IsShown() &&
-            late.Page()->GetParent()->GetParent()->IsShown() && late.Make()) {
+        if (IsOnTop(late.Page()) && late.Make()) {
             parts_.Controls.Show();
             late.Page()->Layout();
             if (place_.IsPut()) {
