@@ -5,8 +5,8 @@
 namespace lv {
 
 ConfirmExit_Frm::ConfirmExit_Frm() {
-    Changes_Lbl.Caption = "Changes have not been saved.";
-    Exit_Lbl.Caption = "Exit Anyway?";
+    Label1.Caption = "Changes have not been saved.";
+    Label2.Caption = "Exit Anyway?";
     SaveNow_Chk.Caption = "Save Script Now";
     Yes_Cmd.Caption = "&Yes";
     No_Cmd.Caption = "&No";

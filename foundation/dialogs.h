@@ -16,8 +16,8 @@ struct ConfirmExit_Frm {
     ConfirmExit_Frm();
 
     Text Caption = "Confirm Exit";
-    Label Changes_Lbl;
-    Label Exit_Lbl;
+    Label Label1;
+    Label Label2;
     CheckBox SaveNow_Chk;
     CommandButton Yes_Cmd;
     CommandButton No_Cmd;

@@ -68,8 +68,8 @@ void ShowConfirmExitForm(wxWindow* owner, ConfirmExit_Frm& confirm) {
     dialog.SetName("ConfirmExit_Frm");
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->AddSpacer(kGap);
-    AddLine(&dialog, rows, "Changes_Lbl", confirm.Changes_Lbl);
-    AddLine(&dialog, rows, "Exit_Lbl", confirm.Exit_Lbl);
+    AddLine(&dialog, rows, "Label1", confirm.Label1);
+    AddLine(&dialog, rows, "Label2", confirm.Label2);
     auto* save = new wxCheckBox(&dialog, wxID_ANY, ToWx(confirm.SaveNow_Chk.Caption));
     save->SetName("SaveNow_Chk");
     save->Bind(wxEVT_CHECKBOX, [&confirm](wxCommandEvent& event) { confirm.SaveNow_Chk.Value = event.GetInt(); });

@@ -11,6 +11,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
+#include "foundry/editor/phun_names_frm.h"
 #include "platform/spoken_name.h"
 
 namespace lv {
@@ -26,6 +27,9 @@ wxColour BackOf(const CellLook& look) {
     }
     if (look.Inactive) {
         return wxSystemSettings::GetColour(wxSYS_COLOUR_INACTIVEBORDER);
+    }
+    if (look.Back == kButtonFace) {
+        return wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE);
     }
     return look.Dark ? *wxBLACK : ToWxColour(look.Back);
 }

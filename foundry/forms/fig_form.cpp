@@ -140,12 +140,14 @@ wxSizer* FigForm::MakeFindRow() {
 
 wxPanel* FigForm::AddLate(wxWindow* parent, std::function<void(wxPanel*)> make) {
     auto* page = new wxPanel(parent);
+    pages_.push_back(page);
     late_.emplace_back(page, [page, make = std::move(make)] { make(page); });
     return page;
 }
 
 wxWindow* FigForm::MakePlayerPage(wxNotebook* tabs) {
     auto* page = new wxPanel(tabs);
+    pages_.push_back(page);
     auto* rows = new wxBoxSizer(wxVERTICAL);
     MakeNameRow(parts_, page, rows);
     auto* options = new wxNotebook(page, wxID_ANY);
@@ -366,8 +368,8 @@ void FigForm::ShowState() {
     hand_.ShowState();
     if (changed) {
         content_->Layout();
-        for (const LatePage& late : late_) {
-            late.Page()->Layout();
+        for (wxWindow* page : pages_) {
+            page->Layout();
         }
     }
     if (model_.Save_Tmr_Enabled && !saveTimer_.IsRunning()) {
@@ -445,7 +447,7 @@ WxUser::FormMaker MakeFoundryForms(WxUser& user) {
         auto* names = dynamic_cast<PhunNames_Frm*>(&window);
         auto* over = dynamic_cast<FigForm*>(owner);
         if (names != nullptr && over != nullptr) {
-            return std::make_unique<PhunNamesForm>(owner, over->Model());
+            return std::make_unique<PhunNamesForm>(owner, over->Model(), [over] { over->ShowState(); });
         }
         return MakeEditorDialog(owner, window);
     };

@@ -57,6 +57,7 @@ class FigForm : public wxDialog {
     KeptPlace place_;
     wxScrolledWindow* content_ = nullptr;
     KeyPanels* keys_ = nullptr;
+    std::vector<wxWindow*> pages_;  // those that lay out controls that come and go
     std::vector<LatePage> late_;
     wxTimer saveTimer_;  // Save_Tmr
     bool showing_ = false;

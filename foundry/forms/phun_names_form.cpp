@@ -36,8 +36,8 @@ constexpr ButtonRow kButtons[] = {
 
 }  // namespace
 
-PhunNamesForm::PhunNamesForm(wxWindow* owner, Fig_Frm& editor)
-    : ModalForm(owner, editor.PhunNames, [&editor] { PhunNames_Cancel_Cmd_Click(editor); }) {
+PhunNamesForm::PhunNamesForm(wxWindow* owner, Fig_Frm& editor, std::function<void()> below)
+    : ModalForm(owner, editor.PhunNames, [&editor] { PhunNames_Cancel_Cmd_Click(editor); }), below_(std::move(below)) {
     PhunNames_Frm& names = editor.PhunNames;
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     auto* map = new FontMapPicture(this, names.Map, [this, &editor](int x, int y) {
@@ -51,6 +51,11 @@ PhunNamesForm::PhunNamesForm(wxWindow* owner, Fig_Frm& editor)
            MakeButton("Cancel_Cmd", names.Cancel_Cmd, [&editor] { PhunNames_Cancel_Cmd_Click(editor); }));
     PlaceUnderName(owner);
     map->SetFocus();
+}
+
+void PhunNamesForm::ShowState() {
+    ModalForm::ShowState();
+    below_();
 }
 
 wxCheckBox* PhunNamesForm::MakeBox(const char* name, CheckBox& model) {

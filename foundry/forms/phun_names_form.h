@@ -4,6 +4,8 @@
 
 #pragma once
 
+#include <functional>
+
 #include "foundation/forms/modal_form.h"
 #include "foundry/editor/fig_frm.h"
 
@@ -11,12 +13,17 @@ namespace lv {
 
 class PhunNamesForm : public ModalForm {
   public:
-    PhunNamesForm(wxWindow* owner, Fig_Frm& editor);
+    /// `below` brings the editor in line, whose picture of the name follows each letter.
+    PhunNamesForm(wxWindow* owner, Fig_Frm& editor, std::function<void()> below);
+
+    void ShowState() override;
 
   private:
     wxSizer* MakeButtons(Fig_Frm& editor);
     wxCheckBox* MakeBox(const char* name, CheckBox& model);
     void PlaceUnderName(wxWindow* owner);
+
+    std::function<void()> below_;
 };
 
 }  // namespace lv

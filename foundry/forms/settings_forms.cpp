@@ -55,6 +55,7 @@ bool IsWide(const ListBox ScriptSettings::*list) {
            list == &ScriptSettings::CrossHairColor_Cbo || list == &ScriptSettings::Handed_Cbo;
 }
 
+/// Lives while the page is being made; what the page does later must not know it.
 class OptionsPageMaker {
   public:
     OptionsPageMaker(FigParts& parts, wxWindow* page) : parts_(parts), form_(parts.Model), page_(page) {}
@@ -80,12 +81,12 @@ class OptionsPageMaker {
         auto* rows = new wxBoxSizer(wxVERTICAL);
         auto* list = new wxListBox(page_, wxID_ANY, wxDefaultPosition, wxSize(-1, kSkinRows * parts_.RowHeight(page_)),
                                    0, nullptr, wxLB_SINGLE);
-        parts_.Controls.Bind("Skin_Fil", form_.Document.Skin_Fil, list, [this] { Setting_Change(form_); });
+        parts_.Controls.Bind("Skin_Fil", form_.Document.Skin_Fil, list, [&form = form_] { Setting_Change(form); });
         SetSpokenName(list->GetHandle(), "Skins");
         rows->Add(list, wxSizerFlags(1).Expand().Border(wxALL, kPageGap));
         auto* below = new wxBoxSizer(wxHORIZONTAL);
         below->Add(parts_.MakeButton(page_, "SelectNoSkin_Cmd", form_.SelectNoSkin_Cmd,
-                                     [this] { SelectNoSkin_Cmd_Click(form_); }));
+                                     [&form = form_] { SelectNoSkin_Cmd_Click(form); }));
         below->Add(parts_.MakeLabel(page_, "Label8", form_.Label8),
                    wxSizerFlags().CenterVertical().Border(wxLEFT, 2 * kPageGap));
         rows->Add(below, wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap));
@@ -99,7 +100,7 @@ class OptionsPageMaker {
         tip->Wrap(page_->FromDIP(kRateWrap));
         rows->Add(tip, wxSizerFlags().Border(wxALL, kPageGap));
         rows->Add(parts_.MakeText(
-                      page_, "Rate_Txt", form_.Document.Rate_Txt, [this] { Setting_Change(form_); }, "Rate"),
+                      page_, "Rate_Txt", form_.Document.Rate_Txt, [&form = form_] { Setting_Change(form); }, "Rate"),
                   wxSizerFlags().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap));
         page_->SetSizer(rows);
     }
@@ -114,8 +115,8 @@ class OptionsPageMaker {
         auto* checks = new wxGridSizer(2, kCellGap, 2 * kPageGap);
         for (const CheckRow& row : CheckRows()) {
             if (row.Group == group.Group) {
-                checks->Add(
-                    parts_.MakeCheck(box_, row.Name, form_.Document.*row.Box, [this] { Setting_Change(form_); }));
+                checks->Add(parts_.MakeCheck(box_, row.Name, form_.Document.*row.Box,
+                                             [&form = form_] { Setting_Change(form); }));
             }
         }
         frame->Add(checks, wxSizerFlags().Expand().Border(wxALL, kCellGap));
@@ -135,9 +136,9 @@ class OptionsPageMaker {
 
     std::function<void()> HandlerOf(const SettingRow& row) {
         if (row.List == &ScriptSettings::Crosshair_Cbo) {
-            return [this] { Crosshair_Cbo_Click(form_); };
+            return [&form = form_] { Crosshair_Cbo_Click(form); };
         }
-        return [this] { Setting_Change(form_); };
+        return [&form = form_] { Setting_Change(form); };
     }
 
     void AddList(wxSizer* lists, const SettingRow& row) {
@@ -167,12 +168,12 @@ class OptionsPageMaker {
         wxWindow* model = parts_.MakeLabel(page_, "Sex_Lbl", form_.Sex_Lbl);
         rows->Add(model, wxSizerFlags().CenterVertical());
         rows->Add(parts_.MakeCombo(
-            page_, "Sex_Cbo", document.Sex_Cbo, [this] { Fig_Sex_Cbo_Click(form_); }, form_.Sex_Lbl.Caption,
+            page_, "Sex_Cbo", document.Sex_Cbo, [&form = form_] { Fig_Sex_Cbo_Click(form); }, form_.Sex_Lbl.Caption,
             kWideValueLetters));
         wxWindow* skin = parts_.MakeLabel(page_, "Skin_Lbl", form_.Skin_Lbl);
         rows->Add(skin, wxSizerFlags().CenterVertical());
         rows->Add(parts_.MakeCombo(
-            page_, "Skin_Cbo", document.Skin_Cbo, [this] { Setting_Change(form_); }, form_.Skin_Lbl.Caption,
+            page_, "Skin_Cbo", document.Skin_Cbo, [&form = form_] { Setting_Change(form); }, form_.Skin_Lbl.Caption,
             kWideValueLetters));
         return rows;
     }
@@ -191,7 +192,9 @@ class OptionsPageMaker {
             &parts_.Colors);
         label->SetMinSize(wxSize(kColorLetters * page_->GetTextExtent("n").x, parts_.RowHeight(page_) * 5 / 4));
         label->SetSpeaker([&color] { return Join(Trim(color.Caption), ", ", std::to_string(color.Tag)); });
-        const auto choose = [this, index] { parts_.Controls.Run([&] { PlayerColor_Lbl_Click(form_, index); }); };
+        const auto choose = [&parts = parts_, index] {
+            parts.Controls.Run([&] { PlayerColor_Lbl_Click(parts.Model, index); });
+        };
         label->Bind(wxEVT_LEFT_UP, [choose](wxMouseEvent&) { choose(); });
         label->Bind(wxEVT_CHAR_HOOK, [choose](wxKeyEvent& event) {
             if (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_SPACE) {

@@ -25,6 +25,7 @@ constexpr int kValueLetters = 13;
 constexpr int kTextLetters = 24;
 constexpr int kListLetters = 28;
 
+/// Lives while the page is being made; what the page does later must not know it.
 class UnrealPageMaker {
   public:
     UnrealPageMaker(FigParts& parts, wxWindow* page) : parts_(parts), form_(parts.Model), page_(page) {}
@@ -62,7 +63,7 @@ class UnrealPageMaker {
         Start("WeaponPriority_Pic", form_.WeaponPriority_Pic);
         ScriptDocument& document = form_.Document;
         wxListBox* priority = MakeOpenList("WeaponsPriority_Lst", document.WeaponsPriority_Lst);
-        priority->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+        priority->Bind(wxEVT_KEY_DOWN, [&parts = parts_](wxKeyEvent& event) {
             constexpr int kUp = 38;
             constexpr int kDown = 40;
             if (event.GetKeyCode() != WXK_UP && event.GetKeyCode() != WXK_DOWN) {
@@ -70,7 +71,7 @@ class UnrealPageMaker {
                 return;
             }
             const int code = event.GetKeyCode() == WXK_UP ? kUp : kDown;
-            parts_.Controls.Run([&] { WeaponsPriority_Lst_KeyDown(form_, code); });
+            parts.Controls.Run([&] { WeaponsPriority_Lst_KeyDown(parts.Model, code); });
         });
         AddTitled("Unselected Weapons", MakeOpenList("WeaponsAvailable_Lst", document.WeaponsAvailable_Lst));
         AddButtons("SelectWeapon_Cmd", form_.SelectWeapon_Cmd, SelectWeapon_Cmd_Click);
@@ -104,13 +105,13 @@ class UnrealPageMaker {
         column->Add(new wxStaticText(box_, wxID_ANY, ToWx(Trim(caption))), wxSizerFlags().CenterVertical());
         column->Add(parts_.MakeCombo(
             box_, wxString::Format("%s(%d)", name, static_cast<int>(index)).utf8_str(), model,
-            [this] { Setting_Change(form_); }, caption, kValueLetters));
+            [&form = form_] { Setting_Change(form); }, caption, kValueLetters));
     }
 
     void AddText(wxSizer* column, const char* name, const char* caption, TextBox& model, long style) {
         column->Add(new wxStaticText(box_, wxID_ANY, ToWx(Trim(caption))), wxSizerFlags().CenterVertical());
         wxTextCtrl* text = parts_.MakeText(
-            box_, name, model, [this] { Setting_Change(form_); }, Trim(caption).c_str(), style);
+            box_, name, model, [&form = form_] { Setting_Change(form); }, Trim(caption).c_str(), style);
         text->SetMinSize(wxSize(kTextLetters * box_->GetTextExtent("n").x, -1));
         column->Add(text);
     }
@@ -134,9 +135,10 @@ class UnrealPageMaker {
     void AddButtons(const char* name, std::span<CommandButton> models, void (*click)(Fig_Frm&, int)) {
         auto* column = new wxBoxSizer(wxVERTICAL);
         for (int i = 0; i < static_cast<int>(models.size()); ++i) {
-            column->Add(parts_.MakeButton(box_, wxString::Format("%s(%d)", name, i).utf8_str(),
-                                          models[static_cast<std::size_t>(i)], [this, i, click] { click(form_, i); }),
-                        wxSizerFlags().Expand().Border(wxBOTTOM, kPageGap));
+            column->Add(
+                parts_.MakeButton(box_, wxString::Format("%s(%d)", name, i).utf8_str(),
+                                  models[static_cast<std::size_t>(i)], [&form = form_, i, click] { click(form, i); }),
+                wxSizerFlags().Expand().Border(wxBOTTOM, kPageGap));
         }
         frame_->Add(column, wxSizerFlags().CenterVertical().Border(wxALL, kPageGap));
     }

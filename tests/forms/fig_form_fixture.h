@@ -101,13 +101,15 @@ class FigForm_ : public ::testing::Test {
     void TurnBindings(BindingsPage page) {
         Turn(EditorPage::Bindings);
         auto* tabs = FindAs<wxNotebook>("Bindings_Tab");
-        const wxString caption = ToWx(Trim(form->Model().Bindings_Tab[static_cast<std::size_t>(page)].Caption));
+        const wxString caption =
+            wxControl::RemoveMnemonics(ToWx(Trim(form->Model().Bindings_Tab[static_cast<std::size_t>(page)].Caption)));
         for (std::size_t tab = 0; tab < tabs->GetPageCount(); ++tab) {
             if (tabs->GetPageText(tab) == caption) {
                 tabs->SetSelection(tab);
             }
         }
         Settle();
+        EXPECT_EQ(form->Model().Bindings_Tab.Tab, static_cast<int>(page));
     }
 
     static wxPoint MiddleOf(const std::string& name) {

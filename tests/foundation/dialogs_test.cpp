@@ -23,8 +23,8 @@ class Dialogs : public ::testing::Test {
 TEST(ConfirmExitForm, SaysWhatItAsks) {
     const ConfirmExit_Frm form;
     EXPECT_EQ(form.Caption, "Confirm Exit");
-    EXPECT_EQ(form.Changes_Lbl.Caption, "Changes have not been saved.");
-    EXPECT_EQ(form.Exit_Lbl.Caption, "Exit Anyway?");
+    EXPECT_EQ(form.Label1.Caption, "Changes have not been saved.");
+    EXPECT_EQ(form.Label2.Caption, "Exit Anyway?");
     EXPECT_EQ(form.SaveNow_Chk.Caption, "Save Script Now");
     EXPECT_EQ(form.Yes_Cmd.Caption, "&Yes");
     EXPECT_EQ(form.No_Cmd.Caption, "&No");

@@ -236,8 +236,8 @@ TEST_F(Lifecycle, YesClosesWithoutSaving) {
     Change();
     user.InConfirmExit.push_back([](ConfirmExit_Frm& box) {
         EXPECT_EQ(box.Caption, "Confirm Exit");
-        EXPECT_EQ(box.Changes_Lbl.Caption, "Changes have not been saved.");
-        EXPECT_EQ(box.Exit_Lbl.Caption, "Exit Anyway?");
+        EXPECT_EQ(box.Label1.Caption, "Changes have not been saved.");
+        EXPECT_EQ(box.Label2.Caption, "Exit Anyway?");
         EXPECT_EQ(box.SaveNow_Chk.Caption, "Save Script Now");
         EXPECT_EQ(box.Yes_Cmd.Caption, "&Yes");
         EXPECT_EQ(box.No_Cmd.Caption, "&No");
