@@ -88,6 +88,7 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
       place_(*this, model.Placement),
       saveTimer_(this) {
     SetName("Fig_Frm");
+    parts_.Controls.FillLater();
     SetIcons(ProgramIcon());
     parts_.WatchKey = [this](CellLabel* label, Index index) { hand_.WatchKey(label, index); };
     parts_.WatchRow = [this](CellLabel* label, SlotNumber slot) { hand_.WatchRow(label, slot); };
@@ -202,7 +203,7 @@ void FigForm::BindEvents() {
         saveTimer_.GetId());
     Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
         event.Skip();
-        if (IsShownOnScreen() && MakeOnePage()) {
+        if (IsShownOnScreen() && (parts_.Controls.FillOne() || MakeOnePage())) {
             event.RequestMore();
         }
     });
@@ -336,7 +337,7 @@ bool FigForm::MakeOnePage() {
 }
 
 void FigForm::MakeAllPages() {
-    while (MakeOnePage()) {
+    while (MakeOnePage() || parts_.Controls.FillOne()) {
     }
 }
 
@@ -362,12 +363,14 @@ void FigForm::ShowState() {
     }
     wxWindow* const before = FindFocus();
     const bool finding = before != nullptr && before->GetName() == "Find_Txt";
-    bool changed = parts_.Controls.Show();
+    const bool changed = parts_.Controls.Show();
     MakeShownPages();
-    changed = keys_->ShowState() || changed;
+    const bool moved = keys_->ShowState();
     hand_.ShowState();
-    if (changed) {
+    if (changed || moved) {
         content_->Layout();
+    }
+    if (changed) {
         for (wxWindow* page : pages_) {
             page->Layout();
         }
