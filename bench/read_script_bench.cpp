@@ -11,6 +11,7 @@
 #include <string>
 
 #include "bench/limit.h"
+#include "bench/long_script.h"
 #include "bench/no_user.h"
 #include "foundry/reading/open_script.h"
 #include "foundry/reading/script_reader.h"
@@ -20,36 +21,6 @@ namespace {
 
 constexpr const char* kPath = "C:\\QUAKE\\ID1\\long.cfg";
 constexpr const char* kOurs = "//* Setup Foundry   *//\r\n";
-
-/// Bindings, aliases, settings, comments and lines of other programs in turn.
-std::string MixedScript(long lines) {
-    static constexpr const char* kKeys[] = {"a", "F1", "mouse1", "kp_ins", "<", "uparrow", "5", "space"};
-    static constexpr const char* kCommands[] = {"+attack", "impulse 7", "say hello", "exec duel.cfg", "impulse 200"};
-    std::string script = kOurs;
-    for (long i = 1; i < lines; ++i) {
-        const std::string n = std::to_string(i);
-        switch (i % 8) {
-            case 0:
-            case 1:
-            case 2:
-                script += std::string("bind \"") + kKeys[i / 8 % 8] + "\" \"" + kCommands[i / 3 % 5] + "\"";
-                break;
-            case 3:
-                script += "alias a" + n + " \"+jump; wait; -jump; echo number " + n + "\"";
-                break;
-            case 4:
-                script += "set cl_forwardspeed " + n + " // how fast";
-                break;
-            case 5:
-                script += "// a comment of some length, number " + n;
-                break;
-            default:
-                script += "gl_setting_" + n + " \"" + n + "\"";
-        }
-        script += "\r\n";
-    }
-    return script;
-}
 
 std::string FreeFormScript(long lines) {
     std::string script = kOurs;
@@ -85,7 +56,7 @@ void Open(benchmark::State& state, const std::string& script, double limit) {
 }
 
 void BM_OpenAScript(benchmark::State& state) {
-    Open(state, MixedScript(state.range(0)), static_cast<double>(state.range(0)) / 400);
+    Open(state, lv::MixedScript(state.range(0)), static_cast<double>(state.range(0)) / 400);
 }
 
 void BM_OpenFreeForm(benchmark::State& state) {

@@ -26,10 +26,21 @@ bool ShowControl(const Control& model, wxWindow* view, Text& tip) {
     return view->IsShown() != model.Visible && view->Show(model.Visible);
 }
 
+/// A list's row, measured. Measuring costs more than all else that brings a list in line.
+struct MeasuredRow {
+    wxString Row;
+    int Width = -1;
+    bool Cut = false;
+};
+
 // A row that is wider than its list shows in full as the list's tool tip.
-void ShowFullRow(const Text& ownTip, const wxString& row, wxWindow* view) {
-    const bool cut = view->GetTextExtent(row).x > view->GetClientSize().x - view->FromDIP(kArrowWidth);
-    const wxString tip = cut ? row : ToWx(ownTip);
+void ShowFullRow(const Text& ownTip, const wxString& row, wxWindow* view, MeasuredRow& measured) {
+    const int width = view->GetClientSize().x;
+    if (measured.Row != row || measured.Width != width) {
+        const bool cut = view->GetTextExtent(row).x > width - view->FromDIP(kArrowWidth);
+        measured = {row, width, cut};
+    }
+    const wxString tip = measured.Cut ? row : ToWx(ownTip);
     if (view->GetToolTipText() != tip) {
         view->SetToolTip(tip);
     }
@@ -69,7 +80,9 @@ void Binder::Run(const Handler& handler) {
         return;
     }
     handler();
-    after_();
+    if (!turning_) {
+        after_();
+    }
 }
 
 bool Binder::Show() {
@@ -116,7 +129,7 @@ void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler clic
         model.ListIndex = view->GetSelection();
         Run(click);
     });
-    Add(name, model, view, [&model, view, shown = std::vector<Text>()]() mutable {
+    Add(name, model, view, [&model, view, shown = std::vector<Text>(), full = MeasuredRow()]() mutable {
         if (shown != model.Items) {
             shown = model.Items;
             wxArrayString rows;
@@ -128,7 +141,7 @@ void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler clic
         if (view->GetSelection() != model.ListIndex) {
             view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
         }
-        ShowFullRow(model.ToolTip, view->GetStringSelection(), view);
+        ShowFullRow(model.ToolTip, view->GetStringSelection(), view, full);
         return false;
     });
 }
@@ -138,7 +151,7 @@ void Binder::Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, H
         model.ListIndex = view->GetSelection();
         Run(click);
     });
-    Add(name, model, view, [&model, view, shown = std::vector<Text>()]() mutable {
+    Add(name, model, view, [&model, view, shown = std::vector<Text>(), full = MeasuredRow()]() mutable {
         if (!SameRows(model, shown)) {
             shown.clear();
             while (view->GetCount() > 0) {
@@ -153,7 +166,7 @@ void Binder::Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, H
         if (view->GetSelection() != model.ListIndex) {
             view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
         }
-        ShowFullRow(model.ToolTip, view->GetStringSelection(), view);
+        ShowFullRow(model.ToolTip, view->GetStringSelection(), view, full);
         return false;
     });
 }

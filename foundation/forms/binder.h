@@ -15,7 +15,9 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <deque>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "foundation/controls.h"
@@ -50,6 +52,11 @@ class Binder {
     /// Anything that brings itself in line when it is asked to; it answers whether something came or went.
     void OnShow(std::function<bool()> show) { showers_.push_back(std::move(show)); }
 
+    /// From now on a list with a field shows its text alone; its rows, which cost far more, come with FillOne.
+    void FillLater() { fillLater_ = true; }
+    /// Gives the next list its rows; false if all have them.
+    bool FillOne();
+
     /// Runs a handler as if its control had been used.
     void Run(const Handler& handler);
 
@@ -59,11 +66,18 @@ class Binder {
 
   private:
     using Shower = std::function<bool()>;
+    struct LateRows {
+        std::size_t Shower;
+        std::shared_ptr<bool> Waiting;
+    };
     void Add(const char* name, Control& model, wxWindow* view, Shower show);
 
     Handler after_;
     std::vector<Shower> showers_;
+    std::deque<LateRows> lateRows_;
+    bool fillLater_ = false;
     bool showing_ = false;
+    bool turning_ = false;  // a page is: its turn ends in a handler of its own
 };
 
 }  // namespace lv

@@ -1,6 +1,7 @@
 // The binder's controls that hold many rows or pages.
 
 #include <algorithm>
+#include <utility>
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/binder.h"
@@ -81,24 +82,54 @@ void Binder::Bind(const char* name, ListBox& model, wxComboBox* view, Handler cl
             Run([&] { typed(text); });
         }
     });
-    Add(name, model, view, [&model, view, shown = std::vector<Text>()]() mutable {
-        ShowRows(model.Items, shown, view);
+    const auto waiting = std::make_shared<bool>(fillLater_);
+    if (fillLater_) {
+        lateRows_.push_back({showers_.size(), waiting});
+    }
+    Add(name, model, view, [&model, view, waiting, late = fillLater_, shown = std::vector<Text>()]() mutable {
         const Text text = model.Selected();
-        if (!SameText(FromWx(view->GetValue()), text)) {
-            if (model.HasSelection()) {
-                view->SetSelection(model.ListIndex);
-            } else {
-                view->ChangeValue("");
+        const bool same = SameText(FromWx(view->GetValue()), text);
+        if (*waiting) {
+            if (!same) {
+                view->ChangeValue(ToWx(text));
             }
+            return false;
+        }
+        ShowRows(model.Items, shown, view);
+        const bool filled = std::exchange(late, false);
+        if (model.HasSelection() && (filled || !same)) {
+            view->SetSelection(model.ListIndex);
+        } else if (!same) {
+            view->ChangeValue("");
         }
         return false;
     });
 }
 
+bool Binder::FillOne() {
+    if (lateRows_.empty()) {
+        return false;
+    }
+    const LateRows next = std::move(lateRows_.front());
+    lateRows_.pop_front();
+    *next.Waiting = false;
+    showing_ = true;
+    showers_[next.Shower]();
+    showing_ = false;
+    return true;
+}
+
 void Binder::Bind(const char* name, TabSet& model, wxNotebook* view, std::vector<wxWindow*> pages,
                   std::function<void(int)> click) {
+    // The page that comes takes the keyboard, and a list then selects a row: what follows from that waits for the turn,
+    // for until then the struct has the page that goes.
+    view->Bind(wxEVT_NOTEBOOK_PAGE_CHANGING, [this, view](wxBookCtrlEvent& event) {
+        event.Skip();
+        turning_ = turning_ || event.GetEventObject() == view;
+    });
     view->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, [this, view, &model, click = std::move(click)](wxBookCtrlEvent& event) {
         event.Skip();
+        turning_ = turning_ && event.GetEventObject() != view;
         const std::vector<int> visible = VisiblePages(model);
         const int tab = event.GetSelection();
         if (event.GetEventObject() == view && !showing_ && tab >= 0 && static_cast<std::size_t>(tab) < visible.size()) {

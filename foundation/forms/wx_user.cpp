@@ -22,6 +22,13 @@
 
 namespace lv {
 
+namespace {
+
+constexpr std::size_t kMostWidths = 4000;
+constexpr std::size_t kMostKept = 200;  // letters of a line
+
+}  // namespace
+
 /// One measure for all windows: the toolkit's own font, on a bitmap of no size that matters. Kept, for making one costs
 /// more than a thousand measurements.
 struct WxUser::Ruler {
@@ -120,7 +127,18 @@ void WxUser::EndProgram() {
 }
 
 int WxUser::TextWidth(TextView line) {
-    return TheRuler().Canvas.GetTextExtent(ToWx(line)).GetWidth();
+    Text text(line);
+    if (const auto known = widths_.find(text); known != widths_.end()) {
+        return known->second;
+    }
+    const int width = TheRuler().Canvas.GetTextExtent(ToWx(line)).GetWidth();
+    if (text.size() <= kMostKept) {
+        if (widths_.size() >= kMostWidths) {
+            widths_.clear();
+        }
+        widths_.emplace(std::move(text), width);
+    }
+    return width;
 }
 
 int WxUser::TextHeight() {

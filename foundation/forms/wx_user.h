@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -72,6 +73,7 @@ class WxUser : public UserInterface {
     std::function<void(TextView)> popUp_;
     std::unique_ptr<wxHtmlHelpController> help_;
     std::unique_ptr<Ruler> ruler_;
+    std::unordered_map<Text, int> widths_;  // of what was measured
 };
 
 }  // namespace lv

@@ -53,6 +53,17 @@ int PageOfAccessKey(const TabSet& tabs, int code) {
     return -1;
 }
 
+// All pages count as shown, those behind the others too.
+bool IsOnTop(const wxWindow* window) {
+    for (const wxWindow* parent = window->GetParent(); parent != nullptr; window = parent, parent = window->GetParent()) {
+        const auto* tabs = dynamic_cast<const wxNotebook*>(parent);
+        if (tabs != nullptr && tabs->GetCurrentPage() != window) {
+            return false;
+        }
+    }
+    return true;
+}
+
 template <std::size_t Count>
 struct Named {
     const char* Names[Count];
@@ -77,6 +88,7 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
       place_(*this, model.Placement),
       saveTimer_(this) {
     SetName("Fig_Frm");
+    parts_.Controls.FillLater();
     SetIcons(ProgramIcon());
     parts_.WatchKey = [this](CellLabel* label, Index index) { hand_.WatchKey(label, index); };
     parts_.WatchRow = [this](CellLabel* label, SlotNumber slot) { hand_.WatchRow(label, slot); };
@@ -191,7 +203,7 @@ void FigForm::BindEvents() {
         saveTimer_.GetId());
     Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
         event.Skip();
-        if (IsShownOnScreen() && MakeOnePage()) {
+        if (IsShownOnScreen() && (parts_.Controls.FillOne() || MakeOnePage())) {
             event.RequestMore();
         }
     });
@@ -325,14 +337,13 @@ bool FigForm::MakeOnePage() {
 }
 
 void FigForm::MakeAllPages() {
-    while (MakeOnePage()) {
+    while (MakeOnePage() || parts_.Controls.FillOne()) {
     }
 }
 
 void FigForm::MakeShownPages() {
     for (LatePage& late : late_) {
-        if (late.Page()->IsShown() && late.Page()->GetParent()->IsShown() &&
-            late.Page()->GetParent()->GetParent()->IsShown() && late.Make()) {
+        if (IsOnTop(late.Page()) && late.Make()) {
             parts_.Controls.Show();
             late.Page()->Layout();
             if (place_.IsPut()) {
@@ -352,12 +363,14 @@ void FigForm::ShowState() {
     }
     wxWindow* const before = FindFocus();
     const bool finding = before != nullptr && before->GetName() == "Find_Txt";
-    bool changed = parts_.Controls.Show();
+    const bool changed = parts_.Controls.Show();
     MakeShownPages();
-    changed = keys_->ShowState() || changed;
+    const bool moved = keys_->ShowState();
     hand_.ShowState();
-    if (changed) {
+    if (changed || moved) {
         content_->Layout();
+    }
+    if (changed) {
         for (wxWindow* page : pages_) {
             page->Layout();
         }

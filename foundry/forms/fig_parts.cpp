@@ -62,7 +62,7 @@ wxChoice* FigParts::MakeList(wxWindow* parent, const char* name, ListBox& model,
 
 wxComboBox* FigParts::MakeCombo(wxWindow* parent, const char* name, ListBox& model, std::function<void()> click,
                                 TextView spoken, int letters) {
-    const wxSize size(letters * parent->GetTextExtent("n").x + parent->FromDIP(kComboMargin), -1);
+    const wxSize size(letters * LetterWidth(parent) + parent->FromDIP(kComboMargin), -1);
     auto* combo = new wxComboBox(parent, wxID_ANY, "", wxDefaultPosition, size, 0, nullptr, wxCB_DROPDOWN);
     combo->SetMinSize(size);
     Controls.Bind(name, model, combo, std::move(click),
@@ -71,8 +71,23 @@ wxComboBox* FigParts::MakeCombo(wxWindow* parent, const char* name, ListBox& mod
     return combo;
 }
 
-int FigParts::RowHeight(const wxWindow* window) const {
-    return window->GetTextExtent("Wg").y + window->FromDIP(kRowMargin);
+void FigParts::Measure(const wxWindow* window) {
+    constexpr int kWhole = 100;
+    if (scale_ != window->FromDIP(kWhole)) {
+        scale_ = window->FromDIP(kWhole);
+        row_ = window->GetTextExtent("Wg").y + window->FromDIP(kRowMargin);
+        letter_ = window->GetTextExtent("n").x;
+    }
+}
+
+int FigParts::RowHeight(const wxWindow* window) {
+    Measure(window);
+    return row_;
+}
+
+int FigParts::LetterWidth(const wxWindow* window) {
+    Measure(window);
+    return letter_;
 }
 
 bool LatePage::Make() {

@@ -52,7 +52,15 @@ struct FigParts {
                           TextView spoken, int letters);
 
     /// Height of a row of labels, in pixels.
-    [[nodiscard]] int RowHeight(const wxWindow* window) const;
+    [[nodiscard]] int RowHeight(const wxWindow* window);
+    [[nodiscard]] int LetterWidth(const wxWindow* window);
+
+  private:
+    // Measured once: the toolkit makes a control to find out the letters of one.
+    void Measure(const wxWindow* window);
+    int row_ = 0;
+    int letter_ = 0;
+    int scale_ = 0;
 };
 
 /// A page whose content is made when it is first seen, or when nothing else is to be done.

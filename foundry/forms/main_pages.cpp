@@ -154,6 +154,7 @@ void MakeAliasPage(FigParts& parts, wxWindow* page) {
     auto* rows = new wxBoxSizer(wxVERTICAL);
     auto* list = new wxListBox(page, wxID_ANY, wxDefaultPosition, wxSize(-1, kAliasRows * parts.RowHeight(page)), 0,
                                nullptr, wxLB_SINGLE | wxLB_HSCROLL);
+    list->SetMinSize(list->GetSize());  // or all of its rows are measured at each layout
     parts.Controls.Bind("Alias_Lst", form.Alias_Lst, list, [] {});
     SetSpokenName(list->GetHandle(), "Aliases");
     list->Bind(wxEVT_LISTBOX_DCLICK,

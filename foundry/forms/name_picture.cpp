@@ -1,10 +1,10 @@
 #include "foundry/forms/name_picture.h"
 
 #include <wx/dcbuffer.h>
-#include <wx/dcmemory.h>
 #include <wx/image.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
 
 #include "platform/spoken_name.h"
@@ -16,6 +16,25 @@ namespace {
 constexpr int kLetter = 2 * kFontCell;
 constexpr int kCells = 256;
 const wxColour kNight(48, 40, 32);  // the games' consoles are dark
+
+unsigned char Over(int below, int above, int opacity) {
+    constexpr int kOpaque = 255;
+    return static_cast<unsigned char>((above * opacity + below * (kOpaque - opacity)) / kOpaque);
+}
+
+/// Each pixel of the map `scale` pixels wide and high. Only of the letters that are seen: the whole map takes too long
+/// for a paint event.
+void PaintLetter(wxImage& name, const FontMap& map, const NameLetter& letter, int scale) {
+    const int left = letter.ToX * scale / 2;
+    const int size = std::min(kFontCell * scale, name.GetWidth() - left);
+    for (int y = 0; y < kFontCell * scale; ++y) {
+        for (int x = 0; x < size; ++x) {
+            const std::uint8_t* pixel = map.Pixel(letter.FromX + x / scale, letter.FromY + y / scale);
+            name.SetRGB(left + x, y, Over(kNight.Red(), pixel[0], pixel[3]), Over(kNight.Green(), pixel[1], pixel[3]),
+                        Over(kNight.Blue(), pixel[2], pixel[3]));
+        }
+    }
+}
 
 int WholeScale(const wxWindow* window) {
     constexpr int kHundred = 100;
@@ -57,16 +76,16 @@ void NamePicture::ShowState() {
 }
 
 void NamePicture::Paint() {
+    const int scale = WholeScale(this);
+    wxImage name(kLetter * kNameLength * scale, kLetter * scale);
+    name.SetRGB(wxRect(name.GetSize()), kNight.Red(), kNight.Green(), kNight.Blue());
+    for (const NameLetter& letter : PaintName(model_)) {
+        PaintLetter(name, model_.PhunNames.Map, letter, 2 * scale);
+    }
     wxAutoBufferedPaintDC canvas(this);
     canvas.SetBackground(wxBrush(kNight));
     canvas.Clear();
-    const int scale = WholeScale(this);
-    wxBitmap map = ToBitmap(model_.PhunNames.Map, 2 * scale);
-    wxMemoryDC letters(map);
-    for (const NameLetter& letter : PaintName(model_)) {
-        canvas.Blit(letter.ToX * scale, 0, kLetter * scale, kLetter * scale, &letters, letter.FromX * 2 * scale,
-                    letter.FromY * 2 * scale, wxCOPY, true);
-    }
+    canvas.DrawBitmap(wxBitmap(name), 0, 0);
 }
 
 FontMapPicture::FontMapPicture(wxWindow* parent, const FontMap& map, std::function<void(int x, int y)> click)

@@ -122,7 +122,7 @@ class RowMaker {
         name->SetMinSize(wxSize(form.BoundLabelWidth(slot) + page_->FromDIP(kNameMargin), parts_.RowHeight(page_)));
         CellLabel* keys = parts_.MakeCell(
             page_, Indexed("Setting_Lbl", slot), [&form, slot] { return LookOfKeys(form, slot); }, group_.get());
-        keys->SetMinSize(wxSize(kLeastKeyLetters * page_->GetTextExtent("n").x, parts_.RowHeight(page_)));
+        keys->SetMinSize(wxSize(kLeastKeyLetters * parts_.LetterWidth(page_), parts_.RowHeight(page_)));
         keys->SetSpeaker([&form, slot] { return SpokenRow(form, slot); });
         row->Add(name);
         row->Add(keys, wxSizerFlags(1).Border(wxLEFT, kCellGap));
