@@ -55,7 +55,8 @@ int PageOfAccessKey(const TabSet& tabs, int code) {
 
 // All pages count as shown, those behind the others too.
 bool IsOnTop(const wxWindow* window) {
-    for (const wxWindow* parent = window->GetParent(); parent != nullptr; window = parent, parent = window->GetParent()) {
+    for (const wxWindow* parent = window->GetParent(); parent != nullptr;
+         window = parent, parent = window->GetParent()) {
         const auto* tabs = dynamic_cast<const wxNotebook*>(parent);
         if (tabs != nullptr && tabs->GetCurrentPage() != window) {
             return false;

@@ -25,7 +25,7 @@ constexpr const char* kOfAllKinds[] = {
     "Checkables_Pic", "Other_Pic", "Screen_Pic", "PlayerColor_Lbl(0)", "PlayerColor_Lbl(1)", "NoColors_Chk",
     "Sex_Lbl", "Sex_Cbo", "Skin_Lbl", "Skin_Cbo",
     "NoAim_Chk", "ShowPause_Chk", "ShowRAM_Chk", "ShowTurtle_Chk", "Speed_Chk", "JoyStick_Chk", "LookStrafe_Chk",
-    "LookSpring_Chk", "MLook_Chk", "InvertMouse_Chk", "Q2_EnableCD_Chk", "Q2_WaveOnly_Chk",
+    "LookSpring_Chk", "MLook_Chk", "InvertMouse_Chk",
     "viewsize_Cbo", "vidmode_Cbo", "gamma_Cbo", "fov_Cbo", "Crosshair_Cbo", "CrossHairColor_Cbo", "Handed_Cbo",
 };
 
@@ -36,7 +36,7 @@ constexpr const char* kOfConsoleKinds[] = {
     "scr_conspeed_Cbo", "scr_centerspeed_Cbo", "MouseSensitivity_Cbo", "m_forward_Cbo", "m_pitch_Cbo", "m_yaw_Cbo",
     "m_side_Cbo", "m_filter_Cbo", "cl_rollangle_Cbo", "cl_rollspeed_Cbo", "v_kickpitch_Cbo", "v_kickroll_Cbo",
     "v_kicktime_Cbo", "cl_bob_Cbo", "cl_bobcycle_Cbo", "cl_bobup_Cbo", "bgmvolume_Cbo", "volume_Cbo",
-    "snd_mixahead_Cbo",
+    "Q2_EnableCD_Chk", "Q2_WaveOnly_Chk", "snd_mixahead_Cbo",
 };
 
 constexpr const char* kOfUnreal[] = {
