@@ -1,11 +1,24 @@
 #include "foundry/forms/key_hand.h"
 
 #include <wx/cursor.h>
+#include <wx/scrolwin.h>
 
 #include "foundry/editor/bindings_page.h"
 #include "foundry/forms/key_codes.h"
 
 namespace lv {
+
+namespace {
+
+/// The part of the window that scrolls: what lies beyond its edge is not seen.
+const wxWindow* SightOf(const wxWindow* window) {
+    while (dynamic_cast<const wxScrolledWindow*>(window) == nullptr && window->GetParent() != nullptr) {
+        window = window->GetParent();
+    }
+    return window;
+}
+
+}  // namespace
 
 KeyHand::KeyHand(FigParts& parts) : parts_(parts) {}
 
@@ -17,7 +30,7 @@ void KeyHand::WatchKey(CellLabel* label, Index index) {
             label->ShowState();
         }
     });
-    const auto press = [this, label, index](wxMouseEvent&) { PressKey(label, index); };
+    const auto press = [this, label, index](wxMouseEvent& event) { PressKey(label, index, event.GetButton()); };
     label->Bind(wxEVT_LEFT_DOWN, press);
     label->Bind(wxEVT_RIGHT_DOWN, press);
     label->Bind(wxEVT_MOTION, [this, label](wxMouseEvent& event) {
@@ -27,7 +40,7 @@ void KeyHand::WatchKey(CellLabel* label, Index index) {
         }
     });
     const auto release = [this, label](wxMouseEvent& event) {
-        if (IsDragging()) {
+        if (IsDragging() && event.GetButton() == button_) {
             Release(label->ClientToScreen(event.GetPosition()));
         }
     };
@@ -100,7 +113,7 @@ void KeyHand::WatchName(CellLabel* label, SlotNumber slot) {
     });
 }
 
-void KeyHand::PressKey(CellLabel* label, Index index) {
+void KeyHand::PressKey(CellLabel* label, Index index, int button) {
     if (IsDragging()) {
         return;
     }
@@ -112,18 +125,22 @@ void KeyHand::PressKey(CellLabel* label, Index index) {
     targets_.clear();
     for (const auto& [slot, row] : parts_.SettingLabels) {
         if (row->IsShownOnScreen()) {
-            targets_.push_back({slot, row->GetScreenRect()});
+            targets_.push_back({slot, row});
         }
     }
     over_ = kNoSlot;
+    sight_ = SightOf(label);
+    button_ = button;
     Hold(label);
     ShowPointer();
 }
 
+// Asked for anew at each step, for the wheel scrolls the window under a drag. What is scrolled out of sight takes no
+// key.
 SlotNumber KeyHand::RowAt(const wxPoint& screen) const {
     for (const Target& target : targets_) {
-        if (target.Place.Contains(screen)) {
-            return target.Slot;
+        if (target.Row->GetScreenRect().Contains(screen)) {
+            return sight_->GetScreenRect().Contains(screen) ? target.Slot : kNoSlot;
         }
     }
     return kNoSlot;

@@ -30,11 +30,11 @@ class KeyHand {
   private:
     struct Target {
         SlotNumber Slot;
-        wxRect Place;
+        const CellLabel* Row;
     };
 
     void WatchKeyboard(CellLabel* label);
-    void PressKey(CellLabel* label, Index index);
+    void PressKey(CellLabel* label, Index index, int button);
     void Move(const wxPoint& screen);
     void Release(const wxPoint& screen);
     void ShowPointer();
@@ -45,11 +45,13 @@ class KeyHand {
     void ShowRow(SlotNumber slot);
 
     FigParts& parts_;
-    std::vector<Target> targets_;  // where a drag can end
-    SlotNumber over_ = kNoSlot;    // the row under the pointer
-    CellLabel* holder_ = nullptr;  // holds the mouse
-    bool listening_ = false;       // for a key, not for the end of a drag
-    bool keyUp_ = false;           // the key that began the waiting was let go
+    std::vector<Target> targets_;      // where a drag can end
+    const wxWindow* sight_ = nullptr;  // what is seen of them
+    int button_ = wxMOUSE_BTN_NONE;    // that began the drag, and ends it
+    SlotNumber over_ = kNoSlot;        // the row under the pointer
+    CellLabel* holder_ = nullptr;      // holds the mouse
+    bool listening_ = false;           // for a key, not for the end of a drag
+    bool keyUp_ = false;               // the key that began the waiting was let go
     DragIcon shown_ = DragIcon::None;
 };
 

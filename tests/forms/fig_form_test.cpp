@@ -72,6 +72,49 @@ TEST_F(FigForm_, EscapeGivesADragUp) {
     });
 }
 
+TEST_F(FigForm_, TheOtherButtonEndsNoDrag) {
+    Use(kQuake, "");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        Carry("Key_Lbl(5)", "Setting_Lbl(111)");
+        wxUIActionSimulator().MouseClick(wxMOUSE_BTN_RIGHT);
+        Settle();
+        EXPECT_EQ(Shown("Setting_Lbl(111)"), "");
+        EXPECT_TRUE(FindAs<CellLabel>("Setting_Lbl(111)")->Shown().Highlighted);
+        Drop();
+        EXPECT_EQ(Shown("Setting_Lbl(111)"), "{E}");
+    });
+}
+
+TEST_F(FigForm_, ARowThatIsScrolledOutOfSightTakesNoKey) {
+    Use(kQuake, "");
+    Edit([this] {
+        TurnBindings(BindingsPage::Standard);
+        form->SetSize(20, 60, 1000, 420);
+        Settle(300);
+        auto* content = dynamic_cast<wxScrolledWindow*>(form->GetChildren().front());
+        content->Scroll(0, 1000);
+        Settle(300);
+        const wxRect hidden = Find("Setting_Lbl(101)")->GetScreenRect();
+        ASSERT_LT(hidden.y, content->GetScreenRect().y);
+        MoveTo(MiddleOf("Key_Lbl(5)"));
+        wxUIActionSimulator().MouseDown();
+        Settle(60);
+        MoveTo(hidden.GetTopLeft() + wxPoint(hidden.width / 2, hidden.height / 2));
+        Drop();
+        EXPECT_EQ(Shown("Setting_Lbl(101)"), "");
+        MoveTo(MiddleOf("Key_Lbl(5)"));
+        wxUIActionSimulator().MouseDown();
+        Settle(60);
+        content->Scroll(0, 0);
+        Settle(100);
+        MoveTo(MiddleOf("Setting_Lbl(103)"));
+        EXPECT_TRUE(FindAs<CellLabel>("Setting_Lbl(103)")->Shown().Highlighted);
+        Drop();
+        EXPECT_EQ(Shown("Setting_Lbl(103)"), "{E}");
+    });
+}
+
 TEST_F(FigForm_, AnEmptyRowRefusesTheKey) {
     Use(kQuake, "");
     Edit([this] {
