@@ -196,9 +196,13 @@ TEST_F(FigDialogs, WeaponsOfUnrealMoveIntoTheirOrder) {
         Settle();
         Find("WeaponsAvailable_Lst")->SetFocus();
         PickLastRow("WeaponsAvailable_Lst");
+        auto* available = FindAs<wxListBox>("WeaponsAvailable_Lst");
+        const wxString picked = available->GetStringSelection();
+        ASSERT_FALSE(picked.empty());
         ClickOn(Find("SelectWeapon_Cmd(0)"));
         ASSERT_EQ(FindAs<wxListBox>("WeaponsPriority_Lst")->GetCount(), 1U);
-        EXPECT_EQ(FindAs<wxListBox>("WeaponsPriority_Lst")->GetString(0), "Stinger");
+        EXPECT_EQ(FindAs<wxListBox>("WeaponsPriority_Lst")->GetString(0), picked);
+        EXPECT_EQ(available->FindString(picked), wxNOT_FOUND);
         DoAndAnswer([] { ClickOn(Find("WeaponMove_Cmd(0)")); }, [] { ClickOn(Find("Button_Cmd(0)")); });
     });
 }
