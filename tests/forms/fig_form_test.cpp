@@ -9,6 +9,9 @@
 #include <wx/textctrl.h>
 
 #include "foundation/forms/wx_text.h"
+#include "foundry/editor/key_picture.h"
+#include "foundry/editor/lifecycle.h"
+#include "foundry/reading/open_script.h"
 #include "platform/spoken_name.h"
 
 namespace lv {
@@ -256,6 +259,38 @@ TEST_F(FigForm_, ATypedValueIsSavedThoughNoListHasIt) {
         DoAndAnswer([] { PressKey('S', wxMOD_CONTROL); }, [] { ClickOn(Find("Button_Cmd(0)")); });
     });
     EXPECT_THAT(File(), HasSubstr("\r\nfov 97\r\n"));
+}
+
+TEST_F(FigForm_, AListThatTakesTheKeyboardDoesNotTurnThePageBack) {
+    Use(kQuake, "bind w +forward\nalias one \"+jump\"\nalias two \"-jump\"\n");
+    Edit([this] {
+        form->MakeAllPages();
+        TurnBindings(BindingsPage::Standard);
+        Find("Setting_Lbl(101)")->SetFocus();
+        Settle();
+        Turn(EditorPage::Aliases);
+        EXPECT_EQ(FindAs<wxNotebook>("Main_Tab")->GetSelection(), static_cast<int>(EditorPage::Aliases));
+        EXPECT_EQ(form->Model().Main_Tab.Tab, static_cast<int>(EditorPage::Aliases));
+    });
+}
+
+TEST_F(FigForm_, ComesUpWithThePageThatIsSeenAndItsValuesAndMakesTheRestAfterwards) {
+    Use(kQuake, "fov 100\n");
+    Fig_Frm model(run, launcher.Lists);
+    LayOutKeys(model);
+    ASSERT_TRUE(OpenScript(run, model.Document, model, path));
+    Fig_Frm_Load(model);
+    FigForm shown(main, model, user);
+    auto* fov = dynamic_cast<wxComboBox*>(shown.FindWindow("fov_Cbo"));
+    ASSERT_NE(fov, nullptr);
+    EXPECT_EQ(fov->GetValue(), "100");
+    EXPECT_EQ(fov->GetCount(), 0U);
+    EXPECT_EQ(shown.FindWindow("Setting_Lbl(101)"), nullptr);
+    shown.MakeAllPages();
+    EXPECT_EQ(fov->GetValue(), "100");
+    EXPECT_EQ(fov->GetCount(), model.Document.fov_Cbo.Items.size());
+    EXPECT_EQ(fov->GetSelection(), model.Document.fov_Cbo.ListIndex);
+    EXPECT_NE(shown.FindWindow("Setting_Lbl(101)"), nullptr);
 }
 
 TEST_F(FigForm_, SavesWhatWasBound) {
