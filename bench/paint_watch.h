@@ -17,29 +17,11 @@ namespace lv {
 
 class PaintWatch : public wxEventFilter {
   public:
-#ifdef LV_CPU
-    struct Clock {
-        using duration = std::chrono::nanoseconds;
-        using rep = duration::rep;
-        using period = duration::period;
-        using time_point = std::chrono::time_point<Clock>;
-        static time_point now() {
-            timespec t;
-            clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
-            return time_point(std::chrono::seconds(t.tv_sec) + std::chrono::nanoseconds(t.tv_nsec));
-        }
-    };
-#else
     using Clock = std::chrono::steady_clock;
-#endif
     using Wanted = std::function<bool(const wxWindow&)>;
 
-    PaintWatch() {
-        wxEvtHandler::AddFilter(this);
-    }
-    ~PaintWatch() override {
-        wxEvtHandler::RemoveFilter(this);
-    }
+    PaintWatch() { wxEvtHandler::AddFilter(this); }
+    ~PaintWatch() override { wxEvtHandler::RemoveFilter(this); }
     PaintWatch(const PaintWatch&) = delete;
     PaintWatch& operator=(const PaintWatch&) = delete;
 
@@ -53,9 +35,7 @@ class PaintWatch : public wxEventFilter {
     }
 
     /// The time that it took, in milliseconds; nothing while it has not been seen.
-    [[nodiscard]] std::optional<double> Seen() const {
-        return milliseconds_;
-    }
+    [[nodiscard]] std::optional<double> Seen() const { return milliseconds_; }
 
     /// Handles events until it is seen; nothing if that takes seconds.
     std::optional<double> Wait() {

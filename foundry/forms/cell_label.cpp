@@ -128,6 +128,27 @@ bool CellLabel::ShowState() {
     return came;
 }
 
+// A page has a hundred labels and more: a text is measured once, and an empty one not at all.
+void CellLabel::PaintText(wxDC& canvas) {
+    if (Trim(shown_.Caption).empty()) {
+        return;
+    }
+    const wxSize size = GetClientSize();
+    const int margin = FromDIP(kLeftMargin);
+    const int room = size.x - (shown_.Centered ? 2 : margin + 2);
+    canvas.SetFont(shown_.Bold ? GetFont().Bold() : GetFont());
+    if (fitted_.Room != room || fitted_.Caption != shown_.Caption) {
+        const wxString text = shown_.Centered ? ToWx(Trim(shown_.Caption)) : ToWx(shown_.Caption);
+        fitted_ = {room, shown_.Caption, text, canvas.GetTextExtent(text)};
+        if (fitted_.Extent.x > room) {
+            fitted_.Drawn = wxControl::Ellipsize(text, canvas, wxELLIPSIZE_END, room);
+            fitted_.Extent = canvas.GetTextExtent(fitted_.Drawn);
+        }
+    }
+    const int left = shown_.Centered ? std::max(1, (size.x - fitted_.Extent.x) / 2) : margin;
+    canvas.DrawText(fitted_.Drawn, left, (size.y - fitted_.Extent.y) / 2);
+}
+
 void CellLabel::Paint() {
     wxAutoBufferedPaintDC canvas(this);
     const wxSize size = GetClientSize();
@@ -136,19 +157,8 @@ void CellLabel::Paint() {
     canvas.SetBrush(wxBrush(back));
     canvas.SetPen(wxPen(wxColour(96, 96, 96)));
     canvas.DrawRectangle(0, 0, size.x, size.y);
-    canvas.SetFont(shown_.Bold ? GetFont().Bold() : GetFont());
     canvas.SetTextForeground(ink);
-    const int margin = FromDIP(kLeftMargin);
-    const wxString text = shown_.Centered ? ToWx(Trim(shown_.Caption)) : ToWx(shown_.Caption);
-    const int room = size.x - (shown_.Centered ? 2 : margin + 2);
-    wxSize extent = canvas.GetTextExtent(text);
-    wxString drawn = text;
-    if (extent.x > room) {
-        drawn = wxControl::Ellipsize(text, canvas, wxELLIPSIZE_END, room);
-        extent = canvas.GetTextExtent(drawn);
-    }
-    const int left = shown_.Centered ? std::max(1, (size.x - extent.x) / 2) : margin;
-    canvas.DrawText(drawn, left, (size.y - extent.y) / 2);
+    PaintText(canvas);
     if (HasFocus()) {
         canvas.SetBrush(*wxTRANSPARENT_BRUSH);
         canvas.SetPen(wxPen(ink, std::max(2, FromDIP(2))));

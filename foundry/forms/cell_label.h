@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include <wx/dc.h>
 #include <wx/window.h>
 
 #include <functional>
@@ -52,13 +53,23 @@ class CellLabel : public wxWindow {
     [[nodiscard]] const CellLook& Shown() const { return shown_; }
 
   private:
+    /// The caption as far as there is room for it.
+    struct Fitted {
+        int Room = -1;
+        Text Caption;
+        wxString Drawn;
+        wxSize Extent;
+    };
+
     void Paint();
+    void PaintText(wxDC& canvas);
     void MoveFocus(wxKeyEvent& event);
 
     Look look_;
     CellGroup* group_;
     CellLook shown_;
     bool fresh_ = true;
+    Fitted fitted_;
     std::function<Text()> speaker_;
     Text spoken_;
 };
