@@ -65,6 +65,7 @@ class LorvaneApp : public wxApp {
         wxImage::AddHandler(new wxPNGHandler);
         // Nothing here is brought in line that way, and the editor has a thousand windows to ask at each idle moment.
         wxUpdateUIEvent::SetMode(wxUPDATE_UI_PROCESS_SPECIFIED);
+        wxIdleEvent::SetMode(wxIDLE_PROCESS_SPECIFIED);
         auto host = System::Make();
         if (!host) {
             return false;

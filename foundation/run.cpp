@@ -14,8 +14,11 @@ Error SetCurrentPath(Run& run, TextView path) {
     return run.System.Disk.ChangeDirectory(path);
 }
 
-void PauseSeconds(Run& run, double seconds) {
+void PauseSeconds(Run& run, double seconds, const std::function<void()>& work) {
     const double start = run.System.Time.Seconds();
+    if (work) {
+        work();
+    }
     while (run.System.Time.Seconds() - start <= seconds) {
         run.User.PumpEvents();
         run.System.Time.Sleep(5);

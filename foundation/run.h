@@ -5,6 +5,8 @@
 
 #pragma once
 
+#include <functional>
+
 #include "foundation/text.h"
 #include "foundation/topmost.h"
 #include "foundation/user_interface.h"
@@ -63,7 +65,7 @@ void EndProgram(Run& run);
 /// Makes the path's drive and directory current.
 Error SetCurrentPath(Run& run, TextView path);
 
-/// Returns after that many seconds; the windows stay alive meanwhile.
-void PauseSeconds(Run& run, double seconds);
+/// Returns after that many seconds; the windows stay alive meanwhile. The work is done first, within them.
+void PauseSeconds(Run& run, double seconds, const std::function<void()>& work = {});
 
 }  // namespace lv

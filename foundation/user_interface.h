@@ -65,6 +65,12 @@ class UserInterface {
     /// Any window of the ModalWindow family, told by its type: one door for all that came after the three above.
     virtual void ShowModal(ModalWindow&) {}
 
+    /// Makes what ShowModal will show of the window, out of sight, where there is time ahead of it. One at a time.
+    virtual void Prepare(ModalWindow&) {}
+
+    /// Drops what was prepared and not shown. To be called before its struct goes.
+    virtual void DropPrepared() {}
+
     /// One line of text, `offered` at first; nothing if the user cancelled.
     virtual std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered);
 

@@ -52,8 +52,10 @@ class Binder {
     /// Anything that brings itself in line when it is asked to; it answers whether something came or went.
     void OnShow(std::function<bool()> show) { showers_.push_back(std::move(show)); }
 
-    /// From now on a list with a field shows its text alone; its rows, which cost far more, come with FillOne.
+    /// From now on what may be long waits for FillOne: of a list with a field the rows (its text is shown), of a list
+    /// box, and of what OnShowLong brings in line, all until it is on the screen.
     void FillLater() { fillLater_ = true; }
+    void OnShowLong(wxWindow* view, std::function<bool()> show) { showers_.push_back(Long(view, std::move(show))); }
     /// Gives the next list its rows; false if all have them.
     bool FillOne();
 
@@ -70,6 +72,7 @@ class Binder {
         std::size_t Shower;
         std::shared_ptr<bool> Waiting;
     };
+    Shower Long(wxWindow* view, Shower show);
     void Add(const char* name, Control& model, wxWindow* view, Shower show);
 
     Handler after_;

@@ -51,21 +51,33 @@ void Binder::Bind(const char* name, ListBox& model, wxListBox* view, Handler cli
             Run(click);
         }
     });
-    Add(name, model, view, [&model, view, shown = std::vector<Text>()]() mutable {
-        if (shown.empty() && view->GetCount() == 0) {
-            wxArrayString rows;
-            for (const Text& item : model.Items) {
-                rows.Add(ToWx(item));
+    Add(name, model, view, Long(view, [&model, view, shown = std::vector<Text>()]() mutable {
+            if (shown.empty() && view->GetCount() == 0) {
+                wxArrayString rows;
+                for (const Text& item : model.Items) {
+                    rows.Add(ToWx(item));
+                }
+                view->Set(rows);
+                shown = model.Items;
             }
-            view->Set(rows);
-            shown = model.Items;
-        }
-        ShowRows(model.Items, shown, view);
-        if (view->GetSelection() != model.ListIndex) {
-            view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
-        }
-        return false;
-    });
+            ShowRows(model.Items, shown, view);
+            if (view->GetSelection() != model.ListIndex) {
+                view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
+            }
+            return false;
+        }));
+}
+
+Binder::Shower Binder::Long(wxWindow* view, Shower show) {
+    if (!fillLater_) {
+        return show;
+    }
+    const auto waiting = std::make_shared<bool>(true);
+    lateRows_.push_back({showers_.size(), waiting});
+    return [view, waiting, show = std::move(show)]() mutable {
+        *waiting = *waiting && !view->IsShownOnScreen();
+        return !*waiting && show();
+    };
 }
 
 void Binder::Bind(const char* name, ListBox& model, wxComboBox* view, Handler click,

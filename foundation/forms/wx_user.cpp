@@ -7,6 +7,7 @@
 #include <wx/filedlg.h>
 #include <wx/filename.h>
 #include <wx/html/helpctrl.h>
+#include <wx/scopeguard.h>
 #include <wx/settings.h>
 #include <wx/taskbar.h>
 #include <wx/textdlg.h>
@@ -57,18 +58,36 @@ wxWindow* WxUser::Owner() const {
     return form != nullptr && form->IsShownOnScreen() ? form : nullptr;
 }
 
-void WxUser::ShowModal(ModalWindow& window) {
-    Refresh();
+std::unique_ptr<wxDialog> WxUser::FormOf(ModalWindow& window) {
+    if (prepared_ && preparedOf_ == &window) {
+        return std::move(prepared_);
+    }
     for (const FormMaker& maker : makers_) {
-        if (const std::unique_ptr<wxDialog> form = maker(Owner(), window)) {
-            wxDialog* const below = onTop_;
-            onTop_ = form.get();
-            form->ShowModal();
-            onTop_ = below;
-            break;
+        if (std::unique_ptr<wxDialog> form = maker(Owner(), window)) {
+            return form;
         }
     }
+    return nullptr;
+}
+
+void WxUser::ShowModal(ModalWindow& window) {
     Refresh();
+    if (const std::unique_ptr<wxDialog> form = FormOf(window)) {
+        wxON_BLOCK_EXIT_SET(onTop_, onTop_);
+        onTop_ = form.get();
+        form->ShowModal();
+    }
+    Refresh();
+}
+
+void WxUser::Prepare(ModalWindow& window) {
+    DropPrepared();
+    prepared_ = FormOf(window);
+    preparedOf_ = &window;
+}
+
+void WxUser::DropPrepared() {
+    prepared_.reset();
 }
 
 void WxUser::ShowQuestionBox(QuestionBox_Frm& box) {

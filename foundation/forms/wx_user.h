@@ -40,6 +40,8 @@ class WxUser : public UserInterface {
     void AddForms(FormMaker maker) { makers_.push_back(std::move(maker)); }
 
     void ShowModal(ModalWindow& window) override;
+    void Prepare(ModalWindow& window) override;
+    void DropPrepared() override;
     void ShowQuestionBox(QuestionBox_Frm& box) override;
     Result<std::optional<Text>> ChooseFile(const FileRequest& request) override;
     void Refresh() override;
@@ -63,12 +65,15 @@ class WxUser : public UserInterface {
     struct Ruler;
     Ruler& TheRuler();
     [[nodiscard]] wxWindow* Owner() const;
+    std::unique_ptr<wxDialog> FormOf(ModalWindow& window);
 
     Files& files_;
     wxWindow* activeForm_ = nullptr;
     wxWindow* foremost_ = nullptr;
     std::vector<std::pair<const void*, std::function<void()>>> refresh_;
     std::vector<FormMaker> makers_;
+    std::unique_ptr<wxDialog> prepared_;
+    const ModalWindow* preparedOf_ = nullptr;
     wxDialog* onTop_ = nullptr;  // the dialog that is up: what it opens stands over it
     std::function<void(TextView)> popUp_;
     std::unique_ptr<wxHtmlHelpController> help_;

@@ -10,6 +10,7 @@
 #include "foundry/editor/aliases_page.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/editor/controllers.h"
+#include "foundry/editor/key_picture.h"
 #include "foundry/editor/kind_layout.h"
 #include "foundry/editor/settings_pages.h"
 #include "foundry/writing/save_script.h"
@@ -108,6 +109,13 @@ std::size_t ShownSection(const Fig_Frm& form) {
 }
 
 }  // namespace
+
+void PrepareEditor(Fig_Frm& form, const ScriptDialect& dialect) {
+    LayOutKeys(form);  // ahead of the reader, which gives the keys their colours
+    form.Document = MakeScriptDocument(dialect);
+    PaintLabels(form);
+    ApplyGameKind(form);
+}
 
 void Fig_Frm_Load(Fig_Frm& form) {
     Place(form);

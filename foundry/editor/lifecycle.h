@@ -8,6 +8,9 @@
 
 namespace lv {
 
+/// Ahead of the reader: what the window shows of any script of this game.
+void PrepareEditor(Fig_Frm& form, const ScriptDialect& dialect);
+
 /// Behind the reader, before the window is seen.
 void Fig_Frm_Load(Fig_Frm& form);
 

@@ -5,7 +5,6 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
-#include "foundry/editor/key_picture.h"
 #include "foundry/editor/lifecycle.h"
 #include "foundry/reading/open_script.h"
 
@@ -34,12 +33,16 @@ Text SelectedScript(Launcher& launcher) {
     return path;
 }
 
-void ShowSFSplash(SetupFoundry& foundry) {
+/// The second is time enough to make the window.
+void ShowSFSplash(SetupFoundry& foundry, Fig_Frm& form) {
     Run& run = foundry.launcher.run;
     foundry.Splash = {.Visible = true, .Progress_Lbl = {}};
     run.User.Refresh();
     run.User.PumpEvents();
-    PauseSeconds(run, 1);
+    PauseSeconds(run, 1, [&] {
+        PrepareEditor(form, DialectOfRun(run));
+        run.User.Prepare(form);
+    });
 }
 
 void UnloadSFSplash(SetupFoundry& foundry) {
@@ -47,19 +50,29 @@ void UnloadSFSplash(SetupFoundry& foundry) {
     foundry.launcher.run.User.Refresh();
 }
 
-void Edit(SetupFoundry& foundry, TextView path) {
+void Edit(SetupFoundry& foundry, Fig_Frm& form, TextView path) {
     Run& run = foundry.launcher.run;
-    const auto form = std::make_unique<Fig_Frm>(run, foundry.launcher.Lists);
-    LayOutKeys(*form);  // ahead of the reader, which gives the keys their colours
-    const bool opened = OpenScript(run, form->Document, *form, path);
+    const bool opened = OpenScript(run, form.Document, form, path);
     UnloadSFSplash(foundry);
     if (!opened || run.Ended) {
         return;
     }
-    Fig_Frm_Load(*form);
-    ShowModal(*form);
+    Fig_Frm_Load(form);
+    ShowModal(form);
     run.User.PumpEvents();
 }
+
+/// Nothing that was prepared outlives its struct.
+class PreparedWindow {
+  public:
+    explicit PreparedWindow(Run& run) : run_(run) {}
+    ~PreparedWindow() { run_.User.DropPrepared(); }
+    PreparedWindow(const PreparedWindow&) = delete;
+    PreparedWindow& operator=(const PreparedWindow&) = delete;
+
+  private:
+    Run& run_;
+};
 
 void TellWindowsError(Run& run, TextView what) {
     AskUser(run, "Windows Error",
@@ -69,16 +82,19 @@ void TellWindowsError(Run& run, TextView what) {
 }
 
 void OpenEditor(SetupFoundry& foundry, TextView path) {
-    ShowSFSplash(foundry);
-    if (foundry.launcher.run.Ended) {
-        UnloadSFSplash(foundry);
-        return;
-    }
+    Run& run = foundry.launcher.run;
+    const auto form = std::make_unique<Fig_Frm>(run, foundry.launcher.Lists);
+    const PreparedWindow prepared(run);
     try {
-        Edit(foundry, path);
+        ShowSFSplash(foundry, *form);
+        if (run.Ended) {
+            UnloadSFSplash(foundry);
+            return;
+        }
+        Edit(foundry, *form, path);
     } catch (const std::exception& failed) {
         UnloadSFSplash(foundry);
-        TellWindowsError(foundry.launcher.run, failed.what());
+        TellWindowsError(run, failed.what());
     }
 }
 

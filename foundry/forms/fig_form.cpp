@@ -23,6 +23,7 @@
 #include "foundry/forms/row_pages.h"
 #include "foundry/forms/settings_forms.h"
 #include "platform/scroll_bars.h"
+#include "platform/warm_up.h"
 
 namespace lv {
 
@@ -89,6 +90,7 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
       place_(*this, model.Placement),
       saveTimer_(this) {
     SetName("Fig_Frm");
+    SetExtraStyle(GetExtraStyle() | wxWS_EX_PROCESS_IDLE);
     parts_.Controls.FillLater();
     SetIcons(ProgramIcon());
     parts_.WatchKey = [this](CellLabel* label, Index index) { hand_.WatchKey(label, index); };
@@ -109,9 +111,16 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
     BindEvents();
     ShowState();
     GiveWhatsThis(this);
+    WarmUp(GetHandle());
+    WarmUp(keys_->GetHandle());
+}
+
+int FigForm::ShowModal() {
+    ShowState();
     FitToScreen();
     PlaceOnScreen();
     user_.OnRefresh(this, [this] { ShowState(); });
+    return wxDialog::ShowModal();
 }
 
 FigForm::~FigForm() {
@@ -204,9 +213,15 @@ void FigForm::BindEvents() {
         saveTimer_.GetId());
     Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
         event.Skip();
-        if (IsShownOnScreen() && (parts_.Controls.FillOne() || MakeOnePage())) {
+        if (!place_.IsPut()) {
+            PrepareOnePage();
+        } else if (painted_ && (parts_.Controls.FillOne() || MakeOnePage())) {
             event.RequestMore();
         }
+    });
+    content_->Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
+        event.Skip();
+        painted_ = place_.IsPut();
     });
     const auto keep = [this](wxEvent& event) {
         event.Skip();
@@ -335,6 +350,14 @@ bool FigForm::MakeOnePage() {
     page->Page()->Layout();
     GiveWhatsThis(page->Page());
     return true;
+}
+
+// One at a time, for the splash has dots to draw. There is nothing yet to fill lists with.
+void FigForm::PrepareOnePage() {
+    const auto page = std::ranges::find_if(late_, [](LatePage& late) { return !late.IsMade(); });
+    if (page != late_.end() && MakeOnePage()) {
+        WarmUp(page->Page()->GetHandle());
+    }
 }
 
 void FigForm::MakeAllPages() {

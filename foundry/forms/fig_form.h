@@ -24,6 +24,8 @@ class FigForm : public wxDialog {
     FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user);
     ~FigForm() override;
 
+    /// Made before the script is read, it is brought in line and placed by this.
+    int ShowModal() override;
     void ShowState();
 
     [[nodiscard]] Fig_Frm& Model() const { return model_; }
@@ -44,6 +46,7 @@ class FigForm : public wxDialog {
     bool PressAccessKey(const wxKeyEvent& event);
     void MakeShownPages();
     bool MakeOnePage();
+    void PrepareOnePage();
     void LeadToFound();
     void FitToScreen();
     void PlaceOnScreen();
@@ -61,6 +64,7 @@ class FigForm : public wxDialog {
     std::vector<LatePage> late_;
     wxTimer saveTimer_;  // Save_Tmr
     bool showing_ = false;
+    bool painted_ = false;  // has been seen
 };
 
 /// The form of Fig_Frm and of its dialogs, for a user interface's makers.

@@ -69,6 +69,7 @@ class LatePage {
     LatePage(wxWindow* page, std::function<void()> make) : page_(page), make_(std::move(make)) {}
 
     [[nodiscard]] wxWindow* Page() const { return page_; }
+    [[nodiscard]] bool IsMade() const { return !make_; }
     /// True if it was made now.
     bool Make();
 

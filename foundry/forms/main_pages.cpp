@@ -193,6 +193,7 @@ void MakeFreeFormPage(FigParts& parts, wxWindow* page) {
                                 wxTE_MULTILINE | wxTE_DONTWRAP | wxHSCROLL);
     text->SetFont(wxFont(wxFontInfo(text->GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE)));
     SetSpokenName(text->GetHandle(), "Free form additions");
+    text->SetName("FreeForm_Txt(0)");  // until a section is shown
     rows->Add(text, wxSizerFlags(1).Expand().Border(wxALL, kPageGap));
     page->SetSizer(rows);
     struct Shown {
@@ -208,7 +209,7 @@ void MakeFreeFormPage(FigParts& parts, wxWindow* page) {
         }
     });
     // The script may be long: what stands in the field is remembered, not asked for.
-    parts.Controls.OnShow([&form, text, shown] {
+    parts.Controls.OnShowLong(text, [&form, text, shown] {
         const ScriptDocument& document = form.Document;
         const std::size_t section =
             document.Section_Cbo.HasSelection() ? static_cast<std::size_t>(document.Section_Cbo.ListIndex) : 0;

@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <vector>
@@ -37,11 +38,26 @@ constexpr SlotBlock kBoundAliases{601, 627};  // the alias's name is the command
 constexpr SlotBlock kBoundScripts{701, 712};  // "exec " and a file name
 constexpr SlotBlock kMessages{801, 813};      // "say " or "say_team " and the text
 
-/// One value for each number from First to Last, gaps included, indexed by the number itself.
+/// One value for each number from First to Last, gaps included, indexed by the number itself. A value stays where it is
+/// when another array is assigned, for windows hold on to it.
 template <class T, SlotNumber First = kFirstSlot, SlotNumber Last = kLastSlot>
 class SlotArray {
   public:
     SlotArray() : values_(static_cast<std::size_t>(Last - First + 1)) {}
+    ~SlotArray() = default;
+    SlotArray(const SlotArray& other) = default;
+    SlotArray& operator=(const SlotArray& other) {
+        if (this != &other) {
+            std::ranges::copy(other.values_, values_.begin());
+        }
+        return *this;
+    }
+    SlotArray& operator=(SlotArray&& other) {
+        if (this != &other) {
+            std::ranges::move(other.values_, values_.begin());
+        }
+        return *this;
+    }
 
     T& operator[](SlotNumber slot) { return values_[Place(slot)]; }
     const T& operator[](SlotNumber slot) const { return values_[Place(slot)]; }

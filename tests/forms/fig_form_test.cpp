@@ -18,6 +18,23 @@ using testing::HasSubstr;
 
 constexpr const KindOfGame& kQuake = kGames[0];
 constexpr Color kGreen = 0x00c000;
+constexpr int kLongerThanADoubleClick = 700;
+constexpr int kTabMiddle = 12;
+
+/// The middle of the tab with this caption, on the screen.
+wxPoint TabCalled(const wxNotebook* tabs, const wxString& caption) {
+    int left = -1;
+    int right = -1;
+    for (int x = 0; x < tabs->GetSize().x; ++x) {
+        const int tab = tabs->HitTest(wxPoint(x, kTabMiddle));
+        if (tab != wxNOT_FOUND && tabs->GetPageText(static_cast<std::size_t>(tab)) == caption) {
+            left = left < 0 ? x : left;
+            right = x;
+        }
+    }
+    EXPECT_GE(left, 0) << "no tab " << caption;
+    return tabs->ClientToScreen(wxPoint((left + right) / 2, kTabMiddle));
+}
 
 TEST_F(FigForm_, F3OpensTheSelectedScript) {
     Use(kQuake, "bind w +forward\n");
@@ -103,6 +120,7 @@ TEST_F(FigForm_, ARowThatIsScrolledOutOfSightTakesNoKey) {
         MoveTo(hidden.GetTopLeft() + wxPoint(hidden.width / 2, hidden.height / 2));
         Drop();
         EXPECT_EQ(Shown("Setting_Lbl(101)"), "");
+        Settle(kLongerThanADoubleClick);
         MoveTo(MiddleOf("Key_Lbl(5)"));
         wxUIActionSimulator().MouseDown();
         Settle(60);
@@ -256,6 +274,28 @@ TEST_F(FigForm_, ATypedValueIsSavedThoughNoListHasIt) {
         DoAndAnswer([] { PressKey('S', wxMOD_CONTROL); }, [] { ClickOn(Find("Button_Cmd(0)")); });
     });
     EXPECT_THAT(File(), HasSubstr("\r\nfov 97\r\n"));
+}
+
+TEST_F(FigForm_, TheFirstClickOnATabTurnsThePage) {
+    Use(kQuake, "alias hop \"+jump\"\nalias duck \"+movedown\"\n");
+    Edit([this] {
+        MoveTo(TabCalled(FindAs<wxNotebook>("Main_Tab"), "Aliases"));
+        wxUIActionSimulator().MouseClick();
+        Settle(300);
+        EXPECT_EQ(form->Model().Main_Tab.Tab, static_cast<int>(EditorPage::Aliases));
+        EXPECT_TRUE(Find("Alias_Lst")->IsShownOnScreen());
+    });
+}
+
+TEST_F(FigForm_, PagesAndListsNotYetSeenAreMadeInIdleMoments) {
+    Use(kQuake, "sensitivity 5\n");
+    Edit([] {
+        EXPECT_TRUE(SettleUntil([] { return wxWindow::FindWindowByName("UnloadSF_Cmd") != nullptr; }, 5000));
+        EXPECT_TRUE(SettleUntil([] { return FindAs<wxComboBox>("fov_Cbo")->GetCount() > 1; }, 5000));
+        for (const char* name : {"Alias_Lst", "Setting_Lbl(501)", "FreeForm_Txt(0)"}) {
+            EXPECT_FALSE(Find(name)->IsShownOnScreen()) << name;
+        }
+    });
 }
 
 TEST_F(FigForm_, SavesWhatWasBound) {

@@ -59,6 +59,15 @@ TEST_F(RunTest, PauseSecondsKeepsTheWindowsAlive) {
     EXPECT_GT(user.Pumps, 10);
 }
 
+TEST_F(RunTest, TheWorkOfAPauseIsDoneWithinIt) {
+    PauseSeconds(run, 1, [this] {
+        EXPECT_EQ(user.Pumps, 0);
+        system.Time.Elapsed += 0.4;
+    });
+    EXPECT_GT(system.Time.Elapsed, 1.0);
+    EXPECT_LT(system.Time.Elapsed, 1.1);
+}
+
 TEST_F(RunTest, PauseSecondsOfNothingPumpsOnce) {
     PauseSeconds(run, 0);
     EXPECT_EQ(user.Pumps, 1);

@@ -39,6 +39,8 @@ class ScriptedUser : public UserInterface {
     std::deque<Result<std::optional<Text>>> FileAnswers;
     std::vector<FileRequest> FileRequests;
     std::function<void()> OnPump;
+    std::function<void(ModalWindow&)> OnPrepare;
+    int PreparedDropped = 0;
     int Refreshes = 0;
     int Pumps = 0;
     bool ProgramEnded = false;
@@ -54,6 +56,12 @@ class ScriptedUser : public UserInterface {
             OnPump();
         }
     }
+    void Prepare(ModalWindow& window) override {
+        if (OnPrepare) {
+            OnPrepare(window);
+        }
+    }
+    void DropPrepared() override { ++PreparedDropped; }
     void EndProgram() override { ProgramEnded = true; }
     int TextWidth(TextView line) override { return static_cast<int>(line.size()) * 8; }
     int TextHeight() override { return 16; }

@@ -98,6 +98,34 @@ TEST_F(SetupFoundryTest, TheSplashIsUpForASecondAheadOfTheReader) {
     EXPECT_GE(user.Refreshes - refreshes, 2);
 }
 
+TEST_F(SetupFoundryTest, TheWindowIsPreparedForTheGameWhileTheSplashIsUp) {
+    LoadWithScript();
+    const ModalWindow* prepared = nullptr;
+    user.OnPrepare = [&](ModalWindow& window) {
+        auto& form = dynamic_cast<Fig_Frm&>(window);
+        EXPECT_TRUE(foundry.Splash.Visible);
+        EXPECT_EQ(form.Document.CurrentScriptPath, "");
+        EXPECT_EQ(form.Document.Dialect.GameKind, 1);
+        EXPECT_EQ(form.Document.Setting_Lbl[101].Caption, "");
+        prepared = &form;
+    };
+    user.In<Fig_Frm>([&](Fig_Frm& form) {
+        EXPECT_EQ(&form, prepared);
+        EXPECT_EQ(user.PreparedDropped, 0);
+        Fig_Frm_Unload(form);
+    });
+    SetupFoundry_Bar_Click(foundry);
+    EXPECT_EQ(user.PreparedDropped, 1);
+}
+
+TEST_F(SetupFoundryTest, WhatWasPreparedGoesWhenTheScriptCannotBeRead) {
+    LoadWithScript();
+    user.OnPrepare = [this](ModalWindow&) { system.Disk.Delete("C:\\QUAKE\\ID1\\MY.CFG"); };
+    user.Expect({"Script Not Opened", "Error opening specified script file."});
+    SetupFoundry_Bar_Click(foundry);
+    EXPECT_EQ(user.PreparedDropped, 1);
+}
+
 TEST_F(SetupFoundryTest, EventsArePumpedOnceMoreWhenTheEditorIsClosed) {
     LoadWithScript();
     int inside = 0;

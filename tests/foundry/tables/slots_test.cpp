@@ -23,6 +23,20 @@ bool Dropped(TextView command, Index kind) {
     return match.Known && match.Slot == kNoSlot;
 }
 
+TEST(SlotArray, AValueStaysWhereItIsWhenAnotherArrayIsAssigned) {
+    SlotArray<Text> mine;
+    const Text* place = &mine[503];
+    SlotArray<Text> other;
+    other[503] = "moved";
+    mine = std::move(other);
+    EXPECT_EQ(*place, "moved");
+    other = mine;
+    EXPECT_EQ(other[503], "moved");
+    const SlotArray<Text> third = std::move(mine);
+    EXPECT_EQ(third[503], "moved");
+    EXPECT_EQ(place, &mine[503]);
+}
+
 TEST(SlotFromCommand, ReadsAnyKindsSpellingOfACommandOfAll) {
     EXPECT_EQ(SlotOf("use blaster", 1), 201);
     EXPECT_EQ(SlotOf("moveforward", 3), 101);

@@ -1,0 +1,13 @@
+// platform/warm_up.h
+//
+// A window's first show, in part done ahead.
+
+#pragma once
+
+namespace lv {
+
+/// `window` is the native handle of a window, or of a page in one, that is not yet shown: what the system needs for the
+/// show, and can have before it, is made now.
+void WarmUp(void* window);
+
+}  // namespace lv

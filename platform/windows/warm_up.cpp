@@ -1,0 +1,8 @@
+#include "platform/warm_up.h"
+
+namespace lv {
+
+// Windows makes all of a window with its controls.
+void WarmUp(void*) {}
+
+}  // namespace lv
