@@ -33,7 +33,13 @@ constexpr KeyCodeRow kCodes[] = {
 };
 // clang-format on
 
+// X11's own codes, for keys that the toolkit takes for others. Windows' codes end below them.
+constexpr unsigned kAltGr = 0xfe03;
+constexpr unsigned kSuperLeft = 0xffeb;
+constexpr unsigned kSuperRight = 0xffec;
+
 constexpr Index kA = 1;
+constexpr Index kAlt = 51;
 constexpr Index kZero = 27;
 constexpr Index kF1 = 37;
 constexpr Index kMouse1 = 79;  // right 80, middle 81
@@ -43,6 +49,15 @@ constexpr Index kWheelDown = 97;
 }  // namespace
 
 Index LabelOfKey(const wxKeyEvent& event) {
+    switch (event.GetRawKeyCode()) {
+        case kAltGr:
+            return kAlt;
+        case kSuperLeft:
+        case kSuperRight:
+            return kNoKey;
+        default:
+            break;
+    }
     const int code = event.GetKeyCode();
     if (code >= 'A' && code <= 'Z') {
         return static_cast<Index>(kA + code - 'A');
