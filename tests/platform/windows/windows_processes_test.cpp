@@ -99,6 +99,28 @@ TEST(StartBatch, SaysWhatIsMissing) {
     EXPECT_NE(failed.Text.find("T:\\NONE"), std::string::npos) << failed.Text;
 }
 
+TEST(ReaderOf, IsTheCommandProcessorAlways) {
+    Yard yard;
+    EXPECT_EQ(yard.Programs.ReaderOf("T:\\QUAKE", "GAME.EXE -a", "GAME.EXE"), LineReader::kCommandProcessor);
+    EXPECT_EQ(yard.Programs.ReaderOf("T:\\QUAKE", "GO.BAT -a", "GO.BAT"), LineReader::kBatch);
+    EXPECT_EQ(yard.Programs.ReaderOf("T:\\NONE", "", ""), LineReader::kCommandProcessor);
+}
+
+TEST(StartProgram, GivesABatchNoArgumentThatItWouldMisread) {
+    Yard yard;
+    WriteBytes(L"T:\\QUAKE\\go.bat", "@echo off\r\ncd /d T:\\QUAKE\r\nGAME.EXE %*\r\n");
+    EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\QUAKE").Number, 0);
+    for (const std::string word : {"a&md pwned", "%windir%", "a|b", "a\"b", "a^b"}) {
+        const Error failed = yard.Programs.StartProgram("T:\\QUAKE\\go.bat", {word});
+        EXPECT_EQ(failed.Number, 75) << word;
+        EXPECT_EQ(failed.Text,
+                  "The command processor would not read this as one word of text, and nothing was started: " + word);
+    }
+    EXPECT_EQ(yard.Programs.StartProgram("T:\\QUAKE\\go.bat", {"my best.cfg"}).Number, 0);
+    EXPECT_THAT(After("ARGUMENT=", Yard::Said()), ElementsAre("my best.cfg"));
+    EXPECT_EQ(GetFileAttributesW(L"T:\\QUAKE\\pwned"), INVALID_FILE_ATTRIBUTES);
+}
+
 TEST(StartProgram, HandsItsArgumentsOverAsTheyAre) {
     Yard yard;
     EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\QUAKE").Number, 0);
