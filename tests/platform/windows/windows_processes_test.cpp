@@ -3,10 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <vector>
 
 #include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
+#include "tests/support/test_paths.h"
 #include "tests/support/windows/own_window.h"
 #include "this_system.h"
 
@@ -89,6 +91,27 @@ TEST(StartBatch, TakesTheCurrentDirectoryWithoutOne) {
     EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\QUAKE").Number, 0);
     EXPECT_EQ(yard.Programs.StartBatch("", "lv_666.bat").Number, 0);
     EXPECT_THAT(After("DIRECTORY=", Yard::Said()), ElementsAre("T:\\QUAKE"));
+}
+
+// Wine names what lies on no drive by such paths, and the program takes them for a network's. What part of the name
+// would run, would run in the system's directory.
+TEST(StartBatch, RunsNoPartOfADirectorysNameOnAShare) {
+    Yard yard;
+    std::wstring share = L"\\\\?\\unix";
+    for (const char c : TestBinaryDir()) {
+        share += c == '/' ? L'\\' : static_cast<wchar_t>(c);
+    }
+    share += L"\\share&md lv_pwned&";
+    CreateDirectoryW(share.c_str(), nullptr);
+    WriteBytes(share + L"\\lv_666.bat", "exit\r\n");
+    std::array<wchar_t, MAX_PATH> system{};
+    GetSystemDirectoryW(system.data(), static_cast<UINT>(system.size()));
+    const std::wstring pwned = std::wstring(system.data()) + L"\\lv_pwned";
+    RemoveDirectoryW(pwned.c_str());
+    EXPECT_EQ(yard.Programs.StartBatch(FromWideLossy(share), "lv_666.bat").Number, 0);
+    EXPECT_FALSE(WaitUntil([&] { return GetFileAttributesW(pwned.c_str()) != INVALID_FILE_ATTRIBUTES; }, 3000));
+    DeleteFileW((share + L"\\lv_666.bat").c_str());
+    RemoveDirectoryW(share.c_str());
 }
 
 TEST(StartBatch, SaysWhatIsMissing) {
