@@ -32,11 +32,6 @@ constexpr ScriptRow kScriptFiles[] = {
     {spy_slot::kSin, spy_slot::kSin, &LaunchTexts::Quake2Script, spy_slot::kQuake2},
 };
 
-bool IsInUse(SpyLaunch& launch, std::size_t slot) {
-    const CheckBox* const box = InstalledBox(launch.Form, slot);
-    return launch.Form.ExeSpy_Cbo[slot].HasSelection() && (box == nullptr || box->Value == 1);
-}
-
 /// False if the executable is gone, which the user was told.
 bool NoteGame(SpyLaunch& launch, std::size_t slot, SpyGame& game) {
     Run& run = launch.launcher.run;
@@ -57,7 +52,7 @@ bool NoteGame(SpyLaunch& launch, std::size_t slot, SpyGame& game) {
 bool NoteGames(SpyLaunch& launch, SpyGames& games) {
     launch.Texts.LaunchStep = 250;
     for (std::size_t slot = 0; slot < kSpySlots; ++slot) {
-        if (IsInUse(launch, slot) && !NoteGame(launch, slot, games[slot])) {
+        if (SlotInUse(launch.Form, slot) && !NoteGame(launch, slot, games[slot])) {
             return false;
         }
         games[slot].Script = ItemValue(launch.Form.ScriptSpy_Cbo[slot].Selected());

@@ -107,6 +107,11 @@ CheckBox* InstalledBox(GameSpyConfig_Frm& form, std::size_t slot) {
     return boxes[slot];
 }
 
+bool SlotInUse(GameSpyConfig_Frm& form, std::size_t slot) {
+    const CheckBox* const box = InstalledBox(form, slot);
+    return form.ExeSpy_Cbo[slot].HasSelection() && (box == nullptr || box->Value == 1);
+}
+
 void GameSpyConfig_Load(GameSpyConfig_Frm& form) {
     for (std::size_t slot = 0; slot < kSpySlots; ++slot) {
         FillExecutables(form, slot);

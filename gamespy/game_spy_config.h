@@ -44,6 +44,9 @@ struct GameSpyConfig_Frm : ModalWindow {
 /// The check box of a slot; nullptr for Quake, which has none.
 CheckBox* InstalledBox(GameSpyConfig_Frm& form, std::size_t slot);
 
+/// Whether the games of the slot are to be started: an executable picked, and the box ticked.
+bool SlotInUse(GameSpyConfig_Frm& form, std::size_t slot);
+
 /// Fills the lists, selects what was selected last time, ticks the games there are, and looks for GameSpy 3D.
 void GameSpyConfig_Load(GameSpyConfig_Frm& form);
 

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "foundation/field_strings.h"
+#include "gamespy/server_address.h"
 
 namespace lv {
 
@@ -15,11 +16,6 @@ constexpr std::size_t kPortLength = 5;
 
 bool IsBlank(char c) {
     return static_cast<unsigned char>(c) <= ' ' || c == '\x7F';
-}
-
-bool FitsAnAddress(TextView part) {
-    return !part.empty() &&
-           std::none_of(part.begin(), part.end(), [](char c) { return IsBlank(c) || Holds(";:\"", TextView(&c, 1)); });
 }
 
 /// The four stretches around the first three dots; the fourth ends at the next one.
@@ -70,9 +66,10 @@ TextView PortOf(TextView field) {
     return port.substr(0, StepTo(port, 0, IsBlank));
 }
 
-/// What stands before the first ":", and behind it up to a blank.
+/// What stands before the first ":", and behind it up to a blank. The colons of an IPv6 address are in brackets.
 CapturedServer ReadAddress(TextView line) {
-    const std::size_t colon = std::min(line.find(':'), line.size());
+    const std::size_t bracket = line.starts_with('[') ? std::min(line.find(']'), line.size()) : 0;
+    const std::size_t colon = std::min(line.find(':', bracket), line.size());
     const TextView behind = line.substr(std::min(colon + 1, line.size()));
     return {"", Text(line.substr(0, colon)), Text(behind.substr(0, std::min(behind.find(' '), behind.size())))};
 }
@@ -113,10 +110,19 @@ CapturedServer ReadWords(TextView words, int hostAt) {
     return server;
 }
 
-/// A dotted host, and a port of digits or none.
+/// A host of numbers or of several names, and a port of digits or none.
 bool HasAddress(const CapturedServer& server) {
-    return FitsAnAddress(server.Host) && Holds(server.Host, ".") &&
-           server.Port.find_first_not_of("0123456789") == Text::npos;
+    return IsHost(server.Host) && (Holds(server.Host, ".") || Holds(server.Host, ":")) &&
+           (server.Port.empty() || IsPort(server.Port));
+}
+
+/// Without host and port if either is none.
+CapturedServer AddressesOnly(CapturedServer server) {
+    if ((!server.Host.empty() && !IsHost(server.Host)) || (!server.Port.empty() && !IsPort(server.Port))) {
+        server.Host.clear();
+        server.Port.clear();
+    }
+    return server;
 }
 
 }  // namespace
@@ -124,11 +130,11 @@ bool HasAddress(const CapturedServer& server) {
 AssembledAddress AssembleAddress(TextView text) {
     const auto fields = SplitAtDots(text);
     const std::array<TextView, 4> octets = {LastOctetBefore(fields[0]), fields[1], fields[2], FirstOctetOf(fields[3])};
-    if (!std::all_of(octets.begin(), octets.end(), FitsAnAddress)) {
+    if (!std::all_of(octets.begin(), octets.end(), IsHostPart)) {
         return {"", kNoAddress};
     }
     const TextView port = PortOf(fields[3]);
-    if (port.size() < 3 || !FitsAnAddress(port)) {
+    if (port.size() < 3 || !IsPort(port)) {
         return {"", kNoPort};
     }
     return {Join(octets[0], ".", octets[1], ".", octets[2], ".", octets[3], ":", port), nullptr};
@@ -164,12 +170,12 @@ bool IsAddressAlone(TextView line) {
 }
 
 CapturedServer ReadOneServer(TextView line) {
-    return IsAddressAlone(line) ? ReadAddress(line) : ReadColumns(line);
+    return AddressesOnly(IsAddressAlone(line) ? ReadAddress(line) : ReadColumns(line));
 }
 
 CapturedServer ReadListedServer(TextView line, bool addressesOnly) {
     if (addressesOnly) {
-        CapturedServer server = ReadAddress(line);
+        CapturedServer server = AddressesOnly(ReadAddress(line));
         server.Title = Join("Server ", server.Host, ":", server.Port);
         return server;
     }
@@ -184,7 +190,7 @@ CapturedServer ReadListedServer(TextView line, bool addressesOnly) {
             return other;
         }
     }
-    return server;
+    return AddressesOnly(server);
 }
 
 }  // namespace lv

@@ -18,8 +18,8 @@ struct AssembledAddress {
 constexpr const char* kNoAddress = "Could not assemble IP address from data";
 constexpr const char* kNoPort = "Could not assemble Port from data";
 
-/// The address in free text. The dots of the address are the first three of the text. What would end a word, a line or
-/// a command of a game's script is refused wherever it would become part of the address.
+/// The address in free text. The dots of the address are the first three of the text. What is no host and no port by
+/// server_address.h is refused.
 AssembledAddress AssembleAddress(TextView text);
 
 struct CapturedServer {
@@ -38,6 +38,8 @@ Text MarkLines(TextView copied);
 /// The number of lines in a marked text, and one of them, from 0.
 Index CountLines(TextView marked);
 Text LineAt(TextView marked, Index index);
+
+// In what the functions below give, host and port are empty if either is none by server_address.h.
 
 /// Whether GameSpy copied addresses alone, without names.
 bool IsAddressAlone(TextView line);

@@ -8,11 +8,6 @@ namespace lv {
 
 namespace {
 
-struct ServerAddress {
-    Text HostAndPort;  // "host:port", or the host alone
-    Text Password;
-};
-
 LaunchStop StopWith(Text message) {
     return {StopKind::Message, std::move(message), {}};
 }
@@ -76,6 +71,16 @@ void ConnectTo(const ServerAddress& server, const Composition& c) {
 
 }  // namespace
 
+ServerAddress ServerOf(TextView record) {
+    const Text host = FieldOf(record, 0);
+    const Text port = FieldOf(record, 1);
+    return {port.empty() ? host : Join(host, ":", port), FieldOf(record, 3)};
+}
+
+Text QuotedIfBlank(TextView name) {
+    return Holds(name, Blank) ? Join(DoubleQuote, name, DoubleQuote) : Text(name);
+}
+
 LaunchStop WrapQuake(const Composition& c) {
     c.Texts.GameCommand = Join("qlaunch quakeudp.dll ", c.Texts.GameCommand, "-noipx -noserial -mpath ");
     return {};
@@ -114,10 +119,7 @@ LaunchStop ScriptRule(const Composition& c) {
             return stop;
         }
     }
-    Text name = Trim(LastPathPart(path));
-    if (Holds(name, Blank)) {
-        name = Join(DoubleQuote, name, DoubleQuote);
-    }
+    const Text name = QuotedIfBlank(Trim(LastPathPart(path)));
     if (c.Game.GameKind == game_kind::kUnreal) {
         c.Texts.UnrealCommand += Join("INI=", name, Blank);
         return {};
@@ -182,10 +184,7 @@ LaunchStop GraphicsDriverRule(const Composition& c) {
 }
 
 LaunchStop ServerRule(const Composition& c) {
-    const Text& record = *c.Selected.Server;
-    const Text host = FieldOf(record, 0);
-    const Text port = FieldOf(record, 1);
-    ConnectTo({port.empty() ? host : Join(host, ":", port), FieldOf(record, 3)}, c);
+    ConnectTo(ServerOf(*c.Selected.Server), c);
     return {};
 }
 

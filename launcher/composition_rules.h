@@ -8,6 +8,17 @@
 
 namespace lv {
 
+struct ServerAddress {
+    Text HostAndPort;  // "host:port", or the host alone
+    Text Password;
+};
+
+/// Of a record of the catalog without its title, "host;port;type;password".
+ServerAddress ServerOf(TextView record);
+
+/// In double quotes if it holds a blank.
+Text QuotedIfBlank(TextView name);
+
 /// Plain Quake goes online through qlaunch.
 LaunchStop WrapQuake(const Composition& c);
 

@@ -2,6 +2,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
+#include "launcher/composition_rules.h"
 
 namespace lv {
 
@@ -25,9 +26,8 @@ Text BatchText(TextView environmentLines, bool showSet, TextView exeDrive, TextV
     if (showSet) {
         batch.append(Join("SET", NewLine, "PAUSE", NewLine));
     }
-    const TextView quote = Holds(directory, Blank) ? DoubleQuote : TextView();
     const Text command = game.GameKind == game_kind::kUnreal ? texts.UnrealCommand : Trim(texts.GameCommand);
-    return batch.append(Join(exeDrive, NewLine, "cd ", quote, directory, quote, NewLine, command));
+    return batch.append(Join(exeDrive, NewLine, "cd ", QuotedIfBlank(directory), NewLine, command));
 }
 
 TextView PifTemplateName(Index gameKind) {

@@ -7,10 +7,12 @@
 #include "foundation/settings.h"
 #include "gamespy/configure.h"
 #include "gamespy/game_spy_fetch.h"
+#include "gamespy/spy_names.h"
 #include "launcher/environment_lines.h"
 #include "launcher/launch_composition.h"
 #include "launcher/launch_files.h"
 #include "launcher/missing_executable.h"
+#include "launcher/name_check.h"
 #include "launcher/unreal_options.h"
 #include "launcher/window_life.h"
 #include "video/profile_model.h"
@@ -36,6 +38,7 @@ struct Click {
     Text Script;  // what goes into lv_666.qs
     Text Batch;   // what goes into lv_666.bat
     Text FailureFile;
+    BatchCommand Known;  // of the batch's command
 };
 
 void Tell(Run& run, TextView text) {
@@ -77,6 +80,16 @@ bool ExecutableIsThere(Click& click) {
     }
     Tell(run, MissingExecutableText(path, "4) Windows incorrectly reported that the file is missing."));
     return false;
+}
+
+/// False if a name of the launch would be read as more than text; the user was told. Nothing is written before.
+bool NamesOfLaunchAreText(Click& click) {
+    const std::vector<LaunchName> names = NamesOf(click.Selection, click.Game);
+    const Text command = ComposeLaunch(click.Selection, click.Game, click.Profile, {}).GameCommand;
+    const Text& directory = click.Game.DefaultGameDirectory;
+    click.Known = KnownCommand(click.Selection, names);
+    return NamesAreText(click.run, names, click.run.System.Programs.ReaderOf(directory, command, click.Known.Program),
+                        directory);
 }
 
 LaunchHooks HooksOf(Launcher& launcher) {
@@ -210,7 +223,7 @@ void StartGame(Click& click) {
     }
     PutPif(click);
     HideMainWindow(click.launcher);
-    if (const Error failed = run.System.Programs.StartBatch(directory, kLaunchBatchFile)) {
+    if (const Error failed = run.System.Programs.StartBatch(directory, kLaunchBatchFile, click.Known)) {
         ShowMainWindow(click.launcher);  // no game has the screen, so the window comes back
         ReportError(click, failed);
         return;
@@ -243,13 +256,15 @@ void LaunchThroughGameSpy(Click& click) {
     GameSpyConfig_Frm form(click.run, click.launcher.Window.Exe_Cbo);
     GameSpyConfig_Load(form);
     ShowModal(form);
-    if (form.DialogResult != 0 && ExecutableIsThere(click) && Compose(click)) {
+    if (form.DialogResult != 0 && ExecutableIsThere(click) && SpyNamesAreText(form, click.Selection, click.Game) &&
+        Compose(click)) {
         ConfigureInstead(click, form);
     }
 }
 
 void LaunchDirectly(Click& click) {
-    if (ExecutableIsThere(click) && Compose(click) && WriteScript(click) && WriteBatch(click) && ViewOrGoOn(click)) {
+    if (ExecutableIsThere(click) && NamesOfLaunchAreText(click) && Compose(click) && WriteScript(click) &&
+        WriteBatch(click) && ViewOrGoOn(click)) {
         StartGame(click);
     }
 }
@@ -323,6 +338,7 @@ void DoIt_Cmd_Click(Launcher& launcher, int index) {
                 ReadProfile(run),
                 SelectionOf(launcher.Window),
                 GameOf(run),
+                {},
                 {},
                 {},
                 {},

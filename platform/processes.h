@@ -8,19 +8,40 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/command_text.h"
 #include "platform/error.h"
 
 namespace lv {
+
+/// One argument of a batch's command that is no text of the user's: the name of a directory, a map, a server.
+struct GivenWord {
+    std::string Written;      // as it stands in the command
+    std::string Argument;     // what the program is to get
+    std::string Option = {};  // what stands right before it, in both: "INI="
+};
+
+/// What the writer of a batch knows of its command, and the command's text alone does not tell.
+struct BatchCommand {
+    std::string Program;           // the program's file name as it stands in the command; empty: looked for there
+    std::vector<GivenWord> Given;  // in the command's order
+};
 
 class Processes {
   public:
     virtual ~Processes() = default;
 
-    /// Starts the batch file `name` in `directory`, with a normal window. The error of a program that cannot be
-    /// started carries a text that says what to do.
-    virtual Error StartBatch(std::string_view directory, std::string_view name) = 0;
+    /// What would read the command of a batch in `directory` before its program does. `program` is the program's
+    /// file name as it stands in the command.
+    virtual LineReader ReaderOf(std::string_view directory, std::string_view command, std::string_view program) = 0;
 
-    /// Starts a program by its path, or by its name alone when the system finds it there.
+    /// Starts the batch file `name` in `directory`, with a normal window. Where nobody reads the command, each given
+    /// word reaches the program as one argument; on Linux a given word that a reader would misread is error 75. The
+    /// error of a program that cannot be started carries a text that says what to do.
+    virtual Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) = 0;
+    Error StartBatch(std::string_view directory, std::string_view name) { return StartBatch(directory, name, {}); }
+
+    /// Starts a program by its path, or by its name alone when the system finds it there. Error 75 for an argument of
+    /// a batch or a DOS program that a reader would misread.
     virtual Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) = 0;
 
     /// Shows a manual of the kind that Windows has a viewer of its own for, LV3D.hlp. Error 53 without that viewer.

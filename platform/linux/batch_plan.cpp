@@ -82,6 +82,37 @@ std::size_t TakeBackslashes(std::string_view text, std::size_t at, std::string& 
     return count + 1;
 }
 
+// The first of the given words, from `next` on, that stands at the front as a word of its own; their number if none.
+std::size_t GivenAt(std::string_view text, const std::vector<GivenWord>& given, std::size_t next) {
+    for (; next < given.size(); ++next) {
+        const std::string word = given[next].Option + given[next].Written;
+        if (!word.empty() && text.starts_with(word) && (text.size() == word.size() || IsBlank(text[word.size()]))) {
+            break;
+        }
+    }
+    return next;
+}
+
+// The word at `at`, which is moved behind it.
+std::string TakeWord(std::string_view command, std::size_t& at) {
+    std::string word;
+    bool grouped = false;
+    while (at < command.size() && (grouped || !IsBlank(command[at]))) {
+        if (command[at] == '\\') {
+            at += TakeBackslashes(command, at, word);
+        } else if (command[at] != '"') {
+            word += command[at++];
+        } else if (grouped && at + 1 < command.size() && command[at + 1] == '"') {
+            word += '"';
+            at += 2;
+        } else {
+            grouped = !grouped;
+            ++at;
+        }
+    }
+    return word;
+}
+
 }  // namespace
 
 std::vector<BatchLine> ReadBatchLines(std::string_view text) {
@@ -122,30 +153,24 @@ BatchPlan ParseBatch(std::string_view text) {
     return plan;
 }
 
-std::vector<std::string> SplitArguments(std::string_view command) {
+std::vector<std::string> SplitArguments(std::string_view command, const std::vector<GivenWord>& given) {
     std::vector<std::string> words;
     std::size_t at = 0;
+    std::size_t next = 0;
     while (true) {
         at = std::min(command.find_first_not_of(" \t", at), command.size());
         if (at == command.size()) {
             return words;
         }
-        std::string word;
-        bool grouped = false;
-        while (at < command.size() && (grouped || !IsBlank(command[at]))) {
-            if (command[at] == '\\') {
-                at += TakeBackslashes(command, at, word);
-            } else if (command[at] != '"') {
-                word += command[at++];
-            } else if (grouped && at + 1 < command.size() && command[at + 1] == '"') {
-                word += '"';
-                at += 2;
-            } else {
-                grouped = !grouped;
-                ++at;
-            }
+        const std::size_t found = GivenAt(command.substr(at), given, next);
+        if (found < given.size()) {
+            const GivenWord& word = given[found];
+            words.push_back(word.Option + word.Argument);
+            at += word.Option.size() + word.Written.size();
+            next = found + 1;
+        } else {
+            words.push_back(TakeWord(command, at));
         }
-        words.push_back(std::move(word));
     }
 }
 

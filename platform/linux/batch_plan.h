@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/processes.h"
+
 namespace lv {
 
 enum class BatchLineKind {
@@ -43,7 +45,8 @@ BatchPlan ParseBatch(std::string_view text);
 
 /// A command line's words by the rules of the Microsoft C runtime: blanks and tabs part, double quotes group,
 /// backslashes are themselves but ahead of a double quote, where each two give one and an odd one makes the quote
-/// literal; two double quotes inside a group are one literal quote.
-std::vector<std::string> SplitArguments(std::string_view command);
+/// literal; two double quotes inside a group are one literal quote. A given word that stands where a word may begin is
+/// one argument whatever it holds; each is taken once, in their order.
+std::vector<std::string> SplitArguments(std::string_view command, const std::vector<GivenWord>& given = {});
 
 }  // namespace lv

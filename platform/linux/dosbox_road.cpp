@@ -28,11 +28,12 @@ std::string WithPercent(std::string_view text, std::string_view percent) {
     return out;
 }
 
-// Only with short names does the path mean the same within DOSBox.
+// Only with short names, and such that DOS's shell takes for text, does the path mean the same within DOSBox.
 bool HasShortNames(std::string_view path) {
     while (!path.empty()) {
         const std::size_t end = std::min(path.find('\\'), path.size());
-        if (end > 0 && !IsShortName(path.substr(0, end))) {
+        const std::string_view name = path.substr(0, end);
+        if (end > 0 && (!IsShortName(name) || !ReadsAsOneWord(name, LineReader::kDosShell))) {
             return false;
         }
         path.remove_prefix(std::min(end + 1, path.size()));
@@ -82,6 +83,11 @@ Result<HostCommand> DosBoxRoad(Files& disk, const GameStart& start) {
     if (dosbox.empty()) {
         return Error{error::kFileNotFound,
                      "DOSBox is needed to start this DOS program. Install the Debian package \"dosbox\"."};
+    }
+    const std::string& path = start.Game.Program.Path;
+    const std::string program = path.substr(path.rfind('\\') + 1);
+    if (!ReadsAsOneWord(program, LineReader::kDosShell)) {
+        return MisreadWord(program, LineReader::kDosShell);
     }
     char drive = UpperCase(start.Directory[0]);
     std::string directory = start.Directory.substr(2);

@@ -9,8 +9,8 @@
 
 namespace lv {
 
-/// Error 53 if DOSBox is not installed, 75 for a directory that cannot be said to it, 5 if there is more to say than
-/// DOSBox takes.
+/// Error 53 if DOSBox is not installed, 75 for a directory or a program that cannot be said to it, 5 if there is more
+/// to say than DOSBox takes.
 Result<HostCommand> DosBoxRoad(Files& disk, const GameStart& start);
 
 /// A name that DOS itself could have given: up to eight characters, perhaps a dot and up to three.

@@ -1,6 +1,55 @@
 #include "platform/linux/game_start.h"
 
+#include "platform/code_page.h"
+
 namespace lv {
+
+std::vector<std::string> HostArguments(const GameStart& start) {
+    std::vector<std::string> arguments;
+    for (const std::string& argument : SplitArguments(start.Game.Program.Arguments, start.Given)) {
+        arguments.push_back(ToUtf8(argument));
+    }
+    return arguments;
+}
+
+std::vector<std::string> BatchEnvironment(const GameStart& start) {
+    std::vector<std::string> environment = start.Environment;
+    for (const auto& [name, value] : start.Plan.environment) {
+        SetVariable(environment, ToUtf8(name), ToUtf8(value));
+    }
+    return environment;
+}
+
+Result<HostCommand> AfterShowing(HostCommand command, const GameStart& start) {
+    if (!start.Plan.showsEnvironment) {
+        return command;
+    }
+    const std::string helper = start.Places.PauseHelper.string();
+    if (!MayRun(helper)) {
+        return MakeError(error::kFileNotFound, FromUtf8Lossy(helper));
+    }
+    command.Arguments.insert(command.Arguments.begin(), command.Program);
+    command.Program = helper;
+    return InTerminal(std::move(command), start.Places);
+}
+
+Error MisreadWord(std::string_view word, LineReader reader) {
+    const char* const name = reader == LineReader::kNobody     ? "A command line"
+                             : reader == LineReader::kDosShell ? "DOS's shell"
+                                                               : "The command processor";
+    return {
+        error::kPathFileAccess,
+        std::string(name) + " would not read this as one word of text, and nothing was started: " + std::string(word)};
+}
+
+Error CheckGiven(const GameStart& start, LineReader reader) {
+    for (const GivenWord& word : start.Given) {
+        if (!ReadsAsOneWord(word.Written, reader)) {
+            return MisreadWord(word.Written, reader);
+        }
+    }
+    return {};
+}
 
 // xterm first: it hands the arguments on one by one and has its child inherit the environment. Not every other
 // terminal does.

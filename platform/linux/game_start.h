@@ -29,9 +29,24 @@ struct GameStart {
     BatchPlan Plan;
     std::string Directory;  // that the game runs in, on the drives, with its drive
     FoundGame Game;
+    std::vector<GivenWord> Given;
     std::vector<std::string> Environment;  // this program's own
     HostPlaces Places;
 };
+
+/// The arguments of the game and the environment that the batch asks for, as the host has them.
+std::vector<std::string> HostArguments(const GameStart& start);
+std::vector<std::string> BatchEnvironment(const GameStart& start);
+
+/// The command as it is or, if the batch shows its environment, in a terminal, behind the program that shows it and
+/// waits for a key. Errors: 53 without that program or a terminal.
+Result<HostCommand> AfterShowing(HostCommand command, const GameStart& start);
+
+/// Error 75 if the reader would take a given word of the batch for more than that word; the text names it.
+Error CheckGiven(const GameStart& start, LineReader reader);
+
+/// Of such an argument.
+Error MisreadWord(std::string_view word, LineReader reader);
 
 /// The same command inside a terminal window, where a user can read and press a key. Error 53 if there is no terminal.
 Result<HostCommand> InTerminal(HostCommand command, const HostPlaces& places);

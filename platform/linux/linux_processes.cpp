@@ -61,6 +61,12 @@ std::string HostArgument(Files& disk, const HostPlaces& places, const std::strin
     return forWine ? WinePathOf(places.WinePrefix, host).value_or(host) : host;
 }
 
+LineReader ReaderFor(ProgramKind kind) {
+    return kind == ProgramKind::kBatch ? LineReader::kBatch
+           : kind == ProgramKind::kDos ? LineReader::kDosShell
+                                       : LineReader::kNobody;
+}
+
 // The words of a command line, each in quotes where blanks would part it.
 std::string Quoted(const std::vector<std::string>& words) {
     std::string line;
@@ -69,6 +75,18 @@ std::string Quoted(const std::vector<std::string>& words) {
         line += (line.empty() ? "" : " ") + (quote ? "\"" + word + "\"" : word);
     }
     return line;
+}
+
+// In quotes a blank parts nothing; DOS's shell knows them as well.
+Error CheckArguments(const std::vector<std::string>& arguments, LineReader reader) {
+    for (const std::string& argument : arguments) {
+        std::string word = argument;
+        std::replace(word.begin(), word.end(), ' ', '_');
+        if (reader != LineReader::kNobody && !ReadsAsOneWord(word, reader)) {
+            return MisreadWord(argument, reader);
+        }
+    }
+    return {};
 }
 
 }  // namespace
@@ -92,12 +110,17 @@ HostPlaces LinuxProcesses::Places() const {
 }
 
 Result<HostCommand> LinuxProcesses::ByRoad(const GameStart& start) {
-    switch (KindOfProgramAt(disk_, start.Game.Program.Path)) {
+    const ProgramKind kind = KindOfProgramAt(disk_, start.Game.Program.Path);
+    if (const Error fault = CheckGiven(start, ReaderFor(kind))) {
+        return fault;
+    }
+    switch (kind) {
         case ProgramKind::kNative:
             return NativeRoad(disk_, start);
         case ProgramKind::kWindows:
-        case ProgramKind::kBatch:
             return WineRoad(disk_, start);
+        case ProgramKind::kBatch:
+            return WineBatchRoad(disk_, start);
         case ProgramKind::kDos:
             return DosBoxRoad(disk_, start);
         case ProgramKind::kUnknown:
@@ -106,8 +129,10 @@ Result<HostCommand> LinuxProcesses::ByRoad(const GameStart& start) {
     return UnknownKind(start.Game.Program.Path);
 }
 
-Result<HostCommand> LinuxProcesses::PlanBatch(std::string_view directory, std::string_view name) {
+Result<HostCommand> LinuxProcesses::PlanBatch(std::string_view directory, std::string_view name,
+                                              const BatchCommand& known) {
     GameStart start;
+    start.Given = known.Given;
     start.Places = Places();
     start.Environment = OwnEnvironment();
     start.BatchPath = JoinPath(JoinPath(disk_.CurrentDirectory(), directory), name);
@@ -127,7 +152,7 @@ Result<HostCommand> LinuxProcesses::PlanBatch(std::string_view directory, std::s
     if (!disk_.DirectoryExists(start.Directory)) {
         return MakeError(error::kPathNotFound, start.Directory);
     }
-    Result<FoundGame> game = FindGame(disk_, start.Directory, start.Plan.command);
+    Result<FoundGame> game = FindGame(disk_, start.Directory, start.Plan.command, known.Program);
     if (!game.Ok()) {
         return game.Fault;
     }
@@ -148,6 +173,9 @@ Result<HostCommand> LinuxProcesses::PlanProgram(std::string_view program, const 
     }
     const ProgramKind kind = onlyWineMayKnow ? ProgramKind::kWindows : KindOfProgram(file, host);
     const bool forWine = kind == ProgramKind::kWindows || kind == ProgramKind::kBatch;
+    if (const Error fault = CheckArguments(arguments, ReaderFor(kind))) {
+        return fault;
+    }
     HostCommand command{host, {}, OwnEnvironment(), disk_.ToHost(disk_.CurrentDirectory())};
     for (const std::string& argument : arguments) {
         command.Arguments.push_back(HostArgument(disk_, places, argument, forWine));
@@ -170,13 +198,20 @@ Result<HostCommand> LinuxProcesses::PlanProgram(std::string_view program, const 
     start.Places = places;
     start.Environment = std::move(command.Environment);
     start.Directory = path.substr(0, std::max<std::size_t>(slash, 3));
+    start.Game.Program.Path = path;
     start.Game.Command = Quoted(arguments);
     start.Game.Command.insert(0, path.substr(slash + 1) + (arguments.empty() ? "" : " "));
     return DosBoxRoad(disk_, start);
 }
 
-Error LinuxProcesses::StartBatch(std::string_view directory, std::string_view name) {
-    const Result<HostCommand> command = PlanBatch(directory, name);
+LineReader LinuxProcesses::ReaderOf(std::string_view directory, std::string_view command, std::string_view program) {
+    const std::string place = JoinPath(disk_.CurrentDirectory(), directory);
+    const Result<FoundGame> game = FindGame(disk_, place, command, program);
+    return game.Ok() ? ReaderFor(KindOfProgramAt(disk_, game.Value.Program.Path)) : LineReader::kNobody;
+}
+
+Error LinuxProcesses::StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) {
+    const Result<HostCommand> command = PlanBatch(directory, name, known);
     return command.Ok() ? StartDetached(command.Value) : command.Fault;
 }
 

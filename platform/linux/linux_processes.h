@@ -2,9 +2,9 @@
 //
 // Starting games and other programs on Linux. The batch that a launch writes is read, the program that its command
 // names is looked at, and one of three roads is taken: a program of this system is started directly with the batch's
-// environment, directory and arguments; a Windows program's batch is run by Wine; a DOS program runs in DOSBox.
+// environment, directory and arguments; a Windows program by Wine in the same way; a DOS program runs in DOSBox.
 // What is started has forgotten this program: it lives on when this one ends and leaves no zombie behind.
-// No text of a batch ever reaches a shell of the host.
+// No text of a batch ever reaches a shell of the host, nor a command processor but for a batch of the user's own.
 // Whether the first program on the road could be started is known on return; what it does then is not.
 
 #pragma once
@@ -21,12 +21,14 @@ class LinuxProcesses : public Processes {
     /// each start.
     explicit LinuxProcesses(Files& disk, HostPlaces places = {}) : disk_(disk), places_(std::move(places)) {}
 
-    Error StartBatch(std::string_view directory, std::string_view name) override;
+    using Processes::StartBatch;
+    LineReader ReaderOf(std::string_view directory, std::string_view command, std::string_view program) override;
+    Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) override;
     /// `program` may also be an absolute path of the host. A name alone is searched on PATH.
     Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
 
     /// What StartBatch would start.
-    Result<HostCommand> PlanBatch(std::string_view directory, std::string_view name);
+    Result<HostCommand> PlanBatch(std::string_view directory, std::string_view name, const BatchCommand& known = {});
     /// What StartProgram would start.
     Result<HostCommand> PlanProgram(std::string_view program, const std::vector<std::string>& arguments);
 

@@ -21,23 +21,9 @@ Result<HostCommand> NativeRoad(Files& disk, const GameStart& start) {
     if (!MayRun(command.Program)) {
         return NotExecutable(command.Program);
     }
-    for (const std::string& argument : SplitArguments(start.Game.Program.Arguments)) {
-        command.Arguments.push_back(ToUtf8(argument));
-    }
-    command.Environment = start.Environment;
-    for (const auto& [name, value] : start.Plan.environment) {
-        SetVariable(command.Environment, ToUtf8(name), ToUtf8(value));
-    }
-    if (!start.Plan.showsEnvironment) {
-        return command;
-    }
-    const std::string helper = start.Places.PauseHelper.string();
-    if (!MayRun(helper)) {
-        return MakeError(error::kFileNotFound, FromUtf8Lossy(helper));
-    }
-    command.Arguments.insert(command.Arguments.begin(), command.Program);
-    command.Program = helper;
-    return InTerminal(std::move(command), start.Places);
+    command.Arguments = HostArguments(start);
+    command.Environment = BatchEnvironment(start);
+    return AfterShowing(std::move(command), start);
 }
 
 }  // namespace lv

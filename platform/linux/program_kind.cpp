@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/code_page.h"
+#include "platform/command_text.h"
 
 namespace lv {
 
@@ -53,7 +54,7 @@ ProgramKind KindOfProgram(RandomAccessFile& file, std::string_view name) {
     if (start.starts_with("MZ")) {
         return KindOfDosHeader(file);
     }
-    if (HasExtension(name, ".bat") || HasExtension(name, ".cmd")) {
+    if (IsBatchName(name)) {
         return ProgramKind::kBatch;
     }
     return HasExtension(name, ".com") && !start.empty() ? ProgramKind::kDos : ProgramKind::kUnknown;

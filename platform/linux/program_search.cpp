@@ -52,8 +52,15 @@ std::string JoinPath(std::string_view directory, std::string_view name) {
     return std::string(directory) + (directory.ends_with('\\') ? "" : "\\") + std::string(name);
 }
 
-Result<FoundProgram> FindProgram(Files& disk, std::string_view directory, std::string_view command) {
+Result<FoundProgram> FindProgram(Files& disk, std::string_view directory, std::string_view command,
+                                 std::string_view program) {
     command = TrimLeft(command);
+    if (!program.empty() && command.starts_with(program)) {
+        const std::string path = JoinPath(directory, program);
+        return disk.FileExists(path)
+                   ? Result<FoundProgram>({path, std::string(TrimLeft(command.substr(program.size())))})
+                   : NotFound(directory, program);
+    }
     if (command.starts_with('"')) {
         const std::size_t close = std::min(command.find('"', 1), command.size());
         const std::string_view name = command.substr(1, close - 1);
@@ -79,11 +86,12 @@ ProgramKind KindOfProgramAt(Files& disk, std::string_view path) {
     return file.Ok() && file.Value ? KindOfProgram(*file.Value, path) : ProgramKind::kUnknown;
 }
 
-Result<FoundGame> FindGame(Files& disk, std::string_view directory, std::string_view command) {
+Result<FoundGame> FindGame(Files& disk, std::string_view directory, std::string_view command,
+                           std::string_view program) {
     command = TrimLeft(command);
     const std::string_view first = FirstWord(command);
     const bool wrapped = SameText(first, "qlaunch") || SameText(first, "qlaunch.exe");
-    Result<FoundProgram> found = FindProgram(disk, directory, wrapped ? first : command);
+    Result<FoundProgram> found = FindProgram(disk, directory, wrapped ? first : command, program);
     if (!wrapped || found.Ok()) {
         if (wrapped) {
             found.Value.Arguments = TrimLeft(command.substr(first.size()));
@@ -92,7 +100,7 @@ Result<FoundGame> FindGame(Files& disk, std::string_view directory, std::string_
     }
     const std::string_view behind = TrimLeft(command.substr(first.size()));
     const std::string_view game = TrimLeft(behind.substr(FirstWord(behind).size()));  // behind the wrapper's library
-    const Result<FoundProgram> inner = FindProgram(disk, directory, game);
+    const Result<FoundProgram> inner = FindProgram(disk, directory, game, program);
     if (!inner.Ok()) {
         return inner.Fault;
     }

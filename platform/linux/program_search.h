@@ -19,7 +19,9 @@ struct FoundProgram {
 
 /// The program at the head of `command`. In quotes it is what the quotes hold; otherwise the fewest words that name a
 /// file, so that a name with blanks is found. ".exe", ".com" and ".bat" may be left off. Error 53 names the first word.
-Result<FoundProgram> FindProgram(Files& disk, std::string_view directory, std::string_view command);
+/// `program` is the file name at the head if that is known: no other is then taken for it.
+Result<FoundProgram> FindProgram(Files& disk, std::string_view directory, std::string_view command,
+                                 std::string_view program = "");
 
 struct FoundGame {
     FoundProgram Program;         // what is looked at, and started if the host runs it itself
@@ -29,7 +31,8 @@ struct FoundGame {
 
 /// As FindProgram, but passes over "qlaunch quakeudp.dll" if no such program lies in the directory. That wrapper gave
 /// a DOS game its network; with a DOS game and no wrapper the error is the wrapper's.
-Result<FoundGame> FindGame(Files& disk, std::string_view directory, std::string_view command);
+Result<FoundGame> FindGame(Files& disk, std::string_view directory, std::string_view command,
+                           std::string_view program = "");
 
 /// kUnknown if the file cannot be opened.
 ProgramKind KindOfProgramAt(Files& disk, std::string_view path);

@@ -177,6 +177,17 @@ Result<HostCommand> WineCommand(const HostPlaces& places, std::vector<std::strin
 }
 
 Result<HostCommand> WineRoad(Files& disk, const GameStart& start) {
+    std::vector<std::string> arguments = HostArguments(start);
+    arguments.insert(arguments.begin(), disk.ToHost(start.Game.Program.Path));
+    Result<HostCommand> command = WineCommand(start.Places, BatchEnvironment(start), std::move(arguments));
+    if (!command.Ok()) {
+        return command;
+    }
+    command.Value.Directory = disk.ToHost(start.Directory);
+    return AfterShowing(std::move(command.Value), start);
+}
+
+Result<HostCommand> WineBatchRoad(Files& disk, const GameStart& start) {
     Result<HostCommand> command = WineCommand(start.Places, start.Environment, {"cmd", "/c"});
     if (!command.Ok()) {
         return command;

@@ -1,8 +1,13 @@
 // platform/linux/wine_road.h
 //
-// The road of a Windows program, and of a batch of the user's own: Wine runs the launch batch in the game's directory.
+// The roads of a Windows program and of a batch of the user's own, both by Wine in the game's directory.
 //
-// The batch says "C:" and "cd C:\QUAKE", and means this program's drives. If Wine's drive of that letter is the same
+// A Windows program gets the environment and the arguments of the launch batch as separate values, and no command
+// processor sees a word of them. Wine makes the one line of text that Windows knows out of them by the rules of the
+// Microsoft C runtime, a word with a blank in double quotes.
+//
+// Only a batch of the user's own has the launch batch run by Wine's command processor. The
+// batch says "C:" and "cd C:\QUAKE", and means this program's drives. If Wine's drive of that letter is the same
 // directory, Wine is given the batch itself; otherwise a copy in the cache directory that says the same to Wine. As
 // Wine is started in the game's directory, the copy leaves those two lines out, and so needs no name of a directory.
 // Wine reads a batch in the OEM code page of the user's language, so a line with a character beyond ASCII is carried
@@ -21,6 +26,9 @@ namespace lv {
 
 /// Error 53 if Wine is not installed.
 Result<HostCommand> WineRoad(Files& disk, const GameStart& start);
+
+/// The same for a batch of the user's own.
+Result<HostCommand> WineBatchRoad(Files& disk, const GameStart& start);
 
 /// Wine with these arguments and an environment that suits it.
 Result<HostCommand> WineCommand(const HostPlaces& places, std::vector<std::string> environment,

@@ -49,10 +49,11 @@ Error MemoryRegistry::Set(std::string_view path, std::string_view name, const Re
     return {};
 }
 
-Error MemoryProcesses::StartBatch(std::string_view directory, std::string_view name) {
+Error MemoryProcesses::StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) {
     if (Refuse) {
         return Refuse;
     }
+    Known = known;
     Started.push_back(std::string(directory) + "\\" + std::string(name));
     return {};
 }

@@ -101,12 +101,16 @@ class MemoryFiles : public Files {
 
 class MemoryProcesses : public Processes {
   public:
-    Error StartBatch(std::string_view directory, std::string_view name) override;
+    using Processes::StartBatch;
+    LineReader ReaderOf(std::string_view, std::string_view, std::string_view) override { return Reader; }
+    Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) override;
     Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
 
     Error StartHelpViewer(std::string_view path) override;
 
     std::vector<std::string> Started;  // "C:\QUAKE\lv_666.bat", or the program and its arguments joined by "|"
+    BatchCommand Known;                // of the last batch
+    LineReader Reader = LineReader::kNobody;
     Error Refuse;
     bool HasHelpViewer = false;  // then it is "winhlp32.exe"
 };

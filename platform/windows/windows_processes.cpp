@@ -29,13 +29,22 @@ Error StartError(DWORD failed, const std::string& about) {
     return {number, SystemText(failed) + ": " + about};
 }
 
+// As QuotedWord puts a word with a blank into quotes. Quotes in the word itself stay for the reader to stumble over.
+std::string InQuotes(const std::string& word) {
+    return word.find_first_of(" \t") == std::string::npos ? word : "\"" + word + "\"";
+}
+
 std::string InDirectory(const std::string& directory, std::string_view name) {
     return directory + (directory.ends_with('\\') ? "" : "\\") + std::string(name);
 }
 
 }  // namespace
 
-Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view name) {
+LineReader WindowsProcesses::ReaderOf(std::string_view, std::string_view, std::string_view program) {
+    return IsBatchName(program) ? LineReader::kBatch : LineReader::kCommandProcessor;
+}
+
+Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view name, const BatchCommand&) {
     const std::string place = FromUtf8Lossy(disk_.ToHost(directory.empty() ? "." : directory));
     const std::string batch = InDirectory(place, name);
     if (!disk_.DirectoryExists(place)) {
@@ -47,7 +56,8 @@ Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view 
     const bool onAShare = place.starts_with("\\\\");
     const std::wstring processor = SystemDirectory() + L"\\cmd.exe";
     const std::wstring said = onAShare ? ToWide(batch) : L".\\" + ToWide(name);
-    std::wstring line = L"\"" + processor + L"\" /c \"" + said + L"\"";
+    // With /s it takes the outer quotes off, and those alone: a name with "&" in it stays within the inner ones.
+    std::wstring line = L"\"" + processor + L"\" /s /c \"\"" + said + L"\"\"";
     STARTUPINFOW how{};
     how.cb = sizeof how;
     how.dwFlags = STARTF_USESHOWWINDOW;
@@ -69,6 +79,12 @@ Error WindowsProcesses::StartProgram(std::string_view program, const std::vector
     std::vector<std::wstring> words;
     for (const std::string& argument : arguments) {
         words.push_back(ToWide(argument));
+        // The command processor takes a batch's parameters apart by rules of its own.
+        if (IsBatchName(program) && !ReadsAsOneWord(InQuotes(argument), LineReader::kBatch)) {
+            return {
+                error::kPathFileAccess,
+                "The command processor would not read this as one word of text, and nothing was started: " + argument};
+        }
     }
     const std::wstring line = QuotedWords(words);
     const std::wstring where = ToWide(disk_.CurrentDirectory());

@@ -14,9 +14,14 @@ class WindowsProcesses : public Processes {
     /// `disk` says what a path without a drive is taken from.
     explicit WindowsProcesses(Files& disk) : disk_(disk) {}
 
+    using Processes::StartBatch;
+
+    LineReader ReaderOf(std::string_view directory, std::string_view command, std::string_view program) override;
+
     /// The command processor of the system carries the batch out, in a console of its own. On a share of the network,
-    /// where it cannot stand, it starts in a directory of the system's.
-    Error StartBatch(std::string_view directory, std::string_view name) override;
+    /// where it cannot stand, it starts in a directory of the system's. It reads the batch by itself, so that what is
+    /// known of the command has no use here: who writes the batch asks ReaderOf first.
+    Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) override;
 
     /// A document is opened by the program that the user has for it.
     Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;

@@ -67,7 +67,9 @@ TEST_F(AddServers, OneAddressFillsItsDialogWithoutATitle) {
 
 TEST_F(AddServers, ASemicolonInAPortDoesNotBreakTheCatalog) {
     user.In<AddServer_Frm>([](AddServer_Frm& form) {
-        EXPECT_EQ(form.Port_Txt.Text, "27,5");
+        EXPECT_EQ(form.ServerPath_Txt.Text, "");  // digits alone are a port, and without one this is no address
+        EXPECT_EQ(form.Port_Txt.Text, "");
+        form.ServerPath_Txt.Text = "10.0.0.1";
         form.Port_Txt.Text = "27;5";
         form.ServerTitle_Txt.Text = "Mine";
         AddServer_OK_Cmd_Click(form);
@@ -77,6 +79,13 @@ TEST_F(AddServers, ASemicolonInAPortDoesNotBreakTheCatalog) {
     ExpectTold("Lorvane 3D", "The Server Port may not contain a semi-colon.");
     Capture("10.0.0.1:27;5\r\n");
     EXPECT_EQ(Stored(kOptions, "NetServers"), "(none)");
+}
+
+TEST_F(AddServers, NoHostThatIsMoreThanAnAddressGetsIntoTheCatalog) {
+    AnswerType(0);
+    ExpectTold("Lorvane 3D", "1 Servers Added");
+    Capture("10.0&calc&.0.1:27015\r\n1.%COMSPEC%.3.4:27015\r\n10.0.0.2:27015\r\n");
+    EXPECT_EQ(Stored(kOptions, "NetServers"), "Server 10.0.0.2:27015;10.0.0.2;27015;0;");
 }
 
 TEST_F(AddServers, OneServersDialogBeginsWithTheCurrentGame) {

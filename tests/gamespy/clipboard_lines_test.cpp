@@ -42,7 +42,7 @@ constexpr AddressRow kAddresses[] = {
     {"host 255.255.255.255:65535", "255.255.255.255:65535"},
     {"0.0.0.0:00000", "0.0.0.0:00000"},
     {"x1234.5.6.7:27500", "234.5.6.7:27500"},
-    {"ping=43,10.0.0.1:27500", ",10.0.0.1:27500"},
+    {"ping=43,10.0.0.1:27500", "ip"},
     {"\t10.0.0.1:27500", "10.0.0.1:27500"},
     {"a name\r\n10.0.0.1:27500", "10.0.0.1:27500"},
     {"10.0.0.1:27500\r\n10.0.0.2:27510", "10.0.0.1:27500"},
@@ -77,6 +77,14 @@ constexpr AddressRow kAddresses[] = {
     {"1.2.3.;q:27500", "ip"},
     {"1:2.3.4.5:27500", "ip"},
     {"1.2.3.4::27500", "ip"},
+    {"10.0&calc&.0.1:27015", "ip"},
+    {"1.%COMSPEC%.3.4:27015", "ip"},
+    {"1.2.3.%a%:27015", "ip"},
+    {"1.2.|.4:27015", "ip"},
+    {"1.2.^3.4:27015", "ip"},
+    {"1.2.3.4:27a15", "port"},
+    {"1.2.3.4:270&c", "port"},
+    {"my-host_1.quake.example.net:27500", "t_1.quake.example.net:27500"},
     {"1.2.3.4:27;qu", "port"},
     {"1.2.3.4:\"2750", "port"},
     {"1.2.3.4.5:27500", "port"},
@@ -101,6 +109,14 @@ constexpr ServerRow kAlone[] = {
     {"43      10.0.0.1        7777  Facing Worlds", "Facing Worlds|10.0.0.1|7777"},
     {"43      10.0.0.1", "|10.0.0.1|"},
     {"43 ", "||"},
+    {"10.0&calc&.0.1:27015", "||"},
+    {"1.%COMSPEC%.3.4", "||"},
+    {"10.0.0.1:27&x", "||"},
+    {"[2001:db8::1]:27500", "|[2001:db8::1]|27500"},
+    {"[2001:db8::1]", "|[2001:db8::1]|"},
+    {"[2001:db8::1%calc]:27500", "||"},
+    {"43      10.0&x.0.1      27500 Home", "Home||"},
+    {"43      10.0.0.1        27&00 Home", "Home||"},
 };
 
 // Two words before the address.
@@ -119,6 +135,10 @@ constexpr ServerRow kListed[] = {
     {"QW 43", "||"},
     {"QW", "||"},
     {"", "||"},
+    {"QW 43 2001:db8::1 27500 Home", "Home|2001:db8::1|27500"},
+    {"QW 43 10.0&calc&.0.1 27500 Home", "Home||"},
+    {"QW 43 1.%COMSPEC%.3.4 27500 Home", "Home||"},
+    {"QW 43 10.0.0.1 >x Home", "Home||"},
 };
 
 // One word before the address, as in a line that is copied alone.
@@ -158,8 +178,10 @@ constexpr ServerRow kAddressesOnly[] = {
     {"quake.example:26000", "Server quake.example:26000|quake.example|26000"},
     {":26000", "Server :26000||26000"},
     {"", "Server :||"},
-    {"1:2:3", "Server 1:2:3|1|2:3"},
-    {"a|b:1", "Server a|b:1|a|b|1"},
+    {"1:2:3", "Server :||"},
+    {"a|b:1", "Server :||"},
+    {"10.0&calc&.0.1:27015", "Server :||"},
+    {"[::ffff:10.0.0.1]:27500", "Server [::ffff:10.0.0.1]:27500|[::ffff:10.0.0.1]|27500"},
 };
 
 static_assert(std::size(kAddresses) + std::size(kAlone) + std::size(kListed) + std::size(kAddressesOnly) > 100);

@@ -464,5 +464,29 @@ TEST_F(Configure, ADedicatedClientStopsItBeforeAnythingIsWritten) {
     EXPECT_FALSE(system.Disk.FileExists("C:\\QUAKE\\QSL1_666.bat"));
 }
 
+TEST_F(Configure, ANameThatTheBatchWouldMisreadIsToldBeforeAnythingIsWritten) {
+    window.Game_Cbo.Items = {Text("Evil") + Text(96, ' ') + "-game M&CALC"};
+    window.Game_Cbo.ListIndex = 0;
+    window.Game_Chk.Value = 1;
+    const std::size_t writes = system.Disk.Log.size();
+    user.Expect({"Lorvane 3D",
+                 "The modification \"m&calc\" comes from the directories of the game.\r\n"
+                 "The command processor would not read it as one word of text."});
+    RunFor({spy_slot::kQuake});
+    EXPECT_EQ(system.Disk.Log.size(), writes);
+}
+
+TEST_F(Configure, AnIniThatTheBatchWouldMisreadIsToldBeforeAnythingIsWritten) {
+    const std::size_t writes = system.Disk.Log.size();
+    user.Expect({"Lorvane 3D", "The player script \"my&evil&.ini\" comes from the list of player scripts."});
+    Run([](GameSpyConfig_Frm& form) {
+        Use(form, {spy_slot::kUnreal});
+        form.ScriptSpy_Cbo[spy_slot::kUnreal].Items = {Text("Evil") + Text(96, ' ') +
+                                                       "c:\\unreal\\system\\my&evil&.ini"};
+        form.ScriptSpy_Cbo[spy_slot::kUnreal].ListIndex = 0;
+    });
+    EXPECT_EQ(system.Disk.Log.size(), writes);
+}
+
 }  // namespace
 }  // namespace lv

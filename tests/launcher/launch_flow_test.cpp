@@ -352,5 +352,92 @@ TEST_F(LaunchFlow, AListCountsOnlyWithASelectedRow) {
     EXPECT_EQ(SelectionOf(window).Memory, "-winmem 8");
 }
 
+// What strangers name, and who reads it
+
+TEST_F(LaunchFlow, ANameThatTheCommandProcessorWouldMisreadIsToldBeforeAnythingIsWritten) {
+    AddGames();
+    system.Disk.AddDirectory("C:\\QUAKE\\M&CALC\\maps");
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    system.Programs.Reader = LineReader::kCommandProcessor;
+    window.Game_Cbo.ListIndex = static_cast<int>(window.Game_Cbo.Items.size()) - 1;
+    ASSERT_TRUE(window.Game_Cbo.Selected().ends_with("-game M&CALC"));
+    window.Game_Chk.Value = 1;
+    const std::size_t writes = system.Disk.Log.size();
+    for (const int mode : {0, 1, 2}) {
+        user.Expect({"Lorvane 3D",
+                     "Nothing was written, and nothing was started.\r\n\r\n"
+                     "The modification \"m&calc\" comes from the directories of the game.\r\n"
+                     "The command processor would not read it as one word of text.\r\n\r\n"
+                     "Rename its directory, or pick another modification.",
+                     0, false, true});
+        DoIt_Cmd_Click(launcher, mode);
+    }
+    EXPECT_EQ(system.Disk.Log.size(), writes);
+    EXPECT_TRUE(system.Programs.Started.empty());
+    EXPECT_EQ(Stored("LV-Stuff", "LaunchCount"), "(none)");
+}
+
+TEST_F(LaunchFlow, WhereNobodyReadsTheCommandTheBatchIsWrittenAndTheNameHandedOverWhole) {
+    AddGames();
+    system.Disk.AddDirectory("C:\\QUAKE\\X +CONNECT EVIL.EXAMPLE\\maps");
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    window.Game_Cbo.ListIndex = static_cast<int>(window.Game_Cbo.Items.size()) - 1;
+    window.Game_Chk.Value = 1;
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(system.Disk.Bytes(kBatch).ends_with("GLQUAKE.EXE -zone 512 -game x +connect evil.example"));
+    EXPECT_EQ(system.Programs.Known.Program, "GLQUAKE.EXE");
+    ASSERT_EQ(system.Programs.Known.Given.size(), 1u);
+    EXPECT_EQ(system.Programs.Known.Given[0].Written, "x +connect evil.example");
+}
+
+TEST_F(LaunchFlow, TheUsersOwnAdditionsRemainTheUsers) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    for (const LineReader reader : {LineReader::kCommandProcessor, LineReader::kBatch, LineReader::kDosShell}) {
+        system.Programs.Reader = reader;
+        window.CommandLineAdditions_Txt.Text = "+name \"a & b\" & echo %PATH%";
+        window.CommandLineAdditions_Chk.Value = 1;
+        DoIt_Cmd_Click(launcher, 0);
+        EXPECT_TRUE(system.Disk.Bytes(kBatch).ends_with("+name \"a & b\" & echo %PATH%"));
+    }
+    EXPECT_EQ(system.Programs.Started.size(), 3u);
+}
+
+TEST_F(LaunchFlow, AHalfLifePasswordRunsNoFileCalledConnect) {
+    LoadWith("C:\\HL\\HL.EXE");
+    system.Disk.AddFile("C:\\HL\\CONNECT.BAT");
+    window.Server_Cbo.Items = {Text("Mine") + Text(96, ' ') + "10.0.0.1;27015;9;secret"};
+    window.Server_Cbo.ListIndex = 0;
+    window.Server_Chk.Value = 1;
+    system.Programs.Reader = LineReader::kCommandProcessor;
+    const std::size_t writes = system.Disk.Log.size();
+    user.Expect({"Lorvane 3D",
+                 "Nothing was written, and nothing was started.\r\n\r\n"
+                 "The file \"c:\\hl\\connect.bat\" lies in the game's directory.\r\n"
+                 "The command processor would run it behind the game, for the server's password breaks the command "
+                 "line.\r\n\r\nRemove the file, or the password of the server.",
+                 0, false, true});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Disk.Log.size(), writes);
+    system.Programs.Reader = LineReader::kNobody;
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Programs.Started.size(), 1u);
+}
+
+TEST_F(LaunchFlow, UnrealsIniIsNotRewrittenForALaunchThatIsRefused) {
+    AddGames();
+    system.Disk.AddFile("C:\\UNREAL\\MAPS\\x&calc&.unr");
+    Load();
+    PickExe("C:\\UNREAL\\SYSTEM\\UNREAL.EXE");
+    ASSERT_TRUE(window.Map_Cbo.HasSelection());
+    window.Map_Chk.Value = 1;
+    system.Programs.Reader = LineReader::kCommandProcessor;
+    const std::size_t writes = system.Disk.Log.size();
+    user.Expect({"Lorvane 3D", "The map \"x&calc&.unr\" comes from the maps and archives of the game."});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Disk.Log.size(), writes);
+}
+
 }  // namespace
 }  // namespace lv

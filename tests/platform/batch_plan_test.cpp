@@ -6,6 +6,7 @@ namespace lv {
 
 namespace {
 
+using Strings = std::vector<std::string>;
 using Pairs = std::vector<std::pair<std::string, std::string>>;
 
 constexpr const char* kWorkedExample =
@@ -132,5 +133,23 @@ INSTANTIATE_TEST_SUITE_P(
         WordsCase{R"("C:\My Games\\" x)", {"C:\\My Games\\", "x"}}, WordsCase{R"(\" x)", {"\"", "x"}},
         WordsCase{R"("never closed)", {"never closed"}}, WordsCase{R"(a\)", {"a\\"}},
         WordsCase{"$(id) `id` ; & | > %PATH% * ~ '", {"$(id)", "`id`", ";", "&", "|", ">", "%PATH%", "*", "~", "'"}}));
+
+TEST(SplitArguments, TakesAGivenWordWholeWhateverItHolds) {
+    EXPECT_EQ(
+        SplitArguments("-game x +connect evil.example -a", {{"x +connect evil.example", "x +connect evil.example"}}),
+        (Strings{"-game", "x +connect evil.example", "-a"}));
+    EXPECT_EQ(SplitArguments("-game a\" \"b\\ -a", {{"a\" \"b\\", "a\" \"b\\"}}),
+              (Strings{"-game", "a\" \"b\\", "-a"}));
+    EXPECT_EQ(SplitArguments("INI=\"a\" +x \"b.ini\" -a", {{"\"a\" +x \"b.ini\"", "a\" +x \"b.ini", "INI="}}),
+              (Strings{"INI=a\" +x \"b.ini", "-a"}));
+}
+
+TEST(SplitArguments, TakesGivenWordsWhereAWordBeginsAndEndsAndOnceInTheirOrder) {
+    EXPECT_EQ(SplitArguments("ab xa b", {{"a b", "a b"}}), (Strings{"ab", "xa", "b"}));
+    EXPECT_EQ(SplitArguments("a bc a b", {{"a b", "a b"}}), (Strings{"a", "bc", "a b"}));
+    EXPECT_EQ(SplitArguments("a b a b", {{"a b", "a b"}}), (Strings{"a b", "a", "b"}));
+    EXPECT_EQ(SplitArguments("c d -x e f", {{"a b", "a b"}, {"c d", "c d"}, {"", ""}, {"e f", "e f"}}),
+              (Strings{"c d", "-x", "e f"}));
+}
 
 }  // namespace lv

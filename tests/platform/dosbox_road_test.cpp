@@ -117,6 +117,47 @@ TEST(DosBoxRoad, RefusesADirectoryThatCannotBeQuoted) {
     EXPECT_THAT(plan.Fault.Text, HasSubstr("DOSBox cannot use a directory with a double quote in its name: "));
 }
 
+TEST(DosBoxRoad, RefusesAGivenWordThatDosWouldMisread) {
+    for (const char* const word :
+         {"d>quake.exe", "d<x", "d|x", "d&x", "d%x", "d^x", "d\"x", "d;x", "d\tx", "d x", "d\x01"}) {
+        DosYard yard("dos_given");
+        yard.AddFile("quake/quake.exe", "MZ");
+        yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", std::string("QUAKE.EXE -game ") + word});
+        const auto plan =
+            LinuxProcesses(yard.Disk, yard.Places).PlanBatch("C:\\QUAKE", "lv_666.bat", {"QUAKE.EXE", {{word, word}}});
+        EXPECT_EQ(plan.Fault.Number, 75) << word;
+        EXPECT_EQ(plan.Fault.Text,
+                  std::string("DOS's shell would not read this as one word of text, and nothing was started: ") + word);
+        EXPECT_FALSE(std::filesystem::exists(yard.Places.Cache)) << word;
+    }
+}
+
+TEST(DosBoxRoad, RefusesAProgramWhoseNameDosWouldMisread) {
+    DosYard yard("dos_program_name");
+    yard.AddFile("quake/q>x.exe", "MZ");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "Q>X.EXE -a"});
+    EXPECT_EQ(yard.Plan("C:\\QUAKE").Fault.Text,
+              "DOS's shell would not read this as one word of text, and nothing was started: Q>X.EXE");
+    EXPECT_FALSE(std::filesystem::exists(yard.Places.Cache));
+}
+
+TEST(DosBoxRoad, SaysNoDirectoryThatDosWouldMisread) {
+    DosYard yard("dos_directory_name");
+    yard.AddFile("q&x%/quake.exe", "MZ");
+    yard.AddBatch("q&x%", {"C:", "cd C:\\Q&X%", "QUAKE.EXE -a"});
+    ASSERT_TRUE(yard.Plan("C:\\Q&X%").Ok());
+    EXPECT_THAT(yard.Written(), HasSubstr("@mount C \"" + (yard.Drive / "q&x%%").string() + "\"\n@C:\n@cd \\\n"));
+}
+
+TEST(DosBoxRoad, RefusesAnArgumentThatDosWouldMisread) {
+    DosYard yard("dos_argument");
+    yard.AddFile("tools/edit.com", "\xB4\x4C\xCD\x21");
+    LinuxProcesses processes(yard.Disk, yard.Places);
+    EXPECT_EQ(processes.PlanProgram("C:\\TOOLS\\EDIT.COM", {"d>quake.cfg"}).Fault.Text,
+              "DOS's shell would not read this as one word of text, and nothing was started: d>quake.cfg");
+    EXPECT_FALSE(std::filesystem::exists(yard.Places.Cache));
+}
+
 TEST(DosBoxRoad, RefusesMoreThanDosBoxTakes) {
     DosYard yard("dos_much");
     yard.AddFile("quake/quake.exe", "MZ");

@@ -96,6 +96,56 @@ TEST(NativeRoad, GivesTheGameWhatALineEndHasCutOff) {
                 ElementsAre("+password", "x", "connect", "1.2.3.4:27015"));
 }
 
+TEST(NativeRoad, KeepsEachGivenWordOneArgument) {
+    GameYard yard("native_given");
+    yard.AddGame("show_native", "quake/quake");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE -game x +connect evil.example -a \"b c\""});
+    LinuxProcesses processes(yard.Disk, yard.Places);
+    ASSERT_FALSE(processes.StartBatch("C:\\QUAKE", "lv_666.bat",
+                                      {"QUAKE", {{"x +connect evil.example", "x +connect evil.example"}}}));
+    EXPECT_THAT(LinesAfter(WaitForOutput(yard.Drive / "quake/output.txt"), "ARGUMENT="),
+                ElementsAre("-game", "x +connect evil.example", "-a", "b c"));
+}
+
+TEST(NativeRoad, TakesNoOtherFileForTheProgramThatIsNamed) {
+    GameYard yard("native_named");
+    yard.AddGame("show_native", "quake/my game");
+    yard.AddFile("quake/my.bat", "echo pwned > pwned.txt\r\n");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "MY GAME -a"});
+    LinuxProcesses processes(yard.Disk, yard.Places);
+    ASSERT_FALSE(processes.StartBatch("C:\\QUAKE", "lv_666.bat", {"MY GAME", {}}));
+    EXPECT_THAT(LinesAfter(WaitForOutput(yard.Drive / "quake/output.txt"), "ARGUMENT="), ElementsAre("-a"));
+}
+
+TEST(NativeRoad, RefusesAGivenWordWithALineEnd) {
+    GameYard yard("native_line_end");
+    yard.AddGame("show_native", "quake/quake");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE -game x\ny"});
+    const auto plan =
+        LinuxProcesses(yard.Disk, yard.Places).PlanBatch("C:\\QUAKE", "lv_666.bat", {"QUAKE", {{"x\ny", "x\ny"}}});
+    EXPECT_EQ(plan.Fault.Number, 75);
+    EXPECT_EQ(plan.Fault.Text, "A command line would not read this as one word of text, and nothing was started: x\ny");
+}
+
+TEST(ReaderOf, IsNobodyButForBatchesAndDosPrograms) {
+    GameYard yard("reader_of");
+    yard.AddGame("show_native", "quake/native");
+    yard.AddFile("quake/windows.exe", WindowsProgram());
+    yard.AddFile("quake/dos.exe", "MZ");
+    yard.AddFile("quake/go.bat", "@echo off\r\n");
+    yard.AddFile("quake/quake.exe", WindowsProgram());
+    LinuxProcesses processes(yard.Disk, yard.Places);
+    EXPECT_EQ(processes.ReaderOf("C:\\QUAKE", "NATIVE -a", "NATIVE"), LineReader::kNobody);
+    EXPECT_EQ(processes.ReaderOf("C:\\QUAKE", "WINDOWS.EXE -a", "WINDOWS.EXE"), LineReader::kNobody);
+    EXPECT_EQ(processes.ReaderOf("C:\\QUAKE", "DOS.EXE -a", "DOS.EXE"), LineReader::kDosShell);
+    EXPECT_EQ(processes.ReaderOf("C:\\QUAKE", "GO.BAT -a", "GO.BAT"), LineReader::kBatch);
+    EXPECT_EQ(processes.ReaderOf("C:\\QUAKE", "NONE.EXE -a", "NONE.EXE"), LineReader::kNobody);
+    const std::string wrapped = "qlaunch quakeudp.dll QUAKE.EXE -a";
+    EXPECT_EQ(processes.ReaderOf("C:\\QUAKE", wrapped, "QUAKE.EXE"), LineReader::kNobody);
+    yard.AddFile("quake/qlaunch.exe", "MZ");
+    EXPECT_EQ(processes.ReaderOf("C:\\QUAKE", wrapped, "QUAKE.EXE"), LineReader::kDosShell);
+}
+
 TEST(NativeRoad, PassesOverTheNetworkWrapper) {
     GameYard yard("native_wrapper");
     yard.AddGame("show_native", "quake/quake.exe");
@@ -262,8 +312,9 @@ TEST(PlanBatch, TakesAnotherTerminalWithoutXterm) {
     yard.AddBatch("quake", {"SET", "PAUSE", "C:", "cd C:\\QUAKE", "QUAKE.EXE"});
     const auto plan = LinuxProcesses(yard.Disk, yard.Places).PlanBatch("C:\\QUAKE", "lv_666.bat");
     EXPECT_EQ(plan.Value.Program, yard.Places.SearchPath + "/x-terminal-emulator");
-    ASSERT_EQ(plan.Value.Arguments.size(), 5u);
-    EXPECT_EQ(plan.Value.Arguments[1], yard.Places.SearchPath + "/wine");
+    EXPECT_THAT(plan.Value.Arguments,
+                ElementsAre("-e", yard.Places.PauseHelper.string(), yard.Places.SearchPath + "/wine",
+                            (yard.Drive / "quake/quake.exe").string()));
 }
 
 TEST(PlanBatch, SendsABatchOfTheUsersOwnToWine) {
@@ -300,6 +351,18 @@ TEST(PlanProgram, GivesAWindowsProgramToWine) {
     const auto plan = LinuxProcesses(yard.Disk, yard.Places).PlanProgram("C:\\SPY\\GAMESPY.EXE", {"a b"});
     EXPECT_EQ(plan.Value.Program, yard.Places.SearchPath + "/wine");
     EXPECT_THAT(plan.Value.Arguments, ElementsAre(spy, "a b"));
+}
+
+TEST(PlanProgram, RefusesAnArgumentThatABatchWouldMisread) {
+    GameYard yard("batch_program");
+    yard.Places.SearchPath = PathWith(yard, {"wine"});
+    yard.AddFile("bin/edit.bat", "@echo off\r\n");
+    LinuxProcesses processes(yard.Disk, yard.Places);
+    EXPECT_TRUE(processes.PlanProgram("C:\\BIN\\EDIT.BAT", {"C:\\QUAKE\\my best.cfg"}).Ok());
+    for (const std::string word : {"my&evil&.cfg", "%windir%", "a|b", "a\"b"}) {
+        EXPECT_EQ(processes.PlanProgram("C:\\BIN\\EDIT.BAT", {word}).Fault.Text,
+                  "The command processor would not read this as one word of text, and nothing was started: " + word);
+    }
 }
 
 TEST(PlanProgram, LeavesAnUnknownWindowsNameToWine) {

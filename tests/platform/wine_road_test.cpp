@@ -23,6 +23,7 @@ struct WineYard : GameYard {
         Places.SearchPath = (Root / "tools").string();
         std::filesystem::create_directories(Root / "tools");
         std::filesystem::copy_file("/bin/true", Root / "tools/wine");
+        AddFile("quake/go.bat", "@echo off\r\n");
         AddFile("quake/quake.exe", "MZ" + std::string(0x3A, '\0') + std::string("\x40\0\0\0PE\0\0", 8));
     }
     void MapWineDrive(const std::string& letter, const std::filesystem::path& target) {
@@ -95,53 +96,113 @@ TEST(WineDriveIs, ComparesDirectoriesNotNames) {
     EXPECT_TRUE(WineDriveIs(yard.Places.WinePrefix, 'd', "/"));
 }
 
-TEST(WineRoad, RunsTheBatchItselfWhereTheDrivesAgree) {
+TEST(WineRoad, StartsTheProgramWithItsArgumentsAndEnvironment) {
+    WineYard yard("wine_program");
+    yard.AddBatch("quake", {"SET LV_TEST_A= 1 %PATH% & ", "C:", "cd C:\\QUAKE", "QUAKE.EXE -a \"b c\" x&y %windir%"});
+    const HostCommand plan = yard.Plan();
+    EXPECT_EQ(plan.Program, yard.Places.SearchPath + "/wine");
+    EXPECT_THAT(plan.Arguments, ElementsAre((yard.Drive / "quake/quake.exe").string(), "-a", "b c", "x&y", "%windir%"));
+    EXPECT_THAT(plan.Environment, Contains("LV_TEST_A= 1 %PATH% & "));
+    EXPECT_EQ(plan.Directory, (yard.Drive / "quake").string());
+    EXPECT_FALSE(std::filesystem::exists(yard.Places.Cache));
+}
+
+TEST(WineRoad, KeepsEachGivenWordOneArgument) {
+    WineYard yard("wine_given");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE.EXE -game x +connect evil.example -a b"});
+    const auto plan = LinuxProcesses(yard.Disk, yard.Places)
+                          .PlanBatch("C:\\QUAKE", "lv_666.bat",
+                                     {"QUAKE.EXE", {{"x +connect evil.example", "x +connect evil.example"}}});
+    EXPECT_THAT(plan.Value.Arguments,
+                ElementsAre((yard.Drive / "quake/quake.exe").string(), "-game", "x +connect evil.example", "-a", "b"));
+}
+
+TEST(WineRoad, SaysTextBeyondAsciiInUtf8) {
+    WineYard yard("wine_program_accents");
+    yard.AddBatch("quake", {"SET LV_TEST_A=\x80", "C:", "cd C:\\QUAKE", "QUAKE.EXE \xE9"});
+    const HostCommand plan = yard.Plan();
+    EXPECT_THAT(plan.Arguments, ElementsAre((yard.Drive / "quake/quake.exe").string(), "é"));
+    EXPECT_THAT(plan.Environment, Contains("LV_TEST_A=€"));
+}
+
+TEST(WineRoad, LeavesOutAMissingWrapper) {
+    WineYard yard("wine_wrapper");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "qlaunch quakeudp.dll QUAKE.EXE -noipx"});
+    EXPECT_THAT(yard.Plan().Arguments, ElementsAre((yard.Drive / "quake/quake.exe").string(), "-noipx"));
+}
+
+TEST(WineRoad, ShowsTheEnvironmentInATerminalFirst) {
+    WineYard yard("wine_show");
+    std::filesystem::copy_file("/bin/true", yard.Root / "tools/xterm");
+    yard.AddBatch("quake", {"SET LV_TEST_A=1", "SET", "PAUSE", "C:", "cd C:\\QUAKE", "QUAKE.EXE -a"});
+    const HostCommand plan = yard.Plan();
+    EXPECT_EQ(plan.Program, yard.Places.SearchPath + "/xterm");
+    EXPECT_THAT(plan.Arguments, ElementsAre("-e", yard.Places.PauseHelper.string(), yard.Places.SearchPath + "/wine",
+                                            (yard.Drive / "quake/quake.exe").string(), "-a"));
+}
+
+TEST(WineBatchRoad, RunsTheBatchItselfWhereTheDrivesAgree) {
     WineYard yard("wine_same_drive");
     yard.MapWineDrive("c", yard.Drive);
-    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE.EXE -a"});
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "GO.BAT -a"});
     const HostCommand plan = yard.Plan();
     EXPECT_THAT(plan.Arguments, ElementsAre("cmd", "/c", "lv_666.bat"));
     EXPECT_EQ(plan.Directory, (yard.Drive / "quake").string());
     EXPECT_FALSE(std::filesystem::exists(yard.Places.Cache));
 }
 
-TEST(WineRoad, RunsACopyWhereTheyDoNot) {
+TEST(WineBatchRoad, RunsACopyWhereTheyDoNot) {
     WineYard yard("wine_other_drive");
-    yard.AddBatch("quake", {"SET A=1", "C:", "cd C:\\QUAKE", "QUAKE.EXE -a"});
+    yard.AddBatch("quake", {"SET A=1", "C:", "cd C:\\QUAKE", "GO.BAT -a"});
     const HostCommand plan = yard.Plan();
     ASSERT_EQ(plan.Arguments.size(), 3u);
     EXPECT_THAT(plan.Arguments[2], StartsWith("Z:\\"));
     EXPECT_THAT(plan.Arguments[2], EndsWith(".bat"));
-    EXPECT_EQ(yard.OnlyCopy(), "SET A=1\r\nQUAKE.EXE -a");
+    EXPECT_EQ(yard.OnlyCopy(), "SET A=1\r\nGO.BAT -a");
     EXPECT_EQ(plan.Directory, (yard.Drive / "quake").string());
-    EXPECT_EQ(ReadBytes(yard.Drive / "quake/lv_666.bat"), "SET A=1\r\nC:\r\ncd C:\\QUAKE\r\nQUAKE.EXE -a");
+    EXPECT_EQ(ReadBytes(yard.Drive / "quake/lv_666.bat"), "SET A=1\r\nC:\r\ncd C:\\QUAKE\r\nGO.BAT -a");
 }
 
-TEST(WineRoad, RunsACopyForTextBeyondAscii) {
+TEST(WineBatchRoad, RunsACopyForTextBeyondAscii) {
     WineYard yard("wine_accents");
     yard.MapWineDrive("c", yard.Drive);
     yard.MapWineDrive("z", "/");
-    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE.EXE \xE9"});
-    EXPECT_THAT(yard.Plan().Environment, Contains("LV_666_1=QUAKE.EXE é"));
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "GO.BAT \xE9"});
+    EXPECT_THAT(yard.Plan().Environment, Contains("LV_666_1=GO.BAT é"));
     EXPECT_EQ(yard.OnlyCopy(), "%LV_666_1%");
 }
 
-TEST(WineRoad, RunsACopyWithoutAMissingWrapper) {
-    WineYard yard("wine_wrapper");
+TEST(WineBatchRoad, RunsACopyWithoutAMissingWrapper) {
+    WineYard yard("wine_batch_wrapper");
     yard.MapWineDrive("c", yard.Drive);
     yard.MapWineDrive("z", "/");
-    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "qlaunch quakeudp.dll QUAKE.EXE -noipx"});
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "qlaunch quakeudp.dll GO.BAT -noipx"});
     yard.Plan();
-    EXPECT_EQ(yard.OnlyCopy(), "QUAKE.EXE -noipx");
+    EXPECT_EQ(yard.OnlyCopy(), "GO.BAT -noipx");
 }
 
-TEST(WineRoad, NamesAProgramOfFullPathAsWineHasIt) {
+TEST(WineBatchRoad, NamesABatchOfFullPathAsWineHasIt) {
     WineYard yard("wine_full_path");
     yard.MapWineDrive("g", yard.Drive);
     yard.MapWineDrive("z", "/");
-    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "C:\\QUAKE\\QUAKE.EXE -a \"b c\""});
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "C:\\QUAKE\\GO.BAT -a \"b c\""});
     yard.Plan();
-    EXPECT_EQ(yard.OnlyCopy(), "\"G:\\quake\\quake.exe\" -a \"b c\"");
+    EXPECT_EQ(yard.OnlyCopy(), "\"G:\\quake\\go.bat\" -a \"b c\"");
+}
+
+TEST(WineBatchRoad, RefusesAGivenWordThatABatchWouldMisread) {
+    for (const char* const word : {"m&echo mod>modpwn.txt&", "%windir%", "a b", "a^b", "a)b", "a,b", "a\nb"}) {
+        WineYard yard("wine_batch_given");
+        yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", std::string("GO.BAT -game ") + word});
+        const auto plan =
+            LinuxProcesses(yard.Disk, yard.Places).PlanBatch("C:\\QUAKE", "lv_666.bat", {"GO.BAT", {{word, word}}});
+        EXPECT_EQ(plan.Fault.Number, 75) << word;
+        EXPECT_EQ(plan.Fault.Text,
+                  std::string("The command processor would not read this as one word of text, and nothing was "
+                              "started: ") +
+                      word);
+        EXPECT_FALSE(std::filesystem::exists(yard.Places.Cache)) << word;
+    }
 }
 
 TEST(WineRoad, KeepsWineQuietUnlessTold) {

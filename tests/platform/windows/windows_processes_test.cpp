@@ -3,10 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <vector>
 
 #include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
+#include "tests/support/test_paths.h"
 #include "tests/support/windows/own_window.h"
 #include "this_system.h"
 
@@ -91,12 +93,55 @@ TEST(StartBatch, TakesTheCurrentDirectoryWithoutOne) {
     EXPECT_THAT(After("DIRECTORY=", Yard::Said()), ElementsAre("T:\\QUAKE"));
 }
 
+// Wine names what lies on no drive by such paths, and the program takes them for a network's. What part of the name
+// would run, would run in the system's directory.
+TEST(StartBatch, RunsNoPartOfADirectorysNameOnAShare) {
+    Yard yard;
+    std::wstring share = L"\\\\?\\unix";
+    for (const char c : TestBinaryDir()) {
+        share += c == '/' ? L'\\' : static_cast<wchar_t>(c);
+    }
+    share += L"\\share&md lv_pwned&";
+    CreateDirectoryW(share.c_str(), nullptr);
+    WriteBytes(share + L"\\lv_666.bat", "exit\r\n");
+    std::array<wchar_t, MAX_PATH> system{};
+    GetSystemDirectoryW(system.data(), static_cast<UINT>(system.size()));
+    const std::wstring pwned = std::wstring(system.data()) + L"\\lv_pwned";
+    RemoveDirectoryW(pwned.c_str());
+    EXPECT_EQ(yard.Programs.StartBatch(FromWideLossy(share), "lv_666.bat").Number, 0);
+    EXPECT_FALSE(WaitUntil([&] { return GetFileAttributesW(pwned.c_str()) != INVALID_FILE_ATTRIBUTES; }, 3000));
+    DeleteFileW((share + L"\\lv_666.bat").c_str());
+    RemoveDirectoryW(share.c_str());
+}
+
 TEST(StartBatch, SaysWhatIsMissing) {
     Yard yard;
     EXPECT_EQ(yard.Programs.StartBatch("T:\\QUAKE", "lv_666.bat").Number, 53);
     const Error failed = yard.Programs.StartBatch("T:\\NONE", "lv_666.bat");
     EXPECT_EQ(failed.Number, 76);
     EXPECT_NE(failed.Text.find("T:\\NONE"), std::string::npos) << failed.Text;
+}
+
+TEST(ReaderOf, IsTheCommandProcessorAlways) {
+    Yard yard;
+    EXPECT_EQ(yard.Programs.ReaderOf("T:\\QUAKE", "GAME.EXE -a", "GAME.EXE"), LineReader::kCommandProcessor);
+    EXPECT_EQ(yard.Programs.ReaderOf("T:\\QUAKE", "GO.BAT -a", "GO.BAT"), LineReader::kBatch);
+    EXPECT_EQ(yard.Programs.ReaderOf("T:\\NONE", "", ""), LineReader::kCommandProcessor);
+}
+
+TEST(StartProgram, GivesABatchNoArgumentThatItWouldMisread) {
+    Yard yard;
+    WriteBytes(L"T:\\QUAKE\\go.bat", "@echo off\r\ncd /d T:\\QUAKE\r\nGAME.EXE %*\r\n");
+    EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\QUAKE").Number, 0);
+    for (const std::string word : {"a&md pwned", "%windir%", "a|b", "a\"b", "a^b"}) {
+        const Error failed = yard.Programs.StartProgram("T:\\QUAKE\\go.bat", {word});
+        EXPECT_EQ(failed.Number, 75) << word;
+        EXPECT_EQ(failed.Text,
+                  "The command processor would not read this as one word of text, and nothing was started: " + word);
+    }
+    EXPECT_EQ(yard.Programs.StartProgram("T:\\QUAKE\\go.bat", {"my best.cfg"}).Number, 0);
+    EXPECT_THAT(After("ARGUMENT=", Yard::Said()), ElementsAre("my best.cfg"));
+    EXPECT_EQ(GetFileAttributesW(L"T:\\QUAKE\\pwned"), INVALID_FILE_ATTRIBUTES);
 }
 
 TEST(StartProgram, HandsItsArgumentsOverAsTheyAre) {

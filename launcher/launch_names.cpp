@@ -1,0 +1,207 @@
+#include "launcher/launch_names.h"
+
+#include <algorithm>
+
+#include "catalogs/modifications.h"
+#include "foundation/field_strings.h"
+#include "foundation/game_numbers.h"
+#include "launcher/composition_rules.h"
+
+namespace lv {
+
+namespace {
+
+constexpr std::size_t kLongestShown = 200;
+
+struct NameRow {
+    NameKind Kind;
+    TextView What;
+    TextView Source;
+    TextView Help;
+};
+
+// clang-format off
+constexpr NameRow kNames[] = {
+    {NameKind::Executable,    "executable",     "the list of executables",             "Rename the program, and enter it anew."},
+    {NameKind::GameDirectory, "game directory", "the path of the executable",          "Rename the directory, and enter the executable anew."},
+    {NameKind::Modification,  "modification",   "the directories of the game",         "Rename its directory, or pick another modification."},
+    {NameKind::Map,           "map",            "the maps and archives of the game",   "Rename the map, or pick another one."},
+    {NameKind::Script,        "player script",  "the list of player scripts",          "Rename the script, or pick another one."},
+    {NameKind::Demo,          "demo",           "the list of demos",                   "Rename the demo, or pick another one."},
+    {NameKind::Server,        "server",         "the list of servers",                 "Edit the server's address, or pick another server."},
+    {NameKind::Password,      "password",       "the list of servers",                 "Edit the server's password, or pick another server."},
+};
+
+// What Windows takes for a program when a command names no ending.
+constexpr TextView kProgramEndings[] = {".com", ".exe", ".bat", ".cmd", ".vbs", ".vbe",
+                                        ".js",  ".jse", ".wsf", ".wsh", ".msc"};
+// clang-format on
+
+const NameRow& RowOf(NameKind kind) {
+    return *std::ranges::find(kNames, kind, &NameRow::Kind);
+}
+
+/// What the user has typed into a quoted password reaches the game without its quotes.
+Text WithoutQuotes(const Text& text) {
+    const bool quoted = text.size() >= 2 && text.starts_with('"') && text.ends_with('"');
+    return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
+using Names = std::vector<LaunchName>;
+
+void AddModification(Names& names, const LaunchSelection& selection, bool isUnreal) {
+    const Text mod = selection.Game_Chk && selection.Game ? LowerCase(*selection.Game) : Text();
+    if (mod.starts_with(kGameOption)) {  // anything else is an option that the user has typed
+        const Text name = Trim(DropLeft(mod, kGameOption.size()));
+        names.push_back({.Kind = NameKind::Modification, .Value = name, .Written = name, .InCommand = !isUnreal});
+    }
+}
+
+void AddServer(Names& names, const LaunchSelection& selection, const LaunchGame& game) {
+    if (!selection.Server_Chk || !selection.Server || selection.Bench_Chk) {
+        return;
+    }
+    const auto& [server, password] = ServerOf(*selection.Server);
+    const bool isUnreal = game.GameKind == game_kind::kUnreal;
+    const bool isHalfLife = game.GameKind == game_kind::kHalfLife;
+    names.push_back(
+        {.Kind = NameKind::Password, .Value = WithoutQuotes(password), .Written = password, .InCommand = isHalfLife});
+    names.push_back({.Kind = NameKind::Server,
+                     .Value = server,
+                     .Written = server,
+                     .InCommand = isUnreal || isHalfLife,
+                     .InScript = !isUnreal});
+}
+
+void AddMap(Names& names, const LaunchSelection& selection, bool isUnreal) {
+    if (selection.Map_Chk && selection.Map) {
+        const Text name = Trim(Join(LowerCase(*selection.Map), isUnreal ? ".unr" : ""));
+        names.push_back(
+            {.Kind = NameKind::Map, .Value = name, .Written = name, .InCommand = isUnreal, .InScript = !isUnreal});
+    }
+}
+
+void AddScript(Names& names, const LaunchSelection& selection, bool isUnreal) {
+    if (!selection.Script_Chk || !selection.Script || selection.LaunchQspy_Chk) {
+        return;
+    }
+    const Text name = Trim(LastPathPart(*selection.Script));
+    names.push_back({.Kind = NameKind::Script,
+                     .Value = name,
+                     .Written = QuotedIfBlank(name),
+                     .Option = isUnreal ? "INI=" : "",
+                     .InCommand = isUnreal,
+                     .InScript = !isUnreal});
+}
+
+/// A demo's record is a console command; its name stands behind the command's word.
+void AddDemo(Names& names, const LaunchSelection& selection, bool isUnreal) {
+    if (selection.Demo_Chk && selection.Demo) {
+        const Text& command = *selection.Demo;
+        const std::size_t blank = std::min(command.find(' '), command.size());
+        const Text name = blank < command.size() ? Trim(command.substr(blank)) : command;
+        names.push_back({.Kind = NameKind::Demo, .Value = name, .Written = name, .InScript = !isUnreal});
+    }
+}
+
+/// Who reads the name first, of those who might take it for more than text.
+LineReader ReaderOfName(const LaunchName& name, LineReader reader) {
+    if (reader != LineReader::kCommandProcessor && reader != LineReader::kBatch) {
+        return name.InCommand ? reader : LineReader::kNobody;
+    }
+    const bool isParameter = name.InCommand && name.Kind != NameKind::Executable;
+    return isParameter ? reader : LineReader::kCommandProcessor;
+}
+
+/// Who would misread the name; nothing if nobody would.
+std::optional<TextView> Misreader(const LaunchName& name, LineReader reader) {
+    if (!ReadsAsOneWord(name.Value, LineReader::kNobody)) {
+        return "A command line";
+    }
+    if (name.InScript && name.Value.find_first_of("\";") != Text::npos) {
+        return "The game's console";
+    }
+    // What "%" makes of a directory is none, and the game starts in the right one all the same.
+    const bool isDirectory = name.Kind == NameKind::GameDirectory;
+    const Text written = isDirectory ? ReplaceText(name.Written, "%", "_") : name.Written;
+    const LineReader first = ReaderOfName(name, reader);
+    if (ReadsAsOneWord(written, first)) {
+        return std::nullopt;
+    }
+    return first == LineReader::kDosShell ? "DOS's shell" : "The command processor";
+}
+
+/// On one line, and no longer than a box is wide.
+Text Shown(TextView text) {
+    Text shown(text.substr(0, kLongestShown));
+    std::replace_if(
+        shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, '?');
+    return text.size() > kLongestShown ? shown + "..." : shown;
+}
+
+}  // namespace
+
+std::vector<LaunchName> NamesOf(const LaunchSelection& selection, const LaunchGame& game) {
+    const bool isUnreal = game.GameKind == game_kind::kUnreal;
+    Names names;
+    const Text directory = QuotedIfBlank(game.DefaultGameDirectory);
+    names.push_back({.Kind = NameKind::GameDirectory, .Value = game.DefaultGameDirectory, .Written = directory});
+    const Text executable = ExecutableName(selection);
+    names.push_back({.Kind = NameKind::Executable, .Value = executable, .Written = executable, .InCommand = true});
+    if (isUnreal) {
+        AddServer(names, selection, game);  // right behind the executable
+    }
+    AddModification(names, selection, isUnreal);
+    AddMap(names, selection, isUnreal);
+    AddScript(names, selection, isUnreal);
+    if (!isUnreal) {
+        AddServer(names, selection, game);
+    }
+    AddDemo(names, selection, isUnreal);
+    std::erase_if(names, [](const LaunchName& name) { return name.Written.empty(); });
+    return names;
+}
+
+BatchCommand KnownCommand(const LaunchSelection& selection, const std::vector<LaunchName>& names) {
+    BatchCommand known{ExecutableName(selection), {}};
+    for (const LaunchName& name : names) {
+        if (name.InCommand && name.Kind != NameKind::Executable) {
+            known.Given.push_back({name.Written, name.Value, name.Option});
+        }
+    }
+    return known;
+}
+
+std::optional<Text> MisreadName(const std::vector<LaunchName>& names, LineReader reader) {
+    for (const LaunchName& name : names) {
+        if (const std::optional<TextView> misreader = Misreader(name, reader)) {
+            const NameRow& row = RowOf(name.Kind);
+            return Join("Nothing was written, and nothing was started.", NewLine, NewLine, "The ", row.What, Blank,
+                        DoubleQuote, Shown(name.Value), DoubleQuote, " comes from ", row.Source, ".", NewLine,
+                        *misreader, " would not read it as one word of text.", NewLine, NewLine, row.Help);
+        }
+    }
+    return std::nullopt;
+}
+
+std::vector<Text> ConnectPrograms(const std::vector<LaunchName>& names, LineReader reader) {
+    std::vector<Text> files;
+    const bool broken = std::ranges::any_of(
+        names, [](const LaunchName& name) { return name.Kind == NameKind::Password && name.InCommand; });
+    if (broken && (reader == LineReader::kCommandProcessor || reader == LineReader::kBatch)) {
+        for (const TextView ending : kProgramEndings) {
+            files.push_back(Join("connect", ending));
+        }
+    }
+    return files;
+}
+
+Text ConnectProgramText(TextView path) {
+    return Join("Nothing was written, and nothing was started.", NewLine, NewLine, "The file ", DoubleQuote, path,
+                DoubleQuote, " lies in the game's directory.", NewLine,
+                "The command processor would run it behind the game, for the server's password breaks the command "
+                "line.",
+                NewLine, NewLine, "Remove the file, or the password of the server.");
+}
+
+}  // namespace lv
