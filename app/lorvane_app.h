@@ -9,10 +9,12 @@
 #include <wx/image.h>
 #include <wx/timer.h>
 
+#include <exception>
 #include <memory>
 #include <utility>
 
 #include "catalogs/forms/entry_forms.h"
+#include "foundation/question_box.h"
 #include "foundry/forms/fig_form.h"
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
@@ -85,10 +87,40 @@ class LorvaneApp : public wxApp {
         return wxApp::OnExit();
     }
 
+    // Called while the exception is handled, whichever event it came out of. The program goes on: what is stored and
+    // written is so in single steps, and the windows show what their structs say.
+    bool OnExceptionInMainLoop() override {
+        if (!telling_) {
+            telling_ = true;
+            TellOfException();
+            telling_ = false;
+        }
+        return true;
+    }
+
   private:
+    void TellOfException() {
+        try {
+            throw;
+        } catch (const std::exception& thrown) {
+            TellOfGivenUpWork(program_->TheRun, ErrorOfException(thrown));
+        } catch (...) {
+            TellOfGivenUpWork(program_->TheRun, MakeError(error::kInternal));
+        }
+    }
+
+    bool StartOrTell() {
+        try {
+            return Start(program_->TheLauncher);
+        } catch (...) {
+            OnExceptionInMainLoop();
+            return false;
+        }
+    }
+
     // The start pumps events, so it needs the loop around it.
     void StartInsideTheLoop() {
-        if (!Start(program_->TheLauncher)) {
+        if (!StartOrTell()) {
             End();
             return;
         }
@@ -115,6 +147,7 @@ class LorvaneApp : public wxApp {
 
     static constexpr int kLookMilliseconds = 250;
 
+    bool telling_ = false;
     LvForm* form_ = nullptr;
     wxTimer look_;
     std::unique_ptr<Program<System>> program_;

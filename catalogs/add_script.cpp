@@ -4,6 +4,7 @@
 #include "catalogs/game_filters.h"
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
+#include "foundation/link_question.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 
@@ -81,6 +82,9 @@ bool ValidateFile(AddScript_Frm& form, const Text& path) {
     }
     if (there) {
         TellFault(form, "ScriptPath_Txt", AlreadyExists(path), "Error Creating File");
+        return false;
+    }
+    if (!MayWriteThroughLinks(run, path)) {
         return false;
     }
     if (const Error failed = MakeScript(run, path)) {

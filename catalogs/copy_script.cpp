@@ -5,6 +5,7 @@
 #include "catalogs/path_window.h"
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
+#include "foundation/link_question.h"
 #include "foundation/question_box.h"
 
 namespace lv {
@@ -58,6 +59,9 @@ void CopyScript(Run& run, CatalogLists& lists) {
     }
     const Text target = AskForTarget(run, directory, LastPathPart(source), SameText(directory, DirectoryOf(source)));
     if (target.empty()) {
+        return;
+    }
+    if (!MayWriteThroughLinks(run, target)) {
         return;
     }
     if (SameText(source, target) || run.System.Disk.Copy(source, target)) {

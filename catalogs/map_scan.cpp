@@ -2,6 +2,7 @@
 
 #include "catalogs/catalog_store.h"
 #include "catalogs/pak_directory.h"
+#include "catalogs/timed_file.h"
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
 
@@ -11,6 +12,10 @@ namespace {
 
 constexpr Index kUnreal = 4;
 constexpr Index kSin = 5;
+// An archive may hold the window up for a tenth of a second. Thousands of them may not do so one by one.
+constexpr double kSecondsForAnArchive = 0.1;
+constexpr double kSecondsForADirectory = 1;
+
 constexpr std::size_t kSystemLength = 6;  // of the word "system"
 
 void AddMap(Text& mapList, TextView name) {
@@ -39,14 +44,21 @@ void ScanLooseFiles(Files& files, TextView directory, Text& mapList) {
     }
 }
 
-void ScanArchives(Files& files, TextView directory, Index gameKind, Text& mapList) {
-    const bool isSin = gameKind == kSin;
+void ScanArchives(Run& run, TextView directory, Text& mapList) {
+    const bool isSin = run.GameKind == kSin;
+    Files& files = run.System.Disk;
+    Clock& clock = run.System.Time;
+    const double end = clock.Seconds() + kSecondsForADirectory;
     for (const Text& name : ListFiles(files, directory, isSin ? "*.sin" : "*.pak")) {
+        if (clock.Seconds() > end) {
+            return;
+        }
         const auto archive = files.Open(Join(directory, "\\", name));
         if (!archive.Ok()) {
             continue;
         }
-        for (const Text& map : PakMapNames(*archive.Value, isSin ? "SPAK" : "PACK")) {
+        TimedFile timed(*archive.Value, clock, kSecondsForAnArchive);
+        for (const Text& map : PakMapNames(timed, isSin ? "SPAK" : "PACK")) {
             AddMap(mapList, map);
         }
     }
@@ -57,7 +69,7 @@ void ScanDirectory(Run& run, TextView subdirectory, Text& mapList) {
     if (directory.ends_with('\\')) {
         directory.pop_back();
     }
-    ScanArchives(run.System.Disk, directory, run.GameKind, mapList);
+    ScanArchives(run, directory, mapList);
     ScanLooseFiles(run.System.Disk, directory, mapList);
 }
 

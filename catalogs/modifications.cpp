@@ -49,7 +49,7 @@ bool IsGameDirectory(Files& files, TextView directory) {
         if (entry.IsDirectory) {
             return SameText(entry.Name, "maps");
         }
-        return MatchesWildcard(entry.Name, "*.pak") || MatchesWildcard(entry.Name, "*.dat");
+        return !entry.IsDevice && (MatchesWildcard(entry.Name, "*.pak") || MatchesWildcard(entry.Name, "*.dat"));
     });
 }
 

@@ -16,6 +16,16 @@ std::uint32_t NumberAt(TextView bytes, std::size_t at) {
     return number;
 }
 
+constexpr std::size_t kBlock = 1024 * kPakEntrySize;
+
+void AddMapNames(TextView entries, std::vector<Text>& names) {
+    for (std::size_t at = 0; at < entries.size(); at += kPakEntrySize) {
+        if (auto name = MapNameOfEntry(entries.substr(at, kPakEntrySize))) {
+            names.push_back(*std::move(name));
+        }
+    }
+}
+
 }  // namespace
 
 std::optional<PakHeader> ReadPakHeader(TextView header, TextView magic) {
@@ -53,14 +63,17 @@ std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic) {
     if (!header || header->Offset >= archive.Size()) {
         return {};
     }
-    const std::uint64_t wanted = std::uint64_t{PakEntryCount(header->Length)} * kPakEntrySize;
-    const std::uint64_t held = archive.Size() - header->Offset;
-    const Text directory = archive.Read(header->Offset, static_cast<std::size_t>(std::min(wanted, held))).Value;
+    const std::uint64_t wanted =
+        std::uint64_t{std::min(PakEntryCount(header->Length), kMostMapEntries)} * kPakEntrySize;
+    const std::uint64_t end = header->Offset + std::min(wanted, archive.Size() - header->Offset);
 
     std::vector<Text> names;
-    for (std::size_t at = 0; at < directory.size(); at += kPakEntrySize) {
-        if (auto name = MapNameOfEntry(TextView(directory).substr(at, kPakEntrySize))) {
-            names.push_back(*std::move(name));
+    for (std::uint64_t at = header->Offset; at < end; at += kBlock) {
+        const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(kBlock, end - at));
+        const Result<Text> block = archive.Read(at, size);
+        AddMapNames(block.Value, names);
+        if (block.Value.size() < size) {
+            break;
         }
     }
     return names;

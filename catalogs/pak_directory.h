@@ -18,6 +18,9 @@ namespace lv {
 constexpr std::size_t kPakHeaderSize = 12;
 constexpr std::size_t kPakEntrySize = 64;
 
+/// More entries than any game reads, whatever a header claims; what stands behind them is not looked at.
+constexpr std::uint32_t kMostMapEntries = 65536;
+
 /// Where the directory lies. Nothing if the header is short or its magic another.
 struct PakHeader {
     std::uint32_t Offset = 0;
@@ -32,8 +35,9 @@ std::uint32_t PakEntryCount(std::uint32_t length);
 /// the models "b_...", and for names that cannot stand in a list.
 std::optional<Text> MapNameOfEntry(TextView entry);
 
-/// The maps of an archive in the directory's order. Whatever the header says, no more is read than the file holds; a
-/// damaged archive costs its own entries and nothing else.
+/// The maps of an archive in the directory's order, read in blocks. Whatever the header says, no more is read than the
+/// file holds and kMostMapEntries take; a read that fails ends the list. A damaged archive costs its own entries and
+/// nothing else.
 std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic);
 
 }  // namespace lv

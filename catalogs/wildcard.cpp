@@ -30,7 +30,7 @@ bool MatchesWildcard(TextView name, TextView pattern) {
 std::vector<Text> ListFiles(Files& files, TextView directory, TextView pattern) {
     std::vector<Text> names;
     for (const DirectoryEntry& entry : files.List(directory).Value) {
-        if (!entry.IsDirectory && MatchesWildcard(entry.Name, pattern)) {
+        if (!entry.IsDirectory && !entry.IsDevice && MatchesWildcard(entry.Name, pattern)) {
             names.push_back(entry.Name);
         }
     }

@@ -1,6 +1,7 @@
 #include "foundation/question_box.h"
 
 #include <algorithm>
+#include <exception>
 
 #include "foundation/field_strings.h"
 #include "foundation/settings.h"
@@ -130,6 +131,17 @@ Index AskUserFixedWidth(Run& run, const char* title, TextView text, TextView but
 
 Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons, int defaultButton, int icon) {
     return Ask(run, title, text, buttons, defaultButton, icon, true);
+}
+
+void TellOfGivenUpWork(Run& run, const Error& failed) noexcept {
+    try {
+        AskUser(run, "",
+                Join("What was under way has been given up.", NewLine, NewLine,
+                     "Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text, NewLine,
+                     NewLine, "Save your work, and close other programs before you try again."));
+    } catch (const std::exception&) {
+        return;
+    }
 }
 
 bool MessageIsOn(Run& run, TextView messageKey) {

@@ -62,6 +62,10 @@ Index AskUserFixedWidth(Run& run, const char* title, TextView text, TextView but
 /// With the box "Don't show this message again"; run.ShowAgain is false afterwards if the user ticked it.
 Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons = "&OK", int defaultButton = 0, int icon = 0);
 
+/// Of work that could not be gone on with, for want of memory above all. Never throws: a box that there is no memory
+/// for is left out.
+void TellOfGivenUpWork(Run& run, const Error& failed) noexcept;
+
 /// Whether the key in section "ShowMessage" is 1, as it is until the user has had enough of that message. Some messages
 /// come at 1 alone; others at everything but "0".
 bool MessageIsOn(Run& run, TextView messageKey);

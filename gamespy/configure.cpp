@@ -80,7 +80,7 @@ Error WriteScript(SpyLaunch& launch, const SpyGames& games, const ScriptRow& row
         (void)disk.Delete(path);
         return {};
     }
-    const Error failed = disk.Replace(path, text);
+    const Error failed = disk.ReplaceOwn(path, text);
     return failed.Number == error::kPathNotFound ? Error() : failed;
 }
 
@@ -101,7 +101,7 @@ void PutPif(SpyLaunch& launch, const SpyGames& games, std::size_t slot) {
     const SpySlot& facts = SpySlots()[slot];
     const std::size_t place = slot == spy_slot::kUnreal ? spy_slot::kSin : slot;
     const Text pif = Join(games[place].Directory, "\\", facts.Pif);
-    if (run.System.Disk.Copy(Join(run.AppDirectory, "\\", facts.PifTemplate), pif)) {
+    if (run.System.Disk.CopyOwn(Join(run.AppDirectory, "\\", facts.PifTemplate), pif)) {
         (void)run.System.Disk.Delete(pif);
     }
 }
@@ -117,7 +117,7 @@ SpyFailure WriteBatches(SpyLaunch& launch, const SpyGames& games) {
         }
         const Text path = Join(games[slot].Directory, "\\", SpySlots()[slot].Batch);
         if (const Error failed =
-                launch.launcher.run.System.Disk.Replace(path, SpyBatchText(slot, games[slot], parts))) {
+                launch.launcher.run.System.Disk.ReplaceOwn(path, SpyBatchText(slot, games[slot], parts))) {
             return {failed, Join(SpySlots()[slot].FileTag, path)};
         }
         PutPif(launch, games, slot);

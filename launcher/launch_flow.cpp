@@ -1,5 +1,7 @@
 #include "launcher/launch_flow.h"
 
+#include <exception>
+
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
 #include "foundation/numbers.h"
@@ -132,7 +134,7 @@ bool WriteScript(Click& click) {
         }
         return true;
     }
-    if (const Error failed = disk.Replace(ScriptFilePath(click.Game), click.Script)) {
+    if (const Error failed = disk.ReplaceOwn(ScriptFilePath(click.Game), click.Script)) {
         ReportError(click, failed);
         return false;
     }
@@ -149,7 +151,7 @@ bool WriteBatch(Click& click) {
     }
     const Text path = Join(click.Game.DefaultGameDirectory, "\\", kLaunchBatchFile);
     click.FailureFile = Join(kBatchTag, path);
-    if (const Error failed = click.run.System.Disk.Replace(path, click.Batch)) {
+    if (const Error failed = click.run.System.Disk.ReplaceOwn(path, click.Batch)) {
         ReportError(click, failed);
         return false;
     }
@@ -200,7 +202,7 @@ void PutPif(const Click& click) {
     Files& disk = click.run.System.Disk;
     const Text pif = Join(click.Game.DefaultGameDirectory, "\\", kLaunchPifFile);
     const Text pattern = Join(click.run.AppDirectory, "\\", PifTemplateName(click.Game.GameKind));
-    if (disk.Copy(pattern, pif)) {
+    if (disk.CopyOwn(pattern, pif)) {
         (void)disk.Delete(pif);  // without a template the game starts without one
     }
 }
@@ -267,6 +269,14 @@ void LaunchDirectly(Click& click) {
         WriteBatch(click) && ViewOrGoOn(click)) {
         StartGame(click);
     }
+}
+
+/// Above all for want of memory. No game has the screen, so the window comes back if it has gone.
+void GiveUp(Click& click, const Error& failed) {
+    if (!click.launcher.Window.Visible) {
+        ShowMainWindow(click.launcher);
+    }
+    ReportError(click, failed);
 }
 
 std::optional<Text> Payload(const ListBox& list) {
@@ -344,10 +354,14 @@ void DoIt_Cmd_Click(Launcher& launcher, int index) {
                 {},
                 {}};
     launcher.LaunchUnderWay = true;
-    if (click.Selection.LaunchQspy_Chk) {
-        LaunchThroughGameSpy(click);
-    } else {
-        LaunchDirectly(click);
+    try {
+        if (click.Selection.LaunchQspy_Chk) {
+            LaunchThroughGameSpy(click);
+        } else {
+            LaunchDirectly(click);
+        }
+    } catch (const std::exception& thrown) {
+        GiveUp(click, ErrorOfException(thrown));
     }
     launcher.LaunchUnderWay = false;
 }

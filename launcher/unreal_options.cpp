@@ -1,6 +1,8 @@
 #include "launcher/unreal_options.h"
 
+#include "foundation/bounded_file.h"
 #include "foundation/field_strings.h"
+#include "foundation/link_question.h"
 #include "launcher/launch_flow.h"
 #include "launcher/unreal_ini.h"
 #include "video/profile_model.h"
@@ -38,7 +40,10 @@ Error SetUnrealVideoOptionsForLaunch(Launcher& launcher, const std::optional<Tex
     }
     const Text path = ini ? *ini : PickIni(launcher);
     RemoveWorkFile(run, path);
-    const Result<Text> old = run.System.Disk.Read(path);
+    if (!MayWriteThroughLinks(run, path)) {
+        return {};  // the game starts with what that file says
+    }
+    const Result<Text> old = ReadBounded(run.System.Disk, path, kLargestIni);
     if (!old.Ok()) {
         return old.Fault;
     }

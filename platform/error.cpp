@@ -1,5 +1,8 @@
 #include "platform/error.h"
 
+#include <new>
+#include <stdexcept>
+
 namespace lv {
 
 namespace {
@@ -12,6 +15,8 @@ struct ErrorRow {
 // clang-format off
 constexpr ErrorRow kErrors[] = {
     {error::kInvalidCall, "Invalid procedure call"},
+    {error::kOutOfMemory, "Out of memory"},
+    {error::kInternal, "Internal error"},
     {error::kBadFileName, "Bad file name or number"},
     {error::kFileNotFound, "File not found"},
     {error::kAlreadyOpen, "File already open"},
@@ -40,6 +45,19 @@ Error MakeError(int number, const std::string& about) {
     Error made = MakeError(number);
     made.Text += ": " + about;
     return made;
+}
+
+Error MakeTooLarge(std::uint64_t most) {
+    return {error::kOutOfMemory, "The file is larger than " + std::to_string(most >> 20U) + " MB"};
+}
+
+Error ErrorOfException(const std::exception& thrown) {
+    // A length_error is what a text asks for that no memory could ever hold.
+    if (dynamic_cast<const std::bad_alloc*>(&thrown) != nullptr ||
+        dynamic_cast<const std::length_error*>(&thrown) != nullptr) {
+        return MakeError(error::kOutOfMemory);
+    }
+    return MakeError(error::kInternal, thrown.what());
 }
 
 }  // namespace lv

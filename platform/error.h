@@ -4,6 +4,8 @@
 
 #pragma once
 
+#include <cstdint>
+#include <exception>
 #include <string>
 #include <utility>
 
@@ -11,6 +13,8 @@ namespace lv {
 
 namespace error {
 constexpr int kInvalidCall = 5;
+constexpr int kOutOfMemory = 7;
+constexpr int kInternal = 51;
 constexpr int kBadFileName = 52;
 constexpr int kFileNotFound = 53;
 constexpr int kAlreadyOpen = 55;
@@ -36,6 +40,12 @@ Error MakeError(int number);
 
 /// The customary text, followed by ": " and what it was about.
 Error MakeError(int number, const std::string& about);
+
+/// Error 7 of a file with more bytes than `most`: "The file is larger than 64 MB".
+Error MakeTooLarge(std::uint64_t most);
+
+/// What an exception comes to where it is caught: 7 for memory that there is not, 51 with its own text for any other.
+Error ErrorOfException(const std::exception& thrown);
 
 /// A value, or the error that stood in its way; Value is default-made when Fault is set.
 template <class T>

@@ -18,10 +18,15 @@
 
 namespace lv {
 
+/// A link counts as what it leads to.
 struct DirectoryEntry {
     std::string Name;
     bool IsDirectory = false;
+    bool IsDevice = false;  // or a pipe, or a socket: nothing that could be read as a file
 };
+
+/// The largest file that is read or copied whole.
+constexpr std::uint64_t kLargestWholeFile = 256U << 20U;
 
 /// An open file that is read from any place.
 class RandomAccessFile {
@@ -48,7 +53,7 @@ class Files {
     /// Whether the drive can be read now: 68 device unavailable, 71 disk not ready.
     virtual Error ProbeDrive(std::string_view drive) = 0;
 
-    /// A directory is no file, and the other way round.
+    /// A directory is no file, and the other way round. A device, a pipe or a socket is neither.
     virtual bool FileExists(std::string_view path) = 0;
     virtual bool DirectoryExists(std::string_view path) = 0;
 
@@ -60,17 +65,28 @@ class Files {
     /// hold no files of a user's, and those of other machines. Where nothing better is known, the path is the identity.
     virtual Result<WalkedDirectory> ListForWalk(std::string_view directory);
 
-    /// The whole file. Errors: 53 no such file, 76 no such directory, 75 a directory or a device, 70 no access.
+    /// The whole file. Errors: 53 no such file, 76 no such directory, 75 a directory or a device, 70 no access, 7 more
+    /// than kLargestWholeFile. Waits for nobody: a pipe is a device. No size that a file claims costs memory before it
+    /// has been looked at, and memory that there is not is error 7 as well, from an open file too.
     virtual Result<std::string> Read(std::string_view path) = 0;
     virtual Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) = 0;
 
     /// Makes the file hold exactly these bytes, in one step: afterwards, and after a crash at any moment, there is the
-    /// old file or the new one. A name that exists in another letter case keeps its spelling. Errors: 76 no such
-    /// directory, 75 or 70 no access, 61 disk full.
+    /// old file or the new one. A name that exists in another letter case keeps its spelling; a link stays a link, and
+    /// what it leads to is replaced. Errors: 76 no such directory, 75 or 70 no access, 61 disk full.
     virtual Error Replace(std::string_view path, std::string_view bytes) = 0;
 
-    /// Byte copy, in one step like Replace.
+    /// Byte copy, in one step like Replace. Error 7 for more than kLargestWholeFile.
     virtual Error Copy(std::string_view from, std::string_view to) = 0;
+
+    /// As Replace and Copy, for a file of the program's own making: a link of that name is replaced and never followed,
+    /// and the file is new each time, for its owner alone to read and write.
+    virtual Error ReplaceOwn(std::string_view path, std::string_view bytes) = 0;
+    virtual Error CopyOwn(std::string_view from, std::string_view to) = 0;
+
+    /// Where a write to `path` would end if links lead it out of both the user's home and the directory `tree`, as the
+    /// host says it, in code page 1252. Empty if they don't, or if there is no link on the way.
+    virtual std::string LeadsAway(std::string_view path, std::string_view tree) = 0;
 
     virtual Error Delete(std::string_view path) = 0;
     virtual Error MakeDirectory(std::string_view path) = 0;

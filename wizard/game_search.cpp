@@ -130,7 +130,8 @@ void SetSearching(Install_Frm& form, bool searching) {
 }
 
 bool MayBeProgram(const DirectoryEntry& entry) {
-    return !entry.IsDirectory && entry.Name.size() <= kLongestProgram && LowerCase(entry.Name.back()) == 'e';
+    return !entry.IsDirectory && !entry.IsDevice && entry.Name.size() <= kLongestProgram &&
+           LowerCase(entry.Name.back()) == 'e';
 }
 
 void TakeHits(Install_Frm& form, const DiskWalk::Step& step, Rows& open) {

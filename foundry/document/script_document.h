@@ -54,6 +54,9 @@ struct ScriptDocument : ScriptSettings {
     std::array<Text, 51> WeaponPriority;                 // as read; empty or "None" is a free place
     TabSet Options_Tab{{}, std::vector<TabPage>(5), 0};  // 3 "&QuakeWorld Skins", 4 "&Rate"
 
+    Text BackupDue;     // the path of a foreign script that there is no copy of yet
+    Text FollowedLink;  // where the user has let a save follow a link, out of the game and their home
+
     bool ScriptClean = true;     // equals the file
     bool ScriptLoading = false;  // the reader is at work: the pages ignore changes
 };

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "foundation/bounded_file.h"
+#include "foundation/game_numbers.h"
 #include "foundation/question_box.h"
 
 namespace lv {
@@ -12,7 +14,7 @@ Text ErrorLines(const Error& failed) {
 }
 
 std::unique_ptr<RandomAccessFile> OpenScriptFile(Run& run, TextView path) {
-    auto file = run.System.Disk.Open(path);
+    auto file = OpenBounded(run.System.Disk, path, run.GameKind == game_kind::kUnreal ? kLargestIni : kLargestScript);
     if (!file.Ok()) {
         AskUser(run, "Script Not Opened",
                 Join("Error opening specified script file.", NewLine, NewLine, ErrorLines(file.Fault)));

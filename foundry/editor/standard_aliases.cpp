@@ -99,7 +99,7 @@ bool WriteStandardAliasFiles(Fig_Frm& form, std::size_t entry) {
     const Text directory = ScriptDirectory(run);
     const Text path = Join(directory, directory.ends_with('\\') ? TextView() : TextView("\\"), kScrollFile);
     const Text script = NameScrollScript(form.Document.Name_Txt.Text, run.System.Time.Now());
-    if (const Error failed = run.System.Disk.Replace(path, script)) {
+    if (const Error failed = run.System.Disk.ReplaceOwn(path, script)) {
         AskUser(run, "Error Writing to File", Join("The alias was not created.", NewLine, Blank, ErrorLines(failed)));
         return false;
     }

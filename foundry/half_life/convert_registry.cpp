@@ -100,7 +100,7 @@ void ConvertRegistryToScript(Run& run, TextView path) {
         TellOfFailure(run, player.Fault);
         return;
     }
-    if (const Error failed = run.System.Disk.Replace(path, HalfLifeScript(player.Value, run.System.Time.Now()))) {
+    if (const Error failed = run.System.Disk.ReplaceOwn(path, HalfLifeScript(player.Value, run.System.Time.Now()))) {
         TellOfFailure(run, failed);
         return;
     }

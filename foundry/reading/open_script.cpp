@@ -4,6 +4,7 @@
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundry/document/bindings.h"
+#include "foundry/document/script_backup.h"
 #include "foundry/document/script_messages.h"
 #include "foundry/reading/script_reader.h"
 #include "foundry/reading/skin_page.h"
@@ -12,7 +13,6 @@ namespace lv {
 
 namespace {
 
-constexpr TextView kBackupEnding = "SetupFoundry_Config_Backup";
 constexpr const char* kInformation = "SetupFoundry Information";
 
 std::optional<ScriptReading> Read(Run& run, ScriptDocument& document, ScriptView& view, TextView path) {
@@ -34,13 +34,18 @@ std::optional<ScriptReading> Read(Run& run, ScriptDocument& document, ScriptView
     return reading;
 }
 
-void BackUp(Run& run, TextView path) {
+void BackUp(Run& run, ScriptDocument& document, TextView path) {
     const Text copy = BackupPathOf(path);
     if (SameText(copy, path)) {
         return;  // the script is itself such a copy
     }
-    if (const Error failed = run.System.Disk.Copy(path, copy)) {
-        AskUser(run, kInformation, ErrorLines(failed), "&OK");
+    if (const Error failed = KeepBackup(run.System.Disk, path)) {
+        document.BackupDue = path;
+        AskUser(run, kInformation,
+                Join("SetupFoundry has not edited this script before, and no backup copy could be stored.", NewLine,
+                     "Until there is one, the script can be saved under another name only.", NewLine, NewLine,
+                     ErrorLines(failed)),
+                "&OK");
         return;
     }
     if (MessageIsOn(run, "BackupScript")) {
@@ -84,16 +89,10 @@ bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView p
     }
     document.Caption = EditorCaption(given);
     if (reading->Foreign) {
-        BackUp(run, given);
+        BackUp(run, document, given);
     }
     document.ScriptClean = true;
     return true;
-}
-
-Text BackupPathOf(TextView path) {
-    const std::size_t component = path.rfind('\\') + 1;
-    const std::size_t point = path.find('.', component);
-    return Join(path.substr(0, point), ".", kBackupEnding);
 }
 
 }  // namespace lv

@@ -14,11 +14,8 @@ namespace lv {
 ScriptDialect DialectOfRun(const Run& run);
 
 /// Makes all tables of the document anew, and reads the file at `path` into them. A file that this program has not
-/// written before gets a copy beside it. False if the file cannot be opened; the user was told why then, and the
-/// tables are as good as new.
+/// written before gets a copy beside it; where that fails, the document's BackupDue says so. False if the file cannot
+/// be opened; the user was told why then, and the tables are as good as new.
 bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView path);
-
-/// Where the copy of a foreign script goes: C:\Q\my.cfg to C:\Q\my.SetupFoundry_Config_Backup.
-Text BackupPathOf(TextView path);
 
 }  // namespace lv

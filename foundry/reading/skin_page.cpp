@@ -101,7 +101,7 @@ void Sex_Cbo_Click(Run& run, ScriptDocument& document) {
     const Text model = document.Sex_Cbo.Selected();
     const Text directory = Join(game, kPlayers, model);
     for (const DirectoryEntry& entry : Entries(run, "skins", directory)) {
-        if (!entry.IsDirectory && MatchesWildcard(entry.Name, "*.pcx") && IsModelSkin(entry.Name)) {
+        if (!entry.IsDirectory && !entry.IsDevice && MatchesWildcard(entry.Name, "*.pcx") && IsModelSkin(entry.Name)) {
             document.Skin_Cbo.Items.push_back(DropRight(entry.Name, 4));
         }
     }

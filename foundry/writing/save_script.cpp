@@ -1,11 +1,15 @@
 #include "foundry/writing/save_script.h"
 
+#include <exception>
+
 #include "catalogs/browse.h"
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
+#include "foundation/link_question.h"
 #include "foundation/question_box.h"
 #include "foundry/document/bindings.h"
+#include "foundry/document/script_backup.h"
 #include "foundry/document/script_messages.h"
 #include "foundry/writing/compose_script.h"
 #include "foundry/writing/save_filters.h"
@@ -15,6 +19,7 @@ namespace lv {
 namespace {
 
 constexpr const char* kTitle = "Setup Foundry";
+constexpr const char* kFailed = "Error During Save";
 constexpr std::size_t kMaxFileSize = 32000;
 
 bool SayNotSaved(Run& run) {
@@ -73,10 +78,47 @@ bool MayOwnConfig(Run& run, const ScriptDocument& document, TextView path) {
     return second == 1 ? SayNotSaved(run) : true;
 }
 
+/// Once the user has agreed they are not asked again, least of all by every auto save.
+bool MayFollowLink(Run& run, ScriptDocument& document, const Text& path) {
+    const Text target = LinkTargetOutside(run, path);
+    if (target.empty() || target == document.FollowedLink) {
+        return true;
+    }
+    if (!AskToFollowLink(run, path, target)) {
+        return SayNotSaved(run);
+    }
+    document.FollowedLink = target;
+    return true;
+}
+
+/// A foreign script is written over only once there is a copy of it.
+bool HasBackup(Run& run, ScriptDocument& document, const Text& path) {
+    if (document.BackupDue.empty() || !SameText(document.BackupDue, path) || !run.System.Disk.FileExists(path)) {
+        return true;
+    }
+    if (const Error failed = KeepBackup(run.System.Disk, path)) {
+        AskUser(
+            run, kFailed,
+            Join("Script NOT saved. SetupFoundry has not edited it before, and no backup copy could be stored as -->",
+                 NewLine, NewLine, DoubleQuote, BackupPathOf(path), DoubleQuote, NewLine, NewLine, ErrorLines(failed),
+                 NewLine, NewLine, "Make room for the copy and save again, or save the script under another name."));
+        return false;
+    }
+    document.BackupDue.clear();
+    return true;
+}
+
+Error Put(Run& run, const ScriptDocument& document, const Text& path) {
+    try {
+        return run.System.Disk.Replace(path, ComposeScript(document, run.System.Time.Now()));
+    } catch (const std::exception& thrown) {
+        return ErrorOfException(thrown);
+    }
+}
+
 bool Write(Run& run, const ScriptDocument& document, const Text& path) {
-    const Text script = ComposeScript(document, run.System.Time.Now());
-    if (const Error failed = run.System.Disk.Replace(path, script)) {
-        AskUser(run, "Error During Save", ErrorLines(failed));
+    if (const Error failed = Put(run, document, path)) {
+        AskUser(run, kFailed, ErrorLines(failed));
         return false;
     }
     return true;
@@ -104,7 +146,7 @@ bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, ScriptV
             return false;
         }
     }
-    if (!Write(run, document, path)) {
+    if (!MayFollowLink(run, document, path) || !HasBackup(run, document, path) || !Write(run, document, path)) {
         return false;
     }
     FreeEmptyBindings(document, view);

@@ -13,6 +13,8 @@
 #include <optional>
 
 #include "platform/code_page.h"
+#include "platform/linux/file_descriptor.h"
+#include "platform/linux/read_once.h"
 
 extern char** environ;  // NOLINT: POSIX leaves its declaration to the program
 
@@ -100,13 +102,17 @@ void OpenStandardFiles() {
     Fail(pipe, Stage::kProgram, errno);
 }
 
-[[noreturn]] void Detach(const HostCommand& command, const ExecText& text, int pipe) {
+[[noreturn]] void Detach(const HostCommand& command, const ExecText& text, int pipe, int watch) {
     setsid();
     const pid_t child = fork();
     if (child < 0) {
         Fail(pipe, Stage::kFork, errno);
     }
     if (child > 0) {
+        if (watch >= 0 && fork() == 0) {
+            ResetSignals();
+            RemoveOnceOpened(watch, command.ReadOnce.c_str());
+        }
         _exit(0);
     }
     Become(command, text, pipe);
@@ -157,6 +163,7 @@ Error ErrorOf(const Report& report, const HostCommand& command) {
 
 Error StartDetached(const HostCommand& command) {
     const ExecText text(command);
+    const FileDescriptor watch(command.ReadOnce.empty() ? -1 : WatchForOpening(command.ReadOnce));
     int ends[2] = {-1, -1};
     if (pipe2(ends, O_CLOEXEC) != 0) {
         return ErrorOf({Stage::kFork, errno}, command);
@@ -171,7 +178,7 @@ Error StartDetached(const HostCommand& command) {
     }
     const pid_t child = fork();
     if (child == 0) {
-        Detach(command, text, ends[1]);
+        Detach(command, text, ends[1], watch.Number());
     }
     const int refused = errno;
     close(ends[1]);
@@ -183,6 +190,9 @@ Error StartDetached(const HostCommand& command) {
         report = ReadReport(ends[0]);
     }
     close(ends[0]);
+    if (report && !command.ReadOnce.empty()) {
+        unlink(command.ReadOnce.c_str());
+    }
     return report ? ErrorOf(*report, command) : Error{};
 }
 

@@ -22,6 +22,7 @@ struct HostCommand {
     std::vector<std::string> Arguments;    // behind the program's own path, which is always argument 0
     std::vector<std::string> Environment;  // "NAME=value", all of it
     std::string Directory;                 // empty: this program's
+    std::string ReadOnce = {};             // a file that goes once the program has read it, or could not be started
 };
 
 /// 53 no such program, 70 not allowed, 76 no such directory, 75 no program of this machine; the text names what it was.

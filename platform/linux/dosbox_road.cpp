@@ -113,7 +113,8 @@ Result<HostCommand> DosBoxRoad(Files& disk, const GameStart& start) {
     if (Error fault = WriteHostFile(file, text)) {
         return fault;
     }
-    return HostCommand{dosbox, {"-userconf", "-conf", file.string()}, start.Environment, disk.ToHost(start.Directory)};
+    return HostCommand{
+        dosbox, {"-userconf", "-conf", file.string()}, start.Environment, disk.ToHost(start.Directory), file.string()};
 }
 
 }  // namespace lv

@@ -1,5 +1,7 @@
 #include "platform/linux/host_file.h"
 
+#include <sys/stat.h>
+
 #include <chrono>
 #include <system_error>
 
@@ -8,11 +10,22 @@
 
 namespace lv {
 
-Error WriteHostFile(const std::filesystem::path& path, std::string_view bytes) {
+namespace {
+
+// What cannot be made, or is another's, shows when the file is written.
+void MakePrivate(const std::filesystem::path& directory) {
     std::error_code failed;
-    std::filesystem::create_directories(path.parent_path(), failed);
-    if (const Error refused =
-            ReplaceHostFile(path.string(), 0666, [bytes](int file) { return WriteAll(file, bytes); })) {
+    std::filesystem::create_directories(directory.parent_path(), failed);
+    if (mkdir(directory.c_str(), 0700) != 0) {
+        std::filesystem::permissions(directory, std::filesystem::perms::owner_all, failed);
+    }
+}
+
+}  // namespace
+
+Error WriteHostFile(const std::filesystem::path& path, std::string_view bytes) {
+    MakePrivate(path.parent_path());
+    if (const Error refused = ReplaceOwnHostFile(path.string(), [bytes](int file) { return WriteAll(file, bytes); })) {
         return MakeError(refused.Number, FromUtf8Lossy(path.string()));
     }
     return {};

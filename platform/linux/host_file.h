@@ -1,6 +1,7 @@
 // platform/linux/host_file.h
 //
 // Small files that a start writes for another program to read: in the cache directory, replaced in one step.
+// They may hold the password of a server: directory and files are this user's alone.
 
 #pragma once
 
@@ -11,7 +12,8 @@
 
 namespace lv {
 
-/// Makes the directories above the file as needed. The error's text names the file.
+/// Makes the directories above the file as needed, and the last of them private (0700). The error's text names the
+/// file.
 Error WriteHostFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Deletes the files in `directory` whose names start with `start` and that nobody has written for `days`.

@@ -97,6 +97,10 @@ std::optional<DrivePath> TakeApart(std::string_view path, const DrivePath& curre
     return taken;
 }
 
+bool EndsInSeparator(std::string_view path) {
+    return !path.empty() && IsSeparator(path.back());
+}
+
 std::string PutTogether(const DrivePath& path) {
     std::string whole = {path.Letter, ':'};
     for (const std::string& part : path.Parts) {

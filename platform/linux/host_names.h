@@ -23,6 +23,9 @@ struct DrivePath {
 /// at the root. Nothing if the path is empty or holds a character 0.
 std::optional<DrivePath> TakeApart(std::string_view path, const DrivePath& current);
 
+/// Whether the path is said as one of a directory.
+bool EndsInSeparator(std::string_view path);
+
 /// "C:\QUAKE\ID1"; a root is "C:\".
 std::string PutTogether(const DrivePath& path);
 

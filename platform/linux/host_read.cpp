@@ -24,7 +24,16 @@ class HostFile : public RandomAccessFile {
         if (offset >= size_) {
             return std::string();
         }
-        std::string bytes(static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)), '\0');
+        try {
+            return ReadAt(offset, static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)));
+        } catch (const std::exception& thrown) {
+            return ErrorOfException(thrown);
+        }
+    }
+
+  private:
+    Result<std::string> ReadAt(std::uint64_t offset, std::size_t count) {
+        std::string bytes(count, '\0');
         std::size_t done = 0;
         while (done < bytes.size()) {
             const ssize_t got =
@@ -41,7 +50,6 @@ class HostFile : public RandomAccessFile {
         return bytes;
     }
 
-  private:
     std::unique_ptr<FileDescriptor> file_;
     std::uint64_t size_;
 };
@@ -68,12 +76,42 @@ Error ErrorOfDirectory(int number) {
     }
 }
 
-bool IsDirectoryEntry(int directory, const dirent& entry) {
+// A link that leads nowhere is taken for a file.
+DirectoryEntry EntryOf(int directory, const dirent& entry, std::string name) {
     if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) {
-        return entry.d_type == DT_DIR;
+        const bool isDirectory = entry.d_type == DT_DIR;
+        return {std::move(name), isDirectory, !isDirectory && entry.d_type != DT_REG};
     }
     struct stat info {};
-    return fstatat(directory, entry.d_name, &info, 0) == 0 && S_ISDIR(info.st_mode);
+    if (fstatat(directory, entry.d_name, &info, 0) != 0) {
+        return {std::move(name)};
+    }
+    return {std::move(name), S_ISDIR(info.st_mode), !S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode)};
+}
+
+constexpr std::size_t kFirstBlock = 4096;
+
+Result<std::string> ReadInSteps(int descriptor) {
+    struct stat info {};
+    const bool sized = fstat(descriptor, &info) == 0 && info.st_size > 0;
+    const auto size = sized ? static_cast<std::uint64_t>(info.st_size) : 0;
+    std::string bytes;
+    std::size_t done = 0;
+    while (size <= kLargestWholeFile && done <= kLargestWholeFile) {
+        if (done == bytes.size()) {
+            bytes.resize(done == 0 && sized ? static_cast<std::size_t>(size) + 1 : done + std::max(done, kFirstBlock));
+        }
+        const ssize_t got = read(descriptor, bytes.data() + done, bytes.size() - done);
+        if (got < 0 && errno != EINTR) {
+            return ErrorOf(errno);
+        }
+        if (got == 0) {
+            bytes.resize(done);
+            return bytes;
+        }
+        done += got < 0 ? 0 : static_cast<std::size_t>(got);
+    }
+    return MakeTooLarge(kLargestWholeFile);
 }
 
 }  // namespace
@@ -98,25 +136,10 @@ Result<std::unique_ptr<FileDescriptor>> OpenHostFile(const std::string& hostPath
 }
 
 Result<std::string> ReadToEnd(int descriptor) {
-    struct stat info {};
-    std::string bytes;
-    std::size_t done = 0;
-    if (fstat(descriptor, &info) == 0 && info.st_size > 0) {
-        bytes.resize(static_cast<std::size_t>(info.st_size) + 1);
-    }
-    while (true) {
-        if (done == bytes.size()) {
-            bytes.resize(done + std::max<std::size_t>(done, 4096));
-        }
-        const ssize_t got = read(descriptor, bytes.data() + done, bytes.size() - done);
-        if (got < 0 && errno != EINTR) {
-            return ErrorOf(errno);
-        }
-        if (got == 0) {
-            bytes.resize(done);
-            return bytes;
-        }
-        done += got < 0 ? 0 : static_cast<std::size_t>(got);
+    try {
+        return ReadInSteps(descriptor);
+    } catch (const std::exception& thrown) {
+        return ErrorOfException(thrown);
     }
 }
 
@@ -148,7 +171,7 @@ Result<std::vector<DirectoryEntry>> ListHostDirectory(const std::string& hostPat
         const std::string_view hostName = entry->d_name;
         const auto name = NameFromHost(hostName);
         if (name && hostName != "." && hostName != "..") {
-            entries.push_back({*name, IsDirectoryEntry(dirfd(open.get()), *entry)});
+            entries.push_back(EntryOf(dirfd(open.get()), *entry, *name));
         }
     }
     if (errno != 0) {

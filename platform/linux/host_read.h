@@ -17,7 +17,7 @@ namespace lv {
 /// 53 no such file, 76 no such directory, 75 a directory, a pipe or a device, 70 no access.
 Result<std::unique_ptr<FileDescriptor>> OpenHostFile(const std::string& hostPath);
 
-/// The rest of the file.
+/// The rest of the file. 7 if that is more than kLargestWholeFile.
 Result<std::string> ReadToEnd(int descriptor);
 
 /// A file that is read from any place.

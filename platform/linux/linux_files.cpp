@@ -4,15 +4,14 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
 
 #include "platform/code_page.h"
 #include "platform/linux/errno_error.h"
+#include "platform/linux/host_links.h"
 #include "platform/linux/host_read.h"
-#include "platform/linux/replace_file.h"
 
 namespace lv {
 
@@ -25,52 +24,8 @@ bool IsDirectoryAt(const std::string& hostPath) {
     return stat(hostPath.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
-bool EndsInSeparator(std::string_view path) {
-    return path.ends_with('\\') || path.ends_with('/');
-}
-
 std::string DirectoryOf(const std::string& hostPath) {
     return hostPath.substr(0, hostPath.rfind('/') + 1);
-}
-
-// The parts of `path` below `directory`; nothing if it does not lie there.
-std::optional<std::vector<fs::path>> PartsBelow(const fs::path& directory, const fs::path& path) {
-    const auto [left, right] = std::mismatch(directory.begin(), directory.end(), path.begin(), path.end());
-    if (left != directory.end()) {
-        return std::nullopt;
-    }
-    return std::vector<fs::path>(right, path.end());
-}
-
-fs::path FollowAll(const fs::path& path) {
-    std::error_code failed;
-    const fs::path followed = fs::weakly_canonical(path, failed);
-    const fs::path whole = failed ? path.lexically_normal() : followed;
-    return whole.has_filename() || whole == whole.root_path() ? whole : whole.parent_path();
-}
-
-fs::path FollowButForAFile(const fs::path& path) {
-    std::error_code failed;
-    if (!path.has_filename() || fs::is_directory(path, failed)) {
-        return FollowAll(path);
-    }
-    return FollowAll(path.parent_path()) / path.filename();
-}
-
-int CopyAll(int from, int to) {
-    std::array<char, 65536> buffer{};
-    while (true) {
-        const ssize_t got = read(from, buffer.data(), buffer.size());
-        if (got == 0) {
-            return 0;
-        }
-        if (got < 0 && errno != EINTR) {
-            return errno;
-        }
-        if (const int failed = WriteAll(to, {buffer.data(), got < 0 ? 0 : static_cast<std::size_t>(got)})) {
-            return failed;
-        }
-    }
 }
 
 }  // namespace
@@ -114,7 +69,7 @@ Error LinuxFiles::ProbeDrive(std::string_view drive) {
 bool LinuxFiles::FileExists(std::string_view path) {
     const auto place = Find(path);
     struct stat info {};
-    return place && !EndsInSeparator(path) && stat(place->Host.c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
+    return place && !EndsInSeparator(path) && stat(place->Host.c_str(), &info) == 0 && S_ISREG(info.st_mode);
 }
 
 bool LinuxFiles::DirectoryExists(std::string_view path) {
@@ -158,39 +113,6 @@ Result<std::unique_ptr<RandomAccessFile>> LinuxFiles::Open(std::string_view path
         return MakeError(error::kPathNotFound);
     }
     return OpenHostFileAnywhere(place->Host);
-}
-
-Error LinuxFiles::Replace(std::string_view path, std::string_view bytes) {
-    const auto place = Find(path);
-    if (!place) {
-        return MakeError(error::kPathNotFound);
-    }
-    if (EndsInSeparator(path)) {
-        return MakeError(error::kPathFileAccess);
-    }
-    return ReplaceHostFile(place->Host, 0666, [bytes](int file) { return WriteAll(file, bytes); });
-}
-
-Error LinuxFiles::Copy(std::string_view from, std::string_view to) {
-    const auto source = Find(from);
-    const auto target = Find(to);
-    if (!source || !target) {
-        return MakeError(error::kPathNotFound);
-    }
-    if (EndsInSeparator(to)) {
-        return MakeError(error::kPathFileAccess);
-    }
-    const auto file = OpenHostFile(source->Host);
-    if (!file.Ok()) {
-        return file.Fault;
-    }
-    struct stat info {};
-    if (fstat(file.Value->Number(), &info) != 0) {
-        return ErrorOf(errno);
-    }
-    // A copied program can be run; a copy of what is read-only can be written again.
-    const unsigned mode = 0666 | (info.st_mode & 0111);
-    return ReplaceHostFile(target->Host, mode, [&](int made) { return CopyAll(file.Value->Number(), made); });
 }
 
 Error LinuxFiles::Delete(std::string_view path) {

@@ -11,6 +11,7 @@
 #include "platform/files.h"
 #include "platform/linux/drives.h"
 #include "platform/linux/host_names.h"
+#include "platform/linux/replace_file.h"
 #include "platform/linux/walkable.h"
 
 namespace lv {
@@ -36,6 +37,9 @@ class LinuxFiles : public Files {
     Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) override;
     Error Replace(std::string_view path, std::string_view bytes) override;
     Error Copy(std::string_view from, std::string_view to) override;
+    Error ReplaceOwn(std::string_view path, std::string_view bytes) override;
+    Error CopyOwn(std::string_view from, std::string_view to) override;
+    std::string LeadsAway(std::string_view path, std::string_view tree) override;
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;
     Error RemoveDirectory(std::string_view path) override;
@@ -57,7 +61,11 @@ class LinuxFiles : public Files {
         std::string Root;  // the drive's entry
         std::string Host;  // the whole host path
     };
+    enum class Whose { kUsers, kOurs };
+
     [[nodiscard]] std::optional<Place> Find(std::string_view path) const;
+    Error PutFile(std::string_view path, Whose whose, unsigned mode, const FileFiller& fill) const;
+    Error CopyFile(std::string_view from, std::string_view to, Whose whose) const;
 
     DriveDirectories directories_;
     Error firstDrives_;

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
 
 #include "platform/code_page.h"
 #include "platform/linux/dosbox_road.h"
+#include "platform/linux/host_read.h"
 #include "platform/linux/native_road.h"
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_road.h"
@@ -13,27 +13,6 @@
 namespace lv {
 
 namespace {
-
-class HostFile : public RandomAccessFile {
-  public:
-    explicit HostFile(const std::string& path) : in_(path, std::ios::binary | std::ios::ate) {
-        const std::streamoff end = in_ ? static_cast<std::streamoff>(in_.tellg()) : 0;
-        size_ = end > 0 ? static_cast<std::uint64_t>(end) : 0;
-    }
-    [[nodiscard]] std::uint64_t Size() const override { return size_; }
-    Result<std::string> Read(std::uint64_t offset, std::size_t count) override {
-        std::string bytes(count, '\0');
-        in_.clear();
-        in_.seekg(static_cast<std::streamoff>(offset));
-        in_.read(bytes.data(), static_cast<std::streamsize>(count));
-        bytes.resize(static_cast<std::size_t>(in_.gcount()));
-        return bytes;
-    }
-
-  private:
-    std::ifstream in_;
-    std::uint64_t size_ = 0;
-};
 
 Error UnknownKind(std::string_view path) {
     return {error::kPathFileAccess, "This is no program for Linux, Windows or DOS: " + std::string(path)};
@@ -163,15 +142,15 @@ Result<HostCommand> LinuxProcesses::PlanBatch(std::string_view directory, std::s
 Result<HostCommand> LinuxProcesses::PlanProgram(std::string_view program, const std::vector<std::string>& arguments) {
     const HostPlaces places = Places();
     const std::string host = HostProgram(disk_, places, program);
-    HostFile file(host);
-    const bool found = !host.empty() && file.Size() > 0;
+    const auto file = OpenHostFileAnywhere(host);
+    const bool found = file.Ok() && file.Value->Size() > 0;
     // A name like "notepad.exe" that this system does not know is one that Wine may.
     const bool isName = program.find_first_of("\\/:") == std::string_view::npos;
     const bool onlyWineMayKnow = !found && isName && HasExeName(program);
     if (!found && !onlyWineMayKnow) {
         return MakeError(error::kFileNotFound, std::string(program));
     }
-    const ProgramKind kind = onlyWineMayKnow ? ProgramKind::kWindows : KindOfProgram(file, host);
+    const ProgramKind kind = onlyWineMayKnow ? ProgramKind::kWindows : KindOfProgram(*file.Value, host);
     const bool forWine = kind == ProgramKind::kWindows || kind == ProgramKind::kBatch;
     if (const Error fault = CheckArguments(arguments, ReaderFor(kind))) {
         return fault;

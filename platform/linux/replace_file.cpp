@@ -4,20 +4,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
-#include <optional>
 
 #include "platform/linux/errno_error.h"
 #include "platform/linux/file_descriptor.h"
+#include "platform/linux/host_links.h"
+#include "platform/linux/new_file.h"
 
 namespace lv {
 
 namespace {
-
-constexpr int kMostLinks = 40;  // as many as the system itself follows
 
 std::string DirectoryOf(const std::string& path) {
     const std::size_t at = path.rfind('/');
@@ -26,65 +22,6 @@ std::string DirectoryOf(const std::string& path) {
     }
     return at == 0 ? "/" : path.substr(0, at);
 }
-
-// Where the links at the end of the path lead, whether or not anything is there.
-std::optional<std::string> FollowLinks(std::string path) {
-    for (int i = 0; i < kMostLinks; ++i) {
-        std::array<char, PATH_MAX> target{};
-        const ssize_t length = readlink(path.c_str(), target.data(), target.size());
-        if (length < 0) {
-            return path;
-        }
-        const std::string_view text(target.data(), static_cast<std::size_t>(length));
-        path = text.starts_with('/') ? std::string(text) : DirectoryOf(path) + "/" + std::string(text);
-    }
-    return std::nullopt;
-}
-
-// The name that the new file has until it takes its place.
-class NewFile {
-  public:
-    NewFile(const std::string& directory, unsigned mode) {
-        const std::string start = directory + "/.lv_666_" + std::to_string(getpid()) + "_";
-        for (int i = 0; i < 1000 && number_ < 0; ++i) {
-            path_ = start + std::to_string(i);
-            number_ = open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
-            if (number_ < 0 && errno != EEXIST) {
-                break;
-            }
-        }
-        if (number_ < 0) {
-            path_.clear();
-        }
-    }
-    ~NewFile() {
-        if (number_ >= 0) {
-            close(number_);
-        }
-        if (!path_.empty()) {
-            unlink(path_.c_str());
-        }
-    }
-    NewFile(const NewFile&) = delete;
-    NewFile& operator=(const NewFile&) = delete;
-
-    [[nodiscard]] bool IsOpen() const { return number_ >= 0; }
-    [[nodiscard]] int Number() const { return number_; }
-
-    int MoveTo(const std::string& target) {
-        const int closed = close(number_);
-        number_ = -1;
-        if (closed != 0 || rename(path_.c_str(), target.c_str()) != 0) {
-            return errno;
-        }
-        path_.clear();
-        return 0;
-    }
-
-  private:
-    std::string path_;
-    int number_ = -1;
-};
 
 int KeepOwnerAndMode(int descriptor, const struct stat& old) {
     // Another's file that may be written stays theirs if the system lets it.
@@ -102,6 +39,31 @@ int SyncDirectory(const std::string& directory) {
 
 Error ErrorOfDirectory(int number) {
     return number == ENOENT ? MakeError(error::kPathNotFound) : ErrorOf(number);
+}
+
+bool MayBeReplaced(const std::string& path, const struct stat& old) {
+    return S_ISREG(old.st_mode) && faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
+// The new file at exactly this name, with the old one's owner and mode if there is one to take after.
+Error Put(const std::string& target, unsigned mode, const struct stat* old, const FileFiller& fill) {
+    const std::string directory = DirectoryOf(target);
+    RemoveLeftovers(directory);
+    NewFile made(directory, mode);
+    if (!made.IsOpen()) {
+        return ErrorOfDirectory(errno);
+    }
+    int failed = fill(made.Number());
+    if (failed == 0 && old != nullptr) {
+        failed = KeepOwnerAndMode(made.Number(), *old);
+    }
+    if (failed == 0 && fsync(made.Number()) != 0) {
+        failed = errno;
+    }
+    if (failed == 0) {
+        failed = made.MoveTo(target);
+    }
+    return ErrorOf(failed != 0 ? failed : SyncDirectory(directory));
 }
 
 }  // namespace
@@ -124,25 +86,20 @@ Error ReplaceHostFile(const std::string& hostPath, unsigned mode, const FileFill
     }
     struct stat old {};
     const bool exists = stat(target->c_str(), &old) == 0;
-    if (exists && (!S_ISREG(old.st_mode) || faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0)) {
+    if (exists && !MayBeReplaced(*target, old)) {
         return MakeError(error::kPathFileAccess);
     }
-    const std::string directory = DirectoryOf(*target);
-    NewFile made(directory, mode);
-    if (!made.IsOpen()) {
-        return ErrorOfDirectory(errno);
+    // What nobody else could read is not shown to them while it is written either.
+    return Put(*target, exists ? mode & old.st_mode : mode, exists ? &old : nullptr, fill);
+}
+
+Error ReplaceOwnHostFile(const std::string& hostPath, const FileFiller& fill) {
+    struct stat old {};
+    const bool exists = lstat(hostPath.c_str(), &old) == 0;
+    if (exists && !S_ISLNK(old.st_mode) && !MayBeReplaced(hostPath, old)) {
+        return MakeError(error::kPathFileAccess);
     }
-    int failed = fill(made.Number());
-    if (failed == 0 && exists) {
-        failed = KeepOwnerAndMode(made.Number(), old);
-    }
-    if (failed == 0 && fsync(made.Number()) != 0) {
-        failed = errno;
-    }
-    if (failed == 0) {
-        failed = made.MoveTo(*target);
-    }
-    return ErrorOf(failed != 0 ? failed : SyncDirectory(directory));
+    return Put(hostPath, 0600, nullptr, fill);
 }
 
 }  // namespace lv

@@ -10,23 +10,23 @@ namespace lv {
 
 namespace {
 
-std::filesystem::path Home() {
+// The base directory rules have relative paths ignored.
+std::filesystem::path Base(const char* variable, const char* fallback) {
+    if (const char* set = std::getenv(variable); set != nullptr && *set == '/') {
+        return set;
+    }
+    return HomeDirectory() / fallback;
+}
+
+}  // namespace
+
+std::filesystem::path HomeDirectory() {
     if (const char* home = std::getenv("HOME"); home != nullptr && *home != '\0') {
         return home;
     }
     const passwd* entry = getpwuid(getuid());
     return entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "/";
 }
-
-// The base directory rules have relative paths ignored.
-std::filesystem::path Base(const char* variable, const char* fallback) {
-    if (const char* set = std::getenv(variable); set != nullptr && *set == '/') {
-        return set;
-    }
-    return Home() / fallback;
-}
-
-}  // namespace
 
 std::filesystem::path ConfigDirectory() {
     return Base("XDG_CONFIG_HOME", ".config") / "lorvane3d";

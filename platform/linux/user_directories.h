@@ -8,6 +8,9 @@
 
 namespace lv {
 
+/// $HOME, or what the system knows of this user.
+std::filesystem::path HomeDirectory();
+
 /// $XDG_CONFIG_HOME/lorvane3d, by default ~/.config/lorvane3d.
 std::filesystem::path ConfigDirectory();
 

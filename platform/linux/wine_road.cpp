@@ -14,7 +14,7 @@ namespace lv {
 
 namespace {
 
-constexpr int kDaysToKeepCopies = 7;
+constexpr int kDaysToKeepCopies = 1;  // of starts that were cut short
 
 std::filesystem::path Canonical(const std::filesystem::path& path) {
     std::error_code failed;
@@ -87,7 +87,7 @@ std::string CommandForWine(Files& disk, const GameStart& start) {
 }
 
 // The batch as Wine is to be told it: its own name in the game's directory, or the path of a copy.
-Result<std::string> BatchForWine(Files& disk, const GameStart& start, std::vector<std::string>& environment) {
+Result<std::string> BatchForWine(Files& disk, const GameStart& start, HostCommand& wine) {
     const std::string root = start.Directory.substr(0, 2) + "\\";
     const std::string command = CommandForWine(disk, start);
     const bool sameDrive = WineDriveIs(start.Places.WinePrefix, root[0], disk.ToHost(root));
@@ -98,13 +98,14 @@ Result<std::string> BatchForWine(Files& disk, const GameStart& start, std::vecto
     }
     const WineCopy copy = CopyForWine(start.BatchText, command);
     for (const auto& [variable, value] : copy.Variables) {
-        SetVariable(environment, variable, ToUtf8(value));
+        SetVariable(wine.Environment, variable, ToUtf8(value));
     }
     DropOldHostFiles(start.Places.Cache, "lv_666_", kDaysToKeepCopies);
     const std::filesystem::path file = start.Places.Cache / CopyName(copy.Text);
     if (Error fault = WriteHostFile(file, copy.Text)) {
         return fault;
     }
+    wine.ReadOnce = file.string();
     const auto path = WinePathOf(start.Places.WinePrefix, file);
     if (!path) {
         return Error{error::kPathNotFound, "Wine has no drive for " + FromUtf8Lossy(file.string())};
@@ -192,7 +193,7 @@ Result<HostCommand> WineBatchRoad(Files& disk, const GameStart& start) {
     if (!command.Ok()) {
         return command;
     }
-    const Result<std::string> batch = BatchForWine(disk, start, command.Value.Environment);
+    const Result<std::string> batch = BatchForWine(disk, start, command.Value);
     if (!batch.Ok()) {
         return batch.Fault;
     }

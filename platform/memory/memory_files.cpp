@@ -14,14 +14,21 @@ std::string ParentOf(std::string_view key) {
 
 class MemoryFile : public RandomAccessFile {
   public:
-    explicit MemoryFile(std::string bytes) : bytes_(std::move(bytes)) {}
-    [[nodiscard]] std::uint64_t Size() const override { return bytes_.size(); }
+    MemoryFile(std::string bytes, std::uint64_t size)
+        : bytes_(std::move(bytes)), size_(std::max<std::uint64_t>(size, bytes_.size())) {}
+    [[nodiscard]] std::uint64_t Size() const override { return size_; }
     Result<std::string> Read(std::uint64_t offset, std::size_t count) override {
-        return offset >= bytes_.size() ? std::string() : bytes_.substr(static_cast<std::size_t>(offset), count);
+        if (offset >= size_) {
+            return std::string();
+        }
+        std::string read = offset < bytes_.size() ? bytes_.substr(static_cast<std::size_t>(offset), count) : "";
+        read.resize(static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)));
+        return read;
     }
 
   private:
     std::string bytes_;
+    std::uint64_t size_;
 };
 
 }  // namespace
@@ -48,6 +55,12 @@ std::string MemoryFiles::Key(std::string_view path) const {
     return key;
 }
 
+// The last component as it is, were it a link.
+std::string MemoryFiles::KeyOfLink(std::string_view path) const {
+    const std::size_t at = path.rfind('\\');
+    return at == std::string_view::npos ? Key(path) : Key(path.substr(0, at + 1)) + LowerCase(path.substr(at));
+}
+
 MemoryFiles::Node* MemoryFiles::Find(std::string_view path) {
     if (path.empty()) {
         return nullptr;
@@ -71,6 +84,21 @@ void MemoryFiles::AddLink(std::string_view path, std::string_view target) {
     const std::string key = Key(path);
     AddDirectory(path);
     links_[key] = Key(target);
+}
+
+void MemoryFiles::AddFileLink(std::string_view path, std::string_view target) {
+    AddFile(path);
+    links_[KeyOfLink(path)] = Key(target);
+}
+
+void MemoryFiles::AddDevice(std::string_view path) {
+    AddFile(path);
+    nodes_[Key(path)].IsDevice = true;
+}
+
+void MemoryFiles::AddSparseFile(std::string_view path, std::string_view bytes, std::uint64_t size) {
+    AddFile(path, bytes);
+    nodes_[Key(path)].Size = size;
 }
 
 void MemoryFiles::AddDrive(std::string_view drive) {
@@ -102,7 +130,7 @@ Error MemoryFiles::ProbeDrive(std::string_view drive) {
 
 bool MemoryFiles::FileExists(std::string_view path) {
     const Node* node = Find(path);
-    return node != nullptr && !node->IsDirectory;
+    return node != nullptr && !node->IsDirectory && !node->IsDevice;
 }
 
 bool MemoryFiles::DirectoryExists(std::string_view path) {
@@ -128,7 +156,7 @@ Result<std::vector<DirectoryEntry>> MemoryFiles::List(std::string_view directory
     std::sort(children.begin(), children.end(), [](const Node* a, const Node* b) { return a->Order < b->Order; });
     std::vector<DirectoryEntry> entries = {{".", true}, {"..", true}};
     for (const Node* child : children) {
-        entries.push_back({child->Name.substr(child->Name.rfind('\\') + 1), child->IsDirectory});
+        entries.push_back({child->Name.substr(child->Name.rfind('\\') + 1), child->IsDirectory, child->IsDevice});
     }
     return entries;
 }
@@ -141,40 +169,62 @@ Result<WalkedDirectory> MemoryFiles::ListForWalk(std::string_view directory) {
     return WalkedDirectory{std::hash<std::string>()(Key(directory)), std::move(listed.Value)};
 }
 
-Result<std::string> MemoryFiles::Read(std::string_view path) {
+Result<const MemoryFiles::Node*> MemoryFiles::FindFile(std::string_view path) {
     const Node* node = Find(path);
     if (node == nullptr) {
         return MakeError(DirectoryExists(ParentOf(Key(path))) ? error::kFileNotFound : error::kPathNotFound);
     }
-    if (node->IsDirectory) {
-        return MakeError(error::kPathFileAccess);
+    return node->IsDirectory || node->IsDevice ? Result<const Node*>(MakeError(error::kPathFileAccess)) : node;
+}
+
+Result<std::string> MemoryFiles::Read(std::string_view path) {
+    const auto node = FindFile(path);
+    if (!node.Ok()) {
+        return node.Fault;
     }
-    return node->Bytes;
+    if (node.Value->Size > kLargestWholeFile) {
+        return MakeTooLarge(kLargestWholeFile);
+    }
+    return MemoryFile(node.Value->Bytes, node.Value->Size).Read(0, kLargestWholeFile);
 }
 
 Result<std::unique_ptr<RandomAccessFile>> MemoryFiles::Open(std::string_view path) {
-    Result<std::string> bytes = Read(path);
-    if (!bytes.Ok()) {
-        return bytes.Fault;
+    const auto node = FindFile(path);
+    if (!node.Ok()) {
+        return node.Fault;
     }
-    return std::unique_ptr<RandomAccessFile>(std::make_unique<MemoryFile>(std::move(bytes.Value)));
+    return std::unique_ptr<RandomAccessFile>(std::make_unique<MemoryFile>(node.Value->Bytes, node.Value->Size));
 }
 
 Error MemoryFiles::Replace(std::string_view path, std::string_view bytes) {
-    const std::string key = Key(path);
+    return Put(Key(path), path, bytes);
+}
+
+Error MemoryFiles::ReplaceOwn(std::string_view path, std::string_view bytes) {
+    const std::string key = KeyOfLink(path);
+    links_.erase(key);
+    if (Error failed = Put(key, path, bytes)) {
+        return failed;
+    }
+    Private.insert(key);
+    return {};
+}
+
+Error MemoryFiles::Put(const std::string& key, std::string_view path, std::string_view bytes) {
     if (const auto refused = Refused.find(key); refused != Refused.end()) {
         return refused->second;
     }
     if (!nodes_.contains(ParentOf(key))) {
         return MakeError(error::kPathNotFound);
     }
-    Node* old = Find(path);
-    if (old != nullptr && old->IsDirectory) {
+    const auto old = nodes_.find(key);
+    if (old != nodes_.end() && (old->second.IsDirectory || old->second.IsDevice)) {
         return MakeError(error::kPathFileAccess);
     }
     Log.push_back("replace " + std::string(path));
-    if (old != nullptr) {
-        old->Bytes = bytes;
+    if (old != nodes_.end()) {
+        old->second.Bytes = bytes;
+        old->second.Size = 0;
     } else {
         nodes_[key] = {std::string(path), std::string(bytes), false, made_++};
     }
@@ -189,7 +239,34 @@ Error MemoryFiles::Copy(std::string_view from, std::string_view to) {
     return Replace(to, bytes.Value);
 }
 
+Error MemoryFiles::CopyOwn(std::string_view from, std::string_view to) {
+    const Result<std::string> bytes = Read(from);
+    if (!bytes.Ok()) {
+        return bytes.Fault;
+    }
+    return ReplaceOwn(to, bytes.Value);
+}
+
+std::string MemoryFiles::LeadsAway(std::string_view path, std::string_view tree) {
+    const std::string target = Key(path);
+    std::string plain(path);
+    if (plain.size() < 2 || plain[1] != ':') {
+        plain = current_ + "\\" + plain;
+    }
+    const auto within = [&target](const std::string& directory) {
+        return directory.size() > 2 && target.starts_with(directory + "\\");
+    };
+    const bool stays = target == LowerCase(plain) || within(LowerCase(Home)) || within(Key(tree));
+    return stays ? std::string() : target;
+}
+
 Error MemoryFiles::Delete(std::string_view path) {
+    if (const std::string link = KeyOfLink(path); links_.contains(link) && !nodes_[link].IsDirectory) {
+        links_.erase(link);
+        nodes_.erase(link);
+        Log.push_back("delete " + std::string(path));
+        return {};
+    }
     if (!FileExists(path)) {
         return MakeError(error::kFileNotFound);
     }

@@ -52,6 +52,12 @@ class MemoryFiles : public Files {
     void AddDrive(std::string_view drive);
     /// A directory that is another one by a second path.
     void AddLink(std::string_view path, std::string_view target);
+    /// The same for a file, which need not be there.
+    void AddFileLink(std::string_view path, std::string_view target);
+    /// A pipe, a socket or a device.
+    void AddDevice(std::string_view path);
+    /// A file that begins with these bytes, and goes on with zeros to its size.
+    void AddSparseFile(std::string_view path, std::string_view bytes, std::uint64_t size);
 
     std::vector<std::string> Drives() override;
     Error ProbeDrive(std::string_view drive) override;
@@ -63,6 +69,9 @@ class MemoryFiles : public Files {
     Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) override;
     Error Replace(std::string_view path, std::string_view bytes) override;
     Error Copy(std::string_view from, std::string_view to) override;
+    Error ReplaceOwn(std::string_view path, std::string_view bytes) override;
+    Error CopyOwn(std::string_view from, std::string_view to) override;
+    std::string LeadsAway(std::string_view path, std::string_view tree) override;
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;
     Error RemoveDirectory(std::string_view path) override;
@@ -76,6 +85,8 @@ class MemoryFiles : public Files {
     /// The bytes of a file that a test knows to be there; "(none)" if it is not.
     std::string Bytes(std::string_view path);
 
+    std::string Home = "C:\\HOME";
+    std::set<std::string> Private;         // by lower-case path: what its owner alone may read
     std::set<std::string> DrivesNotReady;  // "D:"
     std::set<std::string> Unreadable;      // by lower-case path: listing the directory is error 75
     std::set<std::string> RefusedDeletes;  // by lower-case path: deleting the file is error 70
@@ -89,8 +100,13 @@ class MemoryFiles : public Files {
         std::string Bytes;
         bool IsDirectory = false;
         std::size_t Order = 0;
+        bool IsDevice = false;
+        std::uint64_t Size = 0;  // where it is more than there are bytes
     };
     [[nodiscard]] std::string Key(std::string_view path) const;
+    [[nodiscard]] std::string KeyOfLink(std::string_view path) const;
+    Error Put(const std::string& key, std::string_view path, std::string_view bytes);
+    Result<const Node*> FindFile(std::string_view path);
     Node* Find(std::string_view path);
 
     std::map<std::string, Node> nodes_;

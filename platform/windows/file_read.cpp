@@ -42,7 +42,16 @@ class SystemFile : public RandomAccessFile {
         if (offset >= size_) {
             return std::string();
         }
-        std::string bytes(static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)), '\0');
+        try {
+            return ReadAt(offset, static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)));
+        } catch (const std::exception& thrown) {
+            return ErrorOfException(thrown);
+        }
+    }
+
+  private:
+    Result<std::string> ReadAt(std::uint64_t offset, std::size_t count) {
+        std::string bytes(count, '\0');
         std::size_t done = 0;
         while (done < bytes.size()) {
             const std::uint64_t at = offset + done;
@@ -66,10 +75,35 @@ class SystemFile : public RandomAccessFile {
         return bytes;
     }
 
-  private:
     std::unique_ptr<FileHandle> file_;
     std::uint64_t size_;
 };
+
+constexpr std::size_t kFirstBlock = 4096;
+
+Result<std::string> ReadInSteps(HANDLE file) {
+    LARGE_INTEGER told{};
+    const bool sized = GetFileSizeEx(file, &told) != 0 && told.QuadPart > 0;
+    const auto size = sized ? static_cast<std::uint64_t>(told.QuadPart) : 0;
+    std::string bytes;
+    std::size_t done = 0;
+    while (size <= kLargestWholeFile && done <= kLargestWholeFile) {
+        if (done == bytes.size()) {
+            bytes.resize(done == 0 && sized ? static_cast<std::size_t>(size) + 1 : done + std::max(done, kFirstBlock));
+        }
+        const auto most = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, kMostAtOnce));
+        DWORD got = 0;
+        if (ReadFile(file, bytes.data() + done, most, &got, nullptr) == 0) {
+            return ErrorOfSystem(GetLastError());
+        }
+        if (got == 0) {
+            bytes.resize(done);
+            return bytes;
+        }
+        done += got;
+    }
+    return MakeTooLarge(kLargestWholeFile);
+}
 
 }  // namespace
 
@@ -90,26 +124,10 @@ Result<std::unique_ptr<FileHandle>> OpenPlainFile(const std::wstring& path) {
 }
 
 Result<std::string> ReadToEnd(HANDLE file) {
-    LARGE_INTEGER size{};
-    std::string bytes;
-    std::size_t done = 0;
-    if (GetFileSizeEx(file, &size) != 0 && size.QuadPart > 0) {
-        bytes.resize(static_cast<std::size_t>(size.QuadPart) + 1);
-    }
-    while (true) {
-        if (done == bytes.size()) {
-            bytes.resize(done + std::max<std::size_t>(done, 4096));
-        }
-        const auto most = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, kMostAtOnce));
-        DWORD got = 0;
-        if (ReadFile(file, bytes.data() + done, most, &got, nullptr) == 0) {
-            return ErrorOfSystem(GetLastError());
-        }
-        if (got == 0) {
-            bytes.resize(done);
-            return bytes;
-        }
-        done += got;
+    try {
+        return ReadInSteps(file);
+    } catch (const std::exception& thrown) {
+        return ErrorOfException(thrown);
     }
 }
 

@@ -18,7 +18,7 @@ namespace lv {
 /// access.
 Result<std::unique_ptr<FileHandle>> OpenPlainFile(const std::wstring& path);
 
-/// All that is still unread.
+/// All that is still unread. 7 if that is more than kLargestWholeFile.
 Result<std::string> ReadToEnd(HANDLE file);
 
 Result<std::unique_ptr<RandomAccessFile>> OpenPlainFileAnywhere(const std::wstring& path);

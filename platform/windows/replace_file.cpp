@@ -1,11 +1,11 @@
 #include "platform/windows/replace_file.h"
 
 #include <algorithm>
-#include <optional>
 #include <vector>
 
-#include "platform/windows/file_handle.h"
 #include "platform/windows/file_read.h"
+#include "platform/windows/links.h"
+#include "platform/windows/new_file.h"
 #include "platform/windows/system_error.h"
 
 namespace lv {
@@ -13,25 +13,12 @@ namespace lv {
 namespace {
 
 constexpr DWORD kMostAtOnce = 1u << 30;
+constexpr DWORD kNeverReplaced = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;
 constexpr DWORD kKeptAttributes =
     FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
 std::wstring DirectoryOf(const std::wstring& path) {
     return path.substr(0, path.rfind(L'\\') + 1);
-}
-
-// Where the links lead that the path ends in.
-std::optional<std::wstring> FollowLinks(const std::wstring& path) {
-    const FileHandle target(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES,
-                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                                        FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-    if (!target.IsOpen()) {
-        return std::nullopt;
-    }
-    std::wstring found(GetFinalPathNameByHandleW(target.Get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
-    found.resize(
-        GetFinalPathNameByHandleW(target.Get(), found.data(), static_cast<DWORD>(found.size()), FILE_NAME_NORMALIZED));
-    return found.empty() ? std::nullopt : std::optional(found);
 }
 
 // The access rights that the old file has of its own go to the new one, where the system lets them.
@@ -44,61 +31,36 @@ void KeepRights(const std::wstring& from, const std::wstring& to) {
     }
 }
 
-// The name that the new file has until it takes its place.
-class NewFile {
-  public:
-    explicit NewFile(const std::wstring& directory) {
-        const std::wstring start = directory + L".lv_666_" + std::to_wstring(GetCurrentProcessId()) + L"_";
-        for (int i = 0; i < 1000 && !handle_; ++i) {
-            path_ = start + std::to_wstring(i);
-            handle_.emplace(
-                CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
-            if (handle_->IsOpen()) {
-                return;
-            }
-            failed_ = GetLastError();
-            handle_.reset();
-            if (failed_ != ERROR_FILE_EXISTS && failed_ != ERROR_ALREADY_EXISTS) {
-                break;
-            }
-        }
-        path_.clear();
-    }
-    ~NewFile() {
-        handle_.reset();
-        if (!path_.empty()) {
-            DeleteFileW(path_.c_str());
-        }
-    }
-    NewFile(const NewFile&) = delete;
-    NewFile& operator=(const NewFile&) = delete;
-
-    [[nodiscard]] bool IsOpen() const { return handle_.has_value(); }
-    [[nodiscard]] DWORD Failed() const { return failed_; }
-    [[nodiscard]] HANDLE Get() const { return handle_->Get(); }
-    [[nodiscard]] const std::wstring& Path() const { return path_; }
-    bool Close() { return handle_->Close(); }
-
-    // One step: the file system replaces the name in one of its own transactions.
-    DWORD MoveTo(const std::wstring& target) {
-        if (MoveFileExW(path_.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0) {
-            return GetLastError();
-        }
-        path_.clear();
-        return ERROR_SUCCESS;
-    }
-
-  private:
-    std::wstring path_;
-    std::optional<FileHandle> handle_;
-    DWORD failed_ = ERROR_SUCCESS;
-};
-
 DWORD Fill(NewFile& made, const FileFiller& fill) {
     if (const DWORD failed = fill(made.Get())) {
         return failed;
     }
     return FlushFileBuffers(made.Get()) != 0 && made.Close() ? ERROR_SUCCESS : GetLastError();
+}
+
+// The new file at exactly this name; with the attributes and rights of what was there, if those are given.
+Error Put(std::wstring target, DWORD attributes, const FileFiller& fill) {
+    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
+    if (exists && (attributes & kNeverReplaced) != 0) {
+        return MakeError(error::kPathFileAccess);
+    }
+    const std::wstring directory = DirectoryOf(target);
+    if (exists) {
+        target = directory + NameAsFound(target);
+    }
+    RemoveLeftovers(directory);
+    NewFile made(directory);
+    if (!made.IsOpen()) {
+        return made.Failed() == ERROR_FILE_NOT_FOUND ? MakeError(error::kPathNotFound) : ErrorOfSystem(made.Failed());
+    }
+    if (const DWORD failed = Fill(made, fill)) {
+        return ErrorOfSystem(failed);
+    }
+    if (exists) {
+        KeepRights(target, made.Path());
+        SetFileAttributesW(made.Path().c_str(), attributes & kKeptAttributes);
+    }
+    return ErrorOfSystem(made.MoveTo(target));
 }
 
 }  // namespace
@@ -116,36 +78,21 @@ DWORD WriteAll(HANDLE file, std::string_view bytes) {
 }
 
 Error ReplaceSystemFile(const std::wstring& path, const FileFiller& fill) {
-    std::wstring target = path;
-    DWORD attributes = GetFileAttributesW(path.c_str());
-    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-    if (exists && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
-        const auto followed = FollowLinks(path);
-        if (!followed) {
-            return MakeError(error::kPathNotFound);
-        }
-        target = *followed;
-        attributes = GetFileAttributesW(target.c_str());
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
+        return Put(path, attributes, fill);
     }
-    if (exists && (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) {
+    const auto target = FollowAll(path);
+    return target ? Put(*target, GetFileAttributesW(target->c_str()), fill) : MakeError(error::kPathNotFound);
+}
+
+Error ReplaceOwnSystemFile(const std::wstring& path, const FileFiller& fill) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
+    if (exists && (attributes & kNeverReplaced) != 0) {
         return MakeError(error::kPathFileAccess);
     }
-    const std::wstring directory = DirectoryOf(target);
-    if (exists) {
-        target = directory + NameAsFound(target);
-    }
-    NewFile made(directory);
-    if (!made.IsOpen()) {
-        return made.Failed() == ERROR_FILE_NOT_FOUND ? MakeError(error::kPathNotFound) : ErrorOfSystem(made.Failed());
-    }
-    if (const DWORD failed = Fill(made, fill)) {
-        return ErrorOfSystem(failed);
-    }
-    if (exists) {
-        KeepRights(target, made.Path());
-        SetFileAttributesW(made.Path().c_str(), attributes & kKeptAttributes);
-    }
-    return ErrorOfSystem(made.MoveTo(target));
+    return Put(exists ? DirectoryOf(path) + NameAsFound(path) : path, INVALID_FILE_ATTRIBUTES, fill);
 }
 
 }  // namespace lv

@@ -4,6 +4,7 @@
 
 #include "platform/code_page.h"
 #include "platform/windows/file_read.h"
+#include "platform/windows/links.h"
 #include "platform/windows/replace_file.h"
 #include "platform/windows/system.h"
 #include "platform/windows/system_error.h"
@@ -50,7 +51,7 @@ bool MayWalk(const FullPath& path) {
 
 DWORD CopyAll(HANDLE from, HANDLE to) {
     std::array<char, 65536> buffer{};
-    while (true) {
+    for (std::uint64_t most = kLargestWholeFile; most >= buffer.size(); most -= buffer.size()) {
         DWORD got = 0;
         if (ReadFile(from, buffer.data(), static_cast<DWORD>(buffer.size()), &got, nullptr) == 0) {
             return GetLastError();
@@ -62,6 +63,33 @@ DWORD CopyAll(HANDLE from, HANDLE to) {
             return failed;
         }
     }
+    return ERROR_FILE_TOO_LARGE;  // it grows while it is read
+}
+
+FileFiller FillWith(std::string_view bytes) {
+    return [bytes](HANDLE file) { return WriteAll(file, bytes); };
+}
+
+using Replacer = Error(const std::wstring& path, const FileFiller& fill);
+
+Error CopyBy(Replacer* replace, const std::wstring& from, const std::wstring& to) {
+    const auto file = OpenPlainFile(from);
+    if (!file.Ok()) {
+        return file.Fault;
+    }
+    LARGE_INTEGER size{};
+    if (GetFileSizeEx(file.Value->Get(), &size) == 0) {
+        return ErrorOfSystem(GetLastError());
+    }
+    if (static_cast<std::uint64_t>(size.QuadPart) > kLargestWholeFile) {
+        return MakeTooLarge(kLargestWholeFile);
+    }
+    // An open file keeps its place: a copy onto itself has to let go of it first.
+    return replace(to, [&](HANDLE made) {
+        const DWORD failed = CopyAll(file.Value->Get(), made);
+        file.Value->Close();
+        return failed;
+    });
 }
 
 std::wstring OwnCurrentDirectory() {
@@ -200,38 +228,59 @@ Result<std::unique_ptr<RandomAccessFile>> WindowsFiles::Open(std::string_view pa
     return OpenPlainFileAnywhere(place.Value.System);
 }
 
+Result<WindowsFiles::Place> WindowsFiles::FindToWrite(std::string_view path) const {
+    auto place = FindNamed(path);
+    const bool isFile = !EndsInSeparator(path) && !place.Value.Path.Parts.empty();
+    return !place.Ok() || isFile ? place : MakeError(error::kPathFileAccess);
+}
+
 Error WindowsFiles::Replace(std::string_view path, std::string_view bytes) {
     const Quiet quiet;
-    const auto place = FindNamed(path);
-    if (!place.Ok()) {
-        return place.Fault;
-    }
-    if (EndsInSeparator(path) || place.Value.Path.Parts.empty()) {
-        return MakeError(error::kPathFileAccess);
-    }
-    return ReplaceSystemFile(place.Value.System, [bytes](HANDLE file) { return WriteAll(file, bytes); });
+    const auto place = FindToWrite(path);
+    return place.Ok() ? ReplaceSystemFile(place.Value.System, FillWith(bytes)) : place.Fault;
+}
+
+Error WindowsFiles::ReplaceOwn(std::string_view path, std::string_view bytes) {
+    const Quiet quiet;
+    const auto place = FindToWrite(path);
+    return place.Ok() ? ReplaceOwnSystemFile(place.Value.System, FillWith(bytes)) : place.Fault;
 }
 
 Error WindowsFiles::Copy(std::string_view from, std::string_view to) {
     const Quiet quiet;
     const auto source = FindNamed(from);
-    const auto target = FindNamed(to);
+    const auto target = FindToWrite(to);
     if (!source.Ok() || !target.Ok()) {
         return source.Ok() ? target.Fault : source.Fault;
     }
-    if (EndsInSeparator(to) || target.Value.Path.Parts.empty()) {
-        return MakeError(error::kPathFileAccess);
+    return CopyBy(ReplaceSystemFile, source.Value.System, target.Value.System);
+}
+
+Error WindowsFiles::CopyOwn(std::string_view from, std::string_view to) {
+    const Quiet quiet;
+    const auto source = FindNamed(from);
+    const auto target = FindToWrite(to);
+    if (!source.Ok() || !target.Ok()) {
+        return source.Ok() ? target.Fault : source.Fault;
     }
-    const auto file = OpenPlainFile(source.Value.System);
-    if (!file.Ok()) {
-        return file.Fault;
+    return CopyBy(ReplaceOwnSystemFile, source.Value.System, target.Value.System);
+}
+
+std::string WindowsFiles::LeadsAway(std::string_view path, std::string_view tree) {
+    const Quiet quiet;
+    const auto place = Find(path);
+    const auto target = place && HasLinkOnTheWay(place->System) ? FollowAll(place->System) : std::nullopt;
+    if (!target) {
+        return {};  // no link, or one to nothing, which no write makes
     }
-    // An open file keeps its place: a copy onto itself has to let go of it first.
-    return ReplaceSystemFile(target.Value.System, [&](HANDLE made) {
-        const DWORD failed = CopyAll(file.Value->Get(), made);
-        file.Value->Close();
-        return failed;
-    });
+    const auto tree_ = Find(tree);
+    for (const std::wstring& directory : {HomeDirectory(), tree_ ? tree_->System : std::wstring()}) {
+        const auto real = directory.empty() ? std::nullopt : FollowAll(directory);
+        if (real && LiesWithin(*target, *real)) {
+            return {};
+        }
+    }
+    return SayPath(WithoutPrefix(*target));
 }
 
 Error WindowsFiles::Delete(std::string_view path) {

@@ -28,6 +28,10 @@ class WindowsFiles : public Files {
     Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) override;
     Error Replace(std::string_view path, std::string_view bytes) override;
     Error Copy(std::string_view from, std::string_view to) override;
+    /// The user's rights to the directory are what keeps others from reading the file.
+    Error ReplaceOwn(std::string_view path, std::string_view bytes) override;
+    Error CopyOwn(std::string_view from, std::string_view to) override;
+    std::string LeadsAway(std::string_view path, std::string_view tree) override;
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;
     Error RemoveDirectory(std::string_view path) override;
@@ -49,6 +53,7 @@ class WindowsFiles : public Files {
     };
     [[nodiscard]] std::optional<Place> Find(std::string_view path) const;
     [[nodiscard]] Result<Place> FindNamed(std::string_view path) const;
+    [[nodiscard]] Result<Place> FindToWrite(std::string_view path) const;
 
     FullPath current_;
 };

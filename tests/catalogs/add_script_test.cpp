@@ -164,4 +164,14 @@ TEST_F(AddScript, BrowsesWithTheGamesFilter) {
     EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "c:\\quake\\ID1");
 }
 
+TEST_F(AddScript, ANewScriptIsNotMadeWhereALinkLeadsAway) {
+    system.Disk.AddFileLink("C:\\QUAKE\\ID1\\trap.cfg", "C:\\ETC\\NEW");
+    AddScript_Frm form(run, lists, EntryMode::New);
+    Fill(form, "Trap", "trap.cfg");
+    user.Expect({.Title = "Link To Another Place", .Text_ = "c:\\etc\\new", .Answer = 0});
+    AddScript_OK_Cmd_Click(form);
+    EXPECT_FALSE(form.Closed);
+    EXPECT_FALSE(system.Disk.FileExists("C:\\ETC\\NEW"));
+}
+
 }  // namespace lv

@@ -77,4 +77,15 @@ TEST_F(CopyingScripts, AFailureIsTold) {
     Copy("C:\\OTHER", {"own.cfg"});
 }
 
+TEST_F(CopyingScripts, ALinkThatLeadsAwayIsAskedAbout) {
+    system.Disk.AddFile("C:\\ETC\\PASSWD", "theirs");
+    system.Disk.AddFileLink("C:\\OTHER\\link.cfg", "C:\\ETC\\PASSWD");
+    user.Expect({.Title = "Link To Another Place", .Text_ = "c:\\etc\\passwd", .Answer = 0});
+    Copy("C:\\OTHER", {"link.cfg", "link.cfg"});
+    EXPECT_EQ(system.Disk.Bytes("C:\\ETC\\PASSWD"), "theirs");
+    user.Expect({.Title = "Link To Another Place", .Text_ = "c:\\etc\\passwd", .Answer = 1});
+    Copy("C:\\OTHER", {"link.cfg", "link.cfg"});
+    EXPECT_EQ(system.Disk.Bytes("C:\\ETC\\PASSWD"), "own");
+}
+
 }  // namespace lv

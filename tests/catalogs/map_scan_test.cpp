@@ -154,5 +154,39 @@ TEST_F(MapScanTest, ASecondScanKeepsNothingOfTheFirst) {
     EXPECT_EQ(lists.MapList, "");
 }
 
+TEST_F(MapScanTest, AnArchiveThatClaimsFourGigabytesAddsWhatItHas) {
+    Text whole = PakFile({"maps/start.bsp"});
+    whole.replace(8, 4, LittleEndian(0xFFFFFFF0));
+    system.Disk.AddSparseFile("C:\\QUAKE\\ID1\\pak0.pak", whole, 4ULL << 30U);
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak1.pak", PakFile({"maps/e1m1.bsp"}));
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"START", "E1M1"}));
+}
+
+TEST_F(MapScanTest, PipesAndDevicesAreNoArchivesAndNoMaps) {
+    system.Disk.AddDevice("C:\\QUAKE\\ID1\\pak0.pak");
+    system.Disk.AddDevice("C:\\QUAKE\\ID1\\maps\\pipe.bsp");
+    ScanForMaps(run, lists);
+    EXPECT_TRUE(lists.Map_Cbo.Items.empty());
+}
+
+TEST_F(MapScanTest, ASlowArchiveIsLeftAfterATenthOfASecond) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile(TextList(20'000, "maps/a.bsp")));
+    system.Time.Step = 0.06;  // a look before each block: the second one behind the first 4,096 entries is too late
+    ScanForMaps(run, lists);
+    EXPECT_GE(lists.Map_Cbo.Items.size(), 4096U);
+    EXPECT_LT(lists.Map_Cbo.Items.size(), 8192U);
+}
+
+TEST_F(MapScanTest, ManySlowArchivesAreLeftAfterASecond) {
+    for (int i = 0; i < 100; ++i) {
+        system.Disk.AddFile("C:\\QUAKE\\ID1\\pak" + std::to_string(i) + ".pak", PakFile({"maps/a.bsp"}));
+    }
+    system.Time.Step = 0.05;
+    ScanForMaps(run, lists);
+    EXPECT_GE(lists.Map_Cbo.Items.size(), 5U);
+    EXPECT_LT(lists.Map_Cbo.Items.size(), 21U);
+}
+
 }  // namespace
 }  // namespace lv

@@ -221,5 +221,10 @@ TEST_F(ModificationsTest, AScanEndsAfterAThousandEntries) {
     EXPECT_EQ(Rows(lists.Game_Cbo), (TextList{"last|-game last"}));
 }
 
+TEST_F(ModificationsTest, PipesAndDevicesMakeNoGameDirectory) {
+    system.Disk.AddDevice("C:\\QUAKE\\trap\\pak0.pak");
+    EXPECT_EQ(ScanForGames(run, lists), 0);
+}
+
 }  // namespace
 }  // namespace lv

@@ -91,10 +91,49 @@ TEST(PakMapNames, OfAnotherMagicAreNone) {
     EXPECT_EQ(MapsOf(PakFile({"maps/a.bsp"}, "pack")), TextList{});
 }
 
-TEST(PakMapNames, AreReadInOneGo) {
+TEST(PakMapNames, AreReadInBlocks) {
     WatchedFile file(PakFile(TextList(20'000, "maps/a.bsp")));
     EXPECT_EQ(PakMapNames(file, "PACK").size(), 20'000U);
-    EXPECT_EQ(file.Reads, 2);
+    EXPECT_EQ(file.Reads, 21);  // the header, and 1,024 entries at a time
+    EXPECT_EQ(file.MostAsked, 65536U);
+}
+
+/// Gives nothing but zeros, as a file that is a single hole does, and notes what was read of it.
+class Hole : public RandomAccessFile {
+  public:
+    explicit Hole(std::uint64_t size) : size_(size) {}
+    [[nodiscard]] std::uint64_t Size() const override { return size_; }
+    Result<std::string> Read(std::uint64_t offset, std::size_t count) override {
+        MostAsked = std::max(MostAsked, count);
+        Text bytes(static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)), '\0');
+        Total += bytes.size();
+        const Text header = "PACK" + LittleEndian(12) + LittleEndian(0xFFFFFFF0);
+        return offset == 0 ? bytes.replace(0, 12, header) : bytes;
+    }
+    std::size_t MostAsked = 0;
+    std::uint64_t Total = 0;
+
+  private:
+    std::uint64_t size_;
+};
+
+TEST(PakMapNames, OfAnArchiveThatClaimsFourGigabytesAreLookedForInFourMegabytes) {
+    Hole hole(4ULL << 30U);
+    EXPECT_EQ(PakMapNames(hole, "PACK"), TextList{});
+    EXPECT_EQ(hole.MostAsked, 65536U);
+    EXPECT_EQ(hole.Total, 12U + 65536 * 64);
+}
+
+TEST(PakMapNames, EndWhereAReadFails) {
+    class Failing : public WatchedFile {
+      public:
+        using WatchedFile::WatchedFile;
+        Result<std::string> Read(std::uint64_t offset, std::size_t count) override {
+            return Reads == 3 ? MakeError(error::kDiskNotReady) : WatchedFile::Read(offset, count);
+        }
+    };
+    Failing file(PakFile(TextList(20'000, "maps/a.bsp")));
+    EXPECT_EQ(PakMapNames(file, "PACK").size(), 2048U);
 }
 
 TEST(PakEntryCount, IsRoundedToAWholeNumber) {

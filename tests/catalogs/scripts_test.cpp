@@ -254,5 +254,15 @@ TEST_F(ScriptsTest, AddingToADamagedCatalogEndsTheProgram) {
     EXPECT_TRUE(run.Ended);
 }
 
+TEST_F(ScriptsTest, PipesAndDevicesAreNoScripts) {
+    BeInQuake();
+    system.Disk.AddDevice("C:\\QUAKE\\ID1\\pipe.cfg");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\my.cfg");
+    Store("Scripts", "Pipe;c:\\quake\\id1\\pipe.cfg");
+    EXPECT_TRUE(FixScriptRegistries(run));
+    EXPECT_TRUE(FillScriptsCombo(run, lists));
+    EXPECT_EQ(Rows(lists.Script_Cbo), (TextList{"my.cfg|c:\\quake\\id1\\my.cfg"}));
+}
+
 }  // namespace
 }  // namespace lv

@@ -60,5 +60,11 @@ TEST_F(CatalogsTest, ListFilesOfAMissingDirectoryIsEmpty) {
     EXPECT_EQ(ListFiles(system.Disk, "C:\\NOWHERE", "*.cfg"), TextList{});
 }
 
+TEST_F(CatalogsTest, ListFilesLeavesPipesAndDevicesOut) {
+    system.Disk.AddDevice("C:\\Q\\pipe.cfg");
+    system.Disk.AddFile("C:\\Q\\a.cfg");
+    EXPECT_EQ(ListFiles(system.Disk, "c:\\q", "*.cfg"), (TextList{"a.cfg"}));
+}
+
 }  // namespace
 }  // namespace lv

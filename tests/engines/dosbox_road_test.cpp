@@ -58,6 +58,16 @@ TEST(DosBoxRoad, StartsAProgramWhoseNameReadsLikeConfiguration) {
     EXPECT_THAT(LinesAfter(WaitForOutput(yard.Drive / "quake/OUTPUT.TXT"), "ARGUMENTS="), ElementsAre(" -a"));
 }
 
+TEST(DosBoxRoad, LeavesNothingOfTheLaunchInTheCache) {
+    GameYard yard("engine_dos_cache");
+    yard.AddGame("show_dos.exe", "quake/quake.exe");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE.EXE +password secret"});
+    Start(yard, "C:\\QUAKE");
+    EXPECT_THAT(LinesAfter(WaitForOutput(yard.Drive / "quake/OUTPUT.TXT"), "ARGUMENTS="),
+                ElementsAre(" +password secret"));
+    EXPECT_TRUE(WaitUntilEmpty(yard.Places.Cache));
+}
+
 TEST(DosBoxRoad, WaitsForAKeyAfterShowingTheEnvironment) {
     GameYard yard("engine_dos_pause");
     yard.AddGame("show_dos.exe", "quake/quake.exe");

@@ -86,6 +86,7 @@ TEST(WineRoad, RunsABatchOfTheUsersOwn) {
     const Strings output = StartAndRead(yard, "C:\\QUAKE", "quake");
     EXPECT_THAT(LinesAfter(output, "ARGUMENT="), ElementsAre("-own", "more"));
     EXPECT_THAT(LinesAfter(output, "LV_TEST_OWN="), ElementsAre("yes"));
+    EXPECT_TRUE(WaitUntilEmpty(yard.Places.Cache)) << "a launch's copy of the batch may hold a password";
 }
 
 TEST(WineRoad, WaitsForAKeyAfterShowingTheEnvironment) {

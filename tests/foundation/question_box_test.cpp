@@ -218,5 +218,19 @@ TEST_F(QuestionBoxTest, ATextOfExactlyTheLimitDoesNotScroll) {
     EXPECT_EQ(box.Layout.TextWidth, 800);
 }
 
+TEST_F(QuestionBoxTest, TellsOfWorkThatWasGivenUp) {
+    user.Expect({"Lorvane 3D",
+                 "What was under way has been given up.\r\n\r\nError Number = 7\r\nError String = Out of memory"
+                 "\r\n\r\nSave your work, and close other programs before you try again.",
+                 0, false, true, "&OK"});
+    TellOfGivenUpWork(run, MakeError(error::kOutOfMemory));
+}
+
+TEST_F(QuestionBoxTest, LeavesTheWordOutThatThereIsNoMemoryFor) {
+    user.OnDialog = [] { throw std::bad_alloc(); };
+    TellOfGivenUpWork(run, MakeError(error::kOutOfMemory));
+    EXPECT_EQ(run.Topmost.Nesting, 0);
+}
+
 }  // namespace
 }  // namespace lv

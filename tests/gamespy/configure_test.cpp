@@ -2,6 +2,7 @@
 
 #include "gamespy/configure.h"
 
+#include "foundation/field_strings.h"
 #include "launcher/launch_flow.h"
 #include "launcher/lv_events.h"
 #include "tests/gamespy/game_spy_fixture.h"
@@ -486,6 +487,22 @@ TEST_F(Configure, AnIniThatTheBatchWouldMisreadIsToldBeforeAnythingIsWritten) {
         form.ScriptSpy_Cbo[spy_slot::kUnreal].ListIndex = 0;
     });
     EXPECT_EQ(system.Disk.Log.size(), writes);
+}
+
+TEST_F(Configure, ReplacesLinksByItsOwnFilesAndFollowsNone) {
+    system.Disk.AddFile("C:\\HOME\\.bashrc", "mine");
+    for (const char* const file :
+         {"C:\\QUAKE\\QSL1_666.bat", "C:\\QUAKE\\qsl1_666.pif", "C:\\QUAKE\\ID1\\lvgs_666.qs"}) {
+        system.Disk.AddFileLink(file, "C:\\HOME\\.bashrc");
+    }
+    Run([](GameSpyConfig_Frm& form) {
+        Use(form, {0});
+        form.ScriptSpy_Cbo[0].ListIndex = 0;
+    });
+    EXPECT_EQ(system.Disk.Bytes("C:\\HOME\\.bashrc"), "mine");
+    EXPECT_TRUE(Holds(system.Disk.Bytes("C:\\QUAKE\\QSL1_666.bat"), "GLQUAKE.EXE"));
+    EXPECT_NE(system.Disk.Bytes("C:\\QUAKE\\qsl1_666.pif"), "mine");
+    EXPECT_EQ(system.Disk.Private.count("c:\\quake\\qsl1_666.bat"), 1u);
 }
 
 }  // namespace

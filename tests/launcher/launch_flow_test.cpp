@@ -1,5 +1,8 @@
 #include "launcher/launch_flow.h"
 
+#include <new>
+#include <set>
+
 #include "launcher/lv_events.h"
 #include "tests/support/launcher_fixture.h"
 
@@ -421,6 +424,42 @@ TEST_F(LaunchFlow, AHalfLifePasswordRunsNoFileCalledConnect) {
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Disk.Log.size(), writes);
     system.Programs.Reader = LineReader::kNobody;
+}
+
+TEST_F(LaunchFlow, LinksAtTheLaunchFilesAreReplacedAndNeverFollowed) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    system.Disk.AddFile("C:\\HOME\\.bashrc", "mine");
+    for (const char* const file : {kBatch, kScript, kPif}) {
+        system.Disk.AddFileLink(file, "C:\\HOME\\.bashrc");
+    }
+    Click(&LV_Frm::Script_Chk, 1);
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Disk.Bytes("C:\\HOME\\.bashrc"), "mine");
+    EXPECT_EQ(system.Disk.Bytes(kScript), "exec my.cfg\r\n");
+    EXPECT_TRUE(system.Disk.Bytes(kBatch).ends_with("+exec lv_666.qs"));
+    EXPECT_EQ(system.Disk.Bytes(kPif), "the pif of most");
+}
+
+TEST_F(LaunchFlow, TheLaunchFilesAreTheirOwnersAlone) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::Script_Chk, 1);
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Disk.Private,
+              (std::set<std::string>{"c:\\quake\\id1\\lv_666.qs", "c:\\quake\\lv_666.bat", "c:\\quake\\lv_666.pif"}));
+}
+
+TEST_F(LaunchFlow, WantOfMemoryIsReportedAndTheNextLaunchWorks) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::QSpy_Chk, 1);
+    system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
+    system.Clip.Held = "10.0.0.1:27500";
+    user.OnPump = [] { throw std::bad_alloc(); };
+    user.Expect({"Lorvane 3D", "Error Number = 7\r\n", 0});
+    window.Visible = true;
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(system.Programs.Started.empty());
+    EXPECT_TRUE(window.Visible);
+    user.OnPump = nullptr;
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Programs.Started.size(), 1u);
 }
@@ -437,6 +476,8 @@ TEST_F(LaunchFlow, UnrealsIniIsNotRewrittenForALaunchThatIsRefused) {
     user.Expect({"Lorvane 3D", "The map \"x&calc&.unr\" comes from the maps and archives of the game."});
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Disk.Log.size(), writes);
+}
+
 }
 
 }  // namespace

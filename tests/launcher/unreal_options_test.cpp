@@ -239,5 +239,41 @@ TEST_F(UnrealOptions, AreNoMatterForAnotherGame) {
     EXPECT_THAT(system.Disk.Log, Not(Contains(HasSubstr("unreal"))));
 }
 
+TEST_F(UnrealOptions, AreNotSetInAnIniOfATerabyte) {
+    system.Disk.AddSparseFile(kIni, kOld, 1ULL << 40U);
+    user.Expect({"Lorvane 3D",
+                 "Error Number = 7\r\nError Code = EC00040\r\nError String = The file is larger than 64 MB\r\n", 0});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+TEST_F(UnrealOptions, AreSetInAnIniOfExactlyTheMost) {
+    system.Disk.AddSparseFile(kIni, kOld, 64U << 20U);
+    EXPECT_EQ(Rewrite().Number, 0);
+    EXPECT_TRUE(system.Disk.Bytes(kIni).starts_with(kNew));
+    system.Disk.AddSparseFile(kIni, kOld, (64U << 20U) + 1);
+    EXPECT_EQ(Rewrite().Number, 7);
+}
+
+TEST_F(UnrealOptions, FollowALinkThatStaysWithTheGame) {
+    system.Disk.AddFile("C:\\UNREAL\\SAVED\\mine.ini", kOld);
+    system.Disk.AddFileLink(kIni, "C:\\UNREAL\\SAVED\\mine.ini");
+    EXPECT_EQ(Rewrite().Number, 0);
+    EXPECT_EQ(system.Disk.Bytes("C:\\UNREAL\\SAVED\\mine.ini"), kNew);
+}
+
+TEST_F(UnrealOptions, LeaveAnIniAloneThatIsALinkToAnotherPlaceUnlessTheUserAgrees) {
+    system.Disk.AddFile("C:\\ELSE\\their.ini", kOld);
+    system.Disk.AddFileLink(kIni, "C:\\ELSE\\their.ini");
+    user.Expect({.Title = "Link To Another Place", .Text_ = "c:\\else\\their.ini", .Answer = 0});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Disk.Bytes("C:\\ELSE\\their.ini"), kOld);
+    EXPECT_EQ(window.ChangedIniLines, "");
+    EXPECT_EQ(system.Programs.Started.size(), 1u);
+    user.Expect({.Title = "Link To Another Place", .Text_ = "c:\\else\\their.ini", .Answer = 1});
+    EXPECT_EQ(Rewrite().Number, 0);
+    EXPECT_EQ(system.Disk.Bytes("C:\\ELSE\\their.ini"), kNew);
+}
+
 }  // namespace
 }  // namespace lv

@@ -91,4 +91,23 @@ TEST(VariableIn, FindsTheWholeNameOnly) {
     EXPECT_EQ(VariableIn(environment, "B"), "");
 }
 
+TEST(StartDetached, TakesAwayTheFileThatWasWrittenForTheProgramOnceItWasRead) {
+    GameYard yard("detached_read_once");
+    const auto file = yard.AddFile("cache/told.conf", "password");
+    const auto out = yard.Root / "out.txt";
+    const std::string script = "sleep 1; cat '" + file.string() + "' > '" + out.string() + "'; echo >> '" +
+                               out.string() + "'; echo end >> '" + out.string() + "'; sleep 100";
+    ASSERT_FALSE(StartDetached({"/bin/sh", {"-c", script}, OwnEnvironment(), "", file.string()}));
+    EXPECT_TRUE(std::filesystem::exists(file));
+    EXPECT_THAT(WaitForOutput(out), ElementsAre("password", "end"));
+    EXPECT_TRUE(WaitUntilEmpty(file.parent_path()));
+}
+
+TEST(StartDetached, TakesAwayTheFileOfAProgramThatDoesNotStart) {
+    GameYard yard("detached_read_never");
+    const auto file = yard.AddFile("told.conf", "password");
+    EXPECT_EQ(StartDetached({(yard.Root / "missing").string(), {}, {}, "", file.string()}).Number, 53);
+    EXPECT_FALSE(std::filesystem::exists(file));
+}
+
 }  // namespace lv

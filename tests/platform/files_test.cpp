@@ -33,6 +33,51 @@ class AnyFiles : public testing::Test {
     Files& disk_ = made_.Disk;
 };
 
+// Those of the operating system have real links, pipes and sizes in tests of their own.
+TEST(MemoryFiles, ReplaceALinkByTheProgramsOwnFile) {
+    MemoryDisk made;
+    made.Disk.AddFile("C:\\HOME\\.bashrc", "mine");
+    made.Disk.AddFileLink("C:\\QUAKE\\lv_666.bat", "C:\\HOME\\.bashrc");
+    EXPECT_EQ(made.Disk.ReplaceOwn("C:\\QUAKE\\LV_666.BAT", "new").Number, 0);
+    EXPECT_EQ(made.Disk.Bytes("C:\\HOME\\.bashrc"), "mine");
+    EXPECT_EQ(made.Disk.Bytes("C:\\QUAKE\\lv_666.bat"), "new");
+    EXPECT_TRUE(made.Disk.Private.contains("c:\\quake\\lv_666.bat"));
+}
+
+TEST(MemoryFiles, LeaveALinkOfTheUsersALink) {
+    MemoryDisk made;
+    made.Disk.AddFile("C:\\HOME\\real.cfg", "old");
+    made.Disk.AddFileLink("C:\\QUAKE\\my.cfg", "C:\\HOME\\real.cfg");
+    EXPECT_EQ(made.Disk.Replace("C:\\QUAKE\\my.cfg", "new").Number, 0);
+    EXPECT_EQ(made.Disk.Bytes("C:\\HOME\\real.cfg"), "new");
+    EXPECT_EQ(made.Disk.Delete("C:\\QUAKE\\my.cfg").Number, 0);
+    EXPECT_EQ(made.Disk.Bytes("C:\\HOME\\real.cfg"), "new");
+    EXPECT_FALSE(made.Disk.FileExists("C:\\QUAKE\\my.cfg"));
+}
+
+TEST(MemoryFiles, SayWhereALinkLeadsOutOfHomeAndTree) {
+    MemoryDisk made;
+    made.Disk.AddFileLink("C:\\QUAKE\\a.cfg", "C:\\HOME\\a.cfg");
+    made.Disk.AddFileLink("C:\\QUAKE\\b.cfg", "C:\\QUAKE\\ID1\\b.cfg");
+    made.Disk.AddFileLink("C:\\QUAKE\\c.cfg", "C:\\ETC\\PASSWD");
+    EXPECT_EQ(made.Disk.LeadsAway("C:\\QUAKE\\a.cfg", "C:\\QUAKE"), "");
+    EXPECT_EQ(made.Disk.LeadsAway("C:\\QUAKE\\b.cfg", "C:\\QUAKE"), "");
+    EXPECT_EQ(made.Disk.LeadsAway("C:\\QUAKE\\c.cfg", "C:\\QUAKE"), "c:\\etc\\passwd");
+}
+
+TEST(MemoryFiles, ReadNoDeviceAndNoFileWithoutEnd) {
+    MemoryDisk made;
+    made.Disk.AddDevice("C:\\pipe.cfg");
+    made.Disk.AddSparseFile("C:\\huge.ini", "[x]", 1ULL << 40U);
+    made.Disk.AddSparseFile("C:\\fits.ini", "[x]", 6);
+    EXPECT_FALSE(made.Disk.FileExists("C:\\pipe.cfg"));
+    EXPECT_EQ(made.Disk.Read("C:\\pipe.cfg").Fault.Number, 75);
+    EXPECT_TRUE(made.Disk.List("C:\\").Value.at(2).IsDevice);
+    EXPECT_EQ(made.Disk.Read("C:\\huge.ini").Fault.Number, 7);
+    EXPECT_EQ(made.Disk.Open("C:\\huge.ini").Value->Size(), 1ULL << 40U);
+    EXPECT_EQ(made.Disk.Read("C:\\fits.ini").Value, std::string("[x]\0\0\0", 6));
+}
+
 using AllFiles = testing::Types<MemoryDisk, SystemDisk>;
 TYPED_TEST_SUITE(AnyFiles, AllFiles);
 
@@ -223,6 +268,40 @@ TYPED_TEST(AnyFiles, BringAPathToTheHostAndBack) {
     EXPECT_EQ(this->disk_.Replace(this->On("C:\\quake\\\xE9.cfg"), "x").Number, 0);
     EXPECT_EQ(this->disk_.FromHost(this->disk_.ToHost(this->On("C:\\quake\\\xE9.cfg"))),
               this->On("C:\\quake\\\xE9.cfg"));
+}
+
+TYPED_TEST(AnyFiles, WriteTheProgramsOwnFiles) {
+    EXPECT_EQ(this->disk_.ReplaceOwn(this->On("C:\\LV_666.BAT"), "one").Number, 0);
+    EXPECT_EQ(this->disk_.ReplaceOwn(this->On("C:\\lv_666.bat"), "two").Number, 0);
+    EXPECT_EQ(this->disk_.Read(this->On("C:\\LV_666.BAT")).Value, "two");
+    EXPECT_EQ(this->disk_.CopyOwn(this->On("C:\\lv_666.bat"), this->On("C:\\lv_666.pif")).Number, 0);
+    EXPECT_EQ(this->disk_.Read(this->On("C:\\lv_666.pif")).Value, "two");
+    const auto entries = this->disk_.List(this->On("C:\\"));
+    ASSERT_EQ(entries.Value.size(), 4u);
+}
+
+TYPED_TEST(AnyFiles, TellWhyAnOwnFileIsNotWritten) {
+    EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\DIR")).Number, 0);
+    EXPECT_EQ(this->disk_.ReplaceOwn(this->On("C:\\NONE\\A.QS"), "x").Number, 76);
+    EXPECT_EQ(this->disk_.ReplaceOwn(this->On("C:\\DIR"), "x").Number, 75);
+    EXPECT_EQ(this->disk_.CopyOwn(this->On("C:\\NONE"), this->On("C:\\A.QS")).Number, 53);
+    EXPECT_EQ(this->disk_.CopyOwn(this->On("C:\\DIR"), this->On("C:\\A.QS")).Number, 75);
+}
+
+TYPED_TEST(AnyFiles, LeadNowhereElseWithoutALink) {
+    EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\QUAKE")).Number, 0);
+    EXPECT_EQ(this->disk_.Replace(this->On("C:\\A.CFG"), "x").Number, 0);
+    EXPECT_EQ(this->disk_.LeadsAway(this->On("C:\\A.CFG"), this->On("C:\\QUAKE")), "");
+    EXPECT_EQ(this->disk_.LeadsAway(this->On("C:\\NEW.CFG"), this->On("C:\\QUAKE")), "");
+    EXPECT_EQ(this->disk_.LeadsAway(this->On("C:\\NONE\\NEW.CFG"), "Q:\\"), "");
+}
+
+TYPED_TEST(AnyFiles, ListPlainFilesAsNoDevices) {
+    EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\DIR")).Number, 0);
+    EXPECT_EQ(this->disk_.Replace(this->On("C:\\FILE"), "x").Number, 0);
+    for (const DirectoryEntry& entry : this->disk_.List(this->On("C:\\")).Value) {
+        EXPECT_FALSE(entry.IsDevice) << entry.Name;
+    }
 }
 
 }  // namespace lv

@@ -42,4 +42,27 @@ TEST(DropOldHostFiles, DropsOnlyOldFilesOfThatName) {
     DropOldHostFiles(yard.Drive / "none", "lv_666_", 7);
 }
 
+TEST(WriteHostFile, KeepsDirectoryAndFileToThisUser) {
+    using std::filesystem::perms;
+    GameYard yard("host_file_private");
+    const auto mode = [](const std::filesystem::path& path) { return std::filesystem::status(path).permissions(); };
+    ASSERT_FALSE(WriteHostFile(yard.Root / "made/lorvane3d/a.conf", "x"));
+    EXPECT_EQ(mode(yard.Root / "made/lorvane3d"), perms::owner_all);
+    EXPECT_EQ(mode(yard.Root / "made/lorvane3d/a.conf"), perms::owner_read | perms::owner_write);
+    std::filesystem::create_directory(yard.Root / "open");
+    std::filesystem::permissions(yard.Root / "open", perms::all);
+    ASSERT_FALSE(WriteHostFile(yard.Root / "open/a.conf", "x"));
+    EXPECT_EQ(mode(yard.Root / "open"), perms::owner_all);
+}
+
+TEST(WriteHostFile, ReplacesALink) {
+    GameYard yard("host_file_link");
+    const auto mine = yard.AddFile("mine", "mine");
+    std::filesystem::create_directory(yard.Root / "cache");
+    std::filesystem::create_symlink(mine, yard.Root / "cache/a.conf");
+    ASSERT_FALSE(WriteHostFile(yard.Root / "cache/a.conf", "new"));
+    EXPECT_EQ(ReadBytes(mine), "mine");
+    EXPECT_EQ(ReadBytes(yard.Root / "cache/a.conf"), "new");
+}
+
 }  // namespace lv

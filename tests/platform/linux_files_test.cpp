@@ -1,7 +1,11 @@
 #include "platform/linux/linux_files.h"
 
 #include <gtest/gtest.h>
+#include <stdlib.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -313,6 +317,144 @@ TEST(ProgramDirectory, IsAPathOnTheDrives) {
     fs::create_directory(home.Scratch / "program");
     fs::create_directory_symlink(home.Scratch / "program", home.Drives / "p:");
     EXPECT_EQ(home.Disk.ProgramDirectory(), "P:\\");
+}
+
+TEST(LinuxFiles, ListPipesSocketsAndDevicesAsSuch) {
+    Home home;
+    ASSERT_EQ(mkfifo((home.C / "pipe.cfg").c_str(), 0600), 0);
+    fs::create_symlink("pipe.cfg", home.C / "link to pipe.cfg");
+    fs::create_symlink("/dev/zero", home.C / "zero.dem");
+    const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_un address{AF_UNIX, {}};
+    const std::string name = (home.C / "socket.pak").string();
+    ASSERT_LT(name.size(), sizeof address.sun_path);
+    std::copy(name.begin(), name.end(), address.sun_path);
+    ASSERT_EQ(bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    WriteBytes(home.C / "plain.cfg", "x");
+    fs::create_symlink("plain.cfg", home.C / "link.cfg");
+    fs::create_symlink("nowhere", home.C / "gone.cfg");
+    Names devices;
+    for (const DirectoryEntry& entry : home.Disk.List("C:\\").Value) {
+        if (entry.IsDevice) {
+            devices.push_back(entry.Name);
+        }
+    }
+    close(listener);
+    std::sort(devices.begin(), devices.end());
+    EXPECT_EQ(devices, (Names{"link to pipe.cfg", "pipe.cfg", "socket.pak", "zero.dem"}));
+    for (const std::string& device : devices) {
+        EXPECT_FALSE(home.Disk.FileExists("C:\\" + device)) << device;
+        EXPECT_FALSE(home.Disk.DirectoryExists("C:\\" + device)) << device;
+        EXPECT_EQ(home.Disk.Open("C:\\" + device).Fault.Number, 75) << device;
+    }
+    EXPECT_TRUE(home.Disk.FileExists("C:\\link.cfg"));
+}
+
+TEST(LinuxFiles, ReadAndCopyNoFileOfATerabyte) {
+    Home home;
+    WriteBytes(home.C / "huge.ini", "[x]");
+    fs::resize_file(home.C / "huge.ini", 1ULL << 40U);
+    const Error read = home.Disk.Read("C:\\huge.ini").Fault;
+    EXPECT_EQ(read.Number, 7);
+    EXPECT_EQ(read.Text, "The file is larger than 256 MB");
+    EXPECT_EQ(home.Disk.Copy("C:\\huge.ini", "C:\\copy.ini").Number, 7);
+    EXPECT_EQ(home.Disk.CopyOwn("C:\\huge.ini", "C:\\copy.ini").Number, 7);
+    EXPECT_FALSE(fs::exists(home.C / "copy.ini"));
+}
+
+TEST(LinuxFiles, TellThatThereIsNoMemoryForAStretch) {
+    Home home;
+    WriteBytes(home.C / "huge.pak", "PACK");
+    fs::resize_file(home.C / "huge.pak", 1ULL << 40U);
+    const auto file = home.Disk.Open("C:\\huge.pak");
+    ASSERT_TRUE(file.Ok());
+    const pid_t child = fork();
+    if (child == 0) {
+        const rlimit most{1U << 30U, 1U << 30U};
+        setrlimit(RLIMIT_AS, &most);
+        _exit(file.Value->Read(0, 1ULL << 39U).Fault.Number);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 7);
+    EXPECT_EQ(file.Value->Read(0, 4).Value, "PACK");
+}
+
+TEST(LinuxFiles, ReplaceALinkByTheProgramsOwnFile) {
+    Home home;
+    WriteBytes(home.Scratch / ".bashrc", "mine");
+    fs::create_directory(home.C / "QUAKE");
+    fs::create_symlink(home.Scratch / ".bashrc", home.C / "QUAKE/lv_666.bat");
+    EXPECT_EQ(home.Disk.ReplaceOwn("C:\\QUAKE\\LV_666.BAT", "new").Number, 0);
+    EXPECT_EQ(home.Disk.Read("C:\\QUAKE\\lv_666.bat").Value, "new");
+    fs::create_symlink(home.Scratch / ".bashrc", home.C / "QUAKE/lv_666.pif");
+    EXPECT_EQ(home.Disk.CopyOwn("C:\\QUAKE\\LV_666.BAT", "C:\\QUAKE\\lv_666.pif").Number, 0);
+    EXPECT_EQ(home.Disk.Read("C:\\QUAKE\\lv_666.pif").Value, "new");
+    EXPECT_EQ(BytesOf(home.Scratch / ".bashrc"), "mine");
+    struct stat info {};
+    ASSERT_EQ(stat((home.C / "QUAKE/lv_666.bat").c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 07777u, 0600u);
+}
+
+// The test's own place lies outside of the user's home.
+class LeadsAway : public testing::Test {
+  protected:
+    LeadsAway() {
+        setenv("HOME", (home_.Scratch / "me").c_str(), 1);
+        fs::create_directories(home_.Scratch / "me/dotfiles");
+        fs::create_directories(home_.Scratch / "else");
+        fs::create_directories(home_.C / "QUAKE/ID1");
+    }
+    ~LeadsAway() override { setenv("HOME", before_.c_str(), 1); }
+    void Link(const std::string& name, const fs::path& target) {
+        fs::create_symlink(target, home_.C / "QUAKE/ID1" / name);
+    }
+    std::string Of(const std::string& name) { return home_.Disk.LeadsAway("C:\\QUAKE\\ID1\\" + name, "C:\\QUAKE"); }
+
+    const std::string before_ = getenv("HOME") == nullptr ? "/" : getenv("HOME");
+    Home home_;
+};
+
+TEST_F(LeadsAway, IsNothingForPlainFilesAndLinksThatStay) {
+    WriteBytes(home_.C / "QUAKE/ID1/plain.cfg", "x");
+    Link("home.cfg", home_.Scratch / "me/dotfiles/quake.cfg");
+    Link("tree.cfg", "../config.cfg");
+    Link("circle.cfg", "circle.cfg");
+    for (const char* const name : {"plain.cfg", "new.cfg", "home.cfg", "tree.cfg", "circle.cfg"}) {
+        EXPECT_EQ(Of(name), "") << name;
+    }
+}
+
+TEST_F(LeadsAway, IsTheEndOfALinkThatLeadsOut) {
+    const std::string there = (home_.Scratch / "else").string();
+    WriteBytes(home_.Scratch / "else/real", "x");
+    Link("real.cfg", home_.Scratch / "else/real");
+    Link("dangling.cfg", home_.Scratch / "else/new");
+    Link("two.cfg", "real.cfg");
+    EXPECT_EQ(Of("real.cfg"), there + "/real");
+    EXPECT_EQ(Of("REAL.CFG"), there + "/real");
+    EXPECT_EQ(Of("dangling.cfg"), there + "/new");
+    EXPECT_EQ(Of("two.cfg"), there + "/real");
+}
+
+TEST_F(LeadsAway, IsWhereALinkedDirectoryLies) {
+    fs::create_directory_symlink(home_.Scratch / "else", home_.C / "QUAKE/CTF");
+    EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\CTF\\my.cfg", "C:\\QUAKE"), (home_.Scratch / "else/my.cfg").string());
+    EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\CTF\\my.cfg", "C:\\QUAKE\\CTF"), "");
+}
+
+TEST_F(LeadsAway, CountsADriveThatIsALinkAsNone) {
+    fs::create_directory_symlink(home_.Scratch / "else", home_.Drives / "g:");
+    fs::create_directories(home_.Scratch / "else/quake");
+    EXPECT_EQ(home_.Disk.LeadsAway("G:\\quake\\my.cfg", "G:\\quake"), "");
+    EXPECT_EQ(home_.Disk.LeadsAway("G:\\quake\\my.cfg", "C:\\QUAKE"), "");
+}
+
+TEST_F(LeadsAway, TakesNoRootForAHomeOrAGame) {
+    WriteBytes(home_.Scratch / "else/real", "x");
+    Link("real.cfg", home_.Scratch / "else/real");
+    setenv("HOME", "/", 1);
+    EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\ID1\\real.cfg", "Z:\\"), (home_.Scratch / "else/real").string());
 }
 
 }  // namespace lv

@@ -1,7 +1,9 @@
 #include "platform/linux/replace_file.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -22,6 +24,10 @@ Error Put(const fs::path& file, std::string_view bytes) {
     return ReplaceHostFile(file.string(), 0666, [bytes](int made) { return WriteAll(made, bytes); });
 }
 
+Error PutOwn(const fs::path& file, std::string_view bytes) {
+    return ReplaceOwnHostFile(file.string(), [bytes](int made) { return WriteAll(made, bytes); });
+}
+
 std::vector<std::string> NamesIn(const fs::path& directory) {
     std::vector<std::string> names;
     for (const auto& entry : fs::directory_iterator(directory)) {
@@ -29,6 +35,16 @@ std::vector<std::string> NamesIn(const fs::path& directory) {
     }
     std::sort(names.begin(), names.end());
     return names;
+}
+
+// A number that no process has any more.
+pid_t EndedProcess() {
+    const pid_t child = fork();
+    if (child == 0) {
+        _exit(0);
+    }
+    waitpid(child, nullptr, 0);
+    return child;
 }
 
 unsigned ModeOf(const fs::path& file) {
@@ -191,6 +207,131 @@ TEST(ReplaceHostFile, ShowsTheOldFileOrTheNewOneAfterAKill) {
     waitpid(child, nullptr, 0);
     const std::string left = BytesOf(scratch / "a.cfg");
     EXPECT_TRUE(left == one || left == two) << left.size();
+}
+
+TEST(ReplaceOwnHostFile, ReplacesALinkAndNeverFollowsIt) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / ".bashrc", "mine");
+    fs::create_symlink(scratch / ".bashrc", scratch / "lv_666.bat");
+    EXPECT_EQ(PutOwn(scratch / "lv_666.bat", "new").Number, 0);
+    EXPECT_EQ(BytesOf(scratch / ".bashrc"), "mine");
+    EXPECT_FALSE(fs::is_symlink(scratch / "lv_666.bat"));
+    EXPECT_EQ(BytesOf(scratch / "lv_666.bat"), "new");
+}
+
+TEST(ReplaceOwnHostFile, ReplacesALinkToADirectoryOrToNothing) {
+    const ScratchDirectory scratch;
+    fs::create_directory(scratch / "dir");
+    fs::create_symlink("dir", scratch / "a");
+    fs::create_symlink("nowhere", scratch / "b");
+    fs::create_symlink("c", scratch / "c");
+    for (const char* const name : {"a", "b", "c"}) {
+        EXPECT_EQ(PutOwn(scratch / name, "new").Number, 0) << name;
+        EXPECT_FALSE(fs::is_symlink(scratch / name)) << name;
+    }
+    EXPECT_TRUE(fs::is_empty(scratch / "dir"));
+    EXPECT_FALSE(fs::exists(scratch / "nowhere"));
+}
+
+TEST(ReplaceOwnHostFile, ShowsItToItsOwnerAloneWhateverWasThere) {
+    const ScratchDirectory scratch;
+    const mode_t before = umask(0);
+    EXPECT_EQ(PutOwn(scratch / "new.bat", "x").Number, 0);
+    WriteBytes(scratch / "old.bat", "x");
+    chmod((scratch / "old.bat").c_str(), 0666);
+    EXPECT_EQ(PutOwn(scratch / "old.bat", "y").Number, 0);
+    umask(before);
+    EXPECT_EQ(ModeOf(scratch / "new.bat"), 0600u);
+    EXPECT_EQ(ModeOf(scratch / "old.bat"), 0600u);
+}
+
+TEST(ReplaceOwnHostFile, RefusesWhatIsNoFile) {
+    const ScratchDirectory scratch;
+    fs::create_directory(scratch / "dir");
+    ASSERT_EQ(mkfifo((scratch / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(PutOwn(scratch / "dir", "new").Number, 75);
+    EXPECT_EQ(PutOwn(scratch / "pipe", "new").Number, 75);
+    EXPECT_EQ(PutOwn(scratch / "no such/file", "new").Number, 76);
+}
+
+TEST(ReplaceHostFile, ShowsAPrivateFileToNobodyWhileItIsWritten) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "secret.cfg", "old");
+    chmod((scratch / "secret.cfg").c_str(), 0600);
+    unsigned seen = 0777;
+    const Error failed = ReplaceHostFile((scratch / "secret.cfg").string(), 0666, [&seen](int made) {
+        struct stat info {};
+        seen = fstat(made, &info) == 0 ? info.st_mode & 07777u : 0777u;
+        return 0;
+    });
+    EXPECT_EQ(failed.Number, 0);
+    EXPECT_EQ(seen, 0600u);
+}
+
+TEST(ReplaceHostFile, RemovesWhatKilledWritersHaveLeft) {
+    const ScratchDirectory scratch;
+    const std::string left = ".lv_666_" + std::to_string(EndedProcess()) + "_0";
+    WriteBytes(scratch / left, "half");
+    WriteBytes(scratch / (".lv_666_" + std::to_string(getpid()) + "_7"), "of one with this number before");
+    EXPECT_EQ(Put(scratch / "a.cfg", "new").Number, 0);
+    EXPECT_EQ(NamesIn(scratch.Path()), (std::vector<std::string>{"a.cfg"}));
+    WriteBytes(scratch / left, "half");
+    EXPECT_EQ(PutOwn(scratch / "lv_666.bat", "new").Number, 0);
+    EXPECT_EQ(NamesIn(scratch.Path()), (std::vector<std::string>{"a.cfg", "lv_666.bat"}));
+}
+
+TEST(ReplaceHostFile, RemovesWhatAKilledWriteReallyLeaves) {
+    const ScratchDirectory scratch;
+    int ends[2] = {};
+    ASSERT_EQ(pipe(ends), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        (void)ReplaceHostFile((scratch / "a.cfg").string(), 0666, [&ends](int made) {
+            (void)WriteAll(made, "half");
+            (void)WriteAll(ends[1], "x");
+            pause();
+            return 0;
+        });
+    }
+    char written = 0;
+    ASSERT_EQ(read(ends[0], &written, 1), 1);
+    const auto names = [&scratch] { return NamesIn(scratch.Path()).size(); };
+    EXPECT_EQ(Put(scratch / "b.cfg", "new").Number, 0);
+    EXPECT_EQ(names(), 2u);  // the writer lives
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    EXPECT_EQ(Put(scratch / "b.cfg", "newer").Number, 0);
+    EXPECT_EQ(NamesIn(scratch.Path()), (std::vector<std::string>{"b.cfg"}));
+    close(ends[0]);
+    close(ends[1]);
+}
+
+TEST(ReplaceHostFile, LeavesNewFilesThatAreNoLeftovers) {
+    const ScratchDirectory scratch;
+    const std::string gone = std::to_string(EndedProcess());
+    const std::string locked = ".lv_666_" + gone + "_1";
+    const std::string link = ".lv_666_" + gone + "_2";
+    const std::string pipe_ = ".lv_666_" + gone + "_3";
+    const std::string others[] = {".lv_666_1_0",           ".lv_666_",
+                                  ".lv_666_x_0",           ".lv_666_" + gone,
+                                  ".lv_666_" + gone + "_", ".lv_666_" + gone + "_0x",
+                                  ".lv_666_-5_0",          ".lv_666_99999999999999_0"};
+    for (const std::string& name : others) {
+        WriteBytes(scratch / name, "x");
+    }
+    WriteBytes(scratch / locked, "x");
+    const int writer = open((scratch / locked).c_str(), O_WRONLY | O_CLOEXEC);
+    ASSERT_EQ(flock(writer, LOCK_EX), 0);
+    fs::create_symlink(".lv_666_1_0", scratch / link);
+    ASSERT_EQ(mkfifo((scratch / pipe_).c_str(), 0600), 0);
+    EXPECT_EQ(Put(scratch / "a.cfg", "new").Number, 0);
+    close(writer);
+    for (const std::string& name : others) {
+        EXPECT_TRUE(fs::exists(scratch / name)) << name;
+    }
+    for (const std::string& name : {locked, link, pipe_}) {
+        EXPECT_TRUE(fs::is_symlink(scratch / name) || fs::exists(scratch / name)) << name;
+    }
 }
 
 }  // namespace lv

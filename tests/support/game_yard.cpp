@@ -98,6 +98,10 @@ bool WaitForText(const std::filesystem::path& file, const std::string& text) {
     return WaitUntil([&] { return ReadBytes(file).find(text) != std::string::npos; });
 }
 
+bool WaitUntilEmpty(const std::filesystem::path& directory) {
+    return WaitUntil([&] { return std::filesystem::is_empty(directory); });
+}
+
 std::vector<std::string> LinesAfter(const std::vector<std::string>& lines, const std::string& start) {
     std::vector<std::string> found;
     for (const std::string& line : lines) {

@@ -35,6 +35,9 @@ std::vector<std::string> WaitForOutput(const std::filesystem::path& file);
 /// Waits up to a minute until the file holds the text.
 bool WaitForText(const std::filesystem::path& file, const std::string& text);
 
+/// Waits up to a minute until the directory, which must be there, has nothing in it.
+bool WaitUntilEmpty(const std::filesystem::path& directory);
+
 std::string ReadBytes(const std::filesystem::path& file);
 
 /// The lines that start with `start`, without it.

@@ -25,6 +25,9 @@ class HostFiles : public Files {
     Result<std::unique_ptr<RandomAccessFile>> Open(std::string_view path) override;
     Error Replace(std::string_view path, std::string_view bytes) override;
     Error Copy(std::string_view from, std::string_view to) override;
+    Error ReplaceOwn(std::string_view path, std::string_view bytes) override { return Replace(path, bytes); }
+    Error CopyOwn(std::string_view from, std::string_view to) override { return Copy(from, to); }
+    std::string LeadsAway(std::string_view, std::string_view) override { return {}; }
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;
     Error RemoveDirectory(std::string_view path) override;

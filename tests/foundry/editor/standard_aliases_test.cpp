@@ -191,5 +191,13 @@ TEST_F(StandardAliases, BehindTheListThereAreNone) {
     EXPECT_TRUE(WriteStandardAliasFiles(form, 2));
 }
 
+TEST_F(StandardAliases, TheScriptReplacesALinkOfItsName) {
+    system.Disk.AddFile("C:\\HOME\\.bashrc", "mine");
+    system.Disk.AddFileLink(kScrollPath, "C:\\HOME\\.bashrc");
+    AddEntry(1);
+    EXPECT_EQ(system.Disk.Bytes("C:\\HOME\\.bashrc"), "mine");
+    EXPECT_NE(system.Disk.Bytes(kScrollPath), "mine");
+}
+
 }  // namespace
 }  // namespace lv

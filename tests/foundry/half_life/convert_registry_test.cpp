@@ -275,5 +275,14 @@ TEST_F(ConnectFoundryTest, ARegistryThatRefusesTheScriptStopsTheLaunch) {
     EXPECT_TRUE(system.Programs.Started.empty());
 }
 
+TEST_F(HalfLifeTest, ReplacesALinkOfTheScriptsName) {
+    BeQuiet();
+    system.Disk.AddFile("C:\\HOME\\.bashrc", "mine");
+    system.Disk.AddFileLink(kPath, "C:\\HOME\\.bashrc");
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_EQ(system.Disk.Bytes("C:\\HOME\\.bashrc"), "mine");
+    EXPECT_TRUE(Holds(Script(), "Setup Foundry"));
+}
+
 }  // namespace
 }  // namespace lv

@@ -205,11 +205,48 @@ TEST_F(OpenScriptTest, TellsOfTheCopyOnlyIfTheSettingIsOne) {
 TEST_F(OpenScriptTest, TellsThatNoCopyCouldBeKept) {
     system.Disk.Refused["c:\\quake\\id1\\my.setupfoundry_config_backup"] = MakeError(error::kDiskFull);
     user.Expect({.Title = "SetupFoundry Information",
-                 .Text_ = "Error Number = 61\r\nError String = Disk full",
+                 .Text_ = "SetupFoundry has not edited this script before, and no backup copy could be stored.\r\n"
+                          "Until there is one, the script can be saved under another name only.\r\n\r\n"
+                          "Error Number = 61\r\nError String = Disk full",
                  .Whole = true,
                  .Buttons = "&OK"});
     EXPECT_TRUE(Open("bind a +attack"));
     EXPECT_EQ(BindingOf(document, "a"), "+attack");
+    EXPECT_EQ(document.BackupDue, "C:\\QUAKE\\ID1\\my.cfg");
+    system.Disk.Refused.clear();
+    EXPECT_TRUE(Open(kOurs));
+    EXPECT_EQ(document.BackupDue, "");
+}
+
+TEST_F(OpenScriptTest, PutsTheCopyInALinksPlaceAndNeverWhereThatLeads) {
+    system.Disk.AddFile("C:\\HOME\\.bashrc", "mine");
+    system.Disk.AddFileLink("C:\\QUAKE\\ID1\\my.SetupFoundry_Config_Backup", "C:\\HOME\\.bashrc");
+    ExpectBackupTold("C:\\QUAKE\\ID1\\my.SetupFoundry_Config_Backup");
+    EXPECT_TRUE(Open("new"));
+    EXPECT_EQ(system.Disk.Bytes("C:\\HOME\\.bashrc"), "mine");
+    EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE\\ID1\\my.SetupFoundry_Config_Backup"), "new");
+}
+
+TEST_F(OpenScriptTest, TellsThatAScriptIsTooLarge) {
+    system.Disk.AddSparseFile("C:\\QUAKE\\huge.cfg", "bind a +attack\n", 1ULL << 40U);
+    ExpectNotOpened(7, "The file is larger than 256 MB");
+    EXPECT_FALSE(OpenScript(run, document, view, "C:\\QUAKE\\huge.cfg"));
+    system.Disk.AddSparseFile("C:\\QUAKE\\huge.cfg", "bind a +attack\n", (256U << 20U) + 1);
+    ExpectNotOpened(7, "The file is larger than 256 MB");
+    EXPECT_FALSE(OpenScript(run, document, view, "C:\\QUAKE\\huge.cfg"));
+}
+
+TEST_F(OpenScriptTest, TellsThatAnIniIsTooLarge) {
+    Use(4);
+    system.Disk.AddSparseFile("C:\\QUAKE\\huge.ini", "[x]\n", (64U << 20U) + 1);
+    ExpectNotOpened(7, "The file is larger than 64 MB");
+    EXPECT_FALSE(OpenScript(run, document, view, "C:\\QUAKE\\huge.ini"));
+}
+
+TEST_F(OpenScriptTest, TellsThatAPipeIsNoScript) {
+    system.Disk.AddDevice("C:\\QUAKE\\pipe.cfg");
+    ExpectNotOpened(75, "Path/File access error");
+    EXPECT_FALSE(OpenScript(run, document, view, "C:\\QUAKE\\pipe.cfg"));
 }
 
 TEST_F(OpenScriptTest, LeavesACopyThatIsOpenedItselfAlone) {
@@ -245,13 +282,6 @@ TEST_F(OpenScriptTest, TakesTheDecimalSeparatorOfTheLocale) {
     EXPECT_TRUE(Open(Join(kOurs, "gamma 0.5\ncl_bob 0.0150")));
     EXPECT_EQ(document.gamma_Cbo.Selected(), "0,5");
     EXPECT_EQ(document.cl_bob_Cbo.Selected(), "0,015");
-}
-
-TEST(BackupPathOf, CutsTheNameAtItsFirstPoint) {
-    EXPECT_EQ(BackupPathOf("c:\\q\\my.cfg"), "c:\\q\\my.SetupFoundry_Config_Backup");
-    EXPECT_EQ(BackupPathOf("a.b.cfg"), "a.SetupFoundry_Config_Backup");
-    EXPECT_EQ(BackupPathOf("c:\\q.1\\my"), "c:\\q.1\\my.SetupFoundry_Config_Backup");
-    EXPECT_EQ(BackupPathOf("c:\\q.1\\.cfg"), "c:\\q.1\\.SetupFoundry_Config_Backup");
 }
 
 }  // namespace

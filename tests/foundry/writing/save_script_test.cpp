@@ -1,5 +1,7 @@
 #include "foundry/writing/save_script.h"
 
+#include <new>
+
 #include "foundry/reading/bind_line.h"
 #include "tests/foundry/script_fixture.h"
 #include "tests/foundry/watching_view.h"
@@ -289,6 +291,81 @@ TEST_F(SaveScriptTest, AScriptWhosePathNoListCanHoldIsSavedAllTheSame) {
     ExpectSuccess();
     EXPECT_TRUE(Save());
     EXPECT_EQ(Stored(kOptions, "Scripts"), "(none)");
+}
+
+TEST_F(SaveScriptTest, AForeignScriptIsNotWrittenOverWithoutACopyOfIt) {
+    document.BackupDue = "c:\\quake\\id1\\my.cfg";
+    system.Disk.Refused["c:\\quake\\id1\\my.setupfoundry_config_backup"] = MakeError(error::kDiskFull);
+    for (const bool quiet : {false, true}) {
+        user.Expect({"Error During Save",
+                     "Script NOT saved. SetupFoundry has not edited it before, and no backup copy could be stored as "
+                     "-->\r\n\r\n\"C:\\QUAKE\\ID1\\MY.SetupFoundry_Config_Backup\"\r\n\r\n"
+                     "Error Number = 61\r\nError String = Disk full\r\n\r\n"
+                     "Make room for the copy and save again, or save the script under another name.",
+                     0, false, true, "&OK"});
+        EXPECT_FALSE(Save({SaveName::Same, quiet, false}));
+    }
+    EXPECT_EQ(system.Disk.Bytes(kPath), "the old script");
+    EXPECT_FALSE(document.ScriptClean);
+}
+
+TEST_F(SaveScriptTest, AForeignScriptIsWrittenOnceItsCopyCouldBeKept) {
+    document.BackupDue = kPath;
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE\\ID1\\MY.SetupFoundry_Config_Backup"), "the old script");
+    EXPECT_EQ(document.BackupDue, "");
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE\\ID1\\MY.SetupFoundry_Config_Backup"), "the old script");
+}
+
+TEST_F(SaveScriptTest, AForeignScriptWithoutACopyIsSavedUnderAnotherName) {
+    document.BackupDue = kPath;
+    system.Disk.Refused["c:\\quake\\id1\\my.setupfoundry_config_backup"] = MakeError(error::kDiskFull);
+    user.FileAnswers = {std::optional<Text>("C:\\QUAKE\\ID1\\new.cfg")};
+    EXPECT_TRUE(Save({SaveName::AskForIt, true, false}));
+    EXPECT_EQ(system.Disk.Bytes(kPath), "the old script");
+}
+
+TEST_F(SaveScriptTest, AForeignScriptThatHasGoneNeedsNoCopy) {
+    document.BackupDue = kPath;
+    (void)system.Disk.Delete(kPath);
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+}
+
+TEST_F(SaveScriptTest, ALinkToAnotherPlaceIsFollowedOnlyIfTheUserAgreesAndThenWithoutAnotherWord) {
+    system.Disk.AddFile("C:\\ETC\\PASSWD", "theirs");
+    system.Disk.AddFileLink(kPath, "C:\\ETC\\PASSWD");
+    user.Expect({.Title = "Link To Another Place", .Text_ = "c:\\etc\\passwd", .Answer = 0});
+    ExpectNotSaved();
+    EXPECT_FALSE(Save());
+    EXPECT_EQ(system.Disk.Bytes("C:\\ETC\\PASSWD"), "theirs");
+    EXPECT_FALSE(document.ScriptClean);
+    user.Expect({.Title = "Link To Another Place", .Text_ = "c:\\etc\\passwd", .Answer = 1});
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    EXPECT_NE(system.Disk.Bytes("C:\\ETC\\PASSWD"), "theirs");
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+}
+
+TEST_F(SaveScriptTest, ALinkWithinTheHomeStaysALink) {
+    system.Disk.AddFile("C:\\HOME\\quake.cfg", "old");
+    system.Disk.AddFileLink(kPath, "C:\\HOME\\quake.cfg");
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    EXPECT_EQ(CountLines(system.Disk.Bytes("C:\\HOME\\quake.cfg"), "name \"Me\""), 1);
+}
+
+TEST_F(SaveScriptTest, WantOfMemoryIsToldAndChangesNothing) {
+    class Crowded : public MemoryFiles {
+      public:
+        Error Replace(std::string_view, std::string_view) override { throw std::bad_alloc(); }
+    };
+    Crowded disk;
+    disk.AddFile(kPath, "the old script");
+    Platform services{system.Settings, system.Registry, disk, system.Programs, system.Clip, system.Time};
+    lv::Run other{services, user};
+    user.Expect({"Error During Save", "Error Number = 7\r\nError String = Out of memory", 0, false, true, "&OK"});
+    EXPECT_FALSE(SaveScript(other, launcher.Lists, document, view));
+    EXPECT_EQ(disk.Bytes(kPath), "the old script");
+    EXPECT_FALSE(document.ScriptClean);
 }
 
 }  // namespace

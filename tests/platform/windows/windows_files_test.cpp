@@ -187,4 +187,16 @@ TEST(WindowsFiles, TellAPathThatNoDriveCanSay) {
     EXPECT_EQ(made.Disk.FromHost("\xFF"), "");
 }
 
+TEST(WindowsFiles, RemoveWhatEndedWritersHaveLeft) {
+    SystemDisk made;
+    constexpr const char* kLeft = "T:\\.lv_666_4294967280_0";  // no process has such a number
+    constexpr const char* kNone = "T:\\.lv_666_4294967280_x";
+    EXPECT_EQ(made.Disk.Replace(kNone, "x").Number, 0);
+    EXPECT_EQ(made.Disk.Replace(kLeft, "half").Number, 0);
+    EXPECT_TRUE(made.Disk.FileExists(kLeft));
+    EXPECT_EQ(made.Disk.Replace("T:\\a.cfg", "new").Number, 0);
+    EXPECT_FALSE(made.Disk.FileExists(kLeft));
+    EXPECT_TRUE(made.Disk.FileExists(kNone));
+}
+
 }  // namespace lv

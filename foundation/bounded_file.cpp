@@ -1,0 +1,18 @@
+#include "foundation/bounded_file.h"
+
+namespace lv {
+
+Result<std::unique_ptr<RandomAccessFile>> OpenBounded(Files& disk, TextView path, std::uint64_t most) {
+    auto file = disk.Open(path);
+    if (file.Ok() && file.Value->Size() > most) {
+        return MakeTooLarge(most);
+    }
+    return file;
+}
+
+Result<Text> ReadBounded(Files& disk, TextView path, std::uint64_t most) {
+    const auto file = OpenBounded(disk, path, most);
+    return file.Ok() ? file.Value->Read(0, static_cast<std::size_t>(most)) : file.Fault;
+}
+
+}  // namespace lv

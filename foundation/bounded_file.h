@@ -1,0 +1,23 @@
+// foundation/bounded_file.h
+//
+// Files of the user's that are read whole, and how large they may be. Larger ones come from nobody's game.
+
+#pragma once
+
+#include <memory>
+
+#include "foundation/text.h"
+#include "platform/files.h"
+
+namespace lv {
+
+constexpr std::uint64_t kLargestIni = 64U << 20U;
+constexpr std::uint64_t kLargestScript = 256U << 20U;
+
+/// The file, if it has no more than `most` bytes; otherwise error 7, whose text says how many it may have.
+Result<std::unique_ptr<RandomAccessFile>> OpenBounded(Files& disk, TextView path, std::uint64_t most);
+
+/// All of it.
+Result<Text> ReadBounded(Files& disk, TextView path, std::uint64_t most);
+
+}  // namespace lv

@@ -1,0 +1,25 @@
+// foundation/link_question.h
+//
+// A user's file may be a link, and stays one. What it leads to is changed without a word only where it is the user's
+// own, or the game's: an archive from a stranger may hold links to anywhere.
+
+#pragma once
+
+#include "foundation/run.h"
+
+namespace lv {
+
+/// The directory that the file's game lies in: the current game's, Unreal's above "System". A file that lies elsewhere
+/// has its own.
+Text GameTreeOf(const Run& run, TextView path);
+
+/// Where a write to `path` would end outside of both, as the host says it; empty if it stays.
+Text LinkTargetOutside(const Run& run, TextView path);
+
+/// Asks whether that file may be changed.
+bool AskToFollowLink(Run& run, TextView path, TextView target);
+
+/// Whether `path` may be written: the user is asked where it leads outside.
+bool MayWriteThroughLinks(Run& run, TextView path);
+
+}  // namespace lv

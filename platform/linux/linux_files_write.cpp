@@ -1,0 +1,105 @@
+// What linux_files.h promises of writing.
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+
+#include "platform/code_page.h"
+#include "platform/linux/errno_error.h"
+#include "platform/linux/host_links.h"
+#include "platform/linux/host_read.h"
+#include "platform/linux/linux_files.h"
+#include "platform/linux/user_directories.h"
+
+namespace lv {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+int CopyAll(int from, int to) {
+    std::array<char, 65536> buffer{};
+    for (std::uint64_t most = kLargestWholeFile; most >= buffer.size(); most -= buffer.size()) {
+        const ssize_t got = read(from, buffer.data(), buffer.size());
+        if (got == 0) {
+            return 0;
+        }
+        if (got < 0 && errno != EINTR) {
+            return errno;
+        }
+        if (const int failed = WriteAll(to, {buffer.data(), got < 0 ? 0 : static_cast<std::size_t>(got)})) {
+            return failed;
+        }
+    }
+    return EFBIG;  // it grows while it is read
+}
+
+}  // namespace
+
+Error LinuxFiles::Replace(std::string_view path, std::string_view bytes) {
+    return PutFile(path, Whose::kUsers, 0666, [bytes](int file) { return WriteAll(file, bytes); });
+}
+
+Error LinuxFiles::ReplaceOwn(std::string_view path, std::string_view bytes) {
+    return PutFile(path, Whose::kOurs, 0600, [bytes](int file) { return WriteAll(file, bytes); });
+}
+
+Error LinuxFiles::Copy(std::string_view from, std::string_view to) {
+    return CopyFile(from, to, Whose::kUsers);
+}
+
+Error LinuxFiles::CopyOwn(std::string_view from, std::string_view to) {
+    return CopyFile(from, to, Whose::kOurs);
+}
+
+Error LinuxFiles::PutFile(std::string_view path, Whose whose, unsigned mode, const FileFiller& fill) const {
+    const auto place = Find(path);
+    if (!place) {
+        return MakeError(error::kPathNotFound);
+    }
+    if (EndsInSeparator(path)) {
+        return MakeError(error::kPathFileAccess);
+    }
+    return whose == Whose::kOurs ? ReplaceOwnHostFile(place->Host, fill) : ReplaceHostFile(place->Host, mode, fill);
+}
+
+Error LinuxFiles::CopyFile(std::string_view from, std::string_view to, Whose whose) const {
+    const auto source = Find(from);
+    if (!source || !Find(to)) {
+        return MakeError(error::kPathNotFound);
+    }
+    const auto file = OpenHostFile(source->Host);
+    if (!file.Ok()) {
+        return file.Fault;
+    }
+    struct stat info {};
+    if (fstat(file.Value->Number(), &info) != 0) {
+        return ErrorOf(errno);
+    }
+    if (static_cast<std::uint64_t>(info.st_size) > kLargestWholeFile) {
+        return MakeTooLarge(kLargestWholeFile);
+    }
+    // A copied program can be run; a copy of what is read-only can be written again.
+    const unsigned mode = 0666 | (info.st_mode & 0111);
+    return PutFile(to, whose, mode, [&](int made) { return CopyAll(file.Value->Number(), made); });
+}
+
+std::string LinuxFiles::LeadsAway(std::string_view path, std::string_view tree) {
+    const auto place = Find(path);
+    const auto end = place ? FollowLinks(place->Host) : std::nullopt;
+    if (!end) {
+        return {};
+    }
+    const fs::path target = FollowAll(*end);
+    const auto liesIn = [&target](const fs::path& directory) {
+        const fs::path real = FollowAll(directory);
+        return real != real.root_path() && PartsBelow(real, target);
+    };
+    const auto tree_ = Find(tree);
+    const bool stays = target == ToHost(path) || liesIn(HomeDirectory()) || (tree_ && liesIn(tree_->Host));
+    return stays ? std::string() : FromUtf8Lossy(target.string());
+}
+
+}  // namespace lv
