@@ -151,6 +151,18 @@ TEST_F(LvEvents, TheCheckOfTheOldModificationIsDroppedWhenTheKindChanges) {
     EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
 }
 
+TEST_F(LvEvents, AModificationThatAChangeOfKindDroppedStaysDropped) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::Game_Chk, 1);
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    EXPECT_EQ(window.Game_Chk.Value, 0);
+    EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
+    EXPECT_EQ(Stored(kOptions, "UseGames"), "0");
+}
+
 TEST_F(LvEvents, TheCheckOfTheModificationStaysWhenTheKindIsTheSame) {
     AddGames();
     Load();
