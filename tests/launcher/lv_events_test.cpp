@@ -163,6 +163,18 @@ TEST_F(LvEvents, AModificationThatAChangeOfKindDroppedStaysDropped) {
     EXPECT_EQ(Stored(kOptions, "UseGames"), "0");
 }
 
+TEST_F(LvEvents, AQuakeWorldPlayerTicksAModification) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\QWCL.EXE");
+    Select(window.Game_Cbo, "Capture the Flag");
+    Game_Cbo_Click(launcher);
+    Click(&LV_Frm::Game_Chk, 1);
+    EXPECT_TRUE(window.Game_Chk.Enabled);
+    EXPECT_EQ(window.Game_Chk.Value, 1);
+    EXPECT_EQ(run.CurrentGameDir, "CTF");
+}
+
 TEST_F(LvEvents, TheCheckOfTheModificationStaysWhenTheKindIsTheSame) {
     AddGames();
     Load();
