@@ -143,7 +143,7 @@ Error WriteRegistry(SpyLaunch& launch, const SpyGames& games) {
 
 void LeaveMainWindow(Launcher& launcher, MinimizeLorvane choice) {
     if (choice == MinimizeLorvane::Minimize) {
-        HideMainWindow(launcher);
+        HideForLaunch(launcher);
     } else if (choice == MinimizeLorvane::Close) {
         Exit_Bar_Click(launcher);
     }
