@@ -204,6 +204,25 @@ TEST_F(LvEvents, PickingAGameSavesItsPosition) {
     EXPECT_EQ(run.GameKind, 3);
 }
 
+TEST_F(LvEvents, AChangeOfGameLoadsTheProfileIntoAClosedWindow) {
+    AddGames();
+    Load();
+    run.VideoProfileSection = "Fresh";
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
+    EXPECT_EQ(Stored("Fresh", "Q2_ResolutionsPos_Content"), "640x480");
+    EXPECT_EQ(launcher.VideoProfile.Caption, "Video Profile - 'Fresh'");
+}
+
+TEST_F(LvEvents, AProfileThatIsBrokenEndsTheChangeOfGame) {
+    AddGames();
+    Load();
+    Save(run, kOptions, "Bits", "short");
+    user.Expect({"Lorvane 3D", " experienced a probable registry error."});
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_TRUE(run.Ended);
+}
+
 TEST_F(LvEvents, GameSpyIsOutOfReachForHalfLifeAndHeretic2) {
     AddGames();
     Load();
