@@ -95,7 +95,7 @@ struct Words {
 };
 
 TextView WordOf(TextView line, Index index) {
-    return TrimmedView(StripQuotesView(QuotedWordView(line, index)));
+    return TrimmedView(StripQuotesView(QuotedWordView(line, index, kScriptBlanks)));
 }
 
 Words WordsOf(TextView line) {
@@ -177,7 +177,7 @@ HalfLifePlayer ReadHalfLifeScript(ScriptLines& lines) {
     std::span<char> bytes;
     while (lines.Next(bytes)) {
         const TextView line(bytes.data(), bytes.size());
-        TakeLine(player, WordsOf(TrimmedView(line.substr(0, line.find("//")))));
+        TakeLine(player, WordsOf(line.substr(0, line.find("//"))));
     }
     return player;
 }
