@@ -60,6 +60,7 @@ constexpr Setting kSettings[] = {
     {"suitvolume", "suitvolume"},
     {"viewsize", "viewsize"},
     {"volume", "volume"},
+    {"s_volume", "volume"},  // as the editor writes it
     {"windowed_mouse", "windowed_mouse"},
 };
 
@@ -137,6 +138,8 @@ void TakeLine(HalfLifePlayer& player, const Words& words) {
         Take(player.Nickname, words.Value);
     } else if (words.Keyword == "+mlook") {
         Take(CvarOf(player, "mlook"), "1");
+    } else if (words.Keyword == kMixAhead || words.Keyword == "s_mixahead") {
+        Take(player.MixAhead, words.Value);
     } else {
         TakeSetting(player, words);
     }
