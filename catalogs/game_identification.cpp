@@ -84,6 +84,14 @@ void ReportEmptyPath(Run& run, TextView path) {
                  "DefaultGameDirectory not found and was NOT SET - YOU WILL NOT BE ABLE TO LAUNCH."));
 }
 
+// The modification was one of the old game. A start has no old game: it finds the tick as it was left.
+void DropModification(Run& run, CatalogLists& lists, Index before) {
+    lists.Game_Chk.Value = 0;
+    if (before != 0 || run.MainFormLoaded) {
+        Save(run, kOptions, "UseGames", 0);
+    }
+}
+
 bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const RegistryToScript& toScript) {
     run.DefaultGameDirectory = DirectoryOf(path);
     const GameFacts facts = FactsOfDirectory(run.System.Disk, run.DefaultGameDirectory);
@@ -153,7 +161,7 @@ bool IdentifyGame(Run& run, CatalogLists& lists, const RegistryToScript& toScrip
         return false;
     }
     if (run.GameKind != before) {
-        lists.Game_Chk.Value = 0;  // by the program: the stored choice stays
+        DropModification(run, lists, before);
     }
     return !run.Ended;
 }

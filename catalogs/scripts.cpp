@@ -54,9 +54,9 @@ int RememberedRow(Run& run, const ListBox& list) {
     if (list.Items.empty()) {
         return -1;
     }
-    const Text key = DefaultScriptKey(run);
     const TextView usual = run.GameKind == kUnreal ? "\\unreal.ini" : "\\config.cfg";
-    const Text wanted = GetSetting(run, run.AppName, "DefaultScript", key, Join(key, usual));
+    const Text wanted =
+        GetSetting(run, run.AppName, "DefaultScript", DefaultScriptKey(run), Join(ScriptDirectory(run), usual));
     bool found = false;
     const Index row = FindExact(list.Items, NameFieldWidth + 1, kToTheEnd, wanted, found);
     return found ? row : 0;
@@ -70,7 +70,7 @@ Text ScriptDirectory(const Run& run) {
 }
 
 Text DefaultScriptKey(const Run& run) {
-    return ScriptDirectory(run);
+    return Join(run.DefaultGameDirectory, "\\", run.CurrentGameDir);
 }
 
 bool FixScriptRegistries(Run& run) {

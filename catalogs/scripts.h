@@ -11,7 +11,8 @@ namespace lv {
 /// Where the current game's scripts lie: the data directory in use, for Unreal the executable's own.
 Text ScriptDirectory(const Run& run);
 
-/// The key in section "DefaultScript" under which the current game directory remembers its script.
+/// The key in section "DefaultScript" under which the current data directory remembers its script; Unreal's too, though
+/// its scripts lie elsewhere.
 Text DefaultScriptKey(const Run& run);
 
 /// Drops the records whose file is gone. False if the program ended over a damaged value.

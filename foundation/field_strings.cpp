@@ -56,7 +56,8 @@ Text GetKeyOrValue(TextView line, bool wantValue) {
     return Text(KeyOrValueView(line, wantValue));
 }
 
-TextView QuotedWordView(TextView line, Index index) {
+TextView QuotedWordView(TextView line, Index index, TextView blanks) {
+    const auto isBlank = [blanks](char c) { return blanks.find(c) != kNone; };
     bool inQuotes = false;
     bool inWord = false;
     int word = -1;
@@ -66,10 +67,10 @@ TextView QuotedWordView(TextView line, Index index) {
             inQuotes = !inQuotes;
         }
         if (inWord) {
-            inWord = c != ' ' || inQuotes;
+            inWord = inQuotes || !isBlank(c);
             continue;
         }
-        if (c == ' ') {
+        if (isBlank(c)) {
             continue;
         }
         inWord = true;
@@ -77,7 +78,7 @@ TextView QuotedWordView(TextView line, Index index) {
             continue;
         }
         std::size_t end = at + 1;
-        while (end < line.size() && (inQuotes || line[end] != ' ')) {
+        while (end < line.size() && (inQuotes || !isBlank(line[end]))) {
             if (line[end] == '"') {
                 inQuotes = !inQuotes;
             }
@@ -154,9 +155,9 @@ Text Trim(TextView text) {
     return Text(TrimmedView(text));
 }
 
-TextView TrimmedView(TextView text) {
-    const std::size_t begin = text.find_first_not_of(' ');
-    return begin == kNone ? TextView() : text.substr(begin, text.find_last_not_of(' ') - begin + 1);
+TextView TrimmedView(TextView text, TextView blanks) {
+    const std::size_t begin = text.find_first_not_of(blanks);
+    return begin == kNone ? TextView() : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
 TextView StripQuotesView(TextView text) {

@@ -25,7 +25,8 @@ TextView KeyOrValueView(TextView line, bool wantValue);
 /// The word at `index` (from 0) of a line whose words are parted by blanks outside double quotes. The quotes stay in
 /// the result. Empty beyond the last word.
 Text GetQuotedWord(TextView line, Index index);
-TextView QuotedWordView(TextView line, Index index);
+/// `blanks` are the characters that part words.
+TextView QuotedWordView(TextView line, Index index, TextView blanks = " ");
 
 /// Cut, or padded with blanks, to exactly `width` characters.
 Text PadToWidth(TextView text, std::size_t width);
@@ -51,7 +52,7 @@ Text TrimWhite(TextView text);
 Text Trim(TextView text);
 
 /// The same, as a part of the text itself.
-TextView TrimmedView(TextView text);
+TextView TrimmedView(TextView text, TextView blanks = " ");
 
 /// Without one closing and one opening double quote.
 Text StripQuotes(TextView text);

@@ -83,6 +83,10 @@ class UserInterface {
     /// Whether a tray shows icons now. Without one a hidden window could not be brought back.
     virtual bool TrayAvailable() { return false; }
 
+    /// Handles events until the main window is on the screen and has the keyboard, for a second at most. A window that
+    /// is shown comes up later, and would come up in front of what has been opened meanwhile.
+    virtual void AwaitMainWindow() {}
+
     /// Brings the main window in front of all others, out of the task bar if it is there.
     virtual void RaiseMainWindow() {}
 

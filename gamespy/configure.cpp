@@ -127,18 +127,17 @@ SpyFailure WriteBatches(SpyLaunch& launch, const SpyGames& games) {
 
 Error WriteRegistry(SpyLaunch& launch, const SpyGames& games) {
     launch.Texts.LaunchStep = 404;
-    for (const RegistryTriple& triple : SpyRegistry(games)) {
-        if (const Error failed =
-                RegWritePath(launch.launcher.run, triple.Key, triple.Name, RegValue{kRegistryText, triple.Value, 0})) {
-            return failed;
-        }
+    std::vector<RegistryEntry> entries;
+    for (RegistryTriple& triple : SpyRegistry(games)) {
+        entries.push_back(
+            {{std::move(triple.Key), std::move(triple.Name)}, {kRegistryText, std::move(triple.Value), 0}});
     }
-    return {};
+    return RegWriteAll(launch.launcher.run, entries);
 }
 
 void LeaveMainWindow(Launcher& launcher, MinimizeLorvane choice) {
     if (choice == MinimizeLorvane::Minimize) {
-        HideMainWindow(launcher);
+        HideForLaunch(launcher);
     } else if (choice == MinimizeLorvane::Close) {
         Exit_Bar_Click(launcher);
     }

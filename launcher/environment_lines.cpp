@@ -1,5 +1,7 @@
 #include "launcher/environment_lines.h"
 
+#include <algorithm>
+
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
 #include "launcher/patterns.h"
@@ -62,6 +64,12 @@ Text SetLine(const char* pattern, TextView resolution, TextView value) {
     return Join("SET ", FillPattern(pattern, value, resolution), NewLine);
 }
 
+/// Whether it makes a variable's name whole. A profile that was never loaded has no resolution yet.
+bool FitsAName(TextView resolution) {
+    return !resolution.empty() &&
+           std::ranges::none_of(resolution, [](char c) { return c == '=' || static_cast<unsigned char>(c) < ' '; });
+}
+
 Text ResolutionOf(const LaunchGame& game, const ProfileSnapshot& profile) {
     const Text& content = game.ScriptFamily == script_family::kQuake2 ? profile.Q2_ResolutionsPos_Content
                                                                       : profile.ResolutionsPos_Content;
@@ -76,10 +84,11 @@ Text EnvironmentLines(const LaunchGame& game, const ProfileSnapshot& profile) {
     }
     const bool isVoodoo2 = game.CardClass == kVoodoo2;
     const Text resolution = ResolutionOf(game, profile);
+    const bool fits = FitsAName(resolution);
     Text lines;
     for (const BothRow& row : kBothRows) {
         const char* const pattern = isVoodoo2 ? row.Voodoo2 : row.Voodoo;
-        if (pattern != nullptr && profile.Active(row.Tunable)) {
+        if (pattern != nullptr && profile.Active(row.Tunable) && (fits || !Holds(pattern, "#"))) {
             lines += SetLine(pattern, resolution, profile.Value(row.Tunable));
         }
     }

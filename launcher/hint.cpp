@@ -24,6 +24,9 @@ Text HintText(const Launcher& launcher) {
     if (!window.Exe_Cbo.HasSelection()) {
         return "Pick a game.";
     }
+    if (window.LaunchQspy_Chk.Value == 1) {
+        return "F2 configures GameSpy 3D to start your games.";
+    }
     const Text program = LastPathPart(window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Key);
     if (launcher.run.GameKind == 0) {
         return Join("No known game lies beside ", program, ".");

@@ -8,7 +8,7 @@
 
 namespace lv {
 
-/// "F2 starts glquake.exe with player.cfg.", or what stands in the way of that.
+/// "F2 starts glquake.exe, with player.cfg.", or what F2 does instead, or what stands in the way of that.
 Text HintText(const Launcher& launcher);
 
 }  // namespace lv

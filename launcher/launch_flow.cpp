@@ -224,7 +224,7 @@ void StartGame(Click& click) {
         return;
     }
     PutPif(click);
-    HideMainWindow(click.launcher);
+    HideForLaunch(click.launcher);
     if (const Error failed = run.System.Programs.StartBatch(directory, kLaunchBatchFile, click.Known)) {
         ShowMainWindow(click.launcher);  // no game has the screen, so the window comes back
         ReportError(click, failed);

@@ -24,7 +24,8 @@ struct Launcher {
     Splash_Frm Splash;
     LV_Frm Window;
     VideoProfile_Frm VideoProfile{run};
-    bool VideoProfileReopen = false;  // it was open when the main window was hidden
+    bool VideoProfileReopen = false;  // it comes back with the main window
+    bool VideoProfileHidden = false;  // it was hidden with that and is still open; a launch unloads it for good
     CatalogLists Lists{Window.Exe_Cbo,
                        Window.Game_Cbo,
                        Window.Game_Chk,

@@ -139,6 +139,10 @@ void Exe_Cbo_Click(Launcher& launcher) {
     ApplyGamePanels(window, {run.GameKind, run.ScriptFamily, run.IsQuakeWorld, run.IsHexenWorld});
     ApplyMissionPackRule(run, launcher.Lists);
     ShowGameControls(launcher.VideoProfile);
+    Videop(launcher.VideoProfile);  // into a closed window too: a launch finds every key
+    if (run.Ended) {
+        return;
+    }
     window.LaunchQspy_Chk.Enabled = run.GameKind != 9 && run.GameKind != 6;
     if (run.GameKind != 0) {
         ApplyModification(launcher);

@@ -97,20 +97,19 @@ void ApplyUnreal(LV_Frm& window) {
     }
 }
 
+// Modifications and demos are there for a world client too: what ApplyWorldClient has taken of them comes back here.
 void ApplyOtherGame(LV_Frm& window, const PanelGame& game) {
     Place(window, kOtherColumn);
-    const bool worldClient = game.IsQuakeWorld || game.IsHexenWorld;
-    window.Memory_Pan.Enabled = window.Mod_Pan.Enabled = true;
-    window.Demo_Pan.Enabled = !worldClient;
+    window.Memory_Pan.Enabled = window.Mod_Pan.Enabled = window.Demo_Pan.Enabled = true;
     window.Bar(MenuItem::Mem_Bar).Enabled = true;
-    window.Game_Chk.Enabled = !worldClient;
+    window.Game_Chk.Enabled = true;
     for (const Box box : kGreyedByUnreal) {
         Ungrey(window.*box);
     }
     for (const Box box : kNotForUnreal) {
         (window.*box).Visible = true;
     }
-    window.Listen_Chk.Enabled = !worldClient;
+    window.Listen_Chk.Enabled = !game.IsQuakeWorld;
     for (const Box box : kUnrealBoxes) {
         (window.*box).Visible = false;
     }
@@ -127,9 +126,6 @@ void ApplyFamily(LV_Frm& window, const PanelGame& game) {
     }
     for (const Box box : {&LV_Frm::NOLAN_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOCDAUDIO_Chk, &LV_Frm::nosound_chk}) {
         (window.*box).Enabled = true;
-    }
-    if (game.GameKind == 4) {
-        return;  // Unreal manages its own memory too; the layout above has seen to it
     }
     window.Memory_Pan.Enabled = true;
     window.Bar(MenuItem::Mem_Bar).Enabled = true;

@@ -65,7 +65,11 @@ void OpenWindows(Launcher& launcher) {
     ShowMainWindow(launcher);
     SetAlwaysOnTop(launcher, SameText(GetSetting(run, run.AppName, kOptions, "OnTop", "False"), "True"));
     run.User.Refresh();
-    if (GetSetting(run, run.AppName, "VideoProfile_Frm", "LoadAtStartup", "0") == "1") {
+    if (GetSetting(run, run.AppName, "VideoProfile_Frm", "LoadAtStartup", "0") != "1") {
+        return;
+    }
+    run.User.AwaitMainWindow();
+    if (!run.Ended) {
         VideoProfileEdit_Cmd_Click(launcher);
     }
 }
@@ -95,7 +99,7 @@ bool Start(Launcher& launcher) {
         return false;  // an event of that second ended the program
     }
     OpenWindows(launcher);
-    return true;
+    return !run.Ended;
 }
 
 }  // namespace lv

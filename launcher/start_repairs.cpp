@@ -37,13 +37,7 @@ void RepairExecutables(Run& run) {
 
 Text WithoutDuplicateGames(TextView games) {
     Text rebuilt;
-    if (games.empty()) {
-        return rebuilt;
-    }
     const Index last = CountDelimiters(games, ";");
-    if (last % 2 == 0 && !games.ends_with(';')) {
-        return Text(games);  // not a list of pairs: nothing of it is thrown away here, the catalog tells of it
-    }
     for (int i = 0; i + 1 <= last; i += 2) {
         const Text option = GetField(games, static_cast<Index>(i + 1), ";") + ";";
         if (!Holds(rebuilt, option)) {

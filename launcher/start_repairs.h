@@ -14,7 +14,8 @@ void RepairVideoProfileList(Run& run);
 /// Turns "/" into "\".
 void RepairExecutables(Run& run);
 
-/// Of several modifications with the same option text the first one stays; the other names are lost.
+/// Of several modifications with the same option text the first one stays; the other names are lost. So is a name at
+/// the end without an option text.
 void RepairGames(Run& run);
 Text WithoutDuplicateGames(TextView games);
 

@@ -23,6 +23,7 @@ void ShowMainWindow(Launcher& launcher) {
     launcher.run.User.Refresh();
     if (launcher.VideoProfileReopen) {
         launcher.VideoProfileReopen = false;
+        launcher.VideoProfileHidden = false;
         VideoProfile_Frm_Load(launcher.VideoProfile);
     }
 }
@@ -33,10 +34,16 @@ void HideMainWindow(Launcher& launcher) {
     window.TrayAvailable = window.TrayIcon && launcher.run.User.TrayAvailable();
     if (launcher.VideoProfile.VideoProfileWindowOpen) {
         launcher.VideoProfileReopen = true;
+        launcher.VideoProfileHidden = true;
         VideoProfile_Frm_Unload(launcher.VideoProfile);
     }
     window.Bar(MenuItem::ShowLorvane_Bar).Caption = "&Show Lorvane 3D";
     launcher.run.User.Refresh();
+}
+
+void HideForLaunch(Launcher& launcher) {
+    HideMainWindow(launcher);
+    launcher.VideoProfileHidden = false;
 }
 
 void ShowLorvane_Bar_Click(Launcher& launcher) {
@@ -85,7 +92,8 @@ void Exit_Bar_Click(Launcher& launcher) {
     SavePlacement(run, "LV_Frm", window.Placement);
     window.TrayIcon = false;
     run.MainFormLoaded = false;
-    Save(run, "VideoProfile_Frm", "LoadAtStartup", launcher.VideoProfile.VideoProfileWindowOpen ? 1 : 0);
+    const bool profilesOpen = launcher.VideoProfile.VideoProfileWindowOpen || launcher.VideoProfileHidden;
+    Save(run, "VideoProfile_Frm", "LoadAtStartup", profilesOpen ? 1 : 0);
     VideoProfile_Frm_Unload(launcher.VideoProfile);
     EndProgram(run);
 }

@@ -14,9 +14,11 @@ constexpr int kTrayRightButtonUp = 517;
 
 /// Shows the window, and the video profile window if it was hidden with it.
 void ShowMainWindow(Launcher& launcher);
-/// Hides the window and unloads the video profile window, which comes back with it. Without a tray it goes to the task
+/// Hides the window, and the video profile window with it; both come back together. Without a tray it goes to the task
 /// bar.
 void HideMainWindow(Launcher& launcher);
+/// The same for a game that gets the screen: the video profile window comes back too, but counts as closed till then.
+void HideForLaunch(Launcher& launcher);
 
 void ShowLorvane_Bar_Click(Launcher& launcher);
 

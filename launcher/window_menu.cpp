@@ -1,6 +1,7 @@
 #include "launcher/window_menu.h"
 
 #include "catalogs/browse.h"
+#include "catalogs/delete_entry.h"
 #include "foundation/dialogs.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
@@ -88,12 +89,13 @@ void ScriptEditorChangeDefault_Bar_Click(Launcher& launcher) {
 void ScriptsOpen_Bar_Click(Launcher& launcher) {
     Run& run = launcher.run;
     const ListBox& scripts = launcher.Window.Script_Cbo;
-    const Text editor = GetSetting(run, run.AppName, kOptions, "ScriptEditor", "notepad.exe");
-    std::vector<Text> arguments;
-    if (scripts.HasSelection()) {
-        arguments.push_back(Trim(DropLeft(scripts.Selected(), NameFieldWidth)));
+    if (!scripts.HasSelection()) {
+        AskUser(run, "", kNoScript);
+        return;
     }
-    if (const Error failed = run.System.Programs.StartProgram(editor, arguments)) {
+    const Text editor = GetSetting(run, run.AppName, kOptions, "ScriptEditor", "notepad.exe");
+    const Text script = Trim(DropLeft(scripts.Selected(), NameFieldWidth));
+    if (const Error failed = run.System.Programs.StartProgram(editor, {script})) {
         AskUser(run, Join("Error Opening Default Editor [", editor, "]").c_str(), ErrorLines(failed));
     }
 }

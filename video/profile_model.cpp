@@ -78,28 +78,45 @@ void ClampPosition(Run& run, TextView listKey, TextView fallback, TextView posit
     }
 }
 
-void StoreText(Run& run, TextView key, TextView fallback) {
-    Save(run, run.VideoProfileSection, key, TextView(ReadText(run, key, fallback)));
+/// Stores what is not stored yet; a value that is there stays to the letter.
+void StoreMissing(Run& run, TextView key, TextView value) {
+    if (!run.System.Settings.Read(run.AppName, run.VideoProfileSection, key)) {
+        Save(run, run.VideoProfileSection, key, value);
+    }
 }
 
-Index StoreIndex(Run& run, TextView key, Index fallback) {
-    const Index value = ReadIndex(run, key, fallback);
-    Save(run, run.VideoProfileSection, key, value);
-    return value;
+void StoreMissing(Run& run, TextView key, Index value) {
+    StoreMissing(run, key, TextView(std::to_string(value)));
+}
+
+/// The text of a list's item; an empty one says nothing and counts as missing.
+void StoreContent(Run& run, TextView key, TextView item) {
+    if (!item.empty() && ReadText(run, key).empty()) {
+        Save(run, run.VideoProfileSection, key, item);
+    } else {
+        StoreMissing(run, key, item);
+    }
 }
 
 /// A list of pairs with its position and the text of the chosen pair.
 void StoreList(Run& run, TextView listKey, TextView fallback, TextView positionKey) {
-    StoreText(run, listKey, fallback);
-    const Index position = StoreIndex(run, positionKey, 0);
-    StoreText(run, Join(positionKey, "_Content"), PaddedPair(ReadText(run, listKey), position));
+    StoreMissing(run, listKey, fallback);
+    StoreMissing(run, positionKey, Index(0));
+    StoreContent(run, Join(positionKey, "_Content"), PaddedPair(ReadText(run, listKey), ReadIndex(run, positionKey)));
 }
 
 void StoreQ2Resolution(Run& run) {
-    const Index position = StoreIndex(run, "Q2_ResolutionsPos", kDefaultQ2Resolution);
+    StoreMissing(run, "Q2_ResolutionsPos", kDefaultQ2Resolution);
+    const Index position = ReadIndex(run, "Q2_ResolutionsPos");
     const auto list = Q2Resolutions();
     const bool listed = position >= 0 && static_cast<std::size_t>(position) < list.size();
-    StoreText(run, "Q2_ResolutionsPos_Content", listed ? list[static_cast<std::size_t>(position)] : TextView());
+    StoreContent(run, "Q2_ResolutionsPos_Content", listed ? list[static_cast<std::size_t>(position)] : TextView());
+}
+
+void StoreTunable(Run& run, const ProfileTunable& tunable) {
+    StoreMissing(run, tunable.Stem, tunable.DefaultFlag);
+    StoreMissing(run, tunable.SettingKey, tunable.DefaultIndex);
+    StoreContent(run, tunable.ContentKey(), tunable.Item(ReadIndex(run, tunable.SettingKey)));
 }
 
 void StoreShippedRow(Run& run, const ShippedRow& row, const ShippedSetting& shipped) {
@@ -205,32 +222,34 @@ void SaveTunableSetting(Run& run, const ProfileTunable& tunable, Index setting) 
     Save(run, run.VideoProfileSection, tunable.ContentKey(), tunable.Item(setting));
 }
 
-void StoreBaseProfile(Run& run) {
+bool StoreProfile(Run& run) {
     if (!CheckProfileLists(run)) {
-        return;
+        return false;
     }
     const SavesTogether together(run);
     ClampProfilePositions(run);
     for (const ProfileTunable& tunable : ProfileTunables()) {
-        if (tunable.Items.empty()) {
-            continue;
+        if (!tunable.Items.empty()) {
+            StoreTunable(run, tunable);
         }
-        StoreIndex(run, tunable.Stem, tunable.DefaultFlag);
-        const Index setting = StoreIndex(run, tunable.SettingKey, tunable.DefaultIndex);
-        StoreText(run, tunable.ContentKey(), tunable.Item(setting));
     }
     for (const ProfileFlag& flag : ProfileFlags()) {
-        StoreIndex(run, flag.Key, flag.Default);
+        StoreMissing(run, flag.Key, flag.Default);
     }
-    StoreIndex(run, "UseRez", 0);
     StoreList(run, "Resolutions", kDefaultResolutions, "ResolutionsPos");
     StoreQ2Resolution(run);
-    StoreIndex(run, "UseBits", 0);
     StoreList(run, "Bits", kDefaultBits, "BitsPos");
-    StoreIndex(run, "Windowed", 0);
-    StoreIndex(run, "UseGraphicsDriver", 0);
-    StoreIndex(run, "GraphicsDriver", 0);
-    Save(run, kOptions, "VidCard", ReadVidCard(run));
+    for (const TextView key : {"UseRez", "UseBits", "Windowed", "UseGraphicsDriver", "GraphicsDriver"}) {
+        StoreMissing(run, key, Index(0));
+    }
+    return true;
+}
+
+void StoreBaseProfile(Run& run) {
+    const SavesTogether together(run);
+    if (StoreProfile(run)) {
+        Save(run, kOptions, "VidCard", ReadVidCard(run));
+    }
 }
 
 void StoreShippedProfiles(Run& run) {
@@ -238,6 +257,9 @@ void StoreShippedProfiles(Run& run) {
     const Text before = run.VideoProfileSection;
     for (std::size_t i = 0; i < kShippedProfiles; ++i) {
         SelectVideoProfile(run, ShippedProfileNames()[i]);
+        if (!StoreProfile(run)) {
+            break;
+        }
         for (const ShippedRow& row : ShippedRows()) {
             StoreShippedRow(run, row, row.In[i]);
         }

@@ -78,7 +78,11 @@ std::vector<Text> ProfileBits(Run& run);
 /// Stores the index in the current section, and the item's text behind it.
 void SaveTunableSetting(Run& run, const ProfileTunable& tunable, Index setting);
 
-/// Stores every key of the current section with the value it has, or its default, and VidCard in Options.
+/// Stores every key that the current section lacks, with its default, so that a launch finds all that a profile is made
+/// of; positions are held within their lists. False if a list is none of pairs: the user was told and the program ends.
+bool StoreProfile(Run& run);
+
+/// The same, and VidCard in Options.
 void StoreBaseProfile(Run& run);
 
 /// Creates the profiles that come with the program. run.VideoProfileSection is as before afterwards.

@@ -55,14 +55,6 @@ void SaveListHere(VideoProfile_Frm& form, const ListBox& list, TextView key) {
     }
 }
 
-// A list that was never clicked shows its first row without having stored it. Whoever ticks the box beside it means
-// the row that is seen.
-void SaveListIfNeverSaved(VideoProfile_Frm& form, const ListBox& list, TextView key) {
-    if (GetSetting(form.run, form.run.AppName, form.run.VideoProfileSection, Join(key, "_Content")).empty()) {
-        SaveListHere(form, list, key);
-    }
-}
-
 void ShowCardPanels(VideoProfile_Frm& form) {
     const auto* const row = std::ranges::find(kCards, form.CardClass, &CardRow::CardClass);
     form.PanelOf(ProfilePanel::Voodoo1).Visible = row->Voodoo1;
@@ -167,7 +159,7 @@ void VideoProfile_Frm_Unload(VideoProfile_Frm& form) {
 
 void Videop(VideoProfile_Frm& form) {
     Run& run = form.run;
-    if (!CheckProfileLists(run)) {
+    if (!StoreProfile(run)) {
         return;
     }
     form.ProfileLoading = true;
@@ -175,7 +167,6 @@ void Videop(VideoProfile_Frm& form) {
         Join("Video Profile - '", run.VideoProfileSection == kOptions ? kBaseProfile : run.VideoProfileSection, "'");
     form.Rez_Cbo.Items = ProfileResolutions(run);
     form.Bits_Cbo.Items = ProfileBits(run);
-    ClampProfilePositions(run);
     ShowSnapshot(form, ReadProfile(run));
     ShowCard(form);
     form.ProfileLoading = false;
@@ -222,17 +213,7 @@ void Windowed_Chk_Click(VideoProfile_Frm& form) {
 }
 
 void GL_Chk_Click(VideoProfile_Frm& form, int index) {
-    const CheckBox& box = form.GL_Chk[static_cast<std::size_t>(index)];
-    SaveHere(form, index == 0 ? "UseRez" : "UseBits", box.Value);
-    if (box.Value != 1) {
-        return;
-    }
-    if (index == 0) {
-        SaveListIfNeverSaved(form, form.Rez_Cbo, "ResolutionsPos");
-        SaveListIfNeverSaved(form, form.Q2_Rez_Cbo, "Q2_ResolutionsPos");
-    } else {
-        SaveListIfNeverSaved(form, form.Bits_Cbo, "BitsPos");
-    }
+    SaveHere(form, index == 0 ? "UseRez" : "UseBits", form.GL_Chk[static_cast<std::size_t>(index)].Value);
 }
 
 void Rez_Cbo_Click(VideoProfile_Frm& form) {

@@ -66,8 +66,9 @@ void VideoProfile_Frm_Load(VideoProfile_Frm& form);
 /// Closes it and keeps its place. Does nothing to a closed one.
 void VideoProfile_Frm_Unload(VideoProfile_Frm& form);
 
-/// Reads the current section into the controls. Only a resolution or colour depth beyond its list is corrected in the
-/// store. Look at run.Ended afterwards: a list that is no list of pairs ends the program.
+/// Reads the current section into the controls and stores the keys that it lacks, as each load of a profile does; a
+/// resolution or colour depth beyond its list is corrected. Look at run.Ended afterwards: a list that is no list of
+/// pairs ends the program.
 void Videop(VideoProfile_Frm& form);
 
 /// Shows what the game of this moment uses.

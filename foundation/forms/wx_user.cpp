@@ -9,6 +9,7 @@
 #include <wx/html/helpctrl.h>
 #include <wx/scopeguard.h>
 #include <wx/settings.h>
+#include <wx/stopwatch.h>
 #include <wx/taskbar.h>
 #include <wx/textdlg.h>
 #include <wx/toplevel.h>
@@ -27,6 +28,9 @@ namespace {
 
 constexpr std::size_t kMostWidths = 4000;
 constexpr std::size_t kMostKept = 200;  // letters of a line
+
+constexpr long kLongestWait = 1000;  // milliseconds; another program may keep the keyboard
+constexpr unsigned long kBetweenLooks = 5;
 
 }  // namespace
 
@@ -205,6 +209,15 @@ Error WxUser::OpenUrl(TextView address) {
 
 bool WxUser::TrayAvailable() {
     return wxTaskBarIcon::IsAvailable();
+}
+
+void WxUser::AwaitMainWindow() {
+    auto* window = dynamic_cast<wxTopLevelWindow*>(activeForm_);
+    const wxStopWatch waited;
+    while (window != nullptr && !window->IsActive() && waited.Time() < kLongestWait) {
+        PumpEvents();
+        wxMilliSleep(kBetweenLooks);
+    }
 }
 
 void WxUser::RaiseMainWindow() {

@@ -122,11 +122,13 @@ Error ConvertScriptToRegistry(Run& run, TextView path) {
         return keys.Fault;
     }
     std::vector<RegistryEntry> entries;
-    ForEachValue(player, keys.Value, [&entries](const Text& value, RegistryPlace place) {
+    const auto write = [&entries](const Text& value, RegistryPlace place) {
         if (!value.empty()) {
             entries.push_back({std::move(place), {kRegistryText, value, 0}});
         }
-    });
+    };
+    ForEachValue(player, keys.Value, write);
+    write(player.MixAhead, {keys.Value.Cvars, Text(kMixAhead)});
     return RegWriteAll(run, entries);
 }
 

@@ -60,6 +60,7 @@ constexpr Setting kSettings[] = {
     {"suitvolume", "suitvolume"},
     {"viewsize", "viewsize"},
     {"volume", "volume"},
+    {"s_volume", "volume"},  // as the editor writes it
     {"windowed_mouse", "windowed_mouse"},
 };
 
@@ -95,7 +96,7 @@ struct Words {
 };
 
 TextView WordOf(TextView line, Index index) {
-    return TrimmedView(StripQuotesView(QuotedWordView(line, index)));
+    return TrimmedView(StripQuotesView(QuotedWordView(line, index, kScriptBlanks)));
 }
 
 Words WordsOf(TextView line) {
@@ -137,6 +138,8 @@ void TakeLine(HalfLifePlayer& player, const Words& words) {
         Take(player.Nickname, words.Value);
     } else if (words.Keyword == "+mlook") {
         Take(CvarOf(player, "mlook"), "1");
+    } else if (words.Keyword == kMixAhead || words.Keyword == "s_mixahead") {
+        Take(player.MixAhead, words.Value);
     } else {
         TakeSetting(player, words);
     }
@@ -177,7 +180,7 @@ HalfLifePlayer ReadHalfLifeScript(ScriptLines& lines) {
     std::span<char> bytes;
     while (lines.Next(bytes)) {
         const TextView line(bytes.data(), bytes.size());
-        TakeLine(player, WordsOf(TrimmedView(line.substr(0, line.find("//")))));
+        TakeLine(player, WordsOf(line.substr(0, line.find("//"))));
     }
     return player;
 }

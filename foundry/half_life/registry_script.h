@@ -19,11 +19,14 @@ constexpr std::array<TextView, 24> kHalfLifeCvars = {
     "Rate",     "s_eax",      "sensitivity", "suit color", "suitvolume", "viewsize", "volume",   "windowed_mouse",
 };
 
+constexpr TextView kMixAhead = "_snd_mixahead";
+
 /// Empty is what is not set.
 struct HalfLifePlayer {
     std::array<Text, kHalfLifeKeyCodes> Keys;  // commands by key code
     Text Nickname;
     std::array<Text, kHalfLifeCvars.size()> Cvars;
+    Text MixAhead;  // of the CVAR kMixAhead, which is only written: no script is made of it
 };
 
 /// Whether the conversion looks at the key of this code.

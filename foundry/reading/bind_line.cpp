@@ -116,15 +116,22 @@ SlotNumber ExtraSlot(ScriptDocument& document, ScriptView& view, Text& command) 
                       [&](SlotNumber slot) { return CaptionOf(document, slot) == wanted; });
 }
 
+bool SaysOrExecutes(TextView command) {
+    return StartsWithText(command, kExec) || StartsWithText(command, kSay) || StartsWithText(command, kSayTeam);
+}
+
 /// The slot of a command that is none of the game's own.
 SlotNumber FreeSlot(ScriptDocument& document, ScriptView& view, Text& command, const AliasNames& aliases) {
+    if (command.starts_with(' ') && SaysOrExecutes(TrimmedView(command))) {
+        command = Trim(command);
+    }
     SlotNumber slot = kNoSlot;
     if (StartsWithText(command, kExec)) {
         slot = ExecSlot(document, view, command);
     } else if (StartsWithText(command, kSay) || StartsWithText(command, kSayTeam)) {
         slot = SaySlot(document, view, command);
     } else {
-        slot = AliasSlot(document, view, command, aliases);
+        slot = AliasSlot(document, view, TrimmedView(command), aliases);
     }
     return slot == kNoSlot ? ExtraSlot(document, view, command) : slot;
 }
@@ -156,7 +163,7 @@ Text BindLine(ScriptDocument& document, ScriptView& view, TextView key, Text com
     if (index == kNoKey) {
         return kind == game_kind::kUnreal ? Join(LowerCase(key), "=", command, NewLine) : Text();
     }
-    const SlotMatch match = SlotFromCommand(LowerCase(command), kind);
+    const SlotMatch match = SlotFromCommand(LowerCase(TrimmedView(command)), kind);
     if (!match.Known) {
         const SlotNumber slot = FreeSlot(document, view, command, aliases);
         if (slot != kNoSlot) {
@@ -164,8 +171,12 @@ Text BindLine(ScriptDocument& document, ScriptView& view, TextView key, Text com
         }
         return {};
     }
-    // A slot without a command is one that this kind of game lacks.
-    if (match.Slot != kNoSlot && !document.SlotCommand[match.Slot].empty()) {
+    if (match.Slot == kNoSlot) {
+        return {};
+    }
+    if (document.SlotCommand[match.Slot].empty()) {  // this kind of game lacks it: the key is free then
+        UnbindKey(document, view, index);
+    } else {
         BindKey(document, view, index, match.Slot);
     }
     return {};

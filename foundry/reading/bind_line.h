@@ -24,11 +24,12 @@ class AliasNames {
     std::unordered_map<Text, std::size_t> places_;
 };
 
-/// Binds the key, in the spelling of any script, to the command. An empty command is written as two double quotes. A
-/// command that no fixed slot stands for takes a free slot: "exec", "say" and "say_team" theirs, an alias one of its
-/// own, anything else an extra. Dropped without a word are a command that only another kind of game has, what finds
-/// no free slot, and an unknown key; but in Unreal the line of an unknown key is the result, with a CR LF, for the
-/// free-form text. The result is empty otherwise.
+/// Binds the key, in the spelling of any script, to the command; blanks at the command's ends say nothing. An empty
+/// command is written as two double quotes. A command that no fixed slot stands for takes a free slot: "exec", "say"
+/// and "say_team" theirs, an alias one of its own, anything else an extra. A command that this kind of game knows but
+/// has no use for leaves the key free. Dropped without a word are a command that only another kind of game has, what
+/// finds no free slot, and an unknown key; but in Unreal the line of an unknown key is the result, with a CR LF, for
+/// the free-form text. The result is empty otherwise.
 Text BindLine(ScriptDocument& document, ScriptView& view, TextView key, Text command, const AliasNames& aliases);
 Text BindLine(ScriptDocument& document, ScriptView& view, TextView key, Text command);
 

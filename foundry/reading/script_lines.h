@@ -12,6 +12,9 @@
 
 namespace lv {
 
+/// What parts a script's words, outside double quotes.
+constexpr TextView kScriptBlanks = " \t";
+
 /// Lines end in CR LF, CR or LF, mixed as they come. Never holds more of the file than a block of it and one line.
 class ScriptLines {
   public:

@@ -27,6 +27,10 @@ constexpr std::array<TextView, 7> kOldMarkers = {
     "/////////////////////", "//                 //", "// Setup Foundry   //", "// Settings        //",
     "// Aliases         //", "// Bindings        //", "// Free Form       //"};
 
+TextView WordOf(TextView line, Index index) {
+    return StripQuotesView(QuotedWordView(line, index, kScriptBlanks));
+}
+
 TextView LeftOf(TextView line) {
     return KeyOrValueView(line, false);
 }
@@ -36,7 +40,7 @@ TextView RightOf(TextView line) {
 }
 
 TextView BeforeComment(TextView line) {
-    return TrimmedView(line.substr(0, line.find(kComment)));
+    return TrimmedView(line.substr(0, line.find(kComment)), kScriptBlanks);
 }
 
 bool IsUnreal(const ScriptDocument& document) {
@@ -50,10 +54,10 @@ struct AliasLine {
 };
 
 AliasLine ConsoleAlias(TextView line) {
-    if (!StartsWithText(StripQuotesView(QuotedWordView(line, 0)), kAlias)) {
+    if (!StartsWithText(WordOf(line, 0), kAlias)) {
         return {};
     }
-    return {LowerCase(StripQuotesView(QuotedWordView(line, 1))), LowerCase(StripQuotesView(QuotedWordView(line, 2)))};
+    return {LowerCase(WordOf(line, 1)), LowerCase(WordOf(line, 2))};
 }
 
 /// The right part says both, as AddAlias takes it.
@@ -74,21 +78,26 @@ Text KeywordOf(TextView word) {
 }
 
 Parts TakeConsoleLine(TextView line) {
-    const auto word = [line](Index index) { return StripQuotesView(QuotedWordView(line, index)); };
-    Text keyword = KeywordOf(word(0));
+    Text keyword = KeywordOf(WordOf(line, 0));
     if (keyword == "set") {
-        return {KeywordOf(word(1)), {.Value = TrimmedView(word(2))}};
+        return {KeywordOf(WordOf(line, 1)), {.Value = TrimmedView(WordOf(line, 2))}};
     }
-    return {std::move(keyword), {.Value = TrimmedView(word(1)), .Value2 = TrimmedView(word(2))}};
+    return {std::move(keyword), {.Value = TrimmedView(WordOf(line, 1)), .Value2 = TrimmedView(WordOf(line, 2))}};
+}
+
+/// Blanks belong to a value, tabs at its ends do not.
+TextView IniValue(TextView line) {
+    const TextView right = RightOf(line);
+    return right.find('\t') == TextView::npos ? right : TrimmedView(right, kScriptBlanks);
 }
 
 Parts TakeIniLine(TextView line) {
     const TextView left = LeftOf(line);
     if (StartsWithText(left, kWeaponPriority)) {
         const std::int32_t index = ToLong(left.substr(kWeaponPriority.size(), kLongestKeyword));
-        return {"weaponpriority", {.Value = RightOf(line), .Index = index}};
+        return {"weaponpriority", {.Value = IniValue(line), .Index = index}};
     }
-    return {KeywordOf(left), {.Value = RightOf(line)}};
+    return {KeywordOf(left), {.Value = IniValue(line)}};
 }
 
 /// The value behind the second "=" of MouseX=Axis aMouseX Speed=6.0.
@@ -108,6 +117,16 @@ Parts TakeInputLine(TextView line) {
         return {"mousey", {.Value = AxisSpeed(right)}};
     }
     return {"bind", {.Value = LeftOf(line), .Value2 = right}};
+}
+
+void TurnTabsIntoBlanks(std::span<char> bytes) {
+    bool inQuotes = false;
+    for (char& c : bytes) {
+        inQuotes = inQuotes != (c == '"');
+        if (c == '\t' && !inQuotes) {
+            c = ' ';
+        }
+    }
 }
 
 bool IsKeptComment(TextView line) {
@@ -158,9 +177,12 @@ TextView SecondPass::TakeComment(TextView line) {
 
 void SecondPass::TakeLine(std::span<char> bytes) {
     const TextView whole(bytes.data(), bytes.size());
-    const TextView statement = TakeComment(TrimmedView(whole));
+    const TextView statement = TakeComment(TrimmedView(whole, kScriptBlanks));
     std::ranges::replace(bytes, kHardBlank, ' ');
-    const TextView line = TrimmedView(statement);
+    if (sections_.IsInput()) {
+        TurnTabsIntoBlanks(bytes);  // a command there has no quotes around it
+    }
+    const TextView line = TrimmedView(statement, kScriptBlanks);
     if (line.starts_with('[')) {
         sections_.Open(line);
     } else if (!line.empty() && !sections_.IsOwn()) {

@@ -41,6 +41,11 @@ Result<RegistryValue> MemoryRegistry::Query(std::string_view path, std::string_v
     return found->second;
 }
 
+Error MemoryRegistry::SetAll(std::span<const RegistryEntry> entries) {
+    Bursts.push_back(entries.size());
+    return UserRegistry::SetAll(entries);
+}
+
 Error MemoryRegistry::Set(std::string_view path, std::string_view name, const RegistryValue& value) {
     if (RefuseWrites) {
         return RefuseWrites;

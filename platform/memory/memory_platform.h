@@ -37,8 +37,10 @@ class MemoryRegistry : public UserRegistry {
   public:
     Result<RegistryValue> Query(std::string_view path, std::string_view name) override;
     Error Set(std::string_view path, std::string_view name, const RegistryValue& value) override;
+    Error SetAll(std::span<const RegistryEntry> entries) override;
 
     std::map<std::string, RegistryValue> Values;  // by the lower-case "path|name"
+    std::vector<std::size_t> Bursts;              // how many values each SetAll was given
     Error RefuseQueries;
     Error RefuseWrites;
 };

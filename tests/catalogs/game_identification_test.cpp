@@ -224,7 +224,7 @@ TEST_F(IdentifyTest, WithoutASelectedRowNothingHappens) {
     EXPECT_EQ(system.Settings.Count(), 0U);
 }
 
-TEST_F(IdentifyTest, AChangeOfKindDropsTheModificationWithoutWriting) {
+TEST_F(IdentifyTest, AChangeOfKindDropsTheModificationForGood) {
     system.Disk.AddDirectory("C:\\QUAKE2\\CTF");
     Store("Games", "Capture;-game ctf");
     Store("UseGames", "1");
@@ -232,7 +232,28 @@ TEST_F(IdentifyTest, AChangeOfKindDropsTheModificationWithoutWriting) {
     Pick("C:\\QUAKE2\\quake2.exe");
     EXPECT_EQ(lists.Game_Cbo.ListIndex, 0);
     EXPECT_EQ(lists.Game_Chk.Value, 0);
+    EXPECT_EQ(Stored("UseGames"), "0");
+    IdentifyGame(run, lists);
+    EXPECT_EQ(lists.Game_Chk.Value, 0);
+}
+
+TEST_F(IdentifyTest, TheFirstGameOfAStartLeavesTheStoredTick) {
+    system.Disk.AddDirectory("C:\\QUAKE\\CTF");
+    Store("Games", "Capture;-game ctf");
+    Store("UseGames", "1");
+    Pick("C:\\QUAKE\\quake.exe");
+    EXPECT_EQ(lists.Game_Chk.Value, 0);
     EXPECT_EQ(Stored("UseGames"), "1");
+}
+
+TEST_F(IdentifyTest, AGamePickedBehindAnUnknownOneDropsTheModificationForGood) {
+    system.Disk.AddDirectory("C:\\QUAKE\\CTF");
+    Store("Games", "Capture;-game ctf");
+    Store("UseGames", "1");
+    Pick("C:\\DOOM\\doom.exe");
+    run.MainFormLoaded = true;
+    Pick("C:\\QUAKE\\quake.exe");
+    EXPECT_EQ(Stored("UseGames"), "0");
 }
 
 TEST_F(IdentifyTest, TheSameKindKeepsTheModification) {

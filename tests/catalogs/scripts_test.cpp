@@ -29,7 +29,14 @@ TEST_F(ScriptsTest, LieInTheDataDirectoryInUse) {
 TEST_F(ScriptsTest, OfUnrealLieBesideTheExecutable) {
     BeInUnreal();
     EXPECT_EQ(ScriptDirectory(run), "c:\\unreal\\system");
-    EXPECT_EQ(DefaultScriptKey(run), "c:\\unreal\\system");
+}
+
+TEST_F(ScriptsTest, OfUnrealAreRememberedUnderTheDataDirectoryLikeAllOthers) {
+    BeInUnreal();
+    EXPECT_EQ(DefaultScriptKey(run), "c:\\unreal\\system\\MAPS");
+    Save(run, "DefaultScript", "c:\\unreal\\system\\MAPS", "c:\\unreal\\system\\player.ini");
+    FillScriptsCombo(run, lists);
+    EXPECT_EQ(lists.Script_Cbo.ListIndex, 1);
 }
 
 TEST_F(ScriptsTest, FixDropsRecordsWhoseFileIsGone) {

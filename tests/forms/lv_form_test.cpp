@@ -108,11 +108,11 @@ TEST_F(LvForm_, UnrealShowsItsOwnOptions) {
     EXPECT_TRUE(Find("UnrealNoDirectSound_Chk")->IsShownOnScreen());
     EXPECT_TRUE(Find("UnrealNoCDNeeded_Chk")->IsShownOnScreen());
     EXPECT_FALSE(Find("Bench_Chk")->IsShown());
-    EXPECT_FALSE(Find("Mem_Cbo")->IsEnabled());
+    EXPECT_TRUE(Find("Mem_Cbo")->IsEnabled());
     EXPECT_FALSE(Find("Game_Cbo")->IsEnabled());
     Screenshot("main_window_unreal");
     PickExe(0);
-    EXPECT_TRUE(Find("Mem_Cbo")->IsEnabled());
+    EXPECT_TRUE(Find("Game_Cbo")->IsEnabled());
     EXPECT_TRUE(Find("Bench_Chk")->IsShownOnScreen());
 }
 

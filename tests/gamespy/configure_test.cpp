@@ -348,6 +348,12 @@ TEST_F(Configure, ABatchThatCannotBeWrittenIsReportedWithItsTag) {
     }
 }
 
+TEST_F(Configure, WritesTheWholeRegistryAtOnce) {
+    RunFor({0, 1, 2, 3, 4, 5});
+    EXPECT_EQ(system.Registry.Bursts, std::vector<std::size_t>{11});
+    EXPECT_EQ(system.Registry.Values.size(), 11u);
+}
+
 TEST_F(Configure, ARegistryThatRefusesIsReported) {
     system.Registry.RefuseWrites = MakeError(error::kPermissionDenied);
     user.Expect({"Lorvane 3D", "Error Number = 70\r\nError Code = EC00404\r\n"});

@@ -201,5 +201,15 @@ TEST(EnvironmentLines, TheVoodoo2RefreshRateIsPerResolutionOfTheGamesFamily) {
     EXPECT_EQ(EnvironmentLines(quake2, profile), Join("SET SSTV2_REFRESH_800x600=75\r\n", kQuietVoodoo2));
 }
 
+TEST(EnvironmentLines, NoLineGoesOutWithoutAWholeName) {
+    for (const char* resolution : {"", "    ", "640=480", "640\r\n480"}) {
+        ProfileSnapshot profile = AllFlagsOff();
+        Use(profile, "SST_SCREENREFRESH", "60");
+        profile.ResolutionsPos_Content = resolution;
+        EXPECT_EQ(EnvironmentLines(GameWith(2), profile), kQuietVoodoo2) << resolution;
+        EXPECT_EQ(EnvironmentLines(GameWith(1), profile), "SET SST_SCREENREFRESH=60\r\n") << resolution;
+    }
+}
+
 }  // namespace
 }  // namespace lv

@@ -35,5 +35,16 @@ TEST_F(Hint, NamesWhatF2Starts) {
     EXPECT_EQ(HintText(launcher), "F2 starts quake.exe, Capture the Flag, with my.cfg, at START.");
 }
 
+TEST_F(Hint, SaysThatF2ConfiguresGameSpyWhereThatIsTicked) {
+    window.LaunchQspy_Chk.Value = 1;
+    EXPECT_EQ(HintText(launcher), "No game is in the list yet.");
+    window.Exe_Cbo.Items = {{"Quake", "c:\\quake\\quake.exe", "QUAKE", "QUAKE"}};
+    window.Exe_Cbo.ListIndex = 0;
+    run.GameKind = 1;
+    EXPECT_EQ(HintText(launcher), "F2 configures GameSpy 3D to start your games.");
+    window.LaunchQspy_Chk.Value = 0;
+    EXPECT_EQ(HintText(launcher), "F2 starts quake.exe.");
+}
+
 }  // namespace
 }  // namespace lv

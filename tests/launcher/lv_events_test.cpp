@@ -151,6 +151,30 @@ TEST_F(LvEvents, TheCheckOfTheOldModificationIsDroppedWhenTheKindChanges) {
     EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
 }
 
+TEST_F(LvEvents, AModificationThatAChangeOfKindDroppedStaysDropped) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::Game_Chk, 1);
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    EXPECT_EQ(window.Game_Chk.Value, 0);
+    EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
+    EXPECT_EQ(Stored(kOptions, "UseGames"), "0");
+}
+
+TEST_F(LvEvents, AQuakeWorldPlayerTicksAModification) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\QWCL.EXE");
+    Select(window.Game_Cbo, "Capture the Flag");
+    Game_Cbo_Click(launcher);
+    Click(&LV_Frm::Game_Chk, 1);
+    EXPECT_TRUE(window.Game_Chk.Enabled);
+    EXPECT_EQ(window.Game_Chk.Value, 1);
+    EXPECT_EQ(run.CurrentGameDir, "CTF");
+}
+
 TEST_F(LvEvents, TheCheckOfTheModificationStaysWhenTheKindIsTheSame) {
     AddGames();
     Load();
@@ -178,6 +202,25 @@ TEST_F(LvEvents, PickingAGameSavesItsPosition) {
     PickExe("C:\\QUAKE2\\QUAKE2.EXE");
     EXPECT_EQ(Stored(kOptions, "ExecutablesPos"), "3");
     EXPECT_EQ(run.GameKind, 3);
+}
+
+TEST_F(LvEvents, AChangeOfGameLoadsTheProfileIntoAClosedWindow) {
+    AddGames();
+    Load();
+    run.VideoProfileSection = "Fresh";
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
+    EXPECT_EQ(Stored("Fresh", "Q2_ResolutionsPos_Content"), "640x480");
+    EXPECT_EQ(launcher.VideoProfile.Caption, "Video Profile - 'Fresh'");
+}
+
+TEST_F(LvEvents, AProfileThatIsBrokenEndsTheChangeOfGame) {
+    AddGames();
+    Load();
+    Save(run, kOptions, "Bits", "short");
+    user.Expect({"Lorvane 3D", " experienced a probable registry error."});
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_TRUE(run.Ended);
 }
 
 TEST_F(LvEvents, GameSpyIsOutOfReachForHalfLifeAndHeretic2) {

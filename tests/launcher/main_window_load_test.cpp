@@ -73,6 +73,15 @@ TEST_F(MainWindowLoad, AStoredServerTickClearsNoOther) {
     EXPECT_EQ(window.Demo_Chk.Value, 1);
 }
 
+TEST_F(MainWindowLoad, AStoredModificationTickIsThereAgain) {
+    AddGames();
+    Save(run, kOptions, "UseGames", 1);
+    Load();
+    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_EQ(window.Game_Chk.Value, 1);
+    EXPECT_EQ(Stored(kOptions, "UseGames"), "1");
+}
+
 TEST_F(MainWindowLoad, AStoredGameSpyTickDisablesTheButtonsOfTheLaunchFiles) {
     AddGames();
     Save(run, kOptions, "LaunchQSpy", 1);

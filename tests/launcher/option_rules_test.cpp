@@ -137,8 +137,8 @@ TEST(ApplyGamePanels, TakesFromAQuakeWorldClientWhatItCannotDo) {
         WithTicked({&LV_Frm::Demo_Chk, &LV_Frm::Bench_Chk, &LV_Frm::Game_Chk, &LV_Frm::Map_Chk, &LV_Frm::Memory_Chk});
     ApplyGamePanels(window, kQuakeWorld);
     EXPECT_EQ(window.Demo_Chk.Value, 0);
-    EXPECT_FALSE(window.Demo_Pan.Enabled);
-    for (const Box box : {&LV_Frm::Bench_Chk, &LV_Frm::Game_Chk, &LV_Frm::Map_Chk}) {
+    EXPECT_EQ(window.Game_Chk.Value, 0);
+    for (const Box box : {&LV_Frm::Bench_Chk, &LV_Frm::Map_Chk}) {
         EXPECT_EQ((window.*box).Value, 0) << OptionBoxOf(box).Name;
         EXPECT_FALSE((window.*box).Enabled) << OptionBoxOf(box).Name;
     }
@@ -147,12 +147,24 @@ TEST(ApplyGamePanels, TakesFromAQuakeWorldClientWhatItCannotDo) {
     EXPECT_EQ(window.Memory_Chk.Value, 1);
 }
 
-TEST(ApplyGamePanels, TreatsAHexenWorldClientLikeAQuakeWorldOne) {
+TEST(ApplyGamePanels, LeavesAQuakeWorldClientItsModificationsAndDemos) {
+    LV_Frm window;
+    ApplyGamePanels(window, kQuakeWorld);
+    EXPECT_TRUE(window.Game_Chk.Enabled);
+    EXPECT_TRUE(window.Mod_Pan.Enabled);
+    EXPECT_TRUE(window.Demo_Pan.Enabled);
+}
+
+TEST(ApplyGamePanels, LeavesAHexenWorldClientTheListenServerToo) {
     LV_Frm window = WithTicked({&LV_Frm::Demo_Chk});
     ApplyGamePanels(window, {2, 1, false, true});
     EXPECT_EQ(window.Demo_Chk.Value, 0);
-    EXPECT_FALSE(window.Demo_Pan.Enabled);
+    EXPECT_TRUE(window.Demo_Pan.Enabled);
+    EXPECT_TRUE(window.Game_Chk.Enabled);
+    EXPECT_TRUE(window.Listen_Chk.Enabled);
     EXPECT_FALSE(window.Dedicated_Chk.Enabled);
+    EXPECT_FALSE(window.Bench_Chk.Enabled);
+    EXPECT_FALSE(window.Map_Chk.Enabled);
 }
 
 TEST(ApplyGamePanels, GivesEverythingBackForQuake) {
@@ -192,16 +204,21 @@ TEST(ApplyGamePanels, LaysTheRightColumnOutForTheOthers) {
 }
 
 TEST(ApplyGamePanels, GreysForUnrealWhatItRemembers) {
-    LV_Frm window = WithTicked({&LV_Frm::Memory_Chk, &LV_Frm::Game_Chk});
+    LV_Frm window = WithTicked({&LV_Frm::Game_Chk});
     ApplyGamePanels(window, kUnreal);
-    EXPECT_EQ(window.Memory_Chk.Value, 2);
     EXPECT_EQ(window.Game_Chk.Value, 2);
     EXPECT_EQ(window.Demo_Chk.Value, 0);
-    EXPECT_FALSE(window.Memory_Pan.Enabled);
     EXPECT_FALSE(window.Mod_Pan.Enabled);
     EXPECT_FALSE(window.Demo_Pan.Enabled);
-    EXPECT_FALSE(window.Bar(MenuItem::Mem_Bar).Enabled);
     EXPECT_FALSE(window.Listen_Chk.Enabled);
+}
+
+TEST(ApplyGamePanels, LeavesUnrealItsMemory) {
+    LV_Frm window = WithTicked({&LV_Frm::Memory_Chk});
+    ApplyGamePanels(window, kUnreal);
+    EXPECT_EQ(window.Memory_Chk.Value, 1);
+    EXPECT_TRUE(window.Memory_Pan.Enabled);
+    EXPECT_TRUE(window.Bar(MenuItem::Mem_Bar).Enabled);
 }
 
 TEST(ApplyGamePanels, TicksAgainBehindUnrealWhatWasGreyed) {

@@ -2,6 +2,7 @@
 
 #include "launcher/launch_flow.h"
 #include "tests/support/launcher_fixture.h"
+#include "video/profile_model.h"
 
 namespace lv {
 
@@ -203,6 +204,30 @@ TEST_F(ProfileListsToLaunch, AnotherProfileIsInForceAtOnce) {
     EXPECT_NE(Launched(kScript).find("r_mirroralpha 1\r\n"), Text::npos);
     run.VideoProfileSection = "Another";
     EXPECT_EQ(Launched(kScript).find("r_mirroralpha"), Text::npos);
+}
+
+TEST_F(LauncherTest, TheRefreshRateOfAShippedProfileGoesOutUnderItsWholeName) {
+    AddGames();
+    Load();
+    StoreShippedProfiles(run);
+    Save(run, kOptions, "VidCard", 2);
+    run.VideoProfileSection = "Optimize for Speed";
+    PickExe(kGlQuake);
+    DoIt_Cmd_Click(launcher, 2);
+    const Text batch = system.Disk.Read(kBatch).Value;
+    EXPECT_NE(batch.find("SET SSTV2_REFRESH_320x200=60\r\n"), Text::npos) << batch;
+    EXPECT_EQ(batch.find("_="), Text::npos) << batch;
+}
+
+TEST_F(LauncherTest, AProfileThatWasNeverLoadedSendsNoNamelessVariable) {
+    AddGames();
+    Load();
+    Save(run, kOptions, "VidCard", 2);
+    PickExe(kGlQuake);
+    run.VideoProfileSection = "Old";
+    Save(run, "Old", "SST_SCREENREFRESH", 1);
+    DoIt_Cmd_Click(launcher, 2);
+    EXPECT_EQ(system.Disk.Read(kBatch).Value.find("REFRESH"), Text::npos);
 }
 
 }  // namespace lv

@@ -54,6 +54,12 @@ TEST_F(StartRepairs, TwoRowsOfOneSubdirectoryBecomeTheFirst) {
     EXPECT_EQ(Stored(kOptions, "Games"), "A;-game x");
 }
 
+TEST_F(StartRepairs, AListOfGamesWithAnOddFieldIsStoredBackWithoutIt) {
+    Store("Games", "A;-game x;B");
+    RepairGames(run);
+    EXPECT_EQ(Stored(kOptions, "Games"), "A;-game x");
+}
+
 TEST_F(StartRepairs, GamesWithoutDuplicatesAreNotWritten) {
     Store("Games", "A;-game x;B;-game y");
     RepairGames(run);
@@ -81,8 +87,10 @@ TEST(WithoutDuplicateGames, DropsASemicolonBehindTheLastPair) {
     EXPECT_EQ(WithoutDuplicateGames("A;-game x;"), "A;-game x");
 }
 
-TEST(WithoutDuplicateGames, LeavesADamagedListToTheCatalog) {
-    EXPECT_EQ(WithoutDuplicateGames("A;-game x;B"), "A;-game x;B");
+TEST(WithoutDuplicateGames, DropsANameWithoutAnOptionText) {
+    EXPECT_EQ(WithoutDuplicateGames("A;-game x;B"), "A;-game x");
+    EXPECT_EQ(WithoutDuplicateGames("A;-game x;B;-game y;C"), "A;-game x;B;-game y");
+    EXPECT_EQ(WithoutDuplicateGames("Alone"), "");
 }
 
 TEST(WithoutDuplicateGames, OfNothingIsNothing) {

@@ -203,7 +203,28 @@ TEST_F(StartTest, TheVideoProfileWindowOpensIfItWasOpenAtExit) {
     EXPECT_TRUE(launcher.VideoProfile.VideoProfileWindowOpen);
 }
 
+TEST_F(StartTest, TheVideoProfileWindowOpensWhenTheMainWindowIsOnTheScreen) {
+    Save(run, "VideoProfile_Frm", "LoadAtStartup", "1");
+    user.Expect({"Video Profiles", "'Base'", 0});
+    bool awaited = false;
+    user.OnAwaitMainWindow = [&] {
+        awaited = true;
+        EXPECT_TRUE(window.Visible);
+        EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
+    };
+    EXPECT_TRUE(Start(launcher));
+    EXPECT_TRUE(awaited);
+}
+
+TEST_F(StartTest, ExitBeforeTheVideoProfileWindowOpensEndsTheStart) {
+    Save(run, "VideoProfile_Frm", "LoadAtStartup", "1");
+    user.OnAwaitMainWindow = [&] { Exit_Bar_Click(launcher); };
+    EXPECT_FALSE(Start(launcher));
+    EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
+}
+
 TEST_F(StartTest, TheVideoProfileWindowStaysClosedOtherwise) {
+    user.OnAwaitMainWindow = [] { ADD_FAILURE() << "there is nothing to wait for"; };
     EXPECT_TRUE(Start(launcher));
     EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
 }

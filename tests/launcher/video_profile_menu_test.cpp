@@ -137,9 +137,10 @@ TEST_F(VideoProfileMenu, AddingWithTheWindowOpenTellsOnce) {
     EXPECT_EQ(profile.Caption, "Video Profile - 'Mine'");
 }
 
-TEST_F(VideoProfileMenu, ANewProfileHasNoKeysAndReadsTheDefaults) {
+TEST_F(VideoProfileMenu, ANewProfileReadsTheDefaultsAndItsLoadStoresThem) {
     Add("Mine");
-    EXPECT_EQ(Stored("Mine", "SSTV2_GRXCLK"), "(none)");
+    EXPECT_EQ(Stored("Mine", "SSTV2_GRXCLK"), "1");
+    EXPECT_EQ(Stored("Mine", "ResolutionsPos_Content").substr(0, 8), "320x200 ");
     EXPECT_EQ(profile.BoxOf("SSTV2_GRXCLK").Chk.Value, 1);
     EXPECT_EQ(profile.BoxOf("SSTV2_GRXCLK").Cbo.Selected(), "90");
     EXPECT_EQ(profile.BoxOf("Shadows").Chk.Value, 0);

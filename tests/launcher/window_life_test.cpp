@@ -177,6 +177,33 @@ TEST_F(WindowLife, ExitNotesAnOpenVideoProfileWindowAndUnloadsIt) {
     EXPECT_FALSE(ProfilesOpen());
 }
 
+TEST_F(WindowLife, ExitFromTheTrayNotesAVideoProfileWindowThatIsOnlyHidden) {
+    VideoProfile_Frm_Load(launcher.VideoProfile);
+    ShowLorvane_Bar_Click(launcher);
+    Exit_Bar_Click(launcher);
+    EXPECT_EQ(Stored("VideoProfile_Frm", "LoadAtStartup"), "1");
+}
+
+TEST_F(WindowLife, AVideoProfileWindowClosedBehindAHidingIsNotedAsClosed) {
+    VideoProfile_Frm_Load(launcher.VideoProfile);
+    ShowLorvane_Bar_Click(launcher);
+    ShowLorvane_Bar_Click(launcher);
+    VideoProfile_Frm_Unload(launcher.VideoProfile);
+    ShowLorvane_Bar_Click(launcher);
+    Exit_Bar_Click(launcher);
+    EXPECT_EQ(Stored("VideoProfile_Frm", "LoadAtStartup"), "0");
+}
+
+TEST_F(WindowLife, AVideoProfileWindowThatALaunchUnloadedIsNotedAsClosed) {
+    AddGames();
+    Load();
+    window.Visible = true;
+    VideoProfile_Frm_Load(launcher.VideoProfile);
+    DoIt_Cmd_Click(launcher, 0);
+    Exit_Bar_Click(launcher);
+    EXPECT_EQ(Stored("VideoProfile_Frm", "LoadAtStartup"), "0");
+}
+
 TEST_F(WindowLife, TheSessionsEndKeepsWhatExitKeeps) {
     window.Placement = {150, 300, 4500, 6000, kWindowNormal};
     VideoProfile_Frm_Load(launcher.VideoProfile);

@@ -138,12 +138,14 @@ TEST_F(WindowMenu, TheChosenEditorIsTheOneThatStarts) {
     EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"C:\\TOOLS\\EDIT.EXE|c:\\quake\\id1\\my.cfg"}));
 }
 
-TEST_F(WindowMenu, WithoutAScriptTheEditorStartsEmpty) {
+TEST_F(WindowMenu, WithoutAScriptNoEditorStarts) {
+    user.Expect({"Lorvane 3D", "No script is selected.", 0, false, true, "&OK"});
     ScriptsOpen_Bar_Click(launcher);
-    EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"notepad.exe"}));
+    EXPECT_TRUE(system.Programs.Started.empty());
 }
 
 TEST_F(WindowMenu, AnEditorThatDoesNotStartIsTold) {
+    Load();
     system.Programs.Refuse = {53, "File not found: wine"};
     user.Expect({"Error Opening Default Editor [notepad.exe]",
                  "Error Number = 53\r\nError String = File not found: wine", 0, false, true});

