@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "catalogs/forms/entry_forms.h"
+#include "foundation/settings.h"
 #include "foundry/forms/fig_form.h"
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
@@ -33,6 +34,7 @@ template <class System>
 struct Program {
     explicit Program(std::unique_ptr<System> host) : Host(std::move(host)) {
         User.SetRun(TheRun);
+        AskWhileLocked(TheRun);
         User.AddForms(MakeEntryForm);
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);
