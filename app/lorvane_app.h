@@ -15,6 +15,7 @@
 
 #include "catalogs/forms/entry_forms.h"
 #include "foundation/question_box.h"
+#include "foundation/settings.h"
 #include "foundry/forms/fig_form.h"
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
@@ -35,6 +36,7 @@ template <class System>
 struct Program {
     explicit Program(std::unique_ptr<System> host) : Host(std::move(host)) {
         User.SetRun(TheRun);
+        AskWhileLocked(TheRun);
         User.AddForms(MakeEntryForm);
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);

@@ -11,7 +11,7 @@
 
 #include "app/lorvane_app.h"
 #include "foundation/forms/wx_clipboard.h"
-#include "foundation/question_box.h"
+#include "foundation/open_store.h"
 #include "launcher/window_life.h"
 #include "platform/linux/end_signals.h"
 #include "platform/linux/linux_clock.h"
@@ -31,29 +31,30 @@ DriveDirectories OwnDrives() {
     return {DataDirectory() / "drives", WinePrefix(), ProgramFileDirectory()};
 }
 
-void TellThatTheStoreFails(const Error& failed) {
-    LinuxFiles files(OwnDrives());
-    WxUser user(files);
-    QuestionBox_Frm box = MakeQuestionBox(
-        "Lorvane 3D", Join(failed.Text, NewLine, NewLine, "Error Number = ", std::to_string(failed.Number)), "&OK", 0,
-        4);
-    LayOutQuestionBox(box, user);
-    user.ShowQuestionBox(box);
+OpenedStore Settled(Result<std::unique_ptr<SqliteSettings>> opened) {
+    return opened.Ok() ? OpenedStore(std::move(opened.Value)) : OpenedStore(opened.Fault);
+}
+
+StoreWays OwnStore() {
+    const auto file = ConfigDirectory() / "settings.sqlite";
+    return {[file] { return Settled(SqliteSettings::Open(file, kPatienceBeforeAsking)); },
+            [file] { return Settled(SqliteSettings::OpenCopy(file)); }};
 }
 
 struct LinuxSystem {
-    explicit LinuxSystem(std::unique_ptr<SqliteSettings> store) : Settings(std::move(store)) {
+    explicit LinuxSystem(std::unique_ptr<SettingsBacking> store) : Settings(std::move(store)) {
         Services.Instance = &Instance;
         Services.Windows = &Windows;
     }
 
     static std::unique_ptr<LinuxSystem> Make() {
-        auto store = SqliteSettings::Open(ConfigDirectory() / "settings.sqlite");
-        if (!store.Ok()) {
-            TellThatTheStoreFails(store.Fault);
-            return nullptr;
+        LinuxFiles files(OwnDrives());
+        WxUser user(files);
+        if (files.DrivesFault()) {
+            TellOfDrives(user, files.DrivesFault());
         }
-        return std::make_unique<LinuxSystem>(std::move(store.Value));
+        auto store = OpenStore(user, OwnStore());
+        return store ? std::make_unique<LinuxSystem>(std::move(store)) : nullptr;
     }
 
     void Started(LvForm&, Launcher& launcher) {
@@ -74,7 +75,7 @@ struct LinuxSystem {
         }
     }
 
-    std::unique_ptr<SqliteSettings> Settings;
+    std::unique_ptr<SettingsBacking> Settings;
     LinuxFiles Disk{OwnDrives()};
     WineRegistry Registry{*Settings, FindWine()};
     LinuxProcesses Programs{Disk};

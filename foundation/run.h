@@ -51,9 +51,10 @@ struct Run {
     bool IsWin9x = false;
     bool DecimalPointIsDot = true;
 
-    bool ShowAgain = true;  // outcome of AskUserOnce
-    int SaveGroups = 0;     // open SavesTogether
+    bool ShowAgain = true;     // outcome of AskUserOnce
+    int SaveGroups = 0;        // open SavesTogether
     bool GroupFailed = false;  // a save in them did, and the user was told
+    bool LockTold = false;     // another program holds the store, and the user knows that nothing is saved
     bool MainFormLoaded = false;
     TopmostState Topmost{};
     bool Ended = false;  // the program is over: handlers return, the event loop ends

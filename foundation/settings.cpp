@@ -22,6 +22,9 @@ Text FaultOf(TextView section, TextView key, TextView value) {
 }
 
 void Tell(Run& run, TextView what, TextView which, const Error& failed) {
+    if (run.LockTold && failed.Number == error::kAlreadyOpen) {
+        return;
+    }
     Text title = run.AppName;
     AskUser(run, title,
             Join(what, NewLine, NewLine, which, which.empty() ? "" : NewLine,
@@ -77,7 +80,22 @@ bool SaveChecked(Run& run, Text& application, TextView section, TextView key, Te
         Tell(run, "This setting could not be saved; the old one is still there.", Join(section, "\\/\\", key), failed);
         return false;
     }
+    run.LockTold = false;
     return true;
+}
+
+void AskWhileLocked(Run& run) {
+    run.System.Settings.WhenLocked([&run](const Error& reason) {
+        run.LockTold = true;  // what is saved while the box is up
+        Text title = run.AppName;
+        const Index answer = AskUser(run, title,
+                                     Join(reason.Text, NewLine, NewLine, "Retry waits for it once more.", NewLine,
+                                          "With Cancel the program goes on, but no setting is saved", NewLine,
+                                          "until the other program has finished."),
+                                     "&Retry,&Cancel");
+        run.LockTold = answer != 0;
+        return answer == 0;
+    });
 }
 
 SavesTogether::SavesTogether(Run& run) : run_(run) {

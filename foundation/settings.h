@@ -28,6 +28,10 @@ bool SaveChecked(Run& run, Text& application, TextView section, TextView key, Te
 bool Save(Run& run, TextView section, TextView key, TextView value);
 bool Save(Run& run, TextView section, TextView key, int value);
 
+/// From now on the user is asked when another program holds the store: the reason with its name, and whether to wait
+/// once more. Who goes on without is told nothing of the saves that fail until the store is free again.
+void AskWhileLocked(Run& run);
+
 /// Groups the saves of a scope: they become durable together, or not at all. The first that fails is told to the user
 /// as any other is; those behind it fail without a word. Groups nest.
 class SavesTogether {

@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,7 +22,8 @@ class SettingsBacking {
                                             std::string_view key) = 0;
 
     /// Stores the text. When it returns without error the value outlives a kill of the program. All 256 byte values
-    /// survive, character 0 included. Errors: 61 disk full, 70 permission denied, 57 anything else of the device.
+    /// survive, character 0 included. Errors: 61 disk full, 70 permission denied, 55 another program holds the store,
+    /// 57 anything else of the device.
     virtual Error Write(std::string_view application, std::string_view section, std::string_view key,
                         std::string_view value) = 0;
 
@@ -29,6 +31,12 @@ class SettingsBacking {
     /// keys of a fresh profile.
     virtual void BeginGroup() {}
     virtual Error EndGroup() { return {}; }
+
+    /// Asked when another program has held the store for a second; the reason names it. True waits once more. After a
+    /// false what was to be done fails with 55, and so does all that follows, without a wait and without a question,
+    /// until the store is free again.
+    using LockedQuestion = std::function<bool(const Error& reason)>;
+    virtual void WhenLocked(LockedQuestion) {}
 };
 
 /// Groups the writes of a scope.

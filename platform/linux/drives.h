@@ -21,8 +21,15 @@ struct DriveDirectories {
 };
 
 /// Makes "c:", a link to the plain directory "drive_c" beside `drives`, and "z:", a link to "/", if `drives` is not
-/// there yet or empty. An existing set of drives is the user's own and stays as it is.
+/// there yet or empty. An existing set of drives is the user's own and stays as it is. Takes away what a start has left
+/// that was killed in here.
 Error MakeFirstDrives(const DriveDirectories& directories);
+
+/// Brings back what a start needs of the first drives: "drive_c" where "c:" leads to it and it is gone, "c:" where that
+/// is a file or a circle of links, "z:" where there is none or it leads to no directory. If `programDirectory` lies on
+/// no drive even then, the last free letter becomes a link to "/". What stood in an entry's place is kept as "z:.old".
+/// All other entries stay, though one may lead nowhere now: its disk may not be in.
+Error MendDrives(const DriveDirectories& directories);
 
 /// The entry of the drive, which may be a link that leads nowhere now. Nothing if there is no such drive, and always
 /// for "A" and "B", which are never touched.

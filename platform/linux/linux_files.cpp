@@ -30,8 +30,15 @@ std::string DirectoryOf(const std::string& hostPath) {
 
 }  // namespace
 
-LinuxFiles::LinuxFiles(DriveDirectories directories)
-    : directories_(std::move(directories)), firstDrives_(MakeFirstDrives(directories_)) {}
+LinuxFiles::LinuxFiles(DriveDirectories directories) : directories_(std::move(directories)) {
+    Error failed = MakeFirstDrives(directories_);
+    if (!failed) {
+        failed = MendDrives(directories_);
+    }
+    if (failed) {
+        drivesFault_ = MakeError(failed.Number, FromUtf8Lossy(directories_.drives.string()));
+    }
+}
 
 std::optional<LinuxFiles::Place> LinuxFiles::Find(std::string_view path) const {
     auto taken = TakeApart(path, current_);

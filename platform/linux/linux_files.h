@@ -21,11 +21,11 @@ namespace lv {
 /// host would allow that to the owner of its directory.
 class LinuxFiles : public Files {
   public:
-    /// Makes the first drives if need be.
+    /// Makes the first drives if need be, and mends what a start needs of them.
     explicit LinuxFiles(DriveDirectories directories);
 
-    /// What kept the first drives from being made, if anything did.
-    [[nodiscard]] const Error& FirstDrivesFault() const { return firstDrives_; }
+    /// What kept the drives from being made or mended, if anything did. The text names their directory.
+    [[nodiscard]] const Error& DrivesFault() const { return drivesFault_; }
 
     std::vector<std::string> Drives() override;
     Error ProbeDrive(std::string_view drive) override;
@@ -68,7 +68,7 @@ class LinuxFiles : public Files {
     Error CopyFile(std::string_view from, std::string_view to, Whose whose) const;
 
     DriveDirectories directories_;
-    Error firstDrives_;
+    Error drivesFault_;
     DrivePath current_;
     WalkableDevices walkable_;
 };

@@ -13,8 +13,9 @@
 #include <system_error>
 
 #include "platform/code_page.h"
-#include "platform/linux/errno_error.h"
 #include "platform/linux/file_descriptor.h"
+#include "platform/linux/settings_faults.h"
+#include "platform/linux/settings_layout.h"
 
 namespace lv {
 
@@ -22,44 +23,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kLayout = 1;
-
 // The head of a SQLite 3 file, and the offsets of what is looked at in it: numbers with the highest byte first.
 using Head = std::array<unsigned char, 100>;
 constexpr std::size_t kPageOffset = 16;     // bytes in a page, two bytes; 1 is 65,536
 constexpr std::size_t kPagesOffset = 28;    // pages in the file, four bytes
 constexpr std::size_t kVersionOffset = 60;  // user_version, four bytes
-
-constexpr const char* kSchema = R"(
-CREATE TABLE setting(
-    application TEXT NOT NULL COLLATE NOCASE,
-    section     TEXT NOT NULL COLLATE NOCASE,
-    key         TEXT NOT NULL COLLATE NOCASE,
-    value       TEXT NOT NULL,
-    PRIMARY KEY (application, section, key)) WITHOUT ROWID;
-PRAGMA user_version = 1;
-)";
-
-Error Refusal(int number, const fs::path& file, const std::string& reason) {
-    return {number, "The settings in \"" + FromUtf8Lossy(file.string()) + "\" cannot be used: " + reason};
-}
-
-Error NewerLayout(const fs::path& file) {
-    return Refusal(error::kPathFileAccess, file, "a newer version of this program made them.");
-}
-
-Error NoDatabase(const fs::path& file) {
-    return Refusal(error::kPathFileAccess, file, "the file is no settings database.");
-}
-
-Error Damaged(const fs::path& file) {
-    return Refusal(error::kPathFileAccess, file, "the database is damaged.");
-}
-
-Error Unwritable(int number, const fs::path& file, const char* what) {
-    const Error fault = number == ENOENT ? MakeError(error::kPathNotFound) : ErrorOf(number);
-    return Refusal(fault.Number, file, std::string(what) + " cannot be written. (" + fault.Text + ")");
-}
 
 // Parents that have to be made are for this user alone too, as the base directory rules want it.
 int MakePrivateDirectories(const fs::path& directory) {
@@ -90,16 +58,16 @@ int MakeFile(const fs::path& file) {
 
 Error CheckPlace(const fs::path& file) {
     if (const int failed = MakePrivateDirectories(file.parent_path())) {
-        return Unwritable(failed, file, "their directory");
+        return UnwritableStore(failed, file, "their directory");
     }
     if (faccessat(AT_FDCWD, file.parent_path().c_str(), W_OK | X_OK, AT_EACCESS) != 0) {
-        return Unwritable(errno, file, "their directory");
+        return UnwritableStore(errno, file, "their directory");
     }
     if (const int failed = MakeFile(file)) {
-        return Unwritable(failed, file, "the file");
+        return UnwritableStore(failed, file, "the file");
     }
     if (faccessat(AT_FDCWD, file.c_str(), R_OK | W_OK, AT_EACCESS) != 0) {
-        return Unwritable(errno, file, "the file");
+        return UnwritableStore(errno, file, "the file");
     }
     return {};
 }
@@ -148,101 +116,26 @@ Error CheckHead(const fs::path& file) {
         return NoDatabase(file);
     }
     if (IsCutOff(head, file)) {
-        return Damaged(file);
+        return DamagedDatabase(file);
     }
     const unsigned char* v = head.data() + kVersionOffset;
-    const bool newer = v[0] < 0x80 && (v[0] != 0 || v[1] != 0 || v[2] != 0 || v[3] > kLayout);
+    const bool newer = v[0] < 0x80 && (v[0] != 0 || v[1] != 0 || v[2] != 0 || v[3] > kStoreLayout);
     return newer ? NewerLayout(file) : Error();
 }
 
-bool Execute(sqlite3* database, const char* sql) {
-    return sqlite3_exec(database, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
-}
-
-// The first column of the first row; empty on any failure.
-std::string Ask(sqlite3* database, const char* sql) {
-    sqlite3_stmt* statement = nullptr;
-    std::string answer;
-    if (sqlite3_prepare_v2(database, sql, -1, &statement, nullptr) == SQLITE_OK &&
-        sqlite3_step(statement) == SQLITE_ROW) {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, 0));
-        answer = text != nullptr ? text : "";
-    }
-    sqlite3_finalize(statement);
-    return answer;
-}
-
-// What SQLite itself says against the file.
-Error RefusedBySqlite(sqlite3* database, const fs::path& file) {
-    switch (sqlite3_errcode(database)) {
-        case SQLITE_NOTADB:
-            return NoDatabase(file);
-        case SQLITE_CORRUPT:
-            return Damaged(file);
-        default:
-            return Refusal(FaultOf(database).Number, file, FromUtf8Lossy(sqlite3_errmsg(database)) + ".");
-    }
-}
-
-// Two first starts at once: the second one waits for the first and finds its table.
-Error MakeTable(sqlite3* database, const fs::path& file) {
-    if (!Execute(database, "BEGIN IMMEDIATE")) {
-        return RefusedBySqlite(database, file);
-    }
-    const bool stillEmpty = Ask(database, "SELECT count(*) FROM sqlite_master") == "0";
-    if ((stillEmpty && !Execute(database, kSchema)) || !Execute(database, "COMMIT")) {
-        const Error fault = FaultOf(database);
+// Writes a page as it is. With a log nobody waits for the disk: it is synced with the first value that is saved. A lock
+// is no matter here.
+Error FindOutWhetherThereIsRoom(sqlite3* database, const fs::path& file, bool hasLog) {
+    sqlite3_busy_timeout(database, 0);
+    Execute(database, hasLog ? "PRAGMA synchronous = OFF" : "PRAGMA synchronous = EXTRA");
+    const bool written = Execute(database, "BEGIN IMMEDIATE") &&
+                         Execute(database, ("PRAGMA user_version = " + Ask(database, "PRAGMA user_version")).c_str()) &&
+                         Execute(database, "COMMIT");
+    const Error fault = written ? Error() : FaultOf(database);
+    if (sqlite3_get_autocommit(database) == 0) {
         Execute(database, "ROLLBACK");
-        return Refusal(fault.Number, file, "they could not be made. (" + fault.Text + ")");
     }
-    return {};
-}
-
-struct Layout {
-    std::string Version;
-    std::string Tables;
-    std::string Columns;
-    std::string Check;
-};
-
-// All of one moment, for another program may be making the table.
-Result<Layout> ReadLayout(sqlite3* database, const fs::path& file) {
-    if (!Execute(database, "BEGIN")) {
-        return RefusedBySqlite(database, file);
-    }
-    Layout layout;
-    layout.Version = Ask(database, "PRAGMA user_version");
-    Error fault = layout.Version.empty() ? RefusedBySqlite(database, file) : Error();
-    if (!fault) {
-        layout.Tables = Ask(database, "SELECT count(*) FROM sqlite_master");
-        layout.Columns = Ask(database, "SELECT group_concat(name || ' ' || pk) FROM pragma_table_info('setting')");
-        layout.Check = Ask(database, "PRAGMA quick_check(1)");
-        fault = layout.Check.empty() ? RefusedBySqlite(database, file) : Error();
-    }
-    Execute(database, "COMMIT");
-    return fault ? Result<Layout>(fault) : layout;
-}
-
-Error CheckLayout(sqlite3* database, const fs::path& file) {
-    Result<Layout> read = ReadLayout(database, file);
-    if (read.Ok() && read.Value.Version == "0" && read.Value.Tables == "0") {
-        if (Error failed = MakeTable(database, file)) {
-            return failed;
-        }
-        read = ReadLayout(database, file);
-    }
-    if (!read.Ok()) {
-        return read.Fault;
-    }
-    const Layout& layout = read.Value;
-    if (layout.Version.size() > 1 ? layout.Version[0] != '-' : layout.Version[0] > '0' + kLayout) {
-        return NewerLayout(file);
-    }
-    if (layout.Check != "ok") {
-        return Damaged(file);
-    }
-    const bool known = layout.Version == "1" && layout.Columns == "application 1,section 2,key 3,value 0";
-    return known ? Error() : NoDatabase(file);
+    return fault.Number == error::kDiskFull ? StoreRefusal(fault.Number, file, "the disk is full.") : Error();
 }
 
 }  // namespace
@@ -251,25 +144,7 @@ void DatabaseCloser::operator()(sqlite3* database) const {
     sqlite3_close(database);
 }
 
-Error FaultOf(sqlite3* database) {
-    const Error system = ErrorOf(sqlite3_system_errno(database));
-    switch (sqlite3_errcode(database) & 0xFF) {
-        case SQLITE_FULL:
-            return MakeError(error::kDiskFull);
-        case SQLITE_BUSY:
-        case SQLITE_LOCKED:
-        case SQLITE_READONLY:
-        case SQLITE_PERM:
-        case SQLITE_CANTOPEN:
-            return MakeError(error::kPermissionDenied);
-        case SQLITE_IOERR:
-            return MakeError(system.Number == error::kDiskFull ? error::kDiskFull : error::kDeviceFault);
-        default:
-            return MakeError(error::kDeviceFault);
-    }
-}
-
-Result<Database> OpenSettingsFile(const fs::path& file) {
+Result<Database> OpenSettingsFile(const fs::path& file, int patience) {
     if (Error refused = CheckPlace(file)) {
         return refused;
     }
@@ -280,23 +155,27 @@ Result<Database> OpenSettingsFile(const fs::path& file) {
     const int failed = sqlite3_open_v2(file.c_str(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     Database database(opened);
     if (failed != SQLITE_OK) {
-        return Refusal(error::kPathFileAccess, file, FromUtf8Lossy(sqlite3_errstr(failed)) + ".");
+        return StoreRefusal(error::kPathFileAccess, file, FromUtf8Lossy(sqlite3_errstr(failed)) + ".");
     }
-    sqlite3_busy_timeout(opened, kPatience);
+    RunNothingOfTheFile(opened);
+    sqlite3_busy_timeout(opened, patience);
     // Until it is known to be a store, closing it must not move another program's log into it.
     sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     if (Error refused = CheckLayout(opened, file)) {
         return refused;
     }
     if (sqlite3_db_readonly(opened, "main") != 0) {
-        return Unwritable(EACCES, file, "the file");
+        return UnwritableStore(EACCES, file, "the file");
     }
     sqlite3_db_config(opened, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
     // A store made by hand has a rollback journal. Where it cannot be changed now, because a shell has it open, it is
     // as good: EXTRA is FULL with a log, and syncs the directory too when a journal goes.
-    sqlite3_busy_timeout(opened, 1000);
-    Execute(opened, "PRAGMA journal_mode = WAL");
-    sqlite3_busy_timeout(opened, kPatience);
+    sqlite3_busy_timeout(opened, kPatienceBeforeAsking);
+    const bool hasLog = Ask(opened, "PRAGMA journal_mode = WAL") == "wal";
+    if (Error refused = FindOutWhetherThereIsRoom(opened, file, hasLog)) {
+        return refused;
+    }
+    sqlite3_busy_timeout(opened, patience);
     Execute(opened, "PRAGMA synchronous = EXTRA");
     return database;
 }

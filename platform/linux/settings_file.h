@@ -13,6 +13,10 @@ struct sqlite3;
 
 namespace lv {
 
+/// How long to wait for another program, in milliseconds: where nobody can be asked, and ahead of a question.
+constexpr int kPatience = 10000;
+constexpr int kPatienceBeforeAsking = 1000;
+
 struct DatabaseCloser {
     void operator()(sqlite3* database) const;
 };
@@ -20,13 +24,8 @@ using Database = std::unique_ptr<sqlite3, DatabaseCloser>;
 
 /// Opens the store, and makes it and its directory, for this user alone, if they are not there. A file that is no
 /// database, is damaged, has another layout or cannot be written is left as it is. The error's text says so and names
-/// the file. Errors: 75 not a store that can be used, 70 no access, 76 no directory, 61 disk full, 57 device.
-Result<Database> OpenSettingsFile(const std::filesystem::path& file);
-
-/// The error for a failed call on this database: 61 disk full, 70 no access, 57 anything else.
-Error FaultOf(sqlite3* database);
-
-/// How long to wait for another program's write, in milliseconds.
-constexpr int kPatience = 10000;
+/// the file. Errors: 75 not a store that can be used, 70 no access, 76 no directory, 61 no room for a single value,
+/// 57 device, 55 locked by another program for longer than `patience` milliseconds.
+Result<Database> OpenSettingsFile(const std::filesystem::path& file, int patience = kPatience);
 
 }  // namespace lv

@@ -6,6 +6,9 @@
 #include <utility>
 
 #include "platform/code_page.h"
+#include "platform/linux/settings_copy.h"
+#include "platform/linux/settings_faults.h"
+#include "platform/linux/sqlite_use.h"
 
 namespace lv {
 
@@ -25,34 +28,6 @@ constexpr const char* kSql[] = {
     "ROLLBACK",
 };
 
-// A statement for one use; a read that is not reset would hold back the log.
-class Use {
-  public:
-    explicit Use(sqlite3_stmt* statement) : statement_(statement) {}
-    ~Use() {
-        if (statement_ != nullptr) {
-            sqlite3_reset(statement_);
-            sqlite3_clear_bindings(statement_);
-        }
-    }
-    Use(const Use&) = delete;
-    Use& operator=(const Use&) = delete;
-
-    // The text must outlive the use.
-    void Bind(int index, const std::string& text) {
-        sqlite3_bind_text(statement_, index, text.data(), static_cast<int>(text.size()), SQLITE_STATIC);
-    }
-    int Step() { return sqlite3_step(statement_); }
-    [[nodiscard]] std::string Column(int index) const {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, index));
-        const int size = sqlite3_column_bytes(statement_, index);
-        return text != nullptr ? std::string(text, static_cast<std::size_t>(size)) : std::string();
-    }
-
-  private:
-    sqlite3_stmt* statement_;
-};
-
 bool HasOtherThanAscii(std::string_view text) {
     return std::any_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
 }
@@ -64,15 +39,23 @@ bool IsName(const std::string& utf8, std::string_view name) {
 
 }  // namespace
 
-Result<std::unique_ptr<SqliteSettings>> SqliteSettings::Open(const std::filesystem::path& file) {
-    Result<Database> opened = OpenSettingsFile(file);
+Result<std::unique_ptr<SqliteSettings>> SqliteSettings::Open(const std::filesystem::path& file, int patience) {
+    Result<Database> opened = OpenSettingsFile(file, patience);
     if (!opened.Ok()) {
         return opened.Fault;
     }
-    return std::make_unique<SqliteSettings>(std::move(opened.Value));
+    return std::make_unique<SqliteSettings>(std::move(opened.Value), patience);
 }
 
-SqliteSettings::SqliteSettings(Database database) : database_(std::move(database)) {}
+Result<std::unique_ptr<SqliteSettings>> SqliteSettings::OpenCopy(const std::filesystem::path& file) {
+    Result<Database> copied = CopySettingsFile(file);
+    if (!copied.Ok()) {
+        return copied.Fault;
+    }
+    return std::make_unique<SqliteSettings>(std::move(copied.Value));
+}
+
+SqliteSettings::SqliteSettings(Database database, int patience) : database_(std::move(database)), patience_(patience) {}
 
 SqliteSettings::~SqliteSettings() {
     TakeBack();
@@ -89,41 +72,88 @@ sqlite3_stmt* SqliteSettings::Prepared(Statement statement) {
     return prepared;
 }
 
+// While the question is up, and once the user has gone on without the store, nobody waits.
+bool SqliteSettings::WaitAgain(const Error& fault) {
+    if (fault.Number != error::kAlreadyOpen || !question_ || asking_ || gaveUp_) {
+        return false;
+    }
+    sqlite3_busy_timeout(database_.get(), 0);
+    asking_ = true;
+    gaveUp_ = !question_(fault);
+    asking_ = false;
+    if (!gaveUp_) {
+        sqlite3_busy_timeout(database_.get(), patience_);
+    }
+    return !gaveUp_;
+}
+
+void SqliteSettings::NoteUnlocked() {
+    if (gaveUp_) {
+        gaveUp_ = false;
+        sqlite3_busy_timeout(database_.get(), patience_);
+    }
+}
+
 Error SqliteSettings::Do(Statement statement) {
-    Use use(Prepared(statement));
-    // The reason is asked for before the statement is reset: that forgets what the system said.
-    return use.Step() == SQLITE_DONE ? Error() : FaultOf(database_.get());
+    while (true) {
+        Error fault;
+        {
+            SqliteUse use(Prepared(statement));
+            // The reason is asked for before the statement is reset: that forgets what the system said.
+            fault = use.Step() == SQLITE_DONE ? Error() : FaultOf(database_.get());
+        }
+        if (!fault && statement == kBegin) {
+            NoteUnlocked();
+        }
+        if (!WaitAgain(fault)) {
+            return fault;
+        }
+    }
 }
 
 std::optional<SqliteSettings::Row> SqliteSettings::Find(const Names& names) {
+    while (true) {
+        Result<std::optional<Row>> row = Look(names);
+        if (!WaitAgain(row.Fault)) {
+            return std::move(row.Value);
+        }
+    }
+}
+
+Result<std::optional<SqliteSettings::Row>> SqliteSettings::Look(const Names& names) {
     const std::string application = ToUtf8(names.Application);
     const std::string section = ToUtf8(names.Section);
     const std::string key = ToUtf8(names.Key);
     {
-        Use select(Prepared(kSelect));
+        SqliteUse select(Prepared(kSelect));
         select.Bind(1, application);
         select.Bind(2, section);
         select.Bind(3, key);
-        if (select.Step() == SQLITE_ROW) {
-            return Row{{select.Column(0), select.Column(1), select.Column(2)}, select.Column(3)};
+        const int got = select.Step();
+        if (got == SQLITE_ROW) {
+            return std::optional(Row{{select.Column(0), select.Column(1), select.Column(2)}, select.Column(3)});
+        }
+        if (got != SQLITE_DONE) {
+            return FaultOf(database_.get());
         }
     }
     const bool mayDifferInCase =
         HasOtherThanAscii(names.Application) || HasOtherThanAscii(names.Section) || HasOtherThanAscii(names.Key);
-    return mayDifferInCase ? FindInAllRows(names) : std::nullopt;
+    return mayDifferInCase ? LookInAllRows(names) : std::optional<Row>();
 }
 
-std::optional<SqliteSettings::Row> SqliteSettings::FindInAllRows(const Names& names) {
-    Use scan(Prepared(kScan));
-    while (scan.Step() == SQLITE_ROW) {
+Result<std::optional<SqliteSettings::Row>> SqliteSettings::LookInAllRows(const Names& names) {
+    SqliteUse scan(Prepared(kScan));
+    int got = scan.Step();
+    for (; got == SQLITE_ROW; got = scan.Step()) {
         Row row{{scan.Column(0), scan.Column(1), scan.Column(2)}, {}};
         if (IsName(row.Names[2], names.Key) && IsName(row.Names[1], names.Section) &&
             IsName(row.Names[0], names.Application)) {
             row.Value = scan.Column(3);
-            return row;
+            return std::optional(std::move(row));
         }
     }
-    return std::nullopt;
+    return got == SQLITE_DONE ? Result<std::optional<Row>>() : FaultOf(database_.get());
 }
 
 std::optional<std::string> SqliteSettings::Read(std::string_view application, std::string_view section,
@@ -151,7 +181,7 @@ Error SqliteSettings::Store(const Names& names, std::string_view value) {
         row ? row->Names
             : std::array<std::string, 3>{ToUtf8(names.Application), ToUtf8(names.Section), ToUtf8(names.Key)};
     const std::string text = ToUtf8(value);
-    Use upsert(Prepared(kUpsert));
+    SqliteUse upsert(Prepared(kUpsert));
     upsert.Bind(1, stored[0]);
     upsert.Bind(2, stored[1]);
     upsert.Bind(3, stored[2]);

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/linux/settings_file.h"
 #include "platform/settings_backing.h"
@@ -23,9 +24,12 @@ namespace lv {
 class SqliteSettings : public SettingsBacking {
   public:
     /// Opens the store, and makes it if it is not there; see OpenSettingsFile for what is refused.
-    static Result<std::unique_ptr<SqliteSettings>> Open(const std::filesystem::path& file);
+    static Result<std::unique_ptr<SqliteSettings>> Open(const std::filesystem::path& file, int patience = kPatience);
 
-    explicit SqliteSettings(Database database);
+    /// What is stored, in memory; see CopySettingsFile.
+    static Result<std::unique_ptr<SqliteSettings>> OpenCopy(const std::filesystem::path& file);
+
+    explicit SqliteSettings(Database database, int patience = kPatience);
     ~SqliteSettings() override;
     SqliteSettings(const SqliteSettings&) = delete;
     SqliteSettings& operator=(const SqliteSettings&) = delete;
@@ -33,7 +37,8 @@ class SqliteSettings : public SettingsBacking {
     std::optional<std::string> Read(std::string_view application, std::string_view section,
                                     std::string_view key) override;
 
-    /// A value that is there already is not written again. Waits up to ten seconds for another program's write.
+    /// A value that is there already is not written again. Waits for another program's write as long as Open was told
+    /// to, and longer if the user wants that.
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
 
@@ -41,6 +46,8 @@ class SqliteSettings : public SettingsBacking {
     /// whole group: all that follow fail the same way, and so does EndGroup. A group never ended is never stored.
     void BeginGroup() override;
     Error EndGroup() override;
+
+    void WhenLocked(LockedQuestion question) override { question_ = std::move(question); }
 
   private:
     enum Statement { kSelect, kScan, kUpsert, kBegin, kCommit, kRollback, kStatements };
@@ -55,9 +62,12 @@ class SqliteSettings : public SettingsBacking {
     };
 
     sqlite3_stmt* Prepared(Statement statement);
+    bool WaitAgain(const Error& fault);
+    void NoteUnlocked();
     Error Do(Statement statement);
     std::optional<Row> Find(const Names& names);
-    std::optional<Row> FindInAllRows(const Names& names);
+    Result<std::optional<Row>> Look(const Names& names);
+    Result<std::optional<Row>> LookInAllRows(const Names& names);
     Error Store(const Names& names, std::string_view value);
     Error StoreInTransaction(const Names& names, std::string_view value);
     Error StoreInGroup(const Names& names, std::string_view value);
@@ -67,6 +77,10 @@ class SqliteSettings : public SettingsBacking {
     std::array<sqlite3_stmt*, kStatements> statements_{};
     int depth_ = 0;
     Error groupFault_;
+    int patience_ = kPatience;
+    LockedQuestion question_;
+    bool asking_ = false;
+    bool gaveUp_ = false;  // the user goes on without what another program keeps locked
 };
 
 }  // namespace lv

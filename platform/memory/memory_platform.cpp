@@ -22,6 +22,11 @@ std::optional<std::string> MemorySettings::Read(std::string_view application, st
 
 Error MemorySettings::Write(std::string_view application, std::string_view section, std::string_view key,
                             std::string_view value) {
+    while (Locked) {
+        if (!question_ || !question_(Locked)) {
+            return Locked;
+        }
+    }
     if (RefuseWrites) {
         return RefuseWrites;
     }

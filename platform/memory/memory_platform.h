@@ -22,15 +22,18 @@ class MemorySettings : public SettingsBacking {
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
     Error EndGroup() override { return RefuseGroups; }
+    void WhenLocked(LockedQuestion question) override { question_ = std::move(question); }
 
     /// Each write, as "section|key|value", in order.
     std::vector<std::string> Log;
     Error RefuseWrites;
     Error RefuseGroups;  // at their end
+    Error Locked;        // another program holds the store: each write asks, and a question may clear this
     [[nodiscard]] std::size_t Count() const { return values_.size(); }
 
   private:
     std::map<std::string, std::string> values_;
+    LockedQuestion question_;
 };
 
 class MemoryRegistry : public UserRegistry {

@@ -47,6 +47,41 @@ TEST_F(SettingsTest, NumbersAreReadTolerantly) {
     EXPECT_EQ(GetNumber(run, kOptions, "MemoryPos", 7), 0);
 }
 
+TEST_F(SettingsTest, ALockedStoreIsToldWithItsReasonAndRetryWaitsAgain) {
+    system.Settings.Locked = {55, "Locked by the program \"sqlite3\" (process 7)."};
+    AskWhileLocked(run);
+    const Text told =
+        "Locked by the program \"sqlite3\" (process 7).\r\n\r\nRetry waits for it once more.\r\n"
+        "With Cancel the program goes on, but no setting is saved\r\n"
+        "until the other program has finished.";
+    user.Expect({"Lorvane 3D", told, 0, false, true, "&Retry,&Cancel"});
+    user.Expect({"Lorvane 3D", told, 0, false, true, "&Retry,&Cancel"});
+    user.OnDialog = [&] {
+        if (user.Asked.size() == 2) {
+            system.Settings.Locked = {};
+        }
+    };
+    EXPECT_TRUE(Save(run, kOptions, "a", 1));
+    EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "a"), "1");
+}
+
+TEST_F(SettingsTest, AfterACancelALockedStoreIsNotToldASecondTime) {
+    system.Settings.Locked = {55, "Locked."};
+    AskWhileLocked(run);
+    user.Expect({"Lorvane 3D", "Locked.", 1});
+    EXPECT_FALSE(Save(run, kOptions, "a", 1));
+    EXPECT_TRUE(run.LockTold);
+    system.Settings.Locked = {};
+    EXPECT_TRUE(Save(run, kOptions, "a", 1));
+    EXPECT_FALSE(run.LockTold);
+}
+
+TEST_F(SettingsTest, ALockNobodyWasAskedAboutIsToldAsAnyFailure) {
+    system.Settings.Locked = {55, "Locked."};
+    user.Expect({"Lorvane 3D", "Error Number = 55\r\nError String = Locked.", 0});
+    EXPECT_FALSE(Save(run, kOptions, "a", 1));
+}
+
 TEST_F(SettingsTest, AGroupTellsOfItsFirstFailureOnly) {
     system.Settings.RefuseWrites = MakeError(error::kDiskFull);
     user.Expect({"Lorvane 3D", "This setting could not be saved; the old one is still there.\r\n\r\nOptions\\/\\a", 0});

@@ -1,6 +1,7 @@
 #include "platform/linux/drives.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "tests/platform/scratch_directory.h"
 
@@ -64,6 +65,125 @@ TEST(MakeFirstDrives, TellsOfAFileInPlaceOfTheDrives) {
     WriteBytes(home.Data / "drives", "a file");
     EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 76);
     EXPECT_EQ(BytesOf(home.Data / "drives"), "a file");
+}
+
+TEST(MakeFirstDrives, TakesAwayWhatAKilledStartHasLeft) {
+    const Home home;
+    fs::create_directories(home.Data / ".drives_999999999");
+    fs::create_symlink("/", home.Data / ".drives_999999999/z:");
+    fs::create_directories(home.Data / (".drives_" + std::to_string(getpid())));
+    fs::create_directories(home.Data / ".drives_1");  // of a process that lives
+    fs::create_directories(home.Data / ".drives_of_mine");
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'C', 'Z'}));
+    EXPECT_FALSE(fs::exists(home.Data / ".drives_999999999"));
+    EXPECT_FALSE(fs::exists(home.Data / (".drives_" + std::to_string(getpid()))));
+    EXPECT_TRUE(fs::exists(home.Data / ".drives_1"));
+    EXPECT_TRUE(fs::exists(home.Data / ".drives_of_mine"));
+}
+
+TEST(MendDrives, MakesAMissingZ) {
+    const Home home;
+    fs::create_directories(home.Data / "drives/d:");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/z:"), "/");
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'D', 'Z'}));
+}
+
+TEST(MendDrives, LeavesAZOfTheWinePrefixToIt) {
+    const Home home;
+    fs::create_directories(home.Data / "drives/d:");
+    fs::create_directories(home.Devices);
+    fs::create_symlink("/", home.Devices / "z:");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_FALSE(fs::exists(fs::symlink_status(home.Data / "drives/z:")));
+}
+
+TEST(MendDrives, PutsAZThatLeadsNowhereAside) {
+    const Home home;
+    fs::create_directories(home.Data / "drives");
+    fs::create_symlink("/media/no such disk", home.Data / "drives/z:");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/z:"), "/");
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/z:.old"), "/media/no such disk");
+}
+
+TEST(MendDrives, KeepsAFileInPlaceOfZBesideEarlierOnes) {
+    const Home home;
+    fs::create_directories(home.Data / "drives");
+    WriteBytes(home.Data / "drives/z:", "a file");
+    WriteBytes(home.Data / "drives/z:.old", "an older file");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/z:"), "/");
+    EXPECT_EQ(BytesOf(home.Data / "drives/z:.old"), "an older file");
+    EXPECT_EQ(BytesOf(home.Data / "drives/z:.old2"), "a file");
+}
+
+TEST(MendDrives, KeepsAZThatIsADirectoryOfTheUsers) {
+    const Home home;
+    fs::create_directories(home.Data / "drives");
+    fs::create_directories(home.Scratch / "program");
+    fs::create_symlink(home.Scratch.Path(), home.Data / "drives/z:");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/z:"), home.Scratch.Path());
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'Z'}));
+}
+
+TEST(MendDrives, GivesAProgramThatLiesOnNoDriveTheLastFreeLetter) {
+    const Home home;
+    fs::create_directories(home.Data / "drives/y:");
+    fs::create_directories(home.Data / "other");
+    fs::create_symlink("../other", home.Data / "drives/z:");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/x:"), "/");
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/z:"), "../other");
+}
+
+TEST(MendDrives, MakesTheOwnDirectoryOfCAgain) {
+    const Home home;
+    ASSERT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    fs::remove(home.Data / "drive_c");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_TRUE(fs::is_directory(home.Data / "drives/c:"));
+}
+
+TEST(MendDrives, LeavesACWhoseDiskIsNotIn) {
+    const Home home;
+    ASSERT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    fs::remove(home.Data / "drives/c:");
+    fs::create_symlink("/media/no such disk", home.Data / "drives/c:");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/c:"), "/media/no such disk");
+}
+
+TEST(MendDrives, PutsACThatCanBeNoDiskAside) {
+    for (const bool circle : {false, true}) {
+        const Home home;
+        ASSERT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+        fs::remove(home.Data / "drives/c:");
+        if (circle) {
+            fs::create_symlink("c:", home.Data / "drives/c:");
+        } else {
+            WriteBytes(home.Data / "drives/c:", "a file");
+        }
+        EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+        EXPECT_EQ(fs::read_symlink(home.Data / "drives/c:"), "../drive_c");
+        EXPECT_TRUE(fs::exists(fs::symlink_status(home.Data / "drives/c:.old")));
+    }
+}
+
+TEST(MendDrives, ChangesNothingOfWholeDrives) {
+    const Home home;
+    ASSERT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    fs::create_symlink("/media/no such disk", home.Data / "drives/e:");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_EQ(std::distance(fs::directory_iterator(home.Data / "drives"), fs::directory_iterator()), 3);
+}
+
+TEST(MendDrives, TellsWhatItCannotMake) {
+    const Home home;
+    WriteBytes(home.Data, "a file");
+    EXPECT_EQ(MendDrives(home.Directories).Number, 76);
 }
 
 TEST(DriveEntry, LooksInTheWinePrefixForALetterThatIsMissing) {

@@ -47,7 +47,7 @@ std::string OnZ(const fs::path& host) {
 
 TEST(LinuxFiles, StartWithCAndZ) {
     Home home;
-    EXPECT_EQ(home.Disk.FirstDrivesFault().Number, 0);
+    EXPECT_EQ(home.Disk.DrivesFault().Number, 0);
     EXPECT_EQ(home.Disk.Drives(), (Names{"C:", "Z:"}));
     EXPECT_EQ(home.Disk.CurrentDirectory(), "C:\\");
     WriteBytes(home.C / "a.cfg", "x");
@@ -59,7 +59,7 @@ TEST(LinuxFiles, TellWhatKeptTheDrivesFromBeingMade) {
     const ScratchDirectory scratch;
     WriteBytes(scratch / "data", "a file");
     LinuxFiles disk({scratch / "data/drives", scratch / "wine", scratch / "program"});
-    EXPECT_EQ(disk.FirstDrivesFault().Number, 76);
+    EXPECT_EQ(disk.DrivesFault().Number, 76);
     EXPECT_EQ(disk.Drives(), Names());
     EXPECT_EQ(disk.ProbeDrive("C:").Number, 68);
     EXPECT_EQ(disk.Replace("C:\\A", "x").Number, 76);
