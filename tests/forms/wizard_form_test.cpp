@@ -52,6 +52,26 @@ TEST_F(WizardForm, FindsATickedGameAndListsItsPrograms) {
               "Quake;c:\\quake\\quake.exe;GL Quake;c:\\quake\\glquake.exe");
 }
 
+TEST_F(WizardForm, EachGameStandsInItsFrameWithAnArrowToItsPath) {
+    WhenModal([] {
+        for (int row = 0; row < 9; ++row) {
+            const std::string index = "(" + std::to_string(row) + ")";
+            const wxRect frame = Find("GameSetup_Fra" + index)->GetScreenRect();
+            EXPECT_TRUE(Find("GameSetup_Fra" + index)->IsShownOnScreen()) << row;
+            EXPECT_TRUE(Find("Label1" + index)->IsShownOnScreen()) << row;
+            EXPECT_EQ(Find("Label1" + index)->GetLabel(), "path -->") << row;
+            for (const char* part : {"GameIcon_Pic", "Game_Chk", "Label1", "GamePath_Txt", "Browse_Cmd"}) {
+                EXPECT_TRUE(frame.Contains(Find(part + index)->GetScreenRect())) << part << row;
+            }
+            EXPECT_LE(Find("Label1" + index)->GetScreenRect().GetRight(),
+                      Find("GamePath_Txt" + index)->GetScreenRect().GetLeft());
+            EXPECT_EQ(Find("Label1" + index)->GetScreenRect().GetLeft(), Find("Label1(0)")->GetScreenRect().GetLeft());
+        }
+        PressKey(WXK_ESCAPE);
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+}
+
 TEST_F(WizardForm, WalksTheDiskWhenTheUserWantsIt) {
     WhenModal([this] {
         ClickOn(Find("Game_Chk(4)"));
