@@ -12,9 +12,35 @@ namespace {
 
 constexpr double kMostOfScreen = 0.8;
 
+/// Captions of the buttons that leave everything as it is.
+constexpr TextView kQuietCaptions[] = {
+    "No",
+    "Cancel",
+    "Not OK",
+    "No Way!",
+    "No way",
+    "Not Cool",
+    "Decline",
+    "Ignore",
+    "Abort Launch",
+    "Cool - Thanks Man!",
+    "Cancel and I'll Try That",
+    "I'm smart enough to admit I don't know what I am doing",
+};
+
 /// The captions as the user sees them, without the mark of the access key.
 Text Shown(TextView caption) {
     return ReplaceText(caption, "&", "");
+}
+
+int QuietButtonOf(const std::vector<CommandButton>& buttons) {
+    if (buttons.size() == 1) {
+        return 0;
+    }
+    const auto quiet = std::ranges::find_if(buttons, [](const CommandButton& button) {
+        return std::ranges::find(kQuietCaptions, Shown(button.Caption)) != std::end(kQuietCaptions);
+    });
+    return quiet == buttons.end() ? -1 : static_cast<int>(quiet - buttons.begin());
 }
 
 struct Measure {
@@ -73,6 +99,8 @@ QuestionBox_Frm MakeQuestionBox(TextView title, TextView text, TextView buttons,
     }
     const int chosen = defaultButton < 0 || defaultButton >= count ? 0 : defaultButton;
     box.Button_Cmd[static_cast<std::size_t>(chosen)].Default = true;
+    box.QuietButton = QuietButtonOf(box.Button_Cmd);
+    box.LastButton = std::max(box.QuietButton, 0);  // of a box that goes with the program
     box.Display_Pic.Index = icon < 0 || icon >= kQuestionIcons ? 0 : icon;
     box.NotAgain_Chk.Caption = "Don't show this message again";
     box.NotAgain_Chk.Visible = false;

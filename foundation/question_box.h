@@ -34,11 +34,13 @@ struct QuestionBox_Frm {
     QuestionBoxLayout Layout;
     bool FixedWidth = false;  // show the text in a fixed-width font
 
+    int QuietButton = -1;  // pressed by closing the box and by Escape; -1: neither does anything
     int LastButton = 0;
     bool LastNotAgain = true;
 };
 
-/// What AskUser shows: captions split at ",", the default button and the icon held within their ranges.
+/// What AskUser shows: captions split at ",", the default button and the icon held within their ranges. The quiet
+/// button is the one that changes nothing, by its caption, or the only one.
 QuestionBox_Frm MakeQuestionBox(TextView title, TextView text, TextView buttons, int defaultButton, int icon);
 
 /// Measures the texts and fills the layout; the text is held within 0.8 of the screen and scrolls beyond that.

@@ -15,8 +15,7 @@ constexpr int kIndent = 3;  // blanks a level
 }  // namespace
 
 PathForm::PathForm(wxWindow* owner, Path_Frm& form)
-    : ModalForm(owner, form, [&form] { Path_Cancel_Cmd_Click(form); }), form_(form) {
-    Path_Load(form_);
+    : ModalForm(owner, form, [&form] { Path_Cancel_Cmd_Click(form); }), form_(form), place_(*this, form.Placement) {
     auto* drives = new wxChoice(this, wxID_ANY);
     SetSpokenName(drives->GetHandle(), "Drive");
     Controls.Bind("Drive1", form_.Drive1, drives, [this] {
@@ -52,14 +51,24 @@ PathForm::PathForm(wxWindow* owner, Path_Frm& form)
     ShowDirectories();
     Finish(MakeButton("OK_Cmd", form_.OK_Cmd, [this] { Path_OK_Cmd_Click(form_); }),
            MakeButton("Cancel_Cmd", form_.Cancel_Cmd, [this] { Path_Cancel_Cmd_Click(form_); }));
+    KeepSize();
+    Path_Load(form_);  // a first place is the middle for this size
+    place_.Put();
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        if (IsShown()) {
+            KeepSize();
+        }
+    });
 }
 
-PathForm::~PathForm() {
-    form_.Placement.Left = ToTwips(GetPosition().x);
-    form_.Placement.Top = ToTwips(GetPosition().y);
-    form_.Placement.Width = ToTwips(GetSize().x);
-    form_.Placement.Height = ToTwips(GetSize().y);
-    Path_Unload(form_);
+void PathForm::KeepSize() {
+    WindowPlacement& placement = form_.Placement;
+    placement.WindowState = IsMaximized() ? kWindowMaximised : kWindowNormal;
+    if (!IsMaximized()) {
+        placement.Width = ToTwips(GetSize().x);
+        placement.Height = ToTwips(GetSize().y);
+    }
 }
 
 void PathForm::ShowDirectories() {

@@ -7,6 +7,7 @@
 #include <wx/listbox.h>
 
 #include "catalogs/path_window.h"
+#include "foundation/forms/kept_place.h"
 #include "foundation/forms/modal_form.h"
 
 namespace lv {
@@ -14,12 +15,13 @@ namespace lv {
 class PathForm : public ModalForm {
   public:
     PathForm(wxWindow* owner, Path_Frm& form);
-    ~PathForm() override;
 
   private:
     void ShowDirectories();
+    void KeepSize();
 
     Path_Frm& form_;
+    KeptPlace place_;
     wxListBox* directories_ = nullptr;
     std::vector<Text> shown_;
 };

@@ -124,17 +124,23 @@ void Binder::Bind(const char* name, CommandButton& model, wxAnyButton* view, Han
     });
 }
 
-void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler click) {
+void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler click, const wxString& none) {
     view->Bind(wxEVT_CHOICE, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
         model.ListIndex = view->GetSelection();
+        if (!model.HasSelection()) {
+            model.ListIndex = -1;
+        }
         Run(click);
     });
-    Add(name, model, view, [&model, view, shown = std::vector<Text>(), full = MeasuredRow()]() mutable {
+    Add(name, model, view, [&model, view, none, shown = std::vector<Text>(), full = MeasuredRow()]() mutable {
         if (shown != model.Items) {
             shown = model.Items;
             wxArrayString rows;
             for (const Text& item : shown) {
                 rows.Add(ShownItem(item));
+            }
+            if (!none.empty() && !rows.empty()) {
+                rows.Add(none);
             }
             view->Set(rows);
         }

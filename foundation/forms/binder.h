@@ -36,7 +36,8 @@ class Binder {
     /// `shown` makes the label out of the caption; without it that is the label.
     void Bind(const char* name, CheckBox& model, wxCheckBox* view, Handler click, Text (*shown)(TextView) = nullptr);
     void Bind(const char* name, CommandButton& model, wxAnyButton* view, Handler click);
-    void Bind(const char* name, ListBox& model, wxChoice* view, Handler click);
+    /// `none` is a last row, on the screen alone, that takes the selection away; without it there is no such row.
+    void Bind(const char* name, ListBox& model, wxChoice* view, Handler click, const wxString& none = "");
     void Bind(const char* name, ListBox& model, wxListBox* view, Handler click);
     /// A list with a field: `typed` gets each text that is typed, and puts it into the list.
     void Bind(const char* name, ListBox& model, wxComboBox* view, Handler click, std::function<void(TextView)> typed);

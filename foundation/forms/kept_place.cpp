@@ -11,7 +11,7 @@ KeptPlace::KeptPlace(wxTopLevelWindow& window, WindowPlacement& placement) : win
     });
     window_.Bind(wxEVT_MOVE, [this](wxMoveEvent& event) {
         event.Skip();
-        if (kept_ && !window_.IsIconized() && window_.IsShown()) {
+        if (kept_ && !window_.IsIconized() && !window_.IsMaximized() && window_.IsShown()) {
             placement_.Left = ToTwips(window_.GetPosition().x);
             placement_.Top = ToTwips(window_.GetPosition().y);
         }
@@ -25,6 +25,9 @@ void KeptPlace::Put() {
     put_ = true;
     place_ = wxPoint(ToPixels(placement_.Left), ToPixels(placement_.Top));
     window_.Move(place_);
+    if (placement_.WindowState == kWindowMaximised) {  // a minimised one was not kept as such
+        window_.Maximize();
+    }
 }
 
 void KeptPlace::Forget() {
@@ -35,8 +38,11 @@ void KeptPlace::Forget() {
 // Some window managers place a new window themselves, whatever it asked for. The step aside is for the toolkit, which
 // believes the window to be where it was sent.
 void KeptPlace::Keep() {
-    if (put_ && !kept_) {
-        kept_ = true;
+    if (!put_ || kept_) {
+        return;
+    }
+    kept_ = true;
+    if (!window_.IsMaximized()) {
         window_.Move(place_ + wxPoint(1, 0));
         window_.Move(place_);
     }

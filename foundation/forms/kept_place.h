@@ -1,6 +1,6 @@
 // foundation/forms/kept_place.h
 //
-// Puts a window where it was left, and keeps note of where the user moves it.
+// Puts a window where it was left, maximised if it was that, and keeps note of where the user moves it.
 
 #pragma once
 
@@ -16,7 +16,7 @@ class KeptPlace {
     KeptPlace(const KeptPlace&) = delete;
     KeptPlace& operator=(const KeptPlace&) = delete;
 
-    /// Moves the window to its place. From the second time on it does nothing: the place is the user's then.
+    /// Gives the window its place and its state. From the second time on it does nothing: the place is the user's then.
     void Put();
     [[nodiscard]] bool IsPut() const { return put_; }
 

@@ -51,8 +51,22 @@ QuestionBoxForm::QuestionBoxForm(wxWindow* owner, QuestionBox_Frm& box)
     } else {
         CentreOnScreen();
     }
-    // A box with one button closes by Escape too; where there is a choice to make, it is made by a button.
-    SetEscapeId(buttons_.size() == 1 ? buttons_.front()->GetId() : wxID_NONE);
+    CloseByTheQuietButton();
+}
+
+// Where no button leaves everything as it is, the choice is made by a button.
+void QuestionBoxForm::CloseByTheQuietButton() {
+    const int quiet = box_.QuietButton;
+    SetEscapeId(quiet < 0 ? static_cast<int>(wxID_NONE) : buttons_[static_cast<std::size_t>(quiet)]->GetId());
+    Bind(wxEVT_CLOSE_WINDOW, [this, quiet](wxCloseEvent& event) {
+        if (quiet >= 0) {
+            Press(quiet);
+        } else if (event.CanVeto()) {
+            event.Veto();
+        } else {
+            event.Skip();
+        }
+    });
 }
 
 wxSizer* QuestionBoxForm::MakeMessage() {

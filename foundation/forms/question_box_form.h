@@ -24,6 +24,7 @@ class QuestionBoxForm : public wxDialog {
   private:
     wxSizer* MakeMessage();
     wxSizer* MakeButtons();
+    void CloseByTheQuietButton();
     void Press(int index);
 
     QuestionBox_Frm& box_;

@@ -60,8 +60,10 @@ class GameSpyForm : public ModalForm {
             grid.Add(new wxStaticText(parent, wxID_ANY, "as for Quake"), wxSizerFlags().CenterVertical());
             return;
         }
-        grid.Add(MakeList(parent, "ScriptSpy_Cbo", slot, form_.ScriptSpy_Cbo[slot],
-                          [this, slot] { GameSpyConfig_ScriptSpy_Cbo_Click(form_, slot); }),
+        grid.Add(MakeList(
+                     parent, "ScriptSpy_Cbo", slot, form_.ScriptSpy_Cbo[slot],
+                     [this, slot] { GameSpyConfig_ScriptSpy_Cbo_Click(form_, slot); },
+                     facts.Scripts == SpyScripts::InisOf ? "No ini file" : "No script"),
                  wxSizerFlags(1).Expand());
     }
 
@@ -75,10 +77,11 @@ class GameSpyForm : public ModalForm {
         return box;
     }
 
-    wxChoice* MakeList(wxWindow* parent, const char* name, std::size_t slot, ListBox& model, Binder::Handler click) {
+    wxChoice* MakeList(wxWindow* parent, const char* name, std::size_t slot, ListBox& model, Binder::Handler click,
+                       const wxString& none = "") {
         auto* list = new wxChoice(parent, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kListWidth, -1)));
         Controls.Bind(wxString::Format("%s(%d)", name, static_cast<int>(slot)).utf8_str(), model, list,
-                      std::move(click));
+                      std::move(click), none);
         return list;
     }
 

@@ -81,6 +81,36 @@ TEST_F(GameSpyFormTest, ListsAreUsedByKeyboard) {
     EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "SpyExecutablesPos0"), "1");
 }
 
+TEST_F(GameSpyFormTest, APickedScriptCanBeUnpicked) {
+    system.Disk.AddFile("C:\\gamespy\\gamespy.exe");
+    Save(run, kOptions, "SpyScriptsPos0", 0);
+    WhenModal([] {
+        auto* scripts = FindAs<wxChoice>("ScriptSpy_Cbo(0)");
+        EXPECT_EQ(scripts->GetStringSelection(), "My keys");
+        EXPECT_EQ(scripts->GetString(1), "No script");
+        scripts->SetFocus();
+        Settle();
+        PressKey(WXK_DOWN);
+        EXPECT_EQ(scripts->GetSelection(), wxNOT_FOUND);
+        Screenshot("game_spy_no_script");
+        ClickOn(Find("DoIt_Cmd"));
+    });
+    Show();
+    EXPECT_EQ(form.DialogResult, 1);
+    EXPECT_FALSE(form.ScriptSpy_Cbo[0].HasSelection());
+    EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "SpyScriptsPos0"), "-1");
+}
+
+TEST_F(GameSpyFormTest, AGameWithoutScriptsHasNoneToUnpick) {
+    system.Disk.AddFile("C:\\gamespy\\gamespy.exe");
+    WhenModal([] {
+        EXPECT_EQ(FindAs<wxChoice>("ScriptSpy_Cbo(4)")->GetCount(), 0u);
+        EXPECT_EQ(FindAs<wxChoice>("ScriptSpy_Cbo(3)")->GetString(1), "No script");
+        PressKey(WXK_ESCAPE);
+    });
+    Show();
+}
+
 /// Leaves the window that is up by then.
 struct LaterEscape : wxTimer {
     void Notify() override { PressKey(WXK_ESCAPE); }

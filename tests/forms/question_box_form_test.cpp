@@ -44,13 +44,28 @@ TEST_F(QuestionBoxForm_, AnAccessKeyPressesItsButton) {
     EXPECT_EQ(Ask("", "Would you like to set up your game executables?", "&Yes,&No"), 1);
 }
 
-TEST_F(QuestionBoxForm_, EscapeDoesNotAnswerAChoice) {
+TEST_F(QuestionBoxForm_, EscapePressesTheButtonThatChangesNothing) {
+    WhenModal([] { PressKey(WXK_ESCAPE); });
+    EXPECT_EQ(Ask("", "Question", "&Yes,&No"), 1);
+}
+
+TEST_F(QuestionBoxForm_, TheWindowManagerClosesItByTheButtonThatChangesNothing) {
+    WhenModal([] { PressKey(WXK_F4, wxMOD_ALT); });
+    EXPECT_EQ(Ask("", "Setup cancelled at users request.", "&OK,&Not OK"), 1);
+    WhenModal([] { PressKey(WXK_F4, wxMOD_ALT); });
+    EXPECT_EQ(Ask("", "Would you like to set up your game executables?", "&Yes,&No"), 1);
+    WhenModal([] { PressKey(WXK_F4, wxMOD_ALT); });
+    EXPECT_EQ(Ask("", "Text", "&OK"), 0);
+}
+
+TEST_F(QuestionBoxForm_, AChoiceWithoutAQuietButtonIsMadeByAButtonAlone) {
     WhenModal([] {
         PressKey(WXK_ESCAPE);
-        EXPECT_TRUE(Find("Button_Cmd(0)")->IsShownOnScreen());
-        ClickOn(Find("Button_Cmd(0)"));
+        PressKey(WXK_F4, wxMOD_ALT);
+        EXPECT_TRUE(Find("Button_Cmd(1)")->IsShownOnScreen());
+        ClickOn(Find("Button_Cmd(1)"));
     });
-    EXPECT_EQ(Ask("", "Question", "&Yes,&No", 1), 0);
+    EXPECT_EQ(Ask("", "Question", "&This,&That"), 1);
 }
 
 TEST_F(QuestionBoxForm_, AnEmptyTitleShowsTheProgramsName) {

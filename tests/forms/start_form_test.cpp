@@ -19,6 +19,7 @@ namespace {
 class StartForm : public ::testing::Test {
   protected:
     StartForm() {
+        system.Disk.AddDirectory("C:\\LORVANE");
         system.Disk.AddFile("C:\\QUAKE\\GLQUAKE.EXE");
         system.Disk.AddDirectory("C:\\QUAKE\\ID1");
         Save(run, kOptions, "Executables", "Quake;C:\\QUAKE\\GLQUAKE.EXE");
@@ -29,6 +30,8 @@ class StartForm : public ::testing::Test {
         form->Destroy();
         Settle();
     }
+
+    static wxFrame* Shown() { return dynamic_cast<wxFrame*>(wxWindow::FindWindowByName("VideoProfile_Frm")); }
 
     MemoryPlatform system;
     WxUser user{system.Disk};
@@ -42,14 +45,14 @@ TEST_F(StartForm, TheVideoProfileWindowAndItsNoteComeUpInFrontOfTheMainWindow) {
     Save(run, "VideoProfile_Frm", "LoadAtStartup", "1");
     WhenModal([this] {
         Screenshot("start_with_video_profiles");
-        auto* note = FindAs<wxDialog>("QuestionBox_Frm");
-        EXPECT_TRUE(note->IsActive());
-        EXPECT_TRUE(FindAs<wxFrame>("VideoProfile_Frm")->IsShownOnScreen());
+        EXPECT_EQ(Find("QuestionBox_Frm")->GetLabel(), "Video Profiles");
+        EXPECT_TRUE(FindAs<wxDialog>("QuestionBox_Frm")->IsActive());
+        EXPECT_TRUE(Shown() != nullptr && Shown()->IsShownOnScreen());
         EXPECT_TRUE(form->IsShownOnScreen());
         ClickOn(Find("Button_Cmd(0)"));  // where the main window would lie above it
     });
     EXPECT_TRUE(Start(launcher));
-    EXPECT_TRUE(SettleUntil([] { return FindAs<wxFrame>("VideoProfile_Frm")->IsActive(); }));
+    EXPECT_TRUE(SettleUntil([] { return Shown() != nullptr && Shown()->IsActive(); }));
     BringForward(form);
     ClickOn(Find("NOCDAUDIO_Chk"));
     EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "NoCDAudio"), "1");
@@ -58,7 +61,7 @@ TEST_F(StartForm, TheVideoProfileWindowAndItsNoteComeUpInFrontOfTheMainWindow) {
 TEST_F(StartForm, WithoutItTheMainWindowHasTheKeyboard) {
     EXPECT_TRUE(Start(launcher));
     EXPECT_TRUE(SettleUntil([this] { return form->IsActive(); }));
-    EXPECT_EQ(wxWindow::FindWindowByName("VideoProfile_Frm"), nullptr);
+    EXPECT_EQ(Shown(), nullptr);
 }
 
 }  // namespace

@@ -228,6 +228,15 @@ TEST_F(VideoProfileForm_, ComesBackWhereItWasLeft) {
     EXPECT_NEAR(Shown()->GetPosition().y, left.y, 2);
 }
 
+TEST_F(VideoProfileForm_, ComesUpMaximisedIfItWasLeftSo) {
+    Save(run, "VideoProfile_Frm", "WindowState", 2);
+    Open();
+    EXPECT_TRUE(SettleUntil([] { return Shown()->IsMaximized(); }));
+    Shown()->Close();
+    EXPECT_TRUE(SettleUntil([] { return !Shown()->IsShown(); }));
+    EXPECT_EQ(GetSetting(run, run.AppName, "VideoProfile_Frm", "WindowState"), "2");
+}
+
 TEST_F(VideoProfileForm_, TheMainWindowMinimisedUnderAWarningTakesNothingAway) {
     Open();
     FindAs<wxChoice>("SST_GRXCLK_Cbo")->SetFocus();

@@ -1,6 +1,10 @@
 #include <gtest/gtest.h>
 #include <wx/checkbox.h>
+#include <wx/display.h>
 #include <wx/textctrl.h>
+
+#include <cstdlib>
+#include <functional>
 
 #include "catalogs/forms/entry_forms.h"
 #include "foundation/forms/wx_user.h"
@@ -48,6 +52,26 @@ TEST_F(WizardForm, FindsATickedGameAndListsItsPrograms) {
               "Quake;c:\\quake\\quake.exe;GL Quake;c:\\quake\\glquake.exe");
 }
 
+TEST_F(WizardForm, EachGameStandsInItsFrameWithAnArrowToItsPath) {
+    WhenModal([] {
+        for (int row = 0; row < 9; ++row) {
+            const std::string index = "(" + std::to_string(row) + ")";
+            const wxRect frame = Find("GameSetup_Fra" + index)->GetScreenRect();
+            EXPECT_TRUE(Find("GameSetup_Fra" + index)->IsShownOnScreen()) << row;
+            EXPECT_TRUE(Find("Label1" + index)->IsShownOnScreen()) << row;
+            EXPECT_EQ(Find("Label1" + index)->GetLabel(), "path -->") << row;
+            for (const char* part : {"GameIcon_Pic", "Game_Chk", "Label1", "GamePath_Txt", "Browse_Cmd"}) {
+                EXPECT_TRUE(frame.Contains(Find(part + index)->GetScreenRect())) << part << row;
+            }
+            EXPECT_LE(Find("Label1" + index)->GetScreenRect().GetRight(),
+                      Find("GamePath_Txt" + index)->GetScreenRect().GetLeft());
+            EXPECT_EQ(Find("Label1" + index)->GetScreenRect().GetLeft(), Find("Label1(0)")->GetScreenRect().GetLeft());
+        }
+        PressKey(WXK_ESCAPE);
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+}
+
 TEST_F(WizardForm, WalksTheDiskWhenTheUserWantsIt) {
     WhenModal([this] {
         ClickOn(Find("Game_Chk(4)"));
@@ -82,6 +106,66 @@ TEST_F(WizardForm, BrowsesForADirectoryByKeyboard) {
         PressKey(WXK_ESCAPE);
     });
     EXPECT_FALSE(ShowInstallWizard(launcher));
+}
+
+TEST_F(WizardForm, TheChoiceOfADirectoryComesUpWhereItWasLeft) {
+    const auto browse = [](const std::function<void(wxTopLevelWindow*)>& act) {
+        DoAndAnswer([] { ClickOn(Find("Browse_Cmd(0)")); },
+                    [&act] {
+                        act(FindAs<wxTopLevelWindow>("Path_Frm"));
+                        PressKey(WXK_ESCAPE);
+                    });
+    };
+    WhenModal([&] {
+        wxPoint left;
+        browse([&left](wxTopLevelWindow* form) {
+            EXPECT_TRUE(SettleUntil([form] { return form->IsActive(); }));
+            form->Move(70, 90);
+            Settle(400);
+            left = form->GetPosition();
+        });
+        EXPECT_NEAR(left.x, 70, 20);
+        browse([&left](wxTopLevelWindow* form) {
+            EXPECT_TRUE(SettleUntil([form, left] {
+                const wxPoint now = form->GetPosition();
+                return std::abs(now.x - left.x) <= 2 && std::abs(now.y - left.y) <= 2;
+            })) << form->GetPosition().x
+                << ", " << form->GetPosition().y;
+        });
+        PressKey(WXK_ESCAPE);
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+}
+
+TEST_F(WizardForm, TheChoiceOfADirectoryFirstComesUpInTheMiddleOfTheScreen) {
+    WhenModal([] {
+        DoAndAnswer([] { ClickOn(Find("Browse_Cmd(0)")); },
+                    [] {
+                        Settle(300);
+                        const wxRect place = Find("Path_Frm")->GetScreenRect();
+                        const wxRect screen = wxDisplay(0U).GetClientArea();
+                        EXPECT_NEAR(place.x + place.width / 2, screen.width / 2, 30);
+                        EXPECT_NEAR(place.y + place.height / 2, screen.height / 2, 40);
+                        PressKey(WXK_ESCAPE);
+                    });
+        PressKey(WXK_ESCAPE);
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+}
+
+TEST_F(WizardForm, TheChoiceOfADirectoryComesUpMaximisedIfItWasLeftSo) {
+    Save(run, "Path_Frm", "WindowState", 2);
+    WhenModal([] {
+        DoAndAnswer([] { ClickOn(Find("Browse_Cmd(0)")); },
+                    [] {
+                        auto* form = FindAs<wxTopLevelWindow>("Path_Frm");
+                        EXPECT_TRUE(SettleUntil([form] { return form->IsMaximized(); }));
+                        PressKey(WXK_ESCAPE);
+                    });
+        PressKey(WXK_ESCAPE);
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+    EXPECT_EQ(GetSetting(run, run.AppName, "Path_Frm", "WindowState"), "2");
 }
 
 }  // namespace

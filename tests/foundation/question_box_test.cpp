@@ -66,6 +66,43 @@ TEST_F(QuestionBoxTest, AnIconOutsideBecomesTheFirst) {
     EXPECT_EQ(MakeQuestionBox("T", "x", "&OK", 0, -1).Display_Pic.Index, 0);
 }
 
+struct QuietCase {
+    const char* Buttons;
+    int Quiet;
+};
+
+// Every list of buttons that the program shows.
+constexpr QuietCase kQuietCases[] = {
+    {"&OK", 0},
+    {"&Cool", 0},
+    {"DOH!", 0},
+    {"&Thanks SetupFoundry!", 0},
+    {"&Yes,&No", 1},
+    {"&Yes,&Cancel", 1},
+    {"&OK,&Not OK", 1},
+    {"&OK,&No Way!", 1},
+    {"&Cool,&Not Cool", 1},
+    {"&Do it!,&No", 1},
+    {"&Accept,&Decline", 1},
+    {"&Yep - that's it!,&No way", 1},
+    {"I &deleted this Game,I &moved this Game, I&gnore", 2},
+    {"&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!", 0},
+    {"&That's OK,&Abort Launch", 1},
+    {"&I Don't Care,&Cancel,&Tell Me How To Avoid This", 1},
+    {"&Screw That - Save This Anyway,&Cancel and I'll Try That", 1},
+    {"&Of Course I Am a GLQuake GOD,&I'm smart enough to admit I don't know what I am doing", 1},
+    {"&I Know All,&I'm smart enough to admit I don't know what I am doing", 1},
+    {"&A,&B,&C", -1},
+};
+
+TEST_F(QuestionBoxTest, ClosesByTheButtonThatChangesNothing) {
+    for (const QuietCase& one : kQuietCases) {
+        const QuestionBox_Frm box = MakeQuestionBox("T", "x", one.Buttons, 0, 0);
+        EXPECT_EQ(box.QuietButton, one.Quiet) << one.Buttons;
+        EXPECT_EQ(box.LastButton, one.Quiet < 0 ? 0 : one.Quiet) << one.Buttons;
+    }
+}
+
 TEST_F(QuestionBoxTest, AnEmptyTitleBecomesTheProgramsForTheCallerToo) {
     Text title;
     user.Expect({"Lorvane 3D", "x", 0, false, true});

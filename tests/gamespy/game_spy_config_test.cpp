@@ -181,6 +181,19 @@ TEST_F(GameSpyConfig, AResetScriptStaysUnselectedNextTime) {
     EXPECT_EQ(next.ScriptSpy_Cbo[0].ListIndex, -1);
 }
 
+TEST_F(GameSpyConfig, AnUnpickedScriptStaysUnpickedNextTime) {
+    AddQuakes();
+    Save(run, kOptions, "Scripts", "Mine;c:\\quake\\id1\\my.cfg");
+    Save(run, kOptions, "SpyScriptsPos0", 0);
+    GameSpyConfig_Load(form);
+    form.ScriptSpy_Cbo[0].ListIndex = -1;
+    GameSpyConfig_ScriptSpy_Cbo_Click(form, 0);
+    EXPECT_EQ(Stored(kOptions, "SpyScriptsPos0"), "-1");
+    GameSpyConfig_Frm next(run, executables);
+    GameSpyConfig_Load(next);
+    EXPECT_FALSE(next.ScriptSpy_Cbo[0].HasSelection());
+}
+
 TEST_F(GameSpyConfig, AnExecutableOfTheSameDirectoryKeepsTheScript) {
     AddQuakes();
     Save(run, kOptions, "Scripts", "Mine;c:\\quake\\id1\\my.cfg");

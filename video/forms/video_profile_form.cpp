@@ -85,8 +85,8 @@ void VideoProfileForm::KeepSize() {
         return;
     }
     WindowPlacement& placement = model_.Placement;
-    placement.WindowState = IsIconized() ? kWindowMinimised : kWindowNormal;
-    if (!IsIconized()) {
+    placement.WindowState = IsIconized() ? kWindowMinimised : IsMaximized() ? kWindowMaximised : kWindowNormal;
+    if (placement.WindowState == kWindowNormal) {
         placement.Width = ToTwips(GetSize().x);
         placement.Height = ToTwips(GetSize().y);
     }
@@ -262,9 +262,11 @@ void VideoProfileForm::FitToContent() {
     const wxSize client = ScrolledSize(wanted, room, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, content_));
     content_->ShowScrollbars(client.x < wanted.x ? wxSHOW_SB_ALWAYS : wxSHOW_SB_NEVER,
                              client.y < wanted.y ? wxSHOW_SB_ALWAYS : wxSHOW_SB_NEVER);
-    SetClientSize(client);
+    if (!IsMaximized()) {
+        SetClientSize(client);
+    }
     content_->Layout();
-    if (IsShown()) {
+    if (IsShown() && !IsMaximized()) {
         StayOnScreen();
     }
 }

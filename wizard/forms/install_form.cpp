@@ -1,7 +1,11 @@
 #include "wizard/forms/install_form.h"
 
 #include <wx/button.h>
+#include <wx/panel.h>
 #include <wx/statbmp.h>
+
+#include <algorithm>
+#include <vector>
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
@@ -13,6 +17,7 @@ namespace lv {
 namespace {
 
 constexpr int kGap = 6;
+constexpr int kRowGap = 2;
 constexpr int kTextWidth = 560;  // at 100 %
 
 class InstallForm : public ModalForm {
@@ -51,32 +56,49 @@ class InstallForm : public ModalForm {
     }
 
     void MakeRows() {
-        auto* grid = new wxFlexGridSizer(4, kGap, kGap);
-        grid->AddGrowableCol(2);
+        auto* rows = new wxBoxSizer(wxVERTICAL);
+        std::vector<wxWindow*> ticks;
+        int widest = 0;
         for (std::size_t i = 0; i < kInstallRows; ++i) {
-            MakeRow(*grid, i);
+            ticks.push_back(MakeRow(*rows, i));
+            widest = std::max(widest, ticks.back()->GetBestSize().x);
         }
-        AddWide(grid);
+        for (wxWindow* tick : ticks) {
+            tick->SetMinSize(wxSize(widest, -1));  // what stands behind them stands below each other
+        }
+        AddWide(rows);
     }
 
-    void MakeRow(wxFlexGridSizer& grid, std::size_t at) {
+    /// The row's check box.
+    wxWindow* MakeRow(wxSizer& rows, std::size_t at) {
         const int row = static_cast<int>(at);
         const auto named = [row](const char* name) { return wxString::Format("%s(%d)", name, row); };
         const InstallRow& facts = InstallRows()[at];
-        auto* picture = new wxStaticBitmap(this, wxID_ANY, PictureOf(Join("icons/games/", facts.Picture), 24));
+        auto* frame = new wxPanel(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxBORDER_THEME);
+        Controls.Bind(named("GameSetup_Fra").utf8_str(), form_.GameSetup_Fra[at], frame);
+        auto* picture = new wxStaticBitmap(frame, wxID_ANY, PictureOf(Join("icons/games/", facts.Picture), 24));
         picture->SetName(named("GameIcon_Pic"));
         auto* tick =
-            new wxCheckBox(this, wxID_ANY, ToWx(facts.Caption), wxDefaultPosition, wxDefaultSize, wxCHK_3STATE);
+            new wxCheckBox(frame, wxID_ANY, ToWx(facts.Caption), wxDefaultPosition, wxDefaultSize, wxCHK_3STATE);
         Controls.Bind(named("Game_Chk").utf8_str(), form_.Game_Chk[at], tick, [] {});
-        auto* path = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(300, -1)));
+        wxStaticText* arrow = MakeLabel(frame, named("Label1").utf8_str(), form_.Label1[at]);
+        auto* path = new wxTextCtrl(frame, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(300, -1)));
         Controls.Bind(named("GamePath_Txt").utf8_str(), form_.GamePath_Txt[at], path, [] {});
         SetSpokenName(path->GetHandle(), Join("Directory of ", facts.Name));
-        wxButton* browse = MakeButton(named("Browse_Cmd").utf8_str(), form_.Browse_Cmd[at],
-                                      [this, row] { Install_Browse_Cmd_Click(form_, row); });
-        grid.Add(picture, wxSizerFlags().CenterVertical());
-        grid.Add(tick, wxSizerFlags().CenterVertical());
-        grid.Add(path, wxSizerFlags(1).Expand().CenterVertical());
-        grid.Add(browse, wxSizerFlags().CenterVertical());
+        auto* browse = new wxButton(frame, wxID_ANY, ToWx(form_.Browse_Cmd[at].Caption));
+        Controls.Bind(named("Browse_Cmd").utf8_str(), form_.Browse_Cmd[at], browse,
+                      [this, row] { Install_Browse_Cmd_Click(form_, row); });
+        auto* line = new wxBoxSizer(wxHORIZONTAL);
+        line->Add(picture, wxSizerFlags().CenterVertical().Border(wxLEFT, kGap));
+        for (wxWindow* window : {static_cast<wxWindow*>(tick), static_cast<wxWindow*>(arrow)}) {
+            line->Add(window, wxSizerFlags().CenterVertical().Border(wxLEFT, kGap));
+        }
+        line->Add(path, wxSizerFlags(1).CenterVertical().Border(wxLEFT, kGap));
+        line->AddSpacer(kGap - kRowGap);
+        line->Add(browse, wxSizerFlags().CenterVertical().Border(wxALL, kRowGap));
+        frame->SetSizer(line);
+        rows.Add(frame, wxSizerFlags().Expand().Border(wxBOTTOM, kRowGap));
+        return tick;
     }
 
     void MakeSearch() {
