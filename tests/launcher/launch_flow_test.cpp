@@ -478,7 +478,5 @@ TEST_F(LaunchFlow, UnrealsIniIsNotRewrittenForALaunchThatIsRefused) {
     EXPECT_EQ(system.Disk.Log.size(), writes);
 }
 
-}
-
 }  // namespace
 }  // namespace lv
