@@ -48,7 +48,9 @@ class Finder {
 
   private:
     [[nodiscard]] bool In(TextView text) const {
-        return !std::ranges::search(text, wanted_, {}, [](char c) { return LowerCase(c); }).empty();
+        const auto same = [](char c, char wanted) { return LowerCase(c) == wanted; };
+        return !wanted_.empty() &&
+               std::search(text.begin(), text.end(), wanted_.begin(), wanted_.end(), same) != text.end();
     }
 
     void FindSettings() {

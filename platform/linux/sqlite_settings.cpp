@@ -164,6 +164,9 @@ std::optional<std::string> SqliteSettings::Read(std::string_view application, st
 
 Error SqliteSettings::Write(std::string_view application, std::string_view section, std::string_view key,
                             std::string_view value) {
+    if (asking_) {
+        return MakeError(error::kAlreadyOpen);  // what asks may be in the middle of a transaction
+    }
     if (depth_ > 0 && groupFault_) {
         return groupFault_;
     }
@@ -227,7 +230,7 @@ void SqliteSettings::BeginGroup() {
 }
 
 Error SqliteSettings::EndGroup() {
-    if (depth_ == 0 || --depth_ > 0) {
+    if (depth_ == 0 || --depth_ > 0 || asking_) {
         return {};
     }
     const bool begun = sqlite3_get_autocommit(database_.get()) == 0;

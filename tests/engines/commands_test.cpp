@@ -133,11 +133,10 @@ TEST(CommandsOnTheWineRoad, NoMapScriptOrServerOfUnrealIsOne) {
     DoIt_Cmd_Click(yard.launcher, 0);
     const fs::path system = yard.C / "Unreal/System";
     EXPECT_THAT(ArgumentsIn(system / "output.txt"),
-                ElementsAre("10.0&echo srv>srvpwn.txt&.0.1:7777", "x&echo pwned>pwned1.txt&.unr", "-nohard",
-                            "INI=my&evil&.ini"));
+                ElementsAre("10.0&echo srv>srvpwn.txt&.0.1:7777", "x&echo pwned>pwned1.txt&.unr", "INI=my&evil&.ini"));
     EXPECT_EQ(ReadBytes(system / "lv_666.bat"),
-              "C:\r\ncd C:\\Unreal\\System\r\nUNREAL.EXE 10.0&echo srv>srvpwn.txt&.0.1:7777 "
-              "x&echo pwned>pwned1.txt&.unr -nohard INI=my&evil&.ini ");
+              "C:\r\ncd c:\\unreal\\system\r\nUNREAL.EXE 10.0&echo srv>srvpwn.txt&.0.1:7777 "
+              "x&echo pwned>pwned1.txt&.unr INI=my&evil&.ini ");
     LetTheRestRun();
     EXPECT_THAT(yard.Pwned(), IsEmpty());
 }
@@ -153,7 +152,7 @@ TEST(CommandsOnTheWineRoad, NoModificationIsOne) {
         yard.PickModification("-game " + name);
         DoIt_Cmd_Click(yard.launcher, 0);
         EXPECT_THAT(ArgumentsIn(yard.C / "Quake/output.txt"), ElementsAre("-zone", "512", "-game", name));
-        EXPECT_EQ(ReadBytes(yard.C / "Quake/lv_666.bat"), "C:\r\ncd C:\\Quake\r\nGLQUAKE.EXE -zone 512 -game " + name);
+        EXPECT_EQ(ReadBytes(yard.C / "Quake/lv_666.bat"), "C:\r\ncd c:\\quake\r\nGLQUAKE.EXE -zone 512 -game " + name);
         EXPECT_THAT(yard.Pwned(), IsEmpty());
     }
 }

@@ -47,22 +47,25 @@ TEST(SettingsLayout, ReadNoView) {
     ExpectLeftAlone(scratch / "s", bytes);
 }
 
-TEST(SettingsLayout, CallNothingThatAColumnComputes) {
-    ExpectNothingIsRun("ALTER TABLE setting ADD COLUMN x TEXT AS (stranger(value)) VIRTUAL;");
+TEST(SettingsLayout, PassOverAColumnOfAnothers) {
     ExpectNothingIsRun("ALTER TABLE setting ADD COLUMN x TEXT AS (upper(value)) VIRTUAL;");
+    ExpectNothingIsRun("ALTER TABLE setting ADD COLUMN x TEXT DEFAULT 'mine';");
 }
 
-TEST(SettingsLayout, RefuseAColumnThatWouldBeRunAtEachWrite) {
-    const ScratchDirectory scratch;
-    RunSql(scratch / "s",
-           "CREATE TABLE setting(application TEXT NOT NULL COLLATE NOCASE, section TEXT NOT NULL COLLATE NOCASE,"
-           " key TEXT NOT NULL COLLATE NOCASE, value TEXT NOT NULL, x TEXT AS (stranger(value)) STORED,"
-           " PRIMARY KEY (application, section, key)) WITHOUT ROWID; PRAGMA user_version = 1;");
-    const std::string bytes = BytesOf(scratch / "s");
-    const auto opened = SqliteSettings::Open(scratch / "s");
-    EXPECT_EQ(opened.Fault.Number, 75);
-    EXPECT_NE(opened.Fault.Text.find("stranger()"), std::string::npos) << opened.Fault.Text;
-    ExpectLeftAlone(scratch / "s", bytes);
+TEST(SettingsLayout, RefuseAColumnThatCallsWhatItMayNot) {
+    for (const char* const kind : {"STORED", "VIRTUAL"}) {
+        const ScratchDirectory scratch;
+        RunSql(scratch / "s",
+               "CREATE TABLE setting(application TEXT NOT NULL COLLATE NOCASE, section TEXT NOT NULL COLLATE NOCASE,"
+               " key TEXT NOT NULL COLLATE NOCASE, value TEXT NOT NULL, x TEXT AS (stranger(value)) " +
+                   std::string(kind) +
+                   ", PRIMARY KEY (application, section, key)) WITHOUT ROWID; PRAGMA user_version = 1;");
+        const std::string bytes = BytesOf(scratch / "s");
+        const auto opened = SqliteSettings::Open(scratch / "s");
+        EXPECT_EQ(opened.Fault.Number, 75) << kind;
+        EXPECT_NE(opened.Fault.Text.find("stranger()"), std::string::npos) << opened.Fault.Text;
+        ExpectLeftAlone(scratch / "s", bytes);
+    }
 }
 
 TEST(SettingsLayout, HoldWhatAColumnComputesWithinBounds) {

@@ -150,6 +150,11 @@ TEST(LockedSettings, AskAtTheEndOfAWriteToo) {
     const auto opened = SqliteSettings::Open(scratch / "s", 100);
     opened.Value->WhenLocked([&](const Error& reason) {
         EXPECT_EQ(reason.Text, LockedBy(scratch / "s", holder));
+        {
+            const SettingsGroup another(*opened.Value);
+            EXPECT_EQ(opened.Value->Write(kApp, "Options", "b", "2").Number, 55);
+        }
+        EXPECT_EQ(opened.Value->Write(kApp, "Options", "b", "2").Number, 55);
         LetGo(holder);
         return true;
     });
