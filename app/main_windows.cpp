@@ -7,6 +7,7 @@
 #include "app/lorvane_app.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "launcher/window_life.h"
+#include "platform/windows/access_keys.h"
 #include "platform/windows/registry_settings.h"
 #include "platform/windows/windows_clock.h"
 #include "platform/windows/windows_desktop.h"
@@ -47,6 +48,7 @@ struct WindowsSystem {
     WindowsClock Time;
     WindowsInstance Instance{"   Lorvane 3D"};
     WindowsDesktop Desk;
+    AccessKeys Keys;
     Platform Services{Settings, Registry, Disk, Programs, Clip, Time};
 };
 
