@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "catalogs/forms/entry_forms.h"
+#include "foundation/forms/wx_text.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundry/forms/fig_form.h"
@@ -22,6 +23,7 @@
 #include "gamespy/forms/game_spy_form.h"
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
+#include "launcher/forms/splash_form.h"
 #include "launcher/start.h"
 #include "launcher/window_life.h"
 #include "video/forms/add_vid_profile_form.h"
@@ -70,18 +72,14 @@ class LorvaneApp : public wxApp {
         // Nothing here is brought in line that way, and the editor has a thousand windows to ask at each idle moment.
         wxUpdateUIEvent::SetMode(wxUPDATE_UI_PROCESS_SPECIFIED);
         wxIdleEvent::SetMode(wxIDLE_PROCESS_SPECIFIED);
-        auto host = System::Make();
-        if (!host) {
-            return false;
-        }
-        program_ = std::make_unique<Program<System>>(std::move(host));
-        wxHelpProvider::Set(new wxSimpleHelpProvider);
-        form_ = new LvForm(program_->TheLauncher, program_->User);
-        SetTopWindow(form_);
         SetExitOnFrameDelete(false);
-        LetTheSessionEnd();
-        CallAfter([this] { StartInsideTheLoop(); });
+        splash_ = new SplashForm([this] { StartInsideTheLoop(); });
         return true;
+    }
+
+    int OnRun() override {
+        const int code = wxApp::OnRun();
+        return program_ ? code : kNotBegun;
     }
 
     int OnExit() override {
@@ -105,15 +103,37 @@ class LorvaneApp : public wxApp {
         try {
             throw;
         } catch (const std::exception& thrown) {
-            TellOfGivenUpWork(program_->TheRun, ErrorOfException(thrown));
+            TellOf(ErrorOfException(thrown));
         } catch (...) {
-            TellOfGivenUpWork(program_->TheRun, MakeError(error::kInternal));
+            TellOf(MakeError(error::kInternal));
         }
+    }
+
+    void TellOf(const Error& fault) {
+        if (program_) {
+            TellOfGivenUpWork(program_->TheRun, fault);
+        } else {
+            wxSafeShowMessage(GetAppDisplayName(), ToWx(fault.Text));
+        }
+    }
+
+    // False if the user was told why there is no program.
+    bool MakeProgram() {
+        auto host = System::Make();
+        if (!host) {
+            return false;
+        }
+        program_ = std::make_unique<Program<System>>(std::move(host));
+        wxHelpProvider::Set(new wxSimpleHelpProvider);
+        form_ = new LvForm(program_->TheLauncher, program_->User, splash_);
+        SetTopWindow(form_);
+        LetTheSessionEnd();
+        return true;
     }
 
     bool StartOrTell() {
         try {
-            return Start(program_->TheLauncher);
+            return MakeProgram() && Start(program_->TheLauncher);
         } catch (...) {
             OnExceptionInMainLoop();
             return false;
@@ -143,13 +163,17 @@ class LorvaneApp : public wxApp {
     }
 
     void End() {
-        form_->Destroy();
+        if (form_ != nullptr) {
+            form_->Destroy();
+        }
         ExitMainLoop();
     }
 
     static constexpr int kLookMilliseconds = 250;
+    static constexpr int kNotBegun = -1;
 
     bool telling_ = false;
+    SplashForm* splash_ = nullptr;
     LvForm* form_ = nullptr;
     wxTimer look_;
     std::unique_ptr<Program<System>> program_;

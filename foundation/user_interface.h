@@ -83,6 +83,9 @@ class UserInterface {
     /// Whether a tray shows icons now. Without one a hidden window could not be brought back.
     virtual bool TrayAvailable() { return false; }
 
+    /// Makes what the main window needs to come up, out of sight, where there is time ahead of it.
+    virtual void PrepareMainWindow() {}
+
     /// Handles events until the main window is on the screen and has the keyboard, for a second at most. A window that
     /// is shown comes up later, and would come up in front of what has been opened meanwhile.
     virtual void AwaitMainWindow() {}

@@ -93,7 +93,7 @@ bool Start(Launcher& launcher) {
     launcher.Window.Caption = run.MainWindowCaption;
     InformUser(run, splash, " Processing Events");
     run.User.PumpEvents();
-    PauseSeconds(run, kSecondsBehindTheLoad);
+    PauseSeconds(run, kSecondsBehindTheLoad, [&run] { run.User.PrepareMainWindow(); });
     UnloadSplash(run, splash);
     if (run.Ended) {
         return false;  // an event of that second ended the program

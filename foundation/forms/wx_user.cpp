@@ -11,6 +11,7 @@
 #include <wx/settings.h>
 #include <wx/stopwatch.h>
 #include <wx/taskbar.h>
+#include <wx/textctrl.h>
 #include <wx/textdlg.h>
 #include <wx/toplevel.h>
 #include <wx/utils.h>
@@ -20,6 +21,8 @@
 #include "foundation/forms/small_dialogs.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/spoken_name.h"
+#include "platform/warm_up.h"
 #include "platform/web_browser.h"
 
 namespace lv {
@@ -184,6 +187,11 @@ void WxUser::ShowConfirmExit(ConfirmExit_Frm& confirm) {
 std::optional<Text> WxUser::InputBox(TextView title, TextView prompt, TextView offered) {
     wxTextEntryDialog dialog(Owner(), ToWx(prompt), ToWx(title), ToWx(offered));
     dialog.SetName("InputBox");
+    for (wxWindow* child : dialog.GetChildren()) {
+        if (auto* field = dynamic_cast<wxTextCtrl*>(child)) {
+            SetSpokenName(field->GetHandle(), ToUtf8(prompt));
+        }
+    }
     if (dialog.ShowModal() != wxID_OK) {
         return std::nullopt;
     }
@@ -209,6 +217,12 @@ Error WxUser::OpenUrl(TextView address) {
 
 bool WxUser::TrayAvailable() {
     return wxTaskBarIcon::IsAvailable();
+}
+
+void WxUser::PrepareMainWindow() {
+    if (activeForm_ != nullptr) {
+        WarmUp(activeForm_->GetHandle());
+    }
 }
 
 void WxUser::AwaitMainWindow() {

@@ -57,6 +57,7 @@ class WxUser : public UserInterface {
     Error OpenHelp(TextView path) override;
     Error OpenUrl(TextView address) override;
     bool TrayAvailable() override;
+    void PrepareMainWindow() override;
     void AwaitMainWindow() override;
     void RaiseMainWindow() override;
     void PopUpMenu(TextView menu) override;

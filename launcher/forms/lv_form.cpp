@@ -19,13 +19,14 @@ constexpr int kPutBacks = 2;  // tries to give the window its size back
 
 }  // namespace
 
-LvForm::LvForm(Launcher& launcher, WxUser& user)
+LvForm::LvForm(Launcher& launcher, WxUser& user, SplashForm* splash)
     : wxFrame(nullptr, wxID_ANY, ToWx(launcher.Window.Caption), wxDefaultPosition, wxDefaultSize,
               wxDEFAULT_FRAME_STYLE & ~wxMAXIMIZE_BOX),
       launcher_(launcher),
       user_(user),
       binder_([&user] { user.Refresh(); }),
       place_(*this, launcher.Window.Placement),
+      splash_(splash),
       sizeTimer_(this) {
     SetName("LV_Frm");
     SetIcons(ProgramIcon());
@@ -40,6 +41,9 @@ LvForm::LvForm(Launcher& launcher, WxUser& user)
 }
 
 LvForm::~LvForm() {
+    if (splash_) {
+        splash_->Destroy();
+    }
     user_.SetActiveForm(nullptr);
     user_.OnRefresh(this, {});
     user_.OnPopUp({});
@@ -124,12 +128,7 @@ void LvForm::ShowState() {
     showing_ = true;
     LV_Frm& window = launcher_.Window;
     window.Hint_Lbl.Caption = HintText(launcher_);
-    if (launcher_.Splash.Visible && !splash_) {
-        splash_ = std::make_unique<SplashForm>(launcher_);
-    }
-    if (splash_) {
-        splash_->ShowState();
-    }
+    ShowSplash();
     if (GetTitle() != ToWx(window.Caption)) {
         SetTitle(ToWx(window.Caption));
     }
@@ -140,6 +139,19 @@ void LvForm::ShowState() {
     ShowPresence();
     ShowTray();
     showing_ = false;
+}
+
+void LvForm::ShowSplash() {
+    if (launcher_.Splash.Visible && !splash_) {
+        splash_ = new SplashForm(nullptr);
+    }
+    if (splash_) {
+        splash_->ShowState(launcher_);
+    }
+    if (splash_ && !launcher_.Splash.Visible) {
+        splash_->Destroy();
+        splash_ = nullptr;
+    }
 }
 
 void LvForm::TakeSize() {

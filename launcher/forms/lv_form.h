@@ -6,6 +6,7 @@
 
 #include <wx/frame.h>
 #include <wx/timer.h>
+#include <wx/weakref.h>
 
 #include <memory>
 
@@ -21,7 +22,8 @@ namespace lv {
 
 class LvForm : public wxFrame {
   public:
-    LvForm(Launcher& launcher, WxUser& user);
+    /// `splash` is the one that is on the screen already, if one is.
+    LvForm(Launcher& launcher, WxUser& user, SplashForm* splash = nullptr);
     ~LvForm() override;
 
     /// Brings the windows in line with their structs.
@@ -35,6 +37,7 @@ class LvForm : public wxFrame {
     void MeasureInNewFrame();
     [[nodiscard]] PixelSize OuterSize() const;
     [[nodiscard]] int State() const;
+    void ShowSplash();
     void ShowPlace();
     void ShowSize();
     void TakeSize();
@@ -47,7 +50,7 @@ class LvForm : public wxFrame {
     Binder binder_;
     KeptPlace place_;
     LvPanels* panels_ = nullptr;
-    std::unique_ptr<SplashForm> splash_;
+    wxWeakRef<SplashForm> splash_;
     std::unique_ptr<TrayIcon> tray_;
     wxTimer sizeTimer_;  // Size_Tmr
     PixelSize shownSize_;

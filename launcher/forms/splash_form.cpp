@@ -4,6 +4,8 @@
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
 
+#include <utility>
+
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/wx_text.h"
 
@@ -13,13 +15,14 @@ namespace {
 
 constexpr int kLogoHeight = 120;
 constexpr int kBorder = 12;
+constexpr int kPatienceMilliseconds = 300;
 
 }  // namespace
 
-SplashForm::SplashForm(Launcher& launcher)
-    : wxFrame(nullptr, wxID_ANY, "Lorvane 3D", wxDefaultPosition, wxDefaultSize,
-              wxFRAME_NO_TASKBAR | wxBORDER_SIMPLE | wxSTAY_ON_TOP),
-      launcher_(launcher),
+SplashForm::SplashForm(std::function<void()> drawn)
+    : wxFrame(nullptr, wxID_ANY, "Lorvane 3D", wxDefaultPosition, wxDefaultSize, wxFRAME_NO_TASKBAR | wxBORDER_SIMPLE),
+      drawn_(std::move(drawn)),
+      patience_(this),
       progress_(this),
       unload_(this) {
     SetName("Splash_Frm");
@@ -32,21 +35,48 @@ SplashForm::SplashForm(Launcher& launcher)
     rows->Add(label_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, kBorder));
     SetSizerAndFit(rows);
     CentreOnScreen();
+    Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
+        event.Skip();
+        TellOnce();
+    });
+    Bind(
+        wxEVT_TIMER, [this](wxTimerEvent&) { TellOnce(); }, patience_.GetId());
+    patience_.StartOnce(kPatienceMilliseconds);
+    Show();
+}
+
+// Behind the event: what is drawn in it has left for the screen then.
+void SplashForm::TellOnce() {
+    patience_.Stop();
+    if (drawn_) {
+        CallAfter(std::exchange(drawn_, nullptr));
+    }
+}
+
+void SplashForm::Follow(Launcher& launcher) {
+    launcher_ = &launcher;
     Bind(
         wxEVT_TIMER,
         [this](wxTimerEvent&) {
-            Progress_Tmr_Timer(launcher_.Splash, launcher_.run.User, label_->GetSize().x);
+            Progress_Tmr_Timer(launcher_->Splash, launcher_->run.User, label_->GetSize().x);
             ShowState();
         },
         progress_.GetId());
     Bind(
-        wxEVT_TIMER, [this](wxTimerEvent&) { Unload_Tmr_Timer(launcher_.run, launcher_.Splash); }, unload_.GetId());
+        wxEVT_TIMER, [this](wxTimerEvent&) { Unload_Tmr_Timer(launcher_->run, launcher_->Splash); }, unload_.GetId());
     progress_.Start(kProgressMilliseconds);
     unload_.StartOnce(kUnloadMilliseconds);
 }
 
+void SplashForm::ShowState(Launcher& launcher) {
+    if (launcher_ == nullptr) {
+        Follow(launcher);
+    }
+    ShowState();
+}
+
 void SplashForm::ShowState() {
-    const Splash_Frm& splash = launcher_.Splash;
+    const Splash_Frm& splash = launcher_->Splash;
     const wxString caption = ToWx(splash.InformUser_Lbl.Caption);
     if (label_->GetLabel() != caption) {
         label_->SetLabel(caption);

@@ -7,6 +7,8 @@
 #include <wx/frame.h>
 #include <wx/timer.h>
 
+#include <functional>
+
 #include "launcher/launcher.h"
 
 class wxStaticText;
@@ -15,13 +17,21 @@ namespace lv {
 
 class SplashForm : public wxFrame {
   public:
-    explicit SplashForm(Launcher& launcher);
+    /// On the screen ahead of all else, and not above anything; `drawn` is called once, when it has been seen.
+    explicit SplashForm(std::function<void()> drawn);
 
-    void ShowState();
+    /// Brings it in line with its struct, and follows that one from now on.
+    void ShowState(Launcher& launcher);
 
   private:
-    Launcher& launcher_;
+    void TellOnce();
+    void Follow(Launcher& launcher);
+    void ShowState();
+
+    std::function<void()> drawn_;
+    Launcher* launcher_ = nullptr;
     wxStaticText* label_ = nullptr;
+    wxTimer patience_;  // for a screen that never asks it to paint itself
     wxTimer progress_;  // Progress_Tmr
     wxTimer unload_;    // Unload_Tmr
 };

@@ -196,6 +196,19 @@ TEST_F(StartTest, AlwaysOnTopIsReadFromTheStore) {
     EXPECT_EQ(run.Topmost.Nesting, 0);
 }
 
+TEST_F(StartTest, TheMainWindowIsPreparedWithinTheSplashsSecond) {
+    int prepared = 0;
+    user.OnPrepareMainWindow = [&] {
+        ++prepared;
+        EXPECT_TRUE(launcher.Splash.Visible);
+        EXPECT_FALSE(window.Visible);
+        EXPECT_TRUE(run.MainFormLoaded);
+        EXPECT_EQ(window.Caption, "   Lorvane 3D");
+    };
+    EXPECT_TRUE(Start(launcher));
+    EXPECT_EQ(prepared, 1);
+}
+
 TEST_F(StartTest, TheVideoProfileWindowOpensIfItWasOpenAtExit) {
     Save(run, "VideoProfile_Frm", "LoadAtStartup", "1");
     user.Expect({"Video Profiles", "'Base'", 0});

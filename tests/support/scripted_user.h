@@ -79,6 +79,7 @@ class ScriptedUser : public UserInterface {
     Error UrlFails;
     bool HasTray = true;
     std::vector<Text> WindowCalls;  // "raise", "menu File_Bar", "what's this"
+    std::function<void()> OnPrepareMainWindow;
     std::function<void()> OnAwaitMainWindow;
     /// What the user does in the next window of the ModalWindow family, which must be of this type.
     template <class Form>
@@ -100,6 +101,11 @@ class ScriptedUser : public UserInterface {
     Error OpenHelp(TextView path) override;
     Error OpenUrl(TextView address) override;
     bool TrayAvailable() override { return HasTray; }
+    void PrepareMainWindow() override {
+        if (OnPrepareMainWindow) {
+            OnPrepareMainWindow();
+        }
+    }
     void AwaitMainWindow() override {
         if (OnAwaitMainWindow) {
             OnAwaitMainWindow();
