@@ -48,21 +48,58 @@ struct Measure {
     int Height = 0;
 };
 
-Measure MeasureText(TextView text, UserInterface& user) {
-    Measure measured;
-    int lines = 0;
+std::vector<TextView> LinesOf(TextView text) {
+    std::vector<TextView> lines;
     for (std::size_t at = 0; at <= text.size();) {
-        std::size_t end = std::min(text.find('\n', at), text.size());
+        const std::size_t end = std::min(text.find('\n', at), text.size());
         TextView line = text.substr(at, end - at);
         if (line.ends_with('\r')) {
             line.remove_suffix(1);
         }
-        measured.Width = std::max(measured.Width, user.TextWidth(line));
-        ++lines;
+        lines.push_back(line);
         at = end + 1;
     }
-    measured.Height = lines * user.TextHeight();
+    return lines;
+}
+
+Measure MeasureText(const std::vector<TextView>& lines, UserInterface& user) {
+    Measure measured;
+    for (const TextView line : lines) {
+        measured.Width = std::max(measured.Width, user.TextWidth(line));
+    }
+    measured.Height = static_cast<int>(lines.size()) * user.TextHeight();
     return measured;
+}
+
+/// The lines that one becomes when it wraps at its blanks. A word wider than a line breaks anywhere.
+int WrappedLines(TextView line, int width, UserInterface& user) {
+    const int blank = user.TextWidth(" ");
+    int lines = 1;
+    int used = 0;
+    for (std::size_t at = 0; at < line.size();) {
+        const std::size_t end = std::min(line.find(' ', at), line.size());
+        const int word = user.TextWidth(line.substr(at, end - at));
+        if (used > 0 && used + word > width) {
+            ++lines;
+            used = 0;
+        }
+        lines += word > width ? (word - 1) / width : 0;
+        used = (word > width ? word % width : used + word) + blank;
+        at = end + 1;
+    }
+    return lines;
+}
+
+/// The lines that all become, as far as `most`.
+int WrappedLines(const std::vector<TextView>& lines, int width, int most, UserInterface& user) {
+    int wrapped = 0;
+    for (const TextView line : lines) {
+        if (wrapped > most) {
+            break;
+        }
+        wrapped += WrappedLines(line, width, user);
+    }
+    return wrapped;
 }
 
 Index Show(Run& run, QuestionBox_Frm& box) {
@@ -107,6 +144,22 @@ QuestionBox_Frm MakeQuestionBox(TextView title, TextView text, TextView buttons,
     return box;
 }
 
+namespace {
+
+/// Wraps what is too wide, if it is not too high then. A line more than counted leaves the toolkit its own measure.
+void WrapText(QuestionBox_Frm& box, const std::vector<TextView>& lines, int highest, UserInterface& user) {
+    QuestionBoxLayout& layout = box.Layout;
+    const int line = user.TextHeight();
+    const int wrapped = WrappedLines(lines, layout.TextWidth, highest / line, user) + 1;
+    if (wrapped * line <= highest) {
+        layout.ScrollsAcross = false;
+        layout.Wraps = true;
+        layout.TextHeight = wrapped * line;
+    }
+}
+
+}  // namespace
+
 void LayOutQuestionBox(QuestionBox_Frm& box, UserInterface& user) {
     QuestionBoxLayout& layout = box.Layout;
     const int line = user.TextHeight();
@@ -120,7 +173,8 @@ void LayOutQuestionBox(QuestionBox_Frm& box, UserInterface& user) {
 
     const int buttons = static_cast<int>(box.Button_Cmd.size());
     const int row = buttons * layout.ButtonWidth + (buttons - 1) * layout.Gap;
-    const Measure text = MeasureText(box.Question_Txt.Text, user);
+    const std::vector<TextView> lines = LinesOf(box.Question_Txt.Text);
+    const Measure text = MeasureText(lines, user);
     const ScreenSize screen = user.Screen();
     const int widest = static_cast<int>(screen.Width * kMostOfScreen);
     const int highest = static_cast<int>(screen.Height * kMostOfScreen);
@@ -128,6 +182,9 @@ void LayOutQuestionBox(QuestionBox_Frm& box, UserInterface& user) {
     layout.ScrollsDown = text.Height > highest;
     layout.TextWidth = std::min(std::max(text.Width, row), widest);
     layout.TextHeight = std::min(text.Height, highest);
+    if (layout.ScrollsAcross && !layout.ScrollsDown && !box.FixedWidth) {
+        WrapText(box, lines, highest, user);
+    }
 }
 
 void QuestionBox_Button_Cmd_Click(QuestionBox_Frm& box, int index) {

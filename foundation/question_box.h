@@ -21,6 +21,7 @@ struct QuestionBoxLayout {
     int TextHeight = 0;
     bool ScrollsDown = false;
     bool ScrollsAcross = false;
+    bool Wraps = false;   // at the blanks of lines that are wider
     int ButtonWidth = 0;  // of each
     int ButtonHeight = 0;
 };
@@ -43,7 +44,8 @@ struct QuestionBox_Frm {
 /// button is the one that changes nothing, by its caption, or the only one.
 QuestionBox_Frm MakeQuestionBox(TextView title, TextView text, TextView buttons, int defaultButton, int icon);
 
-/// Measures the texts and fills the layout; the text is held within 0.8 of the screen and scrolls beyond that.
+/// Measures the texts and fills the layout; the text is held within 0.8 of the screen: it wraps beyond
+/// that width if it then holds within the height, else it scrolls. A file's text keeps its lines.
 void LayOutQuestionBox(QuestionBox_Frm& box, UserInterface& user);
 
 void QuestionBox_Button_Cmd_Click(QuestionBox_Frm& box, int index);

@@ -46,6 +46,11 @@ void ShowFullRow(const Text& ownTip, const wxString& row, wxWindow* view, Measur
     }
 }
 
+/// The caption with each "&" shown as one.
+Text Literal(const Text& caption) {
+    return ReplaceText(caption, "&", "&&");
+}
+
 void ShowLabel(const Text& caption, wxWindow* view) {
     const wxString label = ToWx(Trim(caption));
     if (view->GetLabel() != label) {
@@ -191,10 +196,11 @@ void Binder::Bind(const char* name, TextBox& model, wxTextCtrl* view, Handler ch
     });
 }
 
-void Binder::Bind(const char* name, Label& model, wxStaticText* view) {
-    Add(name, model, view, [&model, view] {
-        const bool changed = view->GetLabel() != ToWx(Trim(model.Caption));
-        ShowLabel(model.Caption, view);
+void Binder::Bind(const char* name, Label& model, wxStaticText* view, LabelText kind) {
+    Add(name, model, view, [&model, view, kind] {
+        const Text caption = Trim(kind == LabelText::Keyed ? model.Caption : Literal(model.Caption));
+        const bool changed = view->GetLabel() != ToWx(caption);
+        ShowLabel(caption, view);
         return changed;
     });
 }

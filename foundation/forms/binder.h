@@ -24,6 +24,9 @@
 
 namespace lv {
 
+/// Whether the "&" of a label's caption marks the access key of the field behind it, or is one of a name.
+enum class LabelText { Literal, Keyed };
+
 class Binder {
   public:
     using Handler = std::function<void()>;
@@ -47,7 +50,7 @@ class Binder {
               std::function<void(int)> click);
     void Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, Handler click);
     void Bind(const char* name, TextBox& model, wxTextCtrl* view, Handler change);
-    void Bind(const char* name, Label& model, wxStaticText* view);
+    void Bind(const char* name, Label& model, wxStaticText* view, LabelText kind = LabelText::Literal);
     void Bind(const char* name, Panel& model, wxWindow* view);
 
     /// Anything that brings itself in line when it is asked to; it answers whether something came or went.

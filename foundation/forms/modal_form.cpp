@@ -70,7 +70,7 @@ void ModalForm::AddField(Label& label, const char* labelName, wxWindow* field, w
         fields_->AddGrowableCol(1);
         rows_->Add(fields_, wxSizerFlags().Expand().Border(wxALL, kGap * 2));
     }
-    fields_->Add(MakeLabel(this, labelName, label), wxSizerFlags().CenterVertical());
+    fields_->Add(MakeLabel(this, labelName, label, LabelText::Keyed), wxSizerFlags().CenterVertical());
     fields_->Add(field, wxSizerFlags(1).Expand().CenterVertical());
     if (behind != nullptr) {
         fields_->Add(behind, wxSizerFlags().CenterVertical());
@@ -92,9 +92,9 @@ wxButton* ModalForm::MakeButton(const char* name, CommandButton& model, std::fun
     return button;
 }
 
-wxStaticText* ModalForm::MakeLabel(wxWindow* parent, const char* name, Label& model) {
+wxStaticText* ModalForm::MakeLabel(wxWindow* parent, const char* name, Label& model, LabelText kind) {
     auto* label = new wxStaticText(parent, wxID_ANY, ToWx(Trim(model.Caption)));
-    Controls.Bind(name, model, label);
+    Controls.Bind(name, model, label, kind);
     return label;
 }
 

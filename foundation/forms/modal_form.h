@@ -24,7 +24,7 @@ class ModalForm : public wxDialog {
     void AddField(Label& label, const char* labelName, wxWindow* field, wxWindow* behind = nullptr);
     wxTextCtrl* MakeText(const char* name, TextBox& model, int width = 320);
     wxButton* MakeButton(const char* name, CommandButton& model, std::function<void()> click);
-    wxStaticText* MakeLabel(wxWindow* parent, const char* name, Label& model);
+    wxStaticText* MakeLabel(wxWindow* parent, const char* name, Label& model, LabelText kind = LabelText::Literal);
 
     /// Adds anything across the whole width.
     void AddWide(wxWindow* window);

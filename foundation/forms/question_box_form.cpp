@@ -11,6 +11,7 @@
 
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/spoken_name.h"
 
 namespace lv {
 
@@ -35,6 +36,7 @@ wxString IconName(int index) {
 QuestionBoxForm::QuestionBoxForm(wxWindow* owner, QuestionBox_Frm& box)
     : wxDialog(owner, wxID_ANY, ToWx(box.Caption), wxDefaultPosition, wxDefaultSize, wxCAPTION), box_(box) {
     SetName("QuestionBox_Frm");
+    SetIcons(ProgramIcon());
     const int gap = box.Layout.Gap;
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(MakeMessage(), wxSizerFlags(1).Expand().Border(wxALL, gap));
@@ -78,7 +80,7 @@ wxSizer* QuestionBoxForm::MakeMessage() {
     row->Add(picture, wxSizerFlags().Top().Border(wxRIGHT, layout.Gap * 2));
 
     long style = wxTE_MULTILINE | wxTE_READONLY | wxTE_NO_VSCROLL | wxBORDER_NONE;
-    if (!UnwrappedTextHasABar()) {
+    if (!layout.Wraps && !UnwrappedTextHasABar()) {
         style |= wxTE_DONTWRAP;
     }
     if (layout.ScrollsDown || layout.ScrollsAcross) {
@@ -89,6 +91,7 @@ wxSizer* QuestionBoxForm::MakeMessage() {
     const wxSize size(layout.TextWidth + kTextMargin, layout.TextHeight + kTextMargin / 2);
     text_ = new wxTextCtrl(this, wxID_ANY, text, wxDefaultPosition, size, style);
     text_->SetName("Question_Txt");
+    SetSpokenName(text_->GetHandle(), "Message");
     text_->SetBackgroundColour(GetBackgroundColour());
     if (box_.FixedWidth) {
         text_->SetFont(wxFont(wxFontInfo(GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE)));

@@ -65,6 +65,7 @@ NamePicture::NamePicture(wxWindow* parent, Fig_Frm& model) : model_(model) {
     Create(parent, wxID_ANY, wxDefaultPosition, wxSize(kLetter * kNameLength * scale, kLetter * scale),
            wxBORDER_NONE | wxFULL_REPAINT_ON_RESIZE, "Name_Pic");
     SetMinSize(GetSize());
+    SetSpokenName(GetHandle(), "Name");
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
 }
 

@@ -11,6 +11,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/wx_text.h"
+#include "launcher/forms/game_list.h"
 #include "launcher/launch_flow.h"
 #include "launcher/lv_events.h"
 #include "launcher/video_profile_menu.h"
@@ -175,8 +176,9 @@ wxWindow* LvPanels::MakeMenuPicture(int index) {
 }
 
 wxWindow* LvPanels::MakeSmallButton(const char* name, CommandButton LV_Frm::*button, const char* picture,
-                                    void (*click)(Launcher&)) {
+                                    const char* spoken, void (*click)(Launcher&)) {
     auto* view = new wxBitmapButton(at_, wxID_ANY, PictureOf(ButtonPicture(picture), kSmallPicture));
+    SetSpokenName(view->GetHandle(), spoken);
     binder_.Bind(name, launcher_.Window.*button, view, [this, click] { click(launcher_); });
     return view;
 }
@@ -210,9 +212,10 @@ wxSizer* LvPanels::MakeButtonBar() {
 
 wxSizer* LvPanels::MakeExePanel() {
     wxStaticBoxSizer* panel = MakePanel("Exe_Pan", &LV_Frm::Exe_Pan);
-    auto* list = new wxBitmapComboBox(at_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, nullptr, wxCB_READONLY);
+    auto* list = new GameList(at_);
     // This list shows its pictures larger by the screen's scale than it reckons with.
     list->SetMinSize(wxSize(FromDIP(160), static_cast<int>(kGamePicture * GetContentScaleFactor()) + kGamePictureRoom));
+    SetSpokenName(list->GetHandle(), "Game");
     binder_.Bind("Exe_Cbo", launcher_.Window.Exe_Cbo, list, [this] { Exe_Cbo_Click(launcher_); });
     panel->Add(MakeRow(nullptr, list, {MakeMenuPicture(0)}), Row());
     auto* hint =
@@ -260,8 +263,8 @@ wxSizer* LvPanels::MakeModPanel() {
 wxSizer* LvPanels::MakeScriptPanel() {
     wxStaticBoxSizer* panel = MakePanel("PlayerScript_Pan", &LV_Frm::PlayerScript_Pan);
     wxChoice* list = MakeList("Script_Cbo", &LV_Frm::Script_Cbo, "Player script", Script_Cbo_Click);
-    wxWindow* edit =
-        MakeSmallButton("SetupFoundry_Cmd", &LV_Frm::SetupFoundry_Cmd, "edit_script", SetupFoundry_Bar_Click);
+    wxWindow* edit = MakeSmallButton("SetupFoundry_Cmd", &LV_Frm::SetupFoundry_Cmd, "edit_script",
+                                     "Edit the player script", SetupFoundry_Bar_Click);
     panel->Add(MakeRow(&LV_Frm::Script_Chk, list, {edit, MakeMenuPicture(3)}), Row());
     return panel;
 }
@@ -270,8 +273,8 @@ wxSizer* LvPanels::MakeVideoPanel() {
     wxStaticBoxSizer* panel = MakePanel("VideoProfile_Pan", &LV_Frm::VideoProfile_Pan);
     wxChoice* list =
         MakeList("VideoProfiles_Cbo", &LV_Frm::VideoProfiles_Cbo, "Video profile", VideoProfiles_Cbo_Click);
-    wxWindow* edit =
-        MakeSmallButton("VideoProfileEdit_Cmd", &LV_Frm::VideoProfileEdit_Cmd, "beauty", VideoProfileEdit_Cmd_Click);
+    wxWindow* edit = MakeSmallButton("VideoProfileEdit_Cmd", &LV_Frm::VideoProfileEdit_Cmd, "beauty",
+                                     "Edit the video profile", VideoProfileEdit_Cmd_Click);
     panel->Add(MakeRow(nullptr, list, {edit, MakeMenuPicture(6)}), Row());
     return panel;
 }

@@ -52,7 +52,7 @@ class LvPanels : public wxScrolledWindow {
     wxCheckBox* MakeOption(CheckBox LV_Frm::*box, const wxString& label = {});
     wxChoice* MakeList(const char* name, ListBox LV_Frm::*list, const wxString& spoken, void (*click)(Launcher&));
     wxWindow* MakeMenuPicture(int index);
-    wxWindow* MakeSmallButton(const char* name, CommandButton LV_Frm::*button, const char* picture,
+    wxWindow* MakeSmallButton(const char* name, CommandButton LV_Frm::*button, const char* picture, const char* spoken,
                               void (*click)(Launcher&));
     wxSizer* MakeRow(CheckBox LV_Frm::*box, wxWindow* list, const std::vector<wxWindow*>& behind = {});
     void PlaceRightColumn();

@@ -1,5 +1,6 @@
 #include "launcher/forms/lv_form.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <wx/bmpcbox.h>
 #include <wx/checkbox.h>
@@ -20,6 +21,7 @@
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
 #include "tests/forms/lv_form_fixture.h"
+#include "tests/forms/window_manners.h"
 
 namespace lv {
 namespace {
@@ -219,4 +221,27 @@ TEST_F(LvForm_, EveryControlIsReachedByTheTabKey) {
 }
 
 }  // namespace
+// The captions and menus are given; nothing that stands beside them takes one of their keys.
+TEST_F(LvForm_, OnlyItsGivenCaptionsShareAccessKeys) {
+    for (int row = 0; row < 3; ++row) {
+        PickExe(row);
+        EXPECT_EQ(SharedAccessKeys(*form),
+                  "c: [&Create Only] [&Connect To Current GameSpy Server]\n"
+                  "d: [&Dedicated] [&Demos]\n"
+                  "g: [&Game Executable] [&GL]\n"
+                  "l: [&Launch Me!] [&Listen]\n"
+                  "m: [&Modification Subdirectory] [&Memory]\n"
+                  "s: [Configure and Launch Game&Spy] [&Server]\n"
+                  "v: [&View] [&Video Profiles]\n")
+            << row;
+    }
+}
+
+TEST_F(LvForm_, AnAmpersandInANameShowsInTheHint) {
+    system.Disk.AddFile("C:\\QUAKE\\A&B.EXE");
+    launcher.Window.Exe_Cbo.Items[0].Key = "C:\\QUAKE\\A&B.EXE";
+    PickExe(0);
+    EXPECT_THAT(FindAs<wxStaticText>("Hint_Lbl")->GetLabelText().utf8_string(), ::testing::HasSubstr("A&B.EXE"));
+}
+
 }  // namespace lv

@@ -8,6 +8,7 @@
 #include <wx/image.h>
 
 #include "tests/forms/patience.h"
+#include "tests/forms/window_manners.h"
 
 namespace {
 
@@ -26,6 +27,7 @@ class TestApp : public wxApp {
         CallAfter([this] {
             // Within the toolkit's life, for it has a timer.
             lv::Patience patience;
+            lv::WatchManners();
             auto& listeners = ::testing::UnitTest::GetInstance()->listeners();
             listeners.Append(&patience);
             result_ = RUN_ALL_TESTS();

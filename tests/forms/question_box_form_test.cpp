@@ -65,7 +65,7 @@ TEST_F(QuestionBoxForm_, AChoiceWithoutAQuietButtonIsMadeByAButtonAlone) {
         EXPECT_TRUE(Find("Button_Cmd(1)")->IsShownOnScreen());
         ClickOn(Find("Button_Cmd(1)"));
     });
-    EXPECT_EQ(Ask("", "Question", "&This,&That"), 1);
+    EXPECT_EQ(Ask("", "Question", "&This,Th&at"), 1);
 }
 
 TEST_F(QuestionBoxForm_, AnEmptyTitleShowsTheProgramsName) {

@@ -248,6 +248,44 @@ TEST_F(QuestionBoxTest, ATextThatIsTooLargeScrolls) {
     EXPECT_EQ(box.Layout.TextHeight, 800);
 }
 
+TEST_F(QuestionBoxTest, ALineThatIsTooLongWrapsBeforeItScrolls) {
+    Text line = Text(60, 'x') + " " + Text(60, 'y') + " " + Text(30, 'z');
+    QuestionBox_Frm box = MakeQuestionBox("T", line + "\r\nshort", "&OK", 0, 0);
+    LayOutQuestionBox(box, user);
+    EXPECT_TRUE(box.Layout.Wraps);
+    EXPECT_FALSE(box.Layout.ScrollsAcross);
+    EXPECT_FALSE(box.Layout.ScrollsDown);
+    EXPECT_EQ(box.Layout.TextWidth, 800);
+    EXPECT_EQ(box.Layout.TextHeight, 4 * 16);  // x, y and z, short, and one for the toolkit
+}
+
+TEST_F(QuestionBoxTest, AWordThatIsTooLongBreaksAnywhere) {
+    QuestionBox_Frm box = MakeQuestionBox("T", "c:\\" + Text(297, 'x'), "&OK", 0, 0);
+    LayOutQuestionBox(box, user);
+    EXPECT_TRUE(box.Layout.Wraps);
+    EXPECT_EQ(box.Layout.TextHeight, 4 * 16);
+}
+
+TEST_F(QuestionBoxTest, ATextThatWrappedWouldBeTooHighScrolls) {
+    Text text(101, 'x');
+    for (int i = 0; i < 48; ++i) {
+        text += "\r\n";
+    }
+    QuestionBox_Frm box = MakeQuestionBox("T", text, "&OK", 0, 0);
+    LayOutQuestionBox(box, user);
+    EXPECT_FALSE(box.Layout.Wraps);
+    EXPECT_TRUE(box.Layout.ScrollsAcross);
+    EXPECT_FALSE(box.Layout.ScrollsDown);
+}
+
+TEST_F(QuestionBoxTest, AFilesTextKeepsItsLines) {
+    QuestionBox_Frm box = MakeQuestionBox("T", Text(101, 'x'), "&OK", 0, 0);
+    box.FixedWidth = true;
+    LayOutQuestionBox(box, user);
+    EXPECT_FALSE(box.Layout.Wraps);
+    EXPECT_TRUE(box.Layout.ScrollsAcross);
+}
+
 TEST_F(QuestionBoxTest, ATextOfExactlyTheLimitDoesNotScroll) {
     QuestionBox_Frm box = MakeQuestionBox("T", Text(100, 'x'), "&OK", 0, 0);
     LayOutQuestionBox(box, user);

@@ -14,7 +14,9 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::UnorderedElementsAre;
 
 namespace fs = std::filesystem;
@@ -61,6 +63,27 @@ TEST(Launch, StartsTheGameInItsDirectoryWithArgumentsAndEnvironment) {
     EXPECT_THAT(LinesAfter(lines, "GDK_GL="), IsEmpty());
     EXPECT_TRUE(WaitUntil([&] { return home.Get("LV-Stuff", "LaunchCount") == "1"; }));
     EXPECT_THAT(ZombiesOf(program.Id()), IsEmpty());
+}
+
+TEST(Launch, AndAStartAndAChangeOfGameBringNoComplaintOfTheToolkit) {
+    ProgramHome home("quiet");
+    PrepareLaunch(home, "-wait 1");
+    fs::copy(home.Quake / "QUAKE.EXE", home.Quake / "GLQUAKE.EXE");
+    home.Set("Options", "Executables", "Quake;c:\\quake\\quake.exe;GL Quake;c:\\quake\\glquake.exe");
+    ProgramRun program(home);
+    const std::string window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    const Rectangle place = PlaceOf(window);
+    Click(place.Left + 200, place.Top + 120, 1);  // the list of games
+    PressKey("Down");
+    PressKey("Return");
+    EXPECT_TRUE(WaitUntil([&] { return home.Get("Options", "ExecutablesPos") == "1"; }));
+    PressKey("F2");
+    EXPECT_THAT(LinesAfter(WaitForOutput(home.Quake / "output.txt"), "PROGRAM="),
+                ElementsAre((home.Quake / "GLQUAKE.EXE").string()));
+    const std::string said = ReadBytes(home.Root / "said.txt");
+    EXPECT_THAT(said, Not(HasSubstr("-CRITICAL")));
+    EXPECT_THAT(said, Not(HasSubstr("-WARNING")));
 }
 
 TEST(Launch, PutsTheWindowIntoTheTaskBarWithoutATray) {

@@ -88,6 +88,7 @@ class InstallForm : public ModalForm {
         auto* browse = new wxButton(frame, wxID_ANY, ToWx(form_.Browse_Cmd[at].Caption));
         Controls.Bind(named("Browse_Cmd").utf8_str(), form_.Browse_Cmd[at], browse,
                       [this, row] { Install_Browse_Cmd_Click(form_, row); });
+        SetSpokenName(browse->GetHandle(), Join("Browse for the directory of ", facts.Name));
         auto* line = new wxBoxSizer(wxHORIZONTAL);
         line->Add(picture, wxSizerFlags().CenterVertical().Border(wxLEFT, kGap));
         for (wxWindow* window : {static_cast<wxWindow*>(tick), static_cast<wxWindow*>(arrow)}) {

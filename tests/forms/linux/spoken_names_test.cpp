@@ -7,6 +7,7 @@
 
 #include "platform/spoken_name.h"
 #include "tests/forms/lv_form_fixture.h"
+#include "tests/forms/window_manners.h"
 
 namespace lv {
 
@@ -23,6 +24,9 @@ TEST_F(LvForm_, EveryControlHasATextOrANameThatAssistiveToolsRead) {
     for (int i = 0; i < 9; ++i) {
         EXPECT_NE(SpokenName(Find("ButtonBar_Cmd(" + std::to_string(i) + ")")->GetHandle()), "") << i;
     }
+    EXPECT_EQ(SpokenName(Find("SetupFoundry_Cmd")->GetHandle()), "Edit the player script");
+    EXPECT_EQ(SpokenName(Find("VideoProfileEdit_Cmd")->GetHandle()), "Edit the video profile");
+    EXPECT_EQ(NamelessControls(*form), "");
     for (int i = 0; i < 7; ++i) {
         EXPECT_NE(SpokenName(Find("Menu_Pic(" + std::to_string(i) + ")")->GetHandle()), "") << i;
     }

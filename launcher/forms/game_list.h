@@ -1,0 +1,25 @@
+// launcher/forms/game_list.h
+//
+// The list of games with their pictures.
+
+#pragma once
+
+#include <wx/bmpcbox.h>
+
+namespace lv {
+
+/// A list from which one picks, never a field to type in.
+class GameList : public wxBitmapComboBox {
+  public:
+    explicit GameList(wxWindow* parent)
+        : wxBitmapComboBox(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, nullptr, wxCB_READONLY) {}
+
+#ifdef __WXGTK__
+    /// The toolkit would hand each key to the text field that this list does not have, and GTK complains of it.
+    int GTKIMFilterKeypress(GdkEventKey*) const override {
+        return 0;
+    }
+#endif
+};
+
+}  // namespace lv
