@@ -15,6 +15,7 @@
 #include "foundry/fonts/qfont.h"
 #include "foundry/fonts/raw_font.h"
 #include "foundry/fonts/wad.h"
+#include "tests/fuzz/readers.h"
 
 namespace {
 
@@ -107,10 +108,12 @@ constexpr std::array kReaders = {ReadRaw, ReadColors, ReadPcx, ReadHeretic, Read
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size > 0) {
-        const lv::TextView bytes(reinterpret_cast<const char*>(data), size);
-        kReaders[static_cast<unsigned char>(bytes[0]) % kReaders.size()](bytes.substr(1));
+namespace lv {
+
+void FuzzFont(TextView input) {
+    if (!input.empty()) {
+        kReaders[TakeChoice(input, kReaders.size())](input);
     }
-    return 0;
 }
+
+}  // namespace lv

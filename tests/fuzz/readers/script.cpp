@@ -2,12 +2,10 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 
 #include "tests/foundry/reading.h"
 #include "tests/foundry/table_agreement.h"
+#include "tests/fuzz/readers.h"
 
 namespace {
 
@@ -40,18 +38,17 @@ const lv::ScriptDocument& FreshDocument(std::size_t game) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size == 0) {
-        return 0;
+namespace lv {
+
+void FuzzScript(TextView input) {
+    if (input.empty()) {
+        return;
     }
-    const lv::TextView bytes(reinterpret_cast<const char*>(data), size);
-    lv::ScriptDocument document = FreshDocument(static_cast<unsigned char>(bytes[0]) % kGames.size());
+    ScriptDocument document = FreshDocument(TakeChoice(input, kGames.size()));
     NarrowView view;
-    lv::ReadInto(document, bytes.substr(1), view);
-    const lv::Text wrong = lv::DisagreementOf(document);
-    if (!wrong.empty()) {
-        std::fprintf(stderr, "%s\n", wrong.c_str());
-        std::abort();
-    }
-    return 0;
+    ReadInto(document, input, view);
+    const Text wrong = DisagreementOf(document);
+    MustHold(wrong.empty(), wrong.c_str());
 }
+
+}  // namespace lv
