@@ -63,6 +63,13 @@ pid_t Spawn(const ProgramHome& home, const std::vector<std::string>& command) {
     _exit(127);
 }
 
+std::vector<std::string> WithVariables(const Environment& more) {
+    std::vector<std::string> command = {"env"};
+    command.insert(command.end(), more.begin(), more.end());
+    command.push_back(ProgramFile().string());
+    return command;
+}
+
 std::vector<std::string> InsideMounts(const std::string& shell) {
     std::vector<std::string> command = {"unshare"};
     if (geteuid() != 0) {
@@ -184,7 +191,7 @@ bool WaitForTrayHost() {
     return WaitUntil([] { return OutputOf({"xwininfo", "-root", "-tree"}).find("\"trayer\"") != std::string::npos; });
 }
 
-ProgramRun::ProgramRun(const ProgramHome& home) : OwnProcess(home, {ProgramFile().string()}) {}
+ProgramRun::ProgramRun(const ProgramHome& home, const Environment& more) : OwnProcess(home, WithVariables(more)) {}
 
 ProgramRun::ProgramRun(const ProgramHome& home, const std::string& shell) : OwnProcess(home, InsideMounts(shell)) {}
 
