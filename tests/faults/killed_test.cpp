@@ -9,7 +9,6 @@
 #include <random>
 
 #include "tests/faults/states.h"
-#include "tests/foundry/rounds.h"
 
 namespace lv {
 
@@ -18,8 +17,8 @@ namespace {
 using ::testing::IsEmpty;
 
 constexpr int kWholeKills = 500;
-constexpr int kFewKills = Rounds(32);
-constexpr int kFewMoments = Rounds(16);
+constexpr int kFewKills = 24;
+constexpr int kFewMoments = 8;
 
 struct Kill {
     Trap At;
