@@ -195,13 +195,23 @@ ProgramRun::ProgramRun(const ProgramHome& home, const Environment& more) : OwnPr
 
 ProgramRun::ProgramRun(const ProgramHome& home, const std::string& shell) : OwnProcess(home, InsideMounts(shell)) {}
 
+std::string ProgramRun::HowItIs() {
+    KeepScreenshot("missing_window_of_" + std::to_string(Id()));
+    const std::optional<int> code = WaitForEnd(0);
+    std::string windows;
+    for (const std::string& window : WindowsOf(Id(), ".*")) {
+        windows += "\n  " + OutputOf({"xdotool", "getwindowname", window}) + (IsShown(window) ? ", on the screen" : "");
+    }
+    return code ? "; the program has ended with " + std::to_string(*code) : "; the program runs and has" + windows;
+}
+
 std::string ProgramRun::WaitForWindow() {
     std::vector<std::string> found;
     const bool came = WaitUntil([&] {
         found = ShownWindowsOf(Id(), kMainTitle);
         return !found.empty() || !IsRunning();
     });
-    EXPECT_TRUE(came && !found.empty()) << "no main window came up";
+    EXPECT_TRUE(came && !found.empty()) << "no main window came up" << HowItIs();
     return found.empty() ? std::string() : found.front();
 }
 
@@ -219,7 +229,7 @@ std::string ProgramRun::WaitForDialog(const std::string& title) {
         }
         return !dialog.empty() || !IsRunning();
     });
-    EXPECT_FALSE(dialog.empty()) << "no box called " << title;
+    EXPECT_FALSE(dialog.empty()) << "no box called " << title << HowItIs();
     if (!dialog.empty()) {
         EXPECT_TRUE(Activate(dialog));
     }

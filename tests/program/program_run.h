@@ -97,6 +97,10 @@ class ProgramRun : public OwnProcess {
 
     /// `path` as this program sees it through its own mounts.
     [[nodiscard]] std::filesystem::path Seen(const std::filesystem::path& path) const;
+
+  private:
+    /// For a test that fails for want of a window: whether it runs, and the windows that it has.
+    std::string HowItIs();
 };
 
 /// Start to window and F12 to code 0, as a test of the state that something else has left.
