@@ -190,7 +190,7 @@ void FaultyHome::Live(const Trap& trap, int report) {
     _exit(written && !::testing::Test::HasFailure() ? 0 : 99);
 }
 
-FaultyHome::End FaultyHome::Run(Trap trap, std::optional<double> milliseconds) {
+FaultyHome::End FaultyHome::Run(const Trap& trap, std::optional<double> milliseconds) {
     int ends[2];
     EXPECT_EQ(pipe(ends), 0);
     const pid_t child = fork();

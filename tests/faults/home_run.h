@@ -40,7 +40,7 @@ class FaultyHome {
         std::array<int, kCalls> Seen{};
     };
     /// The start, the deed and the end, in a process of its own. With `milliseconds` that process is killed then.
-    End Run(Trap trap = {}, std::optional<double> milliseconds = std::nullopt);
+    End Run(const Trap& trap = {}, std::optional<double> milliseconds = std::nullopt);
 
     /// All files but those of the store and the cache, by their path in the home; links as "-> target".
     [[nodiscard]] std::map<std::string, std::string> Files() const;

@@ -42,6 +42,7 @@ std::vector<Kill> ChosenKills(const std::vector<Kill>& all) {
         return all;
     }
     std::vector<Kill> some;
+    some.reserve(kFewKills);
     for (int i = 0; i < kFewKills; ++i) {
         some.push_back(all[static_cast<std::size_t>(i) * all.size() / kFewKills]);
     }

@@ -9,7 +9,7 @@ namespace lv {
 void FuzzIniRewriting(TextView input) {
     const std::size_t choice = TakeChoice(input, 256);
     ProfileSnapshot profile;
-    profile.UseRez = choice & 1;
+    profile.UseRez = choice & 1 ? 1 : 0;
     profile.ResolutionsPos_Content = choice & 2 ? Text(input.substr(0, 20)) : PadToWidth("800x600 ", 100);
     profile.UseBits = choice & 4 ? 1 : 0;
     profile.BitsPos_Content = PadToWidth("16", 100);
