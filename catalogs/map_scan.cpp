@@ -16,6 +16,10 @@ constexpr Index kSin = 5;
 constexpr double kSecondsForAnArchive = 0.1;
 constexpr double kSecondsForADirectory = 1;
 
+// More than the archives of any game and its modification hold. A drop-down list takes its time for each row, and the
+// more of it the more rows it has.
+constexpr std::size_t kMostMapsOfArchives = 1024;
+
 constexpr std::size_t kSystemLength = 6;  // of the word "system"
 
 void AddMap(Text& mapList, TextView name) {
@@ -44,13 +48,13 @@ void ScanLooseFiles(Files& files, TextView directory, Text& mapList) {
     }
 }
 
-void ScanArchives(Run& run, TextView directory, Text& mapList) {
+void ScanArchives(Run& run, TextView directory, std::size_t& room, Text& mapList) {
     const bool isSin = run.GameKind == kSin;
     Files& files = run.System.Disk;
     Clock& clock = run.System.Time;
     const double end = clock.Seconds() + kSecondsForADirectory;
     for (const Text& name : ListFiles(files, directory, isSin ? "*.sin" : "*.pak")) {
-        if (clock.Seconds() > end) {
+        if (room == 0 || clock.Seconds() > end) {
             return;
         }
         const auto archive = files.Open(Join(directory, "\\", name));
@@ -58,18 +62,19 @@ void ScanArchives(Run& run, TextView directory, Text& mapList) {
             continue;
         }
         TimedFile timed(*archive.Value, clock, kSecondsForAnArchive);
-        for (const Text& map : PakMapNames(timed, isSin ? "SPAK" : "PACK")) {
+        for (const Text& map : PakMapNames(timed, isSin ? "SPAK" : "PACK", room)) {
             AddMap(mapList, map);
+            --room;
         }
     }
 }
 
-void ScanDirectory(Run& run, TextView subdirectory, Text& mapList) {
+void ScanDirectory(Run& run, TextView subdirectory, std::size_t& room, Text& mapList) {
     Text directory = Join(run.DefaultGameDirectory, "\\", subdirectory);
     if (directory.ends_with('\\')) {
         directory.pop_back();
     }
-    ScanArchives(run, directory, mapList);
+    ScanArchives(run, directory, room, mapList);
     ScanLooseFiles(run.System.Disk, directory, mapList);
 }
 
@@ -78,10 +83,11 @@ void ScanGame(Run& run, Text& mapList) {
         ScanUnreal(run.System.Disk, run.DefaultGameDirectory, mapList);
         return;
     }
+    std::size_t room = kMostMapsOfArchives;
     if (UpperCase(run.CurrentGameDir) != UpperCase(run.BaseGameDir)) {
-        ScanDirectory(run, run.CurrentGameDir, mapList);
+        ScanDirectory(run, run.CurrentGameDir, room, mapList);
     }
-    ScanDirectory(run, run.BaseGameDir, mapList);
+    ScanDirectory(run, run.BaseGameDir, room, mapList);
 }
 
 }  // namespace

@@ -58,7 +58,7 @@ std::optional<Text> MapNameOfEntry(TextView entry) {
     return Text(name);
 }
 
-std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic) {
+std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic, std::size_t most) {
     const auto header = ReadPakHeader(archive.Read(0, kPakHeaderSize).Value, magic);
     if (!header || header->Offset >= archive.Size()) {
         return {};
@@ -68,7 +68,7 @@ std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic) {
     const std::uint64_t end = header->Offset + std::min(wanted, archive.Size() - header->Offset);
 
     std::vector<Text> names;
-    for (std::uint64_t at = header->Offset; at < end; at += kBlock) {
+    for (std::uint64_t at = header->Offset; at < end && names.size() < most; at += kBlock) {
         const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(kBlock, end - at));
         const Result<Text> block = archive.Read(at, size);
         AddMapNames(block.Value, names);
@@ -76,6 +76,7 @@ std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic) {
             break;
         }
     }
+    names.resize(std::min(names.size(), most));
     return names;
 }
 

@@ -36,8 +36,8 @@ std::uint32_t PakEntryCount(std::uint32_t length);
 std::optional<Text> MapNameOfEntry(TextView entry);
 
 /// The maps of an archive in the directory's order, read in blocks. Whatever the header says, no more is read than the
-/// file holds and kMostMapEntries take; a read that fails ends the list. A damaged archive costs its own entries and
-/// nothing else.
-std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic);
+/// file holds and kMostMapEntries take; a read that fails ends the list, as `most` names do. A damaged archive costs
+/// its own entries and nothing else.
+std::vector<Text> PakMapNames(RandomAccessFile& archive, TextView magic, std::size_t most = kMostMapEntries);
 
 }  // namespace lv

@@ -171,11 +171,28 @@ TEST_F(MapScanTest, PipesAndDevicesAreNoArchivesAndNoMaps) {
 }
 
 TEST_F(MapScanTest, ASlowArchiveIsLeftAfterATenthOfASecond) {
-    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile(TextList(20'000, "maps/a.bsp")));
-    system.Time.Step = 0.06;  // a look before each block: the second one behind the first 4,096 entries is too late
+    TextList entries(20'000, "progs.dat");
+    entries[4095] = "maps/read.bsp";
+    entries[8192] = "maps/not_any_more.bsp";
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile(entries));
+    system.Time.Step = 0.06;  // at each look at the clock: one before each block behind the first 4,096 entries
     ScanForMaps(run, lists);
-    EXPECT_GE(lists.Map_Cbo.Items.size(), 4096U);
-    EXPECT_LT(lists.Map_Cbo.Items.size(), 8192U);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"READ"}));
+    system.Time.Step = 0;
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items, (TextList{"READ", "NOT_ANY_MORE"}));
+}
+
+TEST_F(MapScanTest, ArchivesFillTheListWithNoMoreThanItCanShow) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak", PakFile(TextList(1000, "maps/a.bsp")));
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak1.pak", PakFile(TextList(65536, "maps/b.bsp")));
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\pak2.pak", PakFile({"maps/c.bsp"}));
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\loose.bsp");
+    ScanForMaps(run, lists);
+    ASSERT_EQ(lists.Map_Cbo.Items.size(), 1025U);
+    EXPECT_EQ(lists.Map_Cbo.Items[999], "A");
+    EXPECT_EQ(lists.Map_Cbo.Items[1023], "B");
+    EXPECT_EQ(lists.Map_Cbo.Items[1024], "LOOSE");
 }
 
 TEST_F(MapScanTest, ManySlowArchivesAreLeftAfterASecond) {

@@ -124,6 +124,13 @@ TEST(PakMapNames, OfAnArchiveThatClaimsFourGigabytesAreLookedForInFourMegabytes)
     EXPECT_EQ(hole.Total, 12U + 65536 * 64);
 }
 
+TEST(PakMapNames, AreNoMoreThanAreAskedFor) {
+    WatchedFile file(PakFile(TextList(20'000, "maps/a.bsp")));
+    EXPECT_EQ(PakMapNames(file, "PACK", 3).size(), 3U);
+    EXPECT_EQ(file.Reads, 2);
+    EXPECT_EQ(PakMapNames(file, "PACK", 0).size(), 0U);
+}
+
 TEST(PakMapNames, EndWhereAReadFails) {
     class Failing : public WatchedFile {
       public:

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <random>
 
 namespace lv {
@@ -71,6 +72,20 @@ TEST(GetField, WrapsBehindTheLastField) {
     EXPECT_EQ(GetField("a;b", 3, ";"), "b");
     EXPECT_EQ(GetField("a;b", 4, ";"), "a");
     EXPECT_EQ(GetField("alone", 7, ";"), "alone");
+}
+
+TEST(GetField, WrapsAgainAndAgain) {
+    EXPECT_EQ(GetField("a;b;c", 32765, ";"), "c");
+    EXPECT_EQ(GetField("a;b;c", 32766, ";"), "a");
+    EXPECT_EQ(GetField("a;b;c", 32767, ";"), "b");
+    EXPECT_EQ(GetField("alone", 32767, ";"), "alone");
+    EXPECT_EQ(GetField(";", 32767, ";"), "");
+}
+
+TEST(GetField, FarBehindTheLastFieldCostsOnePassOverTheText) {
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(GetField(Text(16 << 20, 'x'), 32767, ";").size(), 16U << 20);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
 }
 
 TEST(GetField, BelowZeroIsTheFirst) {

@@ -155,6 +155,26 @@ TEST_F(Mounted, FullDiskDuringASaveIsToldAndTheOldValueStays) {
     EXPECT_EQ(program.EndByF12(), 0);
 }
 
+TEST_F(Mounted, FullDiskAtTheStartIsToldAndTheProgramWorksOnWhatIsStored) {
+    ProgramHome home("config_full_at_start");
+    home.Prepare();
+    ProgramRun program(home, OnASmallDisk(home.Config, "2m") + "cat /dev/zero > '" + home.Config.string() +
+                                 "/fill' 2>/dev/null || true\n");
+    const std::string box = program.WaitForDialog(kPlainTitle);
+    KeepScreenshot("config_full_at_start");
+    const std::string text = program.TextOfBox(box);
+    EXPECT_THAT(text, HasSubstr(home.Settings.string()));
+    EXPECT_THAT(text, HasSubstr("nothing that"));
+    PressKey("Return");
+    const std::string window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    PressKey("F2");
+    EXPECT_FALSE(WaitForOutput(home.Quake / "output.txt").empty()) << "the stored game is started";
+    EXPECT_EQ(RowsSeen(home, program).count("LV-Stuff/RunCount"), 0U);
+    ASSERT_TRUE(Activate(window));
+    EXPECT_EQ(program.EndByF12(), 0);
+}
+
 TEST_F(Mounted, FullDiskAtTheEndDoesNotKeepTheProgramFromEnding) {
     ProgramHome home("config_full_at_end");
     home.Prepare();

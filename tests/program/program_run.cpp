@@ -63,6 +63,13 @@ pid_t Spawn(const ProgramHome& home, const std::vector<std::string>& command) {
     _exit(127);
 }
 
+std::vector<std::string> WithVariables(const Environment& more) {
+    std::vector<std::string> command = {"env"};
+    command.insert(command.end(), more.begin(), more.end());
+    command.push_back(ProgramFile().string());
+    return command;
+}
+
 std::vector<std::string> InsideMounts(const std::string& shell) {
     std::vector<std::string> command = {"unshare"};
     if (geteuid() != 0) {
@@ -184,9 +191,19 @@ bool WaitForTrayHost() {
     return WaitUntil([] { return OutputOf({"xwininfo", "-root", "-tree"}).find("\"trayer\"") != std::string::npos; });
 }
 
-ProgramRun::ProgramRun(const ProgramHome& home) : OwnProcess(home, {ProgramFile().string()}) {}
+ProgramRun::ProgramRun(const ProgramHome& home, const Environment& more) : OwnProcess(home, WithVariables(more)) {}
 
 ProgramRun::ProgramRun(const ProgramHome& home, const std::string& shell) : OwnProcess(home, InsideMounts(shell)) {}
+
+std::string ProgramRun::HowItIs() {
+    KeepScreenshot("missing_window_of_" + std::to_string(Id()));
+    const std::optional<int> code = WaitForEnd(0);
+    std::string windows;
+    for (const std::string& window : WindowsOf(Id(), ".*")) {
+        windows += "\n  " + OutputOf({"xdotool", "getwindowname", window}) + (IsShown(window) ? ", on the screen" : "");
+    }
+    return code ? "; the program has ended with " + std::to_string(*code) : "; the program runs and has" + windows;
+}
 
 std::string ProgramRun::WaitForWindow() {
     std::vector<std::string> found;
@@ -194,7 +211,7 @@ std::string ProgramRun::WaitForWindow() {
         found = ShownWindowsOf(Id(), kMainTitle);
         return !found.empty() || !IsRunning();
     });
-    EXPECT_TRUE(came && !found.empty()) << "no main window came up";
+    EXPECT_TRUE(came && !found.empty()) << "no main window came up" << HowItIs();
     return found.empty() ? std::string() : found.front();
 }
 
@@ -212,7 +229,7 @@ std::string ProgramRun::WaitForDialog(const std::string& title) {
         }
         return !dialog.empty() || !IsRunning();
     });
-    EXPECT_FALSE(dialog.empty()) << "no box called " << title;
+    EXPECT_FALSE(dialog.empty()) << "no box called " << title << HowItIs();
     if (!dialog.empty()) {
         EXPECT_TRUE(Activate(dialog));
     }

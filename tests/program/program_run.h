@@ -74,9 +74,12 @@ inline const std::vector<std::string> kTrayHost = {"trayer", "--edge",  "bottom"
                                                    "pixel",  "--width", "100",    "--height", "32"};
 bool WaitForTrayHost();
 
+/// Variables, each as "name=value".
+using Environment = std::vector<std::string>;
+
 class ProgramRun : public OwnProcess {
   public:
-    explicit ProgramRun(const ProgramHome& home);
+    explicit ProgramRun(const ProgramHome& home, const Environment& more = {});
     /// `shell` runs as root of mount tables of its own before the program takes its place: it may mount what it likes
     /// and nobody else sees that.
     ProgramRun(const ProgramHome& home, const std::string& shell);
@@ -94,6 +97,10 @@ class ProgramRun : public OwnProcess {
 
     /// `path` as this program sees it through its own mounts.
     [[nodiscard]] std::filesystem::path Seen(const std::filesystem::path& path) const;
+
+  private:
+    /// For a test that fails for want of a window: whether it runs, and the windows that it has.
+    std::string HowItIs();
 };
 
 /// Start to window and F12 to code 0, as a test of the state that something else has left.
