@@ -18,6 +18,7 @@ class PathForm : public ModalForm {
 
   private:
     void ShowDirectories();
+    void Type(wxKeyEvent& event);
     void KeepSize();
 
     Path_Frm& form_;
