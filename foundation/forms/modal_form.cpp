@@ -4,6 +4,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "platform/spoken_name.h"
@@ -41,6 +42,9 @@ void ModalForm::ShowState() {
     }
     if (Controls.Show()) {
         Layout();
+        if (scrolled_ != nullptr) {
+            scrolled_->FitInside();
+        }
     }
 }
 
@@ -119,12 +123,13 @@ void ModalForm::Finish(wxButton* ok, wxButton* cancel) {
 
 void ModalForm::Arrange() {
     Controls.Show();
-    SetSizerAndFit(rows_);
+    scrolled_ = FitOnScreen(*this, rows_);
     if (GetParent() != nullptr) {
         CentreOnParent();
     } else {
         CentreOnScreen();
     }
+    StayOnScreen(*this);
     GiveWhatsThis(this);
     AfterHandler();
 }
