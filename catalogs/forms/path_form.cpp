@@ -37,8 +37,12 @@ PathForm::PathForm(wxWindow* owner, Path_Frm& form)
             });
         }
     };
-    directories_->Bind(wxEVT_LISTBOX_DCLICK, [enter](wxCommandEvent&) { enter(); });
-    // Before the toolkit, which would press the default button as well.
+    // GTK's list makes a double click of Enter, and presses the default button behind it, if that can be pressed.
+    directories_->Bind(wxEVT_LISTBOX_DCLICK, [this, enter](wxCommandEvent&) {
+        enter();
+        ok_->Disable();
+        CallAfter([this] { ok_->Enable(); });
+    });
     directories_->Bind(wxEVT_CHAR_HOOK, [enter](wxKeyEvent& event) {
         if (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER) {
             enter();
@@ -51,8 +55,8 @@ PathForm::PathForm(wxWindow* owner, Path_Frm& form)
     rows->Add(MakeLabel(this, "Path_Lbl", form_.Path_Lbl), wxSizerFlags().Expand());
     AddWide(rows, 1);
     ShowDirectories();
-    Finish(MakeButton("OK_Cmd", form_.OK_Cmd, [this] { Path_OK_Cmd_Click(form_); }),
-           MakeButton("Cancel_Cmd", form_.Cancel_Cmd, [this] { Path_Cancel_Cmd_Click(form_); }));
+    ok_ = MakeButton("OK_Cmd", form_.OK_Cmd, [this] { Path_OK_Cmd_Click(form_); });
+    Finish(ok_, MakeButton("Cancel_Cmd", form_.Cancel_Cmd, [this] { Path_Cancel_Cmd_Click(form_); }));
     KeepSize();
     Path_Load(form_);  // a first place is the middle for this size
     place_.Put();

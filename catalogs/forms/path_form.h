@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include <wx/button.h>
 #include <wx/listbox.h>
 
 #include "catalogs/path_window.h"
@@ -24,6 +25,7 @@ class PathForm : public ModalForm {
     Path_Frm& form_;
     KeptPlace place_;
     wxListBox* directories_ = nullptr;
+    wxButton* ok_ = nullptr;
     std::vector<Text> shown_;
 };
 

@@ -114,6 +114,7 @@ void ModalForm::AddWide(wxSizer* sizer, int proportion) {
 
 void ModalForm::Finish(wxButton* ok, wxButton* cancel) {
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
+    cancel->MoveAfterInTabOrder(ok);
     buttons->Add(ok);
     buttons->Add(cancel, wxSizerFlags().Border(wxLEFT, kGap));
     rows_->Add(buttons, wxSizerFlags().Center().Border(wxALL, kGap * 2));

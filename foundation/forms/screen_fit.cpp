@@ -33,6 +33,7 @@ wxScrolledWindow* MakeScrolled(wxTopLevelWindow& window) {
                                          wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
     KeepScrollBarsInSight(content->GetHandle());
     content->SetScrollRate(window.FromDIP(kScrollStep), window.FromDIP(kScrollStep));
+    FollowKeyboard(*content);
     return content;
 }
 
@@ -74,6 +75,26 @@ wxSize ScrollInRoom(wxScrolledWindow& content, wxSize wanted, wxSize room) {
                            shown.ScrollsDown ? wxSHOW_SB_ALWAYS : wxSHOW_SB_NEVER);
     content.Scroll(shown.ScrollsAcross ? wxDefaultCoord : 0, shown.ScrollsDown ? wxDefaultCoord : 0);
     return {shown.Width, shown.Height};
+}
+
+void FollowKeyboard(wxScrolledWindow& content) {
+    content.Bind(wxEVT_CHILD_FOCUS, [&content](wxChildFocusEvent& event) {
+        event.Skip();
+        const wxWindow* const focus = event.GetWindow();
+        int step = 0;
+        content.GetScrollPixelsPerUnit(nullptr, &step);
+        if (focus == &content || step <= 0) {
+            return;
+        }
+        const int above = content.ScreenToClient(focus->GetScreenPosition()).y;
+        const int below = above + focus->GetSize().y - content.GetClientSize().y;
+        const int top = content.GetViewStart().y;
+        if (above < 0) {
+            content.Scroll(wxDefaultCoord, std::max(0, top - (step - 1 - above) / step));
+        } else if (below > 0) {
+            content.Scroll(wxDefaultCoord, top + (below + step - 1) / step);
+        }
+    });
 }
 
 wxScrolledWindow* FitOnScreen(wxTopLevelWindow& window, wxSizer* rows) {

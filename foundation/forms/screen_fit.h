@@ -20,6 +20,9 @@ wxSize RoomInside(const wxTopLevelWindow& window);
 /// Gives the content the scroll bars that it needs to be seen in `room`, and says how large it is then.
 wxSize ScrollInRoom(wxScrolledWindow& content, wxSize wanted, wxSize room);
 
+/// Scrolls to whichever control gets the keyboard, however deep it stands in the content.
+void FollowKeyboard(wxScrolledWindow& content);
+
 /// In place of SetSizerAndFit: where the rows are more than the screen has room for, they scroll, but for the last one,
 /// the buttons. Gives what scrolls, or null.
 wxScrolledWindow* FitOnScreen(wxTopLevelWindow& window, wxSizer* rows);

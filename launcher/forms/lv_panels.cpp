@@ -52,6 +52,7 @@ LvPanels::LvPanels(wxWindow* parent, Launcher& launcher, Binder& binder)
     ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_NEVER);
     KeepScrollBarsInSight(GetHandle());
     SetScrollRate(FromDIP(kScrollStep), FromDIP(kScrollStep));
+    FollowKeyboard(*this);
     // Each part has a window of its own, so that a size can take it away whatever the controls in it say.
     rows_ = new wxBoxSizer(wxVERTICAL);
     MakeBarPart();

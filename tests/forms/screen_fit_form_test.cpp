@@ -123,7 +123,9 @@ TEST_F(OnAnyScreen, TheKeyboardGoesThroughADialogThatScrollsFromTheTop) {
         Find("Field(39)")->SetFocus();
         Settle();
         PressKey(WXK_TAB);
-        EXPECT_TRUE(HasKeyboard(Find("OK_Cmd"))) << wxWindow::FindFocus()->GetName();
+        EXPECT_TRUE(HasKeyboard(Find("OK_Cmd")));
+        PressKey(WXK_TAB);
+        EXPECT_TRUE(HasKeyboard(Find("Cancel_Cmd")));
         PressKey(WXK_ESCAPE);
     });
     ShowModal(form);
@@ -136,6 +138,10 @@ TEST_F(OnAnyScreen, TheSetupWindowShowsItsButtons) {
         ExpectOnScreen("OK_Cmd");
         ExpectOnScreen("Cancel_Cmd");
         Screenshot("setup_on_its_screen");
+        wxWindow* const last = Find("GamePath_Txt(8)");
+        last->SetFocus();
+        Settle(300);
+        EXPECT_LE(last->GetScreenRect().GetBottom(), Find("OK_Cmd")->GetScreenRect().GetTop());
         DoAndAnswer(
             [] {
                 Find("Browse_Cmd(0)")
@@ -200,9 +206,8 @@ TEST_F(MainWindowOnAnyScreen, TheMainWindowIsOnItWithItsMenuBar) {
     wxWindow* const last = Find("ShowSet_Chk");
     last->SetFocus();
     Settle(300);
+    EXPECT_TRUE(form->GetScreenRect().Contains(last->GetScreenRect()));
     Screenshot("main_window_scrolled");
-    EXPECT_TRUE(form->GetScreenRect().Contains(last->GetScreenRect()))
-        << last->GetScreenRect().y << last->IsEnabled() << last->IsShownOnScreen() << HasKeyboard(last);
     LittleSize(launcher);
     Settle(300);
     ExpectOnScreen("LV_Frm");

@@ -129,7 +129,7 @@ TEST_F(WizardForm, EnterGoesIntoTheDirectoryThatTypingFoundAndAcceptsNothing) {
                         Settle(300);
                         ASSERT_NE(wxWindow::FindWindowByName("Path_Frm"), nullptr);
                         EXPECT_EQ(Find("Path_Lbl")->GetLabel(), "C:\\QUAKE\\ID1");
-                        ClickOn(Find("OK_Cmd"));
+                        ClickOn(Find("Path_Frm")->FindWindow("OK_Cmd"));
                     });
         EXPECT_EQ(Path(0), "C:\\QUAKE\\ID1");
         PressKey(WXK_ESCAPE);

@@ -41,6 +41,7 @@ VideoProfileForm::VideoProfileForm(VideoProfile_Frm& model, WxUser& user)
         new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
     KeepScrollBarsInSight(content_->GetHandle());
     content_->SetScrollRate(FromDIP(10), FromDIP(10));
+    FollowKeyboard(*content_);
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeCardRow(), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap));
     rows->Add(MakeColumns(), wxSizerFlags(1).Expand().Border(wxALL, kGap / 2));
