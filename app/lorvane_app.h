@@ -17,6 +17,7 @@
 #include "foundation/forms/wx_text.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "foundation/window_services.h"
 #include "foundry/forms/fig_form.h"
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
@@ -39,6 +40,7 @@ struct Program {
     explicit Program(std::unique_ptr<System> host) : Host(std::move(host)) {
         User.SetRun(TheRun);
         AskWhileLocked(TheRun);
+        User.OnHelpKey([this] { OpenHelpFile(TheRun); });
         User.AddForms(MakeEntryForm);
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);

@@ -3,6 +3,7 @@
 #include "catalogs/browse.h"
 #include "catalogs/game_filters.h"
 #include "foundation/field_strings.h"
+#include "foundation/typed_path.h"
 
 namespace lv {
 
@@ -49,19 +50,21 @@ AddDemo_Frm::AddDemo_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
 void AddDemo_Browse_Cmd_Click(AddDemo_Frm& form) {
     const GameFilters* filters = FiltersOf(form.run.GameKind);
     const TextView filter = filters == nullptr || filters->Demos.empty() ? kAllFilesFilter : filters->Demos;
-    const auto path = BrowseForFile(form.run, filter, DemoDirectory(form.run));
+    const Text directory = DemoDirectory(form.run);
+    const Text typed = TypedName(form.run, form.DemoPath_Txt.Text, directory);
+    const Text inBox = typed.empty() ? Text() : Join(directory, "\\", typed);
+    const auto path = BrowseForFile(form.run, filter, BrowseStart(form.run, inBox, directory));
     if (!path) {
         return;
     }
-    const Text above = DemoDirectory(form.run) + "\\";
-    const bool below = path->size() > above.size() && SameText(TextView(*path).substr(0, above.size()), above);
-    form.DemoPath_Txt.Text = below ? path->substr(above.size()) : LastPathPart(*path);
+    const Text name = NameBelow(directory, *path);
+    form.DemoPath_Txt.Text = name.empty() ? LastPathPart(*path) : name;
 }
 
 void AddDemo_OK_Cmd_Click(AddDemo_Frm& form) {
     ListBox& list = form.Lists.Demo_Cbo;
     const Text title = Trim(form.DemoTitle_Txt.Text);
-    const Text name = Trim(form.DemoPath_Txt.Text);
+    const Text name = TypedName(form.run, form.DemoPath_Txt.Text, DemoDirectory(form.run));
     if (!Validate(form, title, name)) {
         return;
     }

@@ -7,6 +7,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "foundation/typed_path.h"
 
 namespace lv {
 
@@ -103,8 +104,7 @@ AddExe_Frm::AddExe_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
 }
 
 void AddExe_Browse_Cmd_Click(AddExe_Frm& form) {
-    const Text& directory = form.run.DefaultGameDirectory;
-    if (auto path = BrowseForFile(form.run, kExecutableFilter, directory.empty() ? "c:\\" : TextView(directory))) {
+    if (auto path = BrowseForFile(form.run, kExecutableFilter, BrowseStart(form.run, form.ExePath_Txt.Text))) {
         form.ExePath_Txt.Text = *std::move(path);
     }
 }
@@ -112,7 +112,7 @@ void AddExe_Browse_Cmd_Click(AddExe_Frm& form) {
 void AddExe_OK_Cmd_Click(AddExe_Frm& form) {
     Run& run = form.run;
     ImageCombo& list = form.Lists.Exe_Cbo;
-    const GameRecord game = {Trim(form.ExeTitle_Txt.Text), Trim(form.ExePath_Txt.Text)};
+    const GameRecord game = {Trim(form.ExeTitle_Txt.Text), TypedPath(run, form.ExePath_Txt.Text)};
     if (!Validate(form, game)) {
         return;
     }

@@ -1,9 +1,11 @@
 #include "catalogs/add_game.h"
 
+#include "catalogs/browse.h"
 #include "catalogs/modifications.h"
 #include "catalogs/path_window.h"
 #include "foundation/field_strings.h"
 #include "foundation/settings.h"
+#include "foundation/typed_path.h"
 
 namespace lv {
 
@@ -46,22 +48,25 @@ AddGame_Frm::AddGame_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
 }
 
 void AddGame_Browse_Cmd_Click(AddGame_Frm& form) {
-    const Text path = ChoosePath(form.run, form.run.DefaultGameDirectory);
+    const Text& directory = form.run.DefaultGameDirectory;
+    const Text typed = TypedName(form.run, form.GamePath_Txt.Text, directory);
+    const Text inBox = typed.empty() ? Text() : Join(directory, "\\", typed);
+    const Text path = ChoosePath(form.run, BrowseStart(form.run, inBox, directory));
     if (path == kPathCancelled) {
         return;
     }
-    const Text above = Join(form.run.DefaultGameDirectory, "\\");
-    if (path.size() <= above.size() || !SameText(TextView(path).substr(0, above.size()), above)) {
+    const Text name = NameBelow(directory, path);
+    if (name.empty()) {
         TellFault(form, "GamePath_Txt", kInvalidPath);
         return;
     }
-    form.GamePath_Txt.Text = path.substr(above.size());
+    form.GamePath_Txt.Text = name;
 }
 
 void AddGame_OK_Cmd_Click(AddGame_Frm& form) {
     ListBox& list = form.Lists.Game_Cbo;
     const Text title = Trim(form.GameTitle_Txt.Text);
-    const Text name = Trim(form.GamePath_Txt.Text);
+    const Text name = TypedName(form.run, form.GamePath_Txt.Text, form.run.DefaultGameDirectory);
     if (!Validate(form, title, name)) {
         return;
     }

@@ -7,6 +7,7 @@
 #include "foundation/link_question.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "foundation/typed_path.h"
 
 namespace lv {
 
@@ -140,8 +141,10 @@ Text WholeScriptPath(const Run& run, TextView typed) {
 
 void AddScript_Browse_Cmd_Click(AddScript_Frm& form) {
     const GameFilters* filters = FiltersOf(form.run.GameKind);
+    const Text typed = TypedPath(form.run, form.ScriptPath_Txt.Text);
+    const Text inBox = typed.empty() ? Text() : WholeScriptPath(form.run, typed);
     if (auto path = BrowseForFile(form.run, filters == nullptr ? kAllFilesFilter : filters->Scripts,
-                                  ScriptDirectory(form.run))) {
+                                  BrowseStart(form.run, inBox, ScriptDirectory(form.run)))) {
         form.ScriptPath_Txt.Text = *std::move(path);
     }
 }
@@ -149,7 +152,7 @@ void AddScript_Browse_Cmd_Click(AddScript_Frm& form) {
 void AddScript_OK_Cmd_Click(AddScript_Frm& form) {
     Run& run = form.run;
     const Text title = Trim(form.ScriptTitle_Txt.Text);
-    const Text name = Trim(form.ScriptPath_Txt.Text);
+    const Text name = TypedPath(run, form.ScriptPath_Txt.Text);
     if (!ValidateTexts(form, title, name)) {
         return;
     }

@@ -20,6 +20,10 @@ constexpr int kDialogOutdated = 20476;
 /// What is told of a failed dialog.
 Text DialogFailureText(const Error& failed);
 
+/// Where a choice of a file or a directory begins: at the path in the box, as far as it is there; else in `usual`, if
+/// that is there; else where the last choice ended; else at home.
+Text BrowseStart(const Run& run, TextView inBox, TextView usual = "");
+
 /// What the dialog gives, asked with no window of ours on top of it. A path longer than MaxFileSize is the error
 /// kDialogOutdated: room for it is what the newer dialog has.
 Result<std::optional<Text>> AskForFile(Run& run, const FileRequest& request);

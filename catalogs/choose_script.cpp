@@ -3,6 +3,7 @@
 #include "catalogs/browse.h"
 #include "catalogs/game_filters.h"
 #include "foundation/field_strings.h"
+#include "foundation/typed_path.h"
 
 namespace lv {
 
@@ -28,14 +29,13 @@ ChooseScript_Frm::ChooseScript_Frm(Run& owner, TextView directory)
 void ChooseScript_Browse_Cmd_Click(ChooseScript_Frm& form) {
     if (auto path = BrowseForFile(form.run, FilterFor(form.run.GameKind), form.Directory)) {
         // The game looks for a script in its own directory, so one that lies there goes by its name.
-        const bool lies = path->size() > form.Directory.size() &&
-                          SameText(TextView(*path).substr(0, form.Directory.size()), form.Directory);
-        form.ScriptPath_Txt.Text = lies ? path->substr(form.Directory.size()) : *std::move(path);
+        const Text name = NameBelow(form.Directory, *path);
+        form.ScriptPath_Txt.Text = name.empty() ? *std::move(path) : name;
     }
 }
 
 void ChooseScript_OK_Cmd_Click(ChooseScript_Frm& form) {
-    const Text name = Trim(form.ScriptPath_Txt.Text);
+    const Text name = TypedName(form.run, form.ScriptPath_Txt.Text, form.Directory);
     if (name.empty()) {
         TellFault(form, "ScriptPath_Txt", "No script name was entered.");
         return;

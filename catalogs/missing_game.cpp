@@ -91,16 +91,17 @@ Text FindOnOtherDrives(Run& run, TextView path) {
     return {};
 }
 
-Text ChooseNewPlace(Run& run, TextView fileName) {
+Text ChooseNewPlace(Run& run, TextView path) {
+    const Text fileName = LastPathPart(path);
     const Text filter = Join("Game Executable [", fileName, "](", fileName, ")|", fileName, "|All Files (*.*)|*.*");
-    return BrowseForFile(run, filter, "c:\\").value_or("");
+    return BrowseForFile(run, filter, BrowseStart(run, path)).value_or("");
 }
 
 void Relocate(Run& run, const GameRecord& game) {
     const Text path = OnDisk(game.Path);
     Text place = FindOnOtherDrives(run, path);
     if (place.empty()) {
-        place = ChooseNewPlace(run, LastPathPart(path));
+        place = ChooseNewPlace(run, path);
     }
     const Text from = DirectoryWithSlash(path);
     const Text to = DirectoryWithSlash(place);

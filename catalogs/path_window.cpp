@@ -68,6 +68,7 @@ Error GoTo(Path_Frm& form, TextView wanted) {
     if (!listed.Ok()) {
         return listed.Fault;
     }
+    form.Search = {};
     form.Dir1.Clear();
     form.DirPaths.clear();
     form.DirLevels.clear();
@@ -132,6 +133,14 @@ void Path_Drive1_Change(Path_Frm& form) {
     }
 }
 
+void Path_Dir1_KeyPress(Path_Frm& form, char letter) {
+    const int row =
+        FindTyped(form.Search, form.Dir1.Items, form.Dir1.ListIndex, letter, form.run.System.Time.Seconds());
+    if (row >= 0) {
+        form.Dir1.ListIndex = row;
+    }
+}
+
 void Path_Dir1_DblClick(Path_Frm& form, int row) {
     if (row < 0 || static_cast<std::size_t>(row) >= form.DirPaths.size()) {
         return;
@@ -157,6 +166,9 @@ Text ChoosePath(Run& run, TextView start, TextView caption) {
     Path_Load(form);
     ShowModal(form);
     Path_Unload(form);
+    if (form.PathResult != kPathCancelled) {
+        run.LastBrowsed = form.PathResult;
+    }
     return form.PathResult;
 }
 

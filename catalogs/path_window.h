@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "catalogs/typed_search.h"
 #include "foundation/modal_window.h"
 #include "foundation/window_services.h"
 
@@ -28,12 +29,15 @@ struct Path_Frm : ModalWindow {
 
     Text PathResult{kPathCancelled};  // closing the window by its frame is a cancel
     int LastDrive = -1;               // row of the last good one
+    TypedSearch Search;
 };
 
 void Path_Load(Path_Frm& form);
 /// For the form's end, whatever the outcome.
 void Path_Unload(Path_Frm& form);
 void Path_Drive1_Change(Path_Frm& form);
+/// A letter typed in the list: selects the directory whose name begins with what has been typed.
+void Path_Dir1_KeyPress(Path_Frm& form, char letter);
 /// Goes into the row's directory: a double click, or Enter.
 void Path_Dir1_DblClick(Path_Frm& form, int row);
 void Path_OK_Cmd_Click(Path_Frm& form);

@@ -57,6 +57,7 @@ struct Run {
     bool LockTold = false;     // another program holds the store, and the user knows that nothing is saved
     bool MainFormLoaded = false;
     TopmostState Topmost{};
+    Text LastBrowsed{};  // the directory that the last choice of a file or a directory ended in
     bool Ended = false;  // the program is over: handlers return, the event loop ends
 };
 

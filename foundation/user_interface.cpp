@@ -6,7 +6,7 @@ std::optional<Text> UserInterface::InputBox(TextView, TextView, TextView) {
     return std::nullopt;
 }
 
-Error UserInterface::OpenHelp(TextView) {
+Error UserInterface::OpenHelp(TextView, const HelpPlace&) {
     return MakeError(error::kFileNotFound);
 }
 

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "foundation/text.h"
+#include "foundation/window_placement.h"
 #include "platform/error.h"
 
 namespace lv {
@@ -75,7 +76,7 @@ class UserInterface {
     virtual std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered);
 
     /// Opens the handbook, a drive path, in the toolkit's viewer.
-    virtual Error OpenHelp(TextView path);
+    virtual Error OpenHelp(TextView path, const HelpPlace& place);
 
     /// Opens the address in the default browser. Error 53 if there is no browser, any other if it would not load.
     virtual Error OpenUrl(TextView address);

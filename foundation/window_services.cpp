@@ -17,6 +17,12 @@ constexpr double kWidestScreen = 100000;  // pixels
 
 constexpr TextView kManual = "\\LV3D.hlp";                  // for the home system's own viewer
 constexpr TextView kHandbook = "\\handbook\\handbook.hhp";  // for the toolkit's
+constexpr TextView kHandbookForm = "Handbook_Frm";
+constexpr double kHandbookShare = 0.6;  // of the screen
+constexpr double kHandbookHeightShare = 0.85;
+constexpr int kHandbookWidth = 960;  // pixels: contents and a page beside them
+constexpr int kLeastHandbook = 300;
+
 constexpr TextView kUsualDirectory = "C:\\Progra~1\\ostran~1\\lorvan~1";
 
 double Middle(double outer, double inner) {
@@ -78,11 +84,24 @@ void CenterOnOwner(WindowPlacement& placement, const WindowPlacement& owner) {
     placement.Top = owner.Top + std::trunc(owner.Height - placement.Height) / 2;
 }
 
+WindowPlacement HandbookPlacement(Run& run) {
+    const TwipsSize screen = ScreenInTwips(run);
+    const double usual = std::min(screen.Width, std::max(kHandbookShare * screen.Width, ToTwips(kHandbookWidth)));
+    WindowPlacement placement;
+    placement.Width = ReadNumber(run, kHandbookForm, "Width", usual);
+    placement.Height = ReadNumber(run, kHandbookForm, "Height", kHandbookHeightShare * screen.Height);
+    placement.Width = std::min(std::max(placement.Width, ToTwips(kLeastHandbook)), screen.Width);
+    placement.Height = std::min(std::max(placement.Height, ToTwips(kLeastHandbook)), screen.Height);
+    LoadPlacement(run, kHandbookForm, placement, screen);
+    return placement;
+}
+
 std::vector<Text> HelpFiles(Run& run) {
+    // The first questions of a first start come before the program's directory is settled.
+    const Text program = run.AppDirectory.empty() ? run.System.Disk.ProgramDirectory() : run.AppDirectory;
     std::vector<Text> found;
     for (const TextView name : {kManual, kHandbook}) {
-        for (const TextView directory :
-             {TextView(run.AppDirectory), kUsualDirectory, TextView(run.DefaultGameDirectory)}) {
+        for (const TextView directory : {TextView(program), kUsualDirectory, TextView(run.DefaultGameDirectory)}) {
             Text path = Join(directory, name);
             if (!directory.empty() && run.System.Disk.FileExists(path)) {
                 found.push_back(std::move(path));
@@ -98,10 +117,12 @@ void OpenHelpFile(Run& run) {
         TellHelpIsMissing(run);
         return;
     }
+    const HelpPlace place = {HandbookPlacement(run),
+                             [&run](const WindowPlacement& left) { SavePlacement(run, kHandbookForm, left); }};
     Error failed;
     for (const Text& path : files) {
         const bool isManual = path.ends_with(kManual);
-        failed = isManual ? run.System.Programs.StartHelpViewer(path) : run.User.OpenHelp(path);
+        failed = isManual ? run.System.Programs.StartHelpViewer(path) : run.User.OpenHelp(path, place);
         if (!failed) {
             return;
         }

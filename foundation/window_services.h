@@ -1,13 +1,13 @@
 // foundation/window_services.h
 //
-// What all windows share: where they come up, the help file, the web page. Places and sizes are twips, 15 to the
-// pixel, as they are stored.
+// What all windows share: where they come up, the help file, the web page. Places and sizes are twips.
 
 #pragma once
 
 #include <vector>
 
 #include "foundation/run.h"
+#include "foundation/window_placement.h"
 
 namespace lv {
 
@@ -18,18 +18,6 @@ constexpr double ToTwips(int pixels) {
 }
 /// Rounded to the nearest pixel, and held within what a screen can have.
 int ToPixels(double twips);
-
-constexpr int kWindowNormal = 0;
-constexpr int kWindowMinimised = 1;
-constexpr int kWindowMaximised = 2;
-
-struct WindowPlacement {
-    double Top = 0;
-    double Left = 0;
-    double Height = 0;
-    double Width = 0;
-    int WindowState = kWindowNormal;
-};
 
 struct TwipsSize {
     double Width = 0;
@@ -49,6 +37,9 @@ void SavePlacement(Run& run, TextView formName, const WindowPlacement& placement
 /// No clipping to the screen in either.
 void CenterOnScreen(WindowPlacement& placement, TwipsSize screen);
 void CenterOnOwner(WindowPlacement& placement, const WindowPlacement& owner);
+
+/// Where the handbook comes up: where it was left, at first large in the middle of the screen.
+WindowPlacement HandbookPlacement(Run& run);
 
 /// The help files that are there, the first to be tried in front: manuals before handbooks, and of each the one in the
 /// program's directory, in its usual one, in that of the game.

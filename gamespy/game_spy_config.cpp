@@ -1,5 +1,6 @@
 #include "gamespy/game_spy_config.h"
 
+#include "catalogs/browse.h"
 #include "catalogs/catalog_store.h"
 #include "catalogs/path_window.h"
 #include "foundation/field_strings.h"
@@ -145,7 +146,7 @@ void GameSpyConfig_ScriptSpy_Cbo_Click(GameSpyConfig_Frm& form, std::size_t slot
 }
 
 void GameSpyConfig_Browse_Cmd_Click(GameSpyConfig_Frm& form) {
-    const Text directory = ChoosePath(form.run, DirectoryOf(form.GameSpyLocation_Lbl.Caption));
+    const Text directory = ChoosePath(form.run, BrowseStart(form.run, DirectoryOf(form.GameSpyLocation_Lbl.Caption)));
     if (directory == kPathCancelled) {
         return;
     }

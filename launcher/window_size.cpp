@@ -1,5 +1,6 @@
 #include "launcher/window_size.h"
 
+#include "foundation/screen_fit.h"
 #include "foundation/settings.h"
 #include "launcher/launcher.h"
 #include "launcher/window_life.h"
@@ -54,7 +55,13 @@ PixelSize MainWindowSize(WindowSizeMode mode, const WindowMeasures& measured) {
                           (big ? frame * kBigFrameShare : frame / kSmallFrameDivisor);
     const double inner = mode == WindowSizeMode::ButtonsOnly ? measured.LastButtonRight * kButtonFactor
                                                              : measured.CommandRight * kCommandFactor;
-    return {static_cast<int>(inner + measured.FrameWidth), static_cast<int>(height)};
+    const PixelSize whole = {static_cast<int>(inner + measured.FrameWidth), static_cast<int>(height)};
+    if (measured.RoomWidth <= 0 || measured.RoomHeight <= 0) {
+        return whole;
+    }
+    const ShownContent shown =
+        ShowInRoom(whole.Width, whole.Height, measured.RoomWidth, measured.RoomHeight, measured.BarWidth);
+    return {shown.Width, shown.Height};
 }
 
 ShownParts PartsOf(WindowSizeMode mode) {

@@ -30,9 +30,12 @@ struct WindowMeasures {
     int LastButtonRight = 0;  // of ButtonBar_Cmd(8)
     int FrameHeight = 0;      // the window's height less its inner height
     int FrameWidth = 0;
+    int RoomWidth = 0;  // of the screen's work area; 0: any
+    int RoomHeight = 0;
+    int BarWidth = 0;  // of a scroll bar
 };
 
-/// The window's outer size.
+/// The window's outer size: never more than the room, with a scroll bar for each way that is cut.
 PixelSize MainWindowSize(WindowSizeMode mode, const WindowMeasures& measured);
 
 /// What a mode shows.

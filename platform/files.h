@@ -108,6 +108,13 @@ class Files {
     /// Empty if no drive holds it.
     virtual std::string ToHost(std::string_view path) = 0;
     virtual std::string FromHost(std::string_view hostPath) = 0;
+
+    /// The user's own directory, a path on the drives. Empty if no drive holds it.
+    virtual std::string UserHome() = 0;
+
+    /// A path as the user typed it, in code page 1252: one that only the host would know ("~", "~/games", "/srv/games")
+    /// as the path on the drives. Anything else stays as it is, and so does what no drive holds.
+    virtual std::string FromTyped(std::string_view typed) { return std::string(typed); }
 };
 
 }  // namespace lv

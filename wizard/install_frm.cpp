@@ -1,5 +1,6 @@
 #include "wizard/install_frm.h"
 
+#include "catalogs/browse.h"
 #include "catalogs/path_window.h"
 
 namespace lv {
@@ -54,7 +55,7 @@ Install_Frm::Install_Frm(Run& owner, const std::vector<KnownGame>& known) : Moda
 void Install_Browse_Cmd_Click(Install_Frm& form, int index) {
     const auto row = static_cast<std::size_t>(index);
     TextBox& box = form.GamePath_Txt[row];
-    const Text path = ChoosePath(form.run, box.Text, Join("Select ", kRows[row].Name, " Path."));
+    const Text path = ChoosePath(form.run, BrowseStart(form.run, box.Text), Join("Select ", kRows[row].Name, " Path."));
     if (path != kPathCancelled) {
         box.Text = path;
     }

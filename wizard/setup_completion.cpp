@@ -1,6 +1,7 @@
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
+#include "foundation/typed_path.h"
 #include "wizard/install_frm.h"
 
 namespace lv {
@@ -76,7 +77,7 @@ void Install_OK_Cmd_Click(Install_Frm& form) {
         if (form.Game_Chk[i].Value != 1) {
             continue;
         }
-        const Text path = LowerCase(Trim(form.GamePath_Txt[i].Text));
+        const Text path = LowerCase(TypedPath(run, form.GamePath_Txt[i].Text));
         if (!PathIsGood(form, i, path)) {
             return;
         }

@@ -37,20 +37,26 @@ PathForm::PathForm(wxWindow* owner, Path_Frm& form)
             });
         }
     };
-    directories_->Bind(wxEVT_LISTBOX_DCLICK, [enter](wxCommandEvent&) { enter(); });
-    directories_->Bind(wxEVT_KEY_DOWN, [enter](wxKeyEvent& event) {
+    // GTK's list makes a double click of Enter, and presses the default button behind it, if that can be pressed.
+    directories_->Bind(wxEVT_LISTBOX_DCLICK, [this, enter](wxCommandEvent&) {
+        enter();
+        ok_->Disable();
+        CallAfter([this] { ok_->Enable(); });
+    });
+    directories_->Bind(wxEVT_CHAR_HOOK, [enter](wxKeyEvent& event) {
         if (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER) {
             enter();
         } else {
             event.Skip();
         }
     });
+    directories_->Bind(wxEVT_CHAR, [this](wxKeyEvent& event) { Type(event); });
     rows->Add(directories_, wxSizerFlags(1).Expand().Border(wxTOP | wxBOTTOM, kGap));
     rows->Add(MakeLabel(this, "Path_Lbl", form_.Path_Lbl), wxSizerFlags().Expand());
     AddWide(rows, 1);
     ShowDirectories();
-    Finish(MakeButton("OK_Cmd", form_.OK_Cmd, [this] { Path_OK_Cmd_Click(form_); }),
-           MakeButton("Cancel_Cmd", form_.Cancel_Cmd, [this] { Path_Cancel_Cmd_Click(form_); }));
+    ok_ = MakeButton("OK_Cmd", form_.OK_Cmd, [this] { Path_OK_Cmd_Click(form_); });
+    Finish(ok_, MakeButton("Cancel_Cmd", form_.Cancel_Cmd, [this] { Path_Cancel_Cmd_Click(form_); }));
     KeepSize();
     Path_Load(form_);  // a first place is the middle for this size
     place_.Put();
@@ -59,6 +65,20 @@ PathForm::PathForm(wxWindow* owner, Path_Frm& form)
         if (IsShown()) {
             KeepSize();
         }
+    });
+}
+
+// Instead of the toolkit, which knows the rows with their blanks only.
+void PathForm::Type(wxKeyEvent& event) {
+    const Text letter = FromWx(wxString(event.GetUnicodeKey()));
+    if (event.GetUnicodeKey() < WXK_SPACE || event.GetUnicodeKey() == WXK_DELETE || letter.size() != 1 ||
+        event.GetModifiers() & ~wxMOD_SHIFT) {
+        event.Skip();
+        return;
+    }
+    Controls.Run([this, letter] {
+        Path_Dir1_KeyPress(form_, letter[0]);
+        ShowDirectories();
     });
 }
 

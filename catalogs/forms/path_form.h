@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include <wx/button.h>
 #include <wx/listbox.h>
 
 #include "catalogs/path_window.h"
@@ -18,11 +19,13 @@ class PathForm : public ModalForm {
 
   private:
     void ShowDirectories();
+    void Type(wxKeyEvent& event);
     void KeepSize();
 
     Path_Frm& form_;
     KeptPlace place_;
     wxListBox* directories_ = nullptr;
+    wxButton* ok_ = nullptr;
     std::vector<Text> shown_;
 };
 

@@ -1,5 +1,7 @@
 #include "foundation/forms/kept_place.h"
 
+#include "foundation/forms/screen_fit.h"
+
 namespace lv {
 
 KeptPlace::KeptPlace(wxTopLevelWindow& window, WindowPlacement& placement) : window_(window), placement_(placement) {
@@ -23,7 +25,7 @@ void KeptPlace::Put() {
         return;
     }
     put_ = true;
-    place_ = wxPoint(ToPixels(placement_.Left), ToPixels(placement_.Top));
+    place_ = PlaceInReach(window_, wxPoint(ToPixels(placement_.Left), ToPixels(placement_.Top)));
     window_.Move(place_);
     if (placement_.WindowState == kWindowMaximised) {  // a minimised one was not kept as such
         window_.Maximize();

@@ -4,6 +4,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "platform/spoken_name.h"
@@ -41,6 +42,9 @@ void ModalForm::ShowState() {
     }
     if (Controls.Show()) {
         Layout();
+        if (scrolled_ != nullptr) {
+            scrolled_->FitInside();
+        }
     }
 }
 
@@ -110,6 +114,7 @@ void ModalForm::AddWide(wxSizer* sizer, int proportion) {
 
 void ModalForm::Finish(wxButton* ok, wxButton* cancel) {
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
+    cancel->MoveAfterInTabOrder(ok);
     buttons->Add(ok);
     buttons->Add(cancel, wxSizerFlags().Border(wxLEFT, kGap));
     rows_->Add(buttons, wxSizerFlags().Center().Border(wxALL, kGap * 2));
@@ -119,12 +124,13 @@ void ModalForm::Finish(wxButton* ok, wxButton* cancel) {
 
 void ModalForm::Arrange() {
     Controls.Show();
-    SetSizerAndFit(rows_);
+    scrolled_ = FitOnScreen(*this, rows_);
     if (GetParent() != nullptr) {
         CentreOnParent();
     } else {
         CentreOnScreen();
     }
+    StayOnScreen(*this);
     GiveWhatsThis(this);
     AfterHandler();
 }

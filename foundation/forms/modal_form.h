@@ -6,6 +6,7 @@
 #pragma once
 
 #include <wx/dialog.h>
+#include <wx/scrolwin.h>
 #include <wx/sizer.h>
 
 #include <functional>
@@ -46,6 +47,7 @@ class ModalForm : public wxDialog {
     std::function<void()> cancel_;
     wxBoxSizer* rows_;
     wxFlexGridSizer* fields_ = nullptr;
+    wxScrolledWindow* scrolled_ = nullptr;  // what stands above the buttons, on a screen that has no room for it
 };
 
 }  // namespace lv

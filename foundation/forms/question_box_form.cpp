@@ -7,9 +7,11 @@
 #include <wx/statbmp.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
 #include <cstdio>
 
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/wx_text.h"
 #include "platform/spoken_name.h"
 
@@ -48,12 +50,25 @@ QuestionBoxForm::QuestionBoxForm(wxWindow* owner, QuestionBox_Frm& box)
     }
     all->Add(MakeButtons(), wxSizerFlags().Center().Border(wxLEFT | wxRIGHT | wxBOTTOM, gap));
     SetSizerAndFit(all);
+    FitTextToRoom(all->CalcMin());
     if (owner != nullptr) {
         CentreOnParent();
     } else {
         CentreOnScreen();
     }
+    StayOnScreen(*this);
     CloseByTheQuietButton();
+}
+
+// What the buttons and the frame leave: the text has bars of its own.
+void QuestionBoxForm::FitTextToRoom(wxSize wanted) {
+    const wxSize room = RoomInside(*this);
+    const wxSize over(std::max(0, wanted.x - room.x), std::max(0, wanted.y - room.y));
+    if (over != wxSize()) {
+        const wxSize text = text_->GetMinSize() - over;
+        text_->SetMinSize(wxSize(std::max(text.x, 1), std::max(text.y, 1)));
+        GetSizer()->SetSizeHints(this);
+    }
 }
 
 // Where no button leaves everything as it is, the choice is made by a button.

@@ -25,6 +25,7 @@ class QuestionBoxForm : public wxDialog {
     wxSizer* MakeMessage();
     wxSizer* MakeButtons();
     void CloseByTheQuietButton();
+    void FitTextToRoom(wxSize wanted);
     void Press(int index);
 
     QuestionBox_Frm& box_;

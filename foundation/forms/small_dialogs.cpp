@@ -10,6 +10,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/wx_text.h"
 
 namespace lv {
@@ -57,8 +58,9 @@ void ShowAboutForm(wxWindow* owner, About_Frm& about) {
     rows->Add(close, wxSizerFlags().Center().Border(wxLEFT | wxRIGHT | wxBOTTOM, kGap));
     close->SetDefault();
     dialog.SetEscapeId(close->GetId());
-    dialog.SetSizerAndFit(rows);
+    FitOnScreen(dialog, rows);
     dialog.CentreOnScreen();
+    StayOnScreen(dialog);
     dialog.ShowModal();
     about.Closed = true;
 }
@@ -81,8 +83,9 @@ void ShowConfirmExitForm(wxWindow* owner, ConfirmExit_Frm& confirm) {
     buttons->Add(no);
     rows->Add(buttons, wxSizerFlags().Center().Border(wxLEFT | wxRIGHT | wxBOTTOM, kGap));
     dialog.SetEscapeId(no->GetId());
-    dialog.SetSizerAndFit(rows);
+    FitOnScreen(dialog, rows);
     dialog.CentreOnParent();
+    StayOnScreen(dialog);
     dialog.ShowModal();
 }
 

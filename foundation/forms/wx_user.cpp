@@ -6,7 +6,6 @@
 #include <wx/evtloop.h>
 #include <wx/filedlg.h>
 #include <wx/filename.h>
-#include <wx/html/helpctrl.h>
 #include <wx/scopeguard.h>
 #include <wx/settings.h>
 #include <wx/stopwatch.h>
@@ -198,17 +197,12 @@ std::optional<Text> WxUser::InputBox(TextView title, TextView prompt, TextView o
     return FromWx(dialog.GetValue());
 }
 
-Error WxUser::OpenHelp(TextView path) {
-    const wxFileName book(wxString::FromUTF8(files_.ToHost(path)));
-    if (!help_) {
-        help_ = std::make_unique<wxHtmlHelpController>(wxHF_DEFAULT_STYLE | wxHF_OPEN_FILES);
-        if (!help_->AddBook(book)) {
-            help_.reset();
-            return MakeError(error::kFileNotFound);
-        }
-    }
-    help_->DisplayContents();
-    return {};
+Error WxUser::OpenHelp(TextView path, const HelpPlace& place) {
+    return handbook_.Open(wxFileName(wxString::FromUTF8(files_.ToHost(path))), place);
+}
+
+void WxUser::OnHelpKey(std::function<void()> open) {
+    helpKey_ = std::make_unique<HelpKey>(std::move(open));
 }
 
 Error WxUser::OpenUrl(TextView address) {
@@ -249,8 +243,15 @@ void WxUser::PopUpMenu(TextView menu) {
 }
 
 void WxUser::EnterWhatsThis() {
-    if (activeForm_ != nullptr) {
-        EnterWhatsThisMode(activeForm_);
+    if (activeForm_ == nullptr) {
+        return;
+    }
+    if (helpKey_) {
+        helpKey_->WhatsThisMode = true;
+    }
+    EnterWhatsThisMode(activeForm_);
+    if (helpKey_) {
+        helpKey_->WhatsThisMode = false;
     }
 }
 

@@ -13,8 +13,8 @@
 #include <utility>
 #include <vector>
 
-class wxHtmlHelpController;
-
+#include "foundation/forms/handbook.h"
+#include "foundation/forms/help_key.h"
 #include "foundation/user_interface.h"
 #include "platform/files.h"
 
@@ -32,6 +32,8 @@ class WxUser : public UserInterface {
     void SetForemost(wxWindow* form) { foremost_ = form; }
     /// Called by Refresh, for each owner its own; an empty one takes the owner's back.
     void OnRefresh(const void* owner, std::function<void()> show);
+    /// Called for F1, in whichever window.
+    void OnHelpKey(std::function<void()> open);
     /// Called by PopUpMenu.
     void OnPopUp(std::function<void(TextView)> popUp) { popUp_ = std::move(popUp); }
 
@@ -54,7 +56,7 @@ class WxUser : public UserInterface {
     void ShowAbout(About_Frm& about) override;
     void ShowConfirmExit(ConfirmExit_Frm& confirm) override;
     std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered) override;
-    Error OpenHelp(TextView path) override;
+    Error OpenHelp(TextView path, const HelpPlace& place) override;
     Error OpenUrl(TextView address) override;
     bool TrayAvailable() override;
     void PrepareMainWindow() override;
@@ -78,7 +80,8 @@ class WxUser : public UserInterface {
     const ModalWindow* preparedOf_ = nullptr;
     wxDialog* onTop_ = nullptr;  // the dialog that is up: what it opens stands over it
     std::function<void(TextView)> popUp_;
-    std::unique_ptr<wxHtmlHelpController> help_;
+    Handbook handbook_;
+    std::unique_ptr<HelpKey> helpKey_;
     std::unique_ptr<Ruler> ruler_;
     std::unordered_map<Text, int> widths_;  // of what was measured
 };

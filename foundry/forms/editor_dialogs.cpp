@@ -3,14 +3,12 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
-#include <wx/display.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <algorithm>
-
 #include "foundation/field_strings.h"
 #include "foundation/forms/modal_form.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/wx_text.h"
 #include "foundry/editor/alias_frm.h"
 #include "foundry/editor/line_dialogs.h"
@@ -112,9 +110,8 @@ class ColorForm : public ModalForm {
             return;
         }
         const wxRect place = label->GetScreenRect();
-        const wxRect screen = wxDisplay(this).GetClientArea();
-        Move(std::min(place.GetRight() + kGap, screen.GetRight() - GetSize().x),
-             std::min(place.y, screen.GetBottom() - GetSize().y));
+        Move(place.GetRight() + kGap, place.y);
+        StayOnScreen(*this);
     }
 
     CellLabel* MakeSwatch(Color_Frm& colors, int index) {

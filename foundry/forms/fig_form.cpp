@@ -9,9 +9,11 @@
 
 #include <algorithm>
 
+#include "foundation/forms/help_key.h"
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
+#include "foundation/screen_fit.h"
 #include "foundation/settings.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/editor/find_text.h"
@@ -91,6 +93,7 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
       saveTimer_(this) {
     SetName("Fig_Frm");
     SetExtraStyle(GetExtraStyle() | wxWS_EX_PROCESS_IDLE);
+    UsesHelpKey(this);  // while it waits for a key to bind, F1 is one
     parts_.Controls.FillLater();
     SetIcons(ProgramIcon());
     parts_.WatchKey = [this](CellLabel* label, Index index) { hand_.WatchKey(label, index); };
@@ -439,10 +442,10 @@ void FigForm::PlaceOnScreen() {
         placement.Height = ToTwips(GetSize().y);
         lv::CenterOnScreen(placement, ScreenInTwips(model_.run));
     }
-    const double right = ToTwips(screen.GetRight() + 1 - GetSize().x);
-    const double bottom = ToTwips(screen.GetBottom() + 1 - GetSize().y);
-    placement.Left = std::max(ToTwips(screen.x), std::min(placement.Left, right));
-    placement.Top = std::max(ToTwips(screen.y), std::min(placement.Top, bottom));
+    const ScreenRect inside = WithinArea({ToPixels(placement.Left), ToPixels(placement.Top), GetSize().x, GetSize().y},
+                                         {screen.x, screen.y, screen.width, screen.height});
+    placement.Left = ToTwips(inside.Left);
+    placement.Top = ToTwips(inside.Top);
     place_.Put();
     if (placement.WindowState == kWindowMaximised) {
         Maximize();
@@ -461,9 +464,8 @@ void FigForm::FitToScreen() {
     room.y -= FromDIP(kFrameRoom);
     content_->SetVirtualSize(wanted);
     const int bar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, content_);
-    const bool narrow = wanted.x > room.x;
-    const bool low = wanted.y > room.y;
-    SetClientSize(std::min(room.x, wanted.x + (low ? bar : 0)), std::min(room.y, wanted.y + (narrow ? bar : 0)));
+    const ShownContent shown = ShowInRoom(wanted.x, wanted.y, room.x, room.y, bar);
+    SetClientSize(shown.Width, shown.Height);
 }
 
 WxUser::FormMaker MakeFoundryForms(WxUser& user) {

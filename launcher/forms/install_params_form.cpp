@@ -7,6 +7,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/wx_text.h"
 
 namespace lv {
@@ -67,8 +68,9 @@ InstallParamsForm::InstallParamsForm(Run& run, InstallParams_Frm& form)
     }
     rows->Add(buttons, wxSizerFlags().Center().Border(wxLEFT | wxRIGHT | wxBOTTOM, kGap));
     binder_.Show();
-    SetSizerAndFit(rows);
+    FitOnScreen(*this, rows);
     CentreOnScreen();
+    StayOnScreen(*this);
     FindWindow("OK_Cmd(0)")->SetFocus();  // Enter accepts; on the list it would only open that
 }
 

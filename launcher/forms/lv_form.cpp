@@ -1,10 +1,9 @@
 #include "launcher/forms/lv_form.h"
 
-#include <wx/display.h>
-
-#include <algorithm>
+#include <wx/settings.h>
 
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "launcher/forms/main_menu.h"
@@ -157,11 +156,10 @@ void LvForm::ShowSplash() {
 void LvForm::TakeSize() {
     const LV_Frm& window = launcher_.Window;
     shownSize_ = window.Size;
-    const wxSize room = wxDisplay(this).GetClientArea().GetSize();
-    const wxSize size(std::min(window.Size.Width, room.x), std::min(window.Size.Height, room.y));
+    const wxSize size(window.Size.Width, window.Size.Height);
     SetSizeHints(size, size);
     SetSize(size);
-    panels_->Layout();
+    panels_->ScrollIn(GetClientSize());
 }
 
 void LvForm::ShowSize() {
@@ -252,6 +250,10 @@ WindowMeasures LvForm::MeasureWindow() {
     measuredFrame_ = frame;
     measured.FrameWidth = frame.x;
     measured.FrameHeight = frame.y;
+    const wxRect area = WorkArea(*this);
+    measured.RoomWidth = area.width;
+    measured.RoomHeight = area.height;
+    measured.BarWidth = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, panels_);
     return measured;
 }
 

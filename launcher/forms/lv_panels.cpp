@@ -10,6 +10,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/wx_text.h"
 #include "launcher/forms/game_list.h"
 #include "launcher/launch_flow.h"
@@ -17,6 +18,7 @@
 #include "launcher/video_profile_menu.h"
 #include "launcher/window_life.h"
 #include "launcher/window_menu.h"
+#include "platform/scroll_bars.h"
 #include "platform/spoken_name.h"
 
 namespace lv {
@@ -27,6 +29,7 @@ constexpr int kGap = 6;
 constexpr int kColumnWidth = 330;  // at 100 %
 constexpr int kTickGap = 4;        // stands a box without a caption in line with those that have one
 constexpr int kOptionRows = 4;     // Unreal fills four; the window has one size for all games
+constexpr int kScrollStep = 10;
 constexpr int kBarPicture = 32;
 constexpr int kSmallPicture = 16;
 constexpr int kGamePicture = 24;
@@ -48,6 +51,9 @@ LvPanels::LvPanels(wxWindow* parent, Launcher& launcher, Binder& binder)
       binder_(binder),
       at_(this) {
     ShowScrollbars(wxSHOW_SB_NEVER, wxSHOW_SB_NEVER);
+    KeepScrollBarsInSight(GetHandle());
+    SetScrollRate(FromDIP(kScrollStep), FromDIP(kScrollStep));
+    FollowKeyboard(*this);
     // Each part has a window of its own, so that a size can take it away whatever the controls in it say.
     rows_ = new wxBoxSizer(wxVERTICAL);
     MakeBarPart();
@@ -126,6 +132,12 @@ bool LvPanels::ShowParts() {
     top_->Show(parts.Exe || parts.Command);
     columns_->Show(parts.Others);
     return true;
+}
+
+void LvPanels::ScrollIn(wxSize room) {
+    const wxSize whole = rows_->CalcMin();
+    ScrollInRoom(*this, wxSize(std::min(whole.x, width_), whole.y), room);
+    Layout();
 }
 
 void LvPanels::Measure(WindowMeasures& measured) {

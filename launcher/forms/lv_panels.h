@@ -22,6 +22,9 @@ class LvPanels : public wxScrolledWindow {
     /// Shows what the window's size has room for, places the right column, and lays out what changed.
     void ShowState(bool changed);
 
+    /// Lays the parts out in a window that has this size inside; what it has no room for scrolls.
+    void ScrollIn(wxSize room);
+
     /// The places that the window's sizes are made from, in pixels.
     void Measure(WindowMeasures& measured);
 

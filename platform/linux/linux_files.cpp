@@ -12,6 +12,7 @@
 #include "platform/linux/errno_error.h"
 #include "platform/linux/host_links.h"
 #include "platform/linux/host_read.h"
+#include "platform/linux/user_directories.h"
 
 namespace lv {
 
@@ -235,6 +236,20 @@ std::string LinuxFiles::FromHost(std::string_view hostPath) {
         }
     }
     return best ? PutTogether(*best) : std::string();
+}
+
+std::string LinuxFiles::UserHome() {
+    return FromHost(HomeDirectory().string());
+}
+
+std::string LinuxFiles::FromTyped(std::string_view typed) {
+    const bool atHome = typed == "~" || typed.starts_with("~/");
+    if (!atHome && !typed.starts_with('/')) {
+        return std::string(typed);
+    }
+    const std::string host = atHome ? HomeDirectory().string() + ToUtf8(typed.substr(1)) : ToUtf8(typed);
+    std::string path = FromHost(host);
+    return path.empty() ? std::string(typed) : path;
 }
 
 }  // namespace lv

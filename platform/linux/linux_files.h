@@ -54,6 +54,10 @@ class LinuxFiles : public Files {
     /// Links on the way are followed, and so is a link to a directory at the end; a link to a file stays, for a game
     /// lies where its link lies.
     std::string FromHost(std::string_view hostPath) override;
+    std::string UserHome() override;
+
+    /// "/" is the host's root here; that of a drive is typed "\" or "C:/".
+    std::string FromTyped(std::string_view typed) override;
 
   private:
     struct Place {

@@ -338,6 +338,18 @@ std::string MemoryFiles::FromHost(std::string_view hostPath) {
     return UpperCase(path.substr(1, 2)) + path.substr(3);
 }
 
+std::string MemoryFiles::FromTyped(std::string_view typed) {
+    const bool atHome = typed == "~" || typed.starts_with("~/");
+    std::string path = atHome ? Home + std::string(typed.substr(1)) : std::string(typed);
+    if (!atHome && typed.starts_with('/')) {
+        path = "Z:" + path;
+    }
+    if (path != typed) {
+        std::replace(path.begin(), path.end(), '/', '\\');
+    }
+    return path;
+}
+
 std::string MemoryFiles::Bytes(std::string_view path) {
     const Result<std::string> bytes = Read(path);
     return bytes.Ok() ? bytes.Value : "(none)";

@@ -86,6 +86,8 @@ class MemoryFiles : public Files {
     std::string ProgramDirectory() override { return "C:\\LORVANE"; }
     std::string ToHost(std::string_view path) override;
     std::string FromHost(std::string_view hostPath) override;
+    std::string UserHome() override { return Home; }
+    std::string FromTyped(std::string_view typed) override;
 
     /// The bytes of a file that a test knows to be there; "(none)" if it is not.
     std::string Bytes(std::string_view path);

@@ -374,4 +374,8 @@ std::string WindowsFiles::FromHost(std::string_view hostPath) {
     return taken ? PutTogether(*taken) : std::string();
 }
 
+std::string WindowsFiles::UserHome() {
+    return PathInCodePage(HomeDirectory()).value_or("");
+}
+
 }  // namespace lv

@@ -45,6 +45,7 @@ class WindowsFiles : public Files {
 
     /// By its short names if the long ones have no code page 1252 form; empty if neither has.
     std::string FromHost(std::string_view hostPath) override;
+    std::string UserHome() override;
 
   private:
     struct Place {

@@ -81,6 +81,19 @@ TEST_F(AddDemo, BrowsesWithTheGamesFilter) {
     EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "c:\\quake\\ID1");
 }
 
+TEST_F(AddDemo, TakesAPathOfTheSystemsOwnBelowTheGame) {
+    system.Disk.Home = "C:\\QUAKE";
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\OLD\\MINE.DEM");
+    AddDemo_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Mine", "~/ID1/OLD/MINE.DEM");
+    ExpectConfirmed("Mine now references playdemo OLD\\MINE.DEM");
+    AddDemo_OK_Cmd_Click(form);
+    EXPECT_TRUE(form.Closed);
+    user.FileAnswers.push_back(std::optional<Text>());
+    AddDemo_Browse_Cmd_Click(form);
+    EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "c:\\quake\\ID1\\OLD");
+}
+
 TEST_F(AddDemo, BrowsingElsewhereTakesTheNameAlone) {
     AddDemo_Frm form(run, lists, EntryMode::Add);
     user.FileAnswers.push_back(std::optional<Text>("C:\\OTHER\\MINE.DEM"));

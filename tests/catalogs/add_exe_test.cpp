@@ -130,10 +130,21 @@ TEST_F(AddExe, BrowsesForPrograms) {
     AddExe_Browse_Cmd_Click(form);
     EXPECT_EQ(form.ExePath_Txt.Text, "C:\\HL\\HL.EXE");
     EXPECT_EQ(user.FileRequests.at(0).Filter, "Quake Executables (*.exe, *.bat)|*.exe;*.bat|All Files (*.*)|*.*");
-    EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "c:\\");
+    EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "C:\\HOME");
+    system.Disk.AddDirectory("C:\\HL");
     user.FileAnswers.push_back(std::optional<Text>());
     AddExe_Browse_Cmd_Click(form);
     EXPECT_EQ(form.ExePath_Txt.Text, "C:\\HL\\HL.EXE");
+    EXPECT_EQ(user.FileRequests.at(1).InitialDirectory, "C:\\HL");
+}
+
+TEST_F(AddExe, TakesAPathOfTheSystemsOwn) {
+    system.Disk.AddFile("C:\\HOME\\games\\glquake.exe");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Mine", " ~/games/glquake.exe");
+    ExpectConfirmed("Mine now references C:\\HOME\\games\\glquake.exe");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(lists.Exe_Cbo.Items.back().Key, "C:\\HOME\\games\\glquake.exe");
 }
 
 TEST(NewExeImageKeyOf, KnowsFewerProgramsThanTheNextStart) {

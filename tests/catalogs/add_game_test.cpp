@@ -74,6 +74,28 @@ TEST_F(AddGame, BrowsingCutsTheGameDirectoryOff) {
     EXPECT_EQ(form.GamePath_Txt.Text, "CTF");
 }
 
+TEST_F(AddGame, TakesAPathOfTheSystemsOwnBelowTheGame) {
+    system.Disk.Home = "C:\\QUAKE";
+    AddGame_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Flags", "~/CTF");
+    ExpectConfirmed("Flags now references -game CTF");
+    AddGame_OK_Cmd_Click(form);
+    EXPECT_TRUE(form.Closed);
+}
+
+TEST_F(AddGame, BrowsingBeginsInTheGameUntilTheBoxNamesADirectoryOfIt) {
+    AddGame_Frm form(run, lists, EntryMode::Add);
+    for (const auto& [typed, start] : std::vector<std::pair<const char*, const char*>>{
+             {"", "c:\\quake"}, {"CTF", "c:\\quake\\CTF"}, {"GONE", "c:\\quake"}}) {
+        form.GamePath_Txt.Text = typed;
+        user.In<Path_Frm>([&start](Path_Frm& shown) {
+            EXPECT_EQ(shown.Path_Lbl.Caption, start);
+            Path_Cancel_Cmd_Click(shown);
+        });
+        AddGame_Browse_Cmd_Click(form);
+    }
+}
+
 TEST_F(AddGame, BrowsingElsewhereIsNotAccepted) {
     AddGame_Frm form(run, lists, EntryMode::Add);
     Fill(form, "x", "ID1");
@@ -88,7 +110,7 @@ TEST_F(AddGame, ACancelledPathLeavesTheFieldUnchanged) {
     AddGame_Frm form(run, lists, EntryMode::Add);
     Fill(form, "x", "ID1");
     user.In<Path_Frm>([](Path_Frm& shown) {
-        EXPECT_EQ(shown.Path_Lbl.Caption, "c:\\quake");
+        EXPECT_EQ(shown.Path_Lbl.Caption, "c:\\quake\\ID1");
         Path_Cancel_Cmd_Click(shown);
     });
     AddGame_Browse_Cmd_Click(form);

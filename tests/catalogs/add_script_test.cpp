@@ -164,6 +164,18 @@ TEST_F(AddScript, BrowsesWithTheGamesFilter) {
     EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "c:\\quake\\ID1");
 }
 
+TEST_F(AddScript, TakesAPathOfTheSystemsOwn) {
+    system.Disk.AddFile("C:\\HOME\\keys\\foo.qs");
+    AddScript_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Foo", "~/keys/foo.qs");
+    user.FileAnswers.push_back(std::optional<Text>());
+    AddScript_Browse_Cmd_Click(form);
+    EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "C:\\HOME\\keys");
+    ExpectConfirmed("Foo now references C:\\HOME\\keys\\foo.qs");
+    AddScript_OK_Cmd_Click(form);
+    EXPECT_TRUE(form.Closed);
+}
+
 TEST_F(AddScript, ANewScriptIsNotMadeWhereALinkLeadsAway) {
     system.Disk.AddFileLink("C:\\QUAKE\\ID1\\trap.cfg", "C:\\ETC\\NEW");
     AddScript_Frm form(run, lists, EntryMode::New);

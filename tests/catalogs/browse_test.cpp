@@ -13,6 +13,39 @@ TEST_F(Browsing, GivesTheDialogItsFilterAndDirectory) {
     EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "C:\\QUAKE");
 }
 
+TEST_F(Browsing, BeginsAtThePathInTheBoxAsFarAsItIsThere) {
+    for (const char* directory : {"C:\\QUAKE\\ID1", "C:\\LAST", "C:\\USUAL", "C:\\HOME\\games"}) {
+        system.Disk.AddDirectory(directory);
+    }
+    run.LastBrowsed = "C:\\LAST";
+    EXPECT_EQ(BrowseStart(run, " C:\\QUAKE\\ID1 "), "C:\\QUAKE\\ID1");
+    EXPECT_EQ(BrowseStart(run, "C:\\QUAKE\\ID1\\my.cfg", "C:\\USUAL"), "C:\\QUAKE\\ID1");
+    EXPECT_EQ(BrowseStart(run, "C:/QUAKE/GONE/"), "C:\\QUAKE");
+    EXPECT_EQ(BrowseStart(run, "C:\\GONE"), "C:\\");
+    EXPECT_EQ(BrowseStart(run, "C:"), "C:\\");
+    EXPECT_EQ(BrowseStart(run, "~/games/quake"), "C:\\HOME\\games");
+}
+
+TEST_F(Browsing, BeginsElseInTheUsualPlaceElseWhereTheLastEndedElseAtHome) {
+    system.Disk.AddDirectory("C:\\USUAL");
+    system.Disk.AddDirectory("C:\\LAST");
+    run.LastBrowsed = "C:\\LAST";
+    EXPECT_EQ(BrowseStart(run, "", "C:\\USUAL"), "C:\\USUAL");
+    EXPECT_EQ(BrowseStart(run, "Q:\\NODRIVE", "C:\\GONE"), "C:\\LAST");
+    EXPECT_EQ(BrowseStart(run, "quake"), "C:\\LAST");
+    run.LastBrowsed = "C:\\GONE";
+    EXPECT_EQ(BrowseStart(run, ""), "C:\\HOME");
+}
+
+TEST_F(Browsing, NotesWhereAChoiceEndedAndNotWhereItWasLeft) {
+    user.FileAnswers.push_back(std::optional<Text>("C:\\QUAKE\\A.CFG"));
+    BrowseForFile(run, "x", "C:\\");
+    EXPECT_EQ(run.LastBrowsed, "C:\\QUAKE");
+    user.FileAnswers.push_back(std::optional<Text>());
+    BrowseForFile(run, "x", "C:\\");
+    EXPECT_EQ(run.LastBrowsed, "C:\\QUAKE");
+}
+
 TEST_F(Browsing, ACancelIsSilent) {
     user.FileAnswers.push_back(std::optional<Text>());
     EXPECT_EQ(BrowseForFile(run, "x", ""), std::nullopt);

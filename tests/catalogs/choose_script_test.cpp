@@ -54,6 +54,17 @@ TEST_F(ChooseScript, AScriptOfTheDirectoryGoesByItsNameAsTheGameLooksForIt) {
     EXPECT_EQ(form.ScriptPath_Txt.Text, "A.CFG");
 }
 
+TEST_F(ChooseScript, TakesAPathOfTheSystemsOwn) {
+    system.Disk.Home = "C:\\QUAKE";
+    for (const auto& [typed, entry] : std::vector<std::pair<const char*, const char*>>{
+             {"~/ID1/a.cfg", "a.cfg"}, {"~/CTF/a.cfg", "C:\\QUAKE\\CTF\\a.cfg"}, {" b.cfg ", "b.cfg"}}) {
+        ChooseScript_Frm form(run, "C:\\QUAKE\\ID1\\");
+        form.ScriptPath_Txt.Text = typed;
+        ChooseScript_OK_Cmd_Click(form);
+        EXPECT_EQ(form.LastEntry, entry);
+    }
+}
+
 TEST_F(ChooseScript, AScriptFromElsewhereKeepsItsPath) {
     ChooseScript_Frm form(run, "C:\\QUAKE\\ID1\\");
     user.FileAnswers.push_back(std::optional<Text>("C:\\QUAKE\\CTF\\A.CFG"));

@@ -168,7 +168,7 @@ TEST_F(MissingGameTest, TheDialogAsksForTheFile) {
     ExpectMissing("Quake  C:\\QUAKE\\glquake.exe", kIgnore);
     EXPECT_TRUE(LoadExes(run, lists));
     ASSERT_EQ(user.FileRequests.size(), 1U);
-    EXPECT_EQ(user.FileRequests[0].InitialDirectory, "c:\\");
+    EXPECT_EQ(user.FileRequests[0].InitialDirectory, "C:\\");
     EXPECT_EQ(user.FileRequests[0].Filter,
               "Game Executable [glquake.exe](glquake.exe)|glquake.exe|All Files (*.*)|*.*");
     EXPECT_FALSE(user.FileRequests[0].ForSaving);

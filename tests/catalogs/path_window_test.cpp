@@ -45,6 +45,24 @@ TEST_F(PathWindow, GoesDownAndUp) {
     EXPECT_EQ(form.Path_Lbl.Caption, "C:\\");
 }
 
+TEST_F(PathWindow, TypingSelectsANameAndEntersNothing) {
+    Path_Frm form(run, "C:\\Quake");
+    Path_Dir1_KeyPress(form, 'm');
+    EXPECT_EQ(form.Dir1.ListIndex, 4);
+    Path_Dir1_KeyPress(form, 'x');
+    EXPECT_EQ(form.Dir1.ListIndex, 4);
+    EXPECT_EQ(form.Path_Lbl.Caption, "C:\\Quake");
+}
+
+TEST_F(PathWindow, TheChosenDirectoryIsWhereTheNextChoiceBegins) {
+    user.In<Path_Frm>([](Path_Frm& form) { Path_OK_Cmd_Click(form); });
+    ChoosePath(run, "C:\\Quake\\ctf");
+    EXPECT_EQ(run.LastBrowsed, "C:\\Quake\\ctf");
+    user.In<Path_Frm>([](Path_Frm& form) { Path_Cancel_Cmd_Click(form); });
+    ChoosePath(run, "D:\\GAMES");
+    EXPECT_EQ(run.LastBrowsed, "C:\\Quake\\ctf");
+}
+
 TEST_F(PathWindow, AnotherDriveShowsItsRoot) {
     Path_Frm form(run, "C:\\Quake");
     form.Drive1.ListIndex = 1;

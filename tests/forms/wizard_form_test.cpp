@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <wx/checkbox.h>
 #include <wx/display.h>
+#include <wx/listbox.h>
 #include <wx/textctrl.h>
 
 #include <cstdlib>
@@ -103,6 +104,34 @@ TEST_F(WizardForm, BrowsesForADirectoryByKeyboard) {
                         PressKey(WXK_ESCAPE);
                     });
         EXPECT_EQ(Path(0), "");
+        PressKey(WXK_ESCAPE);
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+}
+
+TEST_F(WizardForm, EnterGoesIntoTheDirectoryThatTypingFoundAndAcceptsNothing) {
+    system.Disk.Home = "C:\\";
+    WhenModal([this] {
+        DoAndAnswer([] { ClickOn(Find("Browse_Cmd(0)")); },
+                    [] {
+                        auto* list = FindAs<wxListBox>("Dir1");
+                        list->SetFocus();
+                        Settle();
+                        TypeText("qu");
+                        EXPECT_EQ(list->GetStringSelection(), "   QUAKE");
+                        PressKey(WXK_RETURN);
+                        Settle(300);
+                        ASSERT_NE(wxWindow::FindWindowByName("Path_Frm"), nullptr);
+                        EXPECT_EQ(Find("Path_Lbl")->GetLabel(), "C:\\QUAKE");
+                        TypeText("i");
+                        EXPECT_EQ(list->GetStringSelection(), "      ID1");
+                        PressKey(WXK_RETURN);
+                        Settle(300);
+                        ASSERT_NE(wxWindow::FindWindowByName("Path_Frm"), nullptr);
+                        EXPECT_EQ(Find("Path_Lbl")->GetLabel(), "C:\\QUAKE\\ID1");
+                        ClickOn(Find("Path_Frm")->FindWindow("OK_Cmd"));
+                    });
+        EXPECT_EQ(Path(0), "C:\\QUAKE\\ID1");
         PressKey(WXK_ESCAPE);
     });
     EXPECT_FALSE(ShowInstallWizard(launcher));

@@ -265,4 +265,42 @@ TEST_F(WindowServices, APageThatFailsIsTold) {
     OpenWebPage(run, "https://lorvane3d.example/");
 }
 
+TEST_F(WindowServices, TheHandbookFirstComesUpLargeInTheMiddle) {
+    user.ScreenIs = {1920, 1080};
+    const WindowPlacement first = HandbookPlacement(run);
+    EXPECT_EQ(first.Width, 1152 * 15);
+    EXPECT_EQ(first.Height, 918 * 15);
+    EXPECT_EQ(first.Left, 384 * 15);
+    EXPECT_EQ(first.Top, 81 * 15);
+    user.ScreenIs = {960, 540};
+    EXPECT_EQ(HandbookPlacement(run).Width, 960 * 15);
+    EXPECT_EQ(HandbookPlacement(run).Height, 459 * 15);
+}
+
+TEST_F(WindowServices, TheHandbookComesUpWhereItWasLeft) {
+    user.ScreenIs = {1920, 1080};
+    run.AppDirectory = "C:\\LORVANE";
+    system.Disk.AddFile("C:\\LORVANE\\handbook\\handbook.hhp");
+    OpenHelpFile(run);
+    user.HelpPlaced.Keep({.Top = 150, .Left = 300, .Height = 9000, .Width = 12000});
+    const WindowPlacement again = HandbookPlacement(run);
+    EXPECT_EQ(again.Top, 150);
+    EXPECT_EQ(again.Left, 300);
+    EXPECT_EQ(again.Height, 9000);
+    EXPECT_EQ(again.Width, 12000);
+}
+
+TEST_F(WindowServices, AHandbookLeftOnALargerScreenFitsThisOne) {
+    Save(run, "Handbook_Frm", "Width", 60000);
+    Save(run, "Handbook_Frm", "Height", 10);
+    EXPECT_EQ(HandbookPlacement(run).Width, 1000 * 15);
+    EXPECT_EQ(HandbookPlacement(run).Height, 300 * 15);
+}
+
+TEST_F(WindowServices, TheHandbookIsFoundBeforeTheProgramsDirectoryIsSettled) {
+    system.Disk.AddFile("C:\\LORVANE\\handbook\\handbook.hhp");
+    run.AppDirectory = "";
+    EXPECT_EQ(HelpFiles(run), (std::vector<Text>{"C:\\LORVANE\\handbook\\handbook.hhp"}));
+}
+
 }  // namespace lv

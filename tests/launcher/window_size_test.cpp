@@ -34,6 +34,18 @@ TEST(MainWindowSize, OfSomeIsMadeFromTheExecutables) {
 }
 
 // 200 * 1.05 + 10 = 220.
+TEST(MainWindowSize, IsNeverMoreThanTheScreenHasRoomFor) {
+    WindowMeasures measured = kMeasured;
+    measured.RoomWidth = 960;
+    measured.RoomHeight = 540;
+    measured.BarWidth = 15;
+    EXPECT_EQ(MainWindowSize(WindowSizeMode::All, measured), (PixelSize{441, 540}));
+    EXPECT_EQ(MainWindowSize(WindowSizeMode::Some, measured), (PixelSize{426, 177}));
+    measured.RoomWidth = 400;
+    EXPECT_EQ(MainWindowSize(WindowSizeMode::All, measured), (PixelSize{400, 540}));
+    EXPECT_EQ(MainWindowSize(WindowSizeMode::Some, measured), (PixelSize{400, 192}));
+}
+
 TEST(MainWindowSize, OfButtonsOnlyIsAsWideAsTheButtons) {
     EXPECT_EQ(MainWindowSize(WindowSizeMode::ButtonsOnly, kMeasured), (PixelSize{220, 177}));
 }

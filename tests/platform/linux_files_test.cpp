@@ -312,6 +312,28 @@ TEST(FromHost, HasNothingForWhatNoDriveCanSay) {
     EXPECT_EQ(home.Disk.FromHost("/dev/null"), "");
 }
 
+TEST(FromTyped, TakesTheHostsOwnPathsAsThoseOfTheDrives) {
+    const std::string before = getenv("HOME") != nullptr ? getenv("HOME") : "";
+    Home home;
+    setenv("HOME", (home.Scratch / "me").c_str(), 1);
+    fs::create_directories(home.Scratch / "me/games");
+    EXPECT_EQ(home.Disk.UserHome(), OnZ(home.Scratch / "me"));
+    EXPECT_EQ(home.Disk.FromTyped("~"), OnZ(home.Scratch / "me"));
+    EXPECT_EQ(home.Disk.FromTyped("~/games/new"), OnZ(home.Scratch / "me/games/new"));
+    EXPECT_EQ(home.Disk.FromTyped((home.C / "QUAKE/").string()), "C:\\QUAKE");
+    EXPECT_EQ(home.Disk.FromTyped("/srv/\xE9"), "Z:\\srv\\\xE9");
+    setenv("HOME", before.c_str(), 1);
+}
+
+TEST(FromTyped, LeavesEverythingElseAsItIs) {
+    Home home;
+    for (const char* typed : {"C:\\QUAKE", "c:/quake", "\\QUAKE", "id1", "~me/quake", "", "PROGRA~1"}) {
+        EXPECT_EQ(home.Disk.FromTyped(typed), typed);
+    }
+    fs::remove(home.Drives / "z:");
+    EXPECT_EQ(home.Disk.FromTyped("/dev/null"), "/dev/null");
+}
+
 TEST(ProgramDirectory, IsAPathOnTheDrives) {
     Home home;
     fs::create_directory(home.Scratch / "program");

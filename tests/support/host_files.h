@@ -37,6 +37,7 @@ class HostFiles : public Files {
     std::string ProgramDirectory() override { return "C:\\LORVANE"; }
     std::string ToHost(std::string_view path) override;
     std::string FromHost(std::string_view hostPath) override;
+    std::string UserHome() override { return "C:\\"; }
 
   private:
     std::map<char, std::filesystem::path> drives_;

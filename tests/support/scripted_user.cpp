@@ -61,7 +61,8 @@ std::optional<Text> ScriptedUser::InputBox(TextView title, TextView prompt, Text
     return answer;
 }
 
-Error ScriptedUser::OpenHelp(TextView path) {
+Error ScriptedUser::OpenHelp(TextView path, const HelpPlace& place) {
+    HelpPlaced = place;
     Opened.emplace_back(path);
     return HelpFails;
 }

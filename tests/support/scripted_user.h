@@ -75,6 +75,7 @@ class ScriptedUser : public UserInterface {
     std::vector<Text> Inputs;   // "title|prompt"
     std::vector<Text> Offered;  // what stood in each
     std::vector<Text> Opened;   // help files and addresses
+    HelpPlace HelpPlaced;       // of the last help file
     Error HelpFails;
     Error UrlFails;
     bool HasTray = true;
@@ -98,7 +99,7 @@ class ScriptedUser : public UserInterface {
     void ShowConfirmExit(ConfirmExit_Frm& form) override { Act(InConfirmExit, form, "ConfirmExit_Frm"); }
     void ShowModal(ModalWindow& window) override { Act(modal_, window, window.Name.c_str()); }
     std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered) override;
-    Error OpenHelp(TextView path) override;
+    Error OpenHelp(TextView path, const HelpPlace& place) override;
     Error OpenUrl(TextView address) override;
     bool TrayAvailable() override { return HasTray; }
     void PrepareMainWindow() override {

@@ -52,6 +52,25 @@ TEST_F(InstallWindow, BrowsingIsTitledByTheGame) {
     }
 }
 
+TEST_F(InstallWindow, BrowsingBeginsAtThePathInTheRowElseWhereTheLastEnded) {
+    system.Disk.AddDirectory("C:\\QUAKE\\ID1");
+    system.Disk.AddDirectory("C:\\OTHER");
+    Install_Frm form(run);
+    const auto browse = [&](const char* typed, const char* start, void (*leave)(Path_Frm&)) {
+        form.GamePath_Txt[kSin].Text = typed;
+        user.In<Path_Frm>([=](Path_Frm& shown) {
+            EXPECT_EQ(shown.Path_Lbl.Caption, start);
+            leave(shown);
+        });
+        Install_Browse_Cmd_Click(form, kSin);
+    };
+    browse("", "C:\\", Path_Cancel_Cmd_Click);
+    browse("C:\\QUAKE\\GONE", "C:\\QUAKE", Path_OK_Cmd_Click);
+    browse("", "C:\\QUAKE", Path_Cancel_Cmd_Click);
+    browse("C:\\OTHER", "C:\\OTHER", Path_Cancel_Cmd_Click);
+    browse("", "C:\\QUAKE", Path_Cancel_Cmd_Click);
+}
+
 TEST_F(InstallWindow, ACancelledPathLeavesTheField) {
     Install_Frm form(run);
     form.GamePath_Txt[kSin].Text = "C:\\SIN";

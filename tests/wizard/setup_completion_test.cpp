@@ -50,6 +50,14 @@ TEST_F(SetupCompletion, EveryProgramHasItsName) {
     }
 }
 
+TEST_F(SetupCompletion, TakesAPathOfTheSystemsOwn) {
+    system.Disk.AddFile("C:\\HOME\\games\\quake\\quake.exe");
+    Install_Frm form(run);
+    Choose(form, kQuake, " ~/games/quake ");
+    Install_OK_Cmd_Click(form);
+    EXPECT_EQ(Executables(), "Quake;c:\\home\\games\\quake\\quake.exe");
+}
+
 TEST_F(SetupCompletion, ProgramsOfOneGameComeInOrder) {
     for (const char* name : {"VQUAKE.EXE", "QWCL.EXE", "QUAKE.EXE", "GLQUAKE.EXE"}) {
         system.Disk.AddFile(Text("C:\\QUAKE\\") + name);

@@ -1,7 +1,5 @@
 #include "video/forms/video_profile_form.h"
 
-#include <wx/display.h>
-#include <wx/settings.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 
@@ -9,6 +7,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "platform/scroll_bars.h"
@@ -22,13 +21,6 @@ namespace {
 constexpr int kGap = 6;
 constexpr int kRowGap = 2;
 constexpr int kWideList = 160;  // at 100 %
-constexpr int kFrameRoom = 40;  // of the screen's height, left for the frame
-
-// As large as wanted where the screen has room, with room for the bars where it has not.
-wxSize ScrolledSize(wxSize wanted, wxSize room, int bar) {
-    const wxSize with_bars(wanted.x + (wanted.y > room.y ? bar : 0), wanted.y + (wanted.x > room.x ? bar : 0));
-    return {std::min(with_bars.x, room.x), std::min(with_bars.y, room.y)};
-}
 
 Text ShownCaption(TextView caption) {
     return InTwoLines(WithoutLeader(caption));
@@ -49,6 +41,7 @@ VideoProfileForm::VideoProfileForm(VideoProfile_Frm& model, WxUser& user)
         new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
     KeepScrollBarsInSight(content_->GetHandle());
     content_->SetScrollRate(FromDIP(10), FromDIP(10));
+    FollowKeyboard(*content_);
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeCardRow(), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap));
     rows->Add(MakeColumns(), wxSizerFlags(1).Expand().Border(wxALL, kGap / 2));
@@ -255,30 +248,13 @@ void VideoProfileForm::FitToContent() {
             panel->GetSizer()->Layout();
         }
     }
-    const wxSize wanted = content_->GetSizer()->CalcMin();
-    wxSize room = wxDisplay(this).GetClientArea().GetSize();
-    room.y -= FromDIP(kFrameRoom);
-    content_->SetVirtualSize(wanted);
-    const wxSize client = ScrolledSize(wanted, room, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, content_));
-    content_->ShowScrollbars(client.x < wanted.x ? wxSHOW_SB_ALWAYS : wxSHOW_SB_NEVER,
-                             client.y < wanted.y ? wxSHOW_SB_ALWAYS : wxSHOW_SB_NEVER);
+    const wxSize client = ScrollInRoom(*content_, content_->GetSizer()->CalcMin(), RoomInside(*this));
     if (!IsMaximized()) {
         SetClientSize(client);
     }
     content_->Layout();
     if (IsShown() && !IsMaximized()) {
-        StayOnScreen();
-    }
-}
-
-// What comes beside a window at the screen's edge is to be seen too.
-void VideoProfileForm::StayOnScreen() {
-    const wxRect screen = wxDisplay(this).GetClientArea();
-    const wxRect own = GetRect();
-    const wxPoint inside(std::max(screen.x, std::min(own.x, screen.GetRight() + 1 - own.width)),
-                         std::max(screen.y, std::min(own.y, screen.GetBottom() + 1 - own.height)));
-    if (inside != own.GetPosition()) {
-        Move(inside);
+        StayOnScreen(*this);  // what comes beside a window at the screen's edge is to be seen too
     }
 }
 

@@ -49,7 +49,6 @@ class VideoProfileForm : public wxFrame {
     wxChoice* MakeList(const std::string& name, ListBox& model, const Text& caption, Binder::Handler click);
     void AddRow(const CheckBox& model, wxCheckBox* check, const std::vector<wxChoice*>& lists);
     void FitToContent();
-    void StayOnScreen();
     void KeepSize();
 
     VideoProfile_Frm& model_;

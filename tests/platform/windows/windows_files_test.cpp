@@ -178,6 +178,13 @@ TEST(WindowsFiles, KnowWhereTheProgramLies) {
     EXPECT_TRUE(made.Disk.FileExists(program + "\\lv_platform_tests.exe")) << program;
 }
 
+TEST(WindowsFiles, KnowTheUsersHomeAndTakeTypedPathsAsTheyAre) {
+    SystemDisk made;
+    EXPECT_TRUE(made.Disk.DirectoryExists(made.Disk.UserHome())) << made.Disk.UserHome();
+    EXPECT_EQ(made.Disk.FromTyped("~"), "~");
+    EXPECT_EQ(made.Disk.FromTyped("/QUAKE"), "/QUAKE");
+}
+
 TEST(WindowsFiles, TellAPathThatNoDriveCanSay) {
     SystemDisk made;
     EXPECT_EQ(made.Disk.FromHost("T:\\new.cfg"), "T:\\new.cfg");
