@@ -9,6 +9,7 @@
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/screen_fit.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/spoken_name.h"
 
 namespace lv {
 
@@ -40,6 +41,7 @@ InstallParamsForm::InstallParamsForm(Run& run, InstallParams_Frm& form)
     text->Wrap(FromDIP(kTextWidth));
     right->Add(text, wxSizerFlags().Border(wxBOTTOM, kGap));
     auto* cards = new wxChoice(box, wxID_ANY);
+    SetSpokenName(cards->GetHandle(), "3D card");
     binder_.Bind("VidCard_Cbo", form_.VidCard_Cbo, cards, [this] { InstallParams_VidCard_Cbo_Click(run_, form_); });
     // Enter accepts from the list too; the toolkit would open it. The space bar does that.
     cards->Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) {

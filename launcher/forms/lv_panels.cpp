@@ -18,6 +18,7 @@
 #include "launcher/video_profile_menu.h"
 #include "launcher/window_life.h"
 #include "launcher/window_menu.h"
+#include "platform/list_height.h"
 #include "platform/scroll_bars.h"
 #include "platform/spoken_name.h"
 
@@ -113,6 +114,7 @@ void LvPanels::MakeColumnsPart() {
 }
 
 void LvPanels::ShowState(bool changed) {
+    SetListHeight(exes_->GetHandle(), exes_->GetMinSize().y);
     const bool parts = ShowParts();
     PlaceRightColumn();
     if (changed || parts) {
@@ -226,6 +228,7 @@ wxSizer* LvPanels::MakeExePanel() {
     wxStaticBoxSizer* panel = MakePanel("Exe_Pan", &LV_Frm::Exe_Pan);
     auto* list = new GameList(at_);
     // This list shows its pictures larger by the screen's scale than it reckons with.
+    exes_ = list;
     list->SetMinSize(wxSize(FromDIP(160), static_cast<int>(kGamePicture * GetContentScaleFactor()) + kGamePictureRoom));
     SetSpokenName(list->GetHandle(), "Game");
     binder_.Bind("Exe_Cbo", launcher_.Window.Exe_Cbo, list, [this] { Exe_Cbo_Click(launcher_); });

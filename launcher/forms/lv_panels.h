@@ -69,6 +69,7 @@ class LvPanels : public wxScrolledWindow {
     wxWindow* bar_ = nullptr;
     wxWindow* top_ = nullptr;
     wxWindow* columns_ = nullptr;
+    wxWindow* exes_ = nullptr;
     wxBoxSizer* right_ = nullptr;
     std::vector<PlacedPanel> rightPanels_;
     std::vector<int> rightTops_;

@@ -244,4 +244,12 @@ TEST_F(LvForm_, AnAmpersandInANameShowsInTheHint) {
     EXPECT_THAT(FindAs<wxStaticText>("Hint_Lbl")->GetLabelText().utf8_string(), ::testing::HasSubstr("A&B.EXE"));
 }
 
+TEST_F(LvForm_, TheListOfGamesHasRoomForItsPicturesAndItsMenuStandsInLine) {
+    const wxWindow* list = Find("Exe_Cbo");
+    const wxRect shown = list->GetScreenRect();
+    const wxRect menu = Find("Menu_Pic(0)")->GetScreenRect();
+    EXPECT_GE(shown.height, list->FromDIP(24) + 4);
+    EXPECT_NEAR(shown.y * 2 + shown.height, menu.y * 2 + menu.height, 2);
+}
+
 }  // namespace lv
