@@ -7,6 +7,7 @@
 #include "foundation/forms/screen_fit.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/label_field.h"
 #include "platform/spoken_name.h"
 
 namespace lv {
@@ -74,7 +75,10 @@ void ModalForm::AddField(Label& label, const char* labelName, wxWindow* field, w
         fields_->AddGrowableCol(1);
         rows_->Add(fields_, wxSizerFlags().Expand().Border(wxALL, kGap * 2));
     }
-    fields_->Add(MakeLabel(this, labelName, label, LabelText::Keyed), wxSizerFlags().CenterVertical());
+    wxStaticText* const before = MakeLabel(this, labelName, label, LabelText::Keyed);
+    before->MoveBeforeInTabOrder(field);
+    LeadToField(before->GetHandle(), field->GetHandle());
+    fields_->Add(before, wxSizerFlags().CenterVertical());
     fields_->Add(field, wxSizerFlags(1).Expand().CenterVertical());
     if (behind != nullptr) {
         fields_->Add(behind, wxSizerFlags().CenterVertical());
