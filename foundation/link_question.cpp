@@ -33,7 +33,7 @@ Text LinkTargetOutside(const Run& run, TextView path) {
 bool AskToFollowLink(Run& run, TextView path, TextView target) {
     return AskUser(run, "Link To Another Place",
                    Join("The file -->", NewLine, NewLine, TabChar, DoubleQuote, path, DoubleQuote, NewLine, NewLine,
-                        "is a link that leads out of your home and out of the game, to -->", NewLine, NewLine, TabChar,
+                        "is a link that leads out of the game, to -->", NewLine, NewLine, TabChar,
                         DoubleQuote, target, DoubleQuote, NewLine, NewLine,
                         "If it came in an archive from somebody else, leave that file alone."),
                    "&Leave It Alone,&Change That File") == kChangeIt;

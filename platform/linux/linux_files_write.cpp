@@ -97,8 +97,12 @@ std::string LinuxFiles::LeadsAway(std::string_view path, std::string_view tree) 
         const fs::path real = FollowAll(directory);
         return real != real.root_path() && PartsBelow(real, target);
     };
+    // What the user has linked in the home is a file of the same kind; an archive's link to ".bashrc" is none.
+    const bool sameKind =
+        LowerCase(target.extension().string()) == LowerCase(fs::path(place->Host).extension().string());
     const auto tree_ = Find(tree);
-    const bool stays = target == ToHost(path) || liesIn(HomeDirectory()) || (tree_ && liesIn(tree_->Host));
+    const bool stays =
+        target == ToHost(path) || (sameKind && liesIn(HomeDirectory())) || (tree_ && liesIn(tree_->Host));
     return stays ? std::string() : FromUtf8Lossy(target.string());
 }
 

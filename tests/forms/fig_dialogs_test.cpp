@@ -86,21 +86,6 @@ TEST_F(FigDialogs, AScriptToRunIsNamed) {
     });
 }
 
-TEST_F(FigDialogs, TheAccessKeysOfLabelsLeadToTheirFields) {
-    Use(kQuake, "");
-    Edit([this] {
-        Turn(EditorPage::Aliases);
-        DoAndAnswer([] { ClickOn(Find("AddCustomAlias_Cmd")); },
-                    [] {
-                        PressKey('M', wxMOD_ALT);
-                        EXPECT_TRUE(SettleUntil([] { return HasKeyboard(Find("AliasBody_Txt")); }));
-                        PressKey('N', wxMOD_ALT);
-                        EXPECT_TRUE(SettleUntil([] { return HasKeyboard(Find("AliasName_Txt")); }));
-                        PressKey(WXK_ESCAPE);
-                    });
-    });
-}
-
 TEST_F(FigDialogs, AnAliasIsMadeOfKnownCommandsAndGetsABox) {
     Use(kQuake, "");
     Edit([this] {

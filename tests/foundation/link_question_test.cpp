@@ -18,7 +18,7 @@ class LinkQuestion : public ::testing::Test {
     void Expect(int answer) {
         user.Expect({.Title = "Link To Another Place",
                      .Text_ = "The file -->\r\n\r\n\t\"C:\\QUAKE\\ID1\\my.cfg\"\r\n\r\n"
-                              "is a link that leads out of your home and out of the game, to -->\r\n\r\n"
+                              "is a link that leads out of the game, to -->\r\n\r\n"
                               "\t\"c:\\etc\\passwd\"\r\n\r\n"
                               "If it came in an archive from somebody else, leave that file alone.",
                      .Answer = answer,

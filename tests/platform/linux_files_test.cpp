@@ -462,6 +462,16 @@ TEST_F(LeadsAway, IsTheEndOfALinkThatLeadsOut) {
     EXPECT_EQ(Of("two.cfg"), there + "/real");
 }
 
+TEST_F(LeadsAway, IsAFileOfAnotherKindInTheHomeToo) {
+    WriteBytes(home_.Scratch / "me/.bashrc", "x");
+    Link("Unreal.ini", home_.Scratch / "me/.bashrc");
+    Link("notes.cfg", home_.Scratch / "me/notes.txt");
+    Link("same.CFG", home_.Scratch / "me/dotfiles/my.cfg");
+    EXPECT_EQ(Of("Unreal.ini"), (home_.Scratch / "me/.bashrc").string());
+    EXPECT_EQ(Of("notes.cfg"), (home_.Scratch / "me/notes.txt").string());
+    EXPECT_EQ(Of("same.CFG"), "");
+}
+
 TEST_F(LeadsAway, IsWhereALinkedDirectoryLies) {
     fs::create_directory_symlink(home_.Scratch / "else", home_.C / "QUAKE/CTF");
     EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\CTF\\my.cfg", "C:\\QUAKE"), (home_.Scratch / "else/my.cfg").string());
