@@ -77,6 +77,15 @@ class Handbook::Controller : public wxHtmlHelpController {
         customs.Write("hcSashPos", wxWindow::FromDIP(kContentsWidth, nullptr));
         m_Config = &customs;
         wxHtmlHelpFrame* const frame = wxHtmlHelpController::CreateHelpFrame(data);
+        frame->SetExtraStyle(frame->GetExtraStyle() |
+                             wxTOPLEVEL_EX_DIALOG);  // else GTK closes no frame beside a dialog
+        frame->Bind(wxEVT_CHAR_HOOK, [frame](wxKeyEvent& event) {
+            if (event.GetKeyCode() == WXK_ESCAPE) {
+                frame->Close();
+            } else {
+                event.Skip();
+            }
+        });
         m_Config = nullptr;
         frame->SetName("Handbook_Frm");
         frame->SetIcons(ProgramIcon());
