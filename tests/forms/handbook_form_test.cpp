@@ -138,20 +138,6 @@ TEST_F(HandbookForm, ItCanBeUsedWhileADialogWaits) {
     AskUser(run, "A message", "Text");
 }
 
-TEST_F(HandbookForm, IsClosedAsTheUserClosesAWindowWhileADialogWaits) {
-    for (const bool byEscape : {false, true}) {
-        WhenModal([this, byEscape] {
-            PressF1();
-            BringForward(Book());
-            byEscape ? PressKey(WXK_ESCAPE) : PressKey(WXK_F4, wxMOD_ALT);
-            EXPECT_TRUE(SettleUntil([] { return Book() == nullptr; })) << byEscape;
-            BringForward(FindAs<wxTopLevelWindow>("QuestionBox_Frm"));
-            PressKey(WXK_RETURN);
-        });
-        AskUser(run, "A message", "Text");
-    }
-}
-
 TEST_F(HandbookForm, OpensLargeWithItsContentsUnfolded) {
     OpenHelpFile(run);
     ASSERT_TRUE(SettleUntil([] { return Book() != nullptr && Book()->IsShownOnScreen(); }));
