@@ -29,21 +29,13 @@
 #include "launcher/launcher.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
+#include "tests/forms/real_handbook.h"
 #include "tests/support/test_paths.h"
 #include "wizard/forms/install_form.h"
 #include "wizard/wizard.h"
 
 namespace lv {
 namespace {
-
-/// The program's directory is where the handbook really lies.
-struct BookFiles : MemoryFiles {
-    std::string ToHost(std::string_view) override { return TestSourceDir() + "/docs/handbook/handbook.hhp"; }
-};
-
-wxHtmlHelpFrame* Book() {
-    return dynamic_cast<wxHtmlHelpFrame*>(wxWindow::FindWindowByName("Handbook_Frm"));
-}
 
 class HandbookForm : public ::testing::Test {
   protected:

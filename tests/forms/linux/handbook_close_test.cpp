@@ -1,25 +1,15 @@
 // The window manager asks a window to close; GTK's side of the toolkit may turn a deaf ear to it beside a dialog.
 
 #include <gtest/gtest.h>
-#include <wx/html/helpfrm.h>
 
 #include "foundation/question_box.h"
 #include "foundation/window_services.h"
 #include "launcher/forms/launcher_user.h"
-#include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
-#include "tests/support/test_paths.h"
+#include "tests/forms/real_handbook.h"
 
 namespace lv {
 namespace {
-
-struct BookFiles : MemoryFiles {
-    std::string ToHost(std::string_view) override { return TestSourceDir() + "/docs/handbook/handbook.hhp"; }
-};
-
-wxHtmlHelpFrame* Book() {
-    return dynamic_cast<wxHtmlHelpFrame*>(wxWindow::FindWindowByName("Handbook_Frm"));
-}
 
 TEST(HandbookBesideADialog, IsClosedAsTheUserClosesAWindow) {
     MemoryPlatform system;
