@@ -27,6 +27,10 @@ struct CatalogLists {
     Text HiddenServers;
 
     Text MapList;  // ";"-list of the names found by the last map scan
+
+    // The directories of which the user was told last that they hold more than a list shows.
+    Text MapsToldOf = {};
+    Text ScriptsToldOf = {};
 };
 
 }  // namespace lv

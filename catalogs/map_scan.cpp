@@ -1,6 +1,7 @@
 #include "catalogs/map_scan.h"
 
 #include "catalogs/catalog_store.h"
+#include "catalogs/list_room.h"
 #include "catalogs/pak_directory.h"
 #include "catalogs/timed_file.h"
 #include "catalogs/wildcard.h"
@@ -20,6 +21,14 @@ constexpr double kSecondsForADirectory = 1;
 // more of it the more rows it has.
 constexpr std::size_t kMostMapsOfArchives = 1024;
 
+// What one scan has found, and what it may still find.
+struct MapScan {
+    Text& List;
+    std::size_t RoomForArchives = kMostMapsOfArchives;
+    std::size_t RoomForFiles = kMostLooseMaps;
+    Text FullAt = "";  // the directory that has more loose maps than there is room for
+};
+
 constexpr std::size_t kSystemLength = 6;  // of the word "system"
 
 void AddMap(Text& mapList, TextView name) {
@@ -28,33 +37,43 @@ void AddMap(Text& mapList, TextView name) {
     }
 }
 
+void AddLooseMap(MapScan& scan, TextView directory, TextView name) {
+    if (scan.RoomForFiles == 0) {
+        scan.FullAt = directory;
+        return;
+    }
+    --scan.RoomForFiles;
+    AddMap(scan.List, name);
+}
+
 // The test for ".unr" looks at the case: a file named in upper case is left out, on purpose.
-void ScanUnreal(Files& files, TextView systemDirectory, Text& mapList) {
+void ScanUnreal(Files& files, TextView systemDirectory, MapScan& scan) {
     const Text directory = DropRight(systemDirectory, kSystemLength) + "MAPS";
     for (const Text& name : ListFiles(files, directory, "*.unr")) {
         const std::size_t at = name.find(".unr");
         if (at != Text::npos && at > 0) {
-            AddMap(mapList, TextView(name).substr(0, at));
+            AddLooseMap(scan, directory, TextView(name).substr(0, at));
         }
     }
 }
 
-void ScanLooseFiles(Files& files, TextView directory, Text& mapList) {
-    for (const Text& name : ListFiles(files, Join(directory, "\\maps"), "*.bsp")) {
+void ScanLooseFiles(Files& files, TextView directory, MapScan& scan) {
+    const Text maps = Join(directory, "\\maps");
+    for (const Text& name : ListFiles(files, maps, "*.bsp")) {
         const std::size_t at = LowerCase(name).find(".bsp");
         if (at != Text::npos && at > 0) {
-            AddMap(mapList, TextView(name).substr(0, at));
+            AddLooseMap(scan, maps, TextView(name).substr(0, at));
         }
     }
 }
 
-void ScanArchives(Run& run, TextView directory, std::size_t& room, Text& mapList) {
+void ScanArchives(Run& run, TextView directory, MapScan& scan) {
     const bool isSin = run.GameKind == kSin;
     Files& files = run.System.Disk;
     Clock& clock = run.System.Time;
     const double end = clock.Seconds() + kSecondsForADirectory;
     for (const Text& name : ListFiles(files, directory, isSin ? "*.sin" : "*.pak")) {
-        if (room == 0 || clock.Seconds() > end) {
+        if (scan.RoomForArchives == 0 || clock.Seconds() > end) {
             return;
         }
         const auto archive = files.Open(Join(directory, "\\", name));
@@ -62,40 +81,40 @@ void ScanArchives(Run& run, TextView directory, std::size_t& room, Text& mapList
             continue;
         }
         TimedFile timed(*archive.Value, clock, kSecondsForAnArchive);
-        for (const Text& map : PakMapNames(timed, isSin ? "SPAK" : "PACK", room)) {
-            AddMap(mapList, map);
-            --room;
+        for (const Text& map : PakMapNames(timed, isSin ? "SPAK" : "PACK", scan.RoomForArchives)) {
+            AddMap(scan.List, map);
+            --scan.RoomForArchives;
         }
     }
 }
 
-void ScanDirectory(Run& run, TextView subdirectory, std::size_t& room, Text& mapList) {
+void ScanDirectory(Run& run, TextView subdirectory, MapScan& scan) {
     Text directory = Join(run.DefaultGameDirectory, "\\", subdirectory);
     if (directory.ends_with('\\')) {
         directory.pop_back();
     }
-    ScanArchives(run, directory, room, mapList);
-    ScanLooseFiles(run.System.Disk, directory, mapList);
+    ScanArchives(run, directory, scan);
+    ScanLooseFiles(run.System.Disk, directory, scan);
 }
 
-void ScanGame(Run& run, Text& mapList) {
+void ScanGame(Run& run, MapScan& scan) {
     if (run.GameKind == kUnreal) {
-        ScanUnreal(run.System.Disk, run.DefaultGameDirectory, mapList);
+        ScanUnreal(run.System.Disk, run.DefaultGameDirectory, scan);
         return;
     }
-    std::size_t room = kMostMapsOfArchives;
     if (UpperCase(run.CurrentGameDir) != UpperCase(run.BaseGameDir)) {
-        ScanDirectory(run, run.CurrentGameDir, room, mapList);
+        ScanDirectory(run, run.CurrentGameDir, scan);
     }
-    ScanDirectory(run, run.BaseGameDir, room, mapList);
+    ScanDirectory(run, run.BaseGameDir, scan);
 }
 
 }  // namespace
 
 void ScanForMaps(Run& run, CatalogLists& lists) {
     lists.MapList.clear();
+    MapScan scan{.List = lists.MapList};
     if (!run.DefaultGameDirectory.empty()) {
-        ScanGame(run, lists.MapList);
+        ScanGame(run, scan);
     }
     lists.Map_Cbo.Clear();
     if (lists.MapList.empty()) {
@@ -106,6 +125,9 @@ void ScanForMaps(Run& run, CatalogLists& lists) {
         lists.Map_Cbo.Items.push_back(UpperCase(name));
     }
     lists.Map_Cbo.ListIndex = 0;
+    if (!scan.FullAt.empty()) {
+        TellListIsFull(run, lists.MapsToldOf, scan.FullAt, "maps", lists.Map_Cbo.Items.size());
+    }
 }
 
 }  // namespace lv

@@ -1,7 +1,7 @@
 // catalogs/map_scan.h
 //
 // The start maps of the selected game, out of loose files and archives. Nothing is kept between two scans, so that the
-// list is right at the moment of a launch. Nothing is reported.
+// list is right at the moment of a launch. Nothing is reported but a directory with more maps than a list can show.
 
 #pragma once
 

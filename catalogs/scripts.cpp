@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "catalogs/catalog_store.h"
+#include "catalogs/list_room.h"
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
 #include "foundation/list_search.h"
@@ -30,22 +31,34 @@ bool IsHelperFile(TextView name) {
     return std::find(std::begin(kHelperFiles), std::end(kHelperFiles), name) != std::end(kHelperFiles);
 }
 
+struct Scripts {
+    std::vector<Script> All;
+    bool IsFull = false;  // the directory has more
+};
+
 // The catalog's scripts and those on the disk, each path once and in lower case.
-std::vector<Script> CollectScripts(Run& run, const CatalogRows& stored, TextView directory) {
-    std::vector<Script> scripts;
+Scripts CollectScripts(Run& run, const CatalogRows& stored, TextView directory) {
+    Scripts scripts;
+    std::size_t room = kMostFoundScripts;
     std::unordered_set<Text> paths;
     for (std::size_t i = 0; i < stored.Count(); ++i) {
         Text path = LowerCase(stored.Field(i, 1));
         if (paths.insert(path).second) {
-            scripts.push_back({stored.Field(i, 0), std::move(path)});
+            scripts.All.push_back({stored.Field(i, 0), std::move(path)});
         }
     }
     for (const Text& found : ListFiles(run.System.Disk, directory, run.GameKind == kUnreal ? "*.ini" : "*.cfg")) {
         Text name = LowerCase(found);
         Text path = Join(directory, "\\", name);
-        if (!IsHelperFile(name) && FitsAField(path) && paths.insert(path).second) {
-            scripts.push_back({std::move(name), std::move(path)});
+        if (IsHelperFile(name) || !FitsAField(path) || !paths.insert(path).second) {
+            continue;
         }
+        if (room == 0) {
+            scripts.IsFull = true;
+            break;
+        }
+        --room;
+        scripts.All.push_back({std::move(name), std::move(path)});
     }
     return scripts;
 }
@@ -95,13 +108,13 @@ bool FillScriptsCombo(Run& run, CatalogLists& lists) {
         return false;
     }
     const Text directory = LowerCase(ScriptDirectory(run));
-    const std::vector<Script> scripts = CollectScripts(run, *stored, directory);
+    const Scripts scripts = CollectScripts(run, *stored, directory);
 
     ListBox& list = lists.Script_Cbo;
     list.Clear();
     lists.HiddenScripts.clear();
     Text all;
-    for (const Script& script : scripts) {
+    for (const Script& script : scripts.All) {
         const Text record = Join(script.Title, ";", script.Path);
         AppendRecord(all, record);
         if (DirectoryOf(script.Path) == directory) {
@@ -113,6 +126,9 @@ bool FillScriptsCombo(Run& run, CatalogLists& lists) {
     StoreCatalog(run, kScripts.Key, all);
     list.ListIndex = RememberedRow(run, list);
     lists.Script_Chk.Value = StoredCheck(run, "UseScripts", 0);
+    if (scripts.IsFull) {
+        TellListIsFull(run, lists.ScriptsToldOf, directory, "scripts", list.Items.size());
+    }
     return true;
 }
 

@@ -3,13 +3,15 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/long_list.h"
 #include "platform/spoken_name.h"
 
 namespace lv {
 
 namespace {
 
-constexpr int kArrowWidth = 48;  // of a list's arrow and its margins, at 100 %
+constexpr std::size_t kRowsOfAMenu = 256;  // that one may still want to look through
+constexpr int kArrowWidth = 48;            // of a list's arrow and its margins, at 100 %
 
 // A control that shows no text of its own is called by its tool tip.
 bool ShowControl(const Control& model, wxWindow* view, Text& tip) {
@@ -147,7 +149,11 @@ void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler clic
             if (!none.empty() && !rows.empty()) {
                 rows.Add(none);
             }
-            view->Set(rows);
+            view->Clear();
+            if (rows.size() > kRowsOfAMenu) {
+                LetHaveManyRows(view->GetHandle());
+            }
+            view->Append(rows);
         }
         if (view->GetSelection() != model.ListIndex) {
             view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);

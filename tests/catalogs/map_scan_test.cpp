@@ -195,6 +195,27 @@ TEST_F(MapScanTest, ArchivesFillTheListWithNoMoreThanItCanShow) {
     EXPECT_EQ(lists.Map_Cbo.Items[1024], "LOOSE");
 }
 
+TEST_F(MapScanTest, ADirectoryWithMoreLooseMapsThanTheListShowsIsToldOfOnce) {
+    for (int i = 0; i < 4097; ++i) {
+        system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\m" + std::to_string(i) + ".bsp");
+    }
+    user.Expect({"More Than a List Shows", "more maps than the list can show in\r\nc:\\quake\\ID1\\maps"});
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items.size(), 4096U);
+    ASSERT_EQ(user.Asked.size(), 1U);
+    ScanForMaps(run, lists);
+    EXPECT_EQ(user.Asked.size(), 1U);
+}
+
+TEST_F(MapScanTest, AsManyLooseMapsAsTheListShowsAreNotWorthAWord) {
+    for (int i = 0; i < 4096; ++i) {
+        system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\m" + std::to_string(i) + ".bsp");
+    }
+    ScanForMaps(run, lists);
+    EXPECT_EQ(lists.Map_Cbo.Items.size(), 4096U);
+    EXPECT_TRUE(user.Asked.empty());
+}
+
 TEST_F(MapScanTest, ManySlowArchivesAreLeftAfterASecond) {
     for (int i = 0; i < 100; ++i) {
         system.Disk.AddFile("C:\\QUAKE\\ID1\\pak" + std::to_string(i) + ".pak", PakFile({"maps/a.bsp"}));

@@ -94,6 +94,20 @@ TEST_F(ScriptsTest, AHelperFileInTheCatalogStays) {
     EXPECT_EQ(Rows(lists.Script_Cbo), (TextList{"Mine|c:\\quake\\id1\\autoexec.cfg"}));
 }
 
+TEST_F(ScriptsTest, ADirectoryWithMoreThanTheListShowsIsToldOfOnce) {
+    BeInQuake();
+    for (int i = 0; i < 1025; ++i) {
+        system.Disk.AddFile("C:\\QUAKE\\ID1\\" + std::to_string(i) + ".cfg");
+    }
+    user.Expect({"Lorvane 3D", "Attempt to insert too long a string as a value.\r\n"});
+    user.Expect({"More Than a List Shows", "more scripts than the list can show in\r\nc:\\quake\\id1"});
+    user.Expect({"Lorvane 3D", "Attempt to insert too long a string as a value.\r\n"});
+    FillScriptsCombo(run, lists);
+    EXPECT_EQ(lists.Script_Cbo.Items.size(), 1024U);
+    FillScriptsCombo(run, lists);
+    EXPECT_EQ(lists.Script_Cbo.Items.size(), 1024U);
+}
+
 TEST_F(ScriptsTest, ANameWithASemicolonIsLeftOut) {
     BeInQuake();
     system.Disk.AddFile("C:\\QUAKE\\ID1\\a;b.cfg");
