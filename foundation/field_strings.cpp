@@ -9,6 +9,16 @@ namespace {
 
 constexpr std::size_t kNone = TextView::npos;
 
+// Of a set of one or two, which a search of its own would take longer to find than to look at.
+bool IsOneOf(char c, TextView set) {
+    for (const char each : set) {
+        if (each == c) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool IsWhite(char c) {
     return c == '\r' || c == '\n' || c == '\0' || c == ' ' || c == '\t';
 }
@@ -63,37 +73,26 @@ Text GetKeyOrValue(TextView line, bool wantValue) {
     return Text(KeyOrValueView(line, wantValue));
 }
 
-TextView QuotedWordView(TextView line, Index index, TextView blanks) {
-    const auto isBlank = [blanks](char c) { return blanks.find(c) != kNone; };
-    bool inQuotes = false;
-    bool inWord = false;
-    int word = -1;
-    for (std::size_t at = 0; at < line.size(); ++at) {
-        const char c = line[at];
-        if (c == '"') {
-            inQuotes = !inQuotes;
-        }
-        if (inWord) {
-            inWord = inQuotes || !isBlank(c);
-            continue;
-        }
-        if (isBlank(c)) {
-            continue;
-        }
-        inWord = true;
-        if (++word != index) {
-            continue;
-        }
-        std::size_t end = at + 1;
-        while (end < line.size() && (inQuotes || !isBlank(line[end]))) {
-            if (line[end] == '"') {
-                inQuotes = !inQuotes;
-            }
-            ++end;
-        }
-        return line.substr(at, end - at);
+TextView NextQuotedWord(TextView& rest, TextView blanks) {
+    std::size_t begin = 0;
+    while (begin < rest.size() && IsOneOf(rest[begin], blanks)) {
+        ++begin;
     }
-    return {};
+    std::size_t end = begin;
+    for (bool inQuotes = false; end < rest.size() && (inQuotes || !IsOneOf(rest[end], blanks)); ++end) {
+        inQuotes = inQuotes != (rest[end] == '"');
+    }
+    const TextView word = rest.substr(begin, end - begin);
+    rest.remove_prefix(end);
+    return word;
+}
+
+TextView QuotedWordView(TextView line, Index index, TextView blanks) {
+    TextView word;
+    for (int i = 0; i <= index && (i == 0 || !word.empty()); ++i) {
+        word = NextQuotedWord(line, blanks);
+    }
+    return word;
 }
 
 Text GetQuotedWord(TextView line, Index index) {
@@ -163,8 +162,13 @@ Text Trim(TextView text) {
 }
 
 TextView TrimmedView(TextView text, TextView blanks) {
-    const std::size_t begin = text.find_first_not_of(blanks);
-    return begin == kNone ? TextView() : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+    while (!text.empty() && IsOneOf(text.front(), blanks)) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsOneOf(text.back(), blanks)) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
 
 TextView StripQuotesView(TextView text) {

@@ -27,6 +27,8 @@ TextView KeyOrValueView(TextView line, bool wantValue);
 Text GetQuotedWord(TextView line, Index index);
 /// `blanks` are the characters that part words.
 TextView QuotedWordView(TextView line, Index index, TextView blanks = " ");
+/// The first word, which `rest` is moved behind: for those who want several.
+TextView NextQuotedWord(TextView& rest, TextView blanks = " ");
 
 /// Cut, or padded with blanks, to exactly `width` characters.
 Text PadToWidth(TextView text, std::size_t width);

@@ -22,4 +22,11 @@ bool AskToFollowLink(Run& run, TextView path, TextView target);
 /// Whether `path` may be written: the user is asked where it leads outside.
 bool MayWriteThroughLinks(Run& run, TextView path);
 
+/// Whether a file of the program's own may be put at `path`, in the game that lies in `tree`: the user is asked if its
+/// directory is reached by a link that leads outside, once for each place.
+bool MayPutOwnFile(Run& run, TextView path, TextView tree);
+
+/// The same, without a question: false where there would be one.
+bool PutsOwnFileInside(Run& run, TextView path, TextView tree);
+
 }  // namespace lv

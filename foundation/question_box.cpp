@@ -24,6 +24,9 @@ constexpr TextView kQuietCaptions[] = {
     "Ignore",
     "Abort Launch",
     "Cool - Thanks Man!",
+    "Don't Start",
+    "Leave It",
+    "Leave It Alone",
     "Cancel and I'll Try That",
     "I'm smart enough to admit I don't know what I am doing",
 };

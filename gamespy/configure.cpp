@@ -4,6 +4,8 @@
 
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
+#include "foundation/link_question.h"
+#include "foundation/path_fault.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "gamespy/spy_files.h"
@@ -68,20 +70,35 @@ bool NoteGames(SpyLaunch& launch, SpyGames& games) {
     return false;
 }
 
+bool InUse(const SpyGames& games, const ScriptRow& row) {
+    return games[row.Slot].InUse || games[row.AlsoFor].InUse;
+}
+
+Text ScriptPath(const SpyGames& games, const ScriptRow& row) {
+    return Join(games[row.DirectoryOf].Directory, SpySlots()[row.Slot].DataDirectory, "\\", kSpyScriptFile);
+}
+
+/// False if a data directory is a link out of its game, and the user does not want it written to.
+bool MayWriteScripts(Run& run, const SpyGames& games) {
+    return std::ranges::all_of(kScriptFiles, [&](const ScriptRow& row) {
+        return !InUse(games, row) || MayPutOwnFile(run, ScriptPath(games, row), games[row.DirectoryOf].Directory);
+    });
+}
+
 /// A data directory that is not there is passed over.
 Error WriteScript(SpyLaunch& launch, const SpyGames& games, const ScriptRow& row) {
-    if (!games[row.Slot].InUse && !games[row.AlsoFor].InUse) {
+    if (!InUse(games, row)) {
         return {};
     }
     Files& disk = launch.launcher.run.System.Disk;
-    const Text path = Join(games[row.DirectoryOf].Directory, SpySlots()[row.Slot].DataDirectory, "\\", kSpyScriptFile);
+    const Text path = ScriptPath(games, row);
     const Text text = SpyScriptText(games[row.Slot].Script, launch.Texts.*row.Lines);
     if (text.empty()) {
         (void)disk.Delete(path);
         return {};
     }
     const Error failed = disk.ReplaceOwn(path, text);
-    return failed.Number == error::kPathNotFound ? Error() : failed;
+    return failed.Number == error::kPathNotFound ? Error() : FaultAt(disk, path, failed);
 }
 
 Error WriteScripts(SpyLaunch& launch, const SpyGames& games) {
@@ -147,7 +164,7 @@ void LeaveMainWindow(Launcher& launcher, MinimizeLorvane choice) {
 
 SpyFailure ConfigureGameSpy(SpyLaunch& launch) {
     SpyGames games;
-    if (!NoteGames(launch, games)) {
+    if (!NoteGames(launch, games) || !MayWriteScripts(launch.launcher.run, games)) {
         return {};
     }
     launch.Texts.GameCommand += Join(kSpyParameters, Blank, "+exec ", kSpyScriptFile, Blank);

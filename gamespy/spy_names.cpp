@@ -14,12 +14,8 @@ void AddScript(std::vector<LaunchName>& names, GameSpyConfig_Frm& form, std::siz
     const Text script = LastPathPart(ItemValue(form.ScriptSpy_Cbo[slot].Selected()));
     if (!script.empty()) {
         const bool isIni = slot == spy_slot::kUnreal;
-        names.push_back({.Kind = NameKind::Script,
-                         .Value = script,
-                         .Written = script,
-                         .Option = isIni ? "INI=" : "",
-                         .InCommand = isIni,
-                         .InScript = !isIni});
+        names.push_back(
+            {.Kind = NameKind::Script, .Value = script, .Written = script, .InCommand = isIni, .InScript = !isIni});
     }
 }
 
@@ -51,10 +47,11 @@ bool SpyNamesAreText(GameSpyConfig_Frm& form, const LaunchSelection& selection, 
             names.push_back(std::move(name));
         }
     }
-    return std::ranges::all_of(places, [&](const LaunchName& place) {
+    const bool areText = std::ranges::all_of(places, [&](const LaunchName& place) {
         return place.Kind != NameKind::GameDirectory ||
                NamesAreText(form.run, names, LineReader::kCommandProcessor, place.Value);
     });
+    return areText && NamesMayBeCommands(form.run, names);
 }
 
 }  // namespace lv

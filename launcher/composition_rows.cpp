@@ -142,7 +142,7 @@ constexpr CompositionCell Not3(const char* text) {
 constexpr CompositionRow kRows[] = {
     // row, step, games, condition, tunable, GameCommand, UnrealCommand, script of Quake, script of Quake II, special
     {1,   20, Every, PlainQuakeOnline,                   None, No, No, No, No, WrapQuake},
-    {2,   40, Every, UnrealMap,                          None, No, "%.unr ",      No, No, MapName},
+    {2,   40, Every, UnrealMap,                          None, No, No, No, No, UnrealMapRule},
     {3,   40, Every, Ticked<&S::UnrealNoDirectSound_Chk>,     None, No, "-nodsound ",  No, No, {}},
     {4,   40, Every, Ticked<&S::UnrealSimulateFirstRun_Chk>,  None, No, "-firstrun ",  No, No, {}},
     {5,   40, Every, Ticked<&S::UnrealDisableLogWindow_Chk>,  None, No, "-nologwin ",  No, No, {}},

@@ -1,6 +1,7 @@
 #include "launcher/composition_rules.h"
 
 #include "catalogs/catalog_store.h"
+#include "catalogs/modifications.h"
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
 
@@ -24,12 +25,30 @@ Text FieldOf(TextView record, Index index) {
     return index > CountDelimiters(record, ";") ? Text() : Trim(GetField(record, index, ";"));
 }
 
-/// Behind ".EXE", or behind the executable's own name where that has another ending.
-void InsertBehindExecutable(const Composition& c, TextView text) {
+/// Appends a word that is one argument whatever it holds, and notes where it stands.
+void AddGiven(Text& command, std::vector<GivenWord>& given, GivenWord word) {
+    word.At = command.size();
+    command += Join(word.Option, word.Written);
+    if (!word.Written.empty()) {
+        given.push_back(std::move(word));
+    }
+}
+
+GivenWord AsItStands(Text value) {
+    return {.Written = value, .Argument = std::move(value)};
+}
+
+/// Behind ".EXE", or behind the executable's own name where that has another ending, with a blank before it. What
+/// stands there already moves on. Where the text begins.
+std::size_t InsertBehindExecutable(const Composition& c, TextView text) {
     const Text name = ExecutableName(c.Selected);
     const std::size_t ending = name.find(".EXE");
     const std::size_t at = ending == Text::npos ? name.size() : ending + 4;
     c.Texts.UnrealCommand.insert(at, Join(Blank, text));
+    for (GivenWord& word : c.Texts.UnrealGiven) {
+        word.At += text.size() + Blank.size();
+    }
+    return at + Blank.size();
 }
 
 bool IsBaseDirectory(TextView mod, const LaunchGame& game) {
@@ -54,16 +73,34 @@ Text ConnectText(const ServerAddress& server) {
     return server.Password.empty() ? connect : Join("password ", server.Password, NewLine, connect, NewLine);
 }
 
+/// "+", the connect text without its last line end, and a blank. With a password the line breaks stand inside the
+/// command line; Half-Life wants it so.
+void ConnectHalfLife(const ServerAddress& server, LaunchTexts& texts) {
+    texts.GameCommand += "+";
+    if (!server.Password.empty()) {
+        texts.GameCommand += "password ";
+        AddGiven(texts.GameCommand, texts.GameGiven,
+                 {.Written = server.Password, .Argument = PasswordAsArgument(server.Password)});
+        texts.GameCommand += NewLine;
+    }
+    texts.GameCommand += "connect ";
+    AddGiven(texts.GameCommand, texts.GameGiven, AsItStands(server.HostAndPort));
+    texts.GameCommand += server.Password.empty() ? Text(Blank) : Join(NewLine, Blank);
+}
+
 void ConnectTo(const ServerAddress& server, const Composition& c) {
     if (c.Game.GameKind == game_kind::kUnreal) {
-        InsertBehindExecutable(c, server.HostAndPort);
+        GivenWord word = AsItStands(server.HostAndPort);
+        word.At = InsertBehindExecutable(c, server.HostAndPort);
+        if (!word.Written.empty()) {
+            c.Texts.UnrealGiven.insert(c.Texts.UnrealGiven.begin(), std::move(word));
+        }
         return;
     }
     const Text connect = ConnectText(server);
     c.Texts.QuakeScript += connect;
     if (c.Game.GameKind == game_kind::kHalfLife) {
-        // With a password the line breaks stand inside the command line; Half-Life wants it so.
-        c.Texts.GameCommand += Join("+", DropRight(connect, NewLine.size()), Blank);
+        ConnectHalfLife(server, c.Texts);
         return;
     }
     c.Texts.Quake2Script += connect;
@@ -81,6 +118,17 @@ Text QuotedIfBlank(TextView name) {
     return Holds(name, Blank) ? Join(DoubleQuote, name, DoubleQuote) : Text(name);
 }
 
+Text PasswordAsArgument(TextView written) {
+    const bool quoted = written.size() >= 2 && written.starts_with('"') && written.ends_with('"');
+    return Text(quoted ? written.substr(1, written.size() - 2) : written);
+}
+
+LaunchStop UnrealMapRule(const Composition& c) {
+    AddGiven(c.Texts.UnrealCommand, c.Texts.UnrealGiven, AsItStands(Join(LowerCase(*c.Selected.Map), ".unr")));
+    c.Texts.UnrealCommand += Blank;
+    return {};
+}
+
 LaunchStop WrapQuake(const Composition& c) {
     c.Texts.GameCommand = Join("qlaunch quakeudp.dll ", c.Texts.GameCommand, "-noipx -noserial -mpath ");
     return {};
@@ -96,7 +144,14 @@ LaunchStop ModRule(const Composition& c) {
         return {};
     }
     const bool asVariable = c.Game.ScriptFamily == script_family::kQuake2;
-    c.Texts.GameCommand += asVariable ? Join("+set ", DropLeft(mod, 1), Blank) : Join(mod, Blank);
+    c.Texts.GameCommand += asVariable ? "+set " : "";
+    if (mod.starts_with(kGameOption)) {
+        c.Texts.GameCommand += asVariable ? kGameOption.substr(1) : kGameOption;
+        AddGiven(c.Texts.GameCommand, c.Texts.GameGiven, AsItStands(DropLeft(mod, kGameOption.size())));
+    } else {  // an option that the user has typed
+        c.Texts.GameCommand += asVariable ? DropLeft(mod, 1) : mod;
+    }
+    c.Texts.GameCommand += Blank;
     return {};
 }
 
@@ -119,9 +174,11 @@ LaunchStop ScriptRule(const Composition& c) {
             return stop;
         }
     }
-    const Text name = QuotedIfBlank(Trim(LastPathPart(path)));
+    const Text file = Trim(LastPathPart(path));
+    const Text name = QuotedIfBlank(file);
     if (c.Game.GameKind == game_kind::kUnreal) {
-        c.Texts.UnrealCommand += Join("INI=", name, Blank);
+        AddGiven(c.Texts.UnrealCommand, c.Texts.UnrealGiven, {.Written = name, .Argument = file, .Option = "INI="});
+        c.Texts.UnrealCommand += Blank;
         return {};
     }
     const Text line = Join("exec ", name, NewLine);

@@ -19,8 +19,14 @@ ServerAddress ServerOf(TextView record);
 /// In double quotes if it holds a blank.
 Text QuotedIfBlank(TextView name);
 
+/// What a game gets of a password: one that the user has put in double quotes comes without them.
+Text PasswordAsArgument(TextView written);
+
 /// Plain Quake goes online through qlaunch.
 LaunchStop WrapQuake(const Composition& c);
+
+/// "start.unr".
+LaunchStop UnrealMapRule(const Composition& c);
 
 LaunchStop UnrealIniRule(const Composition& c);
 

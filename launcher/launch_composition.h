@@ -7,9 +7,11 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "launcher/launch_selection.h"
 #include "platform/error.h"
+#include "platform/processes.h"
 #include "video/profile_model.h"
 
 namespace lv {
@@ -32,12 +34,14 @@ struct LaunchStop {
 /// The texts of one launch. All four grow side by side; which of them is used depends on the game. On a stop they stay
 /// as far as they had come.
 struct LaunchTexts {
-    Text GameCommand;              // every game but Unreal
-    Text UnrealCommand;            // Unreal
-    Text QuakeScript;              // lines of the Quake family, each ended by NewLine
-    Text Quake2Script;             // lines of the Quake II family, "set", name and value
-    std::size_t PrefixLength = 0;  // of GameCommand once it may have been wrapped: executable and wrapper
-    int LaunchStep = 0;            // the step reached
+    Text GameCommand;                    // every game but Unreal
+    Text UnrealCommand;                  // Unreal
+    Text QuakeScript;                    // lines of the Quake family, each ended by NewLine
+    Text Quake2Script;                   // lines of the Quake II family, "set", name and value
+    std::vector<GivenWord> GameGiven;    // where the values that are no text of the user's stand in GameCommand
+    std::vector<GivenWord> UnrealGiven;  // and in UnrealCommand
+    std::size_t PrefixLength = 0;        // of GameCommand once it may have been wrapped: executable and wrapper
+    int LaunchStep = 0;                  // the step reached
     LaunchStop Stop;
 };
 

@@ -26,6 +26,11 @@ Text ScriptFilePath(const LaunchGame& game);
 Text BatchText(TextView environmentLines, bool showSet, TextView exeDrive, TextView directory, const LaunchTexts& texts,
                const LaunchGame& game);
 
+/// What the text of this batch alone does not tell: its program, and where in it the values stand that are no text of
+/// the user's.
+BatchCommand CommandOfBatch(TextView batch, const LaunchSelection& selection, const LaunchTexts& texts,
+                            const LaunchGame& game);
+
 /// The file that gives the batch's console window its properties (Windows PIF).
 TextView PifTemplateName(Index gameKind);
 

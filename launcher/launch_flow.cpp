@@ -4,7 +4,9 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
+#include "foundation/link_question.h"
 #include "foundation/numbers.h"
+#include "foundation/path_fault.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "gamespy/configure.h"
@@ -40,7 +42,6 @@ struct Click {
     Text Script;  // what goes into lv_666.qs
     Text Batch;   // what goes into lv_666.bat
     Text FailureFile;
-    BatchCommand Known;  // of the batch's command
 };
 
 void Tell(Run& run, TextView text) {
@@ -89,9 +90,8 @@ bool NamesOfLaunchAreText(Click& click) {
     const std::vector<LaunchName> names = NamesOf(click.Selection, click.Game);
     const Text command = ComposeLaunch(click.Selection, click.Game, click.Profile, {}).GameCommand;
     const Text& directory = click.Game.DefaultGameDirectory;
-    click.Known = KnownCommand(click.Selection, names);
-    return NamesAreText(click.run, names, click.run.System.Programs.ReaderOf(directory, command, click.Known.Program),
-                        directory);
+    const LineReader reader = click.run.System.Programs.ReaderOf(directory, command, ExecutableName(click.Selection));
+    return NamesAreText(click.run, names, reader, directory) && NamesMayBeCommands(click.run, names);
 }
 
 LaunchHooks HooksOf(Launcher& launcher) {
@@ -121,6 +121,15 @@ bool Compose(Click& click) {
     return false;
 }
 
+/// Of the last launch.
+void DeleteScript(Click& click) {
+    const Text path = ScriptFilePath(click.Game);
+    const Text& directory = click.Game.DefaultGameDirectory;
+    if (!directory.empty() && PutsOwnFileInside(click.run, path, directory)) {
+        (void)click.run.System.Disk.Delete(path);
+    }
+}
+
 /// Replaces the script of the last launch, or takes it away when this one has none.
 bool WriteScript(Click& click) {
     Files& disk = click.run.System.Disk;
@@ -129,13 +138,15 @@ bool WriteScript(Click& click) {
     AddCommandLineAdditions(click.Selection, click.Texts);
     click.Script = ScriptText(click.Texts, click.Game);
     if (click.Script.empty() || click.Game.GameKind == game_kind::kUnreal || !hasDirectory) {
-        if (hasDirectory) {
-            (void)disk.Delete(ScriptFilePath(click.Game));
-        }
+        DeleteScript(click);
         return true;
     }
-    if (const Error failed = disk.ReplaceOwn(ScriptFilePath(click.Game), click.Script)) {
-        ReportError(click, failed);
+    const Text path = ScriptFilePath(click.Game);
+    if (!MayPutOwnFile(click.run, path, click.Game.DefaultGameDirectory)) {
+        return false;
+    }
+    if (const Error failed = disk.ReplaceOwn(path, click.Script)) {
+        ReportError(click, FaultAt(disk, path, failed));
         return false;
     }
     AddScriptExec(click.Texts);
@@ -151,8 +162,9 @@ bool WriteBatch(Click& click) {
     }
     const Text path = Join(click.Game.DefaultGameDirectory, "\\", kLaunchBatchFile);
     click.FailureFile = Join(kBatchTag, path);
-    if (const Error failed = click.run.System.Disk.ReplaceOwn(path, click.Batch)) {
-        ReportError(click, failed);
+    Files& disk = click.run.System.Disk;
+    if (const Error failed = disk.ReplaceOwn(path, click.Batch)) {
+        ReportError(click, disk.DirectoryExists(path) ? FaultAt(disk, path, failed) : failed);
         return false;
     }
     click.FailureFile.clear();
@@ -225,7 +237,8 @@ void StartGame(Click& click) {
     }
     PutPif(click);
     HideForLaunch(click.launcher);
-    if (const Error failed = run.System.Programs.StartBatch(directory, kLaunchBatchFile, click.Known)) {
+    const BatchCommand command = CommandOfBatch(click.Batch, click.Selection, click.Texts, click.Game);
+    if (const Error failed = run.System.Programs.StartBatch(directory, kLaunchBatchFile, command)) {
         ShowMainWindow(click.launcher);  // no game has the screen, so the window comes back
         ReportError(click, failed);
         return;
@@ -241,8 +254,8 @@ void ConfigureInstead(Click& click, GameSpyConfig_Frm& form) {
     const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
     click.Texts.LaunchStep = 205;
     AddCommandLineAdditions(click.Selection, click.Texts);
+    DeleteScript(click);
     if (hasDirectory) {
-        (void)run.System.Disk.Delete(ScriptFilePath(click.Game));
         (void)run.System.Disk.Delete(Join(click.Game.DefaultGameDirectory, "\\", kLaunchBatchFile));
     }
     SpyLaunch launch{click.launcher, form, click.Selection, click.Texts,
@@ -348,7 +361,6 @@ void DoIt_Cmd_Click(Launcher& launcher, int index) {
                 ReadProfile(run),
                 SelectionOf(launcher.Window),
                 GameOf(run),
-                {},
                 {},
                 {},
                 {},

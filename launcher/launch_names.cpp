@@ -41,10 +41,9 @@ const NameRow& RowOf(NameKind kind) {
     return *std::ranges::find(kNames, kind, &NameRow::Kind);
 }
 
-/// What the user has typed into a quoted password reaches the game without its quotes.
-Text WithoutQuotes(const Text& text) {
-    const bool quoted = text.size() >= 2 && text.starts_with('"') && text.ends_with('"');
-    return quoted ? text.substr(1, text.size() - 2) : text;
+/// In the game's console.
+bool PartsCommands(TextView text) {
+    return text.find_first_of("\";") != TextView::npos;
 }
 
 using Names = std::vector<LaunchName>;
@@ -52,8 +51,12 @@ using Names = std::vector<LaunchName>;
 void AddModification(Names& names, const LaunchSelection& selection, bool isUnreal) {
     const Text mod = selection.Game_Chk && selection.Game ? LowerCase(*selection.Game) : Text();
     if (mod.starts_with(kGameOption)) {  // anything else is an option that the user has typed
-        const Text name = Trim(DropLeft(mod, kGameOption.size()));
-        names.push_back({.Kind = NameKind::Modification, .Value = name, .Written = name, .InCommand = !isUnreal});
+        const Text name = DropLeft(mod, kGameOption.size());
+        names.push_back({.Kind = NameKind::Modification,
+                         .Value = name,
+                         .Written = name,
+                         .InCommand = !isUnreal,
+                         .ByConsole = !isUnreal});
     }
 }
 
@@ -64,18 +67,22 @@ void AddServer(Names& names, const LaunchSelection& selection, const LaunchGame&
     const auto& [server, password] = ServerOf(*selection.Server);
     const bool isUnreal = game.GameKind == game_kind::kUnreal;
     const bool isHalfLife = game.GameKind == game_kind::kHalfLife;
-    names.push_back(
-        {.Kind = NameKind::Password, .Value = WithoutQuotes(password), .Written = password, .InCommand = isHalfLife});
+    names.push_back({.Kind = NameKind::Password,
+                     .Value = PasswordAsArgument(password),
+                     .Written = password,
+                     .InCommand = isHalfLife,
+                     .ByConsole = isHalfLife});
     names.push_back({.Kind = NameKind::Server,
                      .Value = server,
                      .Written = server,
                      .InCommand = isUnreal || isHalfLife,
-                     .InScript = !isUnreal});
+                     .InScript = !isUnreal,
+                     .ByConsole = isHalfLife});
 }
 
 void AddMap(Names& names, const LaunchSelection& selection, bool isUnreal) {
     if (selection.Map_Chk && selection.Map) {
-        const Text name = Trim(Join(LowerCase(*selection.Map), isUnreal ? ".unr" : ""));
+        const Text name = Join(LowerCase(*selection.Map), isUnreal ? ".unr" : "");
         names.push_back(
             {.Kind = NameKind::Map, .Value = name, .Written = name, .InCommand = isUnreal, .InScript = !isUnreal});
     }
@@ -89,17 +96,19 @@ void AddScript(Names& names, const LaunchSelection& selection, bool isUnreal) {
     names.push_back({.Kind = NameKind::Script,
                      .Value = name,
                      .Written = QuotedIfBlank(name),
-                     .Option = isUnreal ? "INI=" : "",
                      .InCommand = isUnreal,
                      .InScript = !isUnreal});
 }
 
-/// A demo's record is a console command; its name stands behind the command's word.
+/// A demo's record is a console command; its name stands behind the command's word. A word that is none is named with
+/// the rest.
 void AddDemo(Names& names, const LaunchSelection& selection, bool isUnreal) {
     if (selection.Demo_Chk && selection.Demo) {
         const Text& command = *selection.Demo;
         const std::size_t blank = std::min(command.find(' '), command.size());
-        const Text name = blank < command.size() ? Trim(command.substr(blank)) : command;
+        const TextView word = TextView(command).substr(0, blank);
+        const bool isWord = blank < command.size() && ReadsAsOneWord(word, LineReader::kNobody) && !PartsCommands(word);
+        const Text name = isWord ? Trim(command.substr(blank)) : command;
         names.push_back({.Kind = NameKind::Demo, .Value = name, .Written = name, .InScript = !isUnreal});
     }
 }
@@ -118,11 +127,14 @@ std::optional<TextView> Misreader(const LaunchName& name, LineReader reader) {
     if (!ReadsAsOneWord(name.Value, LineReader::kNobody)) {
         return "A command line";
     }
-    if (name.InScript && name.Value.find_first_of("\";") != Text::npos) {
+    if (name.InScript && PartsCommands(name.Value)) {
         return "The game's console";
     }
-    // What "%" makes of a directory is none, and the game starts in the right one all the same.
     const bool isDirectory = name.Kind == NameKind::GameDirectory;
+    if (isDirectory && reader == LineReader::kDosShell && Holds(name.Value, DoubleQuote)) {
+        return "DOS's shell";  // it is mounted within quotes
+    }
+    // What "%" makes of a directory is none, and the game starts in the right one all the same.
     const Text written = isDirectory ? ReplaceText(name.Written, "%", "_") : name.Written;
     const LineReader first = ReaderOfName(name, reader);
     if (ReadsAsOneWord(written, first)) {
@@ -137,6 +149,12 @@ Text Shown(TextView text) {
     std::replace_if(
         shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, '?');
     return text.size() > kLongestShown ? shown + "..." : shown;
+}
+
+/// What it is called, and where it comes from.
+Text Introduce(const LaunchName& name) {
+    const NameRow& row = RowOf(name.Kind);
+    return Join("The ", row.What, Blank, DoubleQuote, Shown(name.Value), DoubleQuote, " comes from ", row.Source, ".");
 }
 
 }  // namespace
@@ -162,26 +180,25 @@ std::vector<LaunchName> NamesOf(const LaunchSelection& selection, const LaunchGa
     return names;
 }
 
-BatchCommand KnownCommand(const LaunchSelection& selection, const std::vector<LaunchName>& names) {
-    BatchCommand known{ExecutableName(selection), {}};
-    for (const LaunchName& name : names) {
-        if (name.InCommand && name.Kind != NameKind::Executable) {
-            known.Given.push_back({name.Written, name.Value, name.Option});
-        }
-    }
-    return known;
-}
-
 std::optional<Text> MisreadName(const std::vector<LaunchName>& names, LineReader reader) {
     for (const LaunchName& name : names) {
         if (const std::optional<TextView> misreader = Misreader(name, reader)) {
-            const NameRow& row = RowOf(name.Kind);
-            return Join("Nothing was written, and nothing was started.", NewLine, NewLine, "The ", row.What, Blank,
-                        DoubleQuote, Shown(name.Value), DoubleQuote, " comes from ", row.Source, ".", NewLine,
-                        *misreader, " would not read it as one word of text.", NewLine, NewLine, row.Help);
+            return Join("Nothing was written, and nothing was started.", NewLine, NewLine, Introduce(name), NewLine,
+                        *misreader, " would not read it as one word of text.", NewLine, NewLine, RowOf(name.Kind).Help);
         }
     }
     return std::nullopt;
+}
+
+std::optional<Text> PlusQuestion(const std::vector<LaunchName>& names) {
+    const auto found =
+        std::ranges::find_if(names, [](const LaunchName& name) { return name.ByConsole && Holds(name.Value, "+"); });
+    if (found == names.end()) {
+        return std::nullopt;
+    }
+    return Join(Introduce(*found), NewLine,
+                "Many games carry out what stands behind a \"+\" as a command of their own.", NewLine, NewLine,
+                "Start it only if that may happen.");
 }
 
 std::vector<Text> ConnectPrograms(const std::vector<LaunchName>& names, LineReader reader) {

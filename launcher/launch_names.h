@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "launcher/launch_selection.h"
-#include "platform/processes.h"
+#include "platform/command_text.h"
 
 namespace lv {
 
@@ -18,22 +18,23 @@ enum class NameKind { Executable, GameDirectory, Modification, Map, Script, Demo
 
 struct LaunchName {
     NameKind Kind = NameKind::Executable;
-    Text Value;        // what it is called, and what a game gets as one argument
-    Text Written;      // as it stands in a command or a script
-    Text Option = {};  // of the command, right before it: "INI="
+    Text Value;    // what it is called
+    Text Written;  // as it stands in a command or a script
     bool InCommand = false;
-    bool InScript = false;  // for the game's own console
+    bool InScript = false;   // for the game's own console
+    bool ByConsole = false;  // of the command: where the game's console looks for commands
 };
 
 /// Of what is ticked and picked, in the order of the command line.
 std::vector<LaunchName> NamesOf(const LaunchSelection& selection, const LaunchGame& game);
 
-/// What the batch of these names does not tell by its text alone.
-BatchCommand KnownCommand(const LaunchSelection& selection, const std::vector<LaunchName>& names);
-
 /// Why the launch must not start: the first name that would be misread, where it comes from and what helps. Nothing if
 /// all are text. Windows' command processor looks at every name, whether it is to meet it or not.
 std::optional<Text> MisreadName(const std::vector<LaunchName>& names, LineReader reader);
+
+/// Many games take a "+" in their command line, wherever it stands, for the beginning of a command of their console.
+/// What the user is asked about the first name with one; nothing if there is none.
+std::optional<Text> PlusQuestion(const std::vector<LaunchName>& names);
 
 /// Half-Life's password breaks the command line, and a command processor carries the rest out by itself, as a command
 /// called "connect". The names of the files that it would take for that command.

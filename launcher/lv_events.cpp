@@ -4,6 +4,7 @@
 #include "catalogs/map_scan.h"
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
+#include "foundation/link_question.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "launcher/option_rules.h"
@@ -58,7 +59,9 @@ void Bench_Chk_Click(Launcher& launcher) {
                           Join("Half-Life does not ship a demo file to run a timedemo.", NewLine, NewLine,
                                "Please make one: start a game, open the console, and type", NewLine, NewLine,
                                "record 1", NewLine, NewLine, "and stop when you have played enough."));
-        (void)run.System.Disk.CopyOwn(Join(run.AppDirectory, "\\hl1.dem"), demo);
+        if (MayPutOwnFile(run, demo, run.DefaultGameDirectory)) {
+            (void)run.System.Disk.CopyOwn(Join(run.AppDirectory, "\\hl1.dem"), demo);
+        }
     }
     AskUserUnlessTold(run, "HL_TimeDemo", "Half-Life TimeDemo Warning",
                       Join("After launching, you will see a Console button in the", NewLine,

@@ -5,7 +5,12 @@
 namespace lv {
 
 bool NamesAreText(Run& run, const std::vector<LaunchName>& names, LineReader reader, TextView directory) {
-    if (const std::optional<Text> misread = MisreadName(names, reader)) {
+    std::optional<Text> misread = MisreadName(names, reader);
+    if (!misread && reader == LineReader::kDosShell) {  // which meets the directory as the host has it
+        const Text place = FromUtf8Lossy(run.System.Disk.ToHost(directory));
+        misread = MisreadName({{.Kind = NameKind::GameDirectory, .Value = place, .Written = place}}, reader);
+    }
+    if (misread) {
         AskUser(run, "", *misread);
         return false;
     }
@@ -17,6 +22,11 @@ bool NamesAreText(Run& run, const std::vector<LaunchName>& names, LineReader rea
         }
     }
     return true;
+}
+
+bool NamesMayBeCommands(Run& run, const std::vector<LaunchName>& names) {
+    const std::optional<Text> question = PlusQuestion(names);
+    return !question || AskUser(run, "A Command In A Name", *question, "&Don't Start,&Start It") == 1;
 }
 
 }  // namespace lv

@@ -13,4 +13,7 @@ namespace lv {
 /// there as a part of the command; the user was told.
 bool NamesAreText(Run& run, const std::vector<LaunchName>& names, LineReader reader, TextView directory);
 
+/// False if a game might carry out a part of one of the names, and the user does not want it started then.
+bool NamesMayBeCommands(Run& run, const std::vector<LaunchName>& names);
+
 }  // namespace lv

@@ -3,6 +3,7 @@
 #include "foundation/bounded_file.h"
 #include "foundation/field_strings.h"
 #include "foundation/link_question.h"
+#include "foundation/path_fault.h"
 #include "launcher/launch_flow.h"
 #include "launcher/unreal_ini.h"
 #include "video/profile_model.h"
@@ -45,12 +46,12 @@ Error SetUnrealVideoOptionsForLaunch(Launcher& launcher, const std::optional<Tex
     }
     const Result<Text> old = ReadBounded(run.System.Disk, path, kLargestIni);
     if (!old.Ok()) {
-        return old.Fault;
+        return FaultAt(run.System.Disk, path, old.Fault);
     }
     UnrealIniResult rewritten = RewriteUnrealIni(
         {old.Value, ReadProfile(run), launcher.Window.UnrealNoCDNeeded_Chk.Value == 1, run.DefaultGameDirectory});
     changed = std::move(rewritten.ChangedIniLines);
-    return run.System.Disk.Replace(path, rewritten.Ini);
+    return FaultAt(run.System.Disk, path, run.System.Disk.Replace(path, rewritten.Ini));
 }
 
 }  // namespace lv

@@ -124,7 +124,9 @@ char UpperCase(char character) {
     return c == 0xFF ? static_cast<char>(0x9F) : character;
 }
 
-char LowerCase(char character) {
+namespace {
+
+constexpr char LowerCaseOf(char character) {
     const auto c = static_cast<unsigned char>(character);
     if ((c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7)) {
         return static_cast<char>(c + 0x20);
@@ -133,6 +135,21 @@ char LowerCase(char character) {
         return static_cast<char>(c + 0x10);
     }
     return c == 0x9F ? static_cast<char>(0xFF) : character;
+}
+
+// Looked up, for scripts are compared byte by byte.
+constexpr std::array<char, 256> kLowerCase = [] {
+    std::array<char, 256> table{};
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        table[i] = LowerCaseOf(static_cast<char>(i));
+    }
+    return table;
+}();
+
+}  // namespace
+
+char LowerCase(char character) {
+    return kLowerCase[static_cast<unsigned char>(character)];
 }
 
 std::string UpperCase(std::string_view text) {

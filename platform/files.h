@@ -79,13 +79,15 @@ class Files {
     /// Byte copy, in one step like Replace. Error 7 for more than kLargestWholeFile.
     virtual Error Copy(std::string_view from, std::string_view to) = 0;
 
-    /// As Replace and Copy, for a file of the program's own making: a link of that name is replaced and never followed,
-    /// and the file is new each time, for its owner alone to read and write.
+    /// As Replace and Copy, for a file of the program's own making: a link, a pipe or a device of that name is replaced
+    /// and never followed or opened, and the file is new each time, for its owner alone to read and write. Where names
+    /// differ by letter case it is spelled as the path says, and what has another spelling of the name goes.
     virtual Error ReplaceOwn(std::string_view path, std::string_view bytes) = 0;
     virtual Error CopyOwn(std::string_view from, std::string_view to) = 0;
 
-    /// Where a write to `path` would end if links lead it out of both the user's home and the directory `tree`, as the
-    /// host says it, in code page 1252. Empty if they don't, or if there is no link on the way.
+    /// Where a write to `path`, or into it if it is a directory, would end if links lead it out of both the user's home
+    /// and the directory `tree`, as the host says it, in code page 1252. Empty if they don't, or if there is no link on
+    /// the way.
     virtual std::string LeadsAway(std::string_view path, std::string_view tree) = 0;
 
     virtual Error Delete(std::string_view path) = 0;

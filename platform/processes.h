@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,7 +16,8 @@ namespace lv {
 
 /// One argument of a batch's command that is no text of the user's: the name of a directory, a map, a server.
 struct GivenWord {
-    std::string Written;      // as it stands in the command
+    std::size_t At = 0;       // where it begins, its option included: bytes from the front of the text that holds it
+    std::string Written;      // as it stands there
     std::string Argument;     // what the program is to get
     std::string Option = {};  // what stands right before it, in both: "INI="
 };
@@ -23,7 +25,7 @@ struct GivenWord {
 /// What the writer of a batch knows of its command, and the command's text alone does not tell.
 struct BatchCommand {
     std::string Program;           // the program's file name as it stands in the command; empty: looked for there
-    std::vector<GivenWord> Given;  // in the command's order
+    std::vector<GivenWord> Given;  // in the command's order; their places are counted in the batch
 };
 
 class Processes {
@@ -35,8 +37,9 @@ class Processes {
     virtual LineReader ReaderOf(std::string_view directory, std::string_view command, std::string_view program) = 0;
 
     /// Starts the batch file `name` in `directory`, with a normal window. Where nobody reads the command, each given
-    /// word reaches the program as one argument; on Linux a given word that a reader would misread is error 75. The
-    /// error of a program that cannot be started carries a text that says what to do.
+    /// word reaches the program as one argument; on Linux a given word that a reader would misread, or that does not
+    /// stand at its place, is error 75. The error of a program that cannot be started carries a text that says what to
+    /// do.
     virtual Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) = 0;
     Error StartBatch(std::string_view directory, std::string_view name) { return StartBatch(directory, name, {}); }
 

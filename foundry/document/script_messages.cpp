@@ -14,7 +14,11 @@ Text ErrorLines(const Error& failed) {
 }
 
 std::unique_ptr<RandomAccessFile> OpenScriptFile(Run& run, TextView path) {
-    auto file = OpenBounded(run.System.Disk, path, run.GameKind == game_kind::kUnreal ? kLargestIni : kLargestScript);
+    return OpenScriptFile(run, path, run.GameKind == game_kind::kUnreal ? kLargestIni : kLargestScript);
+}
+
+std::unique_ptr<RandomAccessFile> OpenScriptFile(Run& run, TextView path, std::uint64_t most) {
+    auto file = OpenBounded(run.System.Disk, path, most);
     if (!file.Ok()) {
         AskUser(run, "Script Not Opened",
                 Join("Error opening specified script file.", NewLine, NewLine, ErrorLines(file.Fault)));

@@ -3,6 +3,8 @@
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
+#include "foundation/link_question.h"
+#include "foundation/path_fault.h"
 #include "foundation/question_box.h"
 #include "foundry/document/script_messages.h"
 #include "foundry/writing/banners.h"
@@ -99,8 +101,12 @@ bool WriteStandardAliasFiles(Fig_Frm& form, std::size_t entry) {
     const Text directory = ScriptDirectory(run);
     const Text path = Join(directory, directory.ends_with('\\') ? TextView() : TextView("\\"), kScrollFile);
     const Text script = NameScrollScript(form.Document.Name_Txt.Text, run.System.Time.Now());
+    if (!MayPutOwnFile(run, path, GameTreeOf(run, path))) {
+        return false;
+    }
     if (const Error failed = run.System.Disk.ReplaceOwn(path, script)) {
-        AskUser(run, "Error Writing to File", Join("The alias was not created.", NewLine, Blank, ErrorLines(failed)));
+        AskUser(run, "Error Writing to File",
+                Join("The alias was not created.", NewLine, Blank, ErrorLines(FaultAt(run.System.Disk, path, failed))));
         return false;
     }
     return true;

@@ -3,6 +3,9 @@
 #include <array>
 
 #include "catalogs/scripts.h"
+#include "foundation/bounded_file.h"
+#include "foundation/link_question.h"
+#include "foundation/path_fault.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundry/document/script_messages.h"
@@ -100,8 +103,12 @@ void ConvertRegistryToScript(Run& run, TextView path) {
         TellOfFailure(run, player.Fault);
         return;
     }
-    if (const Error failed = run.System.Disk.ReplaceOwn(path, HalfLifeScript(player.Value, run.System.Time.Now()))) {
-        TellOfFailure(run, failed);
+    if (!MayPutOwnFile(run, path, GameTreeOf(run, path))) {
+        return;
+    }
+    Files& disk = run.System.Disk;
+    if (const Error failed = disk.ReplaceOwn(path, HalfLifeScript(player.Value, run.System.Time.Now()))) {
+        TellOfFailure(run, FaultAt(disk, path, failed));
         return;
     }
     AddToScripts(run, "Registry Settings", path);
@@ -111,7 +118,7 @@ void ConvertRegistryToScript(Run& run, TextView path) {
 }
 
 Error ConvertScriptToRegistry(Run& run, TextView path) {
-    const auto file = OpenScriptFile(run, path);
+    const auto file = OpenScriptFile(run, path, kLargeScript);
     if (!file) {
         return {};
     }

@@ -13,8 +13,8 @@ namespace lv {
 /// user, unless told not to again. With a registry that can't be read the file stays as it is, and the user is told.
 void ConvertRegistryToScript(Run& run, TextView path);
 
-/// Writes what the script sets to the selected player's settings. A script that can't be opened changes nothing and
-/// is no error: the user was told. The errors are the registry's.
+/// Writes what the script sets to the selected player's settings. A script that can't be opened, or is a large one,
+/// changes nothing and is no error: the user was told. The errors are the registry's.
 Error ConvertScriptToRegistry(Run& run, TextView path);
 
 }  // namespace lv

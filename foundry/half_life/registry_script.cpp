@@ -95,16 +95,23 @@ struct Words {
     TextView Value2;
 };
 
-TextView WordOf(TextView line, Index index) {
-    return TrimmedView(StripQuotesView(QuotedWordView(line, index, kScriptBlanks)));
+TextView TakeWord(TextView& rest) {
+    return TrimmedView(StripQuotesView(NextQuotedWord(rest, kScriptBlanks)));
+}
+
+/// No keyword is longer.
+Text KeywordOf(TextView word) {
+    constexpr std::size_t kLongest = 16;
+    return word.size() > kLongest ? Text() : LowerCase(word);
 }
 
 Words WordsOf(TextView line) {
-    const TextView first = WordOf(line, 0);
-    if (SameText(first, "SET")) {
-        return {LowerCase(WordOf(line, 1)), WordOf(line, 2), {}};
+    Words words{KeywordOf(TakeWord(line)), TakeWord(line), {}};
+    if (words.Keyword == "set") {
+        return {KeywordOf(words.Value), TakeWord(line), {}};
     }
-    return {LowerCase(first), WordOf(line, 1), WordOf(line, 2)};
+    words.Value2 = TakeWord(line);
+    return words;
 }
 
 // A terminator ends a registry value; nothing that a player typed is longer than the longest of our own values.

@@ -1,6 +1,8 @@
 #include "foundry/reading/open_script.h"
 
+#include "foundation/bounded_file.h"
 #include "foundation/field_strings.h"
+#include "foundation/link_question.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundry/document/bindings.h"
@@ -15,9 +17,21 @@ namespace {
 
 constexpr const char* kInformation = "SetupFoundry Information";
 
+/// False if the script is large, and the user does not want to wait for it.
+bool MayTakeLong(Run& run, TextView path, std::uint64_t size) {
+    if (size <= kLargeScript) {
+        return true;
+    }
+    return AskUser(run, "A Large Script",
+                   Join("The script -->", NewLine, NewLine, TabChar, DoubleQuote, path, DoubleQuote, NewLine, NewLine,
+                        "has ", std::to_string(size >> 20U),
+                        " MB. No player writes as much, and to read it may take a minute."),
+                   "&Leave It,&Read It") == 1;
+}
+
 std::optional<ScriptReading> Read(Run& run, ScriptDocument& document, ScriptView& view, TextView path) {
     auto file = OpenScriptFile(run, path);
-    if (!file) {
+    if (!file || !MayTakeLong(run, path, file->Size())) {
         return std::nullopt;
     }
     document.ScriptLoading = true;
@@ -38,6 +52,10 @@ void BackUp(Run& run, ScriptDocument& document, TextView path) {
     const Text copy = BackupPathOf(path);
     if (SameText(copy, path)) {
         return;  // the script is itself such a copy
+    }
+    if (!PutsOwnFileInside(run, path, GameTreeOf(run, path))) {
+        document.BackupDue = path;  // a save asks about the link, and makes the copy then
+        return;
     }
     if (const Error failed = KeepBackup(run.System.Disk, path)) {
         document.BackupDue = path;

@@ -15,7 +15,8 @@ ScriptDialect DialectOfRun(const Run& run);
 
 /// Makes all tables of the document anew, and reads the file at `path` into them. A file that this program has not
 /// written before gets a copy beside it; where that fails, the document's BackupDue says so. False if the file cannot
-/// be opened; the user was told why then, and the tables are as good as new.
+/// be opened, which the user was told, or is a large one that the user does not want to wait for; the tables are as
+/// good as new then.
 bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView path);
 
 }  // namespace lv

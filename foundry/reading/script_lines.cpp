@@ -1,5 +1,6 @@
 #include "foundry/reading/script_lines.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace lv {
@@ -9,11 +10,22 @@ namespace {
 constexpr std::size_t kBlock = 65536;  // bytes
 constexpr int kMostEmptyLines = 100;   // in a row
 
+// A window at a time: a file of one kind of line end is not searched for the other kind to its end.
 std::size_t FindLineEnd(TextView bytes, std::size_t at) {
-    while (at < bytes.size() && bytes[at] != '\r' && bytes[at] != '\n') {
-        ++at;
+    constexpr std::size_t kWindow = 256;
+    for (; at < bytes.size(); at += kWindow) {
+        const TextView window = bytes.substr(at, kWindow);
+        const TextView line = window.substr(0, window.find('\n'));
+        const std::size_t end = std::min(line.find('\r'), line.size());
+        if (end < window.size()) {
+            return at + end;
+        }
     }
-    return at;
+    return bytes.size();
+}
+
+bool IsZero(TextView bytes) {
+    return !bytes.empty() && bytes.front() == '\0' && bytes.substr(1) == bytes.substr(0, bytes.size() - 1);
 }
 
 }  // namespace
@@ -43,10 +55,21 @@ bool ScriptLines::Load(std::uint64_t offset) {
     return loaded_;
 }
 
+// The block at the next line, or at the one behind what is no text.
+bool ScriptLines::LoadText() {
+    for (bool passedOver = false; Load(next_); next_ += block_.size()) {
+        if ((block_.size() < kBlock && !passedOver) || !IsZero(block_)) {
+            return true;
+        }
+        passedOver = true;
+    }
+    return false;
+}
+
 // A line that ends within the block, or within the one that begins where the line does.
 bool ScriptLines::TakeShort(std::span<char>& line) {
     for (const bool fresh : {false, true}) {
-        if ((fresh || !loaded_ || next_ - begin_ >= block_.size()) && !Load(next_)) {
+        if ((fresh || !loaded_ || next_ - begin_ >= block_.size()) && !LoadText()) {
             return false;
         }
         auto start = static_cast<std::size_t>(next_ - begin_);
@@ -79,6 +102,10 @@ bool ScriptLines::TakeLong(std::span<char>& line) {
     while (!found && end < file_.Size()) {
         if (!Load(end)) {
             return false;
+        }
+        if (end > start && block_.size() == kBlock && IsZero(block_)) {
+            loaded_ = false;
+            break;
         }
         const std::size_t at = FindLineEnd(block_, 0);
         found = at < block_.size();

@@ -16,6 +16,8 @@ namespace lv {
 constexpr TextView kScriptBlanks = " \t";
 
 /// Lines end in CR LF, CR or LF, mixed as they come. Never holds more of the file than a block of it and one line.
+/// Zero bytes that fill a whole block, as in the holes of a sparse file, are no text: they end a line, and are passed
+/// over.
 class ScriptLines {
   public:
     /// The file outlives the object.
@@ -35,6 +37,7 @@ class ScriptLines {
     bool TakeShort(std::span<char>& line);
     bool TakeLong(std::span<char>& line);
     bool Load(std::uint64_t offset);
+    bool LoadText();
 
     RandomAccessFile& file_;
     std::uint64_t next_ = 0;   // where in the file the next line begins

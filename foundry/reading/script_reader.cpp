@@ -27,8 +27,8 @@ constexpr std::array<TextView, 7> kOldMarkers = {
     "/////////////////////", "//                 //", "// Setup Foundry   //", "// Settings        //",
     "// Aliases         //", "// Bindings        //", "// Free Form       //"};
 
-TextView WordOf(TextView line, Index index) {
-    return StripQuotesView(QuotedWordView(line, index, kScriptBlanks));
+TextView TakeWord(TextView& rest) {
+    return StripQuotesView(NextQuotedWord(rest, kScriptBlanks));
 }
 
 TextView LeftOf(TextView line) {
@@ -54,10 +54,12 @@ struct AliasLine {
 };
 
 AliasLine ConsoleAlias(TextView line) {
-    if (!StartsWithText(WordOf(line, 0), kAlias)) {
+    if (!StartsWithText(line.substr(line.starts_with('"') ? 1 : 0), kAlias)) {
         return {};
     }
-    return {LowerCase(WordOf(line, 1)), LowerCase(WordOf(line, 2))};
+    TakeWord(line);
+    Text name = LowerCase(TakeWord(line));
+    return {std::move(name), LowerCase(TakeWord(line))};
 }
 
 /// The right part says both, as AddAlias takes it.
@@ -78,11 +80,13 @@ Text KeywordOf(TextView word) {
 }
 
 Parts TakeConsoleLine(TextView line) {
-    Text keyword = KeywordOf(WordOf(line, 0));
+    Text keyword = KeywordOf(TakeWord(line));
     if (keyword == "set") {
-        return {KeywordOf(WordOf(line, 1)), {.Value = TrimmedView(WordOf(line, 2))}};
+        keyword = KeywordOf(TakeWord(line));
+        return {std::move(keyword), {.Value = TrimmedView(TakeWord(line))}};
     }
-    return {std::move(keyword), {.Value = TrimmedView(WordOf(line, 1)), .Value2 = TrimmedView(WordOf(line, 2))}};
+    const TextView value = TrimmedView(TakeWord(line));
+    return {std::move(keyword), {.Value = value, .Value2 = TrimmedView(TakeWord(line))}};
 }
 
 /// Blanks belong to a value, tabs at its ends do not.
@@ -178,7 +182,9 @@ TextView SecondPass::TakeComment(TextView line) {
 void SecondPass::TakeLine(std::span<char> bytes) {
     const TextView whole(bytes.data(), bytes.size());
     const TextView statement = TakeComment(TrimmedView(whole, kScriptBlanks));
-    std::ranges::replace(bytes, kHardBlank, ' ');
+    for (std::size_t at = whole.find(kHardBlank); at != TextView::npos; at = whole.find(kHardBlank, at)) {
+        bytes[at] = ' ';
+    }
     if (sections_.IsInput()) {
         TurnTabsIntoBlanks(bytes);  // a command there has no quotes around it
     }

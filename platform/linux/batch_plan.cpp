@@ -82,17 +82,6 @@ std::size_t TakeBackslashes(std::string_view text, std::size_t at, std::string& 
     return count + 1;
 }
 
-// The first of the given words, from `next` on, that stands at the front as a word of its own; their number if none.
-std::size_t GivenAt(std::string_view text, const std::vector<GivenWord>& given, std::size_t next) {
-    for (; next < given.size(); ++next) {
-        const std::string word = given[next].Option + given[next].Written;
-        if (!word.empty() && text.starts_with(word) && (text.size() == word.size() || IsBlank(text[word.size()]))) {
-            break;
-        }
-    }
-    return next;
-}
-
 // The word at `at`, which is moved behind it.
 std::string TakeWord(std::string_view command, std::size_t& at) {
     std::string word;
@@ -113,12 +102,42 @@ std::string TakeWord(std::string_view command, std::size_t& at) {
     return word;
 }
 
+void AddWords(std::string_view text, std::vector<std::string>& words) {
+    for (std::size_t at = 0; (at = text.find_first_not_of(" \t", at)) < text.size();) {
+        words.push_back(TakeWord(text, at));
+    }
+}
+
+// A stretch of the batch, and where in the command it went.
+struct Piece {
+    std::size_t InBatch = 0;
+    std::size_t InCommand = 0;
+    std::string_view Text;
+};
+
+// The given words that stand in the piece, from the one at `next`, which is moved behind them.
+void AddGiven(const Piece& piece, const std::vector<GivenWord>& given, std::size_t& next, BatchPlan& plan) {
+    for (std::size_t least = piece.InBatch; next < given.size(); ++next) {
+        GivenWord word = given[next];
+        const std::string whole = word.Option + word.Written;
+        const bool within = !whole.empty() && word.At >= least && word.At < piece.InBatch + piece.Text.size();
+        if (!within || !piece.Text.substr(word.At - piece.InBatch).starts_with(whole)) {
+            return;
+        }
+        least = word.At + whole.size();
+        word.At += piece.InCommand - piece.InBatch;
+        plan.given.push_back(std::move(word));
+    }
+}
+
 }  // namespace
 
 std::vector<BatchLine> ReadBatchLines(std::string_view text) {
     std::vector<BatchLine> lines;
     bool inCommand = false;
+    const std::size_t whole = text.size();
     while (!text.empty()) {
+        const std::size_t at = whole - text.size();
         const std::size_t end = std::min(text.find('\n'), text.size());
         std::string_view line = text.substr(0, end);
         text.remove_prefix(std::min(end + 1, text.size()));
@@ -127,13 +146,14 @@ std::vector<BatchLine> ReadBatchLines(std::string_view text) {
         }
         const BatchLineKind kind = inCommand ? BatchLineKind::kCommand : KindOf(line);
         inCommand = kind == BatchLineKind::kCommand || kind == BatchLineKind::kDirectory;
-        lines.push_back({kind, std::string(line)});
+        lines.push_back({kind, std::string(line), at});
     }
     return lines;
 }
 
-BatchPlan ParseBatch(std::string_view text) {
+BatchPlan ParseBatch(std::string_view text, const std::vector<GivenWord>& given) {
     BatchPlan plan;
+    std::size_t next = 0;
     for (const BatchLine& line : ReadBatchLines(text)) {
         const std::string_view whole = line.Text;
         if (line.Kind == BatchLineKind::kSet) {
@@ -147,7 +167,11 @@ BatchPlan ParseBatch(std::string_view text) {
         } else if (line.Kind == BatchLineKind::kDirectory) {
             plan.directory = WithoutQuotes(Trim(Behind(whole, "CD")));
         } else if (line.Kind == BatchLineKind::kCommand && !Trim(whole).empty()) {
-            plan.command += (plan.command.empty() ? "" : " ") + std::string(Trim(whole));
+            const std::string_view trimmed = Trim(whole);
+            plan.command += plan.command.empty() ? "" : " ";
+            const auto ahead = static_cast<std::size_t>(trimmed.data() - whole.data());
+            AddGiven({line.At + ahead, plan.command.size(), trimmed}, given, next, plan);
+            plan.command += trimmed;
         }
     }
     return plan;
@@ -156,22 +180,13 @@ BatchPlan ParseBatch(std::string_view text) {
 std::vector<std::string> SplitArguments(std::string_view command, const std::vector<GivenWord>& given) {
     std::vector<std::string> words;
     std::size_t at = 0;
-    std::size_t next = 0;
-    while (true) {
-        at = std::min(command.find_first_not_of(" \t", at), command.size());
-        if (at == command.size()) {
-            return words;
-        }
-        const std::size_t found = GivenAt(command.substr(at), given, next);
-        if (found < given.size()) {
-            const GivenWord& word = given[found];
-            words.push_back(word.Option + word.Argument);
-            at += word.Option.size() + word.Written.size();
-            next = found + 1;
-        } else {
-            words.push_back(TakeWord(command, at));
-        }
+    for (const GivenWord& word : given) {
+        AddWords(command.substr(at, word.At - at), words);
+        words.push_back(word.Option + word.Argument);
+        at = word.At + word.Option.size() + word.Written.size();
     }
+    AddWords(command.substr(at), words);
+    return words;
 }
 
 }  // namespace lv

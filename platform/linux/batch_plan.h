@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -25,7 +26,8 @@ enum class BatchLineKind {
 
 struct BatchLine {
     BatchLineKind Kind = BatchLineKind::kNothing;
-    std::string Text;  // as it stands, without its line end
+    std::string Text;    // as it stands, without its line end
+    std::size_t At = 0;  // where it begins in the batch
 };
 
 struct BatchPlan {
@@ -36,17 +38,20 @@ struct BatchPlan {
     std::string directory;  // without quotes, or empty
     /// All command lines joined with one blank each, so that what a line break has cut off still reaches the game.
     std::string command;
+    std::vector<GivenWord> given;  // in their order; their places are counted in `command`
 };
 
 /// The batch's lines, each with its part; line ends are CR LF or LF.
 std::vector<BatchLine> ReadBatchLines(std::string_view text);
 
-BatchPlan ParseBatch(std::string_view text);
+/// Given words that are not found at their places in the batch, one behind the other within a line of the command,
+/// are left out of the plan.
+BatchPlan ParseBatch(std::string_view text, const std::vector<GivenWord>& given = {});
 
 /// A command line's words by the rules of the Microsoft C runtime: blanks and tabs part, double quotes group,
 /// backslashes are themselves but ahead of a double quote, where each two give one and an odd one makes the quote
-/// literal; two double quotes inside a group are one literal quote. A given word that stands where a word may begin is
-/// one argument whatever it holds; each is taken once, in their order.
+/// literal; two double quotes inside a group are one literal quote. Each given word is one argument whatever it holds,
+/// and whatever stands ahead of it; they stand in `command`, one behind the other.
 std::vector<std::string> SplitArguments(std::string_view command, const std::vector<GivenWord>& given = {});
 
 }  // namespace lv

@@ -6,7 +6,14 @@ namespace lv {
 
 std::vector<std::string> HostArguments(const GameStart& start) {
     std::vector<std::string> arguments;
-    for (const std::string& argument : SplitArguments(start.Game.Program.Arguments, start.Given)) {
+    const std::string& text = start.Game.Program.Arguments;  // the end of the command
+    const std::size_t ahead = start.Plan.command.size() - text.size();
+    std::vector<GivenWord> given = start.Plan.given;
+    std::erase_if(given, [ahead](const GivenWord& word) { return word.At < ahead; });  // in the program's own name
+    for (GivenWord& word : given) {
+        word.At -= ahead;
+    }
+    for (const std::string& argument : SplitArguments(text, given)) {
         arguments.push_back(ToUtf8(argument));
     }
     return arguments;
@@ -42,8 +49,8 @@ Error MisreadWord(std::string_view word, LineReader reader) {
         std::string(name) + " would not read this as one word of text, and nothing was started: " + std::string(word)};
 }
 
-Error CheckGiven(const GameStart& start, LineReader reader) {
-    for (const GivenWord& word : start.Given) {
+Error CheckGiven(const std::vector<GivenWord>& given, LineReader reader) {
+    for (const GivenWord& word : given) {
         if (!ReadsAsOneWord(word.Written, reader)) {
             return MisreadWord(word.Written, reader);
         }

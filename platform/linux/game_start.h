@@ -29,7 +29,6 @@ struct GameStart {
     BatchPlan Plan;
     std::string Directory;  // that the game runs in, on the drives, with its drive
     FoundGame Game;
-    std::vector<GivenWord> Given;
     std::vector<std::string> Environment;  // this program's own
     HostPlaces Places;
 };
@@ -42,8 +41,8 @@ std::vector<std::string> BatchEnvironment(const GameStart& start);
 /// waits for a key. Errors: 53 without that program or a terminal.
 Result<HostCommand> AfterShowing(HostCommand command, const GameStart& start);
 
-/// Error 75 if the reader would take a given word of the batch for more than that word; the text names it.
-Error CheckGiven(const GameStart& start, LineReader reader);
+/// Error 75 if the reader would take one of the words for more than that word; the text names it.
+Error CheckGiven(const std::vector<GivenWord>& given, LineReader reader);
 
 /// Of such an argument.
 Error MisreadWord(std::string_view word, LineReader reader);

@@ -117,6 +117,18 @@ std::string HostPathBelow(const std::string& root, const std::vector<std::string
     return path;
 }
 
+std::vector<std::string> OtherSpellings(const std::string& directory, std::string_view name) {
+    std::vector<std::string> others;
+    const DirectoryStream open(opendir(directory.c_str()));
+    while (const dirent* entry = open ? readdir(open.get()) : nullptr) {
+        const auto found = NameFromHost(entry->d_name);
+        if (found && *found != name && SameText(*found, name)) {
+            others.push_back(Below(directory, entry->d_name));
+        }
+    }
+    return others;
+}
+
 std::vector<std::string> PartsAsFound(const std::string& root, const std::vector<std::string>& parts) {
     std::vector<std::string> found;
     for (const std::string& name : HostNames(root, parts)) {

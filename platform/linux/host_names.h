@@ -34,6 +34,9 @@ std::string PutTogether(const DrivePath& path);
 /// it is spelled.
 std::string HostPathBelow(const std::string& root, const std::vector<std::string>& parts);
 
+/// The entries of the host directory that are called `name` in another spelling than this, as whole paths.
+std::vector<std::string> OtherSpellings(const std::string& directory, std::string_view name);
+
 /// The parts as the host spells them, for showing.
 std::vector<std::string> PartsAsFound(const std::string& root, const std::vector<std::string>& parts);
 

@@ -19,17 +19,33 @@ namespace {
 
 namespace fs = std::filesystem;
 
+bool IsDirectoryAt(const std::string& hostPath) {
+    struct stat info {};
+    return stat(hostPath.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+bool IsZero(std::string_view bytes) {
+    return bytes.empty() || (bytes.front() == '\0' && bytes.substr(1) == bytes.substr(0, bytes.size() - 1));
+}
+
+// A file of holes takes no more of the disk, and hardly more time, than its bytes do.
 int CopyAll(int from, int to) {
     std::array<char, 65536> buffer{};
     for (std::uint64_t most = kLargestWholeFile; most >= buffer.size(); most -= buffer.size()) {
         const ssize_t got = read(from, buffer.data(), buffer.size());
         if (got == 0) {
-            return 0;
+            const off_t end = lseek(to, 0, SEEK_CUR);
+            return end >= 0 && ftruncate(to, end) == 0 ? 0 : errno;
         }
         if (got < 0 && errno != EINTR) {
             return errno;
         }
-        if (const int failed = WriteAll(to, {buffer.data(), got < 0 ? 0 : static_cast<std::size_t>(got)})) {
+        const std::string_view bytes(buffer.data(), got < 0 ? 0 : static_cast<std::size_t>(got));
+        if (bytes.size() == buffer.size() && IsZero(bytes)) {
+            if (lseek(to, got, SEEK_CUR) < 0) {
+                return errno;
+            }
+        } else if (const int failed = WriteAll(to, bytes)) {
             return failed;
         }
     }
@@ -59,10 +75,15 @@ Error LinuxFiles::PutFile(std::string_view path, Whose whose, unsigned mode, con
     if (!place) {
         return MakeError(error::kPathNotFound);
     }
-    if (EndsInSeparator(path)) {
+    if (EndsInSeparator(path) || place->Path.Parts.empty()) {
         return MakeError(error::kPathFileAccess);
     }
-    return whose == Whose::kOurs ? ReplaceOwnHostFile(place->Host, fill) : ReplaceHostFile(place->Host, mode, fill);
+    if (whose == Whose::kUsers) {
+        return ReplaceHostFile(place->Host, mode, fill);
+    }
+    const std::string& name = place->Path.Parts.back();
+    const std::string directory = place->Host.substr(0, place->Host.rfind('/'));
+    return ReplaceOwnHostFile(directory + "/" + ToUtf8(name), OtherSpellings(directory, name), fill);
 }
 
 Error LinuxFiles::CopyFile(std::string_view from, std::string_view to, Whose whose) const {
@@ -98,8 +119,8 @@ std::string LinuxFiles::LeadsAway(std::string_view path, std::string_view tree) 
         return real != real.root_path() && PartsBelow(real, target);
     };
     // What the user has linked in the home is a file of the same kind; an archive's link to ".bashrc" is none.
-    const bool sameKind =
-        LowerCase(target.extension().string()) == LowerCase(fs::path(place->Host).extension().string());
+    const bool sameKind = IsDirectoryAt(target.string()) || LowerCase(target.extension().string()) ==
+                                                                LowerCase(fs::path(place->Host).extension().string());
     const auto tree_ = Find(tree);
     const bool stays =
         target == ToHost(path) || (sameKind && liesIn(HomeDirectory())) || (tree_ && liesIn(tree_->Host));

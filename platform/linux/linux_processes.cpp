@@ -88,10 +88,14 @@ HostPlaces LinuxProcesses::Places() const {
     return places;
 }
 
-Result<HostCommand> LinuxProcesses::ByRoad(const GameStart& start) {
+Result<HostCommand> LinuxProcesses::ByRoad(const GameStart& start, const std::vector<GivenWord>& given) {
     const ProgramKind kind = KindOfProgramAt(disk_, start.Game.Program.Path);
-    if (const Error fault = CheckGiven(start, ReaderFor(kind))) {
+    if (const Error fault = CheckGiven(given, ReaderFor(kind))) {
         return fault;
+    }
+    if (start.Plan.given.size() != given.size()) {
+        return Error{error::kPathFileAccess,
+                     "The batch is not as it was written, and nothing was started: " + start.BatchPath};
     }
     switch (kind) {
         case ProgramKind::kNative:
@@ -111,7 +115,6 @@ Result<HostCommand> LinuxProcesses::ByRoad(const GameStart& start) {
 Result<HostCommand> LinuxProcesses::PlanBatch(std::string_view directory, std::string_view name,
                                               const BatchCommand& known) {
     GameStart start;
-    start.Given = known.Given;
     start.Places = Places();
     start.Environment = OwnEnvironment();
     start.BatchPath = JoinPath(JoinPath(disk_.CurrentDirectory(), directory), name);
@@ -120,7 +123,7 @@ Result<HostCommand> LinuxProcesses::PlanBatch(std::string_view directory, std::s
         return MakeError(text.Fault.Number, start.BatchPath);
     }
     start.BatchText = std::move(text.Value);
-    start.Plan = ParseBatch(start.BatchText);
+    start.Plan = ParseBatch(start.BatchText, known.Given);
     if (start.Plan.command.empty()) {
         return Error{error::kInvalidCall, "There is no command in " + start.BatchPath};
     }
@@ -136,7 +139,7 @@ Result<HostCommand> LinuxProcesses::PlanBatch(std::string_view directory, std::s
         return game.Fault;
     }
     start.Game = std::move(game.Value);
-    return ByRoad(start);
+    return ByRoad(start, known.Given);
 }
 
 Result<HostCommand> LinuxProcesses::PlanProgram(std::string_view program, const std::vector<std::string>& arguments) {

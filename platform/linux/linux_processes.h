@@ -34,7 +34,7 @@ class LinuxProcesses : public Processes {
 
   private:
     [[nodiscard]] HostPlaces Places() const;
-    Result<HostCommand> ByRoad(const GameStart& start);
+    Result<HostCommand> ByRoad(const GameStart& start, const std::vector<GivenWord>& given);
 
     Files& disk_;
     HostPlaces places_;

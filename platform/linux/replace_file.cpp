@@ -45,6 +45,11 @@ bool MayBeReplaced(const std::string& path, const struct stat& old) {
     return S_ISREG(old.st_mode) && faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
+// For a file of the program's own.
+bool MayBeRemoved(const std::string& path, const struct stat& old) {
+    return !S_ISDIR(old.st_mode) && (!S_ISREG(old.st_mode) || MayBeReplaced(path, old));
+}
+
 // The new file at exactly this name, with the old one's owner and mode if there is one to take after.
 Error Put(const std::string& target, unsigned mode, const struct stat* old, const FileFiller& fill) {
     const std::string directory = DirectoryOf(target);
@@ -93,10 +98,28 @@ Error ReplaceHostFile(const std::string& hostPath, unsigned mode, const FileFill
     return Put(*target, exists ? mode & old.st_mode : mode, exists ? &old : nullptr, fill);
 }
 
+Error ReplaceOwnHostFile(const std::string& hostPath, const std::vector<std::string>& others, const FileFiller& fill) {
+    for (const std::string& other : others) {
+        struct stat old {};
+        if (lstat(other.c_str(), &old) == 0 && !MayBeRemoved(other, old)) {
+            return MakeError(error::kPathFileAccess);
+        }
+    }
+    if (Error failed = ReplaceOwnHostFile(hostPath, fill)) {
+        return failed;
+    }
+    for (const std::string& other : others) {
+        if (unlink(other.c_str()) != 0 && errno != ENOENT) {
+            return ErrorOf(errno);
+        }
+    }
+    return {};
+}
+
 Error ReplaceOwnHostFile(const std::string& hostPath, const FileFiller& fill) {
     struct stat old {};
     const bool exists = lstat(hostPath.c_str(), &old) == 0;
-    if (exists && !S_ISLNK(old.st_mode) && !MayBeReplaced(hostPath, old)) {
+    if (exists && !MayBeRemoved(hostPath, old)) {
         return MakeError(error::kPathFileAccess);
     }
     return Put(hostPath, 0600, nullptr, fill);

@@ -7,6 +7,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/error.h"
 
@@ -23,9 +24,13 @@ using FileFiller = std::function<int(int descriptor)>;
 /// full, 57 device.
 Error ReplaceHostFile(const std::string& hostPath, unsigned mode, const FileFiller& fill);
 
-/// The same for a file of the program's own making: a link of that name is replaced and never followed, and whatever
-/// was there, the new file has the mode 0600.
+/// The same for a file of the program's own making: a link, a pipe or a device of that name is replaced and never
+/// followed or opened, and whatever was there, the new file has the mode 0600.
 Error ReplaceOwnHostFile(const std::string& hostPath, const FileFiller& fill);
+
+/// And then removes the `others`, which are files that would be taken for this one. Error 75 ahead of any change if one
+/// of them may not be removed: a directory, or a file without permission to write.
+Error ReplaceOwnHostFile(const std::string& hostPath, const std::vector<std::string>& others, const FileFiller& fill);
 
 /// Writes all of it; an `errno`, or 0.
 int WriteAll(int descriptor, std::string_view bytes);

@@ -203,9 +203,13 @@ Error MemoryFiles::Replace(std::string_view path, std::string_view bytes) {
 Error MemoryFiles::ReplaceOwn(std::string_view path, std::string_view bytes) {
     const std::string key = KeyOfLink(path);
     links_.erase(key);
+    if (!Refused.contains(key) && nodes_.contains(key) && nodes_[key].IsDevice) {
+        nodes_.erase(key);
+    }
     if (Error failed = Put(key, path, bytes)) {
         return failed;
     }
+    nodes_[key].Name = path;
     Private.insert(key);
     return {};
 }
@@ -251,7 +255,7 @@ std::string MemoryFiles::LeadsAway(std::string_view path, std::string_view tree)
     const std::string target = Key(path);
     std::string plain(path);
     if (plain.size() < 2 || plain[1] != ':') {
-        plain = current_ + "\\" + plain;
+        plain = plain.starts_with('\\') ? current_.substr(0, 2) + plain : current_ + "\\" + plain;
     }
     const auto within = [&target](const std::string& directory) {
         return directory.size() > 2 && target.starts_with(directory + "\\");

@@ -83,6 +83,12 @@ struct StrangersYard {
             click(launcher);
         }
     }
+    /// A name with a "+" is asked about, and started all the same.
+    void ExpectQuestionAbout(const std::string& name) {
+        if (name.find('+') != std::string::npos) {
+            user.Expect({"A Command In A Name", "\"" + name + "\" comes from", 1});
+        }
+    }
     void PickModification(TextView name) { Pick(&LV_Frm::Game_Cbo, &LV_Frm::Game_Chk, name, Game_Cbo_Click); }
 
     /// All files below the drive and beside it that a command of the names above would have made.
@@ -143,13 +149,14 @@ TEST(CommandsOnTheWineRoad, NoMapScriptOrServerOfUnrealIsOne) {
 
 TEST(CommandsOnTheWineRoad, NoModificationIsOne) {
     for (const std::string name :
-         {"m&echo mod>modpwn.txt&", "%windir%", "m|n^o", "x +connect evil.example", "a\" +b \""}) {
+         {"m&echo mod>modpwn.txt&", "%windir%", "m|n^o", "x +connect evil.example", "a\" +b \"", "512 -game"}) {
         StrangersYard yard("commands_wine_mod");
         yard.AddGame("show_windows.exe", "Quake/GLQUAKE.EXE");
         fs::create_directories(yard.C / "Quake/id1");
         yard.Unpack({name + "/maps/x.bsp"}, "Quake");
         yard.Load("C:\\Quake\\GLQUAKE.EXE");
         yard.PickModification("-game " + name);
+        yard.ExpectQuestionAbout(name);
         DoIt_Cmd_Click(yard.launcher, 0);
         EXPECT_THAT(ArgumentsIn(yard.C / "Quake/output.txt"), ElementsAre("-zone", "512", "-game", name));
         EXPECT_EQ(ReadBytes(yard.C / "Quake/lv_666.bat"), "C:\r\ncd c:\\quake\r\nGLQUAKE.EXE -zone 512 -game " + name);
@@ -165,6 +172,7 @@ TEST(CommandsOnTheWineRoad, AHalfLifeServerAndItsPasswordAreOneArgumentEach) {
     Save(yard.run, kOptions, "NetServers", "Bad;10.0.0.1 +exec evil;27015;9;a&echo pwned>pwned2.txt& b");
     yard.Load("C:\\HL\\hl.exe");
     yard.Pick(&LV_Frm::Server_Cbo, &LV_Frm::Server_Chk, "b", nullptr);
+    yard.ExpectQuestionAbout("10.0.0.1 +exec evil:27015");
     DoIt_Cmd_Click(yard.launcher, 0);
     EXPECT_THAT(ArgumentsIn(yard.C / "HL/output.txt"),
                 ElementsAre("-console", "-zone", "512", "+password", "a&echo pwned>pwned2.txt& b", "connect",
@@ -206,7 +214,7 @@ TEST(CommandsOnTheWineRoad, ABatchOfTheUsersOwnGetsNoNameThatItWouldMisread) {
 
 TEST(CommandsOnTheNativeRoad, NoModificationOrServerIsMoreThanOneArgument) {
     for (const std::string name :
-         {"x +connect evil.example", "m&touch modpwn.txt&", "$(touch modpwn.txt)", "a\" +b \""}) {
+         {"x +connect evil.example", "m&touch modpwn.txt&", "$(touch modpwn.txt)", "a\" +b \"", "512 +set game"}) {
         StrangersYard yard("commands_native");
         yard.AddGame("show_native", "HL/hl.exe");
         fs::create_directories(yard.C / "HL/valve");
@@ -215,6 +223,7 @@ TEST(CommandsOnTheNativeRoad, NoModificationOrServerIsMoreThanOneArgument) {
         yard.Load("C:\\HL\\hl.exe");
         yard.PickModification("-game " + name);
         yard.Pick(&LV_Frm::Server_Cbo, &LV_Frm::Server_Chk, "27015;9;", nullptr);
+        yard.ExpectQuestionAbout(name.find('+') != std::string::npos ? name : "10.0.0.1 +exec evil:27015");
         DoIt_Cmd_Click(yard.launcher, 0);
         EXPECT_THAT(ArgumentsIn(yard.C / "HL/output.txt"), ElementsAre("-console", "-zone", "512", "+set", "game", name,
                                                                        "+connect", "10.0.0.1 +exec evil:27015"));

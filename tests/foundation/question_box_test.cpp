@@ -92,6 +92,10 @@ constexpr QuietCase kQuietCases[] = {
     {"&Screw That - Save This Anyway,&Cancel and I'll Try That", 1},
     {"&Of Course I Am a GLQuake GOD,&I'm smart enough to admit I don't know what I am doing", 1},
     {"&I Know All,&I'm smart enough to admit I don't know what I am doing", 1},
+    {"&Leave It Alone,&Change That File", 0},
+    {"&Leave It Alone,&Write There", 0},
+    {"&Leave It,&Read It", 0},
+    {"&Don't Start,&Start It", 0},
     {"&A,&B,&C", -1},
 };
 

@@ -511,5 +511,26 @@ TEST_F(Configure, ReplacesLinksByItsOwnFilesAndFollowsNone) {
     EXPECT_EQ(system.Disk.Private.count("c:\\quake\\qsl1_666.bat"), 1u);
 }
 
+TEST_F(Configure, AsksAboutADataDirectoryThatIsALinkOutOfItsGame) {
+    system.Disk.AddDirectory("C:\\SRV");
+    system.Disk.AddLink("C:\\HEXEN2\\DATA1", "C:\\SRV");
+    const auto run = [this] { Run([](GameSpyConfig_Frm& form) { Use(form, {2}); }); };
+    user.Expect({"Link To Another Place", "\"C:\\HEXEN2\\DATA1\"", 0});
+    run();
+    EXPECT_FALSE(system.Disk.FileExists("C:\\HEXEN2\\QSL3_666.bat"));
+    user.Expect({"Link To Another Place", "\"c:\\srv\"", 1});
+    run();
+    EXPECT_TRUE(system.Disk.FileExists("C:\\HEXEN2\\QSL3_666.bat"));
+}
+
+TEST_F(Configure, NamesTheScriptThatMayNotBeWritten) {
+    system.Disk.Refused["c:\\quake\\id1\\lvgs_666.qs"] = MakeError(error::kPathFileAccess);
+    user.Expect({"Lorvane 3D", "Error String = Path/File access error: C:\\QUAKE\\ID1\\lvgs_666.qs\r\n"});
+    Run([](GameSpyConfig_Frm& form) {
+        Use(form, {0});
+        form.ScriptSpy_Cbo[0].ListIndex = 0;
+    });
+}
+
 }  // namespace
 }  // namespace lv

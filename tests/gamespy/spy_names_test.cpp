@@ -26,11 +26,10 @@ TEST_F(SpyNamesTest, AreThoseOfTheSlotsInUseAsTheirBatchesSayThem) {
     form.UnRealInstalled_Chk.Value = 1;
     std::vector<Text> shown;
     for (const LaunchName& name : SpyNames(form)) {
-        shown.push_back(
-            Join(name.Option, name.Written, name.InCommand ? "|command" : "", name.InScript ? "|script" : ""));
+        shown.push_back(Join(name.Written, name.InCommand ? "|command" : "", name.InScript ? "|script" : ""));
     }
     EXPECT_THAT(shown, ElementsAre("\"C:\\QUAKE\"", "quake.exe|command", "my own.cfg|script", "\"C:\\My Unreal\"",
-                                   "unreal.exe|command", "INI=a.ini|command"));
+                                   "unreal.exe|command", "a.ini|command"));
 }
 
 }  // namespace

@@ -175,5 +175,84 @@ TEST(LaunchFileNames, AreFixed) {
     EXPECT_EQ(kLaunchPifFile, "lv_666.pif");
 }
 
+/// Each word that is no text of the user's, as it stands at its place in the batch, and what the game gets.
+std::vector<Text> GivenOf(const LaunchInput& input) {
+    LaunchTexts texts = input.Compose();
+    AddCommandLineAdditions(input.Selected, texts);
+    AddScriptExec(texts);
+    const Text batch =
+        BatchText("SET A=1\r\n", true, ExeDriveOf(input.Selected), input.Game.DefaultGameDirectory, texts, input.Game);
+    std::vector<Text> given;
+    for (const GivenWord& word : CommandOfBatch(batch, input.Selected, texts, input.Game).Given) {
+        const Text whole = word.Option + word.Written;
+        EXPECT_EQ(batch.substr(word.At, whole.size()), whole);
+        EXPECT_TRUE(batch[word.At - 1] == ' ' && word.At + whole.size() <= batch.size()) << whole;
+        given.push_back(batch.substr(word.At, whole.size()) + "|" + word.Option + word.Argument);
+    }
+    return given;
+}
+
+LaunchInput WithNames(LaunchInput input) {
+    input.Selected.Game_Chk = input.Selected.Map_Chk = input.Selected.Script_Chk = true;
+    input.Selected.Server_Chk = input.Selected.CommandLineAdditions_Chk = true;
+    input.Selected.Game = "-game 512 -GAME";
+    input.Selected.Map = "START HERE";
+    input.Selected.Server = "10.0.0.1;27500;0;\"my secret\"";
+    input.Selected.CommandLineAdditions_Txt = "-own addition";
+    return input;
+}
+
+using Strings = std::vector<Text>;
+
+TEST(CommandOfBatch, SaysWhereAModificationStandsThatReadsLikeWhatIsAheadOfIt) {
+    const LaunchInput input = WithNames(QuakeLaunch());
+    EXPECT_EQ(GivenOf(input), (Strings{"512 -game|512 -game"}));
+    LaunchTexts texts = input.Compose();
+    const Text batch = BatchText("", false, "C:", "C:\\QUAKE", texts, input.Game);
+    EXPECT_EQ(batch, "C:\r\ncd C:\\QUAKE\r\nGLQUAKE.EXE -zone 512 -game 512 -game");
+    EXPECT_EQ(CommandOfBatch(batch, input.Selected, texts, input.Game).Given.at(0).At, batch.size() - 9);
+    EXPECT_EQ(CommandOfBatch(batch, input.Selected, texts, input.Game).Program, "GLQUAKE.EXE");
+}
+
+TEST(CommandOfBatch, KnowsItBehindTheNetworkWrapper) {
+    EXPECT_EQ(GivenOf(WithNames(QuakeLaunch("QUAKE.EXE"))), (Strings{"512 -game|512 -game"}));
+}
+
+TEST(CommandOfBatch, KnowsAModificationAsAVariableToo) {
+    EXPECT_EQ(GivenOf(WithNames(Quake2Launch())), (Strings{"512 -game|512 -game"}));
+}
+
+TEST(CommandOfBatch, KnowsServerMapAndIniOfUnrealBehindWhatIsPutAheadOfThem) {
+    LaunchInput input = WithNames(UnrealLaunch());
+    input.Selected.Script = "C:\\Unreal\\System\\my own.ini";
+    EXPECT_EQ(GivenOf(input), (Strings{"10.0.0.1:27500|10.0.0.1:27500", "start here.unr|start here.unr",
+                                       "INI=\"my own.ini\"|INI=my own.ini"}));
+}
+
+TEST(CommandOfBatch, KnowsPasswordAndServerOfHalfLife) {
+    EXPECT_EQ(GivenOf(WithNames(HalfLifeLaunch())),
+              (Strings{"512 -game|512 -game", "\"my secret\"|my secret", "10.0.0.1:27500|10.0.0.1:27500"}));
+    LaunchInput input = WithNames(HalfLifeLaunch());
+    input.Selected.Server_Chk = false;
+    input.Selected.QSpy_Chk = true;
+    input.Hooks.GameSpyFetch = [] { return std::optional<Text>("10.0.0.2:27015"); };
+    EXPECT_EQ(GivenOf(input), (Strings{"512 -game|512 -game", "10.0.0.2:27015|10.0.0.2:27015"}));
+}
+
+TEST(CommandOfBatch, KnowsNoWordWhereAServerHasNoName) {
+    for (LaunchInput input : {HalfLifeLaunch(), UnrealLaunch()}) {
+        input.Selected.Server_Chk = true;
+        input.Selected.Server = ";;0;";
+        EXPECT_EQ(GivenOf(input), Strings());
+    }
+}
+
+TEST(CommandOfBatch, LeavesAnOptionThatTheUserHasTypedToTheUser) {
+    LaunchInput input = QuakeLaunch();
+    input.Selected.Game_Chk = true;
+    input.Selected.Game = "-hipnotic -game x";
+    EXPECT_EQ(GivenOf(input), Strings());
+}
+
 }  // namespace
 }  // namespace lv

@@ -388,11 +388,112 @@ TEST_F(LaunchFlow, WhereNobodyReadsTheCommandTheBatchIsWrittenAndTheNameHandedOv
     PickExe("C:\\QUAKE\\GLQUAKE.EXE");
     window.Game_Cbo.ListIndex = static_cast<int>(window.Game_Cbo.Items.size()) - 1;
     window.Game_Chk.Value = 1;
+    const std::size_t writes = system.Disk.Log.size();
+    const auto expectQuestion = [this](int answer) {
+        user.Expect({"A Command In A Name",
+                     "The modification \"x +connect evil.example\" comes from the directories of the game.\r\n"
+                     "Many games carry out what stands behind a \"+\" as a command of their own.\r\n\r\n"
+                     "Start it only if that may happen.",
+                     answer, false, true, "&Don't Start,&Start It"});
+    };
+    expectQuestion(0);
     DoIt_Cmd_Click(launcher, 0);
-    EXPECT_TRUE(system.Disk.Bytes(kBatch).ends_with("GLQUAKE.EXE -zone 512 -game x +connect evil.example"));
+    EXPECT_EQ(system.Disk.Log.size(), writes);
+    EXPECT_TRUE(system.Programs.Started.empty());
+    expectQuestion(1);
+    DoIt_Cmd_Click(launcher, 0);
+    const Text batch = system.Disk.Bytes(kBatch);
+    EXPECT_TRUE(batch.ends_with("GLQUAKE.EXE -zone 512 -game x +connect evil.example"));
     EXPECT_EQ(system.Programs.Known.Program, "GLQUAKE.EXE");
     ASSERT_EQ(system.Programs.Known.Given.size(), 1u);
     EXPECT_EQ(system.Programs.Known.Given[0].Written, "x +connect evil.example");
+    EXPECT_EQ(system.Programs.Known.Given[0].At, batch.size() - 23);
+}
+
+TEST_F(LaunchFlow, ADirectoryThatDosBoxCannotMountIsToldBeforeAnythingIsWritten) {
+    AddGames();
+    system.Disk.AddFile("C:\\A\"B\\GLQUAKE.EXE");
+    system.Disk.AddDirectory("C:\\A\"B\\ID1");
+    Save(run, kOptions, "Executables", "Quake;C:\\A\"B\\GLQUAKE.EXE");
+    Load();
+    PickExe("C:\\A\"B\\GLQUAKE.EXE");
+    system.Programs.Reader = LineReader::kDosShell;
+    const std::size_t writes = system.Disk.Log.size();
+    for (const int mode : {0, 1, 2}) {
+        user.Expect({"Lorvane 3D",
+                     "The game directory \"c:\\a\"b\" comes from the path of the executable.\r\n"
+                     "DOS's shell would not read it as one word of text."});
+        DoIt_Cmd_Click(launcher, mode);
+    }
+    EXPECT_EQ(system.Disk.Log.size(), writes);
+}
+
+TEST_F(LaunchFlow, ADirectoryAtTheNameOfALaunchFileIsToldWithItsPath) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::Script_Chk, 1);
+    system.Disk.AddDirectory("C:\\QUAKE\\LV_666.BAT");
+    user.Expect({"Lorvane 3D",
+                 "Error Number = 75\r\nError Code = EC00230\r\nError String = Path/File access error: "
+                 "c:\\quake\\lv_666.bat is a directory. Rename it, or remove it.\r\n"});
+    DoIt_Cmd_Click(launcher, 0);
+    (void)system.Disk.Delete(kScript);
+    system.Disk.AddDirectory(kScript);
+    user.Expect({"Lorvane 3D",
+                 "Error Number = 75\r\nError Code = EC00205\r\nError String = Path/File access error: "
+                 "c:\\quake\\ID1\\lv_666.qs is a directory. Rename it, or remove it.\r\n"});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+TEST_F(LaunchFlow, AScriptThatMayNotBeWrittenIsToldWithItsPath) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::Script_Chk, 1);
+    for (const int number : {70, 75}) {
+        system.Disk.Refused["c:\\quake\\id1\\lv_666.qs"] = MakeError(number);
+        user.Expect({"Lorvane 3D", Join(MakeError(number).Text, ": c:\\quake\\ID1\\lv_666.qs\r\n")});
+        DoIt_Cmd_Click(launcher, 0);
+    }
+}
+
+TEST_F(LaunchFlow, PipesAtTheNamesOfTheLaunchFilesAreReplaced) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::Script_Chk, 1);
+    for (const char* const file : {kBatch, kScript, kPif}) {
+        system.Disk.AddDevice(file);
+    }
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Disk.Bytes(kScript), "exec my.cfg\r\n");
+    EXPECT_EQ(system.Disk.Bytes(kPif), "the pif of most");
+    EXPECT_EQ(system.Programs.Started.size(), 1u);
+}
+
+TEST_F(LaunchFlow, ADataDirectoryThatIsALinkOutOfTheGameIsAskedAboutOnce) {
+    AddGames();
+    system.Disk.AddFile("C:\\SRV\\ID1\\their.cfg");
+    system.Disk.AddFile("C:\\SRV\\ID1\\lv_666.qs", "theirs");
+    system.Disk.AddLink("C:\\QUAKE\\ID1", "C:\\SRV\\ID1");
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    DoIt_Cmd_Click(launcher, 2);  // without a script nothing there is touched
+    EXPECT_EQ(system.Disk.Bytes("C:\\SRV\\ID1\\lv_666.qs"), "theirs");
+    Click(&LV_Frm::Script_Chk, 1);
+    ASSERT_TRUE(window.Script_Cbo.HasSelection());
+    const auto expectQuestion = [this](int answer) {
+        user.Expect({"Link To Another Place",
+                     "The directory -->\r\n\r\n\t\"c:\\quake\\ID1\"\r\n\r\n"
+                     "is a link that leads out of the game, to -->\r\n\r\n\t\"c:\\srv\\id1\"\r\n\r\n"
+                     "If it came in an archive from somebody else, leave that directory alone.",
+                     answer, false, true, "&Leave It Alone,&Write There"});
+    };
+    expectQuestion(0);
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Disk.Bytes("C:\\SRV\\ID1\\lv_666.qs"), "theirs");
+    EXPECT_TRUE(system.Programs.Started.empty());
+    expectQuestion(1);
+    DoIt_Cmd_Click(launcher, 0);
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(system.Disk.Bytes("C:\\SRV\\ID1\\lv_666.qs").starts_with("exec "));
+    EXPECT_EQ(system.Programs.Started.size(), 2u);
 }
 
 TEST_F(LaunchFlow, TheUsersOwnAdditionsRemainTheUsers) {

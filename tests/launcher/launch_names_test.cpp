@@ -22,7 +22,7 @@ std::vector<Text> Shown(const LaunchInput& input) {
                                              "script",     "demo",      "server", "password"};
     std::vector<Text> shown;
     for (const LaunchName& name : NamesOf(input.Selected, input.Game)) {
-        shown.push_back(Join(kKinds[static_cast<int>(name.Kind)], "=", name.Value, "|", name.Option, name.Written,
+        shown.push_back(Join(kKinds[static_cast<int>(name.Kind)], "=", name.Value, "|", name.Written,
                              name.InCommand ? "|command" : "", name.InScript ? "|script" : ""));
     }
     return shown;
@@ -72,7 +72,7 @@ TEST(NamesOf, ListsWhatIsPickedForUnrealInTheOrderOfItsCommand) {
         Shown(input),
         ElementsAre("directory=C:\\Unreal\\System|C:\\Unreal\\System", "executable=UNREAL.EXE|UNREAL.EXE|command",
                     "server=10.0.0.1|10.0.0.1|command", "mod=ctf|ctf", "map=start.unr|start.unr|command",
-                    "script=my own.ini|INI=\"my own.ini\"|command", "demo=demo1.dem|demo1.dem"));
+                    "script=my own.ini|\"my own.ini\"|command", "demo=demo1.dem|demo1.dem"));
 }
 
 TEST(NamesOf, LeavesOutWhatIsNotTicked) {
@@ -90,20 +90,6 @@ TEST(NamesOf, LeavesOutAnOptionThatTheUserHasTyped) {
     input.Selected.Game = "-hipnotic -game x & y";
     EXPECT_THAT(Shown(input),
                 ElementsAre("directory=C:\\QUAKE|C:\\QUAKE", "executable=GLQUAKE.EXE|GLQUAKE.EXE|command"));
-}
-
-TEST(KnownCommand, NamesTheProgramAndEachValueOfTheCommand) {
-    LaunchInput input = UnrealLaunch();
-    TickAll(input);
-    input.Selected.Script = "C:\\Unreal\\System\\a\" +x \"b.ini";
-    const BatchCommand known = KnownCommand(input.Selected, NamesOf(input.Selected, input.Game));
-    EXPECT_EQ(known.Program, "UNREAL.EXE");
-    ASSERT_EQ(known.Given.size(), 3u);
-    EXPECT_EQ(known.Given[0].Written, "10.0.0.1:27500");
-    EXPECT_EQ(known.Given[1].Argument, "start.unr");
-    EXPECT_EQ(known.Given[2].Option, "INI=");
-    EXPECT_EQ(known.Given[2].Written, "\"a\" +x \"b.ini\"");
-    EXPECT_EQ(known.Given[2].Argument, "a\" +x \"b.ini");
 }
 
 TEST(MisreadName, FindsNothingInWhatALaunchUsuallyHolds) {
@@ -212,6 +198,69 @@ TEST(MisreadName, UnrealsIniIsReadBehindItsOption) {
     input.Selected.Script = "C:\\Unreal\\System\\my&evil&.ini";
     EXPECT_THAT(Misread(input, LineReader::kCommandProcessor).value_or("nothing"),
                 HasSubstr("The player script \"my&evil&.ini\" comes"));
+}
+
+TEST(MisreadName, NoReaderTakesALineEndInTheFirstWordOfADemo) {
+    for (const LineReader reader : kReaders) {
+        for (const char* const demo :
+             {"demomap\nquit x", "demomap\x01 x", "demomap;quit x", "demomap\"quit x", "quit\ny"}) {
+            LaunchInput input = Quake2Launch();
+            input.Selected.Demo_Chk = true;
+            input.Selected.Demo = demo;
+            EXPECT_THAT(Misread(input, reader).value_or("nothing"), HasSubstr(" comes from the list of demos.\r\n"))
+                << demo;
+        }
+    }
+    LaunchInput input = Quake2Launch();
+    input.Selected.Demo_Chk = true;
+    input.Selected.Demo = "demomap\nquit x";
+    EXPECT_THAT(Misread(input, LineReader::kNobody).value_or("nothing"),
+                HasSubstr("The demo \"demomap?quit x\" comes from the list of demos.\r\nA command line would"));
+}
+
+TEST(MisreadName, DosTakesNoDirectoryThatCannotBeQuoted) {
+    LaunchInput input = QuakeLaunch();
+    input.Game.DefaultGameDirectory = "C:\\MY\"GAMES\\QUAKE";
+    EXPECT_THAT(Misread(input, LineReader::kDosShell).value_or("nothing"),
+                HasSubstr("The game directory \"C:\\MY\"GAMES\\QUAKE\" comes from the path of the executable.\r\n"
+                          "DOS's shell would not read it as one word of text.\r\n\r\n"
+                          "Rename the directory, and enter the executable anew."));
+    EXPECT_EQ(Misread(input, LineReader::kNobody), std::nullopt);
+    input.Game.DefaultGameDirectory = "C:\\MY GAMES & MORE; 100%";
+    EXPECT_EQ(Misread(input, LineReader::kDosShell), std::nullopt);
+}
+
+TEST(PlusQuestion, NamesTheFirstNameThatAGamesConsoleMightCarryOut) {
+    LaunchInput input = QuakeLaunch();
+    TickAll(input);
+    EXPECT_EQ(PlusQuestion(NamesOf(input.Selected, input.Game)), std::nullopt);
+    input.Selected.Game = "-game M+QUIT";
+    EXPECT_EQ(PlusQuestion(NamesOf(input.Selected, input.Game)),
+              "The modification \"m+quit\" comes from the directories of the game.\r\n"
+              "Many games carry out what stands behind a \"+\" as a command of their own.\r\n\r\n"
+              "Start it only if that may happen.");
+}
+
+TEST(PlusQuestion, LooksAtWhatTheConsoleFindsInTheCommandAlone) {
+    LaunchInput quake = QuakeLaunch();
+    TickAll(quake);
+    quake.Selected.Map = "a+b";
+    quake.Selected.Server = "a+b;27500;0;c+d";
+    quake.Selected.Script = "C:\\QUAKE\\ID1\\a+b.cfg";
+    EXPECT_EQ(PlusQuestion(NamesOf(quake.Selected, quake.Game)), std::nullopt);
+    LaunchInput halfLife = HalfLifeLaunch();
+    TickAll(halfLife);
+    halfLife.Selected.Server = "10.0.0.1 +exec evil;27015;9;";
+    EXPECT_THAT(PlusQuestion(NamesOf(halfLife.Selected, halfLife.Game)).value_or("nothing"),
+                StartsWith("The server \"10.0.0.1 +exec evil:27015\" comes from the list of servers."));
+    halfLife.Selected.Server = "10.0.0.1;27015;9;a+b";
+    EXPECT_THAT(PlusQuestion(NamesOf(halfLife.Selected, halfLife.Game)).value_or("nothing"),
+                StartsWith("The password \"a+b\" comes from the list of servers."));
+    LaunchInput unreal = UnrealLaunch();
+    TickAll(unreal);
+    unreal.Selected.Map = "a+b";
+    unreal.Selected.Game = "-game a+b";
+    EXPECT_EQ(PlusQuestion(NamesOf(unreal.Selected, unreal.Game)), std::nullopt);
 }
 
 TEST(MisreadName, CutsALongName) {

@@ -222,7 +222,10 @@ TEST_F(UnrealOptions, WithoutAnIniAreReportedAndEndTheClick) {
 
 TEST_F(UnrealOptions, ThatCannotBeWrittenAreReportedAndEndTheClick) {
     system.Disk.Refused["c:\\unreal\\system\\unreal.ini"] = MakeError(error::kPermissionDenied);
-    user.Expect({"Lorvane 3D", "Error Number = 70\r\nError Code = EC00040\r\nError String = Permission denied\r\n", 0});
+    user.Expect({"Lorvane 3D",
+                 "Error Number = 70\r\nError Code = EC00040\r\nError String = Permission denied: "
+                 "c:\\unreal\\system\\unreal.ini\r\n",
+                 0});
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Disk.Bytes(kIni), kOld);
     EXPECT_TRUE(system.Programs.Started.empty());

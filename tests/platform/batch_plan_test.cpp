@@ -136,20 +136,45 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(SplitArguments, TakesAGivenWordWholeWhateverItHolds) {
     EXPECT_EQ(
-        SplitArguments("-game x +connect evil.example -a", {{"x +connect evil.example", "x +connect evil.example"}}),
+        SplitArguments("-game x +connect evil.example -a", {{6, "x +connect evil.example", "x +connect evil.example"}}),
         (Strings{"-game", "x +connect evil.example", "-a"}));
-    EXPECT_EQ(SplitArguments("-game a\" \"b\\ -a", {{"a\" \"b\\", "a\" \"b\\"}}),
+    EXPECT_EQ(SplitArguments("-game a\" \"b\\ -a", {{6, "a\" \"b\\", "a\" \"b\\"}}),
               (Strings{"-game", "a\" \"b\\", "-a"}));
-    EXPECT_EQ(SplitArguments("INI=\"a\" +x \"b.ini\" -a", {{"\"a\" +x \"b.ini\"", "a\" +x \"b.ini", "INI="}}),
+    EXPECT_EQ(SplitArguments("INI=\"a\" +x \"b.ini\" -a", {{0, "\"a\" +x \"b.ini\"", "a\" +x \"b.ini", "INI="}}),
               (Strings{"INI=a\" +x \"b.ini", "-a"}));
 }
 
-TEST(SplitArguments, TakesGivenWordsWhereAWordBeginsAndEndsAndOnceInTheirOrder) {
-    EXPECT_EQ(SplitArguments("ab xa b", {{"a b", "a b"}}), (Strings{"ab", "xa", "b"}));
-    EXPECT_EQ(SplitArguments("a bc a b", {{"a b", "a b"}}), (Strings{"a", "bc", "a b"}));
-    EXPECT_EQ(SplitArguments("a b a b", {{"a b", "a b"}}), (Strings{"a b", "a", "b"}));
-    EXPECT_EQ(SplitArguments("c d -x e f", {{"a b", "a b"}, {"c d", "c d"}, {"", ""}, {"e f", "e f"}}),
-              (Strings{"c d", "-x", "e f"}));
+TEST(SplitArguments, TakesAGivenWordAtItsPlaceWhateverElseReadsLikeIt) {
+    EXPECT_EQ(SplitArguments("-zone 512 -game 512 -game -a", {{16, "512 -game", "512 -game"}}),
+              (Strings{"-zone", "512", "-game", "512 -game", "-a"}));
+    EXPECT_EQ(SplitArguments("a b a b", {{4, "a b", "a b"}}), (Strings{"a", "b", "a b"}));
+    EXPECT_EQ(SplitArguments("a b a b", {{0, "a b", "a b"}, {4, "a b", "a b"}}), (Strings{"a b", "a b"}));
+}
+
+TEST(SplitArguments, LetsNoQuoteOfTheUsersReachIntoAGivenWord) {
+    EXPECT_EQ(SplitArguments("\"open a b -c", {{6, "a b", "a b"}}), (Strings{"open ", "a b", "-c"}));
+}
+
+TEST(ParseBatch, CountsThePlacesOfGivenWordsInTheCommand) {
+    const BatchPlan plan = ParseBatch("C:\r\ncd C:\\HL\r\n HL.EXE +password a b \r\n connect c d ",
+                                      {{32, "a b", "a b"}, {47, "c d", "c d"}});
+    EXPECT_EQ(plan.command, "HL.EXE +password a b connect c d");
+    ASSERT_EQ(plan.given.size(), 2u);
+    EXPECT_EQ(plan.given[0].At, 17u);
+    EXPECT_EQ(plan.given[1].At, 29u);
+    EXPECT_EQ(SplitArguments(plan.command, plan.given), (Strings{"HL.EXE", "+password", "a b", "connect", "c d"}));
+}
+
+TEST(ParseBatch, LeavesOutGivenWordsThatAreNotAtTheirPlaces) {
+    constexpr const char* kBatch = "C:\r\ncd C:\\Q\r\nQ.EXE -game x y\r\nmore";
+    EXPECT_EQ(ParseBatch(kBatch, {{25, "x y", "x y"}}).given.size(), 1u);
+    EXPECT_EQ(ParseBatch(kBatch, {{24, "x y", "x y"}}).given.size(), 0u);
+    EXPECT_EQ(ParseBatch(kBatch, {{25, "x z", "x z"}}).given.size(), 0u);
+    EXPECT_EQ(ParseBatch(kBatch, {{0, "C:", "C:"}}).given.size(), 0u);
+    EXPECT_EQ(ParseBatch(kBatch, {{27, "y\r\nmore", "y"}}).given.size(), 0u);
+    EXPECT_EQ(ParseBatch(kBatch, {{1000, "x y", "x y"}}).given.size(), 0u);
+    EXPECT_EQ(ParseBatch(kBatch, {{1000, "", ""}}).given.size(), 0u);
+    EXPECT_EQ(ParseBatch(kBatch, {{25, "x y", "x y"}, {27, "y", "y"}}).given.size(), 1u);
 }
 
 }  // namespace lv

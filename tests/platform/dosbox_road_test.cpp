@@ -124,7 +124,8 @@ TEST(DosBoxRoad, RefusesAGivenWordThatDosWouldMisread) {
         yard.AddFile("quake/quake.exe", "MZ");
         yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", std::string("QUAKE.EXE -game ") + word});
         const auto plan =
-            LinuxProcesses(yard.Disk, yard.Places).PlanBatch("C:\\QUAKE", "lv_666.bat", {"QUAKE.EXE", {{word, word}}});
+            LinuxProcesses(yard.Disk, yard.Places)
+                .PlanBatch("C:\\QUAKE", "lv_666.bat", {"QUAKE.EXE", {GivenIn(yard.Drive / "quake/lv_666.bat", word)}});
         EXPECT_EQ(plan.Fault.Number, 75) << word;
         EXPECT_EQ(plan.Fault.Text,
                   std::string("DOS's shell would not read this as one word of text, and nothing was started: ") + word);

@@ -44,6 +44,14 @@ TEST(MemoryFiles, ReplaceALinkByTheProgramsOwnFile) {
     EXPECT_TRUE(made.Disk.Private.contains("c:\\quake\\lv_666.bat"));
 }
 
+TEST(MemoryFiles, ReplaceAPipeByTheProgramsOwnFile) {
+    MemoryDisk made;
+    made.Disk.AddDevice("C:\\QUAKE\\lv_666.bat");
+    EXPECT_EQ(made.Disk.Replace("C:\\QUAKE\\lv_666.bat", "new").Number, 75);
+    EXPECT_EQ(made.Disk.ReplaceOwn("C:\\QUAKE\\lv_666.bat", "new").Number, 0);
+    EXPECT_EQ(made.Disk.Bytes("C:\\QUAKE\\lv_666.bat"), "new");
+}
+
 TEST(MemoryFiles, LeaveALinkOfTheUsersALink) {
     MemoryDisk made;
     made.Disk.AddFile("C:\\HOME\\real.cfg", "old");

@@ -417,8 +417,38 @@ TEST(LinuxFiles, ReplaceALinkByTheProgramsOwnFile) {
     EXPECT_EQ(home.Disk.Read("C:\\QUAKE\\lv_666.pif").Value, "new");
     EXPECT_EQ(BytesOf(home.Scratch / ".bashrc"), "mine");
     struct stat info {};
-    ASSERT_EQ(stat((home.C / "QUAKE/lv_666.bat").c_str(), &info), 0);
+    EXPECT_FALSE(fs::exists(fs::symlink_status(home.C / "QUAKE/lv_666.bat")));
+    ASSERT_EQ(stat((home.C / "QUAKE/LV_666.BAT").c_str(), &info), 0);
     EXPECT_EQ(info.st_mode & 07777u, 0600u);
+}
+
+TEST(LinuxFiles, SpellTheProgramsOwnFilesAsTheProgramDoes) {
+    Home home;
+    WriteBytes(home.Scratch / ".bashrc", "mine");
+    fs::create_directories(home.C / "QUAKE/Id1");
+    WriteBytes(home.C / "QUAKE/Id1/LV_666.QS", "a stranger's");
+    fs::create_symlink(home.Scratch / ".bashrc", home.C / "QUAKE/Id1/Lv_666.qs");
+    EXPECT_EQ(home.Disk.ReplaceOwn("C:\\QUAKE\\ID1\\lv_666.qs", "ours").Number, 0);
+    EXPECT_EQ(BytesOf(home.C / "QUAKE/Id1/lv_666.qs"), "ours");
+    EXPECT_EQ(std::distance(fs::directory_iterator(home.C / "QUAKE/Id1"), fs::directory_iterator()), 1);
+    EXPECT_EQ(BytesOf(home.Scratch / ".bashrc"), "mine");
+    fs::create_directory(home.C / "QUAKE/LV_666.BAT");
+    EXPECT_EQ(home.Disk.ReplaceOwn("C:\\QUAKE\\lv_666.bat", "ours").Number, 75);
+    EXPECT_FALSE(fs::exists(home.C / "QUAKE/lv_666.bat"));
+}
+
+TEST(LinuxFiles, CopyAFileOfHolesAsOne) {
+    Home home;
+    WriteBytes(home.C / "holes.cfg", "bind a +attack\n");
+    fs::resize_file(home.C / "holes.cfg", 100'000'001);
+    EXPECT_EQ(home.Disk.Copy("C:\\holes.cfg", "C:\\copy.cfg").Number, 0);
+    EXPECT_EQ(fs::file_size(home.C / "copy.cfg"), 100'000'001u);
+    const auto copied = home.Disk.Open("C:\\copy.cfg");
+    EXPECT_EQ(copied.Value->Read(0, 17).Value, std::string("bind a +attack\n\0\0", 17));
+    EXPECT_EQ(copied.Value->Read(99'999'999, 10).Value, std::string(2, '\0'));
+    struct stat info {};
+    ASSERT_EQ(stat((home.C / "copy.cfg").c_str(), &info), 0);
+    EXPECT_LT(info.st_blocks * 512, 10'000'000);
 }
 
 // The test's own place lies outside of the user's home.
@@ -476,6 +506,17 @@ TEST_F(LeadsAway, IsWhereALinkedDirectoryLies) {
     fs::create_directory_symlink(home_.Scratch / "else", home_.C / "QUAKE/CTF");
     EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\CTF\\my.cfg", "C:\\QUAKE"), (home_.Scratch / "else/my.cfg").string());
     EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\CTF\\my.cfg", "C:\\QUAKE\\CTF"), "");
+}
+
+TEST_F(LeadsAway, IsAskedOfADirectoryToo) {
+    fs::create_directory_symlink(home_.Scratch / "else", home_.C / "QUAKE/CTF");
+    fs::create_directories(home_.Scratch / "me/my.mods");
+    fs::create_directory_symlink(home_.Scratch / "me/my.mods", home_.C / "QUAKE/HOME");
+    fs::create_directory_symlink("ID1", home_.C / "QUAKE/SAME");
+    EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\CTF", "C:\\QUAKE"), (home_.Scratch / "else").string());
+    for (const char* const name : {"HOME", "SAME", "ID1", "NONE"}) {
+        EXPECT_EQ(home_.Disk.LeadsAway(std::string("C:\\QUAKE\\") + name, "C:\\QUAKE"), "") << name;
+    }
 }
 
 TEST_F(LeadsAway, CountsADriveThatIsALinkAsNone) {

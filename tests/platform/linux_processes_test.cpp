@@ -101,8 +101,8 @@ TEST(NativeRoad, KeepsEachGivenWordOneArgument) {
     yard.AddGame("show_native", "quake/quake");
     yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE -game x +connect evil.example -a \"b c\""});
     LinuxProcesses processes(yard.Disk, yard.Places);
-    ASSERT_FALSE(processes.StartBatch("C:\\QUAKE", "lv_666.bat",
-                                      {"QUAKE", {{"x +connect evil.example", "x +connect evil.example"}}}));
+    ASSERT_FALSE(processes.StartBatch(
+        "C:\\QUAKE", "lv_666.bat", {"QUAKE", {GivenIn(yard.Drive / "quake/lv_666.bat", "x +connect evil.example")}}));
     EXPECT_THAT(LinesAfter(WaitForOutput(yard.Drive / "quake/output.txt"), "ARGUMENT="),
                 ElementsAre("-game", "x +connect evil.example", "-a", "b c"));
 }
@@ -122,9 +122,32 @@ TEST(NativeRoad, RefusesAGivenWordWithALineEnd) {
     yard.AddGame("show_native", "quake/quake");
     yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE -game x\ny"});
     const auto plan =
-        LinuxProcesses(yard.Disk, yard.Places).PlanBatch("C:\\QUAKE", "lv_666.bat", {"QUAKE", {{"x\ny", "x\ny"}}});
+        LinuxProcesses(yard.Disk, yard.Places)
+            .PlanBatch("C:\\QUAKE", "lv_666.bat", {"QUAKE", {GivenIn(yard.Drive / "quake/lv_666.bat", "x\ny")}});
     EXPECT_EQ(plan.Fault.Number, 75);
     EXPECT_EQ(plan.Fault.Text, "A command line would not read this as one word of text, and nothing was started: x\ny");
+}
+
+TEST(NativeRoad, KeepsAGivenWordOneArgumentThatReadsLikeWhatStandsAheadOfIt) {
+    GameYard yard("native_given_alike");
+    yard.AddGame("show_native", "quake/quake");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "qlaunch quakeudp.dll QUAKE -zone 512 -game 512 -game -a"});
+    const std::size_t at = ReadBytes(yard.Drive / "quake/lv_666.bat").rfind("512 -game");
+    LinuxProcesses processes(yard.Disk, yard.Places);
+    ASSERT_FALSE(processes.StartBatch("C:\\QUAKE", "lv_666.bat", {"QUAKE", {{at, "512 -game", "512 -game"}}}));
+    EXPECT_THAT(LinesAfter(WaitForOutput(yard.Drive / "quake/output.txt"), "ARGUMENT="),
+                ElementsAre("-zone", "512", "-game", "512 -game", "-a"));
+}
+
+TEST(NativeRoad, RefusesABatchThatIsNotAsItWasWritten) {
+    GameYard yard("native_changed");
+    yard.AddGame("show_native", "quake/quake");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE -game x y"});
+    const GivenWord word = GivenIn(yard.Drive / "quake/lv_666.bat", "x y");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE -a -game x y"});
+    const auto plan = LinuxProcesses(yard.Disk, yard.Places).PlanBatch("C:\\QUAKE", "lv_666.bat", {"QUAKE", {word}});
+    EXPECT_EQ(plan.Fault.Number, 75);
+    EXPECT_EQ(plan.Fault.Text, "The batch is not as it was written, and nothing was started: C:\\QUAKE\\lv_666.bat");
 }
 
 TEST(ReaderOf, IsNobodyButForBatchesAndDosPrograms) {

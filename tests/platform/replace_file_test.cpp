@@ -245,13 +245,42 @@ TEST(ReplaceOwnHostFile, ShowsItToItsOwnerAloneWhateverWasThere) {
     EXPECT_EQ(ModeOf(scratch / "old.bat"), 0600u);
 }
 
-TEST(ReplaceOwnHostFile, RefusesWhatIsNoFile) {
+TEST(ReplaceOwnHostFile, RefusesADirectory) {
     const ScratchDirectory scratch;
     fs::create_directory(scratch / "dir");
-    ASSERT_EQ(mkfifo((scratch / "pipe").c_str(), 0600), 0);
     EXPECT_EQ(PutOwn(scratch / "dir", "new").Number, 75);
-    EXPECT_EQ(PutOwn(scratch / "pipe", "new").Number, 75);
     EXPECT_EQ(PutOwn(scratch / "no such/file", "new").Number, 76);
+}
+
+TEST(ReplaceOwnHostFile, ReplacesAPipeAndASocketAndWaitsForNobody) {
+    const ScratchDirectory scratch;
+    ASSERT_EQ(mkfifo((scratch / "pipe").c_str(), 0600), 0);
+    ASSERT_EQ(mknod((scratch / "socket").c_str(), S_IFSOCK | 0600, 0), 0);
+    for (const char* const name : {"pipe", "socket"}) {
+        EXPECT_EQ(PutOwn(scratch / name, "new").Number, 0) << name;
+        EXPECT_EQ(BytesOf(scratch / name), "new") << name;
+    }
+}
+
+TEST(ReplaceOwnHostFile, RemovesWhatWouldBeTakenForIt) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / ".bashrc", "mine");
+    WriteBytes(scratch / "A.QS", "a stranger's");
+    fs::create_symlink(scratch / ".bashrc", scratch / "A.qs");
+    const std::vector<std::string> others = {scratch / "A.QS", scratch / "A.qs", scratch / "gone.qs"};
+    EXPECT_EQ(ReplaceOwnHostFile(scratch / "a.qs", others, [](int made) { return WriteAll(made, "new"); }).Number, 0);
+    EXPECT_EQ(NamesIn(scratch.Path()), (std::vector<std::string>{".bashrc", "a.qs"}));
+    EXPECT_EQ(BytesOf(scratch / ".bashrc"), "mine");
+    EXPECT_EQ(BytesOf(scratch / "a.qs"), "new");
+}
+
+TEST(ReplaceOwnHostFile, ChangesNothingIfOneOfThemMayNotBeRemoved) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "A.QS", "a stranger's");
+    fs::create_directory(scratch / "A.qs");
+    const std::vector<std::string> others = {scratch / "A.QS", scratch / "A.qs"};
+    EXPECT_EQ(ReplaceOwnHostFile(scratch / "a.qs", others, [](int made) { return WriteAll(made, "new"); }).Number, 75);
+    EXPECT_EQ(NamesIn(scratch.Path()), (std::vector<std::string>{"A.QS", "A.qs"}));
 }
 
 TEST(ReplaceHostFile, ShowsAPrivateFileToNobodyWhileItIsWritten) {

@@ -209,5 +209,85 @@ TEST_F(StrangersFiles, WhatAKilledLaunchHasLeftGoesAtTheNextOne) {
     EXPECT_FALSE(fs::exists(quake / "ID1/.lv_666_2147483600_0"));
 }
 
+TEST_F(StrangersFiles, AnotherSpellingOfALaunchFileIsNeitherWrittenNorLeftBeside) {
+    fs::create_directories(scratch / "packed/ID1");
+    WriteBytes(scratch / "packed/ID1/LV_666.QS", "quit");
+    fs::create_symlink(scratch / "me/.bashrc", scratch / "packed/LV_666.BAT");
+    UnpackInto(quake);
+    Pick(0);
+    launcher.Window.Script_Chk.Value = 1;
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(BytesOf(scratch / "me/.bashrc"), "mine");
+    EXPECT_THAT(BytesOf(quake / "ID1/lv_666.qs"), StartsWith("exec my.cfg\r\n"));
+    EXPECT_FALSE(fs::exists(quake / "ID1/LV_666.QS"));
+    EXPECT_THAT(BytesOf(quake / "lv_666.bat"), EndsWith("+exec lv_666.qs"));
+    EXPECT_FALSE(fs::is_symlink(quake / "LV_666.BAT"));
+}
+
+TEST_F(StrangersFiles, PipesAtTheNamesOfTheLaunchFilesHoldNoLaunchUp) {
+    fs::create_directories(scratch / "packed/ID1");
+    for (const char* const name : {"lv_666.bat", "lv_666.pif", "ID1/lv_666.qs"}) {
+        ASSERT_EQ(mkfifo((scratch / "packed" / name).c_str(), 0666), 0);
+    }
+    UnpackInto(quake);
+    Pick(0);
+    launcher.Window.Script_Chk.Value = 1;
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_THAT(BytesOf(quake / "ID1/lv_666.qs"), StartsWith("exec my.cfg\r\n"));
+    EXPECT_THAT(BytesOf(quake / "lv_666.bat"), EndsWith("+exec lv_666.qs"));
+    EXPECT_EQ(memory.Programs.Started.size(), 1u);
+}
+
+TEST_F(StrangersFiles, ADirectoryAtTheNameOfALaunchFileIsNamed) {
+    fs::create_directories(scratch / "packed/ID1/LV_666.QS");
+    UnpackInto(quake);
+    Pick(0);
+    launcher.Window.Script_Chk.Value = 1;
+    user.Expect({"Lorvane 3D",
+                 "Error String = Path/File access error: c:\\quake\\ID1\\lv_666.qs is a directory. Rename it, or "
+                 "remove it.\r\n"});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(memory.Programs.Started.empty());
+}
+
+TEST_F(StrangersFiles, APipeAtTheNameOfTheIniIsNamed) {
+    ASSERT_EQ(mkfifo((scratch / "packed/unreal.ini").c_str(), 0666), 0);
+    UnpackInto(c / "UNREAL/SYSTEM");
+    Pick(1);
+    user.Expect({"Lorvane 3D", "Error String = Path/File access error: c:\\unreal\\system\\unreal.ini\r\n"});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(memory.Programs.Started.empty());
+}
+
+TEST_F(StrangersFiles, ADataDirectoryThatIsALinkOutOfHomeAndGameIsAskedAbout) {
+    fs::create_directories(scratch / "else");
+    WriteBytes(scratch / "else/their.cfg", "");
+    WriteBytes(scratch / "else/lv_666.qs", "theirs");
+    fs::remove_all(quake / "ID1");
+    fs::create_directory_symlink(scratch / "else", scratch / "packed/ID1");
+    UnpackInto(quake);
+    Pick(0);
+    launcher.Window.Script_Chk.Value = 1;
+    user.Expect({.Title = "Link To Another Place", .Text_ = (scratch / "else").string(), .Answer = 0});
+    DoIt_Cmd_Click(launcher, 2);
+    EXPECT_EQ(BytesOf(scratch / "else/lv_666.qs"), "theirs");
+    EXPECT_FALSE(fs::exists(quake / "lv_666.bat"));
+}
+
+TEST_F(StrangersFiles, AScriptOfHolesIsOpenedAtOnce) {
+    PackSparse("ID1/my.cfg", "bind w +forward", 200'000'000);
+    UnpackInto(quake);
+    Pick(0);
+    SetupFoundry foundry{launcher};
+    user.Expect({.Title = "A Large Script", .Text_ = "has 190 MB.", .Answer = 1});
+    user.Expect({.Title = "SetupFoundry Information", .Text_ = "A backup copy has been stored"});
+    user.In<Fig_Frm>([](Fig_Frm& form) { EXPECT_EQ(form.Document.Sections.at(0).Text, ""); });
+    const long peak = PeakKilobytes();
+    const double start = clock.Seconds();
+    SetupFoundry_Bar_Click(foundry);
+    EXPECT_LT(clock.Seconds() - start, 5.0);
+    EXPECT_LT(PeakKilobytes() - peak, 32 * 1024);
+}
+
 }  // namespace
 }  // namespace lv

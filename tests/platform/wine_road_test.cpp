@@ -110,9 +110,10 @@ TEST(WineRoad, StartsTheProgramWithItsArgumentsAndEnvironment) {
 TEST(WineRoad, KeepsEachGivenWordOneArgument) {
     WineYard yard("wine_given");
     yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE.EXE -game x +connect evil.example -a b"});
-    const auto plan = LinuxProcesses(yard.Disk, yard.Places)
-                          .PlanBatch("C:\\QUAKE", "lv_666.bat",
-                                     {"QUAKE.EXE", {{"x +connect evil.example", "x +connect evil.example"}}});
+    const auto plan =
+        LinuxProcesses(yard.Disk, yard.Places)
+            .PlanBatch("C:\\QUAKE", "lv_666.bat",
+                       {"QUAKE.EXE", {GivenIn(yard.Drive / "quake/lv_666.bat", "x +connect evil.example")}});
     EXPECT_THAT(plan.Value.Arguments,
                 ElementsAre((yard.Drive / "quake/quake.exe").string(), "-game", "x +connect evil.example", "-a", "b"));
 }
@@ -195,7 +196,8 @@ TEST(WineBatchRoad, RefusesAGivenWordThatABatchWouldMisread) {
         WineYard yard("wine_batch_given");
         yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", std::string("GO.BAT -game ") + word});
         const auto plan =
-            LinuxProcesses(yard.Disk, yard.Places).PlanBatch("C:\\QUAKE", "lv_666.bat", {"GO.BAT", {{word, word}}});
+            LinuxProcesses(yard.Disk, yard.Places)
+                .PlanBatch("C:\\QUAKE", "lv_666.bat", {"GO.BAT", {GivenIn(yard.Drive / "quake/lv_666.bat", word)}});
         EXPECT_EQ(plan.Fault.Number, 75) << word;
         EXPECT_EQ(plan.Fault.Text,
                   std::string("The command processor would not read this as one word of text, and nothing was "

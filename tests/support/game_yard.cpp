@@ -80,6 +80,10 @@ void GameYard::AddBatch(const std::string& directory, const std::vector<std::str
     AddFile(directory + "/lv_666.bat", text);
 }
 
+GivenWord GivenIn(const std::filesystem::path& batch, const std::string& word) {
+    return {ReadBytes(batch).find(word), word, word};
+}
+
 std::string ReadBytes(const std::filesystem::path& file) {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};

@@ -32,6 +32,9 @@ struct GameYard {
 /// The lines of a stand-in's output once its last one, "end", is there; empty after a minute without it. CR is dropped.
 std::vector<std::string> WaitForOutput(const std::filesystem::path& file);
 
+/// A word that is no text of the user's, where it stands in the batch for the first time.
+GivenWord GivenIn(const std::filesystem::path& batch, const std::string& word);
+
 /// Waits up to a minute until the file holds the text.
 bool WaitForText(const std::filesystem::path& file, const std::string& text);
 

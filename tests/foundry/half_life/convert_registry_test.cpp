@@ -46,8 +46,9 @@ class HalfLifeTest : public LauncherTest {
     }
     void ExpectFailure(int number) {
         user.Expect({"Error During Save of Half-Life Registry Settings Conversion",
-                     Join("Error Number = ", std::to_string(number), "\r\nError String = ", MakeError(number).Text), 0,
-                     false, true, "&OK"});
+                     Join("Error Number = ", std::to_string(number), "\r\nError String = ", MakeError(number).Text,
+                          number == 70 || number == 75 ? Join(": ", kPath) : Text()),
+                     0, false, true, "&OK"});
     }
 
     Text Script() { return system.Disk.Bytes(kPath); }
@@ -296,6 +297,31 @@ TEST_F(HalfLifeTest, ReplacesALinkOfTheScriptsName) {
     ConvertRegistryToScript(run, kPath);
     EXPECT_EQ(system.Disk.Bytes("C:\\HOME\\.bashrc"), "mine");
     EXPECT_TRUE(Holds(Script(), "Setup Foundry"));
+}
+
+TEST_F(HalfLifeTest, AValveDirectoryThatIsALinkOutOfTheGameIsAskedAbout) {
+    BeQuiet();
+    system.Disk.AddDirectory("C:\\SRV");
+    system.Disk.AddLink("C:\\HL\\valve", "C:\\SRV");
+    run.DefaultGameDirectory = "C:\\HL";
+    user.Expect({.Title = "Link To Another Place", .Text_ = "\"c:\\srv\"", .Answer = 0});
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_FALSE(system.Disk.FileExists("C:\\SRV\\lv3dhlrg.cfg"));
+    user.Expect({.Title = "Link To Another Place", .Text_ = "\"c:\\srv\"", .Answer = 1});
+    ConvertRegistryToScript(run, kPath);
+    EXPECT_TRUE(system.Disk.FileExists("C:\\SRV\\lv3dhlrg.cfg"));
+}
+
+TEST_F(HalfLifeTest, NoLaunchReadsALargeScript) {
+    system.Disk.AddSparseFile("C:\\HL\\VALVE\\config.cfg", "bind w +forward\n", (8U << 20U) + 1);
+    user.Expect({"Script Not Opened",
+                 "Error opening specified script file.\r\n\r\nError Number = 7\r\nError String = The file is larger "
+                 "than 8 MB"});
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\config.cfg"));
+    EXPECT_TRUE(system.Registry.Values.empty());
+    system.Disk.AddSparseFile("C:\\HL\\VALVE\\config.cfg", "bind w +forward\n", 8U << 20U);
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\config.cfg"));
+    EXPECT_EQ(Held("player", "\\kb|119"), "+forward");
 }
 
 }  // namespace

@@ -284,5 +284,32 @@ TEST_F(OpenScriptTest, TakesTheDecimalSeparatorOfTheLocale) {
     EXPECT_EQ(document.cl_bob_Cbo.Selected(), "0,015");
 }
 
+TEST_F(OpenScriptTest, ALargeScriptIsReadIfTheUserWantsToWait) {
+    const auto expect = [this](int answer) {
+        user.Expect({.Title = "A Large Script",
+                     .Text_ = "The script -->\r\n\r\n\t\"C:\\QUAKE\\ID1\\my.cfg\"\r\n\r\n"
+                              "has 9 MB. No player writes as much, and to read it may take a minute.",
+                     .Answer = answer,
+                     .Whole = true,
+                     .Buttons = "&Leave It,&Read It"});
+    };
+    const Text script = Join(kOurs, "bind a +attack\n", Text(9U << 20U, ' '));
+    expect(0);
+    EXPECT_FALSE(Open(script));
+    EXPECT_EQ(document.KeyBinding[1], "");
+    expect(1);
+    EXPECT_TRUE(Open(script));
+    EXPECT_EQ(document.KeyBinding[1], "+attack");
+    EXPECT_TRUE(Open(Join(kOurs, Text((8U << 20U) - 25, ' '))));
+}
+
+TEST_F(OpenScriptTest, KeepsNoCopyInADirectoryThatIsALinkOutOfTheGame) {
+    system.Disk.AddFile("C:\\SRV\\my.cfg", "bind a +attack\n");
+    system.Disk.AddLink("C:\\QUAKE\\CTF", "C:\\SRV");
+    EXPECT_TRUE(OpenScript(run, document, view, "C:\\QUAKE\\CTF\\my.cfg"));
+    EXPECT_FALSE(system.Disk.FileExists("C:\\SRV\\my.SetupFoundry_Config_Backup"));
+    EXPECT_EQ(document.BackupDue, "C:\\QUAKE\\CTF\\my.cfg");
+}
+
 }  // namespace
 }  // namespace lv

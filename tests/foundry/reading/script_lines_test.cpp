@@ -156,5 +156,27 @@ TEST(ScriptLines, AreTheSameHoweverTheBytesFall) {
     }
 }
 
+TEST(ScriptLines, PassOverBlocksOfZeroBytes) {
+    const Text holes(3 * 65536 + 100, '\0');
+    EXPECT_EQ(LinesOf(holes), Lines());
+    EXPECT_EQ(LinesOf(Join("a\nb\n", holes)), (Lines{"a", "b"}));
+    EXPECT_EQ(LinesOf(Join(Text(2 * 65536, '\0'), "a\nb")), (Lines{"a", "b"}));
+    EXPECT_EQ(LinesOf(Join("a\n", Text(2 * 65536, '\0'), "b\nc")).back(), "c");
+}
+
+TEST(ScriptLines, EndWhereABlockOfZeroBytesBegins) {
+    const Lines lines = LinesOf(Join("a\nb", Text(4 * 65536, '\0')));
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_EQ(lines[0], "a");
+    EXPECT_TRUE(lines[1].starts_with('b'));
+    EXPECT_LE(lines[1].size(), 65536u);
+    EXPECT_EQ(LinesOf(Join(Text(65536, 'x'), Text(2 * 65536, '\0'), "\nb")).front(), Text(65536, 'x'));
+}
+
+TEST(ScriptLines, KeepZeroBytesAmongOthers) {
+    const Text few = Join("a", Text(3, '\0'));
+    EXPECT_EQ(LinesOf(Join(few, "\n", Text(2, '\0'))), (Lines{few, Text(2, '\0')}));
+}
+
 }  // namespace
 }  // namespace lv

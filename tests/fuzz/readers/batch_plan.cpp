@@ -2,6 +2,8 @@
 
 #include "platform/linux/batch_plan.h"
 
+#include <algorithm>
+
 #include "tests/fuzz/readers.h"
 
 namespace lv {
@@ -25,6 +27,17 @@ void FuzzBatchPlan(TextView input) {
     }
     MustHold(letters <= plan.command.size(), "words hold what the command holds");
     (void)SplitArguments(input);
+    // Any stretch of the batch may be said to be a word.
+    const std::size_t at = input.size() / 2;
+    const GivenWord word{at, std::string(input.substr(at, 5)), "one argument"};
+    const BatchPlan given =
+        ParseBatch(input, {word, {at + 7, std::string(input.substr(std::min(at + 7, input.size()), 3)), "another"}});
+    MustHold(given.command == plan.command, "what a word is does not change the command");
+    for (const GivenWord& each : given.given) {
+        MustHold(std::string_view(given.command).substr(each.At).starts_with(each.Written),
+                 "a word is where it is said to be");
+    }
+    MustHold(SplitArguments(given.command, given.given).size() >= given.given.size(), "each word is an argument");
 }
 
 }  // namespace lv

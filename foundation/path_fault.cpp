@@ -1,0 +1,16 @@
+#include "foundation/path_fault.h"
+
+namespace lv {
+
+Error FaultAt(Files& disk, TextView path, Error failed) {
+    if (failed.Number != error::kPathFileAccess && failed.Number != error::kPermissionDenied) {
+        return failed;
+    }
+    failed.Text += Join(": ", path);
+    if (disk.DirectoryExists(path)) {
+        failed.Text += " is a directory. Rename it, or remove it.";
+    }
+    return failed;
+}
+
+}  // namespace lv
