@@ -91,7 +91,7 @@ class Handbook::Controller : public wxHtmlHelpController {
         frame->SetIcons(ProgramIcon());
         UsesHelpKey(frame);
         frame->GetHelpWindow()->GetHtmlWindow()->GetParser()->AddTagHandler(new ThemedBody);
-        frame->Move(PlaceInReach(*frame, wxPoint(ToPixels(Place.Placement.Left), ToPixels(Place.Placement.Top))));
+        frame->Move(PlaceOnScreen(*frame, Place.Placement));
         StayOnScreen(*frame);
         if (Place.Placement.WindowState == kWindowMaximised) {
             frame->Maximize();

@@ -8,6 +8,8 @@
 #include <wx/sizer.h>
 #include <wx/toplevel.h>
 
+#include "foundation/window_placement.h"
+
 namespace lv {
 
 /// The work area of the screen that the window is on, or would come up on.
@@ -30,7 +32,8 @@ wxScrolledWindow* FitOnScreen(wxTopLevelWindow& window, wxSizer* rows);
 /// Moves the window into its work area.
 void StayOnScreen(wxTopLevelWindow& window);
 
-/// Where a window that was left at `place` is to come up.
-wxPoint PlaceInReach(const wxTopLevelWindow& window, wxPoint place);
+/// Where a window that was left in that place is to come up: there, as long as its title bar can be reached; wholly on
+/// the screen, if it was another screen's.
+wxPoint PlaceOnScreen(const wxTopLevelWindow& window, const WindowPlacement& left);
 
 }  // namespace lv
