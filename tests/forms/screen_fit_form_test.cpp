@@ -1,4 +1,4 @@
-// Windows on screens that are too small for them. These tests run on a screen of 960 by 540 too.
+// Windows on screens that are too small for them. These tests run on a screen of 1920 by 1080 at 200 % too.
 
 #include "foundation/forms/screen_fit.h"
 
@@ -251,6 +251,13 @@ TEST_F(MainWindowOnAnyScreen, TheMainWindowIsOnItWithItsMenuBar) {
     Settle(300);
     ExpectOnScreen("LV_Frm");
     EXPECT_TRUE(form->GetScreenRect().Contains(Find("DoIt_Cmd(0)")->GetScreenRect()));
+}
+
+TEST_F(MainWindowOnAnyScreen, TheListOfGamesIsAsHighAsItsPicture) {
+    const wxWindow* const list = Find("Exe_Cbo");
+    EXPECT_GE(list->GetSize().y, list->FromDIP(24));
+    EXPECT_LE(list->GetSize().y, list->FromDIP(24) + 20);
+    EXPECT_LE(list->GetBestSize().y, list->FromDIP(24) + 20);
 }
 
 TEST_F(MainWindowOnAnyScreen, TheLiveProfileWindowIsOnItToo) {
