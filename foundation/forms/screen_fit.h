@@ -25,6 +25,17 @@ wxSize ScrollInRoom(wxScrolledWindow& content, wxSize wanted, wxSize room);
 /// Scrolls to whichever control gets the keyboard, however deep it stands in the content.
 void FollowKeyboard(wxScrolledWindow& content);
 
+/// Rows of a window that is to be as large as they are: in the moments before it is, they hang over its edge. Squeezed,
+/// some controls would have less than no room.
+class UnsqueezedRows : public wxBoxSizer {
+  public:
+    UnsqueezedRows() : wxBoxSizer(wxVERTICAL) {}
+    void RepositionChildren(const wxSize& least) override {
+        m_size.IncTo(least);
+        wxBoxSizer::RepositionChildren(least);
+    }
+};
+
 /// In place of SetSizerAndFit: where the rows are more than the screen has room for, they scroll, but for the last one,
 /// the buttons. Gives what scrolls, or null.
 wxScrolledWindow* FitOnScreen(wxTopLevelWindow& window, wxSizer* rows);
