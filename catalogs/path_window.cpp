@@ -103,6 +103,7 @@ Path_Frm::Path_Frm(Run& owner, TextView start, TextView caption) : ModalWindow(o
     OK_Cmd.Caption = "&OK";
     OK_Cmd.Default = true;
     Cancel_Cmd.Caption = "&Cancel";
+    Focus = "Dir1";
     Drive1.Items = owner.System.Disk.Drives();
     const bool whole = start.size() >= 2 && start[1] == ':';
     if (!whole || GoTo(*this, start)) {

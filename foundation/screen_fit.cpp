@@ -6,7 +6,8 @@ namespace lv {
 
 namespace {
 
-constexpr int kReach = 24;  // of a title bar, to take hold of it
+constexpr int kReach = 24;          // of a title bar, to take hold of it
+constexpr int kButtonsReach = 160;  // of its end, where the buttons are
 
 ScreenRect NoLargerThan(ScreenRect window, ScreenRect area) {
     window.Width = std::min(window.Width, area.Width);
@@ -25,8 +26,9 @@ ScreenRect WithinArea(ScreenRect window, ScreenRect area) {
 
 ScreenRect WithinReach(ScreenRect window, ScreenRect area) {
     window = NoLargerThan(window, area);
-    const int reach = std::min(kReach, window.Width);
-    window.Left = std::clamp(window.Left, area.Left + reach - window.Width, area.Left + area.Width - reach);
+    const int start = std::min(kReach, window.Width);
+    const int end = std::min(kButtonsReach, window.Width);
+    window.Left = std::clamp(window.Left, area.Left + end - window.Width, area.Left + area.Width - start);
     window.Top = std::clamp(window.Top, area.Top, std::max(area.Top, area.Top + area.Height - kReach));
     return window;
 }

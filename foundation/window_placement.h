@@ -18,6 +18,7 @@ struct WindowPlacement {
     double Height = 0;
     double Width = 0;
     int WindowState = kWindowNormal;
+    bool LeftElsewhere = false;  // on a screen of another size
 };
 
 /// Where a window is to come up that lives beside the others, and who is told where it was left.

@@ -57,6 +57,8 @@ void LoadPlacement(Run& run, TextView formName, WindowPlacement& placement, Twip
     if (placement.Top > kMostOfScreen * screen.Height || placement.Left > kMostOfScreen * screen.Width) {
         CenterOnScreen(placement, screen);
     }
+    placement.LeftElsewhere = ReadNumber(run, formName, "ScreenHeight", screen.Height) != screen.Height ||
+                              ReadNumber(run, formName, "ScreenWidth", screen.Width) != screen.Width;
     const Index state = GetNumber(run, formName, "WindowState", kWindowNormal);
     placement.WindowState = state >= kWindowNormal && state <= kWindowMaximised ? state : kWindowNormal;
 }
@@ -72,6 +74,9 @@ void SavePlacement(Run& run, TextView formName, const WindowPlacement& placement
     Save(run, formName, "Left", TextView(NumberText(placement.Left)));
     Save(run, formName, "Height", TextView(NumberText(placement.Height)));
     Save(run, formName, "Width", TextView(NumberText(placement.Width)));
+    const TwipsSize screen = ScreenInTwips(run);
+    Save(run, formName, "ScreenHeight", TextView(NumberText(screen.Height)));
+    Save(run, formName, "ScreenWidth", TextView(NumberText(screen.Width)));
 }
 
 void CenterOnScreen(WindowPlacement& placement, TwipsSize screen) {

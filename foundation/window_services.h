@@ -28,10 +28,11 @@ TwipsSize ScreenInTwips(Run& run);
 
 /// Sets place and state from the section of the window's name. Without a stored place the window is centred; one that
 /// begins beyond 0.95 of the screen's height or width, as it was left on a larger screen, is centred too. The size is
-/// stored but not read: other means fix it.
+/// stored but not read: other means fix it. A place that was stored on a screen of another size is marked as such.
 void LoadPlacement(Run& run, TextView formName, WindowPlacement& placement, TwipsSize screen);
 
-/// Writes the state of a window that is not minimised, and place and size of one that is neither that nor maximised.
+/// Writes the state of a window that is not minimised, and place and size of one that is neither that nor maximised,
+/// with the size of the screen that they belong to.
 void SavePlacement(Run& run, TextView formName, const WindowPlacement& placement);
 
 /// No clipping to the screen in either.

@@ -41,6 +41,14 @@ class ThemedBody : public wxHtmlWinTagHandler {
     }
 };
 
+/// GTK complains of lists without room for their scroll bars, though they are to get it the next moment.
+void GiveRoom(const wxWindow& pages) {
+    for (wxWindow* page : pages.GetChildren()) {
+        page->SetSize(page->FromDIP(wxSize(kContentsWidth, kContentsWidth)));
+        page->Layout();
+    }
+}
+
 /// The last that came up; null without one.
 const wxDialog* DialogThatIsUp() {
     const wxDialog* up = nullptr;
@@ -91,7 +99,8 @@ class Handbook::Controller : public wxHtmlHelpController {
         frame->SetIcons(ProgramIcon());
         UsesHelpKey(frame);
         frame->GetHelpWindow()->GetHtmlWindow()->GetParser()->AddTagHandler(new ThemedBody);
-        frame->Move(PlaceInReach(*frame, wxPoint(ToPixels(Place.Placement.Left), ToPixels(Place.Placement.Top))));
+        GiveRoom(*frame->GetHelpWindow()->GetTreeCtrl()->GetGrandParent());
+        frame->Move(PlaceOnScreen(*frame, Place.Placement));
         StayOnScreen(*frame);
         if (Place.Placement.WindowState == kWindowMaximised) {
             frame->Maximize();

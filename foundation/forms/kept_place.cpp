@@ -25,7 +25,7 @@ void KeptPlace::Put() {
         return;
     }
     put_ = true;
-    place_ = PlaceInReach(window_, wxPoint(ToPixels(placement_.Left), ToPixels(placement_.Top)));
+    place_ = PlaceOnScreen(window_, placement_);
     window_.Move(place_);
     if (placement_.WindowState == kWindowMaximised) {  // a minimised one was not kept as such
         window_.Maximize();
@@ -45,6 +45,7 @@ void KeptPlace::Keep() {
     }
     kept_ = true;
     if (!window_.IsMaximized()) {
+        place_ = PlaceOnScreen(window_, placement_);  // with the frame, which is known by now
         window_.Move(place_ + wxPoint(1, 0));
         window_.Move(place_);
     }

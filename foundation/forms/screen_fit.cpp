@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "foundation/screen_fit.h"
+#include "foundation/window_services.h"
 #include "platform/scroll_bars.h"
 
 namespace lv {
@@ -138,9 +139,12 @@ void StayOnScreen(wxTopLevelWindow& window) {
     }
 }
 
-wxPoint PlaceInReach(const wxTopLevelWindow& window, wxPoint place) {
-    const ScreenRect inReach = WithinReach(Plain(wxRect(place, window.GetSize())), Plain(AreaAt(place, window)));
-    return {inReach.Left, inReach.Top};
+wxPoint PlaceOnScreen(const wxTopLevelWindow& window, const WindowPlacement& left) {
+    const wxPoint place(ToPixels(left.Left), ToPixels(left.Top));
+    const ScreenRect stored = Plain(wxRect(place, window.GetSize()));
+    const ScreenRect area = Plain(AreaAt(place, window));
+    const ScreenRect shown = left.LeftElsewhere ? WithinArea(stored, area) : WithinReach(stored, area);
+    return {shown.Left, shown.Top};
 }
 
 }  // namespace lv

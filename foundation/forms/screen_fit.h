@@ -8,6 +8,8 @@
 #include <wx/sizer.h>
 #include <wx/toplevel.h>
 
+#include "foundation/window_placement.h"
+
 namespace lv {
 
 /// The work area of the screen that the window is on, or would come up on.
@@ -23,6 +25,17 @@ wxSize ScrollInRoom(wxScrolledWindow& content, wxSize wanted, wxSize room);
 /// Scrolls to whichever control gets the keyboard, however deep it stands in the content.
 void FollowKeyboard(wxScrolledWindow& content);
 
+/// Rows of a window that is to be as large as they are: in the moments before it is, they hang over its edge. Squeezed,
+/// some controls would have less than no room.
+class UnsqueezedRows : public wxBoxSizer {
+  public:
+    UnsqueezedRows() : wxBoxSizer(wxVERTICAL) {}
+    void RepositionChildren(const wxSize& least) override {
+        m_size.IncTo(least);
+        wxBoxSizer::RepositionChildren(least);
+    }
+};
+
 /// In place of SetSizerAndFit: where the rows are more than the screen has room for, they scroll, but for the last one,
 /// the buttons. Gives what scrolls, or null.
 wxScrolledWindow* FitOnScreen(wxTopLevelWindow& window, wxSizer* rows);
@@ -30,7 +43,8 @@ wxScrolledWindow* FitOnScreen(wxTopLevelWindow& window, wxSizer* rows);
 /// Moves the window into its work area.
 void StayOnScreen(wxTopLevelWindow& window);
 
-/// Where a window that was left at `place` is to come up.
-wxPoint PlaceInReach(const wxTopLevelWindow& window, wxPoint place);
+/// Where a window that was left in that place is to come up: there, as long as its title bar can be reached; wholly on
+/// the screen, if it was another screen's.
+wxPoint PlaceOnScreen(const wxTopLevelWindow& window, const WindowPlacement& left);
 
 }  // namespace lv

@@ -31,6 +31,7 @@ namespace {
 constexpr std::size_t kMostWidths = 4000;
 constexpr std::size_t kMostKept = 200;  // letters of a line
 
+constexpr long kLongestPump = 100;   // milliseconds
 constexpr long kLongestWait = 1000;  // milliseconds; another program may keep the keyboard
 constexpr unsigned long kBetweenLooks = 5;
 
@@ -137,10 +138,18 @@ void WxUser::Refresh() {
     }
 }
 
+// Not the toolkit's own way, which ends only when nothing is left: on a busy machine the work of a timer takes longer
+// than the timer, and there is always something.
 void WxUser::PumpEvents() {
-    if (wxEventLoopBase* loop = wxEventLoopBase::GetActive()) {
-        loop->YieldFor(wxEVT_CATEGORY_ALL);
-    } else if (wxTheApp != nullptr) {
+    wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
+    const wxStopWatch pumped;
+    while (loop != nullptr && loop->Pending() && pumped.Time() < kLongestPump) {
+        loop->Dispatch();  // a loop that is to end knows of that by itself
+    }
+    if (loop != nullptr) {
+        loop->ProcessIdle();
+    }
+    if (wxTheApp != nullptr) {
         wxTheApp->ProcessPendingEvents();
     }
 }

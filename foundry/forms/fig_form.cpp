@@ -11,6 +11,7 @@
 
 #include "foundation/forms/help_key.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "foundation/screen_fit.h"
@@ -36,7 +37,10 @@ constexpr int kFrameRoom = 40;     // of the screen's height, left for the frame
 constexpr int kUsualWidth = 1000;  // at 100 %: what a screen of 1024 by 768 has room for
 constexpr int kUsualHeight = 706;
 constexpr int kTabHeight = 39;
-constexpr int kPageRows = 17;  // of labels, that a page has room for
+constexpr int kScrollStep = 10;
+constexpr int kPageFrames = 4;     // gaps beside a page: those of two notebooks
+constexpr int kPageRows = 17;      // of labels, that a page has room for
+constexpr int kLeastPageRows = 5;  // that it shows of them on a small screen, and scrolls
 
 // The letter behind the "&" of a caption; 0 without one.
 char AccessKeyOf(TextView caption) {
@@ -66,6 +70,14 @@ bool IsOnTop(const wxWindow* window) {
         }
     }
     return true;
+}
+
+/// What comes or goes in the page moves the rest of it, and the end of what can be scrolled.
+void LayOut(wxWindow* page) {
+    if (auto* scrolled = dynamic_cast<wxScrolledWindow*>(page->GetParent())) {
+        scrolled->FitInside();
+    }
+    page->Layout();
 }
 
 template <std::size_t Count>
@@ -102,7 +114,7 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
     content_ =
         new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
     KeepScrollBarsInSight(content_->GetHandle());
-    content_->SetScrollRate(FromDIP(10), FromDIP(10));
+    content_->SetScrollRate(FromDIP(kScrollStep), FromDIP(kScrollStep));
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeFindRow(), wxSizerFlags().Expand().Border(wxALL, kPageGap / 2));
     rows->Add(MakeMainTab(), wxSizerFlags(1).Expand());
@@ -114,6 +126,7 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
     BindEvents();
     ShowState();
     GiveWhatsThis(this);
+    FitToScreen();  // in the few pixels of a new window there is no room for what is warmed up
     WarmUp(GetHandle());
     WarmUp(keys_->GetHandle());
 }
@@ -152,19 +165,44 @@ wxSizer* FigForm::MakeFindRow() {
     return row;
 }
 
-wxPanel* FigForm::AddLate(wxWindow* parent, std::function<void(wxPanel*)> make) {
-    auto* page = new wxPanel(parent);
-    pages_.push_back(page);
-    late_.emplace_back(page, [page, make = std::move(make)] { make(page); });
+// Its rows stand in a panel of their own: GTK complains of rows that are hidden when it has to scroll them.
+wxWindow* FigForm::AddLate(wxWindow* parent, std::function<void(wxPanel*)> make) {
+    auto* page = new wxScrolledWindow(parent);
+    KeepScrollBarsInSight(page->GetHandle());
+    page->SetScrollRate(FromDIP(kScrollStep), FromDIP(kScrollStep));
+    FollowKeyboard(*page);
+    auto* content = new wxPanel(page);
+    auto* all = new wxBoxSizer(wxVERTICAL);
+    all->Add(content, wxSizerFlags(1).Expand());
+    page->SetSizer(all);
+    pages_.push_back(content);
+    late_.emplace_back(page, [content, make = std::move(make)] { make(content); });
     return page;
 }
 
-wxWindow* FigForm::MakePlayerPage(wxNotebook* tabs) {
-    auto* page = new wxPanel(tabs);
+wxPanel* FigForm::AddPage(wxWindow* parent) {
+    auto* page = new wxPanel(parent);
+    page->SetSize(RoomToBegin());
     pages_.push_back(page);
+    return page;
+}
+
+wxNotebook* FigForm::MakeTab(wxWindow* parent) {
+    auto* tab = new wxNotebook(parent, wxID_ANY);
+    tab->SetSize(RoomToBegin());
+    return tab;
+}
+
+// GTK complains of tabs without room for their captions, though they are to get it the next moment.
+wxSize FigForm::RoomToBegin() const {
+    return FromDIP(wxSize(kUsualWidth, kUsualHeight));
+}
+
+wxWindow* FigForm::MakePlayerPage(wxNotebook* tabs) {
+    wxPanel* const page = AddPage(tabs);
     auto* rows = new wxBoxSizer(wxVERTICAL);
     MakeNameRow(parts_, page, rows);
-    auto* options = new wxNotebook(page, wxID_ANY);
+    wxNotebook* const options = MakeTab(page);
     std::vector<wxWindow*> pages;
     for (int which = 0; which < static_cast<int>(model_.Document.Options_Tab.Pages.size()); ++which) {
         pages.push_back(AddLate(options, [this, which](wxPanel* made) { MakeOptionsPage(parts_, made, which); }));
@@ -177,8 +215,8 @@ wxWindow* FigForm::MakePlayerPage(wxNotebook* tabs) {
 }
 
 wxWindow* FigForm::MakeBindingsTabs(wxNotebook* tabs) {
-    auto* page = new wxPanel(tabs);
-    auto* bindings = new wxNotebook(page, wxID_ANY);
+    wxPanel* const page = AddPage(tabs);
+    wxNotebook* const bindings = MakeTab(page);
     std::vector<wxWindow*> pages;
     for (int which = 0; which < static_cast<int>(model_.Bindings_Tab.Pages.size()); ++which) {
         pages.push_back(AddLate(bindings, [this, which](wxPanel* made) {
@@ -194,7 +232,8 @@ wxWindow* FigForm::MakeBindingsTabs(wxNotebook* tabs) {
 }
 
 wxNotebook* FigForm::MakeMainTab() {
-    auto* tabs = new wxNotebook(content_, wxID_ANY);
+    tabs_ = MakeTab(content_);
+    wxNotebook* const tabs = tabs_;
     std::vector<wxWindow*> pages = {MakePlayerPage(tabs), MakeBindingsTabs(tabs),
                                     AddLate(tabs, [this](wxPanel* made) { MakeAliasPage(parts_, made); }),
                                     AddLate(tabs, [this](wxPanel* made) { MakeFreeFormPage(parts_, made); }),
@@ -202,10 +241,14 @@ wxNotebook* FigForm::MakeMainTab() {
     for (std::size_t i = 0; i < pages.size(); ++i) {
         pages[i]->SetName(kMainPages.Names[i]);
     }
-    tabs->SetMinSize(
-        wxSize(-1, kPageRows * (parts_.RowHeight(this) + kCellGap) + 2 * FromDIP(kTabHeight) + 3 * kPageGap));
+    tabs->SetMinSize(wxSize(-1, TabsHeight(kPageRows)));
     parts_.Controls.Bind("Main_Tab", model_.Main_Tab, tabs, pages, [this](int page) { Main_Tab_Click(model_, page); });
     return tabs;
+}
+
+// With the tabs of two notebooks above the rows.
+int FigForm::TabsHeight(int rows) {
+    return rows * (parts_.RowHeight(this) + kCellGap) + 2 * FromDIP(kTabHeight) + 3 * kPageGap;
 }
 
 void FigForm::BindEvents() {
@@ -350,7 +393,7 @@ bool FigForm::MakeOnePage() {
     showing_ = true;
     parts_.Controls.Show();
     showing_ = false;
-    page->Page()->Layout();
+    LayOut(page->Page()->GetChildren().front());
     GiveWhatsThis(page->Page());
     return true;
 }
@@ -372,7 +415,7 @@ void FigForm::MakeShownPages() {
     for (LatePage& late : late_) {
         if (IsOnTop(late.Page()) && late.Make()) {
             parts_.Controls.Show();
-            late.Page()->Layout();
+            LayOut(late.Page()->GetChildren().front());
             if (place_.IsPut()) {
                 GiveWhatsThis(late.Page());
             }
@@ -398,9 +441,7 @@ void FigForm::ShowState() {
         content_->Layout();
     }
     if (changed) {
-        for (wxWindow* page : pages_) {
-            page->Layout();
-        }
+        LayOutPages();
     }
     if (model_.Save_Tmr_Enabled && !saveTimer_.IsRunning()) {
         saveTimer_.Start(kSaveTimerMilliseconds);
@@ -452,18 +493,47 @@ void FigForm::PlaceOnScreen() {
     }
 }
 
-void FigForm::FitToScreen() {
+void FigForm::LayOutPages() {
+    for (wxWindow* page : pages_) {
+        LayOut(page);
+    }
+}
+
+wxSize FigForm::WantedSize() {
     wxSize wanted = content_->GetSizer()->CalcMin();
     if (!keys_->IsShown()) {
         const wxSize keys = keys_->GetBestSize();
-        wanted = wxSize(std::max(wanted.x, keys.x), wanted.y + keys.y);
+        wanted = wxSize(std::max(wanted.x, keys.x), wanted.y + keys.y + kPageGap / 2);
     }
-    wanted.IncTo(FromDIP(wxSize(kUsualWidth, kUsualHeight)));
+    return wanted;
+}
+
+// What scrolls asks for no room of its own.
+int FigForm::PagesWidth() {
+    int width = 0;
+    for (const wxWindow* page : pages_) {
+        width = std::max(width, page->GetBestSize().x);
+    }
+    return width + kPageFrames * kPageGap;
+}
+
+// On a small screen the pages give of their height, and scroll, so that rows and keys are seen together. What even that
+// leaves too large scrolls as a whole.
+void FigForm::FitToScreen() {
     wxSize room =
         wxDisplay(GetParent() != nullptr ? GetParent() : static_cast<wxWindow*>(this)).GetClientArea().GetSize();
     room.y -= FromDIP(kFrameRoom);
-    content_->SetVirtualSize(wanted);
     const int bar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, content_);
+    const int height = TabsHeight(kPageRows);
+    tabs_->SetMinSize(wxSize(-1, height));
+    wxSize wanted = WantedSize();
+    const int over = wanted.y + (wanted.x > room.x ? bar : 0) - room.y;
+    const int given = std::clamp(over, 0, height - TabsHeight(kLeastPageRows));
+    tabs_->SetMinSize(wxSize(-1, height - given));
+    wanted.y -= given;
+    const wxSize usual = FromDIP(wxSize(kUsualWidth, kUsualHeight));
+    wanted.IncTo(wxSize(std::min(std::max(usual.x, PagesWidth()), room.x), std::min(usual.y, room.y)));
+    content_->SetVirtualSize(wanted);
     const ShownContent shown = ShowInRoom(wanted.x, wanted.y, room.x, room.y, bar);
     SetClientSize(shown.Width, shown.Height);
 }

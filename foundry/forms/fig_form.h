@@ -36,9 +36,12 @@ class FigForm : public wxDialog {
   private:
     wxSizer* MakeFindRow();
     wxNotebook* MakeMainTab();
+    wxNotebook* MakeTab(wxWindow* parent);
+    wxPanel* AddPage(wxWindow* parent);
+    [[nodiscard]] wxSize RoomToBegin() const;
     wxWindow* MakePlayerPage(wxNotebook* tabs);
     wxWindow* MakeBindingsTabs(wxNotebook* tabs);
-    wxPanel* AddLate(wxWindow* parent, std::function<void(wxPanel*)> make);
+    wxWindow* AddLate(wxWindow* parent, std::function<void(wxPanel*)> make);
     void BindEvents();
     void PressKey(wxKeyEvent& event);
     bool PressOnLabel(wxKeyEvent& event);
@@ -49,6 +52,10 @@ class FigForm : public wxDialog {
     void PrepareOnePage();
     void LeadToFound();
     void FitToScreen();
+    wxSize WantedSize();
+    int PagesWidth();
+    int TabsHeight(int rows);
+    void LayOutPages();
     void PlaceOnScreen();
     void KeepSize();
     void Finished();
@@ -59,6 +66,7 @@ class FigForm : public wxDialog {
     KeyHand hand_;
     KeptPlace place_;
     wxScrolledWindow* content_ = nullptr;
+    wxNotebook* tabs_ = nullptr;
     KeyPanels* keys_ = nullptr;
     std::vector<wxWindow*> pages_;  // those that lay out controls that come and go
     std::vector<LatePage> late_;

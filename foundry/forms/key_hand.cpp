@@ -3,6 +3,8 @@
 #include <wx/cursor.h>
 #include <wx/scrolwin.h>
 
+#include <algorithm>
+
 #include "foundry/editor/bindings_page.h"
 #include "foundry/forms/key_codes.h"
 
@@ -10,12 +12,25 @@ namespace lv {
 
 namespace {
 
-/// The part of the window that scrolls: what lies beyond its edge is not seen.
-const wxWindow* SightOf(const wxWindow* window) {
-    while (dynamic_cast<const wxScrolledWindow*>(window) == nullptr && window->GetParent() != nullptr) {
-        window = window->GetParent();
+/// Whether the window is seen there: what lies beyond the edge of a part that scrolls is not.
+bool IsSeenAt(const wxWindow* window, const wxPoint& screen) {
+    for (; window != nullptr && window->GetScreenRect().Contains(screen); window = window->GetParent()) {
+        if (window->IsTopLevel()) {
+            return true;
+        }
     }
-    return window;
+    return false;
+}
+
+/// The innermost window around that one which has more lines than it shows.
+wxScrolledWindow* ScrolledAround(wxWindow* window) {
+    for (; window != nullptr; window = window->GetParent()) {
+        auto* const scrolled = dynamic_cast<wxScrolledWindow*>(window);
+        if (scrolled != nullptr && scrolled->GetVirtualSize().y > scrolled->GetClientSize().y) {
+            return scrolled;
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -46,6 +61,11 @@ void KeyHand::WatchKey(CellLabel* label, Index index) {
     };
     label->Bind(wxEVT_LEFT_UP, release);
     label->Bind(wxEVT_RIGHT_UP, release);
+    label->Bind(wxEVT_MOUSEWHEEL, [this, label](wxMouseEvent& event) {
+        if (!IsDragging() || !ScrollUnder(label->ClientToScreen(event.GetPosition()), event)) {
+            event.Skip();
+        }
+    });
     label->Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) {
         holder_ = nullptr;
         parts_.Controls.Run([this] { GiveUpDrag(parts_.Model); });
@@ -129,7 +149,6 @@ void KeyHand::PressKey(CellLabel* label, Index index, int button) {
         }
     }
     over_ = kNoSlot;
-    sight_ = SightOf(label);
     button_ = button;
     Hold(label);
     ShowPointer();
@@ -139,11 +158,23 @@ void KeyHand::PressKey(CellLabel* label, Index index, int button) {
 // key.
 SlotNumber KeyHand::RowAt(const wxPoint& screen) const {
     for (const Target& target : targets_) {
-        if (target.Row->GetScreenRect().Contains(screen)) {
-            return sight_->GetScreenRect().Contains(screen) ? target.Slot : kNoSlot;
+        if (IsSeenAt(target.Row, screen)) {
+            return target.Slot;
         }
     }
     return kNoSlot;
+}
+
+// The mouse is held by the key, and the wheel with it.
+bool KeyHand::ScrollUnder(const wxPoint& screen, const wxMouseEvent& wheel) {
+    wxScrolledWindow* const scrolled = ScrolledAround(wxFindWindowAtPoint(screen));
+    if (scrolled == nullptr || wheel.GetWheelAxis() != wxMOUSE_WHEEL_VERTICAL) {
+        return false;
+    }
+    const int lines = wheel.GetLinesPerAction() * (wheel.GetWheelRotation() > 0 ? -1 : 1);
+    scrolled->Scroll(wxDefaultCoord, std::max(0, scrolled->GetViewStart().y + lines));
+    Move(screen);
+    return true;
 }
 
 void KeyHand::ShowRow(SlotNumber slot) {

@@ -42,16 +42,16 @@ class KeyHand {
     void Hold(CellLabel* label);
     void Hear(wxMouseEvent& event, CellLabel* label);
     [[nodiscard]] SlotNumber RowAt(const wxPoint& screen) const;
+    bool ScrollUnder(const wxPoint& screen, const wxMouseEvent& wheel);
     void ShowRow(SlotNumber slot);
 
     FigParts& parts_;
-    std::vector<Target> targets_;      // where a drag can end
-    const wxWindow* sight_ = nullptr;  // what is seen of them
-    int button_ = wxMOUSE_BTN_NONE;    // that began the drag, and ends it
-    SlotNumber over_ = kNoSlot;        // the row under the pointer
-    CellLabel* holder_ = nullptr;      // holds the mouse
-    bool listening_ = false;           // for a key, not for the end of a drag
-    bool keyUp_ = false;               // the key that began the waiting was let go
+    std::vector<Target> targets_;    // where a drag can end
+    int button_ = wxMOUSE_BTN_NONE;  // that began the drag, and ends it
+    SlotNumber over_ = kNoSlot;      // the row under the pointer
+    CellLabel* holder_ = nullptr;    // holds the mouse
+    bool listening_ = false;         // for a key, not for the end of a drag
+    bool keyUp_ = false;             // the key that began the waiting was let go
     DragIcon shown_ = DragIcon::None;
 };
 

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "foundation/field_strings.h"
+#include "foundation/forms/screen_fit.h"
 #include "foundation/forms/wx_text.h"
 #include "foundry/editor/aliases_page.h"
 #include "foundry/editor/lifecycle.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr int kNameLetters = 20;
 constexpr int kPositionHeight = 6;  // at 100 %
 constexpr int kAliasRows = 7;
+constexpr int kRoomForAll = 1000;  // at 100 %: that name, picture and button need beside each other
 constexpr int kFrameLetters = 34;
 
 /// A text with CR LF, as a field of several lines has it.
@@ -139,8 +141,13 @@ NamePicture* MakeNameRow(FigParts& parts, wxWindow* page, wxSizer* rows) {
     shown->Add(MakePositions(parts, page, picture->GetSize().x),
                wxSizerFlags().Border(wxTOP, kCellGap).ReserveSpaceEvenIfHidden());
     row->Add(shown, wxSizerFlags().Border(wxRIGHT, 2 * kPageGap));
-    row->Add(parts.MakeButton(page, "ViewCustomLetters_Cmd", form.ViewCustomLetters_Cmd,
-                              [&form] { ViewCustomLetters_Cmd_Click(form); }));
+    wxButton* letters = parts.MakeButton(page, "ViewCustomLetters_Cmd", form.ViewCustomLetters_Cmd,
+                                         [&form] { ViewCustomLetters_Cmd_Click(form); });
+    if (WorkArea(*page).width < page->FromDIP(kRoomForAll)) {
+        shown->Add(letters, wxSizerFlags().Border(wxTOP, kCellGap));
+    } else {
+        row->Add(letters);
+    }
     rows->Add(row, wxSizerFlags().Expand().Border(wxALL, kPageGap));
     parts.Controls.OnShow([picture] {
         picture->ShowState();

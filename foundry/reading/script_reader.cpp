@@ -9,6 +9,7 @@
 #include "foundation/game_numbers.h"
 #include "foundation/numbers.h"
 #include "foundry/reading/free_form.h"
+#include "foundry/reading/joined_line.h"
 #include "foundry/reading/script_keywords.h"
 
 namespace lv {
@@ -180,6 +181,9 @@ TextView SecondPass::TakeComment(TextView line) {
 }
 
 void SecondPass::TakeLine(std::span<char> bytes) {
+    if (sections_.IsInput()) {
+        bytes = bytes.subspan(AxesWithoutSpeed(TextView(bytes.data(), bytes.size())));
+    }
     const TextView whole(bytes.data(), bytes.size());
     const TextView statement = TakeComment(TrimmedView(whole, kScriptBlanks));
     for (std::size_t at = whole.find(kHardBlank); at != TextView::npos; at = whole.find(kHardBlank, at)) {
@@ -269,7 +273,8 @@ std::uint64_t ReadAliases(RandomAccessFile& file, ScriptDocument& document) {
     ScriptLines lines(file);
     std::span<char> bytes;
     while (lines.Next(bytes)) {
-        const TextView line = BeforeComment(TextView(bytes.data(), bytes.size()));
+        const TextView whole(bytes.data(), bytes.size());
+        const TextView line = BeforeComment(whole.substr(inInput ? AxesWithoutSpeed(whole) : 0));
         if (unreal && line.starts_with('[')) {
             inInput = SameText(LeftOf(line), "[engine.input]");
         }

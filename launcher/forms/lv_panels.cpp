@@ -19,6 +19,7 @@
 #include "launcher/window_life.h"
 #include "launcher/window_menu.h"
 #include "platform/list_height.h"
+#include "platform/list_pictures.h"
 #include "platform/scroll_bars.h"
 #include "platform/spoken_name.h"
 
@@ -227,9 +228,9 @@ wxSizer* LvPanels::MakeButtonBar() {
 wxSizer* LvPanels::MakeExePanel() {
     wxStaticBoxSizer* panel = MakePanel("Exe_Pan", &LV_Frm::Exe_Pan);
     auto* list = new GameList(at_);
-    // This list shows its pictures larger by the screen's scale than it reckons with.
     exes_ = list;
-    list->SetMinSize(wxSize(FromDIP(160), static_cast<int>(kGamePicture * GetContentScaleFactor()) + kGamePictureRoom));
+    FitListPictures(list->GetHandle(), kGamePicture);
+    list->SetMinSize(wxSize(FromDIP(160), FromDIP(kGamePicture) + kGamePictureRoom));
     SetSpokenName(list->GetHandle(), "Game");
     binder_.Bind("Exe_Cbo", launcher_.Window.Exe_Cbo, list, [this] { Exe_Cbo_Click(launcher_); });
     panel->Add(MakeRow(nullptr, list, {MakeMenuPicture(0)}), Row());

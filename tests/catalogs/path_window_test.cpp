@@ -24,6 +24,7 @@ TEST_F(PathWindow, ShowsDrivesAndDirectories) {
     EXPECT_EQ(form.DirPaths, (TextList{"C:\\", "C:\\Quake", "C:\\Quake\\ctf", "C:\\Quake\\ID1", "C:\\Quake\\maps"}));
     EXPECT_EQ(form.DirLevels, (std::vector<int>{0, 1, 2, 2, 2}));
     EXPECT_EQ(form.Dir1.ListIndex, 1);
+    EXPECT_EQ(form.Focus, "Dir1");
     EXPECT_EQ(form.Path_Lbl.Caption, "C:\\Quake");
 }
 

@@ -7,6 +7,7 @@
 #include <wx/cshelp.h>
 #include <wx/image.h>
 
+#include "tests/forms/complaints.h"
 #include "tests/forms/patience.h"
 #include "tests/forms/window_manners.h"
 
@@ -28,6 +29,7 @@ class TestApp : public wxApp {
             // Within the toolkit's life, for it has a timer.
             lv::Patience patience;
             lv::WatchManners();
+            lv::FailAtComplaints();
             auto& listeners = ::testing::UnitTest::GetInstance()->listeners();
             listeners.Append(&patience);
             result_ = RUN_ALL_TESTS();

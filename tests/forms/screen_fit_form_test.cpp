@@ -1,4 +1,4 @@
-// Windows on screens that are too small for them. These tests run on a screen of 960 by 540 too.
+// Windows on screens that are too small for them. These tests run on a screen of 1920 by 1080 at 200 % too.
 
 #include "foundation/forms/screen_fit.h"
 
@@ -11,6 +11,7 @@
 #include <array>
 
 #include "catalogs/forms/entry_forms.h"
+#include "foundation/forms/kept_place.h"
 #include "foundation/forms/modal_form.h"
 #include "foundation/question_box.h"
 #include "gamespy/forms/game_spy_form.h"
@@ -196,6 +197,44 @@ TEST_F(OnAnyScreen, ALongMessageShowsItsButtons) {
     AskUserOnce(run, title, text, "&Yes,&No", 0, 0);
 }
 
+/// A window of 400 by 300 that was left 200 pixels from the right edge of a screen and 100 from its lower one.
+wxFrame* ComeUpAtTheEdge(KeptPlace*& kept, WindowPlacement& placement) {
+    auto* frame = new wxFrame(nullptr, wxID_ANY, "Placed", wxDefaultPosition, wxSize(400, 300));
+    frame->SetName("Placed_Frm");
+    placement.Left = ToTwips(Screen().GetRight() - 200);
+    placement.Top = ToTwips(Screen().GetBottom() - 100);
+    kept = new KeptPlace(*frame, placement);
+    kept->Put();
+    frame->Show();
+    BringForward(frame);
+    Settle(300);
+    return frame;
+}
+
+TEST_F(OnAnyScreen, AWindowThatWasLeftOnAnotherScreenComesUpWhollyOnThisOne) {
+    WindowPlacement placement;
+    placement.LeftElsewhere = true;
+    KeptPlace* kept = nullptr;
+    wxFrame* const frame = ComeUpAtTheEdge(kept, placement);
+    ExpectOnScreen("Placed_Frm");
+    EXPECT_LE(placement.Left, ToTwips(Screen().GetRight() - 399));
+    frame->Destroy();
+    Settle();
+    delete kept;
+}
+
+TEST_F(OnAnyScreen, AWindowThatWasLeftPartlyOffThisScreenComesUpThere) {
+    WindowPlacement placement;
+    KeptPlace* kept = nullptr;
+    wxFrame* const frame = ComeUpAtTheEdge(kept, placement);
+    const wxPoint place(Screen().GetRight() - 200, Screen().GetBottom() - 100);
+    EXPECT_TRUE(SettleUntil([&] { return frame->GetPosition() == place; }, 2000))
+        << frame->GetPosition().x << ", " << frame->GetPosition().y;
+    frame->Destroy();
+    Settle();
+    delete kept;
+}
+
 using MainWindowOnAnyScreen = LvForm_;
 
 TEST_F(MainWindowOnAnyScreen, TheMainWindowIsOnItWithItsMenuBar) {
@@ -212,6 +251,13 @@ TEST_F(MainWindowOnAnyScreen, TheMainWindowIsOnItWithItsMenuBar) {
     Settle(300);
     ExpectOnScreen("LV_Frm");
     EXPECT_TRUE(form->GetScreenRect().Contains(Find("DoIt_Cmd(0)")->GetScreenRect()));
+}
+
+TEST_F(MainWindowOnAnyScreen, TheListOfGamesIsAsHighAsItsPicture) {
+    const wxWindow* const list = Find("Exe_Cbo");
+    EXPECT_GE(list->GetSize().y, list->FromDIP(24));
+    EXPECT_LE(list->GetSize().y, list->FromDIP(24) + 20);
+    EXPECT_LE(list->GetBestSize().y, list->FromDIP(24) + 20);
 }
 
 TEST_F(MainWindowOnAnyScreen, TheLiveProfileWindowIsOnItToo) {

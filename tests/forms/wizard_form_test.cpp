@@ -115,8 +115,7 @@ TEST_F(WizardForm, EnterGoesIntoTheDirectoryThatTypingFoundAndAcceptsNothing) {
         DoAndAnswer([] { ClickOn(Find("Browse_Cmd(0)")); },
                     [] {
                         auto* list = FindAs<wxListBox>("Dir1");
-                        list->SetFocus();
-                        Settle();
+                        EXPECT_TRUE(HasKeyboard(list));
                         TypeText("qu");
                         EXPECT_EQ(list->GetStringSelection(), "   QUAKE");
                         PressKey(WXK_RETURN);

@@ -33,15 +33,20 @@ TEST(WithinArea, CutsWhatIsLargerThanTheArea) {
 }
 
 TEST(WithinReach, TakesAPlacePartlyOffTheScreenAsItIs) {
-    EXPECT_EQ(WithinReach({-300, 400, 400, 300}, kArea), (ScreenRect{-300, 400, 400, 300}));
+    EXPECT_EQ(WithinReach({-240, 400, 400, 300}, kArea), (ScreenRect{-240, 400, 400, 300}));
     EXPECT_EQ(WithinReach({900, 500, 400, 300}, kArea), (ScreenRect{900, 500, 400, 300}));
 }
 
 TEST(WithinReach, BringsTheTitleBarWhereTheMouseReachesIt) {
     EXPECT_EQ(WithinReach({100, -80, 400, 300}, kArea), (ScreenRect{100, 30, 400, 300}));
     EXPECT_EQ(WithinReach({100, 700, 400, 300}, kArea), (ScreenRect{100, 516, 400, 300}));
-    EXPECT_EQ(WithinReach({-500, 100, 400, 300}, kArea), (ScreenRect{-376, 100, 400, 300}));
+    EXPECT_EQ(WithinReach({-500, 100, 400, 300}, kArea), (ScreenRect{-240, 100, 400, 300}));
     EXPECT_EQ(WithinReach({2000, 100, 400, 300}, kArea), (ScreenRect{936, 100, 400, 300}));
+}
+
+TEST(WithinReach, KeepsAWindowOnItsScreenThatIsNarrowerThanItsButtons) {
+    EXPECT_EQ(WithinReach({-100, 100, 120, 300}, kArea), (ScreenRect{0, 100, 120, 300}));
+    EXPECT_EQ(WithinReach({959, 100, 20, 300}, kArea), (ScreenRect{940, 100, 20, 300}));
 }
 
 TEST(WithinReach, CutsWhatIsLargerThanTheArea) {

@@ -123,11 +123,39 @@ TEST_F(WindowServices, ANormalWindowStoresAll) {
     EXPECT_EQ(Stored("Width"), "6000");
 }
 
+TEST_F(WindowServices, APlaceIsStoredWithItsScreen) {
+    user.ScreenIs = {1920, 1080};
+    SavePlacement(run, "LV_Frm", {150, 300, 4500, 6000, kWindowNormal});
+    EXPECT_EQ(Stored("ScreenHeight"), "16200");
+    EXPECT_EQ(Stored("ScreenWidth"), "28800");
+}
+
+TEST_F(WindowServices, APlaceOfAnotherScreenIsMarked) {
+    user.ScreenIs = {1920, 1080};
+    SavePlacement(run, "LV_Frm", {450, 900, 4500, 6000, kWindowNormal});
+    EXPECT_TRUE(Loaded().LeftElsewhere);
+    EXPECT_EQ(Loaded().Top, 450);
+    EXPECT_EQ(Loaded().Left, 900);
+    WindowPlacement placement;
+    LoadPlacement(run, "LV_Frm", placement, {28800, 16200});
+    EXPECT_FALSE(placement.LeftElsewhere);
+    LoadPlacement(run, "LV_Frm", placement, {14400, 16200});
+    EXPECT_TRUE(placement.LeftElsewhere);
+    LoadPlacement(run, "LV_Frm", placement, {28800, 8100});
+    EXPECT_TRUE(placement.LeftElsewhere);
+}
+
+TEST_F(WindowServices, APlaceWithoutAScreenCountsAsOneOfThisScreen) {
+    Save(run, "LV_Frm", "Top", 900);
+    EXPECT_FALSE(Loaded().LeftElsewhere);
+}
+
 TEST_F(WindowServices, AMaximisedWindowStoresItsStateAlone) {
     SavePlacement(run, "LV_Frm", {150, 300, 4500, 6000, kWindowMaximised});
     EXPECT_EQ(Stored("WindowState"), "2");
     EXPECT_EQ(Stored("Top"), "(none)");
     EXPECT_EQ(Stored("Width"), "(none)");
+    EXPECT_EQ(Stored("ScreenWidth"), "(none)");
 }
 
 TEST_F(WindowServices, AWindowClosedWhileMinimisedKeepsTheLastNormalPlace) {

@@ -65,6 +65,25 @@ TEST(Placement, IsTheMiddleForAWindowLeftBelowTheScreen) {
         << ", " << PlaceOf(window).Top;
 }
 
+// As it was stored on 1920 by 1080 pixels, in the middle.
+TEST(Placement, IsWhollyOnAScreenThatIsSmallerThanTheLast) {
+    ProgramHome home("placement_smaller");
+    home.Prepare();
+    home.Set("LV_Frm", "Left", std::to_string(600 * 15));
+    home.Set("LV_Frm", "Top", std::to_string(300 * 15));
+    home.Set("LV_Frm", "ScreenWidth", std::to_string(1920 * 15));
+    home.Set("LV_Frm", "ScreenHeight", std::to_string(1080 * 15));
+    ProgramRun program(home);
+    const std::string window = program.WaitForWindow();
+    EXPECT_TRUE(WaitUntil([&] {
+        const Rectangle now = PlaceOf(window);
+        return now.Left >= 0 && now.Top >= 0 && now.Left + now.Width <= 1024 && now.Top + now.Height <= 768;
+    })) << PlaceOf(window).Left
+        << ", " << PlaceOf(window).Top;
+    ASSERT_EQ(program.EndByF12(), 0);
+    EXPECT_EQ(home.Get("LV_Frm", "ScreenWidth"), std::to_string(1024 * 15));
+}
+
 TEST(Placement, PutsTheSizeBackWithinTwoSecondsAndAHalf) {
     ProgramHome home("placement_size");
     home.Prepare();

@@ -42,7 +42,7 @@ VideoProfileForm::VideoProfileForm(VideoProfile_Frm& model, WxUser& user)
     KeepScrollBarsInSight(content_->GetHandle());
     content_->SetScrollRate(FromDIP(10), FromDIP(10));
     FollowKeyboard(*content_);
-    auto* rows = new wxBoxSizer(wxVERTICAL);
+    auto* rows = new UnsqueezedRows;
     rows->Add(MakeCardRow(), wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap));
     rows->Add(MakeColumns(), wxSizerFlags(1).Expand().Border(wxALL, kGap / 2));
     content_->SetSizer(rows);

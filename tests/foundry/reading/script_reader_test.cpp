@@ -373,8 +373,12 @@ TEST(ReadLines, ReadsTheSpeedOfTheMouse) {
 
 TEST(ReadLines, TakesAnotherUseOfTheMouseForAnUnknownKey) {
     const ScriptDocument document =
-        ReadScript(4, "[Engine.Input]\nMouseX=MouseY=Axis aMouseY Speed=6.0\nMouseY=Axis aMouseX Speed=2");
-    EXPECT_EQ(document.Sections[0].Text, "mousex=MouseY=Axis aMouseY Speed=6.0\r\n\r\nmousey=Axis aMouseX Speed=2\r\n");
+        ReadScript(4,
+                   "[Engine.Input]\nMouseX=Axis aMouseY Speed=6.0\nMouseY=Axis aMouseX Speed=2\n"
+                   "MouseY=Count bYAxis | Axis aMouseY Speed=6.0\nMouseX=Fire");
+    EXPECT_EQ(document.Sections[0].Text,
+              "mousex=Axis aMouseY Speed=6.0\r\n\r\nmousey=Axis aMouseX Speed=2\r\n\r\n"
+              "mousey=Count bYAxis | Axis aMouseY Speed=6.0\r\n\r\nmousex=Fire\r\n");
     EXPECT_EQ(document.MouseBind_Cbo[0].ListIndex, -1);
 }
 

@@ -236,14 +236,6 @@ TEST(RoundTrip, BringsTheSecondEnterOfAnIniBackAsTheFirst) {
     EXPECT_EQ(read.KeyBinding[93], "");
 }
 
-// Kept on purpose: the two lines without an end run into one that the reader knows no key for.
-TEST(RoundTrip, OfAnIniWithoutMouseSpeedsKeepsTheOddLine) {
-    const ScriptDocument d = ReadScript(kUnrealDialect, "[Engine.Input]\n");
-    const ScriptDocument read = ReadScript(kUnrealDialect, Written(d));
-    EXPECT_EQ(CountLines(Written(d), "MouseX=MouseY="), 1);
-    EXPECT_TRUE(Holds(LowerCase(read.Sections.front().Text), "mousex=mousey="));
-}
-
 // Kept on purpose: the format's own first name counts when the player has none.
 TEST(RoundTrip, APlayerWithoutANameIsCalledPlayer) {
     EXPECT_EQ(ReadScript(kQuakeDialect, Written(ReadScript(kQuakeDialect, "bind w +forward"))).Name_Txt.Text, "player");
