@@ -3,6 +3,10 @@
 #include <wx/cursor.h>
 #include <wx/scrolwin.h>
 
+#include <algorithm>
+#include <cstdlib>
+
+#include "foundation/screen_fit.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/forms/key_codes.h"
 
@@ -10,9 +14,12 @@ namespace lv {
 
 namespace {
 
+constexpr int kBetweenPulls = 40;  // milliseconds
+constexpr int kPullMargin = 16;    // at 100 %
+
 /// The part of the window that scrolls: what lies beyond its edge is not seen.
-const wxWindow* SightOf(const wxWindow* window) {
-    while (dynamic_cast<const wxScrolledWindow*>(window) == nullptr && window->GetParent() != nullptr) {
+wxWindow* SightOf(wxWindow* window) {
+    while (dynamic_cast<wxScrolledWindow*>(window) == nullptr && window->GetParent() != nullptr) {
         window = window->GetParent();
     }
     return window;
@@ -131,7 +138,9 @@ void KeyHand::PressKey(CellLabel* label, Index index, int button) {
     over_ = kNoSlot;
     sight_ = SightOf(label);
     button_ = button;
+    began_ = wxGetMousePosition();
     Hold(label);
+    pull_.Start(kBetweenPulls);
     ShowPointer();
 }
 
@@ -172,6 +181,26 @@ void KeyHand::Move(const wxPoint& screen) {
     ShowPointer();
 }
 
+// A drag that nears the edge scrolls the window, until the row comes that the key is for.
+void KeyHand::Pull() {
+    auto* const content = dynamic_cast<wxScrolledWindow*>(sight_);
+    const wxPoint pointer = wxGetMousePosition();
+    const wxPoint way = pointer - began_;
+    if (!IsDragging() || content == nullptr ||
+        std::max(std::abs(way.x), std::abs(way.y)) < content->FromDIP(kPullMargin)) {
+        return;
+    }
+    const wxRect seen = content->GetScreenRect();
+    const int margin = content->FromDIP(kPullMargin);
+    const wxPoint pull(PullAtEdge(pointer.x, seen.x, seen.width, margin),
+                       PullAtEdge(pointer.y, seen.y, seen.height, margin));
+    if (pull != wxPoint()) {
+        const wxPoint view = content->GetViewStart();
+        content->Scroll(std::max(0, view.x + pull.x), std::max(0, view.y + pull.y));
+        Move(pointer);
+    }
+}
+
 void KeyHand::Release(const wxPoint& screen) {
     Move(screen);
     const SlotNumber row = over_;
@@ -199,6 +228,7 @@ void KeyHand::LetGo() {
     holder_ = nullptr;
     listening_ = false;
     shown_ = DragIcon::None;
+    pull_.Stop();
     if (holder != nullptr) {
         holder->SetCursor(wxNullCursor);
         if (holder->HasCapture()) {
