@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "catalogs/forms/entry_forms.h"
+#include "foundation/forms/help_bubble.h"
 #include "foundation/forms/wx_text.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
@@ -126,7 +127,7 @@ class LorvaneApp : public wxApp {
             return false;
         }
         program_ = std::make_unique<Program<System>>(std::move(host));
-        wxHelpProvider::Set(new wxSimpleHelpProvider);
+        wxHelpProvider::Set(new HelpBubbles);
         form_ = new LvForm(program_->TheLauncher, program_->User, splash_);
         SetTopWindow(form_);
         LetTheSessionEnd();

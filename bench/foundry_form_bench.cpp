@@ -20,6 +20,7 @@
 #include "bench/long_script.h"
 #include "bench/paint_watch.h"
 #include "catalogs/forms/entry_forms.h"
+#include "foundation/forms/help_bubble.h"
 #include "foundation/settings.h"
 #include "foundry/editor/setup_foundry.h"
 #include "foundry/forms/fig_form.h"
@@ -258,7 +259,7 @@ class BenchApp : public wxApp {
   public:
     bool OnInit() override {
         wxImage::AddHandler(new wxPNGHandler);
-        wxHelpProvider::Set(new wxSimpleHelpProvider);
+        wxHelpProvider::Set(new lv::HelpBubbles);
         wxUpdateUIEvent::SetMode(wxUPDATE_UI_PROCESS_SPECIFIED);  // both as the program does
         wxIdleEvent::SetMode(wxIDLE_PROCESS_SPECIFIED);
         SetExitOnFrameDelete(false);

@@ -43,4 +43,11 @@ ShownContent ShowInRoom(int width, int height, int roomWidth, int roomHeight, in
     return shown;
 }
 
+int PullAtEdge(int at, int begin, int length, int margin) {
+    if (length <= 2 * margin) {
+        return 0;
+    }
+    return at < begin + margin ? -1 : static_cast<int>(at >= begin + length - margin);
+}
+
 }  // namespace lv

@@ -35,4 +35,8 @@ struct ShownContent {
 /// All of it where there is room; else what there is room for, with a scroll bar, `bar` wide, for each way that is cut.
 ShownContent ShowInRoom(int width, int height, int roomWidth, int roomHeight, int bar);
 
+/// Whither a pointer at `at` pulls what scrolls, during a drag: -1 near its begin or before it, 1 near its end or
+/// behind it, 0 elsewhere, and where it is too short to have a middle.
+int PullAtEdge(int at, int begin, int length, int margin);
+
 }  // namespace lv

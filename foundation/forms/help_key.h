@@ -1,6 +1,6 @@
 // foundation/forms/help_key.h
 //
-// F1 in every window.
+// F1 in every window, and Shift+F1, that tells what the control with the keyboard is for.
 
 #pragma once
 
@@ -12,7 +12,7 @@
 
 namespace lv {
 
-/// Said by a window that has F1 for itself, and opens the handbook where it has no other use for it.
+/// Said by a window that has both for itself, and opens the handbook where it has no other use for F1.
 void UsesHelpKey(wxWindow* window);
 
 /// Looks at the keys of all windows before they do. Some systems make an event of their own of F1, that would tell what

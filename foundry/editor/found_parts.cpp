@@ -154,7 +154,8 @@ class Finder {
             return true;
         }
         for (Index key = 0; key <= CountDelimiters(keys, ":"); ++key) {
-            if (In(PlainName(KeyIndexOfCaption(document_.KeyCaption, Trim(GetField(keys, key, ":")))))) {
+            const KeyIndex index = KeyIndexOfCaption(document_.KeyCaption, Trim(GetField(keys, key, ":")));
+            if (In(PlainName(index)) || (index != kNoKey && In(SpokenName(index)))) {
                 return true;
             }
         }
@@ -168,7 +169,8 @@ class Finder {
     void FindKeys() {
         for (Index label = 0; label <= kLastKeyLabel; ++label) {
             const KeyLabel& shown = form_.Key_Lbl[static_cast<std::size_t>(label)];
-            if (shown.Exists && shown.Visible && (In(shown.Caption) || KeyHasIt(KeyOfLabel(label, GameKind())))) {
+            if (shown.Exists && shown.Visible &&
+                (In(shown.Caption) || In(SpokenName(label)) || KeyHasIt(KeyOfLabel(label, GameKind())))) {
                 found_.push_back({.Page = EditorPage::Bindings,
                                   .Control = Member("Key_Lbl", label),
                                   .Caption = Join("Key ", shown.Caption),

@@ -21,8 +21,8 @@ struct FoundPart {
 };
 
 /// All parts that have the text, whatever its letter case: settings by their captions, rows by what they are called,
-/// what they do and their keys, keys by their names and what they do, aliases by name and body. In the order of the
-/// pages. What is hidden is left out, and a row that is not filled.
+/// what they do and their keys, keys by their names, the spoken ones too, and what they do, aliases by name and body.
+/// In the order of the pages. What is hidden is left out, and a row that is not filled.
 std::vector<FoundPart> FindParts(const Fig_Frm& form, TextView text);
 
 }  // namespace lv

@@ -93,6 +93,36 @@ void AddEdit(UndoHistory& history, std::vector<CellChange> changes) {
     }
     history.Edits.push_back(std::move(changes));
     ++history.Position;
+    history.Clean.resize(history.Position + 1);
+}
+
+bool EqualsFile(const UndoHistory& history) {
+    return !history.FileState.empty() && history.Different.empty();
+}
+
+/// The cells have changed in State.
+void CompareWithFile(UndoHistory& history, const std::vector<CellChange>& changes) {
+    if (history.FileState.empty()) {
+        return;
+    }
+    for (const CellChange& change : changes) {
+        const TextView inFile =
+            change.Cell < history.FileState.size() ? TextView(history.FileState[change.Cell]) : TextView();
+        if (history.State[change.Cell] == inFile) {
+            history.Different.erase(change.Cell);
+        } else {
+            history.Different.insert(change.Cell);
+        }
+    }
+}
+
+/// The document equals its file, and at no other position.
+void KeepFileState(UndoHistory& history) {
+    history.CleanPosition = history.Position;
+    history.FileState = history.State;
+    history.Different.clear();
+    history.Clean.assign(history.Edits.size() + 1, false);
+    history.Clean[history.Position] = true;
 }
 
 void EnableButtons(Fig_Frm& form) {
@@ -126,16 +156,22 @@ void Apply(Fig_Frm& form, const std::vector<CellChange>& edit, bool back) {
     for (KeyLabel& label : form.Key_Lbl) {
         label.ToolTip.clear();
     }
-    form.Document.ScriptClean = form.History.Position == form.History.CleanPosition;
+    CompareWithFile(form.History, edit);
+    form.Document.ScriptClean = EqualsFile(form.History) || form.History.Clean[form.History.Position];
     EnableButtons(form);
 }
 
 }  // namespace
 
 void StartHistory(Fig_Frm& form) {
-    form.History = {};
-    form.History.CleanPosition = form.Document.ScriptClean ? 0 : kNoPosition;
-    ReadCells(form, [&](std::uint32_t, TextView text, CellUse) { form.History.State.emplace_back(text); });
+    UndoHistory& history = form.History;
+    history = {};
+    history.CleanPosition = kNoPosition;
+    history.Clean.assign(1, false);
+    ReadCells(form, [&](std::uint32_t, TextView text, CellUse) { history.State.emplace_back(text); });
+    if (form.Document.ScriptClean) {
+        KeepFileState(history);
+    }
     EnableButtons(form);
 }
 
@@ -146,6 +182,7 @@ void NoteEdit(Fig_Frm& form) {
     }
     Changes changes = FindChanges(form);
     if (changes.Cells.empty()) {
+        form.Document.ScriptClean = form.Document.ScriptClean || EqualsFile(history);
         return;
     }
     history.State.resize(std::max<std::size_t>(history.State.size(), changes.Cells.back().Cell + 1));
@@ -153,15 +190,18 @@ void NoteEdit(Fig_Frm& form) {
     for (const CellChange& change : changes.Cells) {
         history.State[change.Cell].replace(change.At, change.Removed.size(), change.Inserted);
     }
+    CompareWithFile(history, changes.Cells);
     if (!joined) {
         AddEdit(history, std::move(changes.Cells));
     }
+    form.Document.ScriptClean = form.Document.ScriptClean || EqualsFile(history);
+    history.Clean[history.Position] = form.Document.ScriptClean;
     EnableButtons(form);
 }
 
 void NoteSaved(Fig_Frm& form) {
     NoteEdit(form);
-    form.History.CleanPosition = form.History.Position;
+    KeepFileState(form.History);
 }
 
 void Undo_Cmd_Click(Fig_Frm& form) {

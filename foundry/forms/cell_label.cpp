@@ -13,6 +13,7 @@
 #include "foundation/forms/wx_text.h"
 #include "foundry/editor/phun_names_frm.h"
 #include "platform/spoken_name.h"
+#include "platform/tab_stops.h"
 
 namespace lv {
 
@@ -66,8 +67,8 @@ CellLabel::CellLabel(wxWindow* parent, const wxString& name, Look look, CellGrou
     if (group_ == nullptr) {
         return;
     }
+    SetCanFocus(false);
     group_->Add(this);
-    SetCanFocus(true);
     Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent& event) {
         event.Skip();
         group_->SetEntry(this);
@@ -87,8 +88,18 @@ CellLabel::~CellLabel() {
     }
 }
 
+// A toolkit that keeps the stops itself knows them by SetCanFocus, and takes a no to this for good.
 bool CellLabel::AcceptsFocusFromKeyboard() const {
-    return AcceptsFocus() && group_->Entry() == this;
+    return group_ != nullptr && (ToolkitKeepsTabStops() || (IsShown() && group_->Entry() == this));
+}
+
+// Where the toolkit itself walks from stop to stop, only a stop can have the keyboard.
+void CellLabel::SetFocus() {
+    if (group_ != nullptr) {
+        SetCanFocus(true);
+        group_->SetEntry(this);
+    }
+    wxWindow::SetFocus();
 }
 
 void CellLabel::Speak() {
@@ -120,6 +131,9 @@ bool CellLabel::ShowState() {
     shown_ = std::move(look);
     if (came) {
         Show(shown_.Visible);
+        if (group_ != nullptr) {
+            group_->Settle();
+        }
     }
     if (speaker_ && (!spoken_.empty() || HasFocus())) {
         Speak();
@@ -196,12 +210,33 @@ void CellLabel::MoveFocus(wxKeyEvent& event) {
 
 void CellGroup::Add(CellLabel* label) {
     labels_.push_back(label);
+    if (stop_ == nullptr) {
+        Settle();
+    }
 }
 
 void CellGroup::Remove(CellLabel* label) {
     std::erase(labels_, label);
-    if (entry_ == label) {
-        entry_ = nullptr;
+    entry_ = entry_ == label ? nullptr : entry_;
+    stop_ = stop_ == label ? nullptr : stop_;
+}
+
+void CellGroup::SetEntry(CellLabel* label) {
+    entry_ = label;
+    Settle();
+}
+
+void CellGroup::Settle() {
+    CellLabel* const stop = Entry();
+    if (stop == stop_) {
+        return;
+    }
+    if (stop_ != nullptr) {
+        stop_->SetCanFocus(false);
+    }
+    stop_ = stop;
+    if (stop_ != nullptr) {
+        stop_->SetCanFocus(true);
     }
 }
 

@@ -49,6 +49,7 @@ class CellLabel : public wxWindow {
 
     bool AcceptsFocus() const override { return group_ != nullptr && IsShown(); }
     bool AcceptsFocusFromKeyboard() const override;
+    void SetFocus() override;
 
     [[nodiscard]] const CellLook& Shown() const { return shown_; }
 
@@ -74,14 +75,17 @@ class CellLabel : public wxWindow {
     Text spoken_;
 };
 
-/// Labels among which the arrow keys lead. One of them is where Tab comes to.
+/// Labels among which the arrow keys lead. One of them is where Tab comes to: the one that had the keyboard last, or
+/// the first that is visible. All of a group stand on one panel.
 class CellGroup {
   public:
     void Add(CellLabel* label);
     void Remove(CellLabel* label);
 
     [[nodiscard]] CellLabel* Entry() const;
-    void SetEntry(CellLabel* label) { entry_ = label; }
+    void SetEntry(CellLabel* label);
+    /// A label came or went: another one may be where Tab comes to.
+    void Settle();
 
     /// The nearest visible label of the group in that direction; null if there is none.
     [[nodiscard]] CellLabel* Neighbour(const CellLabel& from, int dx, int dy) const;
@@ -89,6 +93,7 @@ class CellGroup {
   private:
     std::vector<CellLabel*> labels_;
     CellLabel* entry_ = nullptr;
+    CellLabel* stop_ = nullptr;  // of all labels the toolkit knows this one as a stop of Tab
 };
 
 wxColour ToWxColour(Color color);

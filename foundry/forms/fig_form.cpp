@@ -1,7 +1,6 @@
 #include "foundry/forms/fig_form.h"
 
 #include <wx/button.h>
-#include <wx/cshelp.h>
 #include <wx/display.h>
 #include <wx/settings.h>
 #include <wx/stattext.h>
@@ -9,6 +8,7 @@
 
 #include <algorithm>
 
+#include "foundation/forms/help_bubble.h"
 #include "foundation/forms/help_key.h"
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/screen_fit.h"
@@ -35,12 +35,13 @@ namespace {
 constexpr int kFindLetters = 30;
 constexpr int kFrameRoom = 40;     // of the screen's height, left for the frame
 constexpr int kUsualWidth = 1000;  // at 100 %: what a screen of 1024 by 768 has room for
-constexpr int kUsualHeight = 706;
+constexpr int kUsualHeight = 686;
 constexpr int kTabHeight = 39;
 constexpr int kScrollStep = 10;
 constexpr int kPageFrames = 4;     // gaps beside a page: those of two notebooks
 constexpr int kPageRows = 17;      // of labels, that a page has room for
 constexpr int kLeastPageRows = 5;  // that it shows of them on a small screen, and scrolls
+constexpr int kSpokenAtOnce = 32;
 
 // The letter behind the "&" of a caption; 0 without one.
 char AccessKeyOf(TextView caption) {
@@ -80,6 +81,11 @@ void LayOut(wxWindow* page) {
     page->Layout();
 }
 
+bool HasFocusInside(const wxWindow* window) {
+    wxWindow* const focus = wxWindow::FindFocus();
+    return focus != nullptr && (focus == window || window->IsDescendant(focus));
+}
+
 template <std::size_t Count>
 struct Named {
     const char* Names[Count];
@@ -115,14 +121,18 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
         new wxScrolledWindow(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxHSCROLL | wxVSCROLL);
     KeepScrollBarsInSight(content_->GetHandle());
     content_->SetScrollRate(FromDIP(kScrollStep), FromDIP(kScrollStep));
+    FollowKeyboard(*content_);
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeFindRow(), wxSizerFlags().Expand().Border(wxALL, kPageGap / 2));
     rows->Add(MakeMainTab(), wxSizerFlags(1).Expand());
     keys_ = new KeyPanels(content_, parts_);
     rows->Add(keys_, wxSizerFlags().Expand().Border(wxTOP, kPageGap / 2));
-    rows->Add(parts_.MakeLabel(content_, "Hint_Lbl", model_.Hint_Lbl),
-              wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap / 2));
     content_->SetSizer(rows);
+    hint_ = parts_.MakeLabel(this, "Hint_Lbl", model_.Hint_Lbl);
+    auto* all = new wxBoxSizer(wxVERTICAL);
+    all->Add(content_, wxSizerFlags(1).Expand());
+    all->Add(hint_, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap / 2));
+    SetSizer(all);
     BindEvents();
     ShowState();
     GiveWhatsThis(this);
@@ -261,7 +271,7 @@ void FigForm::BindEvents() {
         event.Skip();
         if (!place_.IsPut()) {
             PrepareOnePage();
-        } else if (painted_ && (parts_.Controls.FillOne() || MakeOnePage())) {
+        } else if (painted_ && (parts_.Controls.FillOne() || MakeOnePage() || SpeakSome())) {
             event.RequestMore();
         }
     });
@@ -325,6 +335,10 @@ bool FigForm::PressShortcut(const wxKeyEvent& event) {
     const bool control = event.GetModifiers() == wxMOD_CONTROL;
     const bool both = event.GetModifiers() == (wxMOD_CONTROL | wxMOD_SHIFT);
     const int code = event.GetKeyCode();
+    const bool undoes = event.ControlDown() && (code == 'Z' || code == 'Y');
+    if (undoes && HasFocusInside(FindWindow("Find_Txt"))) {
+        return false;  // what is looked for is no edit of the script: the field has its own
+    }
     if (control && code == 'Z') {
         parts_.Controls.Run([this] { Undo_Cmd_Click(model_); });
     } else if ((control && code == 'Y') || (both && code == 'Z')) {
@@ -336,9 +350,7 @@ bool FigForm::PressShortcut(const wxKeyEvent& event) {
     } else if (code == WXK_F3 && !event.HasAnyModifiers()) {
         parts_.Controls.Run([this] { FindNext_Cmd_Click(model_); });
     } else if (code == WXK_F1 && event.GetModifiers() == wxMOD_SHIFT) {
-        if (wxWindow* focus = FindFocus()) {
-            wxHelpProvider::Get()->ShowHelp(focus);
-        }
+        TellOfFocus(this);
     } else if (code == WXK_F1 && !event.HasAnyModifiers()) {
         parts_.Controls.Run([this] { OpenHelpFile(model_.run); });
     } else {
@@ -395,7 +407,27 @@ bool FigForm::MakeOnePage() {
     showing_ = false;
     LayOut(page->Page()->GetChildren().front());
     GiveWhatsThis(page->Page());
+    SpeakAnew();
     return true;
+}
+
+void FigForm::SpeakAnew() {
+    unspoken_.clear();
+    for (const auto& [slot, label] : parts_.SettingLabels) {
+        unspoken_.push_back(label);
+    }
+    for (const auto& [index, label] : parts_.KeyLabels) {
+        unspoken_.push_back(label);
+    }
+}
+
+// In idle moments: some systems take their time to keep a name.
+bool FigForm::SpeakSome() {
+    for (int i = 0; i < kSpokenAtOnce && !unspoken_.empty(); ++i) {
+        unspoken_.back()->Speak();
+        unspoken_.pop_back();
+    }
+    return !unspoken_.empty();
 }
 
 // One at a time, for the splash has dots to draw. There is nothing yet to fill lists with.
@@ -438,8 +470,10 @@ void FigForm::ShowState() {
     const bool moved = keys_->ShowState();
     hand_.ShowState();
     if (changed || moved) {
+        Layout();
         content_->Layout();
     }
+    SpeakAnew();
     if (changed) {
         LayOutPages();
     }
@@ -522,7 +556,8 @@ int FigForm::PagesWidth() {
 void FigForm::FitToScreen() {
     wxSize room =
         wxDisplay(GetParent() != nullptr ? GetParent() : static_cast<wxWindow*>(this)).GetClientArea().GetSize();
-    room.y -= FromDIP(kFrameRoom);
+    const int below = hint_->GetBestSize().y + kPageGap / 2;
+    room.y -= FromDIP(kFrameRoom) + below;
     const int bar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, content_);
     const int height = TabsHeight(kPageRows);
     tabs_->SetMinSize(wxSize(-1, height));
@@ -535,7 +570,7 @@ void FigForm::FitToScreen() {
     wanted.IncTo(wxSize(std::min(std::max(usual.x, PagesWidth()), room.x), std::min(usual.y, room.y)));
     content_->SetVirtualSize(wanted);
     const ShownContent shown = ShowInRoom(wanted.x, wanted.y, room.x, room.y, bar);
-    SetClientSize(shown.Width, shown.Height);
+    SetClientSize(shown.Width, shown.Height + below);
 }
 
 WxUser::FormMaker MakeFoundryForms(WxUser& user) {

@@ -51,6 +51,8 @@ class FigForm : public wxDialog {
     bool MakeOnePage();
     void PrepareOnePage();
     void LeadToFound();
+    void SpeakAnew();
+    bool SpeakSome();
     void FitToScreen();
     wxSize WantedSize();
     int PagesWidth();
@@ -70,7 +72,9 @@ class FigForm : public wxDialog {
     KeyPanels* keys_ = nullptr;
     std::vector<wxWindow*> pages_;  // those that lay out controls that come and go
     std::vector<LatePage> late_;
-    wxTimer saveTimer_;  // Save_Tmr
+    wxWindow* hint_ = nullptr;          // below all that scrolls, in sight whatever row waits for a key
+    std::vector<CellLabel*> unspoken_;  // whose names may be old
+    wxTimer saveTimer_;                 // Save_Tmr
     bool showing_ = false;
     bool painted_ = false;  // has been seen
 };

@@ -27,6 +27,7 @@ struct FigParts {
     Fig_Frm& Model;
     Binder Controls;
     CellGroup Keys;
+    CellGroup ControllerKeys;
     CellGroup Colors;
     std::map<SlotNumber, CellLabel*> SettingLabels;
     std::map<SlotNumber, CellLabel*> BoundLabels;

@@ -77,6 +77,9 @@ Index LabelOfKey(const wxKeyEvent& event) {
 
 Index LabelOfMouse(const wxMouseEvent& event) {
     if (event.GetWheelRotation() != 0) {
+        if (event.GetWheelAxis() != wxMOUSE_WHEEL_VERTICAL) {
+            return kNoKey;  // a wheel that is tilted: no script knows it
+        }
         return event.GetWheelRotation() > 0 ? kWheelUp : kWheelDown;
     }
     const int button = event.ButtonDown() || event.ButtonDClick() ? event.GetButton() : wxMOUSE_BTN_NONE;

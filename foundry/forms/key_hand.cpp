@@ -4,13 +4,18 @@
 #include <wx/scrolwin.h>
 
 #include <algorithm>
+#include <cstdlib>
 
+#include "foundation/screen_fit.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/forms/key_codes.h"
 
 namespace lv {
 
 namespace {
+
+constexpr int kBetweenPulls = 40;  // milliseconds
+constexpr int kPullMargin = 16;    // at 100 %
 
 /// Whether the window is seen there: what lies beyond the edge of a part that scrolls is not.
 bool IsSeenAt(const wxWindow* window, const wxPoint& screen) {
@@ -150,7 +155,9 @@ void KeyHand::PressKey(CellLabel* label, Index index, int button) {
     }
     over_ = kNoSlot;
     button_ = button;
+    began_ = wxGetMousePosition();
     Hold(label);
+    pull_.Start(kBetweenPulls);
     ShowPointer();
 }
 
@@ -203,6 +210,27 @@ void KeyHand::Move(const wxPoint& screen) {
     ShowPointer();
 }
 
+// A drag that nears the edge scrolls the window, until the row comes that the key is for.
+void KeyHand::Pull() {
+    const wxPoint pointer = wxGetMousePosition();
+    wxWindow* const under = wxFindWindowAtPoint(pointer);
+    wxScrolledWindow* const content = ScrolledAround(under != nullptr ? under : holder_);
+    const wxPoint way = pointer - began_;
+    if (!IsDragging() || content == nullptr ||
+        std::max(std::abs(way.x), std::abs(way.y)) < content->FromDIP(kPullMargin)) {
+        return;
+    }
+    const wxRect seen = content->GetScreenRect();
+    const int margin = content->FromDIP(kPullMargin);
+    const wxPoint pull(PullAtEdge(pointer.x, seen.x, seen.width, margin),
+                       PullAtEdge(pointer.y, seen.y, seen.height, margin));
+    if (pull != wxPoint()) {
+        const wxPoint view = content->GetViewStart();
+        content->Scroll(std::max(0, view.x + pull.x), std::max(0, view.y + pull.y));
+        Move(pointer);
+    }
+}
+
 void KeyHand::Release(const wxPoint& screen) {
     Move(screen);
     const SlotNumber row = over_;
@@ -230,6 +258,7 @@ void KeyHand::LetGo() {
     holder_ = nullptr;
     listening_ = false;
     shown_ = DragIcon::None;
+    pull_.Stop();
     if (holder != nullptr) {
         holder->SetCursor(wxNullCursor);
         if (holder->HasCapture()) {

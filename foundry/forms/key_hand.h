@@ -5,6 +5,8 @@
 
 #pragma once
 
+#include <wx/timer.h>
+
 #include <functional>
 
 #include "foundry/forms/fig_parts.h"
@@ -14,6 +16,8 @@ namespace lv {
 class KeyHand {
   public:
     explicit KeyHand(FigParts& parts);
+    KeyHand(const KeyHand&) = delete;
+    KeyHand& operator=(const KeyHand&) = delete;
 
     void WatchKey(CellLabel* label, Index index);
     void WatchRow(CellLabel* label, SlotNumber slot);
@@ -28,6 +32,14 @@ class KeyHand {
     [[nodiscard]] bool IsDragging() const { return holder_ != nullptr && !listening_; }
 
   private:
+    class PullTimer : public wxTimer {
+      public:
+        explicit PullTimer(KeyHand& hand) : hand_(hand) {}
+        void Notify() override { hand_.Pull(); }
+
+      private:
+        KeyHand& hand_;
+    };
     struct Target {
         SlotNumber Slot;
         const CellLabel* Row;
@@ -37,6 +49,7 @@ class KeyHand {
     void PressKey(CellLabel* label, Index index, int button);
     void Move(const wxPoint& screen);
     void Release(const wxPoint& screen);
+    void Pull();
     void ShowPointer();
     void LetGo();
     void Hold(CellLabel* label);
@@ -46,7 +59,9 @@ class KeyHand {
     void ShowRow(SlotNumber slot);
 
     FigParts& parts_;
-    std::vector<Target> targets_;    // where a drag can end
+    std::vector<Target> targets_;  // where a drag can end
+    wxPoint began_;                // where the mouse was pressed
+    PullTimer pull_{*this};
     int button_ = wxMOUSE_BTN_NONE;  // that began the drag, and ends it
     SlotNumber over_ = kNoSlot;      // the row under the pointer
     CellLabel* holder_ = nullptr;    // holds the mouse

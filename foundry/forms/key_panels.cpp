@@ -101,7 +101,7 @@ void KeyPanels::MakeKey(wxWindow* picture, Index label) {
     Fig_Frm& form = parts_.Model;
     CellLabel* key = parts_.MakeCell(
         picture, wxString::Format("Key_Lbl(%d)", label), [&form, label] { return LookOfKey(form, label); },
-        &parts_.Keys);
+        StandsOnController(label) ? &parts_.ControllerKeys : &parts_.Keys);
     key->SetFont(key->GetFont().Smaller());
     key->SetSpeaker([&form, label] { return SpokenKey(form, label); });
     parts_.KeyLabels[label] = key;
@@ -163,10 +163,13 @@ wxPanel* KeyPanels::MakeKeyboard() {
     auto* rows = new wxBoxSizer(wxVERTICAL);
     auto* top = new wxBoxSizer(wxHORIZONTAL);
     top->Add(MakeLegend(panel), wxSizerFlags(1).CenterVertical());
-    top->Add(
-        parts_.MakeButton(panel, "JoyToggle_Cmd(0)", form.JoyToggle_Cmd[0], [&form] { JoyToggle_Cmd_Click(form, 0); }));
+    wxButton* toggle =
+        parts_.MakeButton(panel, "JoyToggle_Cmd(0)", form.JoyToggle_Cmd[0], [&form] { JoyToggle_Cmd_Click(form, 0); });
+    top->Add(toggle);
     rows->Add(top, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, kPageGap));
-    rows->Add(MakePicture(panel, false), wxSizerFlags().Center().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap));
+    wxPanel* picture = MakePicture(panel, false);
+    rows->Add(picture, wxSizerFlags().Center().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap));
+    toggle->MoveAfterInTabOrder(picture);  // Tab comes from the rows to the keys
     panel->SetSizer(rows);
     return panel;
 }
@@ -183,11 +186,13 @@ wxPanel* KeyPanels::MakeController() {
                  panel, "Device_Cbo", form.Device_Cbo, [&form] { Device_Cbo_Click(form); }, "Controller"),
              wxSizerFlags().CenterVertical());
     top->AddStretchSpacer();
-    top->Add(
-        parts_.MakeButton(panel, "JoyToggle_Cmd(1)", form.JoyToggle_Cmd[1], [&form] { JoyToggle_Cmd_Click(form, 1); }));
+    wxButton* toggle =
+        parts_.MakeButton(panel, "JoyToggle_Cmd(1)", form.JoyToggle_Cmd[1], [&form] { JoyToggle_Cmd_Click(form, 1); });
+    top->Add(toggle);
     rows->Add(top, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT, kPageGap));
     devicePicture_ = MakePicture(panel, true);
     devicePicture_->SetName("Device_Pic");
+    toggle->MoveAfterInTabOrder(devicePicture_);
     devicePicture_->Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
         wxPaintDC canvas(devicePicture_);
         if (device_.IsOk()) {

@@ -6,6 +6,7 @@
 
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/wx_text.h"
@@ -100,6 +101,13 @@ class RowMaker {
         return column;
     }
 
+    /// Tab walks over the boxes behind all rows, which are one stop.
+    void PutBoxesBehindRows() {
+        for (wxCheckBox* box : boxes_) {
+            box->MoveAfterInTabOrder(page_->GetChildren().back());
+        }
+    }
+
   private:
     wxWindow* MakeHeading(SlotNumber number) {
         if (number == 0) {
@@ -141,12 +149,14 @@ class RowMaker {
         wxCheckBox* team =
             parts_.MakeCheck(page_, Indexed("Say_Team_Chk", slot).utf8_str(), form.Document.Say_Team_Chk[slot],
                              [&form, slot] { Say_Team_Chk_Click(form, slot); });
+        boxes_.push_back(team);
         row->Add(team, wxSizerFlags().CenterVertical().Border(wxLEFT, kPageGap));
     }
 
     FigParts& parts_;
     wxWindow* page_;
     std::shared_ptr<CellGroup> group_;
+    std::vector<wxCheckBox*> boxes_;
 };
 
 bool Belongs(const ColumnRow& column, BindingsPage page, Index kind) {
@@ -233,6 +243,7 @@ void MakeBindingsPage(FigParts& parts, wxWindow* page, BindingsPage which) {
             columns->Add(made, wxSizerFlags(1).Border(wxRIGHT, kPageGap));
         }
     }
+    maker.PutBoxesBehindRows();
     rows->Add(columns, wxSizerFlags(1).Expand().Border(wxALL, kPageGap));
     const auto below = wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, kPageGap);
     if (which == BindingsPage::System) {

@@ -267,6 +267,12 @@ void SecondPass::ChooseSkin(const std::function<void()>& modelChosen) {
 
 }  // namespace
 
+bool LineHoldsAlias(TextView name, TextView body) {
+    const Text line = Join("alias \"", name, "\" \"", body, DoubleQuote);
+    const AliasLine read = ConsoleAlias(BeforeComment(line));
+    return Trim(read.Name) == LowerCase(Trim(name)) && Trim(read.Body) == LowerCase(Trim(body));
+}
+
 std::uint64_t ReadAliases(RandomAccessFile& file, ScriptDocument& document) {
     const bool unreal = IsUnreal(document);
     bool inInput = false;

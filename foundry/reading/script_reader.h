@@ -16,6 +16,10 @@ namespace lv {
 /// No index counts further. The lines of aliases beyond stay in the free-form text.
 constexpr std::size_t kMostAliases = 32767;
 
+/// Whether a console script's line gives the alias back as it was written, but for letter case: a double quote and what
+/// begins a comment end it early.
+bool LineHoldsAlias(TextView name, TextView body);
+
 struct ScriptReading {
     bool Foreign = true;  // neither this program's banner nor its section was seen
 };

@@ -48,5 +48,17 @@ TEST(KeyCodes, TheSystemsOwnKeyIsNoneOfTheGames) {
     EXPECT_EQ(LabelOf(WXK_WINDOWS_LEFT), kNone);
 }
 
+TEST(KeyCodes, ATurnOfTheWheelIsAKeyAndATiltIsNone) {
+    wxMouseEvent event(wxEVT_MOUSEWHEEL);
+    event.m_wheelRotation = 120;
+    EXPECT_EQ(LabelOfMouse(event), 96);
+    event.m_wheelRotation = -120;
+    EXPECT_EQ(LabelOfMouse(event), 97);
+    event.m_wheelAxis = wxMOUSE_WHEEL_HORIZONTAL;
+    EXPECT_EQ(LabelOfMouse(event), kNone);
+    event.m_wheelRotation = 120;
+    EXPECT_EQ(LabelOfMouse(event), kNone);
+}
+
 }  // namespace
 }  // namespace lv

@@ -7,6 +7,7 @@
 #include <wx/cshelp.h>
 #include <wx/image.h>
 
+#include "foundation/forms/help_bubble.h"
 #include "tests/forms/complaints.h"
 #include "tests/forms/patience.h"
 #include "tests/forms/window_manners.h"
@@ -22,7 +23,7 @@ class TestApp : public wxApp {
   public:
     bool OnInit() override {
         wxImage::AddHandler(new wxPNGHandler);
-        wxHelpProvider::Set(new wxSimpleHelpProvider);
+        wxHelpProvider::Set(new lv::HelpBubbles);
         wxSetAssertHandler(FailTheTest);
         SetExitOnFrameDelete(false);
         CallAfter([this] {

@@ -68,4 +68,18 @@ TEST(ShowInRoom, ABarMayCostTheOtherWayItsRoomToo) {
     EXPECT_EQ(ShowInRoom(1000, 500, 960, 510, 15), (ShownContent{960, 510, true, true}));
 }
 
+TEST(PullAtEdge, PullsNearTheEndsAndBehindThem) {
+    EXPECT_EQ(PullAtEdge(99, 100, 300, 16), -1);
+    EXPECT_EQ(PullAtEdge(115, 100, 300, 16), -1);
+    EXPECT_EQ(PullAtEdge(116, 100, 300, 16), 0);
+    EXPECT_EQ(PullAtEdge(383, 100, 300, 16), 0);
+    EXPECT_EQ(PullAtEdge(384, 100, 300, 16), 1);
+    EXPECT_EQ(PullAtEdge(500, 100, 300, 16), 1);
+}
+
+TEST(PullAtEdge, IsStillWhereThereIsNoMiddle) {
+    EXPECT_EQ(PullAtEdge(0, 0, 32, 16), 0);
+    EXPECT_EQ(PullAtEdge(40, 0, 32, 16), 0);
+}
+
 }  // namespace lv

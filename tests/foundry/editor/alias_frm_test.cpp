@@ -184,6 +184,21 @@ TEST_F(AliasFrm, AnUnrealAliasThatAnIniCannotHoldIsNotSaved) {
     EXPECT_TRUE(form.Document.AliasTable.empty());
 }
 
+TEST_F(AliasFrm, AnAliasThatTheNextReadingWouldLoseIsNotSaved) {
+    struct Damaged {
+        TextView Name;
+        TextView Body;
+    };
+    for (const Damaged& damaged : {Damaged{"qu\"ote", "wait"}, Damaged{"greet", "say \"hi\""},
+                                   Damaged{"greet", "wait;//x"}, Damaged{"a//b", "wait"}}) {
+        user.Expect({.Title = "Internal Error", .Text_ = "Unable to save alias.", .Whole = true});
+        Add(damaged.Name, damaged.Body, false);
+    }
+    EXPECT_TRUE(form.Document.AliasTable.empty());
+    Add("two words", "Say Hi / there ; wait", false);
+    EXPECT_EQ(Entry("two words"), "two words=Say Hi / there ; wait");
+}
+
 // Boxes
 
 TEST_F(AliasFrm, ABindableAliasTakesABox) {

@@ -135,6 +135,14 @@ TEST_F(FoundPartsTest, AKeyIsFoundByItsCaptionItsNamesAndItsCommand) {
     EXPECT_EQ(Type("{PageD"), "1 of 1: Key PgD!");
 }
 
+TEST_F(FoundPartsTest, AKeyAndItsRowAreFoundByTheNameThatIsSpoken) {
+    Start(kQuakeDialect, "bind mouse1 toggleconsole\n");
+    ShowKey(79, "M-1");
+    EXPECT_EQ(Type("mouse 1"), "1 of 2: Console");
+    EXPECT_EQ(Next(), "1 of 2: Console -> Setting_Lbl(304)");
+    EXPECT_EQ(Next(), "2 of 2: Key M-1 -> Key_Lbl(79)");
+}
+
 TEST_F(FoundPartsTest, AKeypadLabelIsFoundByTheCommandOfItsTwin) {
     Start(kQuakeDialect);
     ShowKey(88, "num five");

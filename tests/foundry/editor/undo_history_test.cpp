@@ -1,5 +1,6 @@
 #include "foundry/editor/undo_history.h"
 
+#include "foundry/editor/bindings_page.h"
 #include "tests/foundry/editor/undo_fixture.h"
 
 namespace lv {
@@ -119,6 +120,79 @@ TEST_F(UndoTest, TheScriptIsCleanAgainWhereItWasSaved) {
     EXPECT_TRUE(form.Document.ScriptClean);
     Redo();
     EXPECT_FALSE(form.Document.ScriptClean);
+}
+
+TEST_F(UndoTest, TheScriptIsCleanAgainByWhateverWayItComesBackToItsFile) {
+    Start(kQuakeDialect, "bind w +forward\n");
+    Bind(5, 111);
+    EXPECT_FALSE(form.Document.ScriptClean);
+    UnbindKey(form.Document, form, 5);
+    NoteEdit(form);
+    EXPECT_TRUE(form.Document.ScriptClean);
+    Bind(23, 102);
+    EXPECT_FALSE(form.Document.ScriptClean);
+    Bind(23, 101);
+    EXPECT_TRUE(form.Document.ScriptClean);
+    EXPECT_EQ(EditCount(), 4U);
+    Undo();
+    EXPECT_FALSE(form.Document.ScriptClean);
+    Redo();
+    EXPECT_TRUE(form.Document.ScriptClean);
+}
+
+TEST_F(UndoTest, ATickAndItsOppositeAreNoChange) {
+    Start();
+    CheckBox& box = form.Document.Unbindall_Chk;
+    const auto was = box.Value;
+    const auto tick = [&](bool back) {
+        box.Value = back ? was : static_cast<decltype(box.Value)>(1 - was);
+        Edited(form);
+        NoteEdit(form);
+    };
+    tick(false);
+    EXPECT_FALSE(form.Document.ScriptClean);
+    tick(true);
+    EXPECT_TRUE(form.Document.ScriptClean);
+}
+
+TEST_F(UndoTest, WhatChangedNothingLeavesTheScriptClean) {
+    Start();
+    Edited(form);
+    NoteEdit(form);
+    EXPECT_TRUE(form.Document.ScriptClean);
+    Bind(5, 111);
+    Edited(form);
+    NoteEdit(form);
+    EXPECT_FALSE(form.Document.ScriptClean);
+}
+
+TEST_F(UndoTest, AKeyThatIsClearedAloneDoesNotAskToSaveHoweverOftenItIsTakenBack) {
+    Start(kQuakeDialect, "bind w +forward\n");
+    user.Expect({.Title = "Comfirm Clear", .Text_ = "Clear binding?", .Answer = 0});
+    Key_Lbl_DblClick(form, 23);
+    NoteEdit(form);
+    EXPECT_EQ(Keys(101), "");
+    EXPECT_TRUE(form.Document.ScriptClean);
+    Undo();
+    EXPECT_TRUE(form.Document.ScriptClean);
+    Redo();
+    EXPECT_EQ(Keys(101), "");
+    EXPECT_TRUE(form.Document.ScriptClean);
+    Bind(5, 111);
+    EXPECT_FALSE(form.Document.ScriptClean);
+    Undo();
+    EXPECT_TRUE(form.Document.ScriptClean);
+}
+
+TEST_F(UndoTest, AfterASaveTheStateBeforeIsNotTheFilesAnyMore) {
+    Start(kQuakeDialect, "bind w +forward\n");
+    Bind(5, 111);
+    form.Document.ScriptClean = true;
+    NoteSaved(form);
+    Undo();
+    EXPECT_FALSE(form.Document.ScriptClean);
+    Bind(5, 111);
+    EXPECT_TRUE(form.Document.ScriptClean);
 }
 
 TEST_F(UndoTest, ASavedStateThatWasCutIsReachedByNoUndo) {

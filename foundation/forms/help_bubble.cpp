@@ -1,0 +1,125 @@
+#include "foundation/forms/help_bubble.h"
+
+#include <wx/display.h>
+#include <wx/settings.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+#include <algorithm>
+
+#include "platform/keyboard_place.h"
+
+namespace lv {
+
+namespace {
+
+constexpr int kWidth = 320;  // at 100 %
+constexpr int kMargin = 6;
+constexpr int kGap = 2;  // from the control or the pointer
+
+wxPopupWindow* MakeBubble(wxWindow* owner, const wxString& text) {
+    auto* bubble = new wxPopupWindow(owner, wxBORDER_SIMPLE);
+    bubble->SetName(kHelpBubbleName);
+    bubble->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_INFOBK));
+    wxString shown = text;
+    shown.Replace("&", "&&");
+    auto* label = new wxStaticText(bubble, wxID_ANY, shown);
+    label->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_INFOTEXT));
+    label->SetBackgroundColour(bubble->GetBackgroundColour());
+    label->Wrap(bubble->FromDIP(kWidth));
+    auto* room = new wxBoxSizer(wxVERTICAL);
+    room->Add(label, wxSizerFlags().Border(wxALL, bubble->FromDIP(kMargin)));
+    bubble->SetSizerAndFit(room);
+    return bubble;
+}
+
+/// The innermost control that the keyboard goes to.
+wxWindow* KeyboardIn(wxWindow* window) {
+    for (wxWindow* child : window->GetChildren()) {
+        if (!child->IsTopLevel() && child->IsShown() && HoldsKeyboard(child->GetHandle())) {
+            return KeyboardIn(child);
+        }
+    }
+    return window;
+}
+
+bool Closes(const wxEvent& event) {
+    const wxEventType type = event.GetEventType();
+    if (type == wxEVT_ACTIVATE) {
+        return !static_cast<const wxActivateEvent&>(event).GetActive();
+    }
+    return type == wxEVT_CHAR_HOOK || type == wxEVT_KEY_DOWN || type == wxEVT_LEFT_DOWN || type == wxEVT_RIGHT_DOWN ||
+           type == wxEVT_MIDDLE_DOWN || type == wxEVT_MOUSEWHEEL;
+}
+
+}  // namespace
+
+HelpBubbles::HelpBubbles() {
+    wxEvtHandler::AddFilter(this);
+}
+
+HelpBubbles::~HelpBubbles() {
+    wxEvtHandler::RemoveFilter(this);
+}
+
+bool HelpBubbles::ShowHelp(wxWindowBase* window) {
+    const wxRect place = window->GetScreenRect();
+    return Show(window, place.GetTopLeft(), place.height);
+}
+
+bool HelpBubbles::ShowHelpAtPoint(wxWindowBase* window, const wxPoint& place, wxHelpEvent::Origin) {
+    return Show(window, place, 0);
+}
+
+// Under what it tells of, or above where the screen ends.
+bool HelpBubbles::Show(wxWindowBase* window, const wxPoint& place, int height) {
+    const wxString text = GetHelp(window);
+    Close();
+    if (text.empty()) {
+        return false;
+    }
+    bubble_ = MakeBubble(wxGetTopLevelParent(static_cast<wxWindow*>(window)), text);
+    const wxSize size = bubble_->GetSize();
+    const wxRect screen = wxDisplay(static_cast<wxWindow*>(window)).GetClientArea();
+    wxPoint at(place.x, place.y + height + kGap);
+    at.x = std::max(screen.x, std::min(at.x, screen.GetRight() - size.x));
+    if (at.y + size.y > screen.GetBottom()) {
+        at.y = std::max(screen.y, place.y - size.y - kGap);
+    }
+    bubble_->Move(at);
+    bubble_->Show();
+    return true;
+}
+
+bool HelpBubbles::Close() {
+    if (!bubble_) {
+        return false;
+    }
+    wxPopupWindow* const bubble = bubble_;
+    bubble_ = nullptr;
+    bubble->SetName("");
+    bubble->Hide();
+    bubble->Destroy();
+    return true;
+}
+
+int HelpBubbles::FilterEvent(wxEvent& event) {
+    if (!bubble_ || !Closes(event)) {
+        return Event_Skip;
+    }
+    Close();
+    const auto* const key = dynamic_cast<const wxKeyEvent*>(&event);
+    return key != nullptr && key->GetKeyCode() == WXK_ESCAPE ? Event_Processed : Event_Skip;
+}
+
+void TellOfFocus(wxWindow* window) {
+    wxWindow* told = KeyboardIn(window);
+    while (told != nullptr && told->GetHelpText().empty()) {
+        told = told->IsTopLevel() ? nullptr : told->GetParent();
+    }
+    if (told != nullptr) {
+        wxHelpProvider::Get()->ShowHelp(told);
+    }
+}
+
+}  // namespace lv
