@@ -23,6 +23,7 @@
 #include "foundry/forms/main_pages.h"
 #include "foundry/forms/phun_names_form.h"
 #include "foundry/forms/row_pages.h"
+#include "foundry/forms/scrolled_page.h"
 #include "foundry/forms/settings_forms.h"
 #include "platform/scroll_bars.h"
 #include "platform/warm_up.h"
@@ -153,7 +154,10 @@ wxSizer* FigForm::MakeFindRow() {
 }
 
 wxPanel* FigForm::AddLate(wxWindow* parent, std::function<void(wxPanel*)> make) {
-    auto* page = new wxPanel(parent);
+    return AddLate(new wxPanel(parent), std::move(make));
+}
+
+wxPanel* FigForm::AddLate(wxPanel* page, std::function<void(wxPanel*)> make) {
     pages_.push_back(page);
     late_.emplace_back(page, [page, make = std::move(make)] { make(page); });
     return page;
@@ -167,7 +171,8 @@ wxWindow* FigForm::MakePlayerPage(wxNotebook* tabs) {
     auto* options = new wxNotebook(page, wxID_ANY);
     std::vector<wxWindow*> pages;
     for (int which = 0; which < static_cast<int>(model_.Document.Options_Tab.Pages.size()); ++which) {
-        pages.push_back(AddLate(options, [this, which](wxPanel* made) { MakeOptionsPage(parts_, made, which); }));
+        pages.push_back(
+            AddLate(MakeScrolledPage(options), [this, which](wxPanel* made) { MakeOptionsPage(parts_, made, which); }));
     }
     parts_.Controls.Bind("Options_Tab", model_.Document.Options_Tab, options, pages,
                          [this](int which) { Options_Tab_Click(model_, which); });
@@ -350,7 +355,7 @@ bool FigForm::MakeOnePage() {
     showing_ = true;
     parts_.Controls.Show();
     showing_ = false;
-    page->Page()->Layout();
+    LayOutPage(page->Page());
     GiveWhatsThis(page->Page());
     return true;
 }
@@ -372,7 +377,7 @@ void FigForm::MakeShownPages() {
     for (LatePage& late : late_) {
         if (IsOnTop(late.Page()) && late.Make()) {
             parts_.Controls.Show();
-            late.Page()->Layout();
+            LayOutPage(late.Page());
             if (place_.IsPut()) {
                 GiveWhatsThis(late.Page());
             }
@@ -399,7 +404,7 @@ void FigForm::ShowState() {
     }
     if (changed) {
         for (wxWindow* page : pages_) {
-            page->Layout();
+            LayOutPage(page);
         }
     }
     if (model_.Save_Tmr_Enabled && !saveTimer_.IsRunning()) {

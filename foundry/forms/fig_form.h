@@ -39,6 +39,7 @@ class FigForm : public wxDialog {
     wxWindow* MakePlayerPage(wxNotebook* tabs);
     wxWindow* MakeBindingsTabs(wxNotebook* tabs);
     wxPanel* AddLate(wxWindow* parent, std::function<void(wxPanel*)> make);
+    wxPanel* AddLate(wxPanel* page, std::function<void(wxPanel*)> make);
     void BindEvents();
     void PressKey(wxKeyEvent& event);
     bool PressOnLabel(wxKeyEvent& event);
