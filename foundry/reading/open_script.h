@@ -18,4 +18,7 @@ ScriptDialect DialectOfRun(const Run& run);
 /// be opened; the user was told why then, and the tables are as good as new.
 bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView path);
 
+/// The same for a script that is read from another file than its own.
+bool OpenScriptFrom(Run& run, ScriptDocument& document, ScriptView& view, TextView path, TextView source);
+
 }  // namespace lv
