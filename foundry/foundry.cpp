@@ -11,6 +11,7 @@ void ConnectFoundry(Launcher& launcher) {
 
 void ConnectEditor(SetupFoundry& foundry) {
     foundry.launcher.OpenSetupFoundry = [&foundry] { SetupFoundry_Bar_Click(foundry); };
+    foundry.launcher.KeepUnsavedEdits = [&foundry] { KeepUnsavedEdits(foundry); };
 }
 
 }  // namespace lv

@@ -56,6 +56,9 @@ struct Launcher {
     /// Opens the selected script in the script editor. Empty: the program has none.
     std::function<void()> OpenSetupFoundry;
 
+    /// The session ends: keeps what its user has not saved yet, and asks nothing. Empty: there is nothing to keep.
+    std::function<void()> KeepUnsavedEdits;
+
     /// Measures the main window's form. Empty: there is none, and the size stays as it is.
     std::function<WindowMeasures()> Measure;
 

@@ -100,6 +100,9 @@ void Exit_Bar_Click(Launcher& launcher) {
 
 void SessionEnds(Launcher& launcher) {
     if (launcher.run.MainFormLoaded && !launcher.run.Ended) {
+        if (launcher.KeepUnsavedEdits) {
+            launcher.KeepUnsavedEdits();
+        }
         Exit_Bar_Click(launcher);
     }
 }

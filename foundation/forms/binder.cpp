@@ -19,9 +19,11 @@ bool ShowControl(const Control& model, wxWindow* view, Text& tip) {
         view->Enable(model.Enabled);
     }
     if (tip != model.ToolTip) {
+        const std::string said = view->GetLabel().empty() ? SpokenName(view->GetHandle()) : std::string();
+        const bool hasOwnName = !said.empty() && said != ToUtf8(tip);
         tip = model.ToolTip;
         view->SetToolTip(ToWx(tip));
-        if (view->GetLabel().empty()) {
+        if (view->GetLabel().empty() && !hasOwnName) {
             SetSpokenName(view->GetHandle(), ToUtf8(tip));
         }
     }

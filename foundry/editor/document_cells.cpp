@@ -115,8 +115,6 @@ constexpr ListBox ScriptSettings::*kLists[] = {
     &ScriptSettings::v_kicktime_Cbo,
     &ScriptSettings::viewsize_Cbo,
     &ScriptSettings::vidmode_Cbo,
-    &ScriptSettings::WeaponsAvailable_Lst,
-    &ScriptSettings::WeaponsPriority_Lst,
 };
 
 constexpr int kNoTypedRow = -1;
@@ -132,6 +130,22 @@ void SetTypedRow(Fig_Frm& form, const ListBox& list, int row) {
     } else {
         form.TypedRows[&list] = row;
     }
+}
+
+/// Which row the buttons move is no part of the script.
+constexpr ListBox ScriptSettings::*kOrderedLists[] = {
+    &ScriptSettings::WeaponsAvailable_Lst,
+    &ScriptSettings::WeaponsPriority_Lst,
+};
+
+template <class List, class Visitor>
+void VisitOrderedList(List& list, Visitor& visit) {
+    visit.Packed([&](auto& cell) {
+        cell.Value(list.Items);
+        if constexpr (!std::is_const_v<List>) {
+            list.ListIndex = list.ListIndex < static_cast<Index>(list.Items.size()) ? list.ListIndex : -1;
+        }
+    });
 }
 
 /// What is selected stands last, beside the rows that come and go there: a change of both is a short one.
@@ -166,6 +180,9 @@ void VisitSettings(Form& form, Visitor& visit) {
     }
     for (const auto list : kLists) {
         VisitList(form, document.*list, visit);
+    }
+    for (const auto list : kOrderedLists) {
+        VisitOrderedList(document.*list, visit);
     }
     VisitList(form, document.Skin_Fil, visit);
     for (auto& list : document.UnrealAudio_Cbo) {

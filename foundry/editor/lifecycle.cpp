@@ -12,6 +12,7 @@
 #include "foundry/editor/controllers.h"
 #include "foundry/editor/key_picture.h"
 #include "foundry/editor/kind_layout.h"
+#include "foundry/editor/rescued_edits.h"
 #include "foundry/editor/settings_pages.h"
 #include "foundry/writing/save_script.h"
 
@@ -57,7 +58,9 @@ void ReadSettings(Fig_Frm& form) {
 
 void SaveDocument(Fig_Frm& form, SaveName name) {
     const SaveManner manner = {.Name = name, .Quiet = form.AutoSaveRunning};
+    const Text opened = form.Document.CurrentScriptPath;
     if (SaveScript(form.run, form.Lists, form.Document, form, manner)) {
+        DropRescuedEdits(form.run, opened);
         form.Caption = form.Document.Caption;
         NoteSaved(form);
     }
@@ -147,6 +150,9 @@ bool Fig_Frm_Unload(Fig_Frm& form) {
         return false;
     }
     SavePlacement(form.run, form.Name, form.Placement);
+    if (!form.run.Ended) {
+        DropRescuedEdits(form.run, form.Document.CurrentScriptPath);
+    }
     form.Save_Tmr_Enabled = false;
     form.Loaded = false;
     form.Closed = true;

@@ -2,10 +2,12 @@
 
 #include <exception>
 #include <memory>
+#include <optional>
 
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundry/editor/lifecycle.h"
+#include "foundry/editor/rescued_edits.h"
 #include "foundry/reading/open_script.h"
 
 namespace lv {
@@ -57,7 +59,14 @@ void Edit(SetupFoundry& foundry, Fig_Frm& form, TextView path) {
     if (!opened || run.Ended) {
         return;
     }
+    const std::optional<bool> rescued = OfferRescuedEdits(form);
+    if (!rescued) {
+        return;
+    }
     Fig_Frm_Load(form);
+    if (*rescued) {
+        MarkRescued(form);
+    }
     ShowModal(form);
     run.User.PumpEvents();
 }
@@ -74,6 +83,18 @@ class PreparedWindow {
     Run& run_;
 };
 
+/// Whom the end of the session asks for unsaved edits.
+class ShownEditor {
+  public:
+    ShownEditor(SetupFoundry& foundry, Fig_Frm& form) : foundry_(foundry) { foundry_.Window = &form; }
+    ~ShownEditor() { foundry_.Window = nullptr; }
+    ShownEditor(const ShownEditor&) = delete;
+    ShownEditor& operator=(const ShownEditor&) = delete;
+
+  private:
+    SetupFoundry& foundry_;
+};
+
 void TellWindowsError(Run& run, TextView what) {
     AskUser(run, "Windows Error",
             Join(what, NewLine, NewLine, "System low on Windows Resources.", NewLine,
@@ -85,6 +106,7 @@ void OpenEditor(SetupFoundry& foundry, TextView path) {
     Run& run = foundry.launcher.run;
     const auto form = std::make_unique<Fig_Frm>(run, foundry.launcher.Lists);
     const PreparedWindow prepared(run);
+    const ShownEditor shown(foundry, *form);
     try {
         ShowSFSplash(foundry, *form);
         if (run.Ended) {
@@ -110,6 +132,12 @@ void SFSplash_Timer1_Timer(SFSplash_Frm& splash) {
 
 void SFSplash_Unload_Tmr_Timer(SetupFoundry& foundry) {
     UnloadSplash(foundry.launcher.run, foundry.launcher.Splash);
+}
+
+void KeepUnsavedEdits(SetupFoundry& foundry) {
+    if (foundry.Window != nullptr) {
+        (void)RescueEdits(*foundry.Window);
+    }
 }
 
 void SetupFoundry_Bar_Click(SetupFoundry& foundry) {

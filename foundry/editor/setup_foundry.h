@@ -23,13 +23,17 @@ struct SetupFoundry {
 
     Launcher& launcher;
     SFSplash_Frm Splash;
-    bool Open = false;  // from the click that opens the editor until it is closed
+    Fig_Frm* Window = nullptr;  // while there is one
+    bool Open = false;          // from the click that opens the editor until it is closed
 };
 
 /// One more "."; at 78 characters it begins with "..." again.
 void SFSplash_Timer1_Timer(SFSplash_Frm& splash);
 /// Unloads the program's splash, not this one: kept on purpose.
 void SFSplash_Unload_Tmr_Timer(SetupFoundry& foundry);
+
+/// The session ends: nobody can be asked any more.
+void KeepUnsavedEdits(SetupFoundry& foundry);
 
 /// Opens the selected script. Nothing happens while one is open, or while a launch is under way.
 void SetupFoundry_Bar_Click(SetupFoundry& foundry);

@@ -24,7 +24,9 @@ constexpr double kEnlarged = 1.38;  // the picture's twips were pixels of smalle
 constexpr int kLegendLetters = 10;
 constexpr std::uint64_t kMostPictureBytes = 4'000'000;
 constexpr int kMostPicturePixels = 4000;  // both ways
-constexpr std::size_t kBmpHeader = 26;    // up to width and height
+constexpr std::size_t kBmpHeader = 34;    // up to the compression
+constexpr int kPlain = 0;                 // Windows BMP: BI_RGB
+constexpr int kPlainByMasks = 3;          // BI_BITFIELDS
 
 constexpr int kAboveKeyboard = 210;  // twips over the highest key, where the panel's caption was
 
@@ -73,6 +75,10 @@ wxImage ReadBitmap(Files& disk, TextView path) {
     const int height = NumberAt(bytes.Value, 22);
     if (width < 1 || width > kMostPicturePixels || height < -kMostPicturePixels || height > kMostPicturePixels) {
         return {};
+    }
+    const int compression = NumberAt(bytes.Value, 30);
+    if (compression != kPlain && compression != kPlainByMasks) {
+        return {};  // the toolkit makes stripes of run lengths
     }
     const wxLogNull quiet;
     wxMemoryInputStream stream(bytes.Value.data(), bytes.Value.size());

@@ -3,6 +3,7 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/display.h>
+#include <wx/scrolwin.h>
 #include <wx/stattext.h>
 
 #include <algorithm>
@@ -33,6 +34,22 @@ constexpr ButtonRow kButtons[] = {
     {"Restore_Cmd",      &PhunNames_Frm::Restore_Cmd,      PhunNames_Restore_Cmd_Click,      0},
 };
 // clang-format on
+
+/// By that many pixels and the rest of a step, in whatever scrolls it.
+void ScrollUp(const wxWindow& window, int pixels) {
+    for (wxWindow* parent = window.GetParent(); parent != nullptr && !parent->IsTopLevel();
+         parent = parent->GetParent()) {
+        auto* const scrolled = dynamic_cast<wxScrolledWindow*>(parent);
+        int step = 0;
+        if (scrolled != nullptr) {
+            scrolled->GetScrollPixelsPerUnit(nullptr, &step);
+        }
+        if (step > 0) {
+            scrolled->Scroll(wxDefaultCoord, scrolled->GetViewStart().y + (pixels + step - 1) / step);
+            return;
+        }
+    }
+}
 
 }  // namespace
 
@@ -89,15 +106,19 @@ wxSizer* PhunNamesForm::MakeButtons(Fig_Frm& editor) {
     return rows;
 }
 
-// So that the name stays in sight above.
+// So that the name and its cursor stay in sight above, scrolled up as far as need be.
 void PhunNamesForm::PlaceUnderName(wxWindow* owner) {
     const wxWindow* const picture = owner->FindWindow("Name_Pic");
     if (picture == nullptr) {
         return;
     }
-    const wxRect name = picture->GetScreenRect();
     const wxRect screen = wxDisplay(owner).GetClientArea();
     const wxSize size = GetSize();
+    const int missing = picture->GetScreenRect().GetBottom() + FromDIP(4 * kGap) + size.y - screen.GetBottom();
+    if (missing > 0) {
+        ScrollUp(*picture, missing);
+    }
+    const wxRect name = picture->GetScreenRect();
     Move(std::max(screen.x, std::min(name.x, screen.GetRight() - size.x)),
          std::max(screen.y, std::min(name.GetBottom() + FromDIP(4 * kGap), screen.GetBottom() - size.y)));
 }

@@ -96,12 +96,17 @@ ScriptDialect DialectOfRun(const Run& run) {
 }
 
 bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView path) {
+    return OpenScriptFrom(run, document, view, path, path);
+}
+
+bool OpenScriptFrom(Run& run, ScriptDocument& document, ScriptView& view, TextView path, TextView source) {
     const Text given(path);  // may be the document's own
+    const Text from(source);
     MakeAnew(document, view, DialectOfRun(run));
     document.CurrentScriptPath = given;
     document.CurrentScriptDirectory = given.substr(0, given.rfind('\\') + 1);
     PrepareSkinPage(run, document);
-    const auto reading = Read(run, document, view, given);
+    const auto reading = Read(run, document, view, from);
     if (!reading) {
         return false;
     }

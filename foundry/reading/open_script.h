@@ -19,4 +19,7 @@ ScriptDialect DialectOfRun(const Run& run);
 /// good as new then.
 bool OpenScript(Run& run, ScriptDocument& document, ScriptView& view, TextView path);
 
+/// The same for a script that is read from another file than its own.
+bool OpenScriptFrom(Run& run, ScriptDocument& document, ScriptView& view, TextView path, TextView source);
+
 }  // namespace lv

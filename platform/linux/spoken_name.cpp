@@ -11,9 +11,24 @@ void* AccessibleOf(void* control) {
     return get != nullptr && control != nullptr ? get(control) : nullptr;
 }
 
-}  // namespace
+/// What takes the keyboard of a list that can be typed into, or of what lies in a window that scrolls it.
+void* Within(void* control) {
+    static const auto isA = ToolkitFunction<int (*)(void*, unsigned long)>("g_type_check_instance_is_a");
+    static const auto child = ToolkitFunction<void* (*)(void*)>("gtk_bin_get_child");
+    static const auto scrolled = ToolkitFunction<unsigned long (*)()>("gtk_scrolled_window_get_type");
+    static const auto entry = ToolkitFunction<unsigned long (*)()>("gtk_entry_get_type");
+    static const auto combo = ToolkitFunction<unsigned long (*)()>("gtk_combo_box_get_type");
+    if (control == nullptr || !isA || !child || !scrolled || !entry || !combo) {
+        return nullptr;
+    }
+    if (isA(control, scrolled())) {
+        return child(control);
+    }
+    void* const field = isA(control, combo()) ? child(control) : nullptr;
+    return field != nullptr && isA(field, entry()) ? field : nullptr;
+}
 
-void SetSpokenName(void* control, const std::string& name) {
+void Name(void* control, const std::string& name) {
     const auto set = ToolkitFunction<void (*)(void*, const char*)>("atk_object_set_name");
     void* accessible = AccessibleOf(control);
     if (set != nullptr && accessible != nullptr) {
@@ -21,9 +36,19 @@ void SetSpokenName(void* control, const std::string& name) {
     }
 }
 
+}  // namespace
+
+void SetSpokenName(void* control, const std::string& name) {
+    Name(control, name);
+    if (void* const within = Within(control)) {
+        Name(within, name);
+    }
+}
+
 std::string SpokenName(void* control) {
     const auto get = ToolkitFunction<const char* (*)(void*)>("atk_object_get_name");
-    void* accessible = AccessibleOf(control);
+    void* const within = Within(control);
+    void* accessible = AccessibleOf(within != nullptr ? within : control);
     const char* name = get != nullptr && accessible != nullptr ? get(accessible) : nullptr;
     return name == nullptr ? std::string() : std::string(name);
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/spoken_name.h"
+#include "tests/forms/fig_form_fixture.h"
 #include "tests/forms/lv_form_fixture.h"
 #include "tests/forms/window_manners.h"
 
@@ -30,6 +31,34 @@ TEST_F(LvForm_, EveryControlHasATextOrANameThatAssistiveToolsRead) {
     for (int i = 0; i < 7; ++i) {
         EXPECT_NE(SpokenName(Find("Menu_Pic(" + std::to_string(i) + ")")->GetHandle()), "") << i;
     }
+}
+
+class SpokenSettings : public FigForm_ {
+  protected:
+    static std::string Spoken(const char* name) { return SpokenName(Find(name)->GetHandle()); }
+};
+
+TEST_F(SpokenSettings, AreCalledByTheirCaptionsAndNotByTheirToolTips) {
+    Use(kGames[1], "bind w +forward\n");
+    Edit([this] {
+        form->MakeAllPages();
+        form->ShowState();
+        EXPECT_EQ(Spoken("fov_Cbo"), "Field Of View");
+        EXPECT_EQ(Spoken("Crosshair_Cbo"), "Crosshair");
+        EXPECT_EQ(Spoken("Skin_Fil"), "Skins");
+        EXPECT_EQ(Spoken("Name_Txt"), "Player's name");
+    });
+}
+
+TEST_F(SpokenSettings, OfUnrealAreCalledSoTooWithTheListsOfWeapons) {
+    Use(kGames[4], "[Engine.Input]\nW=MoveForward\n");
+    Edit([this] {
+        form->MakeAllPages();
+        form->ShowState();
+        EXPECT_EQ(Spoken("PlayerPawn_Cbo(0)"), "Dodge Click Time");
+        EXPECT_EQ(Spoken("WeaponsAvailable_Lst"), "Unselected Weapons");
+        EXPECT_EQ(Spoken("WeaponsPriority_Lst"), "Weapon Preferance Order");
+    });
 }
 
 }  // namespace lv

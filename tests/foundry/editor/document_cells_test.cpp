@@ -70,7 +70,21 @@ ListedControl Listed(const char* name, std::array<One, Count> ScriptSettings::*c
             [control](const ScriptSettings& s, std::size_t i) { return Told((s.*control)[i]); }};
 }
 
+/// A list whose order is the setting: which row is selected is none.
+ListedControl Ordered(const char* name, ListBox ScriptSettings::*list) {
+    return {name, 1,
+            [list](ScriptSettings& s, std::size_t, int way) { (s.*list).Items.push_back(std::to_string(way)); },
+            [list](const ScriptSettings& s, std::size_t) {
+                Text told;
+                for (const Text& item : (s.*list).Items) {
+                    told += Join("/", item);
+                }
+                return told;
+            }};
+}
+
 #define LISTED(name) Listed(#name, &ScriptSettings::name)
+#define ORDERED(name) Ordered(#name, &ScriptSettings::name)
 
 const std::vector<ListedControl>& ListedControls() {
     static const std::vector<ListedControl> controls = {
@@ -131,13 +145,14 @@ const std::vector<ListedControl>& ListedControls() {
         LISTED(UnrealAudio_Cbo),
         LISTED(PlayerPawn_Cbo),
         LISTED(MouseBind_Cbo),
-        LISTED(WeaponsAvailable_Lst),
-        LISTED(WeaponsPriority_Lst),
+        ORDERED(WeaponsAvailable_Lst),
+        ORDERED(WeaponsPriority_Lst),
     };
     return controls;
 }
 
 #undef LISTED
+#undef ORDERED
 
 /// The names that the header declares: what stands before the ";" of each line of the struct.
 std::set<Text> DeclaredControls() {

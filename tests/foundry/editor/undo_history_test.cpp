@@ -400,5 +400,27 @@ TEST_F(UndoTest, ADragIsGivenUp) {
     EXPECT_EQ(form.Drag.Marked, kNoSlot);
 }
 
+TEST_F(UndoTest, SelectingAWeaponIsNoEdit) {
+    Start(kUnrealDialect, "[Engine.PlayerPawn]\nWeaponPriority[0]=ASMD\nWeaponPriority[1]=Rifle\n");
+    form.Document.WeaponsAvailable_Lst.ListIndex = 0;
+    form.Document.WeaponsPriority_Lst.ListIndex = 1;
+    NoteEdit(form);
+    EXPECT_EQ(EditCount(), 0U);
+    EXPECT_FALSE(form.Undo_Cmd.Enabled);
+}
+
+TEST_F(UndoTest, AWeaponThatIsTakenBackLeavesNoSelectionBehindTheLastRow) {
+    Start(kUnrealDialect, "[Engine.PlayerPawn]\nWeaponPriority[0]=ASMD\n");
+    ListBox& wanted = form.Document.WeaponsPriority_Lst;
+    const Index last = static_cast<Index>(wanted.Items.size());
+    wanted.Items.emplace_back("Minigun");
+    Edited(form);
+    NoteEdit(form);
+    wanted.ListIndex = last;
+    Undo();
+    EXPECT_EQ(static_cast<Index>(wanted.Items.size()), last);
+    EXPECT_EQ(wanted.ListIndex, -1);
+}
+
 }  // namespace
 }  // namespace lv

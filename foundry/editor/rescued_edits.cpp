@@ -1,0 +1,121 @@
+#include "foundry/editor/rescued_edits.h"
+
+#include <cstdint>
+#include <exception>
+
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+#include "foundry/reading/open_script.h"
+#include "foundry/writing/compose_script.h"
+
+namespace lv {
+
+namespace {
+
+constexpr TextView kRescueName = "SetupFoundry_Rescue_";
+constexpr const char* kTitle = "Setup Foundry";
+constexpr int kTakeUp = 0;
+
+/// The same for all spellings of a path (FNV-1a, 64 bit, in hexadecimal).
+Text MarkOf(TextView script) {
+    constexpr char kDigits[] = "0123456789abcdef";
+    constexpr int kBits = 64;
+    constexpr int kBitsOfDigit = 4;
+    std::uint64_t hash = 0xcbf29ce484222325U;
+    for (const char letter : LowerCase(script)) {
+        hash = (hash ^ static_cast<unsigned char>(letter)) * 0x100000001b3U;
+    }
+    Text mark;
+    for (int shift = kBits - kBitsOfDigit; shift >= 0; shift -= kBitsOfDigit) {
+        mark += kDigits[(hash >> static_cast<unsigned>(shift)) & 0xfU];
+    }
+    return mark;
+}
+
+Text NameOf(TextView script) {
+    return Join(kRescueName, MarkOf(script), ".txt");
+}
+
+Text BesideScript(TextView script) {
+    return Join(script.substr(0, script.rfind('\\') + 1), NameOf(script));
+}
+
+/// Empty if nothing was kept.
+Text KeptFile(Run& run, TextView script) {
+    for (const Text& path : {RescuePathOf(run, script), BesideScript(script)}) {
+        if (run.System.Disk.FileExists(path)) {
+            return path;
+        }
+    }
+    return {};
+}
+
+Error Keep(Run& run, const ScriptDocument& document) {
+    const Text script = ComposeScript(document, run.System.Time.Now());
+    const Text& path = document.CurrentScriptPath;
+    if (!run.System.Disk.ReplaceOwn(RescuePathOf(run, path), script)) {
+        (void)run.System.Disk.Delete(BesideScript(path));  // an older one, of which only one could be offered
+        return {};
+    }
+    return run.System.Disk.ReplaceOwn(BesideScript(path), script);
+}
+
+}  // namespace
+
+Text RescuePathOf(const Run& run, TextView script) {
+    const Text directory = run.AppDirectory.empty() ? run.System.Disk.ProgramDirectory() : run.AppDirectory;
+    return Join(directory, "\\", NameOf(script));
+}
+
+Error RescueEdits(Fig_Frm& form) {
+    if (!form.Loaded || form.Document.ScriptClean) {
+        return {};
+    }
+    try {
+        return Keep(form.run, form.Document);
+    } catch (const std::exception& thrown) {
+        return ErrorOfException(thrown);
+    }
+}
+
+std::optional<bool> OfferRescuedEdits(Fig_Frm& form) {
+    Run& run = form.run;
+    const Text script = form.Document.CurrentScriptPath;
+    const Text kept = KeptFile(run, script);
+    if (kept.empty()) {
+        return false;
+    }
+    const Index answer = AskUser(run, kTitle,
+                                 Join("There are edits of ", script, " that were not saved: the session ended first.",
+                                      NewLine, NewLine, "Take them up and go on, or drop them for good?"),
+                                 "&Take Them Up,&Drop Them");
+    if (run.Ended) {
+        return std::nullopt;
+    }
+    if (answer != kTakeUp) {
+        DropRescuedEdits(run, script);
+        return false;
+    }
+    const Text backupDue = form.Document.BackupDue;
+    const bool taken = OpenScriptFrom(run, form.Document, form, script, kept);
+    if (!taken && !OpenScript(run, form.Document, form, script)) {
+        return std::nullopt;
+    }
+    form.Document.BackupDue = backupDue;
+    return taken;
+}
+
+void MarkRescued(Fig_Frm& form) {
+    form.Document.ScriptClean = false;
+    StartHistory(form);
+}
+
+void DropRescuedEdits(Run& run, TextView script) {
+    for (Text kept = KeptFile(run, script); !kept.empty(); kept = KeptFile(run, script)) {
+        if (run.System.Disk.Delete(kept)) {
+            return;  // it is offered again
+        }
+    }
+}
+
+}  // namespace lv
