@@ -29,6 +29,7 @@ struct CatalogLists {
     Text MapList;  // ";"-list of the names found by the last map scan
 
     // The directories of which the user was told last that they hold more than a list shows.
+    Text ModificationsToldOf = {};
     Text MapsToldOf = {};
     Text ScriptsToldOf = {};
 };

@@ -20,11 +20,19 @@ Text* HiddenOf(CatalogLists& lists, TextView key) {
     return key == kServers.Key ? &lists.HiddenServers : nullptr;
 }
 
-bool SaveRows(Run& run, CatalogLists& lists, TextView key, Text rows) {
+Text WithHidden(CatalogLists& lists, TextView key, Text rows) {
     if (const Text* hidden = HiddenOf(lists, key); hidden != nullptr && !hidden->empty()) {
         AppendRecord(rows, *hidden);
     }
-    return StoreCatalog(run, key, rows);
+    return rows;
+}
+
+Text RowsOf(const ListBox& list) {
+    Text rows;
+    for (const Text& item : list.Items) {
+        AppendRecord(rows, Join(ItemTitle(item), ";", ItemValue(item)));
+    }
+    return rows;
 }
 
 }  // namespace
@@ -100,11 +108,11 @@ Text ItemValue(TextView item) {
 }
 
 bool SaveCatalog(Run& run, CatalogLists& lists, TextView key, const ListBox& list) {
-    Text rows;
-    for (const Text& item : list.Items) {
-        AppendRecord(rows, Join(ItemTitle(item), ";", ItemValue(item)));
-    }
-    return SaveRows(run, lists, key, std::move(rows));
+    return StoreCatalog(run, key, WithHidden(lists, key, RowsOf(list)));
+}
+
+std::size_t SavedLength(CatalogLists& lists, TextView key, const ListBox& list) {
+    return WithHidden(lists, key, RowsOf(list)).size();
 }
 
 bool SaveCatalog(Run& run, CatalogLists& lists, TextView key, const ImageCombo& list) {
@@ -112,7 +120,7 @@ bool SaveCatalog(Run& run, CatalogLists& lists, TextView key, const ImageCombo& 
     for (const ImageComboItem& item : list.Items) {
         AppendRecord(rows, Join(Trim(item.Title), ";", Trim(item.Key)));
     }
-    return SaveRows(run, lists, key, std::move(rows));
+    return StoreCatalog(run, key, WithHidden(lists, key, std::move(rows)));
 }
 
 int StoredPosition(Run& run, TextView key, Index fallback, std::size_t rows) {

@@ -73,6 +73,9 @@ Text ItemValue(TextView item);
 bool SaveCatalog(Run& run, CatalogLists& lists, TextView key, const ListBox& list);
 bool SaveCatalog(Run& run, CatalogLists& lists, TextView key, const ImageCombo& list);
 
+/// The length of the value that SaveCatalog would save.
+std::size_t SavedLength(CatalogLists& lists, TextView key, const ListBox& list);
+
 /// The stored position of a list, held within its rows; -1 without rows.
 int StoredPosition(Run& run, TextView key, Index fallback, std::size_t rows);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "catalogs/catalog_store.h"
+#include "catalogs/list_room.h"
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
 #include "foundation/list_search.h"
@@ -51,6 +52,18 @@ bool IsGameDirectory(Files& files, TextView directory) {
         }
         return !entry.IsDevice && (MatchesWildcard(entry.Name, "*.pak") || MatchesWildcard(entry.Name, "*.dat"));
     });
+}
+
+// The row is taken back where the catalog has no room for it.
+bool AddRow(Run& run, CatalogLists& lists, TextView directory) {
+    ListBox& list = lists.Game_Cbo;
+    list.Items.push_back(MakeItem(ModificationTitle(directory, run.GameKind), Join(kGameOption, directory)));
+    if (SavedLength(lists, kGames.Key, list) > kLongestValue) {
+        list.Items.pop_back();
+        return false;
+    }
+    SaveCatalog(run, lists, kGames.Key, list);
+    return true;
 }
 
 bool HasRow(const ListBox& list, TextView directory) {
@@ -113,9 +126,11 @@ Index ScanForGames(Run& run, CatalogLists& lists) {
             !IsGameDirectory(run.System.Disk, Join(run.DefaultGameDirectory, "\\", entry.Name))) {
             continue;
         }
-        lists.Game_Cbo.Items.push_back(
-            MakeItem(ModificationTitle(entry.Name, run.GameKind), Join(kGameOption, entry.Name)));
-        SaveCatalog(run, lists, kGames.Key, lists.Game_Cbo);
+        if (!AddRow(run, lists, entry.Name)) {
+            TellListIsFull(run, lists.ModificationsToldOf, run.DefaultGameDirectory, "modifications",
+                           lists.Game_Cbo.Items.size());
+            break;
+        }
         ++count;
     }
     return count;

@@ -123,7 +123,9 @@ bool FillScriptsCombo(Run& run, CatalogLists& lists) {
             AppendRecord(lists.HiddenScripts, record);
         }
     }
-    StoreCatalog(run, kScripts.Key, all);
+    if (!scripts.IsFull) {  // the catalog would not hold them
+        StoreCatalog(run, kScripts.Key, all);
+    }
     list.ListIndex = RememberedRow(run, list);
     lists.Script_Chk.Value = StoredCheck(run, "UseScripts", 0);
     if (scripts.IsFull) {

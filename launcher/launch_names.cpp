@@ -190,15 +190,17 @@ std::optional<Text> MisreadName(const std::vector<LaunchName>& names, LineReader
     return std::nullopt;
 }
 
-std::optional<Text> PlusQuestion(const std::vector<LaunchName>& names) {
-    const auto found =
-        std::ranges::find_if(names, [](const LaunchName& name) { return name.ByConsole && Holds(name.Value, "+"); });
-    if (found == names.end()) {
-        return std::nullopt;
+std::optional<Text> CommandQuestion(const std::vector<LaunchName>& names) {
+    for (const LaunchName& name : names) {
+        const bool isSwitch = name.InCommand && name.Kind != NameKind::Executable && name.Value.starts_with('-');
+        if (isSwitch || (name.ByConsole && Holds(name.Value, "+"))) {
+            return Join(Introduce(name), NewLine,
+                        isSwitch ? "Many games take what begins with a \"-\" for an option of their own."
+                                 : "Many games carry out what stands behind a \"+\" as a command of their own.",
+                        NewLine, NewLine, "Start it only if that may happen.");
+        }
     }
-    return Join(Introduce(*found), NewLine,
-                "Many games carry out what stands behind a \"+\" as a command of their own.", NewLine, NewLine,
-                "Start it only if that may happen.");
+    return std::nullopt;
 }
 
 std::vector<Text> ConnectPrograms(const std::vector<LaunchName>& names, LineReader reader) {

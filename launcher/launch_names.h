@@ -32,9 +32,10 @@ std::vector<LaunchName> NamesOf(const LaunchSelection& selection, const LaunchGa
 /// all are text. Windows' command processor looks at every name, whether it is to meet it or not.
 std::optional<Text> MisreadName(const std::vector<LaunchName>& names, LineReader reader);
 
-/// Many games take a "+" in their command line, wherever it stands, for the beginning of a command of their console.
-/// What the user is asked about the first name with one; nothing if there is none.
-std::optional<Text> PlusQuestion(const std::vector<LaunchName>& names);
+/// Many games take a "+" in their command line, wherever it stands, for the beginning of a command of their console,
+/// and a parameter that begins with "-" for an option, whatever stands before it. What the user is asked about the
+/// first such name; nothing if there is none.
+std::optional<Text> CommandQuestion(const std::vector<LaunchName>& names);
 
 /// Half-Life's password breaks the command line, and a command processor carries the rest out by itself, as a command
 /// called "connect". The names of the files that it would take for that command.

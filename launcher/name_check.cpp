@@ -25,7 +25,7 @@ bool NamesAreText(Run& run, const std::vector<LaunchName>& names, LineReader rea
 }
 
 bool NamesMayBeCommands(Run& run, const std::vector<LaunchName>& names) {
-    const std::optional<Text> question = PlusQuestion(names);
+    const std::optional<Text> question = CommandQuestion(names);
     return !question || AskUser(run, "A Command In A Name", *question, "&Don't Start,&Start It") == 1;
 }
 

@@ -170,6 +170,17 @@ TEST_F(ModificationsTest, AKnownRowIsFoundInAnyCase) {
     EXPECT_EQ(ScanForGames(run, lists), 0);
 }
 
+// A record has 37 characters here, and there is one more between two.
+TEST_F(ModificationsTest, MoreThanTheCatalogHoldsAreToldOfOnceAndLeftOut) {
+    for (int i = 1000; i < 1500; ++i) {
+        AddGameDirectory("modification" + std::to_string(i).substr(1));
+    }
+    user.Expect({"More Than a List Shows", "more modifications than the list can show in\r\nc:\\quake"});
+    EXPECT_EQ(ScanForGames(run, lists), 421);
+    EXPECT_EQ(lists.Game_Cbo.Items.size(), 421U);
+    EXPECT_EQ(ScanForGames(run, lists), 0);
+}
+
 TEST_F(ModificationsTest, ALongerNameIsNoHit) {
     AddGameDirectory("ctf");
     lists.Game_Cbo.Items = {MakeItem("Longer", "-game ctf2")};

@@ -230,37 +230,57 @@ TEST(MisreadName, DosTakesNoDirectoryThatCannotBeQuoted) {
     EXPECT_EQ(Misread(input, LineReader::kDosShell), std::nullopt);
 }
 
-TEST(PlusQuestion, NamesTheFirstNameThatAGamesConsoleMightCarryOut) {
+TEST(CommandQuestion, NamesTheFirstNameThatAGamesConsoleMightCarryOut) {
     LaunchInput input = QuakeLaunch();
     TickAll(input);
-    EXPECT_EQ(PlusQuestion(NamesOf(input.Selected, input.Game)), std::nullopt);
+    EXPECT_EQ(CommandQuestion(NamesOf(input.Selected, input.Game)), std::nullopt);
     input.Selected.Game = "-game M+QUIT";
-    EXPECT_EQ(PlusQuestion(NamesOf(input.Selected, input.Game)),
+    EXPECT_EQ(CommandQuestion(NamesOf(input.Selected, input.Game)),
               "The modification \"m+quit\" comes from the directories of the game.\r\n"
               "Many games carry out what stands behind a \"+\" as a command of their own.\r\n\r\n"
               "Start it only if that may happen.");
 }
 
-TEST(PlusQuestion, LooksAtWhatTheConsoleFindsInTheCommandAlone) {
+TEST(CommandQuestion, LooksAtWhatTheConsoleFindsInTheCommandAlone) {
     LaunchInput quake = QuakeLaunch();
     TickAll(quake);
     quake.Selected.Map = "a+b";
     quake.Selected.Server = "a+b;27500;0;c+d";
     quake.Selected.Script = "C:\\QUAKE\\ID1\\a+b.cfg";
-    EXPECT_EQ(PlusQuestion(NamesOf(quake.Selected, quake.Game)), std::nullopt);
+    EXPECT_EQ(CommandQuestion(NamesOf(quake.Selected, quake.Game)), std::nullopt);
     LaunchInput halfLife = HalfLifeLaunch();
     TickAll(halfLife);
     halfLife.Selected.Server = "10.0.0.1 +exec evil;27015;9;";
-    EXPECT_THAT(PlusQuestion(NamesOf(halfLife.Selected, halfLife.Game)).value_or("nothing"),
+    EXPECT_THAT(CommandQuestion(NamesOf(halfLife.Selected, halfLife.Game)).value_or("nothing"),
                 StartsWith("The server \"10.0.0.1 +exec evil:27015\" comes from the list of servers."));
     halfLife.Selected.Server = "10.0.0.1;27015;9;a+b";
-    EXPECT_THAT(PlusQuestion(NamesOf(halfLife.Selected, halfLife.Game)).value_or("nothing"),
+    EXPECT_THAT(CommandQuestion(NamesOf(halfLife.Selected, halfLife.Game)).value_or("nothing"),
                 StartsWith("The password \"a+b\" comes from the list of servers."));
     LaunchInput unreal = UnrealLaunch();
     TickAll(unreal);
     unreal.Selected.Map = "a+b";
     unreal.Selected.Game = "-game a+b";
-    EXPECT_EQ(PlusQuestion(NamesOf(unreal.Selected, unreal.Game)), std::nullopt);
+    EXPECT_EQ(CommandQuestion(NamesOf(unreal.Selected, unreal.Game)), std::nullopt);
+}
+
+TEST(CommandQuestion, NamesWhatAGameMightTakeForAnOption) {
+    LaunchInput quake = QuakeLaunch();
+    TickAll(quake);
+    quake.Selected.Game = "-game -CONDEBUG";
+    EXPECT_EQ(CommandQuestion(NamesOf(quake.Selected, quake.Game)),
+              "The modification \"-condebug\" comes from the directories of the game.\r\n"
+              "Many games take what begins with a \"-\" for an option of their own.\r\n\r\n"
+              "Start it only if that may happen.");
+    LaunchInput unreal = UnrealLaunch();
+    TickAll(unreal);
+    unreal.Selected.Map = "-exec=foo";
+    EXPECT_THAT(CommandQuestion(NamesOf(unreal.Selected, unreal.Game)).value_or("nothing"),
+                StartsWith("The map \"-exec=foo.unr\" comes from"));
+    LaunchInput halfLife = HalfLifeLaunch();
+    TickAll(halfLife);
+    halfLife.Selected.Server = "-dedicated;27015;9;";
+    EXPECT_THAT(CommandQuestion(NamesOf(halfLife.Selected, halfLife.Game)).value_or("nothing"),
+                StartsWith("The server \"-dedicated:27015\" comes from"));
 }
 
 TEST(MisreadName, CutsALongName) {
