@@ -75,7 +75,7 @@ Text BodyOf(const Alias_Frm& form) {
 /// Whether a script gives the alias back as it was written. An ini's line says both, and its own marks end them.
 bool CanBeWritten(const Alias_Frm& form, const Alias& alias) {
     if (!IsUnreal(form)) {
-        return !alias.Name.empty() && LineHoldsAlias(alias.Name, alias.Body);
+        return !alias.Name.empty() && !Holds(alias.Body, DoubleQuote) && LineHoldsAlias(alias.Name, alias.Body);
     }
     return !alias.Name.empty() && alias.Name != "none" && alias.Name.find(')') == Text::npos &&
            !Holds(alias.Body, DoubleQuote) && !Holds(LowerCase(alias.Body), "alias=");

@@ -122,12 +122,17 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
     KeepScrollBarsInSight(content_->GetHandle());
     content_->SetScrollRate(FromDIP(kScrollStep), FromDIP(kScrollStep));
     FollowKeyboard(*content_);
+    // GTK complains of what is hidden when it has to scroll it, but not of what is hidden inside.
+    inside_ = new wxPanel(content_);
+    auto* scrolled = new wxBoxSizer(wxVERTICAL);
+    scrolled->Add(inside_, wxSizerFlags(1).Expand());
+    content_->SetSizer(scrolled);
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeFindRow(), wxSizerFlags().Expand().Border(wxALL, kPageGap / 2));
     rows->Add(MakeMainTab(), wxSizerFlags(1).Expand());
-    keys_ = new KeyPanels(content_, parts_);
+    keys_ = new KeyPanels(inside_, parts_);
     rows->Add(keys_, wxSizerFlags().Expand().Border(wxTOP, kPageGap / 2));
-    content_->SetSizer(rows);
+    inside_->SetSizer(rows);
     hint_ = parts_.MakeLabel(this, "Hint_Lbl", model_.Hint_Lbl);
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(content_, wxSizerFlags(1).Expand());
@@ -157,20 +162,20 @@ FigForm::~FigForm() {
 wxSizer* FigForm::MakeFindRow() {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     const auto right = wxSizerFlags().CenterVertical().Border(wxRIGHT, kPageGap);
-    row->Add(new wxStaticText(content_, wxID_ANY, "Find"),
+    row->Add(new wxStaticText(inside_, wxID_ANY, "Find"),
              wxSizerFlags().CenterVertical().Border(wxLEFT | wxRIGHT, kPageGap));
     wxTextCtrl* find = parts_.MakeText(
-        content_, "Find_Txt", model_.Find_Txt, [this] { Find_Txt_Change(model_); },
+        inside_, "Find_Txt", model_.Find_Txt, [this] { Find_Txt_Change(model_); },
         "Find a function, command, key or alias", wxTE_PROCESS_ENTER);
     find->SetMinSize(wxSize(kFindLetters * GetTextExtent("n").x, -1));
     find->Bind(wxEVT_TEXT_ENTER,
                [this](wxCommandEvent&) { parts_.Controls.Run([this] { FindNext_Cmd_Click(model_); }); });
     row->Add(find, right);
-    row->Add(parts_.MakeButton(content_, "FindNext_Cmd", model_.FindNext_Cmd, [this] { FindNext_Cmd_Click(model_); }),
+    row->Add(parts_.MakeButton(inside_, "FindNext_Cmd", model_.FindNext_Cmd, [this] { FindNext_Cmd_Click(model_); }),
              right);
-    row->Add(parts_.MakeLabel(content_, "Find_Lbl", model_.Find_Lbl), wxSizerFlags(1).CenterVertical());
-    row->Add(parts_.MakeButton(content_, "Undo_Cmd", model_.Undo_Cmd, [this] { Undo_Cmd_Click(model_); }), right);
-    row->Add(parts_.MakeButton(content_, "Redo_Cmd", model_.Redo_Cmd, [this] { Redo_Cmd_Click(model_); }),
+    row->Add(parts_.MakeLabel(inside_, "Find_Lbl", model_.Find_Lbl), wxSizerFlags(1).CenterVertical());
+    row->Add(parts_.MakeButton(inside_, "Undo_Cmd", model_.Undo_Cmd, [this] { Undo_Cmd_Click(model_); }), right);
+    row->Add(parts_.MakeButton(inside_, "Redo_Cmd", model_.Redo_Cmd, [this] { Redo_Cmd_Click(model_); }),
              wxSizerFlags().CenterVertical());
     return row;
 }
@@ -242,7 +247,7 @@ wxWindow* FigForm::MakeBindingsTabs(wxNotebook* tabs) {
 }
 
 wxNotebook* FigForm::MakeMainTab() {
-    tabs_ = MakeTab(content_);
+    tabs_ = MakeTab(inside_);
     wxNotebook* const tabs = tabs_;
     std::vector<wxWindow*> pages = {MakePlayerPage(tabs), MakeBindingsTabs(tabs),
                                     AddLate(tabs, [this](wxPanel* made) { MakeAliasPage(parts_, made); }),
@@ -275,7 +280,7 @@ void FigForm::BindEvents() {
             event.RequestMore();
         }
     });
-    content_->Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
+    inside_->Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
         event.Skip();
         painted_ = place_.IsPut();
     });
@@ -472,6 +477,7 @@ void FigForm::ShowState() {
     if (changed || moved) {
         Layout();
         content_->Layout();
+        inside_->Layout();
     }
     SpeakAnew();
     if (changed) {
@@ -534,7 +540,7 @@ void FigForm::LayOutPages() {
 }
 
 wxSize FigForm::WantedSize() {
-    wxSize wanted = content_->GetSizer()->CalcMin();
+    wxSize wanted = inside_->GetSizer()->CalcMin();
     if (!keys_->IsShown()) {
         const wxSize keys = keys_->GetBestSize();
         wanted = wxSize(std::max(wanted.x, keys.x), wanted.y + keys.y + kPageGap / 2);

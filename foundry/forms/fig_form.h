@@ -68,6 +68,7 @@ class FigForm : public wxDialog {
     KeyHand hand_;
     KeptPlace place_;
     wxScrolledWindow* content_ = nullptr;
+    wxPanel* inside_ = nullptr;  // of what scrolls
     wxNotebook* tabs_ = nullptr;
     KeyPanels* keys_ = nullptr;
     std::vector<wxWindow*> pages_;  // those that lay out controls that come and go

@@ -114,7 +114,7 @@ TEST_F(FigKeyboard, WhatHasTheKeyboardIsScrolledIntoSightAndTheHintStaysThere) {
         Settle(300);
         const auto inside = [this](const char* name) {
             const wxRect frame(form->ClientToScreen(wxPoint()), form->GetClientSize());
-            return SettleUntil([&] { return frame.Contains(Find(name)->GetScreenRect()); }, 1000);
+            return SettleUntil([&] { return frame.Contains(form->FindWindow(name)->GetScreenRect()); }, 1000);
         };
         EXPECT_TRUE(inside("Hint_Lbl"));
         PressKey('F', wxMOD_CONTROL);
@@ -126,7 +126,7 @@ TEST_F(FigKeyboard, WhatHasTheKeyboardIsScrolledIntoSightAndTheHintStaysThere) {
         Settle();
         EXPECT_TRUE(inside("Setting_Lbl(112)"));
         PressKey(WXK_RETURN);
-        EXPECT_EQ(Find("Hint_Lbl")->GetLabel(), "Press a key for Jump");
+        EXPECT_EQ(form->FindWindow("Hint_Lbl")->GetLabel(), "Press a key for Jump");  // not the main window's
         EXPECT_TRUE(inside("Hint_Lbl"));
         PressKey(WXK_ESCAPE);
     });
