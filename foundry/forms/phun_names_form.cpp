@@ -35,8 +35,8 @@ constexpr ButtonRow kButtons[] = {
 };
 // clang-format on
 
-/// By that many pixels and the rest of a step, in whatever scrolls it.
-void ScrollUp(const wxWindow& window, int pixels) {
+/// What scrolls the window, or null.
+wxScrolledWindow* ScrolledAround(const wxWindow& window) {
     for (wxWindow* parent = window.GetParent(); parent != nullptr && !parent->IsTopLevel();
          parent = parent->GetParent()) {
         auto* const scrolled = dynamic_cast<wxScrolledWindow*>(parent);
@@ -45,10 +45,10 @@ void ScrollUp(const wxWindow& window, int pixels) {
             scrolled->GetScrollPixelsPerUnit(nullptr, &step);
         }
         if (step > 0) {
-            scrolled->Scroll(wxDefaultCoord, scrolled->GetViewStart().y + (pixels + step - 1) / step);
-            return;
+            return scrolled;
         }
     }
+    return nullptr;
 }
 
 }  // namespace
@@ -106,6 +106,30 @@ wxSizer* PhunNamesForm::MakeButtons(Fig_Frm& editor) {
     return rows;
 }
 
+// There may be too little below the name to scroll it so far: the room is lent until this goes.
+void PhunNamesForm::LiftName(const wxWindow& picture, int pixels) {
+    lifted_ = ScrolledAround(picture);
+    if (lifted_ == nullptr) {
+        return;
+    }
+    int step = 0;
+    lifted_->GetScrollPixelsPerUnit(nullptr, &step);
+    const int steps = lifted_->GetViewStart().y + (pixels + step - 1) / step;
+    wxSizer* const rows = lifted_->GetSizer();
+    rows->AddSpacer(std::max(0, lifted_->GetClientSize().y + steps * step - rows->CalcMin().y));
+    lifted_->FitInside();
+    lifted_->Scroll(wxDefaultCoord, steps);
+}
+
+PhunNamesForm::~PhunNamesForm() {
+    if (lifted_ != nullptr) {
+        wxSizer* const rows = lifted_->GetSizer();
+        rows->Remove(static_cast<int>(rows->GetItemCount()) - 1);
+        lifted_->Scroll(wxDefaultCoord, 0);
+        lifted_->FitInside();
+    }
+}
+
 // So that the name and its cursor stay in sight above, scrolled up as far as need be.
 void PhunNamesForm::PlaceUnderName(wxWindow* owner) {
     const wxWindow* const picture = owner->FindWindow("Name_Pic");
@@ -116,7 +140,7 @@ void PhunNamesForm::PlaceUnderName(wxWindow* owner) {
     const wxSize size = GetSize();
     const int missing = picture->GetScreenRect().GetBottom() + FromDIP(4 * kGap) + size.y - screen.GetBottom();
     if (missing > 0) {
-        ScrollUp(*picture, missing);
+        LiftName(*picture, missing);
     }
     const wxRect name = picture->GetScreenRect();
     Move(std::max(screen.x, std::min(name.x, screen.GetRight() - size.x)),
