@@ -30,6 +30,9 @@ void KeptPlace::Put() {
     if (placement_.WindowState == kWindowMaximised) {  // a minimised one was not kept as such
         window_.Maximize();
     }
+    if (window_.IsActive()) {  // one of its controls got the keyboard before, and nothing will tell of it again
+        Keep();
+    }
 }
 
 void KeptPlace::Forget() {
