@@ -4,6 +4,7 @@
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
+#include <wx/time.h>
 
 #include <algorithm>
 
@@ -15,7 +16,8 @@ namespace {
 
 constexpr int kWidth = 320;  // at 100 %
 constexpr int kMargin = 6;
-constexpr int kGap = 2;  // from the control or the pointer
+constexpr int kGap = 2;              // from the control or the pointer
+constexpr long kOfTheSameKey = 200;  // milliseconds
 
 wxPopupWindow* MakeBubble(wxWindow* owner, const wxString& text) {
     auto* bubble = new wxPopupWindow(owner, wxBORDER_SIMPLE);
@@ -64,10 +66,14 @@ HelpBubbles::~HelpBubbles() {
 
 bool HelpBubbles::ShowHelp(wxWindowBase* window) {
     const wxRect place = window->GetScreenRect();
+    byKey_ = wxGetLocalTimeMillis();
     return Show(window, place.GetTopLeft(), place.height);
 }
 
 bool HelpBubbles::ShowHelpAtPoint(wxWindowBase* window, const wxPoint& place, wxHelpEvent::Origin) {
+    if (bubble_ && wxGetLocalTimeMillis() - byKey_ < kOfTheSameKey) {
+        return true;  // Windows asks once more for the key that was answered, at the pointer
+    }
     return Show(window, place, 0);
 }
 

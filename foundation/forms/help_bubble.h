@@ -6,6 +6,7 @@
 
 #include <wx/cshelp.h>
 #include <wx/eventfilter.h>
+#include <wx/longlong.h>
 #include <wx/popupwin.h>
 #include <wx/weakref.h>
 
@@ -33,6 +34,7 @@ class HelpBubbles : public wxSimpleHelpProvider, public wxEventFilter {
     bool Close();
 
     wxWeakRef<wxPopupWindow> bubble_;
+    wxLongLong byKey_;  // when a bubble was last asked for by a key
 };
 
 /// Shift+F1: tells of the control of the window that has the keyboard, or of what it is a part of.
