@@ -2,6 +2,7 @@
 #include <wx/checkbox.h>
 #include <wx/choice.h>
 #include <wx/radiobut.h>
+#include <wx/textctrl.h>
 #include <wx/timer.h>
 
 #include "catalogs/add_server.h"
@@ -10,8 +11,10 @@
 #include "foundation/settings.h"
 #include "gamespy/forms/game_spy_form.h"
 #include "gamespy/game_spy_config.h"
+#include "launcher/launch_flow.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
+#include "tests/forms/lv_form_fixture.h"
 
 namespace lv {
 namespace {
@@ -130,6 +133,37 @@ TEST_F(GameSpyFormTest, AsksForTheProgramThatWasNotFound) {
     });
     Show();
     EXPECT_EQ(form.DialogResult, 0);
+}
+
+/// Reads the message that is up by then, and closes it.
+struct MessageReader : wxTimer {
+    void Notify() override {
+        if (const wxWindow* text = wxWindow::FindWindowByName("Question_Txt")) {
+            Stop();
+            Said = dynamic_cast<const wxTextCtrl&>(*text).GetValue();
+            PressKey(WXK_RETURN);
+        }
+    }
+    wxString Said;
+};
+
+using GameSpyFlow = LvForm_;
+
+TEST_F(GameSpyFlow, SaysWhatToPickWhenNoGameIsPicked) {
+    user.AddForms(MakeGameSpyForm);
+    system.Disk.AddFile("C:\\gamespy\\gamespy.exe");
+    system.Disk.AddFile("C:\\HL\\HL.EXE");
+    launcher.Window.Exe_Cbo.Items = {{"Half-Life", "C:\\HL\\HL.EXE", "", ""}};
+    launcher.Window.Exe_Cbo.ListIndex = 0;
+    launcher.Window.LaunchQspy_Chk.Value = 1;
+    MessageReader message;
+    WhenModal([&message] {
+        EXPECT_FALSE(Find("ExeSpy_Cbo(0)")->IsEnabled());
+        message.Start(100);
+        ClickOn(Find("DoIt_Cmd"));
+    });
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(message.Said.StartsWith("You must pick a GameSpy Quake Executable")) << message.Said;
 }
 
 TEST_F(GameSpyFormTest, TheTypeOfSeveralServersIsPicked) {
