@@ -5,7 +5,9 @@ namespace lv {
 Result<std::unique_ptr<RandomAccessFile>> OpenBounded(Files& disk, TextView path, std::uint64_t most) {
     auto file = disk.Open(path);
     if (file.Ok() && file.Value->Size() > most) {
-        return MakeTooLarge(most);
+        Error refused = MakeTooLarge(most);
+        refused.Text += Join(": ", path);
+        return refused;
     }
     return file;
 }

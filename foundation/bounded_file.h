@@ -17,7 +17,8 @@ constexpr std::uint64_t kLargestScript = 256U << 20U;
 /// Beyond it a script takes longer to read than anybody waits without having been asked. A launch reads no such script.
 constexpr std::uint64_t kLargeScript = 8U << 20U;
 
-/// The file, if it has no more than `most` bytes; otherwise error 7, whose text says how many it may have.
+/// The file, if it has no more than `most` bytes; otherwise error 7, whose text says how many it may have, and its
+/// path.
 Result<std::unique_ptr<RandomAccessFile>> OpenBounded(Files& disk, TextView path, std::uint64_t most);
 
 /// All of it.

@@ -3,7 +3,8 @@
 namespace lv {
 
 Error FaultAt(Files& disk, TextView path, Error failed) {
-    if (failed.Number != error::kPathFileAccess && failed.Number != error::kPermissionDenied) {
+    if (failed.Number != error::kPathFileAccess && failed.Number != error::kPermissionDenied &&
+        failed.Number != error::kFileNotFound) {
         return failed;
     }
     failed.Text += Join(": ", path);

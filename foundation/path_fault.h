@@ -9,8 +9,8 @@
 
 namespace lv {
 
-/// The error with the path of the file behind its text, where access was refused (70, 75): only that says what is to be
-/// mended. A directory of that name is told as such. Any other error stays as it is.
+/// The error with the path of the file behind its text, where it is not there or access was refused (53, 70, 75): only
+/// that says what is to be mended. A directory of that name is told as such. Any other error stays as it is.
 Error FaultAt(Files& disk, TextView path, Error failed);
 
 }  // namespace lv

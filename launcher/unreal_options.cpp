@@ -28,6 +28,13 @@ void RemoveWorkFile(Run& run, TextView ini) {
     }
 }
 
+Error Missing(Error failed) {
+    if (failed.Number == error::kFileNotFound) {
+        failed.Text += ". The game makes it when it is started by itself.";
+    }
+    return failed;
+}
+
 }  // namespace
 
 Error SetUnrealVideoOptionsForLaunch(Launcher& launcher, const std::optional<Text>& ini) {
@@ -46,7 +53,7 @@ Error SetUnrealVideoOptionsForLaunch(Launcher& launcher, const std::optional<Tex
     }
     const Result<Text> old = ReadBounded(run.System.Disk, path, kLargestIni);
     if (!old.Ok()) {
-        return FaultAt(run.System.Disk, path, old.Fault);
+        return Missing(FaultAt(run.System.Disk, path, old.Fault));
     }
     UnrealIniResult rewritten = RewriteUnrealIni(
         {old.Value, ReadProfile(run), launcher.Window.UnrealNoCDNeeded_Chk.Value == 1, run.DefaultGameDirectory});

@@ -30,7 +30,8 @@ void KeptPlace::Put() {
     if (placement_.WindowState == kWindowMaximised) {  // a minimised one was not kept as such
         window_.Maximize();
     }
-    if (window_.IsActive()) {  // one of its controls got the keyboard before, and nothing will tell of it again
+    if (window_.IsShown() &&
+        window_.IsActive()) {  // one of its controls got the keyboard before, and nothing will tell of it again
         Keep();
     }
 }

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "platform/code_page.h"
 #include "platform/linux/errno_error.h"
 
 namespace lv {
@@ -130,10 +131,12 @@ int MendTheWayToTheProgram(const DriveDirectories& directories) {
 Error MakeFirstDrives(const DriveDirectories& directories) {
     RemoveOldStages(directories.drives.parent_path());
     std::error_code failed;
-    if (fs::exists(directories.drives, failed)) {
-        if (!fs::is_directory(directories.drives, failed)) {
-            return ErrorOf(ENOTDIR);
+    if (fs::exists(directories.drives, failed) && !fs::is_directory(directories.drives, failed)) {
+        if (const int number = PutAside(directories.drives)) {
+            return ErrorOf(number);
         }
+    }
+    if (fs::exists(directories.drives, failed)) {
         if (!fs::is_empty(directories.drives, failed)) {
             return ErrorOf(failed.value());
         }
@@ -150,7 +153,12 @@ Error MakeFirstDrives(const DriveDirectories& directories) {
     }
     fs::remove_all(staged, failed);
     // Not empty any more: another start of the program was first.
-    return number == ENOTEMPTY || number == EEXIST ? Error() : ErrorOf(number);
+    if (number == 0 || number == ENOTEMPTY || number == EEXIST) {
+        return {};
+    }
+    Error told = ErrorOf(number);
+    told.Text += ": " + FromUtf8Lossy(directories.drives.string());
+    return told;
 }
 
 Error MendDrives(const DriveDirectories& directories) {

@@ -27,16 +27,23 @@ Error StoreRefusal(int number, const fs::path& file, const std::string& reason) 
     return {number, "The settings in \"" + FromUtf8Lossy(file.string()) + "\" cannot be used: " + reason};
 }
 
+Error UnusableStore(const fs::path& file, const std::string& reason) {
+    return StoreRefusal(error::kPathFileAccess, file,
+                        reason +
+                            "\r\n\r\nMove this file elsewhere, and the program starts with new settings, "
+                            "or put an older copy in its place.");
+}
+
 Error NewerLayout(const fs::path& file) {
-    return StoreRefusal(error::kPathFileAccess, file, "a newer version of this program made them.");
+    return UnusableStore(file, "a newer version of this program made them.");
 }
 
 Error NoDatabase(const fs::path& file) {
-    return StoreRefusal(error::kPathFileAccess, file, "the file is no settings database.");
+    return UnusableStore(file, "the file is no settings database.");
 }
 
 Error DamagedDatabase(const fs::path& file) {
-    return StoreRefusal(error::kPathFileAccess, file, "the database is damaged.");
+    return UnusableStore(file, "the database is damaged.");
 }
 
 Error UnwritableStore(int number, const fs::path& file, const char* what) {
@@ -83,7 +90,7 @@ Error RefusedBySqlite(sqlite3* database, const fs::path& file) {
         case SQLITE_BUSY:
             return LockedStore(file);
         case SQLITE_ERROR:
-            return StoreRefusal(error::kPathFileAccess, file, FromUtf8Lossy(sqlite3_errmsg(database)) + ".");
+            return UnusableStore(file, FromUtf8Lossy(sqlite3_errmsg(database)) + ".");
         default:
             return StoreRefusal(FaultOf(database).Number, file, FromUtf8Lossy(sqlite3_errmsg(database)) + ".");
     }

@@ -16,6 +16,9 @@ namespace lv {
 /// "The settings in "<file>" cannot be used: <reason>"
 Error StoreRefusal(int number, const std::filesystem::path& file, const std::string& reason);
 
+/// The same as error 75, and what the user can do.
+Error UnusableStore(const std::filesystem::path& file, const std::string& reason);
+
 Error NewerLayout(const std::filesystem::path& file);
 Error NoDatabase(const std::filesystem::path& file);
 Error DamagedDatabase(const std::filesystem::path& file);

@@ -155,7 +155,7 @@ Result<Database> OpenSettingsFile(const fs::path& file, int patience) {
     const int failed = sqlite3_open_v2(file.c_str(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     Database database(opened);
     if (failed != SQLITE_OK) {
-        return StoreRefusal(error::kPathFileAccess, file, FromUtf8Lossy(sqlite3_errstr(failed)) + ".");
+        return UnusableStore(file, FromUtf8Lossy(sqlite3_errstr(failed)) + ".");
     }
     RunNothingOfTheFile(opened);
     sqlite3_busy_timeout(opened, patience);

@@ -79,8 +79,7 @@ Error CheckColumns(sqlite3* database, const fs::path& file) {
     if (failed != SQLITE_ERROR) {
         return RefusedBySqlite(database, file);
     }
-    return StoreRefusal(error::kPathFileAccess, file,
-                        "their table wants to run something. (" + FromUtf8Lossy(sqlite3_errmsg(database)) + ")");
+    return UnusableStore(file, "their table wants to run something. (" + FromUtf8Lossy(sqlite3_errmsg(database)) + ")");
 }
 
 }  // namespace
@@ -133,7 +132,7 @@ Error CheckLayout(sqlite3* database, const fs::path& file) {
         return NewerLayout(file);
     }
     if (layout.Computed != "0") {
-        return StoreRefusal(error::kPathFileAccess, file, "their table has columns that compute something.");
+        return UnusableStore(file, "their table has columns that compute something.");
     }
     if (layout.Check != "ok") {
         return DamagedDatabase(file);

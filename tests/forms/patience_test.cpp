@@ -51,7 +51,7 @@ TEST_F(Patience_, LeavesAWindowThatNobodyAnswers) {
 TEST_F(Patience_, LeavesTheSystemsOwnDialog) {
     std::optional<Text> chosen = "something";
     const auto failures = Watching([&] { chosen = user.ChooseFile({}).Value; });
-    EXPECT_EQ(failures.size(), 1U);
+    EXPECT_EQ(failures.size(), 1U) << ::testing::PrintToString(failures);
     EXPECT_EQ(chosen, std::nullopt);
 }
 

@@ -20,8 +20,8 @@ TEST(OpenBounded, RefusesALargerFileAndSaysSo) {
     disk.AddSparseFile("C:\\a.ini", "[x]", kLargestIni + 1);
     disk.AddSparseFile("C:\\a.cfg", "bind", kLargestScript + 1);
     EXPECT_EQ(ReadBounded(disk, "C:\\a.ini", kLargestIni).Fault.Number, 7);
-    EXPECT_EQ(ReadBounded(disk, "C:\\a.ini", kLargestIni).Fault.Text, "The file is larger than 64 MB");
-    EXPECT_EQ(OpenBounded(disk, "C:\\a.cfg", kLargestScript).Fault.Text, "The file is larger than 256 MB");
+    EXPECT_EQ(ReadBounded(disk, "C:\\a.ini", kLargestIni).Fault.Text, "The file is larger than 64 MB: C:\\a.ini");
+    EXPECT_EQ(OpenBounded(disk, "C:\\a.cfg", kLargestScript).Fault.Text, "The file is larger than 256 MB: C:\\a.cfg");
     EXPECT_TRUE(OpenBounded(disk, "C:\\a.ini", kLargestScript).Ok());
 }
 

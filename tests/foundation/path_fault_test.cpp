@@ -14,6 +14,11 @@ TEST(FaultAt, NamesThePathWhereAccessWasRefused) {
     EXPECT_EQ(FaultAt(disk, "C:\\A.QS", MakeError(75)).Number, 75);
 }
 
+TEST(FaultAt, NamesThePathOfAFileThatIsMissing) {
+    MemoryFiles disk;
+    EXPECT_EQ(FaultAt(disk, "C:\\A.QS", MakeError(53)).Text, "File not found: C:\\A.QS");
+}
+
 TEST(FaultAt, TellsADirectoryAsSuch) {
     MemoryFiles disk;
     disk.AddDirectory("C:\\A.QS");

@@ -210,11 +210,13 @@ TEST_F(UnrealOptions, AreSetInTheIniThatTheCommandLineNames) {
 
 TEST_F(UnrealOptions, WithoutAnIniAreReportedAndEndTheClick) {
     (void)system.Disk.Delete(kIni);
-    user.Expect({"Lorvane 3D",
-                 "Error Number = 53\r\nError Code = EC00040\r\nError String = File not found\r\n"
-                 "Curreny System Directory = C:\\\r\nDefault Game Directory = c:\\unreal\\system\r\n"
-                 "Current Command Line = UNREAL.EXE ",
-                 0, false, true});
+    user.Expect(
+        {"Lorvane 3D",
+         "Error Number = 53\r\nError Code = EC00040\r\nError String = File not found: c:\\unreal\\system\\unreal.ini. "
+         "The game makes it when it is started by itself.\r\n"
+         "Curreny System Directory = C:\\\r\nDefault Game Directory = c:\\unreal\\system\r\n"
+         "Current Command Line = UNREAL.EXE ",
+         0, false, true});
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_FALSE(system.Disk.FileExists("C:\\UNREAL\\SYSTEM\\lv_666.bat"));
     EXPECT_TRUE(system.Programs.Started.empty());
@@ -245,7 +247,9 @@ TEST_F(UnrealOptions, AreNoMatterForAnotherGame) {
 TEST_F(UnrealOptions, AreNotSetInAnIniOfATerabyte) {
     system.Disk.AddSparseFile(kIni, kOld, 1ULL << 40U);
     user.Expect({"Lorvane 3D",
-                 "Error Number = 7\r\nError Code = EC00040\r\nError String = The file is larger than 64 MB\r\n", 0});
+                 "Error Number = 7\r\nError Code = EC00040\r\nError String = The file is larger than 64 MB: "
+                 "c:\\unreal\\system\\unreal.ini\r\n",
+                 0});
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_TRUE(system.Programs.Started.empty());
 }

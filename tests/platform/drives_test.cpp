@@ -59,12 +59,23 @@ TEST(MakeFirstDrives, TellsWhatItCannotMake) {
     EXPECT_EQ(BytesOf(home.Data), "a file");
 }
 
-TEST(MakeFirstDrives, TellsOfAFileInPlaceOfTheDrives) {
+TEST(MakeFirstDrives, PutsAFileInPlaceOfTheDrivesAside) {
     const Home home;
     fs::create_directories(home.Data);
     WriteBytes(home.Data / "drives", "a file");
-    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 76);
-    EXPECT_EQ(BytesOf(home.Data / "drives"), "a file");
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    EXPECT_EQ(BytesOf(home.Data / "drives.old"), "a file");
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'C', 'Z'}));
+}
+
+TEST(MakeFirstDrives, NamesALinkThatLeadsNowhereNow) {
+    const Home home;
+    fs::create_directories(home.Data);
+    fs::create_symlink("gone", home.Data / "drives");
+    const Error failed = MakeFirstDrives(home.Directories);
+    EXPECT_EQ(failed.Number, 76);
+    EXPECT_TRUE(failed.Text.ends_with(": " + (home.Data / "drives").string())) << failed.Text;
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives"), "gone");
 }
 
 TEST(MakeFirstDrives, TakesAwayWhatAKilledStartHasLeft) {

@@ -176,8 +176,10 @@ TEST(SqliteSettings, RefuseAFileThatIsNoDatabase) {
     WriteBytes(scratch / "s", "my shopping list");
     const auto opened = SqliteSettings::Open(scratch / "s");
     EXPECT_EQ(opened.Fault.Number, 75);
-    EXPECT_EQ(opened.Fault.Text,
-              "The settings in \"" + (scratch / "s").string() + "\" cannot be used: the file is no settings database.");
+    EXPECT_EQ(opened.Fault.Text, "The settings in \"" + (scratch / "s").string() +
+                                     "\" cannot be used: the file is no settings database."
+                                     "\r\n\r\nMove this file elsewhere, and the program starts with new settings, "
+                                     "or put an older copy in its place.");
     ExpectLeftAlone(scratch / "s", "my shopping list");
 }
 
@@ -201,7 +203,9 @@ TEST(SqliteSettings, RefuseANewerLayout) {
     const auto opened = SqliteSettings::Open(scratch / "s");
     EXPECT_EQ(opened.Fault.Number, 75);
     EXPECT_EQ(opened.Fault.Text, "The settings in \"" + (scratch / "s").string() +
-                                     "\" cannot be used: a newer version of this program made them.");
+                                     "\" cannot be used: a newer version of this program made them."
+                                     "\r\n\r\nMove this file elsewhere, and the program starts with new settings, "
+                                     "or put an older copy in its place.");
     ExpectLeftAlone(scratch / "s", bytes);
 }
 

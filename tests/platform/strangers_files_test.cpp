@@ -145,7 +145,7 @@ TEST_F(StrangersFiles, AnIniOfATerabyteIsRefusedInWords) {
     UnpackInto(c / "UNREAL/SYSTEM");
     Pick(1);
     user.Expect(
-        {"Lorvane 3D", "Error Number = 7\r\nError Code = EC00040\r\nError String = The file is larger than 64 MB"});
+        {"Lorvane 3D", "Error Number = 7\r\nError Code = EC00040\r\nError String = The file is larger than 64 MB: "});
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_TRUE(memory.Programs.Started.empty());
     EXPECT_EQ(fs::file_size(c / "UNREAL/SYSTEM/unreal.ini"), 1ULL << 40U);
@@ -158,7 +158,7 @@ TEST_F(StrangersFiles, AScriptOfATerabyteIsRefusedInWords) {
     SetupFoundry foundry{launcher};
     user.Expect({"Script Not Opened",
                  "Error opening specified script file.\r\n\r\nError Number = 7\r\nError String = The file is larger "
-                 "than 256 MB"});
+                 "than 256 MB: "});
     SetupFoundry_Bar_Click(foundry);
     EXPECT_FALSE(fs::exists(quake / "ID1/my.SetupFoundry_Config_Backup"));
 }

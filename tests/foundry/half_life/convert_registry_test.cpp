@@ -316,7 +316,7 @@ TEST_F(HalfLifeTest, NoLaunchReadsALargeScript) {
     system.Disk.AddSparseFile("C:\\HL\\VALVE\\config.cfg", "bind w +forward\n", (8U << 20U) + 1);
     user.Expect({"Script Not Opened",
                  "Error opening specified script file.\r\n\r\nError Number = 7\r\nError String = The file is larger "
-                 "than 8 MB"});
+                 "than 8 MB: C:\\HL\\VALVE\\config.cfg"});
     EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\config.cfg"));
     EXPECT_TRUE(system.Registry.Values.empty());
     system.Disk.AddSparseFile("C:\\HL\\VALVE\\config.cfg", "bind w +forward\n", 8U << 20U);

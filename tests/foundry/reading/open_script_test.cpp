@@ -229,17 +229,17 @@ TEST_F(OpenScriptTest, PutsTheCopyInALinksPlaceAndNeverWhereThatLeads) {
 
 TEST_F(OpenScriptTest, TellsThatAScriptIsTooLarge) {
     system.Disk.AddSparseFile("C:\\QUAKE\\huge.cfg", "bind a +attack\n", 1ULL << 40U);
-    ExpectNotOpened(7, "The file is larger than 256 MB");
+    ExpectNotOpened(7, "The file is larger than 256 MB: C:\\QUAKE\\huge.cfg");
     EXPECT_FALSE(OpenScript(run, document, view, "C:\\QUAKE\\huge.cfg"));
     system.Disk.AddSparseFile("C:\\QUAKE\\huge.cfg", "bind a +attack\n", (256U << 20U) + 1);
-    ExpectNotOpened(7, "The file is larger than 256 MB");
+    ExpectNotOpened(7, "The file is larger than 256 MB: C:\\QUAKE\\huge.cfg");
     EXPECT_FALSE(OpenScript(run, document, view, "C:\\QUAKE\\huge.cfg"));
 }
 
 TEST_F(OpenScriptTest, TellsThatAnIniIsTooLarge) {
     Use(4);
     system.Disk.AddSparseFile("C:\\QUAKE\\huge.ini", "[x]\n", (64U << 20U) + 1);
-    ExpectNotOpened(7, "The file is larger than 64 MB");
+    ExpectNotOpened(7, "The file is larger than 64 MB: C:\\QUAKE\\huge.ini");
     EXPECT_FALSE(OpenScript(run, document, view, "C:\\QUAKE\\huge.ini"));
 }
 
