@@ -24,6 +24,7 @@
 #include "foundry/forms/main_pages.h"
 #include "foundry/forms/phun_names_form.h"
 #include "foundry/forms/row_pages.h"
+#include "foundry/forms/scrolled_page.h"
 #include "foundry/forms/settings_forms.h"
 #include "platform/scroll_bars.h"
 #include "platform/warm_up.h"
@@ -75,8 +76,11 @@ bool IsOnTop(const wxWindow* window) {
 
 /// What comes or goes in the page moves the rest of it, and the end of what can be scrolled.
 void LayOut(wxWindow* page) {
-    if (auto* scrolled = dynamic_cast<wxScrolledWindow*>(page->GetParent())) {
-        scrolled->FitInside();
+    if (auto* scrolled = dynamic_cast<ScrolledPage*>(page->GetParent())) {
+        page->InvalidateBestSize();
+        if (scrolled->Fill()) {
+            return;
+        }
     }
     page->Layout();
 }
@@ -180,18 +184,18 @@ wxSizer* FigForm::MakeFindRow() {
     return row;
 }
 
-// Its rows stand in a panel of their own: GTK complains of rows that are hidden when it has to scroll them.
 wxWindow* FigForm::AddLate(wxWindow* parent, std::function<void(wxPanel*)> make) {
-    auto* page = new wxScrolledWindow(parent);
-    KeepScrollBarsInSight(page->GetHandle());
-    page->SetScrollRate(FromDIP(kScrollStep), FromDIP(kScrollStep));
-    FollowKeyboard(*page);
-    auto* content = new wxPanel(page);
-    auto* all = new wxBoxSizer(wxVERTICAL);
-    all->Add(content, wxSizerFlags(1).Expand());
-    page->SetSizer(all);
-    pages_.push_back(content);
-    late_.emplace_back(page, [content, make = std::move(make)] { make(content); });
+    auto* page = new ScrolledPage(parent);
+    page->Bind(wxEVT_SIZE, [this, page](wxSizeEvent& event) {
+        event.Skip();
+        if (IsOnTop(page)) {
+            page->Fill();
+        } else {
+            stale_.insert(page->Content());
+        }
+    });
+    pages_.push_back(page->Content());
+    late_.emplace_back(page, [page, make = std::move(make)] { make(page->Content()); });
     return page;
 }
 
@@ -481,8 +485,9 @@ void FigForm::ShowState() {
     }
     SpeakAnew();
     if (changed) {
-        LayOutPages();
+        stale_.insert(pages_.begin(), pages_.end());
     }
+    LayOutPages();
     if (model_.Save_Tmr_Enabled && !saveTimer_.IsRunning()) {
         saveTimer_.Start(kSaveTimerMilliseconds);
     } else if (!model_.Save_Tmr_Enabled && saveTimer_.IsRunning()) {
@@ -533,10 +538,15 @@ void FigForm::PlaceOnScreen() {
     }
 }
 
+// Those behind the others wait until they are turned to.
 void FigForm::LayOutPages() {
-    for (wxWindow* page : pages_) {
-        LayOut(page);
-    }
+    std::erase_if(stale_, [](wxWindow* page) {
+        if (IsOnTop(page)) {
+            LayOut(page);
+            return true;
+        }
+        return false;
+    });
 }
 
 wxSize FigForm::WantedSize() {

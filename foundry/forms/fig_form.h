@@ -9,6 +9,7 @@
 #include <wx/scrolwin.h>
 #include <wx/timer.h>
 
+#include <set>
 #include <vector>
 
 #include "foundation/forms/kept_place.h"
@@ -72,6 +73,7 @@ class FigForm : public wxDialog {
     wxNotebook* tabs_ = nullptr;
     KeyPanels* keys_ = nullptr;
     std::vector<wxWindow*> pages_;  // those that lay out controls that come and go
+    std::set<wxWindow*> stale_;     // those of them that are to be laid out
     std::vector<LatePage> late_;
     wxWindow* hint_ = nullptr;          // below all that scrolls, in sight whatever row waits for a key
     std::vector<CellLabel*> unspoken_;  // whose names may be old
