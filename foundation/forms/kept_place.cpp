@@ -30,8 +30,9 @@ void KeptPlace::Put() {
     if (placement_.WindowState == kWindowMaximised) {  // a minimised one was not kept as such
         window_.Maximize();
     }
-    if (window_.IsShown() &&
-        window_.IsActive()) {  // one of its controls got the keyboard before, and nothing will tell of it again
+    // One of its controls got the keyboard before, and nothing will tell of it again. A hidden one that was shown once
+    // still counts as active.
+    if (window_.IsShown() && window_.IsActive()) {
         Keep();
     }
 }
