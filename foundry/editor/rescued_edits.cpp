@@ -36,13 +36,15 @@ Text NameOf(TextView script) {
     return Join(kRescueName, MarkOf(script), ".txt");
 }
 
-Text BesideScript(TextView script) {
-    return Join(script.substr(0, script.rfind('\\') + 1), NameOf(script));
+/// Where the script's directory takes none. Several users may share it.
+Text BesideProgram(const Run& run, TextView script) {
+    const Text directory = run.AppDirectory.empty() ? run.System.Disk.ProgramDirectory() : run.AppDirectory;
+    return Join(directory, "\\", NameOf(script));
 }
 
 /// Empty if nothing was kept.
 Text KeptFile(Run& run, TextView script) {
-    for (const Text& path : {RescuePathOf(run, script), BesideScript(script)}) {
+    for (const Text& path : {RescuePathOf(script), BesideProgram(run, script)}) {
         if (run.System.Disk.FileExists(path)) {
             return path;
         }
@@ -53,18 +55,17 @@ Text KeptFile(Run& run, TextView script) {
 Error Keep(Run& run, const ScriptDocument& document) {
     const Text script = ComposeScript(document, run.System.Time.Now());
     const Text& path = document.CurrentScriptPath;
-    if (!run.System.Disk.ReplaceOwn(RescuePathOf(run, path), script)) {
-        (void)run.System.Disk.Delete(BesideScript(path));  // an older one, of which only one could be offered
+    if (!run.System.Disk.ReplaceOwn(RescuePathOf(path), script)) {
+        (void)run.System.Disk.Delete(BesideProgram(run, path));  // an older one, of which only one could be offered
         return {};
     }
-    return run.System.Disk.ReplaceOwn(BesideScript(path), script);
+    return run.System.Disk.ReplaceOwn(BesideProgram(run, path), script);
 }
 
 }  // namespace
 
-Text RescuePathOf(const Run& run, TextView script) {
-    const Text directory = run.AppDirectory.empty() ? run.System.Disk.ProgramDirectory() : run.AppDirectory;
-    return Join(directory, "\\", NameOf(script));
+Text RescuePathOf(TextView script) {
+    return Join(script.substr(0, script.rfind('\\') + 1), NameOf(script));
 }
 
 Error RescueEdits(Fig_Frm& form) {

@@ -11,11 +11,11 @@
 
 namespace lv {
 
-/// Where the edits of that script are kept, whatever the letter case of its path.
-Text RescuePathOf(const Run& run, TextView script);
+/// Where the edits of that script are kept: beside it, whatever the letter case of its path.
+Text RescuePathOf(TextView script);
 
-/// The session ends: what is not saved is written beside the program's data, or beside the script if the program's
-/// directory takes no files. Nothing is asked, and the script stays as it is. The error of the last attempt.
+/// The session ends: what is not saved is written beside the script, or beside the program if the script's directory
+/// takes no files. Nothing is asked, and the script stays as it is. The error of the last attempt.
 Error RescueEdits(Fig_Frm& form);
 
 /// Asks about the edits that were kept of the form's script, which has been read, and reads them in its place if they

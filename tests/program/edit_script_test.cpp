@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 
 #include "tests/program/program_run.h"
 #include "tests/program/screen.h"
@@ -14,8 +15,10 @@ namespace lv {
 
 namespace {
 
+using ::testing::Contains;
 using ::testing::HasSubstr;
 using ::testing::Not;
+using ::testing::StartsWith;
 
 namespace fs = std::filesystem;
 
@@ -44,20 +47,43 @@ void PrepareServer(ProgramHome& home) {
     home.Set("Options", "CustomCommandLineText", "+exec server.cfg");
 }
 
+std::vector<std::string> NamesIn(const fs::path& directory) {
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(directory)) {
+        names.push_back(entry.path().filename().string());
+    }
+    return names;
+}
+
 /// The program with the editor open on the script.
 class EditedProgram : public ProgramRun {
   public:
-    explicit EditedProgram(const ProgramHome& home) : ProgramRun(home), main_(WaitForWindow()) {
+    /// A script that it has not saved yet: each opening tells of a backup.
+    explicit EditedProgram(const ProgramHome& home, const std::function<void(EditedProgram&)>& answer = {})
+        : ProgramRun(home), main_(WaitForWindow()) {
         Activate(main_);
         PressKey("F3");
         Answer(kBackupTitle, "Return");
-        WaitUntil([&] {
-            const std::vector<std::string> shown = ShownWindowsOf(Id(), kEditorTitle);
-            editor_ = shown.empty() ? std::string() : shown.front();
-            return !editor_.empty() && ShownWindowsOf(Id(), kBoxTitle).empty();
-        });
-        EXPECT_NE(editor_, "") << "no editor came up";
+        if (answer) {
+            answer(*this);
+        }
+        EXPECT_TRUE(WaitForEditor()) << "no editor came up, or something stands over it";
         Activate(editor_);
+    }
+
+    void BindJumpTo(const std::string& key) {
+        GoTo("jump");
+        PressKey("Return");  // the row waits for a key
+        PressKey(key);
+    }
+
+    /// The box above still has what was typed there last, and answers behind all that was pressed.
+    static void WaitUntilKeysAreRead(const std::string& typed) {
+        EXPECT_TRUE(WaitUntil([&] {
+            PressKey("ctrl+f");
+            PressKey("ctrl+a");
+            return SelectedText() == typed;
+        }));
     }
 
     /// Leads the keyboard there.
@@ -102,6 +128,14 @@ class EditedProgram : public ProgramRun {
     }
 
   private:
+    bool WaitForEditor() {
+        return WaitUntil([&] {
+            const std::vector<std::string> shown = ShownWindowsOf(Id(), kEditorTitle);
+            editor_ = shown.empty() ? std::string() : shown.front();
+            return !editor_.empty() && ShownWindowsOf(Id(), kBoxTitle).empty();
+        });
+    }
+
     std::string main_;
     std::string editor_;
 };
@@ -111,9 +145,7 @@ TEST(EditScript, TheEngineExecutesWhatWasEditedAndSaved) {
     PrepareServer(home);
     EditedProgram program(home);
 
-    program.GoTo("jump");
-    PressKey("Return");  // the row waits for a key
-    PressKey("e");
+    program.BindJumpTo("e");
 
     program.GoTo("hello");
     PressKey("Return");
@@ -138,6 +170,28 @@ TEST(EditScript, TheEngineExecutesWhatWasEditedAndSaved) {
     EXPECT_THAT(output, HasSubstr("the second greeting"));
     EXPECT_THAT(output, Not(HasSubstr("the first greeting")));
     EXPECT_THAT(output, HasSubstr("\"cl_bob\" is \"0.05\""));
+}
+
+TEST(EditScript, WhatTheEndOfTheSessionFoundUnsavedIsOfferedAndSaved) {
+    ProgramHome home("rescued_script");
+    PrepareServer(home);
+    const fs::path script = home.Quake / "id1/player.cfg";
+    const std::string before = ReadBytes(script);
+    {
+        EditedProgram program(home);
+        program.BindJumpTo("e");
+        program.WaitUntilKeysAreRead("jump");
+        program.Signal(SIGTERM);
+        EXPECT_TRUE(program.WaitForEnd()) << "the program stays";
+    }
+    EXPECT_EQ(ReadBytes(script), before);
+    EXPECT_THAT(NamesIn(script.parent_path()), Contains(StartsWith("SetupFoundry_Rescue_")));
+
+    EditedProgram program(home, [](EditedProgram& opening) { opening.Answer(kBoxTitle, "alt+t"); });
+    PressKey("ctrl+s");
+    program.Answer(kBoxTitle, "Return");
+    EXPECT_TRUE(WaitForText(script, "bind \"e\"             \"+jump\"")) << ReadBytes(script);
+    EXPECT_THAT(NamesIn(script.parent_path()), Not(Contains(StartsWith("SetupFoundry_Rescue_"))));
 }
 
 }  // namespace

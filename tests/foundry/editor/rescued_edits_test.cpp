@@ -21,9 +21,9 @@ class RescuedEdits : public Lifecycle {
         system.Disk.AddDirectory("C:\\PROGRAM");
     }
 
-    Text Kept() { return system.Disk.Bytes(RescuePathOf(run, kEditedScript)); }
-    bool IsKept() { return system.Disk.FileExists(RescuePathOf(run, kEditedScript)); }
-    Text Beside() { return Join("C:\\GAME\\ID1\\", LastPathPart(RescuePathOf(run, kEditedScript))); }
+    Text Kept() { return system.Disk.Bytes(RescuePathOf(kEditedScript)); }
+    bool IsKept() { return system.Disk.FileExists(RescuePathOf(kEditedScript)); }
+    Text BesideProgram() { return Join("C:\\PROGRAM\\", LastPathPart(RescuePathOf(kEditedScript))); }
     void ExpectOffer(int answer) {
         user.Expect({Text(kTitle), Text(kOffer), answer, false, true, "&Take Them Up,&Drop Them"});
     }
@@ -34,7 +34,7 @@ class RescuedEdits : public Lifecycle {
     }
 };
 
-TEST_F(RescuedEdits, AreWrittenBesideTheProgramsDataAndNotOverTheScript) {
+TEST_F(RescuedEdits, AreWrittenBesideTheScriptAndNotOverIt) {
     OpenAndLoad(kQuakeDialect, "bind w +forward\n");
     const Text before = system.Disk.Bytes(kEditedScript);
     Change();
@@ -43,7 +43,7 @@ TEST_F(RescuedEdits, AreWrittenBesideTheProgramsDataAndNotOverTheScript) {
     EXPECT_EQ(CountLines(Kept(), "bind \"w\"             \"+forward\""), 1);
     EXPECT_EQ(system.Disk.Bytes(kEditedScript), before);
     EXPECT_FALSE(form.Document.ScriptClean);
-    EXPECT_TRUE(RescuePathOf(run, kEditedScript).starts_with("C:\\PROGRAM\\SetupFoundry_Rescue_"));
+    EXPECT_TRUE(RescuePathOf(kEditedScript).starts_with("C:\\GAME\\ID1\\SetupFoundry_Rescue_"));
 }
 
 TEST_F(RescuedEdits, OfACleanScriptAreNone) {
@@ -59,12 +59,12 @@ TEST_F(RescuedEdits, OfAWindowThatIsNotLoadedYetAreNone) {
     EXPECT_FALSE(IsKept());
 }
 
-TEST_F(RescuedEdits, GoBesideTheScriptWhereTheProgramsDirectoryTakesNone) {
+TEST_F(RescuedEdits, GoBesideTheProgramWhereTheScriptsDirectoryTakesNone) {
     OpenAndLoad();
     Change();
-    system.Disk.Refused[LowerCase(RescuePathOf(run, kEditedScript))] = MakeError(error::kPermissionDenied);
+    system.Disk.Refused[LowerCase(RescuePathOf(kEditedScript))] = MakeError(error::kPermissionDenied);
     EXPECT_EQ(RescueEdits(form).Number, 0);
-    EXPECT_EQ(CountLines(system.Disk.Bytes(Beside()), "name \"Me\""), 1);
+    EXPECT_EQ(CountLines(system.Disk.Bytes(BesideProgram()), "name \"Me\""), 1);
     OpenAgain();
     ExpectOffer(0);
     EXPECT_EQ(OfferRescuedEdits(form), true);
@@ -72,8 +72,8 @@ TEST_F(RescuedEdits, GoBesideTheScriptWhereTheProgramsDirectoryTakesNone) {
 }
 
 TEST_F(RescuedEdits, AreFoundInWhateverLetterCaseTheScriptIsNamed) {
-    EXPECT_EQ(RescuePathOf(run, "C:\\GAME\\ID1\\MY.CFG"), RescuePathOf(run, "c:\\game\\id1\\my.cfg"));
-    EXPECT_NE(RescuePathOf(run, "C:\\GAME\\ID1\\MY.CFG"), RescuePathOf(run, "C:\\GAME\\ID1\\MY2.CFG"));
+    EXPECT_TRUE(SameText(RescuePathOf("C:\\GAME\\ID1\\MY.CFG"), RescuePathOf("c:\\game\\id1\\my.cfg")));
+    EXPECT_FALSE(SameText(RescuePathOf("C:\\GAME\\ID1\\MY.CFG"), RescuePathOf("C:\\GAME\\ID1\\MY2.CFG")));
 }
 
 TEST_F(RescuedEdits, ThatAreTakenUpAreUnsavedEditsOfTheScript) {
@@ -167,7 +167,7 @@ TEST_F(RescuedEdits, AreKeptByTheEndOfTheSessionAndOfferedByTheNextOpening) {
     });
     SetupFoundry_Bar_Click(foundry);
     EXPECT_TRUE(run.Ended);
-    EXPECT_TRUE(system.Disk.FileExists(RescuePathOf(run, path)));
+    EXPECT_TRUE(system.Disk.FileExists(RescuePathOf(path)));
     run.Ended = false;
     run.MainFormLoaded = true;
     user.Expect({Text(kTitle),
@@ -182,7 +182,7 @@ TEST_F(RescuedEdits, AreKeptByTheEndOfTheSessionAndOfferedByTheNextOpening) {
         Fig_Frm_Unload(shown);
     });
     SetupFoundry_Bar_Click(foundry);
-    EXPECT_FALSE(system.Disk.FileExists(RescuePathOf(run, path)));
+    EXPECT_FALSE(system.Disk.FileExists(RescuePathOf(path)));
 }
 
 }  // namespace
