@@ -428,6 +428,9 @@ void FigForm::SpeakAnew() {
     for (const auto& [index, label] : parts_.KeyLabels) {
         unspoken_.push_back(label);
     }
+    for (CellLabel* label : parts_.ColorLabels) {
+        unspoken_.push_back(label);
+    }
 }
 
 // In idle moments: some systems take their time to keep a name.
