@@ -148,7 +148,7 @@ void CellLabel::PaintText(wxDC& canvas) {
     const wxSize size = GetClientSize();
     const int margin = FromDIP(kLeftMargin);
     const int room = size.x - (shown_.Centered ? 2 : margin + 2);
-    canvas.SetFont(shown_.Bold ? GetFont().Bold() : GetFont());
+    canvas.SetFont(shown_.Bold ? GetFont().Bold() : shown_.Small ? GetFont().Smaller() : GetFont());
     if (fitted_.Room != room || fitted_.Caption != shown_.Caption) {
         const wxString text = shown_.Centered ? ToWx(Trim(shown_.Caption)) : ToWx(shown_.Caption);
         fitted_ = {room, shown_.Caption, text, canvas.GetTextExtent(text)};
