@@ -10,4 +10,8 @@ namespace lv {
 /// show, and can have before it, is made now.
 void WarmUp(void* window);
 
+/// The same for a part, that is hidden yet, of a window that is on the screen, and for each control in it. The parts
+/// around it have to hang in each other: a page has to be among the tabs.
+void WarmUpPart(void* part);
+
 }  // namespace lv

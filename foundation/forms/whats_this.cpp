@@ -1,11 +1,13 @@
 #include "foundation/forms/whats_this.h"
 
 #include <wx/cshelp.h>
+#include <wx/textctrl.h>
 
 #include <map>
 #include <string>
 
 #include "assets/embedded_texts.h"
+#include "platform/right_click.h"
 
 namespace lv {
 
@@ -32,11 +34,23 @@ const std::map<std::string, std::string>& Texts() {
     return texts;
 }
 
-/// What is said of the control itself, or of all that it is one of: "Bound_Lbl(101)", then "Bound_Lbl(n)".
+/// What is said of the control itself, or of all that it is one of: "Bound_Lbl(101)", then "Bound_Lbl(n)". Of a list
+/// that belongs to a box, "SST_RGAMMA_Cbo", what is said of the box, "SST_RGAMMA_Chk".
 auto TextOf(const std::string& name) {
+    constexpr std::string_view kList = "_Cbo";
     const auto own = Texts().find(name);
     const std::size_t open = name.find('(');
-    return own != Texts().end() || open == std::string::npos ? own : Texts().find(name.substr(0, open) + "(n)");
+    if (own == Texts().end() && open != std::string::npos) {
+        return Texts().find(name.substr(0, open) + "(n)");
+    }
+    return own == Texts().end() && name.ends_with(kList)
+               ? Texts().find(name.substr(0, name.size() - kList.size()) + "_Chk")
+               : own;
+}
+
+// The button of a field opens the menu that cuts and pastes.
+bool HasOwnRightButton(const wxWindow* window) {
+    return (window->GetExtraStyle() & kOwnRightButton) != 0 || dynamic_cast<const wxTextCtrl*>(window) != nullptr;
 }
 
 }  // namespace
@@ -50,10 +64,13 @@ void GiveWhatsThis(wxWindow* window) {
     if (found != Texts().end()) {
         window->SetHelpText(wxString::FromUTF8(found->second));
     }
-    if (found != Texts().end() && (window->GetExtraStyle() & kOwnRightButton) == 0) {
-        window->Bind(wxEVT_RIGHT_UP, [window](wxMouseEvent&) {
+    if (found != Texts().end() && !HasOwnRightButton(window)) {
+        const auto tell = [window] {
             wxHelpProvider::Get()->ShowHelpAtPoint(window, wxGetMousePosition(), wxHelpEvent::Origin_Keyboard);
-        });
+        };
+        if (!WatchRightClick(window->GetHandle(), tell)) {
+            window->Bind(wxEVT_RIGHT_UP, [tell](wxMouseEvent&) { tell(); });
+        }
     }
     for (wxWindow* child : window->GetChildren()) {
         GiveWhatsThis(child);

@@ -9,7 +9,7 @@
 namespace lv {
 
 /// Gives every named control below the window its text and its right click. A control that has a use of its own for the
-/// right button (UsesRightButton) gets the text alone.
+/// right button (UsesRightButton, and every field of text) gets the text alone, for Shift+F1 and What's This mode.
 void GiveWhatsThis(wxWindow* window);
 
 /// Said by controls of their own drawing, once for each.

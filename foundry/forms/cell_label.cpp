@@ -9,7 +9,6 @@
 #include <cstdlib>
 
 #include "foundation/field_strings.h"
-#include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "foundry/editor/phun_names_frm.h"
 #include "platform/spoken_name.h"
@@ -63,7 +62,6 @@ CellLabel::CellLabel(wxWindow* parent, const wxString& name, Look look, CellGrou
     Create(parent, wxID_ANY, wxDefaultPosition, wxSize(1, 1), wxWANTS_CHARS | wxBORDER_NONE | wxFULL_REPAINT_ON_RESIZE,
            name);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
-    UsesRightButton(this);
     if (group_ == nullptr) {
         return;
     }
@@ -150,7 +148,7 @@ void CellLabel::PaintText(wxDC& canvas) {
     const wxSize size = GetClientSize();
     const int margin = FromDIP(kLeftMargin);
     const int room = size.x - (shown_.Centered ? 2 : margin + 2);
-    canvas.SetFont(shown_.Bold ? GetFont().Bold() : GetFont());
+    canvas.SetFont(shown_.Bold ? GetFont().Bold() : shown_.Small ? GetFont().Smaller() : GetFont());
     if (fitted_.Room != room || fitted_.Caption != shown_.Caption) {
         const wxString text = shown_.Centered ? ToWx(Trim(shown_.Caption)) : ToWx(shown_.Caption);
         fitted_ = {room, shown_.Caption, text, canvas.GetTextExtent(text)};

@@ -22,6 +22,7 @@ struct CellLook {
     bool Highlighted = false;  // in the system's highlight colours
     bool Inactive = false;     // on the system's colour of inactive borders
     bool Bold = false;
+    bool Small = false;  // a font of the window's own would have the toolkit look up its style alone
     bool Centered = false;
     bool Dark = false;  // white letters on black
     bool Visible = true;

@@ -125,6 +125,7 @@ class ColorForm : public ModalForm {
         swatch->SetMinSize(FromDIP(wxSize(kSwatch, kSwatch)));
         swatch->SetSpeaker([index] { return Join("Color ", std::to_string(index)); });
         swatch->ShowState();
+        swatch->Speak();
         const auto choose = [this, &colors, index] { Controls.Run([&] { Color_Lbl_Click(colors, index); }); };
         swatch->Bind(wxEVT_LEFT_UP, [choose](wxMouseEvent&) { choose(); });
         swatch->Bind(wxEVT_CHAR_HOOK, [choose](wxKeyEvent& event) {

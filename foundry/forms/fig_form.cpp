@@ -74,6 +74,18 @@ bool IsOnTop(const wxWindow* window) {
     return true;
 }
 
+/// A page that is not among the tabs belongs to the window all the same, but hangs in nothing.
+bool IsInTabs(const wxWindow* window) {
+    for (const wxWindow* parent = window->GetParent(); parent != nullptr;
+         window = parent, parent = window->GetParent()) {
+        const auto* tabs = dynamic_cast<const wxNotebook*>(parent);
+        if (tabs != nullptr && tabs->FindPage(window) == wxNOT_FOUND) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// What comes or goes in the page moves the rest of it, and the end of what can be scrolled.
 void LayOut(wxWindow* page) {
     if (auto* scrolled = dynamic_cast<ScrolledPage*>(page->GetParent())) {
@@ -148,6 +160,8 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
     FitToScreen();  // in the few pixels of a new window there is no room for what is warmed up
     WarmUp(GetHandle());
     WarmUp(keys_->GetHandle());
+    cold_ = pages_;
+    cold_.insert(cold_.end(), keys_->GetChildren().begin(), keys_->GetChildren().end());
 }
 
 int FigForm::ShowModal() {
@@ -280,7 +294,7 @@ void FigForm::BindEvents() {
         event.Skip();
         if (!place_.IsPut()) {
             PrepareOnePage();
-        } else if (painted_ && (parts_.Controls.FillOne() || MakeOnePage() || SpeakSome())) {
+        } else if (painted_ && (parts_.Controls.FillOne() || MakeOnePage() || WarmUpOne() || SpeakSome())) {
             event.RequestMore();
         }
     });
@@ -428,6 +442,9 @@ void FigForm::SpeakAnew() {
     for (const auto& [index, label] : parts_.KeyLabels) {
         unspoken_.push_back(label);
     }
+    for (CellLabel* label : parts_.ColorLabels) {
+        unspoken_.push_back(label);
+    }
 }
 
 // In idle moments: some systems take their time to keep a name.
@@ -437,6 +454,18 @@ bool FigForm::SpeakSome() {
         unspoken_.pop_back();
     }
     return !unspoken_.empty();
+}
+
+// In idle moments, a few milliseconds each: a page that is turned to comes up with all that can be had before.
+bool FigForm::WarmUpOne() {
+    if (cold_.empty()) {
+        return false;
+    }
+    if (IsInTabs(cold_.back())) {
+        WarmUpPart(cold_.back()->GetHandle());
+    }
+    cold_.pop_back();
+    return true;
 }
 
 // One at a time, for the splash has dots to draw. There is nothing yet to fill lists with.

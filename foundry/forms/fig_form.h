@@ -50,6 +50,7 @@ class FigForm : public wxDialog {
     bool PressAccessKey(const wxKeyEvent& event);
     void MakeShownPages();
     bool MakeOnePage();
+    bool WarmUpOne();
     void PrepareOnePage();
     void LeadToFound();
     void SpeakAnew();
@@ -75,6 +76,7 @@ class FigForm : public wxDialog {
     std::vector<wxWindow*> pages_;  // those that lay out controls that come and go
     std::set<wxWindow*> stale_;     // those of them that are to be laid out
     std::vector<LatePage> late_;
+    std::vector<wxWindow*> cold_;       // what has not been seen, and can be warmed up
     wxWindow* hint_ = nullptr;          // below all that scrolls, in sight whatever row waits for a key
     std::vector<CellLabel*> unspoken_;  // whose names may be old
     wxTimer saveTimer_;                 // Save_Tmr

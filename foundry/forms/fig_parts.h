@@ -32,6 +32,7 @@ struct FigParts {
     std::map<SlotNumber, CellLabel*> SettingLabels;
     std::map<SlotNumber, CellLabel*> BoundLabels;
     std::map<Index, CellLabel*> KeyLabels;
+    std::vector<CellLabel*> ColorLabels;
 
     // What happens to a label, whoever made it.
     std::function<void(CellLabel*, Index label)> WatchKey;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "foundation/forms/whats_this.h"
 #include "foundation/screen_fit.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/forms/key_codes.h"
@@ -43,6 +44,7 @@ wxScrolledWindow* ScrolledAround(wxWindow* window) {
 KeyHand::KeyHand(FigParts& parts) : parts_(parts) {}
 
 void KeyHand::WatchKey(CellLabel* label, Index index) {
+    UsesRightButton(label);
     label->Bind(wxEVT_ENTER_WINDOW, [this, label, index](wxMouseEvent& event) {
         event.Skip();
         if (!IsDragging()) {
@@ -93,6 +95,7 @@ void KeyHand::WatchKeyboard(CellLabel* label) {
 }
 
 void KeyHand::WatchRow(CellLabel* label, SlotNumber slot) {
+    UsesRightButton(label);
     label->Bind(wxEVT_LEFT_DOWN, [this, label](wxMouseEvent& event) {
         if (listening_) {
             Hear(event, label);
@@ -130,6 +133,7 @@ void KeyHand::WatchRow(CellLabel* label, SlotNumber slot) {
 }
 
 void KeyHand::WatchName(CellLabel* label, SlotNumber slot) {
+    UsesRightButton(label);
     label->Bind(wxEVT_LEFT_UP, [this, slot](wxMouseEvent&) {
         parts_.Controls.Run([&] { Bound_Lbl_MouseUp(parts_.Model, slot, false); });
     });

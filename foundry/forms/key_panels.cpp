@@ -47,6 +47,7 @@ CellLook LookOfKey(const Fig_Frm& form, Index label) {
     return {.Caption = key.Caption,
             .Back = key.BackColor,
             .Highlighted = form.PickedKey != kNoKey && form.PickedKey == label,
+            .Small = true,
             .Centered = true,
             .Dark = label >= kFirstUnbindable,
             .Visible = key.Visible,
@@ -108,7 +109,6 @@ void KeyPanels::MakeKey(wxWindow* picture, Index label) {
     CellLabel* key = parts_.MakeCell(
         picture, wxString::Format("Key_Lbl(%d)", label), [&form, label] { return LookOfKey(form, label); },
         StandsOnController(label) ? &parts_.ControllerKeys : &parts_.Keys);
-    key->SetFont(key->GetFont().Smaller());
     key->SetSpeaker([&form, label] { return SpokenKey(form, label); });
     parts_.KeyLabels[label] = key;
     parts_.WatchKey(key, label);

@@ -192,6 +192,7 @@ class OptionsPageMaker {
             &parts_.Colors);
         label->SetMinSize(wxSize(kColorLetters * page_->GetTextExtent("n").x, parts_.RowHeight(page_) * 5 / 4));
         label->SetSpeaker([&color] { return Join(Trim(color.Caption), ", ", std::to_string(color.Tag)); });
+        parts_.ColorLabels.push_back(label);
         const auto choose = [&parts = parts_, index] {
             parts.Controls.Run([&] { PlayerColor_Lbl_Click(parts.Model, index); });
         };

@@ -13,6 +13,7 @@ struct Functions {
     using Test = int (*)(void*);
 
     OfWidget Realize = ToolkitFunction<OfWidget>("gtk_widget_realize");
+    void* (*Toplevel)(void*) = ToolkitFunction<void* (*)(void*)>("gtk_widget_get_toplevel");
     Test IsToplevel = ToolkitFunction<Test>("gtk_widget_is_toplevel");
     Test ChildIsVisible = ToolkitFunction<Test>("gtk_widget_get_child_visible");
     Test IsVisible = ToolkitFunction<Test>("gtk_widget_get_visible");
@@ -22,7 +23,8 @@ struct Functions {
     int (*IsA)(void*, unsigned long) = ToolkitFunction<int (*)(void*, unsigned long)>("g_type_check_instance_is_a");
 
     [[nodiscard]] bool All() const {
-        return Realize && IsVisible && ChildIsVisible && IsToplevel && ForAll && PreferredSize && ContainerType && IsA;
+        return Realize && IsVisible && ChildIsVisible && IsToplevel && Toplevel && ForAll && PreferredSize &&
+               ContainerType && IsA;
     }
 };
 
@@ -42,7 +44,29 @@ void RealizeShown(void* widget, void*) {
     }
 }
 
+// What is hidden in it for want of room counts as shown.
+void WarmUpInside(void* widget, void*) {
+    const Functions& toolkit = Toolkit();
+    if (!toolkit.IsVisible(widget)) {
+        return;
+    }
+    toolkit.Realize(widget);
+    toolkit.PreferredSize(widget, nullptr, nullptr);
+    if (toolkit.IsA(widget, toolkit.ContainerType())) {
+        toolkit.ForAll(widget, WarmUpInside, nullptr);
+    }
+}
+
 }  // namespace
+
+void WarmUpPart(void* part) {
+    const Functions& toolkit = Toolkit();
+    if (part == nullptr || !toolkit.All() || !toolkit.IsToplevel(toolkit.Toplevel(part))) {
+        return;
+    }
+    toolkit.Realize(part);
+    toolkit.ForAll(part, WarmUpInside, nullptr);
+}
 
 void WarmUp(void* window) {
     const Functions& toolkit = Toolkit();

@@ -5,4 +5,6 @@ namespace lv {
 // Windows makes all of a window with its controls.
 void WarmUp(void*) {}
 
+void WarmUpPart(void*) {}
+
 }  // namespace lv

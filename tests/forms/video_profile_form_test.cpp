@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <wx/choice.h>
-#include <wx/cshelp.h>
 #include <wx/textctrl.h>
 
 #include "foundation/settings.h"
@@ -15,6 +14,7 @@
 #include "launcher/window_size.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
+#include "tests/forms/told_help.h"
 #include "video/forms/add_vid_profile_form.h"
 
 namespace lv {
@@ -263,22 +263,12 @@ TEST_F(VideoProfileForm_, EveryBoxHasItsHelp) {
     }
 }
 
-TEST_F(VideoProfileForm_, ARightClickOnABoxTellsWhatItIsFor) {
-    struct Told : public wxHelpProvider {
-        wxString GetHelp(const wxWindowBase*) override { return {}; }
-        bool ShowHelpAtPoint(wxWindowBase* window, const wxPoint&, wxHelpEvent::Origin) override {
-            Names.push_back(window->GetName());
-            return true;
-        }
-        std::vector<wxString> Names;
-    };
+TEST_F(VideoProfileForm_, ARightClickOnABoxOrItsListTellsWhatItIsFor) {
     Open();
-    Told told;
-    wxHelpProvider* const before = wxHelpProvider::Set(&told);
-    RightClickOn(Find("Mirrors_Chk"));
-    RightClickOn(Find("Windowed_Chk"));
-    wxHelpProvider::Set(before);
-    EXPECT_EQ(told.Names, (std::vector<wxString>{"Mirrors_Chk", "Windowed_Chk"}));
+    const std::vector<std::string> controls = {"Mirrors_Chk", "Windowed_Chk", "SST_GRXCLK_Cbo", "VidCard_Cbo"};
+    EXPECT_EQ(ToldByRightClicks(controls), controls);
+    EXPECT_EQ(Find("SST_GRXCLK_Cbo")->GetHelpText(), Find("SST_GRXCLK_Chk")->GetHelpText());
+    EXPECT_NE(Find("VidCard_Cbo")->GetHelpText(), "");
 }
 
 TEST_F(VideoProfileForm_, DeleteWorksInTheNameOfANewProfile) {

@@ -50,6 +50,24 @@ TEST_F(SpokenSettings, AreCalledByTheirCaptionsAndNotByTheirToolTips) {
     });
 }
 
+TEST_F(SpokenSettings, ColorsHaveTheirNamesBeforeTheKeyboardComes) {
+    Use(kGames[0], "color 4 12\n");
+    Edit([] {
+        const auto named = [](const char* control, const std::string& name) {
+            return SettleUntil([&] { return Spoken(control) == name; }, 3000);
+        };
+        EXPECT_TRUE(named("PlayerColor_Lbl(0)", "Shirt Color, 4")) << Spoken("PlayerColor_Lbl(0)");
+        EXPECT_TRUE(named("PlayerColor_Lbl(1)", "Pants Color, 12")) << Spoken("PlayerColor_Lbl(1)");
+        DoAndAnswer([] { ClickOn(Find("PlayerColor_Lbl(0)")); },
+                    [] {
+                        EXPECT_EQ(Spoken("Color_Lbl(0)"), "Color 0");
+                        EXPECT_EQ(Spoken("Color_Lbl(13)"), "Color 13");
+                        ClickOn(Find("Color_Lbl(13)"));
+                    });
+        EXPECT_TRUE(named("PlayerColor_Lbl(0)", "Shirt Color, 13")) << Spoken("PlayerColor_Lbl(0)");
+    });
+}
+
 TEST_F(SpokenSettings, OfUnrealAreCalledSoTooWithTheListsOfWeapons) {
     Use(kGames[4], "[Engine.Input]\nW=MoveForward\n");
     Edit([this] {
