@@ -114,11 +114,10 @@ Words WordsOf(TextView line) {
     return words;
 }
 
-// A terminator ends a registry value; nothing that a player typed is longer than the longest of our own values.
+// Nothing that a player typed is longer than the longest of our own values.
 void Take(Text& place, TextView value) {
-    const TextView text = value.substr(0, value.find('\0'));
-    if (!text.empty() && text.size() <= kLongestValue) {
-        place = text;
+    if (!value.empty() && value.size() <= kLongestValue) {
+        place = value;
     }
 }
 

@@ -1,6 +1,7 @@
 #include "foundry/reading/script_lines.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace lv {
@@ -28,11 +29,37 @@ bool IsZero(TextView bytes) {
     return !bytes.empty() && bytes.front() == '\0' && bytes.substr(1) == bytes.substr(0, bytes.size() - 1);
 }
 
+std::size_t ZerosAtStart(TextView bytes) {
+    return IsZero(bytes) ? bytes.size() : std::min(bytes.find_first_not_of('\0'), bytes.size());
+}
+
+/// Zero bytes at the end are the most there are, in a hole, and are not looked at one by one.
+TextView WithoutHole(TextView bytes) {
+    const std::size_t first = bytes.find('\0');
+    return first != TextView::npos && IsZero(bytes.substr(first)) ? bytes.substr(0, first) : bytes;
+}
+
+bool HasZeros(TextView bytes) {
+    return bytes.find('\0') != TextView::npos;
+}
+
+std::size_t TextBytes(TextView bytes) {
+    const TextView text = WithoutHole(bytes);
+    return text.size() - (HasZeros(text) ? static_cast<std::size_t>(std::ranges::count(text, '\0')) : 0);
+}
+
+/// Moves what is text to the front.
+std::span<char> WithoutZeros(std::span<char> bytes) {
+    const TextView text = WithoutHole(TextView(bytes.data(), bytes.size()));
+    bytes = bytes.first(text.size());
+    return HasZeros(text) ? bytes.first(bytes.size() - std::ranges::remove(bytes, '\0').size()) : bytes;
+}
+
 }  // namespace
 
 bool ScriptLines::Next(std::span<char>& line) {
     Release();
-    if (emptyLines_ > kMostEmptyLines || (!TakeShort(line) && !TakeLong(line))) {
+    if (emptyLines_ > kMostEmptyLines || !FindText() || (!TakeShort(line) && !TakeLong(line))) {
         return false;
     }
     ++number_;
@@ -55,13 +82,23 @@ bool ScriptLines::Load(std::uint64_t offset) {
     return loaded_;
 }
 
-// The block at the next line, or at the one behind what is no text.
-bool ScriptLines::LoadText() {
-    for (bool passedOver = false; Load(next_); next_ += block_.size()) {
-        if ((block_.size() < kBlock && !passedOver) || !IsZero(block_)) {
+bool ScriptLines::HoldsNext() const {
+    return loaded_ && next_ - begin_ < block_.size();
+}
+
+// Moves next_ to what is text, in the block that is loaded then. False at the end of the file.
+bool ScriptLines::FindText() {
+    while (HoldsNext() || Load(next_)) {
+        const TextView rest = TextView(block_).substr(static_cast<std::size_t>(next_ - begin_));
+        const std::size_t zeros = ZerosAtStart(rest);
+        next_ += zeros;
+        if (zeros == rest.size()) {
+            continue;
+        }
+        if (!std::exchange(afterCarriageReturn_, false) || rest[zeros] != '\n') {
             return true;
         }
-        passedOver = true;
+        ++next_;
     }
     return false;
 }
@@ -69,26 +106,17 @@ bool ScriptLines::LoadText() {
 // A line that ends within the block, or within the one that begins where the line does.
 bool ScriptLines::TakeShort(std::span<char>& line) {
     for (const bool fresh : {false, true}) {
-        if ((fresh || !loaded_ || next_ - begin_ >= block_.size()) && !LoadText()) {
+        if (fresh && !Load(next_)) {
             return false;
         }
-        auto start = static_cast<std::size_t>(next_ - begin_);
-        if (afterCarriageReturn_ && block_[start] == '\n') {
-            ++start;
-            ++next_;
-        }
-        afterCarriageReturn_ = false;
+        const auto start = static_cast<std::size_t>(next_ - begin_);
         const std::size_t end = FindLineEnd(block_, start);
         const bool endsFile = begin_ + end >= file_.Size();
         if (end == block_.size() && !endsFile) {
             continue;
         }
-        if (start == block_.size()) {
-            return false;
-        }
-        line = std::span(block_).subspan(start, end - start);
-        afterCarriageReturn_ = end < block_.size() && block_[end] == '\r';
-        next_ = begin_ + end + (end < block_.size() ? 1 : 0);
+        line = WithoutZeros(std::span(block_).subspan(start, end - start));
+        EndLine(begin_ + end, end < block_.size() ? block_[end] : '\0');
         return true;
     }
     return false;
@@ -96,34 +124,44 @@ bool ScriptLines::TakeShort(std::span<char>& line) {
 
 // Its length is looked up first, so that it is held once, and in no more bytes than it has.
 bool ScriptLines::TakeLong(std::span<char>& line) {
-    const std::uint64_t start = next_;
-    std::uint64_t end = start;
-    bool found = false;
-    while (!found && end < file_.Size()) {
+    std::uint64_t end = next_;
+    std::size_t length = 0;
+    char last = '\0';
+    while (last == '\0' && end < file_.Size()) {
         if (!Load(end)) {
             return false;
         }
-        if (end > start && block_.size() == kBlock && IsZero(block_)) {
-            loaded_ = false;
-            break;
-        }
         const std::size_t at = FindLineEnd(block_, 0);
-        found = at < block_.size();
-        afterCarriageReturn_ = found && block_[at] == '\r';
+        last = at < block_.size() ? block_[at] : '\0';
+        length += TextBytes(TextView(block_).substr(0, at));
         end += at;
     }
-    if (end == start) {
+    if (end == next_ || !ReadLong(end, length)) {
         return false;
     }
-    auto read = file_.Read(start, static_cast<std::size_t>(end - start));
-    if (!read.Ok() || read.Value.size() != end - start) {
-        next_ = file_.Size();
-        return false;
-    }
-    long_ = std::move(read.Value);
     line = std::span(long_);
-    next_ = end + (found ? 1 : 0);
+    EndLine(end, last);
     return true;
+}
+
+bool ScriptLines::ReadLong(std::uint64_t end, std::size_t length) {
+    long_.reserve(length);
+    for (std::uint64_t at = next_; at < end; at += block_.size()) {
+        if (!Load(at)) {
+            return false;
+        }
+        const auto most = static_cast<std::size_t>(std::min<std::uint64_t>(block_.size(), end - at));
+        const std::span<char> text = WithoutZeros(std::span(block_).first(most));
+        long_.append(text.data(), text.size());
+    }
+    loaded_ = false;  // its text was moved
+    return true;
+}
+
+// `last` is the byte there, 0 at the end of the file.
+void ScriptLines::EndLine(std::uint64_t at, char last) {
+    next_ = at + (last == '\0' ? 0 : 1);
+    afterCarriageReturn_ = last == '\r';
 }
 
 }  // namespace lv

@@ -16,8 +16,8 @@ namespace lv {
 constexpr TextView kScriptBlanks = " \t";
 
 /// Lines end in CR LF, CR or LF, mixed as they come. Never holds more of the file than a block of it and one line.
-/// Zero bytes that fill a whole block, as in the holes of a sparse file, are no text: they end a line, and are passed
-/// over.
+/// Zero bytes are no text, and are passed over wherever they stand: one by one among others, which no text box could
+/// show, and by the million in the holes of a sparse file.
 class ScriptLines {
   public:
     /// The file outlives the object.
@@ -36,8 +36,11 @@ class ScriptLines {
   private:
     bool TakeShort(std::span<char>& line);
     bool TakeLong(std::span<char>& line);
+    bool ReadLong(std::uint64_t end, std::size_t length);
+    void EndLine(std::uint64_t at, char last);
     bool Load(std::uint64_t offset);
-    bool LoadText();
+    bool FindText();
+    [[nodiscard]] bool HoldsNext() const;
 
     RandomAccessFile& file_;
     std::uint64_t next_ = 0;   // where in the file the next line begins

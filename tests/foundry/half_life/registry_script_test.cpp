@@ -270,9 +270,9 @@ TEST(ReadHalfLifeScript, TakesNoValueThatIsTooLongToBeOne) {
     EXPECT_EQ(Set(Read(Join("name ", Text(1000000, 'n'), "\nmodel ", Text(1000000, 'm')))), 0);
 }
 
-TEST(ReadHalfLifeScript, EndsAValueAtItsTerminator) {
-    EXPECT_EQ(Cvar(Read(TextView("model a\0b", 9)), "model"), "a");
-    EXPECT_EQ(Set(Read(TextView("model \0b", 8))), 0);
+TEST(ReadHalfLifeScript, PassesOverZeroBytes) {
+    EXPECT_EQ(Cvar(Read(TextView("model a\0b", 9)), "model"), "ab");
+    EXPECT_EQ(Cvar(Read(TextView("mod\0el \0b", 9)), "model"), "b");
 }
 
 TEST(ReadHalfLifeScript, BringsBackWhatTheOtherDirectionWrote) {

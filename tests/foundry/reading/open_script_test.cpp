@@ -303,6 +303,15 @@ TEST_F(OpenScriptTest, ALargeScriptIsReadIfTheUserWantsToWait) {
     EXPECT_TRUE(Open(Join(kOurs, Text((8U << 20U) - 25, ' '))));
 }
 
+TEST_F(OpenScriptTest, KeepsZeroBytesInTheCopyAlone) {
+    const Text bytes("bind a \"+att\0ack\"\nr_x\0y 1\n", 26);
+    ExpectBackupTold("C:\\QUAKE\\ID1\\my.SetupFoundry_Config_Backup");
+    EXPECT_TRUE(Open(bytes));
+    EXPECT_EQ(BindingOf(document, "a"), "+attack");
+    EXPECT_EQ(document.Sections.at(0).Text, "r_xy 1");
+    EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE\\ID1\\my.SetupFoundry_Config_Backup"), bytes);
+}
+
 TEST_F(OpenScriptTest, KeepsNoCopyInADirectoryThatIsALinkOutOfTheGame) {
     system.Disk.AddFile("C:\\SRV\\my.cfg", "bind a +attack\n");
     system.Disk.AddLink("C:\\QUAKE\\CTF", "C:\\SRV");

@@ -60,8 +60,8 @@ TEST(ScriptLines, AreAsManyWithAndWithoutALastLineEnd) {
     EXPECT_EQ(LinesOf("\r\n"), Lines{""});
 }
 
-TEST(ScriptLines, KeepAllBytesButLineEnds) {
-    const Text odd("a\0b\t\x1A\xFF", 6);
+TEST(ScriptLines, KeepAllBytesButLineEndsAndZeros) {
+    const Text odd("ab\t\x01\x1A\xFF", 6);
     EXPECT_EQ(LinesOf(odd + "\n" + odd), (Lines{odd, odd}));
 }
 
@@ -156,26 +156,46 @@ TEST(ScriptLines, AreTheSameHoweverTheBytesFall) {
     }
 }
 
+TEST(ScriptLines, PassOverZeroBytesWhereverTheyStand) {
+    EXPECT_EQ(LinesOf(TextView("a\0b\nc", 5)), (Lines{"ab", "c"}));
+    EXPECT_EQ(LinesOf(TextView("\0\0ab\0\n\0c\0\0d\0", 12)), (Lines{"ab", "cd"}));
+    EXPECT_EQ(LinesOf(TextView("a\n\0\0\nb", 6)), (Lines{"a", "", "b"}));
+}
+
+TEST(ScriptLines, EndInCarriageReturnAndLineFeedWithZeroBytesBetween) {
+    EXPECT_EQ(LinesOf(TextView("a\0\r\0\n\0b\0", 8)), (Lines{"a", "b"}));
+    EXPECT_EQ(LinesOf(Join("a\r", Text(70000, '\0'), "\nb")), (Lines{"a", "b"}));
+}
+
+TEST(ScriptLines, OfZeroBytesBehindTheLastLineEndAreNone) {
+    EXPECT_EQ(LinesOf(TextView("a\n\0\0", 4)), Lines{"a"});
+    EXPECT_EQ(LinesOf(TextView("a\r\0\n\0", 5)), Lines{"a"});
+    EXPECT_EQ(LinesOf(Text(1, '\0')), Lines{});
+}
+
 TEST(ScriptLines, PassOverBlocksOfZeroBytes) {
     const Text holes(3 * 65536 + 100, '\0');
     EXPECT_EQ(LinesOf(holes), Lines());
     EXPECT_EQ(LinesOf(Join("a\nb\n", holes)), (Lines{"a", "b"}));
-    EXPECT_EQ(LinesOf(Join(Text(2 * 65536, '\0'), "a\nb")), (Lines{"a", "b"}));
-    EXPECT_EQ(LinesOf(Join("a\n", Text(2 * 65536, '\0'), "b\nc")).back(), "c");
+    EXPECT_EQ(LinesOf(Join("a\nb", holes)), (Lines{"a", "b"}));
+    EXPECT_EQ(LinesOf(Join(holes, "a\nb")), (Lines{"a", "b"}));
+    EXPECT_EQ(LinesOf(Join("a\n", holes, "b\nc")), (Lines{"a", "b", "c"}));
+    EXPECT_EQ(LinesOf(Join("a\nb", holes, "c\nd")), (Lines{"a", "bc", "d"}));
+    EXPECT_EQ(LinesOf(Join(Text(65536, 'x'), holes, "\nb")), (Lines{Text(65536, 'x'), "b"}));
 }
 
-TEST(ScriptLines, EndWhereABlockOfZeroBytesBegins) {
-    const Lines lines = LinesOf(Join("a\nb", Text(4 * 65536, '\0')));
-    ASSERT_EQ(lines.size(), 2u);
-    EXPECT_EQ(lines[0], "a");
-    EXPECT_TRUE(lines[1].starts_with('b'));
-    EXPECT_LE(lines[1].size(), 65536u);
-    EXPECT_EQ(LinesOf(Join(Text(65536, 'x'), Text(2 * 65536, '\0'), "\nb")).front(), Text(65536, 'x'));
-}
-
-TEST(ScriptLines, KeepZeroBytesAmongOthers) {
-    const Text few = Join("a", Text(3, '\0'));
-    EXPECT_EQ(LinesOf(Join(few, "\n", Text(2, '\0'))), (Lines{few, Text(2, '\0')}));
+TEST(ScriptLines, AreTheSameWhateverZeroBytesStandAmongThem) {
+    std::mt19937 random(12);
+    for (int round = 0; round < Rounds(200); ++round) {
+        Text clean;
+        Text bytes;
+        for (std::size_t count = 1 + random() % 40; count > 0; --count) {
+            const Text piece = random() % 2 == 0 ? Text(1, "\r\n"[random() % 2]) : Text(random() % 50000, 'x');
+            clean += piece;
+            bytes += Join(piece, Text(random() % 8 == 0 ? random() % 150000 : random() % 3, '\0'));
+        }
+        ASSERT_EQ(LinesOf(bytes), LinesOf(clean)) << "round " << round;
+    }
 }
 
 }  // namespace

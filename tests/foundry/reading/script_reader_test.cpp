@@ -204,8 +204,24 @@ TEST(ReadLines, ReadsAHardBlankAsABlank) {
     EXPECT_EQ(FreeFormOf("// x\xA0y"), "// x\xA0y");
 }
 
-TEST(ReadLines, LeavesNulBytesAlone) {
-    EXPECT_EQ(FreeFormOf(Text("bind\0a\n\0\nx\0y", 12)), Text("bind\0a\r\n\0\r\nx\0y", 14));
+TEST(ReadLines, PassesOverZeroBytes) {
+    EXPECT_EQ(FreeFormOf(Text("r_a\0 1\n\0\nx\0y\n//\0 note", 21)), "r_a 1\r\nxy\r\n// note");
+    const ScriptDocument document = ReadScript(1, Text("\0bi\0nd w +for\0ward\nname \"M\0e\"\n"
+                                                       "bind x \"say he\0llo\"\nalias z\0oom \"fov\0 40\"\n",
+                                                       72));
+    EXPECT_EQ(BindingOf(document, "w"), "+forward");
+    EXPECT_EQ(document.Name_Txt.Text, "Me");
+    EXPECT_EQ(BindingOf(document, "x"), "say hello");
+    EXPECT_EQ(document.Bound_Lbl[801].Caption, " hello");
+    EXPECT_EQ(AliasesOf(document), "zoom=fov 40");
+}
+
+TEST(ReadLines, PassesOverZeroBytesOfAnIni) {
+    const ScriptDocument document = ReadScript(4, Text("[Engine.In\0put]\nW=Mo\0veForward\n[Cor\0e]\nx\0y=1\n", 45));
+    EXPECT_EQ(BindingOf(document, "w"), "MoveForward");
+    ASSERT_EQ(document.Sections.size(), 2U);
+    EXPECT_EQ(document.Sections[1].Name, "[Core]");
+    EXPECT_EQ(document.Sections[1].Text, "xy=1");
 }
 
 TEST(ReadLines, ReadsATabAsABlankOutsideQuotes) {
