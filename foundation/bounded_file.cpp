@@ -1,13 +1,21 @@
 #include "foundation/bounded_file.h"
 
+#include "foundation/utf16_text.h"
+
 namespace lv {
 
 Result<std::unique_ptr<RandomAccessFile>> OpenBounded(Files& disk, TextView path, std::uint64_t most) {
     auto file = disk.Open(path);
-    if (file.Ok() && file.Value->Size() > most) {
+    if (!file.Ok()) {
+        return file;
+    }
+    if (file.Value->Size() > most) {
         Error refused = MakeTooLarge(most);
         refused.Text += Join(": ", path);
         return refused;
+    }
+    if (IsUtf16(file.Value->Read(0, kByteOrderMark).Value)) {
+        return Utf16Fault(path);
     }
     return file;
 }

@@ -1,6 +1,6 @@
 // foundation/bounded_file.h
 //
-// Files of the user's that are read whole, and how large they may be. Larger ones come from nobody's game.
+// Scripts and inis of the user's, and which are refused: larger ones than anybody's game has, and UTF-16 text.
 
 #pragma once
 
@@ -18,7 +18,7 @@ constexpr std::uint64_t kLargestScript = 256U << 20U;
 constexpr std::uint64_t kLargeScript = 8U << 20U;
 
 /// The file, if it has no more than `most` bytes; otherwise error 7, whose text says how many it may have, and its
-/// path.
+/// path. UTF-16 text is error 75 (foundation/utf16_text.h): read as anything else it would be lost by the next save.
 Result<std::unique_ptr<RandomAccessFile>> OpenBounded(Files& disk, TextView path, std::uint64_t most);
 
 /// All of it.

@@ -25,6 +25,23 @@ TEST(OpenBounded, RefusesALargerFileAndSaysSo) {
     EXPECT_TRUE(OpenBounded(disk, "C:\\a.ini", kLargestScript).Ok());
 }
 
+TEST(OpenBounded, RefusesUtf16TextAndSaysSo) {
+    MemoryFiles disk;
+    disk.AddFile("C:\\a.ini", TextView("\xFF\xFE[\0A\0]\0", 8));
+    disk.AddFile("C:\\b.ini", TextView("\xFE\xFF\0[\0A\0]", 8));
+    EXPECT_EQ(OpenBounded(disk, "C:\\a.ini", kLargestIni).Fault.Number, 75);
+    EXPECT_EQ(OpenBounded(disk, "C:\\a.ini", kLargestIni).Fault.Text,
+              "The file is UTF-16 text: C:\\a.ini. Save it as plain text (ANSI) first.");
+    EXPECT_EQ(ReadBounded(disk, "C:\\b.ini", kLargestIni).Fault.Text,
+              "The file is UTF-16 text: C:\\b.ini. Save it as plain text (ANSI) first.");
+}
+
+TEST(OpenBounded, TakesTextWithAnUtf8Mark) {
+    MemoryFiles disk;
+    disk.AddFile("C:\\a.ini", "\xEF\xBB\xBF[A]");
+    EXPECT_EQ(ReadBounded(disk, "C:\\a.ini", kLargestIni).Value, "\xEF\xBB\xBF[A]");
+}
+
 TEST(OpenBounded, TellsWhyThereIsNoFile) {
     MemoryFiles disk;
     disk.AddDrive("C:");

@@ -26,6 +26,11 @@ TEST(FaultAt, TellsADirectoryAsSuch) {
               "Path/File access error: C:\\A.QS is a directory. Rename it, or remove it.");
 }
 
+TEST(FaultAt, NamesNoPathTwice) {
+    MemoryFiles disk;
+    EXPECT_EQ(FaultAt(disk, "C:\\A.QS", {75, "C:\\A.QS is no script"}).Text, "C:\\A.QS is no script");
+}
+
 TEST(FaultAt, LeavesOtherErrorsAsTheyAre) {
     MemoryFiles disk;
     EXPECT_EQ(FaultAt(disk, "C:\\A.QS", MakeError(61)).Text, "Disk full");

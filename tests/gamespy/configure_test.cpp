@@ -251,6 +251,20 @@ TEST_F(Configure, AnIniThatIsGoneIsReported) {
     EXPECT_FALSE(system.Disk.FileExists("C:\\UNREAL\\SYSTEM\\QSL5_666.bat"));
 }
 
+TEST_F(Configure, AnIniOfUtf16TextIsReportedAndLeftAlone) {
+    const TextView ini("\xFF\xFE[\0A\0]\0", 8);
+    system.Disk.AddFile("C:\\UNREAL\\SYSTEM\\unreal.ini", ini);
+    user.Expect({"Lorvane 3D",
+                 "Error Number = 75\r\nError Code = EC00294\r\nError String = The file is UTF-16 text: "
+                 "c:\\unreal\\system\\unreal.ini. Save it as plain text (ANSI) first.\r\n"});
+    Run([](GameSpyConfig_Frm& form) {
+        Use(form, {4});
+        form.ScriptSpy_Cbo[4].ListIndex = 0;
+    });
+    EXPECT_EQ(Bytes("C:\\UNREAL\\SYSTEM\\unreal.ini"), ini);
+    EXPECT_FALSE(system.Disk.FileExists("C:\\UNREAL\\SYSTEM\\QSL5_666.bat"));
+}
+
 TEST_F(Configure, MemoryIsWrittenPerBatch) {
     Click(&LV_Frm::Memory_Chk, 1);
     window.Mem_Cbo.ListIndex = 2;

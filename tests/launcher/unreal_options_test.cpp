@@ -254,6 +254,21 @@ TEST_F(UnrealOptions, AreNotSetInAnIniOfATerabyte) {
     EXPECT_TRUE(system.Programs.Started.empty());
 }
 
+TEST_F(UnrealOptions, AreNotSetInAnIniOfUtf16Text) {
+    for (const TextView ini : {TextView("\xFF\xFE[\0A\0]\0", 8), TextView("\xFE\xFF\0[\0A\0]", 8)}) {
+        system.Disk.AddFile(kIni, ini);
+        user.Expect({"Lorvane 3D",
+                     "Error Number = 75\r\nError Code = EC00040\r\nError String = The file is UTF-16 text: "
+                     "c:\\unreal\\system\\unreal.ini. Save it as plain text (ANSI) first.\r\n",
+                     0});
+        DoIt_Cmd_Click(launcher, 0);
+        EXPECT_EQ(system.Disk.Bytes(kIni), ini);
+        EXPECT_EQ(window.ChangedIniLines, "");
+        EXPECT_FALSE(system.Disk.FileExists("C:\\UNREAL\\SYSTEM\\lv_666.bat"));
+        EXPECT_TRUE(system.Programs.Started.empty());
+    }
+}
+
 TEST_F(UnrealOptions, AreSetInAnIniOfExactlyTheMost) {
     system.Disk.AddSparseFile(kIni, kOld, 64U << 20U);
     EXPECT_EQ(Rewrite().Number, 0);

@@ -324,5 +324,16 @@ TEST_F(HalfLifeTest, NoLaunchReadsALargeScript) {
     EXPECT_EQ(Held("player", "\\kb|119"), "+forward");
 }
 
+TEST_F(HalfLifeTest, NoLaunchReadsUtf16Text) {
+    system.Disk.AddFile("C:\\HL\\VALVE\\config.cfg", TextView("\xFF\xFE"
+                                                              "b\0",
+                                                              4));
+    user.Expect({"Script Not Opened",
+                 "Error opening specified script file.\r\n\r\nError Number = 75\r\nError String = The file is UTF-16 "
+                 "text: C:\\HL\\VALVE\\config.cfg. Save it as plain text (ANSI) first."});
+    EXPECT_FALSE(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\config.cfg"));
+    EXPECT_TRUE(system.Registry.Values.empty());
+}
+
 }  // namespace
 }  // namespace lv

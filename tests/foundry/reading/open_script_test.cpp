@@ -312,6 +312,20 @@ TEST_F(OpenScriptTest, KeepsZeroBytesInTheCopyAlone) {
     EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE\\ID1\\my.SetupFoundry_Config_Backup"), bytes);
 }
 
+TEST_F(OpenScriptTest, RefusesUtf16TextAndKeepsNoCopy) {
+    for (const Index kind : {Index{1}, Index{4}}) {
+        Use(kind);
+        for (const TextView bytes : {TextView("\xFF\xFE[\0A\0]\0", 8), TextView("\xFE\xFF\0[\0A\0]", 8)}) {
+            ExpectNotOpened(75, "The file is UTF-16 text: C:\\QUAKE\\ID1\\my.cfg. Save it as plain text (ANSI) first.");
+            EXPECT_FALSE(Open(bytes));
+            EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE\\ID1\\my.cfg"), bytes);
+            EXPECT_FALSE(system.Disk.FileExists("C:\\QUAKE\\ID1\\my.SetupFoundry_Config_Backup"));
+            EXPECT_EQ(document.BackupDue, "");
+            EXPECT_FALSE(document.ScriptLoading);
+        }
+    }
+}
+
 TEST_F(OpenScriptTest, KeepsNoCopyInADirectoryThatIsALinkOutOfTheGame) {
     system.Disk.AddFile("C:\\SRV\\my.cfg", "bind a +attack\n");
     system.Disk.AddLink("C:\\QUAKE\\CTF", "C:\\SRV");
