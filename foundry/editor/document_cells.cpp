@@ -1,6 +1,7 @@
 #include "foundry/editor/document_cells.h"
 
 #include <type_traits>
+#include <utility>
 
 #include "foundry/editor/cell_codec.h"
 #include "foundry/editor/fig_frm.h"
@@ -218,15 +219,44 @@ void VisitBindings(Form& form, Visitor& visit) {
     });
 }
 
-/// All cells. The sections stand last: there are as many of them as the script has.
+void FitSelection(ScriptDocument& document) {
+    ListBox& list = document.Section_Cbo;
+    if (list.ListIndex < 0 || list.ListIndex >= static_cast<Index>(list.Items.size())) {
+        list.ListIndex = list.Visible && !list.Items.empty() ? 0 : -1;
+    }
+}
+
+/// Their names ahead of their texts: a writer has the sections there by then.
+template <class Form, class Visitor>
+void VisitSections(Form& form, Visitor& visit) {
+    auto& document = form.Document;
+    visit.Packed([&](auto& cell) {
+        std::vector<Text> names;
+        for (const ScriptSection& section : document.Sections) {
+            names.push_back(section.Name);
+        }
+        cell.Value(names);
+        cell.Value(document.Section_Cbo.Items);
+        if constexpr (!std::is_const_v<Form>) {
+            document.Sections.resize(names.size());
+            for (std::size_t i = 0; i < names.size(); ++i) {
+                document.Sections[i].Name = std::move(names[i]);
+            }
+            FitSelection(document);
+        }
+    });
+    for (auto& section : document.Sections) {
+        visit.Cell(section.Text, CellUse::Typed);
+    }
+}
+
+/// All cells. The sections' texts stand last: there are as many of them as the script has.
 template <class Form, class Visitor>
 void VisitCells(Form& form, Visitor& visit) {
     VisitBindings(form, visit);
     VisitSettings(form, visit);
     visit.Packed([&](auto& cell) { cell.Value(form.Document.AliasTable); }, CellUse::Aliases);
-    for (auto& section : form.Document.Sections) {
-        visit.Cell(section.Text, CellUse::Typed);
-    }
+    VisitSections(form, visit);
 }
 
 }  // namespace

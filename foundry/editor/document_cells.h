@@ -21,7 +21,7 @@ enum class CellUse {
 };
 
 /// Shows each cell in order, from 0. The text is there during the call only. The row is the same for as long as the
-/// script is open, but for what may join it at its end.
+/// script is open, but for the texts of sections, which come and go at its end.
 void ReadCells(const Fig_Frm& form, const std::function<void(std::uint32_t cell, TextView text, CellUse use)>& see);
 
 /// Gives cells the texts that ReadCells once had for them. True if the aliases were among them: whoever shows them

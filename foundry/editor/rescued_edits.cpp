@@ -5,6 +5,8 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
+#include "foundry/editor/aliases_page.h"
+#include "foundry/editor/kind_layout.h"
 #include "foundry/reading/open_script.h"
 #include "foundry/writing/compose_script.h"
 
@@ -95,20 +97,24 @@ std::optional<bool> OfferRescuedEdits(Fig_Frm& form) {
     }
     if (answer != kTakeUp) {
         DropRescuedEdits(run, script);
-        return false;
     }
-    const Text backupDue = form.Document.BackupDue;
-    const bool taken = OpenScriptFrom(run, form.Document, form, script, kept);
-    if (!taken && !OpenScript(run, form.Document, form, script)) {
-        return std::nullopt;
-    }
-    form.Document.BackupDue = backupDue;
-    return taken;
+    return answer == kTakeUp;
 }
 
-void MarkRescued(Fig_Frm& form) {
-    form.Document.ScriptClean = false;
-    StartHistory(form);
+bool TakeUpRescuedEdits(Fig_Frm& form) {
+    Run& run = form.run;
+    const Text script = form.Document.CurrentScriptPath;
+    const Text backupDue = form.Document.BackupDue;
+    const bool taken = OpenScriptFrom(run, form.Document, form, script, KeptFile(run, script));
+    if (run.Ended || (!taken && !OpenScript(run, form.Document, form, script))) {
+        return false;
+    }
+    form.Document.BackupDue = backupDue;
+    ApplyGameKind(form);
+    FillAliasList(form);
+    form.Document.ScriptClean = !taken;
+    NoteWholeEdit(form);
+    return true;
 }
 
 void DropRescuedEdits(Run& run, TextView script) {

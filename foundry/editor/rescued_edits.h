@@ -18,13 +18,14 @@ Text RescuePathOf(TextView script);
 /// takes no files. Nothing is asked, and the script stays as it is. The error of the last attempt.
 Error RescueEdits(Fig_Frm& form);
 
-/// Asks about the edits that were kept of the form's script, which has been read, and reads them in its place if they
-/// are wanted. True if the form holds them: they are unsaved, which MarkRescued says. None if there is nothing to edit
-/// any more: the program ended meanwhile, or the script cannot be read again.
+/// Asks about the edits that were kept of the form's script, which has been read. True if they are wanted; they are
+/// gone otherwise. None if the program ended meanwhile.
 std::optional<bool> OfferRescuedEdits(Fig_Frm& form);
 
-/// Behind the window's load: the document is not what is on disk.
-void MarkRescued(Fig_Frm& form);
+/// Behind the window's load: all that was kept is one edit, unsaved, of the script as it is on disk. Without it again
+/// where it cannot be read, which the user was told. False if there is nothing to edit any more: the program ended
+/// meanwhile, or the script cannot be read again either.
+bool TakeUpRescuedEdits(Fig_Frm& form);
 
 /// The script was saved, or its user let the edits go.
 void DropRescuedEdits(Run& run, TextView script);

@@ -64,8 +64,8 @@ void Edit(SetupFoundry& foundry, Fig_Frm& form, TextView path) {
         return;
     }
     Fig_Frm_Load(form);
-    if (*rescued) {
-        MarkRescued(form);
+    if (*rescued && !TakeUpRescuedEdits(form)) {
+        return;
     }
     ShowModal(form);
     run.User.PumpEvents();

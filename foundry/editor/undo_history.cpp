@@ -35,13 +35,20 @@ CellChange Difference(std::uint32_t cell, TextView before, TextView after) {
 Changes FindChanges(const Fig_Frm& form) {
     const std::vector<Text>& state = form.History.State;
     Changes changes;
+    std::uint32_t count = 0;
     ReadCells(form, [&](std::uint32_t cell, TextView text, CellUse use) {
+        count = cell + 1;
         const TextView before = cell < state.size() ? TextView(state[cell]) : TextView();
         if (text != before) {
             changes.Cells.push_back(Difference(cell, before, text));
             changes.Typed = use == CellUse::Typed;
         }
     });
+    for (; count < state.size(); ++count) {  // sections that are gone
+        if (!state[count].empty()) {
+            changes.Cells.push_back(Difference(count, state[count], {}));
+        }
+    }
     return changes;
 }
 
@@ -70,8 +77,8 @@ bool IsLetter(const CellChange& change) {
 
 /// Makes what was typed a part of the edit before; false if it is an edit of its own.
 bool JoinTyping(UndoHistory& history, const Changes& changes) {
-    const bool behindLast =
-        history.Position > 0 && history.Position == history.Edits.size() && history.Position != history.CleanPosition;
+    const bool behindLast = history.Position > 0 && history.Position == history.Edits.size() &&
+                            history.Position != history.CleanPosition && history.Position != history.SealedPosition;
     if (!behindLast || !changes.Typed || changes.Cells.size() != 1 || !IsLetter(changes.Cells.front())) {
         return false;
     }
@@ -90,6 +97,9 @@ void AddEdit(UndoHistory& history, std::vector<CellChange> changes) {
     history.Edits.erase(history.Edits.begin() + static_cast<std::ptrdiff_t>(history.Position), history.Edits.end());
     if (history.CleanPosition > history.Position) {
         history.CleanPosition = kNoPosition;
+    }
+    if (history.SealedPosition > history.Position) {
+        history.SealedPosition = kNoPosition;
     }
     history.Edits.push_back(std::move(changes));
     ++history.Position;
@@ -197,6 +207,11 @@ void NoteEdit(Fig_Frm& form) {
     form.Document.ScriptClean = form.Document.ScriptClean || EqualsFile(history);
     history.Clean[history.Position] = form.Document.ScriptClean;
     EnableButtons(form);
+}
+
+void NoteWholeEdit(Fig_Frm& form) {
+    NoteEdit(form);
+    form.History.SealedPosition = form.History.Position;
 }
 
 void NoteSaved(Fig_Frm& form) {

@@ -30,6 +30,7 @@ struct UndoHistory {
     std::vector<std::vector<CellChange>> Edits;  // the oldest first
     std::size_t Position = 0;                    // how many of them are in force
     std::size_t CleanPosition = 0;               // where the document equals its file, or kNoPosition
+    std::size_t SealedPosition = kNoPosition;    // letters typed there are an edit of their own
     std::vector<bool> Clean;                     // ScriptClean at each position, 0 included
     std::vector<Text> FileState;                 // the cells as the file has them; empty while nobody knows
     std::set<std::uint32_t> Different;           // the cells that are not as the file has them
@@ -43,6 +44,9 @@ void StartHistory(Fig_Frm& form);
 /// set where the document equals its file again, by whatever way. Nothing happens before StartHistory, nor while the
 /// reader runs.
 void NoteEdit(Fig_Frm& form);
+
+/// The same, for an edit that no letters typed behind it belong to.
+void NoteWholeEdit(Fig_Frm& form);
 
 /// The document equals its file now.
 void NoteSaved(Fig_Frm& form);

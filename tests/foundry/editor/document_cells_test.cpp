@@ -264,7 +264,37 @@ TEST_F(CellsTest, ASectionThatJoinsLaterIsSeenToo) {
     NoteEdit(form);
     EXPECT_EQ(form.History.Edits.size(), 1U);
     Undo_Cmd_Click(form);
+    ASSERT_EQ(form.Document.Sections.size(), 1U);
     EXPECT_EQ(form.Document.Sections.back().Text, "");
+    Redo_Cmd_Click(form);
+    ASSERT_EQ(form.Document.Sections.size(), 2U);
+    EXPECT_EQ(form.Document.Sections.back().Text, "late");
+}
+
+TEST_F(CellsTest, ASectionThatGoesIsSeenToo) {
+    form.Document.Sections = {{.Name = "[A]", .Text = "a"}, {.Name = "[B]", .Text = "b"}, {.Name = "[C]", .Text = ""}};
+    form.Document.Section_Cbo.Items = {"[A]", "[B]", "[C]"};
+    form.Document.Section_Cbo.ListIndex = 2;
+    form.Document.Section_Cbo.Visible = true;
+    StartHistory(form);
+    form.Document.Sections.resize(1);
+    form.Document.Section_Cbo.Items.resize(1);
+    NoteEdit(form);
+    EXPECT_EQ(form.History.Edits.size(), 1U);
+    Undo_Cmd_Click(form);
+    ASSERT_EQ(form.Document.Sections.size(), 3U);
+    EXPECT_EQ(form.Document.Sections[1].Name, "[B]");
+    EXPECT_EQ(form.Document.Sections[1].Text, "b");
+    EXPECT_EQ(form.Document.Sections[2].Name, "[C]");
+    EXPECT_EQ(form.Document.Section_Cbo.Items.size(), 3U);
+    Redo_Cmd_Click(form);
+    ASSERT_EQ(form.Document.Sections.size(), 1U);
+    EXPECT_EQ(form.Document.Sections[0].Text, "a");
+    EXPECT_EQ(form.Document.Section_Cbo.ListIndex, 0);
+}
+
+TEST_F(CellsTest, TheNameOfASectionIsSeen) {
+    ExpectSeen("a name", form.Document.Sections[0].Name);
 }
 
 TEST_F(CellsTest, ATextThatIsLongOrHasAnyByteComesBack) {

@@ -1,8 +1,11 @@
 #include "foundry/editor/rescued_edits.h"
 
 #include "foundation/field_strings.h"
+#include "foundry/document/bindings.h"
+#include "foundry/editor/settings_pages.h"
 #include "foundry/editor/setup_foundry.h"
 #include "foundry/foundry.h"
+#include "foundry/writing/compose_script.h"
 #include "launcher/window_life.h"
 #include "tests/foundry/editor/lifecycle_fixture.h"
 
@@ -30,7 +33,29 @@ class RescuedEdits : public Lifecycle {
     /// The program's next run: the script is read anew.
     void OpenAgain() {
         form.Loaded = false;
+        form.History = {};
         ASSERT_TRUE(OpenScript(run, form.Document, form, kEditedScript));
+    }
+    void TakeUp() {
+        ExpectOffer(0);
+        ASSERT_EQ(OfferRescuedEdits(form), true);
+        Fig_Frm_Load(form);
+        ASSERT_TRUE(TakeUpRescuedEdits(form));
+    }
+    /// The end of the session, and the next one, in which the edits are wanted.
+    void EndAndTakeUp() {
+        form.Document.ScriptClean = false;
+        RescueEdits(form);
+        OpenAgain();
+        TakeUp();
+    }
+    Text Written() { return ComposeScript(form.Document, system.Time.Now()); }
+    std::vector<Text> SectionNames() {
+        std::vector<Text> names;
+        for (const ScriptSection& section : form.Document.Sections) {
+            names.push_back(section.Name);
+        }
+        return names;
     }
 };
 
@@ -66,8 +91,7 @@ TEST_F(RescuedEdits, GoBesideTheProgramWhereTheScriptsDirectoryTakesNone) {
     EXPECT_EQ(RescueEdits(form).Number, 0);
     EXPECT_EQ(CountLines(system.Disk.Bytes(BesideProgram()), "name \"Me\""), 1);
     OpenAgain();
-    ExpectOffer(0);
-    EXPECT_EQ(OfferRescuedEdits(form), true);
+    TakeUp();
     EXPECT_EQ(form.Document.Name_Txt.Text, "Me");
 }
 
@@ -82,10 +106,7 @@ TEST_F(RescuedEdits, ThatAreTakenUpAreUnsavedEditsOfTheScript) {
     RescueEdits(form);
     OpenAgain();
     EXPECT_EQ(form.Document.Name_Txt.Text, "");
-    ExpectOffer(0);
-    EXPECT_EQ(OfferRescuedEdits(form), true);
-    Fig_Frm_Load(form);
-    MarkRescued(form);
+    TakeUp();
     EXPECT_EQ(form.Document.Name_Txt.Text, "Me");
     EXPECT_EQ(form.Document.CurrentScriptPath, kEditedScript);
     EXPECT_EQ(form.Document.CurrentScriptDirectory, "C:\\GAME\\ID1\\");
@@ -148,9 +169,106 @@ TEST_F(RescuedEdits, OfAForeignScriptWithoutACopyDoNotUnlockIt) {
     RescueEdits(form);
     OpenAgain();
     form.Document.BackupDue = kEditedScript;
+    TakeUp();
+    EXPECT_EQ(form.Document.BackupDue, kEditedScript);
+}
+
+TEST_F(RescuedEdits, AreTakenBackToTheScriptOnDisk) {
+    OpenAndLoad(kQuakeDialect, "bind w +forward\nalias a \"wait\"\nfov 97\nbind x \"say hi\"\nr_x 1\n");
+    const Text onDisk = Written();
+    BindKey(form.Document, form, 1, 102);
+    UnbindKey(form.Document, form, KeyFromName("x"));
+    AddAlias(form.Document, "b", "wait");
+    TypeIntoList(form, form.Document.fov_Cbo, "98");
+    form.Document.Sections[0].Text = "r_x 2\r\nr_y 3";
+    Change();
+    const Text edited = Written();
+    ASSERT_NE(edited, onDisk);
+    EndAndTakeUp();
+    EXPECT_EQ(Written(), edited);
+    EXPECT_EQ(form.Alias_Lst.Items.size(), 2U);
+    EXPECT_TRUE(form.Undo_Cmd.Enabled);
+    EXPECT_FALSE(form.Redo_Cmd.Enabled);
+
+    Undo_Cmd_Click(form);
+    EXPECT_EQ(Written(), onDisk);
+    EXPECT_TRUE(form.Document.ScriptClean);
+    EXPECT_FALSE(form.Undo_Cmd.Enabled);
+    EXPECT_EQ(form.Alias_Lst.Items.size(), 1U);
+    EXPECT_EQ(Keys(102), "");
+    EXPECT_EQ(KeyColor(1), kWhite);
+    EXPECT_NE(KeyColor(KeyFromName("x")), kWhite);
+
+    Redo_Cmd_Click(form);
+    EXPECT_EQ(Written(), edited);
+    EXPECT_FALSE(form.Document.ScriptClean);
+    EXPECT_EQ(Keys(102), "{A}");
+    EXPECT_NE(KeyColor(1), kWhite);
+}
+
+TEST_F(RescuedEdits, OfSectionsThatTheScriptOnDiskHasNotAreTakenBack) {
+    using Names = std::vector<Text>;
+    OpenAndLoad(kUnrealDialect, "[Core]\nx=1\n[Engine.Engine]\ny=2\n");
+    const Text onDisk = Written();
+    form.Document.Sections[0].Text = "x=1\r\n[New]\r\nz=3";
+    EndAndTakeUp();
+    const Text edited = Written();
+    EXPECT_EQ(SectionNames(), (Names{"[Core]", "[New]", "[Engine.Engine]"}));
+    form.Document.Section_Cbo.ListIndex = 2;
+
+    Undo_Cmd_Click(form);
+    EXPECT_EQ(SectionNames(), (Names{"[Core]", "[Engine.Engine]"}));
+    EXPECT_EQ(form.Document.Section_Cbo.Items, (Names{"[Core]", "[Engine.Engine]"}));
+    EXPECT_EQ(form.Document.Section_Cbo.ListIndex, 0);
+    EXPECT_EQ(Written(), onDisk);
+    EXPECT_TRUE(form.Document.ScriptClean);
+
+    Redo_Cmd_Click(form);
+    EXPECT_EQ(form.Document.Section_Cbo.Items, (Names{"[Core]", "[New]", "[Engine.Engine]"}));
+    EXPECT_EQ(Written(), edited);
+    EXPECT_FALSE(form.Document.ScriptClean);
+}
+
+TEST_F(RescuedEdits, AreNoPartOfWhatIsTypedBehindThem) {
+    OpenAndLoad();
+    Change();
+    EndAndTakeUp();
+    for (const char* typed : {"Me!", "Me!?"}) {
+        form.Document.Name_Txt.Text = typed;
+        Edited(form);
+        NoteEdit(form);
+    }
+    Undo_Cmd_Click(form);
+    EXPECT_EQ(form.Document.Name_Txt.Text, "Me");
+    EXPECT_FALSE(form.Document.ScriptClean);
+    Undo_Cmd_Click(form);
+    EXPECT_EQ(form.Document.Name_Txt.Text, "");
+    EXPECT_TRUE(form.Document.ScriptClean);
+}
+
+TEST_F(RescuedEdits, ThatAreWhatTheScriptOnDiskSaysAreNone) {
+    OpenAndLoad(kQuakeDialect, "bind w +forward\n");
+    EndAndTakeUp();
+    EXPECT_TRUE(form.Document.ScriptClean);
+    EXPECT_FALSE(form.Undo_Cmd.Enabled);
+}
+
+TEST_F(RescuedEdits, ThatCannotBeReadLeaveTheScriptAsItIsOnDisk) {
+    OpenAndLoad(kQuakeDialect, "bind w +forward\nalias a \"wait\"\n");
+    Change();
+    RescueEdits(form);
+    system.Disk.AddFile(RescuePathOf(kEditedScript), TextView("\xFF\xFE", 2));
+    OpenAgain();
     ExpectOffer(0);
     EXPECT_EQ(OfferRescuedEdits(form), true);
-    EXPECT_EQ(form.Document.BackupDue, kEditedScript);
+    Fig_Frm_Load(form);
+    user.Expect({.Title = "Script Not Opened", .Text_ = "Error Number = 75", .Buttons = "&OK"});
+    EXPECT_TRUE(TakeUpRescuedEdits(form));
+    EXPECT_EQ(form.Document.Name_Txt.Text, "");
+    EXPECT_EQ(Keys(101), "{W}");
+    EXPECT_EQ(form.Alias_Lst.Items.size(), 1U);
+    EXPECT_TRUE(form.Document.ScriptClean);
+    EXPECT_FALSE(form.Undo_Cmd.Enabled);
 }
 
 TEST_F(RescuedEdits, AreKeptByTheEndOfTheSessionAndOfferedByTheNextOpening) {
@@ -178,7 +296,9 @@ TEST_F(RescuedEdits, AreKeptByTheEndOfTheSessionAndOfferedByTheNextOpening) {
         EXPECT_EQ(shown.Document.Name_Txt.Text, "Me");
         EXPECT_EQ(shown.Document.Setting_Lbl[101].Caption, "{W}");
         EXPECT_FALSE(shown.Document.ScriptClean);
-        shown.Document.ScriptClean = true;
+        Undo_Cmd_Click(shown);
+        EXPECT_EQ(shown.Document.Name_Txt.Text, "");
+        EXPECT_TRUE(shown.Document.ScriptClean);
         Fig_Frm_Unload(shown);
     });
     SetupFoundry_Bar_Click(foundry);
