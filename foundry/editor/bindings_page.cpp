@@ -4,6 +4,7 @@
 #include "foundry/document/bindings.h"
 #include "foundry/editor/aliases_page.h"
 #include "foundry/editor/free_rows.h"
+#include "foundry/editor/key_capture.h"
 #include "foundry/editor/key_picture.h"
 
 namespace lv {
@@ -56,6 +57,7 @@ void Bindings_Tab_Click(Fig_Frm& form, int page) {
 void JoyToggle_Cmd_Click(Fig_Frm& form, int index) {
     form.JoyChosen = index == 0;
     ShowPanels(form);
+    RestoreHint(form);
 }
 
 void Key_Lbl_MouseMove(Fig_Frm& form, Index label) {

@@ -1,10 +1,12 @@
 #include "foundry/editor/controllers.h"
 
+#include <algorithm>
 #include <array>
 #include <iterator>
 
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "foundry/editor/key_capture.h"
 
 namespace lv {
 
@@ -132,7 +134,19 @@ void LayOutGrid(Fig_Frm& form) {
     }
 }
 
+PanelRoom RoomOfControllers() {
+    PanelRoom room;
+    for (const ButtonRow& row : kButtonRows) {
+        for (const Spot& spot : row.Spots) {
+            room.Width = std::max(room.Width, spot.Left + kLabelWidth);
+            room.Height = std::max(room.Height, spot.Top + kLabelHeight);
+        }
+    }
+    return room;
+}
+
 void Device_Cbo_Click(Fig_Frm& form) {
+    RestoreHint(form);
     const int device = form.Device_Cbo.ListIndex;
     form.DevicePicture.clear();
     if (device <= 0 || device >= static_cast<int>(std::size(kDevices))) {

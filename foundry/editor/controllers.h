@@ -14,6 +14,15 @@ void FillDevices(Fig_Frm& form);
 /// All labels of the panel in rows and columns, and seen.
 void LayOutGrid(Fig_Frm& form);
 
+/// Twips.
+struct PanelRoom {
+    int Width = 0;
+    int Height = 0;
+};
+
+/// What the buttons of all controllers need.
+PanelRoom RoomOfControllers();
+
 /// A controller was picked: its picture, and the labels over their buttons. A picture that is missing is told once.
 void Device_Cbo_Click(Fig_Frm& form);
 

@@ -116,7 +116,8 @@ void KeyPanels::MakeKey(wxWindow* picture, Index label) {
 
 wxPanel* KeyPanels::MakePicture(wxWindow* panel, bool controller) {
     auto* picture = new wxPanel(panel);
-    wxSize size(0, 0);
+    const PanelRoom room = controller ? RoomOfControllers() : PanelRoom();
+    wxSize size(Scaled(this, room.Width), Scaled(this, room.Height));
     for (Index label = 0; label <= kLastKeyLabel; ++label) {
         const KeyLabel& key = parts_.Model.KeyLabelOf(label);
         if (key.Exists && StandsOnController(label) == controller) {
@@ -229,6 +230,10 @@ void KeyPanels::LoadDevicePicture() {
     devicePicture_->Refresh();
 }
 
+wxWindow* KeyPanels::FirstOf(bool keyboard) const {
+    return keyboard ? parts_.KeyLabels.begin()->second : FindWindow("Device_Cbo");
+}
+
 bool KeyPanels::ShowState() {
     const Fig_Frm& form = parts_.Model;
     PlaceKeys();
@@ -236,8 +241,15 @@ bool KeyPanels::ShowState() {
     const bool seen = form.Keyboard_Fra.Left >= 0;
     const bool keyboard = form.Keyboard_Fra.Front;
     bool changed = IsShown() != seen && Show(seen);
-    changed = keyboard_->Show(keyboard) || changed;
-    changed = controller_->Show(!keyboard) || changed;
+    if (keyboard_->IsShown() != keyboard) {
+        changed = true;
+        const bool had = IsDescendant(wxWindow::FindFocus());
+        keyboard_->Show(keyboard);
+        controller_->Show(!keyboard);
+        if (had) {
+            FirstOf(keyboard)->SetFocus();
+        }
+    }
     return changed;
 }
 

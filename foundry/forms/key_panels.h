@@ -26,6 +26,7 @@ class KeyPanels : public wxPanel {
     void MakeKey(wxWindow* picture, Index label);
     void PlaceKeys();
     void LoadDevicePicture();
+    [[nodiscard]] wxWindow* FirstOf(bool keyboard) const;
 
     FigParts& parts_;
     wxPanel* keyboard_ = nullptr;

@@ -120,6 +120,18 @@ TEST_F(Controllers, HaveAPictureWithTheKeysOverTheirButtons) {
     EXPECT_EQ(Shown(), kWarrior);
 }
 
+// All labels of all three, none of which may hang over.
+TEST_F(Controllers, NeedRoomForTheButtonsOfAll) {
+    EXPECT_EQ(RoomOfControllers().Width, 6540 + 570);
+    EXPECT_EQ(RoomOfControllers().Height, 1380 + 270);
+    for (const Places& places : {kGravis, kPanther, kWarrior}) {
+        for (const auto& [label, place] : places) {
+            EXPECT_LE(place.first + 270, RoomOfControllers().Height) << label;
+            EXPECT_LE(place.second + 570, RoomOfControllers().Width) << label;
+        }
+    }
+}
+
 TEST_F(Controllers, LeaveTheKeyboardsLabelsAlone) {
     Pick(3);
     EXPECT_TRUE(form.KeyLabelOf(97).Visible);

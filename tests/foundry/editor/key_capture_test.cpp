@@ -2,6 +2,7 @@
 
 #include "foundry/document/bindings.h"
 #include "foundry/editor/bindings_page.h"
+#include "foundry/editor/controllers.h"
 #include "foundry/editor/key_picture.h"
 #include "tests/foundry/editor/fig_fixture.h"
 #include "tests/foundry/kinds.h"
@@ -218,6 +219,15 @@ TEST_F(PickedUp, NoKeyIsThatCannotBeBound) {
     PickUpKey(form, 200);
     EXPECT_EQ(Hint(), "Esc can't be bound.");
     EXPECT_EQ(form.PickedKey, kW);
+}
+
+TEST_F(PickedUp, AnotherPanelOrControllerForgetsTheRefusal) {
+    PickUpKey(form, 200);
+    JoyToggle_Cmd_Click(form, 0);
+    EXPECT_EQ(Hint(), kUsual);
+    PickUpKey(form, 200);
+    Device_Cbo_Click(form);
+    EXPECT_EQ(Hint(), kUsual);
 }
 
 TEST_F(PickedUp, AKeyIsLaidDownWhenADragBegins) {
