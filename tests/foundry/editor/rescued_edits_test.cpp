@@ -3,7 +3,7 @@
 #include "foundation/field_strings.h"
 #include "foundry/editor/setup_foundry.h"
 #include "foundry/foundry.h"
-#include "launcher/window_life.h"
+#include "launcher/window/window_life.h"
 #include "tests/foundry/editor/lifecycle_fixture.h"
 
 namespace lv {
