@@ -12,7 +12,7 @@
 #include "app/lorvane_app.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "foundation/open_store.h"
-#include "launcher/window_life.h"
+#include "launcher/window/window_life.h"
 #include "platform/linux/end_signals.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_files.h"

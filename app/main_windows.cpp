@@ -6,7 +6,7 @@
 
 #include "app/lorvane_app.h"
 #include "foundation/forms/wx_clipboard.h"
-#include "launcher/window_life.h"
+#include "launcher/window/window_life.h"
 #include "platform/windows/access_keys.h"
 #include "platform/windows/registry_settings.h"
 #include "platform/windows/windows_clock.h"

@@ -27,7 +27,7 @@
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
 #include "launcher/forms/lv_form.h"
-#include "launcher/main_window_load.h"
+#include "launcher/start/main_window_load.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/memory/memory_platform.h"
 

@@ -13,8 +13,8 @@
 #include "bench/no_user.h"
 #include "catalogs/map_scan.h"
 #include "foundation/settings.h"
-#include "launcher/lv_events.h"
-#include "launcher/main_window_load.h"
+#include "launcher/start/main_window_load.h"
+#include "launcher/window/lv_events.h"
 #include "platform/linux/linux_files.h"
 #include "platform/memory/memory_platform.h"
 

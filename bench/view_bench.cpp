@@ -13,7 +13,7 @@
 
 #include "bench/limit.h"
 #include "catalogs/catalog_store.h"
-#include "catalogs/view_all.h"
+#include "catalogs/editors/view_all.h"
 #include "foundation/forms/wx_user.h"
 #include "launcher/launcher.h"
 #include "platform/memory/memory_platform.h"

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "catalogs/browse.h"
 #include "catalogs/catalog_store.h"
+#include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 

@@ -16,10 +16,16 @@ set(STANDARD
 set(MAY_platform platform)
 set(MAY_foundation foundation platform)
 set(MAY_catalogs catalogs foundation platform)
+set(MAY_catalogs/editors catalogs/editors ${MAY_catalogs})
 set(MAY_video video foundation platform)
-set(MAY_gamespy gamespy launcher video catalogs foundation platform)
-set(MAY_launcher launcher gamespy video catalogs foundation platform)
-set(BELOW_FOUNDRY launcher video catalogs foundation platform)
+set(MAY_launch launch video catalogs foundation platform)
+set(MAY_gamespy gamespy catalogs/editors ${MAY_launch})
+set(MAY_launcher launcher launcher/start launcher/window launcher/menu ${MAY_gamespy})
+set(MAY_launcher/start ${MAY_launcher})
+set(MAY_launcher/window ${MAY_launcher})
+set(MAY_launcher/menu ${MAY_launcher})
+set(BELOW_FOUNDRY launcher launcher/start launcher/window launcher/menu launch video catalogs catalogs/editors
+    foundation platform)
 set(MAY_foundry/tables foundry/tables foundation)
 set(MAY_foundry/document foundry/document ${MAY_foundry/tables} platform)
 set(MAY_foundry/reading foundry/reading foundry/document foundry/tables ${BELOW_FOUNDRY})
@@ -28,10 +34,11 @@ set(MAY_foundry/half_life foundry/half_life ${MAY_foundry/writing} foundry/readi
 set(MAY_foundry/fonts foundry/fonts foundry/tables catalogs foundation platform)
 set(MAY_foundry/editor foundry/editor foundry/fonts ${MAY_foundry/half_life})
 set(MAY_foundry foundry ${MAY_foundry/editor})
-set(MAY_wizard wizard launcher video catalogs foundation platform)
+set(MAY_wizard wizard ${BELOW_FOUNDRY})
 
 set(faults "")
-foreach(folder platform foundation catalogs launcher video wizard gamespy
+foreach(folder platform foundation catalogs catalogs/editors video launch gamespy
+        launcher launcher/start launcher/window launcher/menu wizard
         foundry foundry/tables foundry/document foundry/reading foundry/writing foundry/half_life foundry/fonts
         foundry/editor)
     file(GLOB sources ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.cpp)

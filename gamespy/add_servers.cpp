@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "catalogs/add_server.h"
+#include "catalogs/editors/add_server.h"
 #include "foundation/question_box.h"
 #include "gamespy/game_spy_fetch.h"
 #include "gamespy/server_text.h"

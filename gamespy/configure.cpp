@@ -10,9 +10,7 @@
 #include "foundation/settings.h"
 #include "gamespy/spy_files.h"
 #include "gamespy/start_game_spy.h"
-#include "launcher/missing_executable.h"
-#include "launcher/unreal_options.h"
-#include "launcher/window_life.h"
+#include "launch/missing_executable.h"
 
 namespace lv {
 
@@ -36,7 +34,7 @@ constexpr ScriptRow kScriptFiles[] = {
 
 /// False if the executable is gone, which the user was told.
 bool NoteGame(SpyLaunch& launch, std::size_t slot, SpyGame& game) {
-    Run& run = launch.launcher.run;
+    Run& run = launch.run;
     const Text path = ItemValue(launch.Form.ExeSpy_Cbo[slot].Selected());
     if (path.empty()) {
         AskUser(run, SpySlots()[slot].EmptyPathTitle, kEmptyExecutable);
@@ -63,7 +61,7 @@ bool NoteGames(SpyLaunch& launch, SpyGames& games) {
     if (std::ranges::any_of(games, &SpyGame::InUse)) {
         return true;
     }
-    AskUser(launch.launcher.run, "",
+    AskUser(launch.run, "",
             "You must pick a GameSpy Quake Executable and/or a GameSpy QuakeWorld Executable and/or a GameSpy Hexen ][ "
             "Executable and/or a GameSpy Quake ][ Executable and/or a GameSpy UnReal Executable and/or a GameSpy SIN "
             "Executable in order for Lorvane 3D to configure and launch GameSpy.");
@@ -90,7 +88,7 @@ Error WriteScript(SpyLaunch& launch, const SpyGames& games, const ScriptRow& row
     if (!InUse(games, row)) {
         return {};
     }
-    Files& disk = launch.launcher.run.System.Disk;
+    Files& disk = launch.run.System.Disk;
     const Text path = ScriptPath(games, row);
     const Text text = SpyScriptText(games[row.Slot].Script, launch.Texts.*row.Lines);
     if (text.empty()) {
@@ -108,13 +106,12 @@ Error WriteScripts(SpyLaunch& launch, const SpyGames& games) {
         }
     }
     const SpyGame& unreal = games[spy_slot::kUnreal];
-    return unreal.InUse && !unreal.Script.empty() ? SetUnrealVideoOptionsForLaunch(launch.launcher, unreal.Script)
-                                                  : Error();
+    return unreal.InUse && !unreal.Script.empty() ? launch.SetUnrealVideoOptions(unreal.Script) : Error();
 }
 
 // Unreal's goes to Sin's directory: kept on purpose. Without a template the game starts without one.
 void PutPif(SpyLaunch& launch, const SpyGames& games, std::size_t slot) {
-    Run& run = launch.launcher.run;
+    Run& run = launch.run;
     const SpySlot& facts = SpySlots()[slot];
     const std::size_t place = slot == spy_slot::kUnreal ? spy_slot::kSin : slot;
     const Text pif = Join(games[place].Directory, "\\", facts.Pif);
@@ -133,8 +130,7 @@ SpyFailure WriteBatches(SpyLaunch& launch, const SpyGames& games) {
             continue;
         }
         const Text path = Join(games[slot].Directory, "\\", SpySlots()[slot].Batch);
-        if (const Error failed =
-                launch.launcher.run.System.Disk.ReplaceOwn(path, SpyBatchText(slot, games[slot], parts))) {
+        if (const Error failed = launch.run.System.Disk.ReplaceOwn(path, SpyBatchText(slot, games[slot], parts))) {
             return {failed, Join(SpySlots()[slot].FileTag, path)};
         }
         PutPif(launch, games, slot);
@@ -149,22 +145,14 @@ Error WriteRegistry(SpyLaunch& launch, const SpyGames& games) {
         entries.push_back(
             {{std::move(triple.Key), std::move(triple.Name)}, {kRegistryText, std::move(triple.Value), 0}});
     }
-    return RegWriteAll(launch.launcher.run, entries);
-}
-
-void LeaveMainWindow(Launcher& launcher, MinimizeLorvane choice) {
-    if (choice == MinimizeLorvane::Minimize) {
-        HideForLaunch(launcher);
-    } else if (choice == MinimizeLorvane::Close) {
-        Exit_Bar_Click(launcher);
-    }
+    return RegWriteAll(launch.run, entries);
 }
 
 }  // namespace
 
 SpyFailure ConfigureGameSpy(SpyLaunch& launch) {
     SpyGames games;
-    if (!NoteGames(launch, games) || !MayWriteScripts(launch.launcher.run, games)) {
+    if (!NoteGames(launch, games) || !MayWriteScripts(launch.run, games)) {
         return {};
     }
     launch.Texts.GameCommand += Join(kSpyParameters, Blank, "+exec ", kSpyScriptFile, Blank);
@@ -179,11 +167,11 @@ SpyFailure ConfigureGameSpy(SpyLaunch& launch) {
     }
     if (launch.Form.LaunchSpyNow_Chk.Value == 1) {
         launch.Texts.LaunchStep = 410;
-        if (!StartGameSpy(launch.launcher.run)) {
+        if (!StartGameSpy(launch.run)) {
             return {};
         }
     }
-    LeaveMainWindow(launch.launcher, launch.Form.Minimize);
+    launch.LeaveMainWindow(launch.Form.Minimize);
     launch.Texts.LaunchStep = 460;
     return {};
 }

@@ -5,18 +5,21 @@
 
 #pragma once
 
+#include <functional>
+
 #include "gamespy/game_spy_config.h"
-#include "launcher/launch_composition.h"
-#include "launcher/launcher.h"
+#include "launch/launch_composition.h"
 
 namespace lv {
 
 struct SpyLaunch {
-    Launcher& launcher;
+    Run& run;
     GameSpyConfig_Frm& Form;  // answered with OK
     const LaunchSelection& Selection;
     LaunchTexts& Texts;     // composed up to step 205; LaunchStep follows what is done
     Text EnvironmentLines;  // each ended by NewLine
+    std::function<Error(const Text& ini)> SetUnrealVideoOptions;
+    std::function<void(MinimizeLorvane)> LeaveMainWindow;
 };
 
 /// What is left to tell, in the error report.

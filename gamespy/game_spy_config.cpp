@@ -1,8 +1,8 @@
 #include "gamespy/game_spy_config.h"
 
-#include "catalogs/browse.h"
 #include "catalogs/catalog_store.h"
-#include "catalogs/path_window.h"
+#include "catalogs/editors/path_window.h"
+#include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"

@@ -4,7 +4,7 @@
 
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
-#include "launcher/name_check.h"
+#include "launch/name_check.h"
 
 namespace lv {
 

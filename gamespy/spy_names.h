@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "gamespy/game_spy_config.h"
-#include "launcher/launch_names.h"
+#include "launch/launch_names.h"
 
 namespace lv {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "foundation/field_strings.h"
-#include "launcher/launch_files.h"
+#include "launch/launch_files.h"
 
 namespace lv {
 

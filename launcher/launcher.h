@@ -8,9 +8,9 @@
 
 #include "catalogs/catalog_lists.h"
 #include "foundation/run.h"
-#include "launcher/known_games.h"
-#include "launcher/lv_frm.h"
-#include "launcher/splash.h"
+#include "launcher/menu/known_games.h"
+#include "launcher/start/splash.h"
+#include "launcher/window/lv_frm.h"
 #include "video/video_profile_frm.h"
 
 namespace lv {

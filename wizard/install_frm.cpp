@@ -1,7 +1,7 @@
 #include "wizard/install_frm.h"
 
-#include "catalogs/browse.h"
-#include "catalogs/path_window.h"
+#include "catalogs/editors/path_window.h"
+#include "foundation/browse.h"
 
 namespace lv {
 

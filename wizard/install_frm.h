@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "foundation/modal_window.h"
-#include "launcher/known_games.h"
+#include "launcher/menu/known_games.h"
 
 namespace lv {
 

@@ -4,13 +4,13 @@
 #include <wx/radiobut.h>
 #include <wx/statbox.h>
 
-#include "catalogs/add_demo.h"
-#include "catalogs/add_exe.h"
-#include "catalogs/add_game.h"
-#include "catalogs/add_script.h"
-#include "catalogs/add_server.h"
-#include "catalogs/choose_script.h"
-#include "catalogs/edit_memory.h"
+#include "catalogs/editors/add_demo.h"
+#include "catalogs/editors/add_exe.h"
+#include "catalogs/editors/add_game.h"
+#include "catalogs/editors/add_script.h"
+#include "catalogs/editors/add_server.h"
+#include "catalogs/editors/choose_script.h"
+#include "catalogs/editors/edit_memory.h"
 #include "catalogs/forms/path_form.h"
 #include "foundation/field_strings.h"
 #include "foundation/forms/modal_form.h"

@@ -7,7 +7,7 @@
 #include <wx/button.h>
 #include <wx/listbox.h>
 
-#include "catalogs/path_window.h"
+#include "catalogs/editors/path_window.h"
 #include "foundation/forms/kept_place.h"
 #include "foundation/forms/modal_form.h"
 

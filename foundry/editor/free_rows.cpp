@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "catalogs/choose_script.h"
+#include "catalogs/editors/choose_script.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"

@@ -2,8 +2,8 @@
 
 #include <exception>
 
-#include "catalogs/browse.h"
 #include "catalogs/scripts.h"
+#include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
 #include "foundation/link_question.h"

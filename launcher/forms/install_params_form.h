@@ -7,7 +7,7 @@
 #include <wx/dialog.h>
 
 #include "foundation/forms/binder.h"
-#include "launcher/install_params.h"
+#include "launcher/start/install_params.h"
 
 namespace lv {
 

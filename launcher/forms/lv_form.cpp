@@ -7,8 +7,8 @@
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "launcher/forms/main_menu.h"
-#include "launcher/hint.h"
-#include "launcher/window_life.h"
+#include "launcher/window/hint.h"
+#include "launcher/window/window_life.h"
 
 namespace lv {
 

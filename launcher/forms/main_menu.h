@@ -8,7 +8,7 @@
 
 #include <functional>
 
-#include "launcher/lv_frm.h"
+#include "launcher/window/lv_frm.h"
 
 namespace lv {
 

@@ -3,7 +3,7 @@
 #include <wx/platinfo.h>
 
 #include "foundation/forms/pictures.h"
-#include "launcher/window_life.h"
+#include "launcher/window/window_life.h"
 
 namespace lv {
 

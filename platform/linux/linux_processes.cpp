@@ -4,11 +4,11 @@
 #include <cstdlib>
 
 #include "platform/code_page.h"
-#include "platform/linux/dosbox_road.h"
 #include "platform/linux/host_read.h"
-#include "platform/linux/native_road.h"
+#include "platform/linux/starting/dosbox_road.h"
+#include "platform/linux/starting/native_road.h"
+#include "platform/linux/starting/wine_road.h"
 #include "platform/linux/user_directories.h"
-#include "platform/linux/wine_road.h"
 
 namespace lv {
 

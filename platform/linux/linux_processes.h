@@ -10,7 +10,7 @@
 #pragma once
 
 #include "platform/files.h"
-#include "platform/linux/game_start.h"
+#include "platform/linux/starting/game_start.h"
 #include "platform/processes.h"
 
 namespace lv {

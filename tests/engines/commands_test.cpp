@@ -8,9 +8,9 @@
 #include <fstream>
 
 #include "foundation/settings.h"
-#include "launcher/launch_flow.h"
-#include "launcher/lv_events.h"
-#include "launcher/main_window_load.h"
+#include "launcher/start/main_window_load.h"
+#include "launcher/window/launch_flow.h"
+#include "launcher/window/lv_events.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_processes.h"
 #include "platform/memory/memory_platform.h"

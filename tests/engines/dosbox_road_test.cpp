@@ -1,6 +1,6 @@
 // DOS programs in a real DOSBox. tests/platform/dosbox_road_test.cpp has what is decided before it starts.
 
-#include "platform/linux/dosbox_road.h"
+#include "platform/linux/starting/dosbox_road.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

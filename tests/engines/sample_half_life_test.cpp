@@ -6,9 +6,9 @@
 #include <cstdlib>
 
 #include "foundry/foundry.h"
-#include "launcher/launch_flow.h"
-#include "launcher/lv_events.h"
-#include "launcher/main_window_load.h"
+#include "launcher/start/main_window_load.h"
+#include "launcher/window/launch_flow.h"
+#include "launcher/window/lv_events.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_processes.h"

@@ -1,6 +1,6 @@
 // Windows programs through a real Wine. tests/platform/wine_road_test.cpp has what is decided before it starts.
 
-#include "platform/linux/wine_road.h"
+#include "platform/linux/starting/wine_road.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -6,8 +6,8 @@
 #include "foundation/forms/wx_user.h"
 #include "foundation/settings.h"
 #include "launcher/forms/lv_form.h"
-#include "launcher/main_window_load.h"
-#include "launcher/window_life.h"
+#include "launcher/start/main_window_load.h"
+#include "launcher/window/window_life.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
 

@@ -5,13 +5,13 @@
 #include <wx/textctrl.h>
 #include <wx/timer.h>
 
-#include "catalogs/add_server.h"
+#include "catalogs/editors/add_server.h"
 #include "catalogs/forms/entry_forms.h"
 #include "foundation/forms/wx_user.h"
 #include "foundation/settings.h"
 #include "gamespy/forms/game_spy_form.h"
 #include "gamespy/game_spy_config.h"
-#include "launcher/launch_flow.h"
+#include "launcher/window/launch_flow.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
 #include "tests/forms/lv_form_fixture.h"

@@ -8,9 +8,9 @@
 
 #include "foundation/settings.h"
 #include "launcher/forms/lv_form.h"
-#include "launcher/lv_events.h"
-#include "launcher/main_window_load.h"
-#include "launcher/window_life.h"
+#include "launcher/start/main_window_load.h"
+#include "launcher/window/lv_events.h"
+#include "launcher/window/window_life.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
 

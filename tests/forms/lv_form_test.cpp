@@ -15,9 +15,9 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/settings.h"
-#include "launcher/lv_events.h"
-#include "launcher/main_window_load.h"
-#include "launcher/window_life.h"
+#include "launcher/start/main_window_load.h"
+#include "launcher/window/lv_events.h"
+#include "launcher/window/window_life.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
 #include "tests/forms/lv_form_fixture.h"

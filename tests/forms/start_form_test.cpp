@@ -1,6 +1,6 @@
 // The start of a run in real windows.
 
-#include "launcher/start.h"
+#include "launcher/start/start.h"
 
 #include <gtest/gtest.h>
 #include <wx/dialog.h>
@@ -8,7 +8,7 @@
 
 #include "foundation/settings.h"
 #include "launcher/forms/lv_form.h"
-#include "launcher/window_life.h"
+#include "launcher/window/window_life.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/forms/form_driver.h"
 #include "video/forms/video_profile_form.h"

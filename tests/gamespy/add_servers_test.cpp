@@ -1,7 +1,7 @@
 #include "gamespy/add_servers.h"
 
-#include "catalogs/add_server.h"
-#include "launcher/menu_table.h"
+#include "catalogs/editors/add_server.h"
+#include "launcher/menu/menu_table.h"
 #include "tests/gamespy/game_spy_fixture.h"
 
 namespace lv {

@@ -3,8 +3,8 @@
 #include "gamespy/configure.h"
 
 #include "foundation/field_strings.h"
-#include "launcher/launch_flow.h"
-#include "launcher/lv_events.h"
+#include "launcher/window/launch_flow.h"
+#include "launcher/window/lv_events.h"
 #include "tests/gamespy/game_spy_fixture.h"
 
 namespace lv {

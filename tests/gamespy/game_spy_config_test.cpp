@@ -1,6 +1,6 @@
 #include "gamespy/game_spy_config.h"
 
-#include "catalogs/path_window.h"
+#include "catalogs/editors/path_window.h"
 #include "tests/gamespy/game_spy_fixture.h"
 
 namespace lv {

@@ -1,4 +1,4 @@
-#include "platform/linux/batch_plan.h"
+#include "platform/linux/starting/batch_plan.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/dosbox_road.h"
+#include "platform/linux/starting/dosbox_road.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/wine_road.h"
+#include "platform/linux/starting/wine_road.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/game_start.h"
+#include "platform/linux/starting/game_start.h"
 #include "tests/support/host_files.h"
 
 namespace lv {

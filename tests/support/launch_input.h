@@ -4,7 +4,7 @@
 
 #pragma once
 
-#include "launcher/launch_composition.h"
+#include "launch/launch_composition.h"
 
 namespace lv {
 

@@ -1,7 +1,7 @@
 #include "tests/support/launcher_fixture.h"
 
-#include "launcher/lv_events.h"
-#include "launcher/main_window_load.h"
+#include "launcher/start/main_window_load.h"
+#include "launcher/window/lv_events.h"
 
 namespace lv {
 

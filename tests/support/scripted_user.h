@@ -14,7 +14,7 @@
 #include "foundation/dialogs.h"
 #include "foundation/modal_window.h"
 #include "foundation/question_box.h"
-#include "launcher/install_params.h"
+#include "launcher/start/install_params.h"
 
 namespace lv {
 

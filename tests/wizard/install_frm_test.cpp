@@ -1,6 +1,6 @@
 #include "wizard/install_frm.h"
 
-#include "catalogs/path_window.h"
+#include "catalogs/editors/path_window.h"
 #include "tests/wizard/wizard_fixture.h"
 
 namespace lv {

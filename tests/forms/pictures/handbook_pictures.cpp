@@ -6,12 +6,12 @@
 
 #include <cstdlib>
 
-#include "catalogs/path_window.h"
+#include "catalogs/editors/path_window.h"
 #include "gamespy/forms/game_spy_form.h"
 #include "gamespy/game_spy_config.h"
 #include "launcher/forms/launcher_user.h"
-#include "launcher/install_params.h"
-#include "launcher/video_profile_menu.h"
+#include "launcher/menu/video_profile_menu.h"
+#include "launcher/start/install_params.h"
 #include "tests/forms/fig_form_fixture.h"
 #include "video/forms/add_vid_profile_form.h"
 #include "video/forms/video_profile_form.h"

@@ -1,6 +1,6 @@
 #include "foundry/editor/free_rows.h"
 
-#include "catalogs/choose_script.h"
+#include "catalogs/editors/choose_script.h"
 #include "foundation/settings.h"
 #include "foundry/document/bindings.h"
 #include "foundry/editor/line_dialogs.h"

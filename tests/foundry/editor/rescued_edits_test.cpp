@@ -6,7 +6,7 @@
 #include "foundry/editor/setup_foundry.h"
 #include "foundry/foundry.h"
 #include "foundry/writing/compose_script.h"
-#include "launcher/window_life.h"
+#include "launcher/window/window_life.h"
 #include "tests/foundry/editor/lifecycle_fixture.h"
 
 namespace lv {

@@ -6,7 +6,7 @@
 #include "foundation/field_strings.h"
 #include "foundry/editor/lifecycle.h"
 #include "foundry/foundry.h"
-#include "launcher/window_life.h"
+#include "launcher/window/window_life.h"
 #include "tests/foundry/script_fixture.h"
 #include "tests/support/launcher_fixture.h"
 

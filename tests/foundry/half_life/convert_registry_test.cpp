@@ -2,8 +2,8 @@
 
 #include "foundation/field_strings.h"
 #include "foundry/foundry.h"
-#include "launcher/launch_flow.h"
-#include "launcher/lv_events.h"
+#include "launcher/window/launch_flow.h"
+#include "launcher/window/lv_events.h"
 #include "tests/foundry/script_fixture.h"
 #include "tests/support/launcher_fixture.h"
 

@@ -1,7 +1,7 @@
 // Unreal's ini, rewritten for a launch. The first byte chooses what the profile sets.
 
 #include "foundation/field_strings.h"
-#include "launcher/unreal_ini.h"
+#include "launch/unreal_ini.h"
 #include "tests/fuzz/readers.h"
 
 namespace lv {

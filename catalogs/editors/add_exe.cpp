@@ -1,0 +1,140 @@
+#include "catalogs/editors/add_exe.h"
+
+#include <algorithm>
+
+#include "catalogs/missing_game.h"
+#include "foundation/browse.h"
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+#include "foundation/settings.h"
+#include "foundation/typed_path.h"
+
+namespace lv {
+
+namespace {
+
+struct ImageKeyRow {
+    TextView FileName;
+    TextView Image;
+};
+
+// Neither hl.exe nor shogo.exe, blood2.exe and glhwcl.exe: those get their pictures at the next start.
+constexpr ImageKeyRow kImageKeys[] = {
+    {"quake.exe", "QUAKE"},     {"winquake.exe", "QUAKE"},    {"vquake.exe", "QUAKE"},  {"glquake.exe", "QUAKE"},
+    {"qwcl.exe", "QUAKEWORLD"}, {"glqwcl.exe", "QUAKEWORLD"}, {"quake2.exe", "QUAKE2"}, {"h2.exe", "HEXEN2"},
+    {"h2mp.exe", "HEXEN2"},     {"glh2.exe", "HEXEN2"},       {"glh2mp.exe", "HEXEN2"}, {"hwcl.exe", "HEXEN2"},
+    {"unreal.exe", "UNREAL"},   {"sin.exe", "SIN"},           {"sindemo.exe", "SIN"},   {"heretic2.exe", "HERETIC2"},
+};
+
+ImageComboItem& SelectedRow(ImageCombo& list) {
+    return list.Items[static_cast<std::size_t>(list.ListIndex)];
+}
+
+bool IsEdit(const AddExe_Frm& form) {
+    return form.Mode == EntryMode::Edit && form.Lists.Exe_Cbo.HasSelection();
+}
+
+// True if the fields can be a row.
+bool Validate(AddExe_Frm& form, const GameRecord& game) {
+    if (game.Title.empty()) {
+        TellFault(form, "ExeTitle_Txt", "Enter a Title for the executable file.");
+    } else if (Holds(game.Title, ",")) {
+        TellFault(form, "ExeTitle_Txt", "The Title may not contain a comma.");
+    } else if (game.Path.empty()) {
+        TellFault(form, "ExePath_Txt", "Enter a Path and File Name.");
+    } else if (!form.run.System.Disk.FileExists(OnDisk(game.Path))) {
+        TellFault(form, "ExePath_Txt", "Path and/or File Name are invalid.");
+    } else {
+        return true;
+    }
+    return false;
+}
+
+// A key stands in the list only once.
+bool KeyIsTaken(const AddExe_Frm& form, const Text& path) {
+    const ImageCombo& list = form.Lists.Exe_Cbo;
+    for (std::size_t i = 0; i < list.Items.size(); ++i) {
+        const bool own = IsEdit(form) && i == static_cast<std::size_t>(list.ListIndex);
+        if (!own && list.Items[i].Key == path) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void PutRow(AddExe_Frm& form, const GameRecord& game) {
+    ImageCombo& list = form.Lists.Exe_Cbo;
+    if (IsEdit(form)) {
+        SelectedRow(list).Title = game.Title;
+        SelectedRow(list).Key = game.Path;
+        return;
+    }
+    const Text image = NewExeImageKeyOf(LastPathPart(OnDisk(game.Path)));
+    list.Items.push_back({game.Title, game.Path, image, image});
+    list.ListIndex = static_cast<int>(list.Items.size()) - 1;
+}
+
+void EnterDirectoryOf(AddExe_Frm& form, const GameRecord& game) {
+    form.run.DefaultGameDirectory = DirectoryOf(OnDisk(game.Path));
+    if (form.run.DefaultGameDirectory.empty()) {
+        AskUser(form.run, "",
+                Join("DefaultGameDirectory NOT SET - YOU WILL NOT BE ABLE TO LAUNCH", NewLine,
+                     "Please edit the executable."));
+    }
+}
+
+}  // namespace
+
+Text NewExeImageKeyOf(TextView fileName) {
+    const auto* row = std::find_if(std::begin(kImageKeys), std::end(kImageKeys),
+                                   [&](const ImageKeyRow& known) { return SameText(known.FileName, fileName); });
+    return row == std::end(kImageKeys) ? "QUESTION" : Text(row->Image);
+}
+
+AddExe_Frm::AddExe_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
+    : EntryWindow(owner, "AddExe_Frm", mode), Lists(lists) {
+    Caption = mode == EntryMode::Edit ? "Edit Current Executable" : "Add Executable";
+    ExeTitle_Lbl.Caption = "Executable Title";
+    ExePath_Lbl.Caption = "Executable Path and File Name";
+    Browse_Cmd.Caption = "&Browse";
+    if (mode == EntryMode::Edit && lists.Exe_Cbo.HasSelection()) {
+        ExeTitle_Txt.Text = SelectedRow(lists.Exe_Cbo).Title;
+        ExePath_Txt.Text = SelectedRow(lists.Exe_Cbo).Key;
+    }
+}
+
+void AddExe_Browse_Cmd_Click(AddExe_Frm& form) {
+    if (auto path = BrowseForFile(form.run, kExecutableFilter, BrowseStart(form.run, form.ExePath_Txt.Text))) {
+        form.ExePath_Txt.Text = *std::move(path);
+    }
+}
+
+void AddExe_OK_Cmd_Click(AddExe_Frm& form) {
+    Run& run = form.run;
+    ImageCombo& list = form.Lists.Exe_Cbo;
+    const GameRecord game = {Trim(form.ExeTitle_Txt.Text), TypedPath(run, form.ExePath_Txt.Text)};
+    if (!Validate(form, game)) {
+        return;
+    }
+    if (KeyIsTaken(form, game.Path)) {
+        TellFault(form, "ExePath_Txt", Join(AboutGame(game), "was listed twice. The second entry will be ignored."),
+                  "Duplicate Game");
+        return;
+    }
+    const ImageCombo before = list;
+    PutRow(form, game);
+    if (!SaveCatalog(run, form.Lists, kExecutables.Key, list)) {
+        list = before;  // the value is too long: the user was told
+        return;
+    }
+    if (form.Mode == EntryMode::Add) {
+        Save(run, kOptions, "ExecutablesPos", list.ListIndex);
+    }
+    EnterDirectoryOf(form, game);
+    if (form.ChangeGame) {
+        form.ChangeGame();
+    }
+    ConfirmEntry(form, game.Title, game.Path);
+}
+
+}  // namespace lv

@@ -1,0 +1,60 @@
+#include "launch/launch_files.h"
+
+#include <algorithm>
+
+#include "foundation/field_strings.h"
+#include "foundation/game_numbers.h"
+#include "launch/switch_rules.h"
+
+namespace lv {
+
+namespace {
+
+/// The batch's last line.
+Text CommandLine(const LaunchTexts& texts, const LaunchGame& game) {
+    return game.GameKind == game_kind::kUnreal ? texts.UnrealCommand : Trim(texts.GameCommand);
+}
+
+}  // namespace
+
+Text ScriptText(const LaunchTexts& texts, const LaunchGame& game) {
+    if (game.ScriptFamily != script_family::kQuake2) {
+        return texts.QuakeScript;
+    }
+    return game.GameKind == game_kind::kHalfLife ? ReplaceText(texts.Quake2Script, "set ", "") : texts.Quake2Script;
+}
+
+Text ScriptFilePath(const LaunchGame& game) {
+    if (game.CurrentGameDir.empty()) {
+        return Join(game.DefaultGameDirectory, "\\", kLaunchScriptFile);
+    }
+    return Join(game.DefaultGameDirectory, "\\", game.CurrentGameDir, "\\", kLaunchScriptFile);
+}
+
+Text BatchText(TextView environmentLines, bool showSet, TextView exeDrive, TextView directory, const LaunchTexts& texts,
+               const LaunchGame& game) {
+    Text batch(environmentLines);
+    if (showSet) {
+        batch.append(Join("SET", NewLine, "PAUSE", NewLine));
+    }
+    return batch.append(Join(exeDrive, NewLine, "cd ", QuotedIfBlank(directory), NewLine, CommandLine(texts, game)));
+}
+
+BatchCommand CommandOfBatch(TextView batch, const LaunchSelection& selection, const LaunchTexts& texts,
+                            const LaunchGame& game) {
+    const bool isUnreal = game.GameKind == game_kind::kUnreal;
+    const Text& composed = isUnreal ? texts.UnrealCommand : texts.GameCommand;
+    const std::size_t at = batch.size() - CommandLine(texts, game).size();
+    const std::size_t trimmed = isUnreal ? 0 : std::min(composed.find_first_not_of(' '), composed.size());
+    BatchCommand command{ExecutableName(selection), isUnreal ? texts.UnrealGiven : texts.GameGiven};
+    for (GivenWord& word : command.Given) {
+        word.At += at - trimmed;
+    }
+    return command;
+}
+
+TextView PifTemplateName(Index gameKind) {
+    return gameKind == game_kind::kQuake2 || gameKind == game_kind::kSin ? kPifTemplateQuake2 : kPifTemplate;
+}
+
+}  // namespace lv

@@ -1,0 +1,62 @@
+// launch/launch_selection.h
+//
+// All that one launch reads: what is ticked and picked at the moment of the click, and what game it is for.
+
+#pragma once
+
+#include <optional>
+
+#include "foundation/text.h"
+
+namespace lv {
+
+/// A tick counts only when the box's value is exactly 1; a list counts only when a row is selected.
+struct LaunchSelection {
+    Text ExecutablePath;  // "\" as the separator
+
+    bool LaunchQspy_Chk = false;
+    bool QSpy_Chk = false;
+    bool Server_Chk = false;
+    bool Map_Chk = false;
+    bool Game_Chk = false;
+    bool Memory_Chk = false;
+    bool NOLAN_Chk = false;
+    bool NOUDP_Chk = false;
+    bool Script_Chk = false;
+    bool NOCDAUDIO_Chk = false;
+    bool Dedicated_Chk = false;
+    bool Demo_Chk = false;
+    bool nosound_chk = false;
+    bool Listen_Chk = false;
+    bool Bench_Chk = false;
+    bool CommandLineAdditions_Chk = false;
+    bool ShowSet_Chk = false;
+    bool UnrealSimulateFirstRun_Chk = false;
+    bool UnrealDisableLogWindow_Chk = false;
+    bool UnrealDisableK6Support_Chk = false;
+    bool UnrealDisableMMXSupport_Chk = false;
+    bool UnrealNoDirectSound_Chk = false;
+
+    // The selected rows' payloads: what stands behind the padded name, trimmed.
+    std::optional<Text> Server;  // "host;port;type;password"
+    std::optional<Text> Game;    // "-game ctf"
+    std::optional<Text> Memory;  // "-winmem 16"
+    std::optional<Text> Script;  // full path
+    std::optional<Text> Demo;    // "playdemo demo1.dem"
+    std::optional<Text> Map;     // the row's text, "START"
+
+    Text CommandLineAdditions_Txt;
+};
+
+/// The game that the selection is for.
+struct LaunchGame {
+    Index GameKind = 0;
+    Index ScriptFamily = 0;
+    Text DefaultGameDirectory;
+    Text CurrentGameDir;
+    bool UsesAccelerator = true;
+    Index CardClass = 1;  // 0 no 3D card, 1 Voodoo, 2 Voodoo 2, 100 other
+    Index VidCard = 1;    // as stored
+};
+
+}  // namespace lv

@@ -1,0 +1,57 @@
+#include "launcher/start/main_window_load.h"
+
+#include "catalogs/map_scan.h"
+#include "catalogs/scripts.h"
+#include "foundation/settings.h"
+#include "launcher/start/get_options.h"
+#include "launcher/window/lv_events.h"
+#include "launcher/window/option_rules.h"
+
+namespace lv {
+
+namespace {
+
+// The stored combination is shown as it is: nothing is excluded here. Only what the game itself rules out is.
+void LoadOptionBoxes(Launcher& launcher) {
+    Run& run = launcher.run;
+    LV_Frm& window = launcher.Window;
+    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
+        if (*option->Key != '\0') {
+            const Index stored = GetNumber(run, kOptions, option->Key, static_cast<Index>(option->Default));
+            (window.*option->Box).Value = stored == 1 || stored == 2 ? stored : 0;
+        }
+    }
+    if (!window.Game_Cbo.HasSelection()) {
+        window.Game_Chk.Value = 0;
+    }
+    ApplyGameSpyRule(window);
+    window.CommandLineAdditions_Txt.Text = GetSetting(run, run.AppName, kOptions, "CustomCommandLineText");
+    ApplyGamePanels(window, {run.GameKind, run.ScriptFamily, run.IsQuakeWorld, run.IsHexenWorld});
+    if (run.GameKind != 0) {
+        ApplyModification(launcher);
+        ScanForMaps(run, launcher.Lists);
+    }
+}
+
+}  // namespace
+
+bool LV_Frm_Load(Launcher& launcher) {
+    Run& run = launcher.run;
+    LV_Frm& window = launcher.Window;
+    window.Remembered = window.Size;
+    InformUser(run, launcher.Splash, " Getting Options");
+    if (!GetOptions(launcher)) {
+        return false;
+    }
+    LoadOptionBoxes(launcher);
+    window.ButtonBar_Cmd[0].ToolTip = kLaunchToolTip;
+    if (run.Ended || !FixScriptRegistries(run)) {
+        return false;
+    }
+    LoadPlacement(run, "LV_Frm", window.Placement, ScreenInTwips(run));
+    window.TrayIcon = true;
+    run.MainFormLoaded = true;
+    return true;
+}
+
+}  // namespace lv

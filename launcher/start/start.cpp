@@ -1,0 +1,105 @@
+#include "launcher/start/start.h"
+
+#include "foundation/field_strings.h"
+#include "foundation/number_format.h"
+#include "foundation/settings.h"
+#include "launcher/menu/video_profile_menu.h"
+#include "launcher/menu/window_menu.h"
+#include "launcher/start/install_params.h"
+#include "launcher/start/main_window_load.h"
+#include "launcher/start/start_directories.h"
+#include "launcher/start/start_repairs.h"
+#include "launcher/window/window_life.h"
+
+namespace lv {
+
+namespace {
+
+constexpr double kSecondsBehindTheLoad = 1;
+
+bool AskForChipsetOnFirstRun(Launcher& launcher) {
+    Run& run = launcher.run;
+    if (GetNumber(run, kStuff, "FirstTime", 1) != 1) {
+        return true;
+    }
+    SetSplashTopmost(run, launcher.Splash, false);  // it would lie above the dialog
+    const bool accepted = AskForChipset(run);
+    SetSplashTopmost(run, launcher.Splash, true);
+    return accepted;
+}
+
+/// False if another instance runs; it has come forward.
+bool IsTheOnlyOne(Run& run) {
+    if (run.System.Instance == nullptr || run.System.Instance->Claim()) {
+        return true;
+    }
+    EndProgram(run);
+    return false;
+}
+
+/// False if the program is to end: the user was told why, or another instance has come forward.
+bool Prepare(Launcher& launcher) {
+    Run& run = launcher.run;
+    RepairVideoProfileList(run);
+    RepairExecutables(run);
+    RepairGames(run);
+    run.DecimalPointIsDot = DecimalPointIsDot(run.System.Time.DecimalSeparator());
+    run.VersionText = VersionText();
+    if (!AskForChipsetOnFirstRun(launcher)) {
+        return false;
+    }
+    run.MainWindowCaption = Join("   ", run.AppName);
+    run.IsWin9x = run.System.Time.IsWin9x();
+    if (!IsTheOnlyOne(run) || !AlignDirectories(run)) {
+        return false;
+    }
+    OfferRemovalOfOlderInstall(run);
+    if (run.AppDirectory.ends_with('\\')) {
+        run.AppDirectory = DropRight(run.AppDirectory, 1);
+    }
+    return true;
+}
+
+void OpenWindows(Launcher& launcher) {
+    Run& run = launcher.run;
+    ShowMainWindow(launcher);
+    SetAlwaysOnTop(launcher, SameText(GetSetting(run, run.AppName, kOptions, "OnTop", "False"), "True"));
+    run.User.Refresh();
+    if (GetSetting(run, run.AppName, "VideoProfile_Frm", "LoadAtStartup", "0") != "1") {
+        return;
+    }
+    run.User.AwaitMainWindow();
+    if (!run.Ended) {
+        VideoProfileEdit_Cmd_Click(launcher);
+    }
+}
+
+}  // namespace
+
+bool Start(Launcher& launcher) {
+    Run& run = launcher.run;
+    Splash_Frm& splash = launcher.Splash;
+    ShowSplash(run, splash);
+    if (!Prepare(launcher)) {
+        UnloadSplash(run, splash);
+        return false;
+    }
+    InformUser(run, splash, " Loading Main Form");
+    if (!LV_Frm_Load(launcher)) {
+        UnloadSplash(run, splash);
+        return false;
+    }
+    InformUser(run, splash, " Setting Window Name");
+    launcher.Window.Caption = run.MainWindowCaption;
+    InformUser(run, splash, " Processing Events");
+    run.User.PumpEvents();
+    PauseSeconds(run, kSecondsBehindTheLoad, [&run] { run.User.PrepareMainWindow(); });
+    UnloadSplash(run, splash);
+    if (run.Ended) {
+        return false;  // an event of that second ended the program
+    }
+    OpenWindows(launcher);
+    return !run.Ended;
+}
+
+}  // namespace lv

@@ -1,0 +1,50 @@
+#include "launcher/window/hint.h"
+
+#include "foundation/field_strings.h"
+
+namespace lv {
+
+namespace {
+
+Text TitleOf(const ListBox& list) {
+    return Trim(TextView(list.Items[static_cast<std::size_t>(list.ListIndex)]).substr(0, NameFieldWidth));
+}
+
+bool Counts(const CheckBox& box, const ListBox& list) {
+    return box.Value == 1 && list.HasSelection();
+}
+
+}  // namespace
+
+Text HintText(const Launcher& launcher) {
+    const LV_Frm& window = launcher.Window;
+    if (window.Exe_Cbo.Items.empty()) {
+        return "No game is in the list yet.";
+    }
+    if (!window.Exe_Cbo.HasSelection()) {
+        return "Pick a game.";
+    }
+    if (window.LaunchQspy_Chk.Value == 1) {
+        return "F2 configures GameSpy 3D to start your games.";
+    }
+    const Text program = LastPathPart(window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Key);
+    if (launcher.run.GameKind == 0) {
+        return Join("No known game lies beside ", program, ".");
+    }
+    Text hint = Join("F2 starts ", program);
+    if (Counts(window.Game_Chk, window.Game_Cbo)) {
+        hint += Join(", ", TitleOf(window.Game_Cbo));
+    }
+    if (Counts(window.Script_Chk, window.Script_Cbo)) {
+        hint += Join(", with ", TitleOf(window.Script_Cbo));
+    }
+    if (Counts(window.Server_Chk, window.Server_Cbo)) {
+        hint += Join(", on ", TitleOf(window.Server_Cbo));
+    }
+    if (Counts(window.Map_Chk, window.Map_Cbo)) {
+        hint += Join(", at ", window.Map_Cbo.Selected());
+    }
+    return hint + ".";
+}
+
+}  // namespace lv

@@ -1,0 +1,396 @@
+#include "launcher/window/launch_flow.h"
+
+#include <exception>
+
+#include "foundation/field_strings.h"
+#include "foundation/game_numbers.h"
+#include "foundation/link_question.h"
+#include "foundation/numbers.h"
+#include "foundation/path_fault.h"
+#include "foundation/question_box.h"
+#include "foundation/settings.h"
+#include "gamespy/configure.h"
+#include "gamespy/game_spy_fetch.h"
+#include "gamespy/spy_names.h"
+#include "launch/environment_lines.h"
+#include "launch/launch_composition.h"
+#include "launch/launch_files.h"
+#include "launch/missing_executable.h"
+#include "launch/name_check.h"
+#include "launcher/window/unreal_options.h"
+#include "launcher/window/window_life.h"
+#include "video/profile_model.h"
+
+namespace lv {
+
+namespace {
+
+// The tag of the batch file in error reports.
+constexpr TextView kBatchTag = "0000005 File = ";
+
+constexpr std::size_t kLongestWin9xLine = 128;
+
+/// What one click works on.
+struct Click {
+    Launcher& launcher;
+    Run& run;
+    LaunchMode Mode;
+    ProfileSnapshot Profile;
+    LaunchSelection Selection;
+    LaunchGame Game;
+    LaunchTexts Texts;
+    Text Script;  // what goes into lv_666.qs
+    Text Batch;   // what goes into lv_666.bat
+    Text FailureFile;
+};
+
+void Tell(Run& run, TextView text) {
+    AskUser(run, "", text);
+}
+
+Text FiveDigits(int number) {
+    Text digits = std::to_string(number);
+    return Text(digits.size() < 5 ? 5 - digits.size() : 0, '0') + digits;
+}
+
+void ReportError(Click& click, const Error& failed) {
+    Run& run = click.run;
+    Text report = Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error Code = EC",
+                       FiveDigits(click.Texts.LaunchStep), NewLine, "Error String = ", failed.Text, NewLine,
+                       "Curreny System Directory = ", run.System.Disk.CurrentDirectory(), NewLine,
+                       "Default Game Directory = ", run.DefaultGameDirectory, NewLine,
+                       "Current Command Line = ", click.Texts.GameCommand);
+    if (!click.FailureFile.empty()) {
+        report += Join(NewLine, click.FailureFile);
+    }
+    AskUser(run, "", report);
+}
+
+bool ExecutableIsThere(Click& click) {
+    Run& run = click.run;
+    click.Texts.LaunchStep = 20;
+    if (!click.launcher.Window.Exe_Cbo.HasSelection()) {
+        Tell(run, "No executable is selected.");
+        return false;
+    }
+    const Text& path = click.Selection.ExecutablePath;
+    if (path.empty()) {
+        AskUser(run, "Error in executable path", kEmptyExecutable);
+        return false;
+    }
+    if (click.Selection.LaunchQspy_Chk || run.System.Disk.FileExists(path)) {
+        return true;
+    }
+    Tell(run, MissingExecutableText(path, "4) Windows incorrectly reported that the file is missing."));
+    return false;
+}
+
+/// False if a name of the launch would be read as more than text; the user was told. Nothing is written before.
+bool NamesOfLaunchAreText(Click& click) {
+    const std::vector<LaunchName> names = NamesOf(click.Selection, click.Game);
+    const Text command = ComposeLaunch(click.Selection, click.Game, click.Profile, {}).GameCommand;
+    const Text& directory = click.Game.DefaultGameDirectory;
+    const LineReader reader = click.run.System.Programs.ReaderOf(directory, command, ExecutableName(click.Selection));
+    return NamesAreText(click.run, names, reader, directory) && NamesMayBeCommands(click.run, names);
+}
+
+LaunchHooks HooksOf(Launcher& launcher) {
+    Run& run = launcher.run;
+    LaunchHooks hooks;
+    hooks.RewriteUnrealIni = [&launcher] { return SetUnrealVideoOptionsForLaunch(launcher); };
+    hooks.ScriptToRegistry = launcher.ScriptToRegistry;
+    hooks.GameSpyFetch = [&run] { return std::optional<Text>(GameSpyFetch(run)); };
+    return hooks;
+}
+
+/// False if the composition stopped the launch; the user knows why.
+bool Compose(Click& click) {
+    click.Texts = ComposeLaunch(click.Selection, click.Game, click.Profile, HooksOf(click.launcher));
+    switch (click.Texts.Stop.Kind) {
+        case StopKind::None:
+            return !click.run.Ended;  // the user may have ended the program while GameSpy 3D was asked
+        case StopKind::Silent:
+            return false;
+        case StopKind::Message:
+            Tell(click.run, click.Texts.Stop.Message);
+            return false;
+        case StopKind::Error:
+            ReportError(click, click.Texts.Stop.Fault);
+            return false;
+    }
+    return false;
+}
+
+/// Of the last launch.
+void DeleteScript(Click& click) {
+    const Text path = ScriptFilePath(click.Game);
+    const Text& directory = click.Game.DefaultGameDirectory;
+    if (!directory.empty() && PutsOwnFileInside(click.run, path, directory)) {
+        (void)click.run.System.Disk.Delete(path);
+    }
+}
+
+/// Replaces the script of the last launch, or takes it away when this one has none.
+bool WriteScript(Click& click) {
+    Files& disk = click.run.System.Disk;
+    const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
+    click.Texts.LaunchStep = 205;
+    AddCommandLineAdditions(click.Selection, click.Texts);
+    click.Script = ScriptText(click.Texts, click.Game);
+    if (click.Script.empty() || click.Game.GameKind == game_kind::kUnreal || !hasDirectory) {
+        DeleteScript(click);
+        return true;
+    }
+    const Text path = ScriptFilePath(click.Game);
+    if (!MayPutOwnFile(click.run, path, click.Game.DefaultGameDirectory)) {
+        return false;
+    }
+    if (const Error failed = disk.ReplaceOwn(path, click.Script)) {
+        ReportError(click, FaultAt(disk, path, failed));
+        return false;
+    }
+    AddScriptExec(click.Texts);
+    return true;
+}
+
+bool WriteBatch(Click& click) {
+    click.Texts.LaunchStep = 230;
+    click.Batch = BatchText(EnvironmentLines(click.Game, click.Profile), click.Selection.ShowSet_Chk,
+                            ExeDriveOf(click.Selection), click.Game.DefaultGameDirectory, click.Texts, click.Game);
+    if (click.Game.DefaultGameDirectory.empty()) {
+        return true;
+    }
+    const Text path = Join(click.Game.DefaultGameDirectory, "\\", kLaunchBatchFile);
+    click.FailureFile = Join(kBatchTag, path);
+    Files& disk = click.run.System.Disk;
+    if (const Error failed = disk.ReplaceOwn(path, click.Batch)) {
+        ReportError(click, disk.DirectoryExists(path) ? FaultAt(disk, path, failed) : failed);
+        return false;
+    }
+    click.FailureFile.clear();
+    click.Texts.LaunchStep = 240;
+    return true;
+}
+
+/// What the view box shows, and the clipboard gets.
+Text ViewText(const Click& click) {
+    return Join("AppDir = ", click.run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
+                NewLine, "Script File = ", NewLine,
+                click.Game.GameKind == game_kind::kUnreal ? click.launcher.Window.ChangedIniLines : click.Script);
+}
+
+/// Shows the files where that was asked for. True if the game is to be started.
+bool ViewOrGoOn(Click& click) {
+    Run& run = click.run;
+    int answer = 0;
+    click.Texts.LaunchStep = 470;
+    if (click.Mode == LaunchMode::View) {
+        answer = AskUserFixedWidth(run, "Viewing Commands", ViewText(click),
+                                   "&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!");
+    }
+    click.Texts.LaunchStep = 480;
+    if (answer == 1) {
+        if (const Error failed = run.System.Clip.SetText(ViewText(click))) {
+            ReportError(click, failed);
+            return false;
+        }
+    }
+    return click.Mode == LaunchMode::Launch || answer == 2;
+}
+
+bool LengthIsFine(Click& click) {
+    const Text& command = click.Texts.GameCommand;
+    if (!click.run.IsWin9x || command.size() <= kLongestWin9xLine) {
+        return true;
+    }
+    return AskUser(click.run, "Command Line Problem",
+                   Join("Command Line = ", command, NewLine, "Length = ", std::to_string(command.size()), NewLine,
+                        "The total command line exceedes 128 characters.", NewLine,
+                        "This will cause it to not work properly."),
+                   "&That's OK,&Abort Launch") == 0;
+}
+
+void PutPif(const Click& click) {
+    Files& disk = click.run.System.Disk;
+    const Text pif = Join(click.Game.DefaultGameDirectory, "\\", kLaunchPifFile);
+    const Text pattern = Join(click.run.AppDirectory, "\\", PifTemplateName(click.Game.GameKind));
+    if (disk.CopyOwn(pattern, pif)) {
+        (void)disk.Delete(pif);  // without a template the game starts without one
+    }
+}
+
+void StartGame(Click& click) {
+    Run& run = click.run;
+    Save(run, "LV-Stuff", "LaunchCount",
+         TextView(std::to_string(ToLong(GetSetting(run, run.AppName, "LV-Stuff", "LaunchCount", "0")) + 1)));
+    const Text& directory = click.Game.DefaultGameDirectory;
+    if (directory.empty()) {
+        Tell(run, "DefaultGameDirectory not set - cannot launch");
+        return;
+    }
+    if (const Error failed = SetCurrentPath(run, directory)) {
+        ReportError(click, failed);
+        return;
+    }
+    if (!LengthIsFine(click)) {
+        return;
+    }
+    PutPif(click);
+    HideForLaunch(click.launcher);
+    const BatchCommand command = CommandOfBatch(click.Batch, click.Selection, click.Texts, click.Game);
+    if (const Error failed = run.System.Programs.StartBatch(directory, kLaunchBatchFile, command)) {
+        ShowMainWindow(click.launcher);  // no game has the screen, so the window comes back
+        ReportError(click, failed);
+        return;
+    }
+    if (click.launcher.Window.EndOnLaunch_Chk.Value == 1) {
+        Exit_Bar_Click(click.launcher);
+    }
+}
+
+void LeaveForGameSpy(Launcher& launcher, MinimizeLorvane choice) {
+    if (choice == MinimizeLorvane::Minimize) {
+        HideForLaunch(launcher);
+    } else if (choice == MinimizeLorvane::Close) {
+        Exit_Bar_Click(launcher);
+    }
+}
+
+/// GameSpy starts the game later, so that this click leaves neither script nor batch of a launch behind.
+void ConfigureInstead(Click& click, GameSpyConfig_Frm& form) {
+    Run& run = click.run;
+    const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
+    click.Texts.LaunchStep = 205;
+    AddCommandLineAdditions(click.Selection, click.Texts);
+    DeleteScript(click);
+    if (hasDirectory) {
+        (void)run.System.Disk.Delete(Join(click.Game.DefaultGameDirectory, "\\", kLaunchBatchFile));
+    }
+    Launcher& launcher = click.launcher;
+    SpyLaunch launch{
+        .run = run,
+        .Form = form,
+        .Selection = click.Selection,
+        .Texts = click.Texts,
+        .EnvironmentLines = hasDirectory ? EnvironmentLines(click.Game, click.Profile) : Text(),
+        .SetUnrealVideoOptions = [&launcher](const Text& ini) { return SetUnrealVideoOptionsForLaunch(launcher, ini); },
+        .LeaveMainWindow = [&launcher](MinimizeLorvane choice) { LeaveForGameSpy(launcher, choice); }};
+    const SpyFailure failed = ConfigureGameSpy(launch);
+    if (failed.Fault) {
+        click.FailureFile = failed.FailureFile;
+        ReportError(click, failed.Fault);
+    }
+}
+
+void LaunchThroughGameSpy(Click& click) {
+    GameSpyConfig_Frm form(click.run, click.launcher.Window.Exe_Cbo);
+    GameSpyConfig_Load(form);
+    ShowModal(form);
+    if (form.DialogResult != 0 && ExecutableIsThere(click) && SpyNamesAreText(form, click.Selection, click.Game) &&
+        Compose(click)) {
+        ConfigureInstead(click, form);
+    }
+}
+
+void LaunchDirectly(Click& click) {
+    if (ExecutableIsThere(click) && NamesOfLaunchAreText(click) && Compose(click) && WriteScript(click) &&
+        WriteBatch(click) && ViewOrGoOn(click)) {
+        StartGame(click);
+    }
+}
+
+/// Above all for want of memory. No game has the screen, so the window comes back if it has gone.
+void GiveUp(Click& click, const Error& failed) {
+    if (!click.launcher.Window.Visible) {
+        ShowMainWindow(click.launcher);
+    }
+    ReportError(click, failed);
+}
+
+std::optional<Text> Payload(const ListBox& list) {
+    return list.HasSelection() ? std::optional(Trim(DropLeft(list.Selected(), NameFieldWidth))) : std::nullopt;
+}
+
+}  // namespace
+
+LaunchSelection SelectionOf(const LV_Frm& window) {
+    const auto ticked = [](const CheckBox& box) { return box.Value == 1; };
+    LaunchSelection selection;
+    if (window.Exe_Cbo.HasSelection()) {
+        const Text& key = window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Key;
+        selection.ExecutablePath = ReplaceSameLength(key, "/", "\\");
+    }
+    selection.LaunchQspy_Chk = ticked(window.LaunchQspy_Chk);
+    selection.QSpy_Chk = ticked(window.QSpy_Chk);
+    selection.Server_Chk = ticked(window.Server_Chk);
+    selection.Map_Chk = ticked(window.Map_Chk);
+    selection.Game_Chk = ticked(window.Game_Chk);
+    selection.Memory_Chk = ticked(window.Memory_Chk);
+    selection.NOLAN_Chk = ticked(window.NOLAN_Chk);
+    selection.NOUDP_Chk = ticked(window.NOUDP_Chk);
+    selection.Script_Chk = ticked(window.Script_Chk);
+    selection.NOCDAUDIO_Chk = ticked(window.NOCDAUDIO_Chk);
+    selection.Dedicated_Chk = ticked(window.Dedicated_Chk);
+    selection.Demo_Chk = ticked(window.Demo_Chk);
+    selection.nosound_chk = ticked(window.nosound_chk);
+    selection.Listen_Chk = ticked(window.Listen_Chk);
+    selection.Bench_Chk = ticked(window.Bench_Chk);
+    selection.CommandLineAdditions_Chk = ticked(window.CommandLineAdditions_Chk);
+    selection.ShowSet_Chk = ticked(window.ShowSet_Chk);
+    selection.UnrealSimulateFirstRun_Chk = ticked(window.UnrealSimulateFirstRun_Chk);
+    selection.UnrealDisableLogWindow_Chk = ticked(window.UnrealDisableLogWindow_Chk);
+    selection.UnrealDisableK6Support_Chk = ticked(window.UnrealDisableK6Support_Chk);
+    selection.UnrealDisableMMXSupport_Chk = ticked(window.UnrealDisableMMXSupport_Chk);
+    selection.UnrealNoDirectSound_Chk = ticked(window.UnrealNoDirectSound_Chk);
+    selection.Server = Payload(window.Server_Cbo);
+    selection.Game = Payload(window.Game_Cbo);
+    selection.Memory = Payload(window.Mem_Cbo);
+    selection.Script = Payload(window.Script_Cbo);
+    selection.Demo = Payload(window.Demo_Cbo);
+    if (window.Map_Cbo.HasSelection()) {
+        selection.Map = window.Map_Cbo.Selected();
+    }
+    selection.CommandLineAdditions_Txt = window.CommandLineAdditions_Txt.Text;
+    return selection;
+}
+
+LaunchGame GameOf(Run& run) {
+    const Index card = ReadVidCard(run);
+    return {run.GameKind,
+            run.ScriptFamily,
+            run.DefaultGameDirectory,
+            run.CurrentGameDir,
+            run.UsesAccelerator,
+            CardClassOf(card),
+            card};
+}
+
+void DoIt_Cmd_Click(Launcher& launcher, int index) {
+    Run& run = launcher.run;
+    if (launcher.LaunchUnderWay) {
+        return;
+    }
+    Click click{launcher,
+                run,
+                static_cast<LaunchMode>(index),
+                ReadProfile(run),
+                SelectionOf(launcher.Window),
+                GameOf(run),
+                {},
+                {},
+                {},
+                {}};
+    launcher.LaunchUnderWay = true;
+    try {
+        if (click.Selection.LaunchQspy_Chk) {
+            LaunchThroughGameSpy(click);
+        } else {
+            LaunchDirectly(click);
+        }
+    } catch (const std::exception& thrown) {
+        GiveUp(click, ErrorOfException(thrown));
+    }
+    launcher.LaunchUnderWay = false;
+}
+
+}  // namespace lv

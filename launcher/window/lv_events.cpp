@@ -1,0 +1,190 @@
+#include "launcher/window/lv_events.h"
+
+#include "catalogs/game_identification.h"
+#include "catalogs/map_scan.h"
+#include "catalogs/scripts.h"
+#include "foundation/field_strings.h"
+#include "foundation/link_question.h"
+#include "foundation/question_box.h"
+#include "foundation/settings.h"
+#include "launcher/window/option_rules.h"
+
+namespace lv {
+
+namespace {
+
+void Tell(Launcher& launcher, TextView text) {
+    AskUser(launcher.run, "", text);
+}
+
+void Game_Chk_Click(Launcher& launcher) {
+    LV_Frm& window = launcher.Window;
+    if (launcher.ClearingGameChk) {
+        return;
+    }
+    if (!window.Game_Cbo.HasSelection()) {
+        Tell(launcher, "No Modification Subdirectory is selected.");
+        launcher.ClearingGameChk = true;
+        SetOption(launcher, &LV_Frm::Game_Chk, 0);
+        launcher.ClearingGameChk = false;
+        return;
+    }
+    ApplyModification(launcher);
+    if (window.Game_Chk.Value == 1) {
+        SetOption(launcher, &LV_Frm::LaunchQspy_Chk, 0);
+    }
+    Save(launcher.run, kOptions, "UseGames", window.Game_Chk.Value);
+    ScanForMaps(launcher.run, launcher.Lists);
+}
+
+void Listen_Chk_Click(Launcher& launcher) {
+    if (launcher.Window.Listen_Chk.Value != 1 || launcher.run.GameKind != 9) {
+        return;
+    }
+    AskUserUnlessTold(launcher.run, "HL_Listen_Server", "Half-Life Console Warning",
+                      Join("After launching, you will see a Console button in the", NewLine,
+                           "upper left hand corner or the Half-life menu area.", NewLine, NewLine,
+                           "Click the button to launch the listen server.", NewLine, NewLine,
+                           "Half-Life may ask for the CD to launch in this manner."));
+}
+
+void Bench_Chk_Click(Launcher& launcher) {
+    Run& run = launcher.run;
+    if (launcher.Window.Bench_Chk.Value != 1 || run.GameKind != 9) {
+        return;
+    }
+    const Text demo = Join(run.DefaultGameDirectory, "\\valve\\1.dem");
+    if (!run.System.Disk.FileExists(demo)) {
+        AskUserUnlessTold(run, "HL_TimeDemo_2", "Half-Life TimeDemo Warning",
+                          Join("Half-Life does not ship a demo file to run a timedemo.", NewLine, NewLine,
+                               "Please make one: start a game, open the console, and type", NewLine, NewLine,
+                               "record 1", NewLine, NewLine, "and stop when you have played enough."));
+        if (MayPutOwnFile(run, demo, run.DefaultGameDirectory)) {
+            (void)run.System.Disk.CopyOwn(Join(run.AppDirectory, "\\hl1.dem"), demo);
+        }
+    }
+    AskUserUnlessTold(run, "HL_TimeDemo", "Half-Life TimeDemo Warning",
+                      Join("After launching, you will see a Console button in the", NewLine,
+                           "upper left hand corner or the Half-life menu area.", NewLine, NewLine,
+                           "Click the button to run the timedemo."));
+}
+
+void WriteKey(Launcher& launcher, const OptionBox& option) {
+    if (*option.Key != '\0') {
+        Save(launcher.run, kOptions, option.Key, (launcher.Window.*option.Box).Value);
+    }
+}
+
+void ClearExcluded(Launcher& launcher, CheckBox LV_Frm::*box) {
+    if ((launcher.Window.*box).Value != 1) {
+        return;
+    }
+    for (CheckBox LV_Frm::*const excluded : ExcludedBy(box)) {
+        SetOption(launcher, excluded, 0);
+    }
+}
+
+void SavePosition(Launcher& launcher, TextView key, const ListBox& list) {
+    Save(launcher.run, kOptions, key, list.ListIndex);
+}
+
+}  // namespace
+
+void SetOption(Launcher& launcher, CheckBox LV_Frm::*box, int value) {
+    if ((launcher.Window.*box).Value == value) {
+        return;
+    }
+    (launcher.Window.*box).Value = value;
+    Option_Chk_Click(launcher, box);
+}
+
+void Option_Chk_Click(Launcher& launcher, CheckBox LV_Frm::*box) {
+    if (box == &LV_Frm::Game_Chk) {
+        Game_Chk_Click(launcher);
+        return;
+    }
+    if (box == &LV_Frm::Map_Chk && launcher.Window.Map_Chk.Value == 1 && !launcher.Window.Map_Cbo.HasSelection()) {
+        launcher.Window.Map_Chk.Value = 0;
+        return;
+    }
+    if (box == &LV_Frm::LaunchQspy_Chk) {
+        ApplyGameSpyRule(launcher.Window);
+    }
+    WriteKey(launcher, OptionBoxOf(box));
+    ClearExcluded(launcher, box);
+    if (box == &LV_Frm::Listen_Chk) {
+        Listen_Chk_Click(launcher);
+    } else if (box == &LV_Frm::Bench_Chk) {
+        Bench_Chk_Click(launcher);
+    }
+}
+
+void ApplyModification(Launcher& launcher) {
+    Run& run = launcher.run;
+    LV_Frm& window = launcher.Window;
+    if (window.Game_Chk.Value == 1 && window.Game_Cbo.HasSelection()) {
+        const Text row = window.Game_Cbo.Selected();
+        run.CurrentGameDir = Trim(DropLeft(row, NameFieldWidth + 6));
+        window.PlayerScript_Pan.Caption = Join("Player Script - (", Trim(TextView(row).substr(0, NameFieldWidth)), ")");
+    } else {
+        run.CurrentGameDir = run.BaseGameDir;
+        window.PlayerScript_Pan.Caption = "Player Script";
+    }
+    FillScriptsCombo(run, launcher.Lists);
+}
+
+void Exe_Cbo_Click(Launcher& launcher) {
+    Run& run = launcher.run;
+    LV_Frm& window = launcher.Window;
+    if (!window.Exe_Cbo.HasSelection() || !IdentifyGame(run, launcher.Lists, launcher.RegistryToScript)) {
+        return;
+    }
+    ApplyGamePanels(window, {run.GameKind, run.ScriptFamily, run.IsQuakeWorld, run.IsHexenWorld});
+    ApplyMissionPackRule(run, launcher.Lists);
+    ShowGameControls(launcher.VideoProfile);
+    Videop(launcher.VideoProfile);  // into a closed window too: a launch finds every key
+    if (run.Ended) {
+        return;
+    }
+    window.LaunchQspy_Chk.Enabled = run.GameKind != 9 && run.GameKind != 6;
+    if (run.GameKind != 0) {
+        ApplyModification(launcher);
+    }
+    ScanForMaps(run, launcher.Lists);
+}
+
+void Game_Cbo_Click(Launcher& launcher) {
+    SavePosition(launcher, "GamesPos", launcher.Window.Game_Cbo);
+    if (launcher.Window.Game_Chk.Value == 1) {
+        Game_Chk_Click(launcher);
+        return;
+    }
+    FillScriptsCombo(launcher.run, launcher.Lists);
+}
+
+void Script_Cbo_Click(Launcher& launcher) {
+    Run& run = launcher.run;
+    if (!launcher.Window.Script_Cbo.HasSelection()) {
+        return;
+    }
+    // Each game directory and modification remembers its own script.
+    Save(run, "DefaultScript", DefaultScriptKey(run), DropLeft(launcher.Window.Script_Cbo.Selected(), NameFieldWidth));
+}
+
+void Mem_Cbo_Click(Launcher& launcher) {
+    SavePosition(launcher, "MemoryPos", launcher.Window.Mem_Cbo);
+}
+
+void Demo_Cbo_Click(Launcher& launcher) {
+    SavePosition(launcher, "DemoPos", launcher.Window.Demo_Cbo);
+}
+
+void Server_Cbo_Click(Launcher& launcher) {
+    SavePosition(launcher, "ServerPos", launcher.Window.Server_Cbo);
+}
+
+void CommandLineAdditions_Txt_Change(Launcher& launcher) {
+    Save(launcher.run, kOptions, "CustomCommandLineText", launcher.Window.CommandLineAdditions_Txt.Text);
+}
+
+}  // namespace lv

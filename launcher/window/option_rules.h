@@ -1,0 +1,31 @@
+// launcher/window/option_rules.h
+//
+// Which option excludes which, and which control is there for which game: rules over the states of the check boxes.
+
+#pragma once
+
+#include <vector>
+
+#include "launcher/window/lv_frm.h"
+
+namespace lv {
+
+/// The boxes that are cleared when `box` is set to 1. Empty for a box that excludes nothing.
+const std::vector<CheckBox LV_Frm::*>& ExcludedBy(CheckBox LV_Frm::*box);
+
+/// What the panels depend on.
+struct PanelGame {
+    Index GameKind = 0;
+    Index ScriptFamily = 0;
+    bool IsQuakeWorld = false;
+    bool IsHexenWorld = false;
+};
+
+/// Lays the window out for the game: what is enabled, shown, cleared and greyed. Writes no keys, so what the user has
+/// ticked for other games is there again at the next start. Applying it twice changes nothing more.
+void ApplyGamePanels(LV_Frm& window, const PanelGame& game);
+
+/// The files of a GameSpy launch are not the user's to view: the buttons for them follow LaunchQspy_Chk.
+void ApplyGameSpyRule(LV_Frm& window);
+
+}  // namespace lv

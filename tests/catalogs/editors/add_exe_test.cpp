@@ -1,0 +1,166 @@
+#include "catalogs/editors/add_exe.h"
+
+#include "catalogs/executables.h"
+#include "tests/catalogs/editors/editors_fixture.h"
+
+namespace lv {
+
+class AddExe : public EditorsTest {
+  protected:
+    AddExe() {
+        system.Disk.AddFile("C:\\QUAKE\\GLQUAKE.EXE");
+        system.Disk.AddFile("C:\\HL\\HL.EXE");
+        lists.Exe_Cbo.Items = {{"Old", "C:\\OLD\\QUAKE.EXE", "QUAKE", "QUAKE"}};
+        lists.Exe_Cbo.ListIndex = 0;
+    }
+    void Fill(AddExe_Frm& form, TextView title, TextView path) {
+        form.ExeTitle_Txt.Text = title;
+        form.ExePath_Txt.Text = path;
+    }
+};
+
+TEST_F(AddExe, HasItsCaptions) {
+    const AddExe_Frm add(run, lists, EntryMode::Add);
+    EXPECT_EQ(add.Name, "AddExe_Frm");
+    EXPECT_EQ(add.Caption, "Add Executable");
+    EXPECT_EQ(add.ExeTitle_Lbl.Caption, "Executable Title");
+    EXPECT_EQ(add.ExePath_Lbl.Caption, "Executable Path and File Name");
+    EXPECT_EQ(add.ExeTitle_Txt.Text, "");
+    const AddExe_Frm edit(run, lists, EntryMode::Edit);
+    EXPECT_EQ(edit.Caption, "Edit Current Executable");
+    EXPECT_EQ(edit.ExeTitle_Txt.Text, "Old");
+    EXPECT_EQ(edit.ExePath_Txt.Text, "C:\\OLD\\QUAKE.EXE");
+}
+
+TEST_F(AddExe, StopsAtTheFirstFault) {
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "  ", "");
+    ExpectFault(form, AddExe_OK_Cmd_Click, "ExeTitle_Txt", "Enter a Title for the executable file.");
+    Fill(form, "a,b", "");
+    ExpectFault(form, AddExe_OK_Cmd_Click, "ExeTitle_Txt", "The Title may not contain a comma.");
+    Fill(form, "Quake", "  ");
+    ExpectFault(form, AddExe_OK_Cmd_Click, "ExePath_Txt", "Enter a Path and File Name.");
+    Fill(form, "Quake", "C:\\NO.EXE");
+    ExpectFault(form, AddExe_OK_Cmd_Click, "ExePath_Txt", "Path and/or File Name are invalid.");
+    EXPECT_EQ(Stored("Executables"), "(none)");
+}
+
+TEST_F(AddExe, AddsARowAndSelectsIt) {
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "  GL Quake ", " C:\\QUAKE\\GLQUAKE.EXE ");
+    Text during;
+    form.ChangeGame = [&] { during = Stored("Executables"); };
+    ExpectConfirmed("GL Quake now references C:\\QUAKE\\GLQUAKE.EXE");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(Rows(lists.Exe_Cbo), (TextList{"Old|C:\\OLD\\QUAKE.EXE", "GL Quake|C:\\QUAKE\\GLQUAKE.EXE"}));
+    EXPECT_EQ(lists.Exe_Cbo.Items[1].Image, "QUAKE");
+    EXPECT_EQ(lists.Exe_Cbo.Items[1].SelectedImage, "QUAKE");
+    EXPECT_EQ(lists.Exe_Cbo.ListIndex, 1);
+    EXPECT_EQ(Stored("ExecutablesPos"), "1");
+    EXPECT_EQ(during, "Old;C:\\OLD\\QUAKE.EXE;GL Quake;C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_EQ(run.DefaultGameDirectory, "C:\\QUAKE");
+    EXPECT_TRUE(form.Closed);
+    EXPECT_TRUE(form.DialogResult);
+}
+
+TEST_F(AddExe, EditReplacesTitleAndKeyAndKeepsThePicture) {
+    AddExe_Frm form(run, lists, EntryMode::Edit);
+    Fill(form, "Life", "C:\\HL\\HL.EXE");
+    ExpectConfirmed("Life now references C:\\HL\\HL.EXE");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(Rows(lists.Exe_Cbo), (TextList{"Life|C:\\HL\\HL.EXE"}));
+    EXPECT_EQ(lists.Exe_Cbo.Items[0].Image, "QUAKE");
+    EXPECT_EQ(Stored("ExecutablesPos"), "(none)");
+    EXPECT_EQ(Stored("Executables"), "Life;C:\\HL\\HL.EXE");
+}
+
+TEST_F(AddExe, RefusesAPathThatIsListedAlready) {
+    system.Disk.AddFile("C:\\OLD\\QUAKE.EXE");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Again", "C:\\OLD\\QUAKE.EXE");
+    ExpectFault(form, AddExe_OK_Cmd_Click, "ExePath_Txt",
+                "Again  C:\\OLD\\QUAKE.EXE\r\nThis Game -->\r\nwas listed twice. The second entry will be ignored.",
+                "Duplicate Game");
+    EXPECT_EQ(lists.Exe_Cbo.Items.size(), 1u);
+}
+
+TEST_F(AddExe, AnEditMayKeepItsPath) {
+    system.Disk.AddFile("C:\\OLD\\QUAKE.EXE");
+    AddExe_Frm form(run, lists, EntryMode::Edit);
+    form.ExeTitle_Txt.Text = "New";
+    ExpectConfirmed("New now references C:\\OLD\\QUAKE.EXE");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(Rows(lists.Exe_Cbo), (TextList{"New|C:\\OLD\\QUAKE.EXE"}));
+}
+
+TEST_F(AddExe, APathWithoutADirectoryIsWarnedOf) {
+    system.Disk.AddFile("C:\\QUAKE.EXE");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Quake", "QUAKE.EXE");
+    ExpectTold("DefaultGameDirectory NOT SET - YOU WILL NOT BE ABLE TO LAUNCH\r\nPlease edit the executable.");
+    ExpectConfirmed("Quake now references QUAKE.EXE");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(run.DefaultGameDirectory, "");
+}
+
+TEST_F(AddExe, ATitleWithASemicolonPassesAndDamagesTheCatalog) {
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "GL;Quake", "C:\\QUAKE\\GLQUAKE.EXE");
+    ExpectConfirmed("GL;Quake now references C:\\QUAKE\\GLQUAKE.EXE");
+    AddExe_OK_Cmd_Click(form);
+    const Text value = "Old;C:\\OLD\\QUAKE.EXE;GL;Quake;C:\\QUAKE\\GLQUAKE.EXE";
+    EXPECT_EQ(Stored("Executables"), value);
+    ExpectDamage("defaultExes", value);
+    EXPECT_FALSE(LoadExes(run, lists));
+}
+
+TEST_F(AddExe, ACatalogThatWouldBeTooLongKeepsListAndWindow) {
+    lists.Exe_Cbo.Items[0].Title = Text(16000, 'x');
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "GL Quake", "C:\\QUAKE\\GLQUAKE.EXE");
+    user.Expect({"Lorvane 3D", ""});
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(lists.Exe_Cbo.Items.size(), 1u);
+    EXPECT_FALSE(form.Closed);
+}
+
+TEST_F(AddExe, BrowsesForPrograms) {
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    user.FileAnswers.push_back(std::optional<Text>("C:\\HL\\HL.EXE"));
+    AddExe_Browse_Cmd_Click(form);
+    EXPECT_EQ(form.ExePath_Txt.Text, "C:\\HL\\HL.EXE");
+    EXPECT_EQ(user.FileRequests.at(0).Filter, "Quake Executables (*.exe, *.bat)|*.exe;*.bat|All Files (*.*)|*.*");
+    EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "C:\\HOME");
+    system.Disk.AddDirectory("C:\\HL");
+    user.FileAnswers.push_back(std::optional<Text>());
+    AddExe_Browse_Cmd_Click(form);
+    EXPECT_EQ(form.ExePath_Txt.Text, "C:\\HL\\HL.EXE");
+    EXPECT_EQ(user.FileRequests.at(1).InitialDirectory, "C:\\HL");
+}
+
+TEST_F(AddExe, TakesAPathOfTheSystemsOwn) {
+    system.Disk.AddFile("C:\\HOME\\games\\glquake.exe");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Mine", " ~/games/glquake.exe");
+    ExpectConfirmed("Mine now references C:\\HOME\\games\\glquake.exe");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(lists.Exe_Cbo.Items.back().Key, "C:\\HOME\\games\\glquake.exe");
+}
+
+TEST(NewExeImageKeyOf, KnowsFewerProgramsThanTheNextStart) {
+    const std::vector<std::pair<const char*, const char*>> rows = {
+        {"quake.exe", "QUAKE"},       {"winquake.exe", "QUAKE"},  {"vquake.exe", "QUAKE"},
+        {"glquake.exe", "QUAKE"},     {"qwcl.exe", "QUAKEWORLD"}, {"glqwcl.exe", "QUAKEWORLD"},
+        {"quake2.exe", "QUAKE2"},     {"h2.exe", "HEXEN2"},       {"h2mp.exe", "HEXEN2"},
+        {"glh2.exe", "HEXEN2"},       {"glh2mp.exe", "HEXEN2"},   {"hwcl.exe", "HEXEN2"},
+        {"unreal.exe", "UNREAL"},     {"sin.exe", "SIN"},         {"sindemo.exe", "SIN"},
+        {"heretic2.exe", "HERETIC2"}, {"hl.exe", "QUESTION"},     {"shogo.exe", "QUESTION"},
+        {"blood2.exe", "QUESTION"},   {"glhwcl.exe", "QUESTION"}, {"other.exe", "QUESTION"},
+        {"QUAKE.EXE", "QUAKE"},
+    };
+    for (const auto& [file, image] : rows) {
+        EXPECT_EQ(NewExeImageKeyOf(file), image) << file;
+    }
+}
+
+}  // namespace lv

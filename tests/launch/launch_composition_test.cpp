@@ -1,0 +1,181 @@
+#include "launch/launch_composition.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/launch_input.h"
+
+namespace lv {
+namespace {
+
+/// A script, 16 megabytes, 640 across, Voodoo, gl_polyblend off.
+void SetUpExample(LaunchInput& input, TextView scriptPath) {
+    input.Selected.Script_Chk = true;
+    input.Selected.Script = scriptPath;
+    input.Selected.Memory_Chk = true;
+    input.Selected.Memory = "-winmem 16";
+    input.Profile.UseRez = 1;
+    input.Profile.ResolutionsPos = 4;
+    input.Profile.ResolutionsPos_Content = Padded("640x480", "-width 640");
+    Use(input.Profile, "gl_polyblend", "0");
+}
+
+TEST(ComposeLaunch, QuakeWithScriptMemoryAndResolution) {
+    LaunchInput input = QuakeLaunch("GLQUAKE.EXE");
+    SetUpExample(input, "C:\\QUAKE\\ID1\\my.cfg");
+    LaunchTexts texts = input.Compose();
+    AddCommandLineAdditions(input.Selected, texts);
+    AddScriptExec(texts);
+    EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 -heapsize 16384 -width 640 +exec lv_666.qs ");
+    EXPECT_EQ(texts.QuakeScript, "exec my.cfg\r\ngl_polyblend 0\r\n");
+}
+
+TEST(ComposeLaunch, Quake2WithTheSameAModAndAServer) {
+    LaunchInput input = Quake2Launch();
+    SetUpExample(input, "C:\\QUAKE2\\BASEQ2\\my.cfg");
+    input.Selected.Game_Chk = true;
+    input.Selected.Game = "-game ctf";
+    input.Selected.Server_Chk = true;
+    input.Selected.Server = "10.0.0.1;27910;3;";
+    LaunchTexts texts = input.Compose();
+    AddScriptExec(texts);
+    EXPECT_EQ(texts.GameCommand, "QUAKE2.EXE -zone 512 +set game ctf +exec lv_666.qs ");
+    EXPECT_EQ(texts.Quake2Script,
+              "exec my.cfg\r\n"
+              "set gl_polyblend 0\r\n"
+              "set sw_mode \"3\"\r\n"
+              "set gl_mode \"3\"\r\n"
+              "connect 10.0.0.1:27910\r\n");
+}
+
+TEST(ComposeLaunch, HalfLifeOpensItsConsole) {
+    LaunchInput input = HalfLifeLaunch();
+    SetUpExample(input, "C:\\HL\\VALVE\\my.cfg");
+    const LaunchTexts texts = input.Compose();
+    EXPECT_EQ(texts.GameCommand, "HL.EXE -console -zone 512 ");
+    EXPECT_EQ(texts.Quake2Script, "exec my.cfg\r\nset gl_polyblend 0\r\nset sw_mode \"3\"\r\nset gl_mode \"3\"\r\n");
+}
+
+TEST(ComposeLaunch, UnrealWithMapSwitchesAndIni) {
+    LaunchInput input = UnrealLaunch();
+    SetUpExample(input, "C:\\Unreal\\System\\my.ini");
+    input.Selected.Map_Chk = true;
+    input.Selected.Map = "DmDeck16";
+    input.Selected.UnrealNoDirectSound_Chk = true;
+    input.Selected.UnrealSimulateFirstRun_Chk = true;
+    input.Selected.UnrealDisableLogWindow_Chk = true;
+    input.Selected.UnrealDisableK6Support_Chk = true;
+    input.Selected.UnrealDisableMMXSupport_Chk = true;
+    input.Game.VidCard = 0;
+    const LaunchTexts texts = input.Compose();
+    EXPECT_EQ(texts.UnrealCommand,
+              "UNREAL.EXE dmdeck16.unr -nodsound -firstrun -nologwin -nok6 -nommx -nohard INI=my.ini ");
+    EXPECT_EQ(texts.QuakeScript, "");
+    EXPECT_EQ(texts.Quake2Script, "");
+}
+
+TEST(ComposeLaunch, EverythingAtOnceStandsInTheOrderOfTheRows) {
+    LaunchInput input = QuakeLaunch("WINQUAKE.EXE");
+    SetUpExample(input, "C:\\QUAKE\\ID1\\my.cfg");
+    input.Selected.Game_Chk = true;
+    input.Selected.Game = "-game ctf";
+    input.Selected.NOLAN_Chk = true;
+    input.Selected.NOUDP_Chk = true;
+    input.Selected.NOCDAUDIO_Chk = true;
+    input.Selected.Dedicated_Chk = true;
+    input.Selected.Listen_Chk = true;
+    input.Selected.nosound_chk = true;
+    input.Selected.Map_Chk = true;
+    input.Selected.Map = "START";
+    input.Profile.Windowed = 1;
+    Use(input.Profile, "GL_ROUND_DOWN", "1");
+    Use(input.Profile, "WaterAlpha", ".6");
+    const LaunchTexts texts = input.Compose();
+    EXPECT_EQ(texts.GameCommand,
+              "WINQUAKE.EXE -zone 512 -game ctf -heapsize 16384 -width 640 -window -nolan -noudp -nocdaudio "
+              "+GL_ROUND_DOWN 1 -dedicated -listen ");
+    EXPECT_EQ(texts.QuakeScript,
+              "exec my.cfg\r\n_windowed_mouse 1\r\nr_wateralpha .6\r\ngl_polyblend 0\r\nnosound 1\r\nmap start\r\n");
+}
+
+TEST(ComposeLaunch, TheCommandOpensWithTheUpperCaseFileName) {
+    LaunchInput input = QuakeLaunch();
+    input.Selected.ExecutablePath = "C:\\My Games\\glquake.exe ";
+    EXPECT_EQ(input.Compose().GameCommand, "GLQUAKE.EXE -zone 512 ");
+    EXPECT_EQ(input.Compose().UnrealCommand, "GLQUAKE.EXE ");
+}
+
+TEST(ComposeLaunch, ThePrefixIsTheExecutableAndItsBlank) {
+    EXPECT_EQ(QuakeLaunch("GLQUAKE.EXE").Compose().PrefixLength, 12u);
+}
+
+TEST(ComposeLaunch, ThePrefixHoldsTheWrapper) {
+    LaunchInput input = QuakeLaunch("QUAKE.EXE");
+    input.Selected.Server_Chk = true;
+    const LaunchTexts texts = input.Compose();
+    EXPECT_EQ(texts.GameCommand.substr(0, texts.PrefixLength),
+              "qlaunch quakeudp.dll QUAKE.EXE -noipx -noserial -mpath ");
+}
+
+TEST(ComposeLaunch, EndsAtStep190) {
+    EXPECT_EQ(QuakeLaunch().Compose().LaunchStep, 190);
+    EXPECT_EQ(UnrealLaunch().Compose().LaunchStep, 190);
+}
+
+TEST(AddCommandLineAdditions, StandTrimmedAtTheEndAndRightBehindUnrealsExecutable) {
+    LaunchInput input = UnrealLaunch();
+    input.Selected.UnrealDisableMMXSupport_Chk = true;
+    input.Selected.CommandLineAdditions_Chk = true;
+    input.Selected.CommandLineAdditions_Txt = "  -log now ";
+    LaunchTexts texts = input.Compose();
+    AddCommandLineAdditions(input.Selected, texts);
+    EXPECT_EQ(texts.UnrealCommand, "UNREAL.EXE -log now -nommx ");
+    EXPECT_EQ(texts.GameCommand, "UNREAL.EXE -log now ");
+    EXPECT_EQ(texts.LaunchStep, 205);
+}
+
+TEST(AddCommandLineAdditions, StandBeforeTheServerOfUnreal) {
+    LaunchInput input = UnrealLaunch();
+    input.Selected.Server_Chk = true;
+    input.Selected.Server = "frag.example;7777;4;";
+    input.Selected.CommandLineAdditions_Chk = true;
+    input.Selected.CommandLineAdditions_Txt = "-log";
+    LaunchTexts texts = input.Compose();
+    AddCommandLineAdditions(input.Selected, texts);
+    EXPECT_EQ(texts.UnrealCommand, "UNREAL.EXE -log frag.example:7777 ");
+}
+
+TEST(AddCommandLineAdditions, StandBehindTheNameOfAnExecutableOfAnotherEnding) {
+    LaunchInput input = UnrealLaunch();
+    input.Selected.ExecutablePath = "C:\\Unreal\\System\\unreal-bin";
+    input.Selected.UnrealDisableMMXSupport_Chk = true;
+    input.Selected.CommandLineAdditions_Chk = true;
+    input.Selected.CommandLineAdditions_Txt = "-log";
+    LaunchTexts texts = input.Compose();
+    AddCommandLineAdditions(input.Selected, texts);
+    EXPECT_EQ(texts.UnrealCommand, "UNREAL-BIN -log -nommx ");
+}
+
+TEST(AddCommandLineAdditions, AreLeftOutWhenNotTicked) {
+    LaunchInput input = QuakeLaunch();
+    input.Selected.CommandLineAdditions_Txt = "-log";
+    LaunchTexts texts = input.Compose();
+    AddCommandLineAdditions(input.Selected, texts);
+    EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 ");
+    EXPECT_EQ(texts.UnrealCommand, "GLQUAKE.EXE ");
+    EXPECT_EQ(texts.LaunchStep, 205);
+}
+
+TEST(AddScriptExec, StandsAtTheEndOfTheGamesCommandOnly) {
+    LaunchTexts texts = QuakeLaunch().Compose();
+    AddScriptExec(texts);
+    EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 +exec lv_666.qs ");
+    EXPECT_EQ(texts.UnrealCommand, "GLQUAKE.EXE ");
+}
+
+TEST(ExeDriveOf, IsTheLetterAndItsColon) {
+    EXPECT_EQ(ExeDriveOf(QuakeLaunch().Selected), "C:");
+    EXPECT_EQ(ExeDriveOf({}), "");
+}
+
+}  // namespace
+}  // namespace lv

@@ -1,0 +1,116 @@
+#include "launcher/start/main_window_load.h"
+
+#include "tests/support/launcher_fixture.h"
+
+namespace lv {
+
+namespace {
+
+class MainWindowLoad : public LauncherTest {};
+
+}  // namespace
+
+TEST_F(MainWindowLoad, SetsMainFormLoadedAtItsEnd) {
+    AddGames();
+    bool loaded = true;
+    launcher.Measure = [&] {
+        loaded = run.MainFormLoaded;
+        return WindowMeasures();
+    };
+    Load();
+    EXPECT_FALSE(loaded);
+    EXPECT_TRUE(run.MainFormLoaded);
+}
+
+TEST_F(MainWindowLoad, DoesNotShowTheWindow) {
+    AddGames();
+    Load();
+    EXPECT_FALSE(window.Visible);
+}
+
+TEST_F(MainWindowLoad, TellsTheSplash) {
+    AddGames();
+    Load();
+    EXPECT_EQ(launcher.Splash.InformUser_Lbl.Caption, " Getting Options");
+}
+
+TEST_F(MainWindowLoad, TakesItsPlaceFromTheStore) {
+    AddGames();
+    Save(run, "LV_Frm", "Top", 150);
+    Save(run, "LV_Frm", "Left", 300);
+    Load();
+    EXPECT_EQ(window.Placement.Top, 150);
+    EXPECT_EQ(window.Placement.Left, 300);
+}
+
+TEST_F(MainWindowLoad, CentresTheMeasuredWindow) {
+    AddGames();
+    launcher.Measure = [] { return WindowMeasures{580, 100, 500, 400, 16, 0}; };
+    Load();  // 520 by 600 pixels on a screen of 1000 by 1000
+    EXPECT_EQ(window.Placement.Left, 240 * 15);
+    EXPECT_EQ(window.Placement.Top, 200 * 15);
+}
+
+TEST_F(MainWindowLoad, AddsTheTrayIcon) {
+    AddGames();
+    Load();
+    EXPECT_TRUE(window.TrayIcon);
+}
+
+TEST_F(MainWindowLoad, GivesTheLaunchButtonItsToolTip) {
+    AddGames();
+    EXPECT_EQ(window.ButtonBar_Cmd[0].ToolTip, "Launch [F2]");
+    Load();
+    EXPECT_EQ(window.ButtonBar_Cmd[0].ToolTip, "Launch Me [F2]");
+}
+
+TEST_F(MainWindowLoad, AStoredServerTickClearsNoOther) {
+    AddGames();
+    Save(run, kOptions, "UseServers", 1);
+    Save(run, kOptions, "UseDemos", 1);
+    Load();
+    EXPECT_EQ(window.Server_Chk.Value, 1);
+    EXPECT_EQ(window.Demo_Chk.Value, 1);
+}
+
+TEST_F(MainWindowLoad, AStoredModificationTickIsThereAgain) {
+    AddGames();
+    Save(run, kOptions, "UseGames", 1);
+    Load();
+    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_EQ(window.Game_Chk.Value, 1);
+    EXPECT_EQ(Stored(kOptions, "UseGames"), "1");
+}
+
+TEST_F(MainWindowLoad, AStoredGameSpyTickDisablesTheButtonsOfTheLaunchFiles) {
+    AddGames();
+    Save(run, kOptions, "LaunchQSpy", 1);
+    Load();
+    EXPECT_EQ(window.LaunchQspy_Chk.Value, 1);
+    EXPECT_TRUE(window.DoIt_Cmd[0].Enabled);
+    EXPECT_FALSE(window.DoIt_Cmd[1].Enabled);
+    EXPECT_FALSE(window.DoIt_Cmd[2].Enabled);
+}
+
+TEST_F(MainWindowLoad, ACaptionOfTheLaunchButtonIsNotReadBack) {
+    AddGames();
+    Save(run, kOptions, "CommandCaption", "Go");
+    Load();
+    EXPECT_EQ(window.DoIt_Cmd[0].Caption, "&Launch Me!");
+}
+
+TEST_F(MainWindowLoad, DropsScriptsWhoseFileIsGone) {
+    AddGames();
+    Save(run, kOptions, "Scripts", "Mine;c:\\quake\\id1\\my.cfg;Lost;c:\\quake\\id1\\lost.cfg");
+    Load();
+    EXPECT_EQ(Stored(kOptions, "Scripts").find("lost.cfg"), Text::npos);
+    EXPECT_NE(Stored(kOptions, "Scripts").find("my.cfg"), Text::npos);
+}
+
+TEST_F(MainWindowLoad, OfAnEmptyCatalogComesUpWithEmptyLists) {
+    Load();
+    EXPECT_TRUE(window.Exe_Cbo.Items.empty());
+    EXPECT_TRUE(run.MainFormLoaded);
+}
+
+}  // namespace lv

@@ -1,0 +1,295 @@
+#include "launcher/window/lv_events.h"
+
+#include "tests/support/launcher_fixture.h"
+
+namespace lv {
+namespace {
+
+using LvEvents = LauncherTest;
+
+void Select(ListBox& list, TextView title) {
+    for (std::size_t i = 0; i < list.Items.size(); ++i) {
+        if (TextView(list.Items[i]).starts_with(title)) {
+            list.ListIndex = static_cast<int>(i);
+            return;
+        }
+    }
+    FAIL() << "no row " << title;
+}
+
+TEST_F(LvEvents, AClickWritesItsKeyAtOnce) {
+    Click(&LV_Frm::NOLAN_Chk, 1);
+    EXPECT_EQ(Stored(kOptions, "NoLAN"), "1");
+    Click(&LV_Frm::NOLAN_Chk, 0);
+    EXPECT_EQ(Stored(kOptions, "NoLAN"), "0");
+}
+
+TEST_F(LvEvents, QspyIsFoundUnderItsOtherSpelling) {
+    Click(&LV_Frm::QSpy_Chk, 1);
+    EXPECT_EQ(system.Settings.Log.back(), "Options|Qspy|1");
+    EXPECT_EQ(Stored(kOptions, "QSpy"), "1");
+}
+
+TEST_F(LvEvents, ABoxWithoutAKeyWritesNothing) {
+    const std::size_t before = system.Settings.Log.size();
+    Click(&LV_Frm::nosound_chk, 1);
+    EXPECT_EQ(system.Settings.Log.size(), before);
+}
+
+TEST_F(LvEvents, SettingAServerRoleClearsTheOthersAndTheirKeys) {
+    Click(&LV_Frm::Dedicated_Chk, 1);
+    Click(&LV_Frm::Server_Chk, 1);
+    EXPECT_EQ(window.Dedicated_Chk.Value, 0);
+    EXPECT_EQ(Stored(kOptions, "Dedicated"), "0");
+    EXPECT_EQ(Stored(kOptions, "UseServers"), "1");
+}
+
+TEST_F(LvEvents, ClearingABoxLeavesTheOthersAlone) {
+    window.Listen_Chk.Value = 1;
+    Click(&LV_Frm::Server_Chk, 0);
+    EXPECT_EQ(window.Listen_Chk.Value, 1);
+}
+
+TEST_F(LvEvents, MapWithoutASelectedMapClearsItselfAndLeavesTheOthersAlone) {
+    window.Server_Chk.Value = 1;
+    Click(&LV_Frm::Map_Chk, 1);
+    EXPECT_EQ(window.Map_Chk.Value, 0);
+    EXPECT_EQ(window.Server_Chk.Value, 1);
+}
+
+TEST_F(LvEvents, MapWithASelectedMapClearsTheServer) {
+    window.Map_Cbo.Items = {"START"};
+    window.Map_Cbo.ListIndex = 0;
+    window.Server_Chk.Value = 1;
+    Click(&LV_Frm::Map_Chk, 1);
+    EXPECT_EQ(window.Map_Chk.Value, 1);
+    EXPECT_EQ(window.Server_Chk.Value, 0);
+}
+
+TEST_F(LvEvents, GameSpyDisablesTheViewOfTheLaunchFilesAndTheirCreationAlone) {
+    window.Server_Chk.Value = 1;
+    Click(&LV_Frm::LaunchQspy_Chk, 1);
+    EXPECT_EQ(window.Server_Chk.Value, 0);
+    EXPECT_EQ(Stored(kOptions, "LaunchQSpy"), "1");
+    EXPECT_TRUE(window.DoIt_Cmd[0].Enabled);
+    EXPECT_FALSE(window.DoIt_Cmd[1].Enabled);
+    EXPECT_FALSE(window.DoIt_Cmd[2].Enabled);
+}
+
+TEST_F(LvEvents, WithoutGameSpyTheLaunchFilesCanBeViewedAgain) {
+    Click(&LV_Frm::LaunchQspy_Chk, 1);
+    Click(&LV_Frm::LaunchQspy_Chk, 0);
+    EXPECT_EQ(Stored(kOptions, "LaunchQSpy"), "0");
+    EXPECT_TRUE(window.DoIt_Cmd[1].Enabled);
+    EXPECT_TRUE(window.DoIt_Cmd[2].Enabled);
+}
+
+TEST_F(LvEvents, AServerClearsGameSpyAndBringsTheButtonsBack) {
+    Click(&LV_Frm::LaunchQspy_Chk, 1);
+    Click(&LV_Frm::Server_Chk, 1);
+    EXPECT_EQ(window.LaunchQspy_Chk.Value, 0);
+    EXPECT_TRUE(window.DoIt_Cmd[1].Enabled);
+    EXPECT_TRUE(window.DoIt_Cmd[2].Enabled);
+}
+
+TEST_F(LvEvents, AModificationWithoutASelectedRowSaysSoAndClearsItself) {
+    user.Expect({"Lorvane 3D", "No Modification Subdirectory is selected.", 0, false, true, "&OK"});
+    Click(&LV_Frm::Game_Chk, 1);
+    EXPECT_EQ(window.Game_Chk.Value, 0);
+}
+
+TEST_F(LvEvents, AModificationBringsItsDirectoryScriptsAndMaps) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_EQ(run.CurrentGameDir, "ID1");
+    Select(window.Game_Cbo, "Capture the Flag");
+    Click(&LV_Frm::Game_Chk, 1);
+    EXPECT_EQ(run.CurrentGameDir, "CTF");
+    EXPECT_EQ(window.PlayerScript_Pan.Caption, "Player Script - (Capture the Flag)");
+    EXPECT_TRUE(window.Script_Cbo.Selected().ends_with("c:\\quake\\ctf\\flag.cfg"));
+    EXPECT_EQ(window.Map_Cbo.Items, (std::vector<Text>{"CTF1", "START"}));
+    EXPECT_EQ(Stored(kOptions, "UseGames"), "1");
+}
+
+TEST_F(LvEvents, WithoutTheModificationTheBaseDirectoryIsBack) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Select(window.Game_Cbo, "Capture the Flag");
+    Click(&LV_Frm::Game_Chk, 1);
+    Click(&LV_Frm::Game_Chk, 0);
+    EXPECT_EQ(run.CurrentGameDir, "ID1");
+    EXPECT_EQ(window.PlayerScript_Pan.Caption, "Player Script");
+    EXPECT_TRUE(window.Script_Cbo.Selected().ends_with("c:\\quake\\id1\\my.cfg"));
+    EXPECT_EQ(window.Map_Cbo.Items, (std::vector<Text>{"START"}));
+    EXPECT_EQ(Stored(kOptions, "UseGames"), "0");
+}
+
+TEST_F(LvEvents, PickingAModificationFollowsOnlyATickedBox) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Select(window.Game_Cbo, "Capture the Flag");
+    Game_Cbo_Click(launcher);
+    EXPECT_EQ(run.CurrentGameDir, "ID1");
+    EXPECT_EQ(Stored(kOptions, "GamesPos"), std::to_string(window.Game_Cbo.ListIndex));
+    Click(&LV_Frm::Game_Chk, 1);
+    Select(window.Game_Cbo, "Base");
+    Game_Cbo_Click(launcher);
+    EXPECT_EQ(run.CurrentGameDir, "ID1");
+    EXPECT_EQ(window.Map_Cbo.Items.front(), "START");
+}
+
+TEST_F(LvEvents, TheCheckOfTheOldModificationIsDroppedWhenTheKindChanges) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::Game_Chk, 1);
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    EXPECT_EQ(window.Game_Chk.Value, 0);
+    EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
+}
+
+TEST_F(LvEvents, AModificationThatAChangeOfKindDroppedStaysDropped) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(&LV_Frm::Game_Chk, 1);
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    EXPECT_EQ(window.Game_Chk.Value, 0);
+    EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
+    EXPECT_EQ(Stored(kOptions, "UseGames"), "0");
+}
+
+TEST_F(LvEvents, AQuakeWorldPlayerTicksAModification) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\QWCL.EXE");
+    Select(window.Game_Cbo, "Capture the Flag");
+    Game_Cbo_Click(launcher);
+    Click(&LV_Frm::Game_Chk, 1);
+    EXPECT_TRUE(window.Game_Chk.Enabled);
+    EXPECT_EQ(window.Game_Chk.Value, 1);
+    EXPECT_EQ(run.CurrentGameDir, "CTF");
+}
+
+TEST_F(LvEvents, TheCheckOfTheModificationStaysWhenTheKindIsTheSame) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Select(window.Game_Cbo, "Capture the Flag");
+    Game_Cbo_Click(launcher);
+    Click(&LV_Frm::Game_Chk, 1);
+    PickExe("C:\\QUAKE\\QUAKE.EXE");
+    EXPECT_EQ(window.Game_Chk.Value, 1);
+    EXPECT_EQ(run.CurrentGameDir, "CTF");
+}
+
+TEST_F(LvEvents, ASecondPickOfTheSameRowRunsEverythingAgain) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\maps\\later.bsp");
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_EQ(window.Map_Cbo.Items, (std::vector<Text>{"START", "LATER"}));
+}
+
+TEST_F(LvEvents, PickingAGameSavesItsPosition) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    EXPECT_EQ(Stored(kOptions, "ExecutablesPos"), "3");
+    EXPECT_EQ(run.GameKind, 3);
+}
+
+TEST_F(LvEvents, AChangeOfGameLoadsTheProfileIntoAClosedWindow) {
+    AddGames();
+    Load();
+    run.VideoProfileSection = "Fresh";
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
+    EXPECT_EQ(Stored("Fresh", "Q2_ResolutionsPos_Content"), "640x480");
+    EXPECT_EQ(launcher.VideoProfile.Caption, "Video Profile - 'Fresh'");
+}
+
+TEST_F(LvEvents, AProfileThatIsBrokenEndsTheChangeOfGame) {
+    AddGames();
+    Load();
+    Save(run, kOptions, "Bits", "short");
+    user.Expect({"Lorvane 3D", " experienced a probable registry error."});
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_TRUE(run.Ended);
+}
+
+TEST_F(LvEvents, GameSpyIsOutOfReachForHalfLifeAndHeretic2) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_TRUE(window.LaunchQspy_Chk.Enabled);
+    PickExe("C:\\HL\\HL.EXE");
+    EXPECT_FALSE(window.LaunchQspy_Chk.Enabled);
+}
+
+TEST_F(LvEvents, EachModificationRemembersItsOwnScript) {
+    AddGames();
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\other.cfg");
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Select(window.Script_Cbo, "other.cfg");
+    Script_Cbo_Click(launcher);
+    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_TRUE(window.Script_Cbo.Selected().ends_with("c:\\quake\\id1\\other.cfg"));
+}
+
+TEST_F(LvEvents, PickingInTheListsSavesTheirPositions) {
+    window.Mem_Cbo.ListIndex = 3;
+    Mem_Cbo_Click(launcher);
+    window.Demo_Cbo.ListIndex = 4;
+    Demo_Cbo_Click(launcher);
+    window.Server_Cbo.ListIndex = 5;
+    Server_Cbo_Click(launcher);
+    EXPECT_EQ(Stored(kOptions, "MemoryPos"), "3");
+    EXPECT_EQ(Stored(kOptions, "DemoPos"), "4");
+    EXPECT_EQ(Stored(kOptions, "ServerPos"), "5");
+}
+
+TEST_F(LvEvents, TheCommandLineAdditionsAreSavedAtEachChange) {
+    window.CommandLineAdditions_Txt.Text = "+developer 1";
+    CommandLineAdditions_Txt_Change(launcher);
+    EXPECT_EQ(Stored(kOptions, "CustomCommandLineText"), "+developer 1");
+}
+
+TEST_F(LvEvents, ListenWarnsOnceAboutHalfLifesConsole) {
+    run.GameKind = 9;
+    user.Expect({"Half-Life Console Warning", "Click the button to launch the listen server.", 0, true});
+    Click(&LV_Frm::Listen_Chk, 1);
+    EXPECT_EQ(Stored("ShowMessage", "HL_Listen_Server"), "0");
+    Click(&LV_Frm::Listen_Chk, 0);
+    Click(&LV_Frm::Listen_Chk, 1);
+}
+
+TEST_F(LvEvents, TheBenchmarkOfHalfLifeNeedsADemo) {
+    run.GameKind = 9;
+    run.DefaultGameDirectory = "C:\\HL";
+    system.Disk.AddDirectory("C:\\HL\\valve");
+    system.Disk.AddFile("C:\\LORVANE\\hl1.dem", "a demo");
+    user.Expect({"Half-Life TimeDemo Warning", "Half-Life does not ship a demo file to run a timedemo.", 0, true});
+    user.Expect({"Half-Life TimeDemo Warning", "Click the button to run the timedemo.", 0, true});
+    Click(&LV_Frm::Bench_Chk, 1);
+    EXPECT_EQ(system.Disk.Bytes("C:\\HL\\valve\\1.dem"), "a demo");
+    EXPECT_EQ(Stored("ShowMessage", "HL_TimeDemo_2"), "0");
+    EXPECT_EQ(Stored("ShowMessage", "HL_TimeDemo"), "0");
+}
+
+TEST_F(LvEvents, NoWarningComesForOtherGames) {
+    run.GameKind = 1;
+    Click(&LV_Frm::Listen_Chk, 1);
+    Click(&LV_Frm::Bench_Chk, 1);
+    EXPECT_TRUE(user.Asked.empty());
+}
+
+}  // namespace
+}  // namespace lv
