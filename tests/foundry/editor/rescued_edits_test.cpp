@@ -248,6 +248,8 @@ TEST_F(RescuedEdits, AreNoPartOfWhatIsTypedBehindThem) {
 
 TEST_F(RescuedEdits, ThatAreWhatTheScriptOnDiskSaysAreNone) {
     OpenAndLoad(kQuakeDialect, "bind w +forward\n");
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);  // from here on it says all that a script of the program's says
     EndAndTakeUp();
     EXPECT_TRUE(form.Document.ScriptClean);
     EXPECT_FALSE(form.Undo_Cmd.Enabled);
