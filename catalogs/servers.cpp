@@ -2,6 +2,7 @@
 
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
+#include "foundation/game_numbers.h"
 #include "foundation/numbers.h"
 
 namespace lv {
@@ -27,7 +28,7 @@ TextView ServerTypeName(Index type) {
 }
 
 Index WantedServerType(const Run& run) {
-    const bool plainQuake = run.GameKind == 1 && !run.IsQuakeWorld;
+    const bool plainQuake = run.GameKind == game_kind::kQuake && !run.IsQuakeWorld;
     return plainQuake ? Index{0} : run.GameKind;
 }
 

@@ -41,7 +41,7 @@ constexpr int kTabHeight = 39;
 constexpr int kScrollStep = 10;
 constexpr int kPageFrames = 4;     // gaps beside a page: those of two notebooks
 constexpr int kPageRows = 17;      // of labels, that a page has room for
-constexpr int kLeastPageRows = 5;  // that it shows of them on a small screen, and scrolls
+constexpr int kLeastPageRows = 7;  // that it shows of them on a small screen, and scrolls
 constexpr int kSpokenAtOnce = 32;
 
 // The letter behind the "&" of a caption; 0 without one.

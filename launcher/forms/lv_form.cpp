@@ -9,6 +9,7 @@
 #include "launcher/forms/main_menu.h"
 #include "launcher/window/hint.h"
 #include "launcher/window/window_life.h"
+#include "platform/menu_room.h"
 
 namespace lv {
 
@@ -30,6 +31,9 @@ LvForm::LvForm(Launcher& launcher, WxUser& user, SplashForm* splash)
     SetName("LV_Frm");
     SetIcons(ProgramIcon());
     SetMenuBar(MakeMenuBar(launcher_.Window));
+    if (GetMenuBar()->GetBestSize().x > RoomInside(*this).x) {
+        LetMenusScroll(GetMenuBar()->GetHandle());
+    }
     panels_ = new LvPanels(this, launcher_, binder_);
     launcher_.Measure = [this] { return MeasureWindow(); };
     GiveWhatsThis(this);

@@ -4,6 +4,7 @@
 #include "catalogs/map_scan.h"
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
+#include "foundation/game_numbers.h"
 #include "foundation/link_question.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
@@ -38,7 +39,7 @@ void Game_Chk_Click(Launcher& launcher) {
 }
 
 void Listen_Chk_Click(Launcher& launcher) {
-    if (launcher.Window.Listen_Chk.Value != 1 || launcher.run.GameKind != 9) {
+    if (launcher.Window.Listen_Chk.Value != 1 || launcher.run.GameKind != game_kind::kHalfLife) {
         return;
     }
     AskUserUnlessTold(launcher.run, "HL_Listen_Server", "Half-Life Console Warning",
@@ -50,7 +51,7 @@ void Listen_Chk_Click(Launcher& launcher) {
 
 void Bench_Chk_Click(Launcher& launcher) {
     Run& run = launcher.run;
-    if (launcher.Window.Bench_Chk.Value != 1 || run.GameKind != 9) {
+    if (launcher.Window.Bench_Chk.Value != 1 || run.GameKind != game_kind::kHalfLife) {
         return;
     }
     const Text demo = Join(run.DefaultGameDirectory, "\\valve\\1.dem");
@@ -146,7 +147,7 @@ void Exe_Cbo_Click(Launcher& launcher) {
     if (run.Ended) {
         return;
     }
-    window.LaunchQspy_Chk.Enabled = run.GameKind != 9 && run.GameKind != 6;
+    window.LaunchQspy_Chk.Enabled = run.GameKind != game_kind::kHalfLife && run.GameKind != game_kind::kHeretic2;
     if (run.GameKind != 0) {
         ApplyModification(launcher);
     }

@@ -1,5 +1,7 @@
 #include "launcher/window/option_rules.h"
 
+#include "foundation/game_numbers.h"
+
 namespace lv {
 
 namespace {
@@ -146,7 +148,7 @@ const std::vector<CheckBox LV_Frm::*>& ExcludedBy(CheckBox LV_Frm::*box) {
 
 void ApplyGamePanels(LV_Frm& window, const PanelGame& game) {
     ApplyWorldClient(window, game.IsQuakeWorld || game.IsHexenWorld);
-    if (game.GameKind == 4) {
+    if (game.GameKind == game_kind::kUnreal) {
         ApplyUnreal(window);
     } else {
         ApplyOtherGame(window, game);

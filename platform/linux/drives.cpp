@@ -158,6 +158,9 @@ Error MakeFirstDrives(const DriveDirectories& directories) {
     }
     Error told = ErrorOf(number);
     told.Text += ": " + FromUtf8Lossy(directories.drives.string());
+    if (fs::is_symlink(directories.drives, failed)) {
+        told.Text += " is a link to what is not there. Make that directory, or remove the link.";
+    }
     return told;
 }
 

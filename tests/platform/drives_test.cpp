@@ -74,7 +74,9 @@ TEST(MakeFirstDrives, NamesALinkThatLeadsNowhereNow) {
     fs::create_symlink("gone", home.Data / "drives");
     const Error failed = MakeFirstDrives(home.Directories);
     EXPECT_EQ(failed.Number, 76);
-    EXPECT_TRUE(failed.Text.ends_with(": " + (home.Data / "drives").string())) << failed.Text;
+    EXPECT_TRUE(failed.Text.ends_with(": " + (home.Data / "drives").string() +
+                                      " is a link to what is not there. Make that directory, or remove the link."))
+        << failed.Text;
     EXPECT_EQ(fs::read_symlink(home.Data / "drives"), "gone");
 }
 

@@ -107,11 +107,11 @@ TEST(Drives, WithABrokenZAreMendedAtTheStart) {
 }
 
 TEST(Drives, ThatCannotBeMadeAreTold) {
-    ProgramHome home("drives_a_file");
+    ProgramHome home("drives_nowhere");
     home.Prepare();
     const fs::path drives = home.Root / "data/lorvane3d/drives";
     fs::remove_all(drives);
-    std::ofstream(drives) << "somebody's notes";
+    fs::create_symlink("gone", drives);
     ProgramRun program(home);
     const std::string box = program.WaitForDialog(kPlainTitle);
     EXPECT_THAT(program.TextOfBox(box), HasSubstr(drives.string()));

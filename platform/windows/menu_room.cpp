@@ -1,0 +1,8 @@
+#include "platform/menu_room.h"
+
+namespace lv {
+
+// Windows breaks a bar of menus into lines.
+void LetMenusScroll(void*) {}
+
+}  // namespace lv
