@@ -62,6 +62,14 @@ CellLabel::CellLabel(wxWindow* parent, const wxString& name, Look look, CellGrou
     Create(parent, wxID_ANY, wxDefaultPosition, wxSize(1, 1), wxWANTS_CHARS | wxBORDER_NONE | wxFULL_REPAINT_ON_RESIZE,
            name);
     Bind(wxEVT_PAINT, [this](wxPaintEvent&) { Paint(); });
+    Bind(wxEVT_DPI_CHANGED, [this](wxDPIChangedEvent& event) {
+        event.Skip();
+        measured_ = {};
+    });
+    Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
+        event.Skip();
+        measured_ = {};
+    });
     if (group_ == nullptr) {
         return;
     }
@@ -141,6 +149,19 @@ bool CellLabel::ShowState() {
 }
 
 // A page has a hundred labels and more: a text is measured once, and an empty one not at all.
+void CellLabel::Measure() {
+    if (measured_.Font.IsOk() && measured_.Caption == shown_.Caption && measured_.Bold == shown_.Bold &&
+        measured_.Small == shown_.Small) {
+        return;
+    }
+    const wxFont plain = GetFont();
+    const wxFont font = shown_.Bold ? plain.Bold() : shown_.Small ? plain.Smaller() : plain;
+    const wxString text = shown_.Centered ? ToWx(Trim(shown_.Caption)) : ToWx(shown_.Caption);
+    measured_ = {shown_.Caption, shown_.Bold, shown_.Small, font, text, {}};
+    GetTextExtent(text, &measured_.Extent.x, &measured_.Extent.y, nullptr, nullptr, &font);
+    fitted_ = {};
+}
+
 void CellLabel::PaintText(wxDC& canvas) {
     if (Trim(shown_.Caption).empty()) {
         return;
@@ -148,12 +169,12 @@ void CellLabel::PaintText(wxDC& canvas) {
     const wxSize size = GetClientSize();
     const int margin = FromDIP(kLeftMargin);
     const int room = size.x - (shown_.Centered ? 2 : margin + 2);
-    canvas.SetFont(shown_.Bold ? GetFont().Bold() : shown_.Small ? GetFont().Smaller() : GetFont());
+    Measure();
+    canvas.SetFont(measured_.Font);
     if (fitted_.Room != room || fitted_.Caption != shown_.Caption) {
-        const wxString text = shown_.Centered ? ToWx(Trim(shown_.Caption)) : ToWx(shown_.Caption);
-        fitted_ = {room, shown_.Caption, text, canvas.GetTextExtent(text)};
+        fitted_ = {room, shown_.Caption, measured_.Drawn, measured_.Extent};
         if (fitted_.Extent.x > room) {
-            fitted_.Drawn = wxControl::Ellipsize(text, canvas, wxELLIPSIZE_END, room);
+            fitted_.Drawn = wxControl::Ellipsize(measured_.Drawn, canvas, wxELLIPSIZE_END, room);
             fitted_.Extent = canvas.GetTextExtent(fitted_.Drawn);
         }
     }

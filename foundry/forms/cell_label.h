@@ -48,6 +48,9 @@ class CellLabel : public wxWindow {
     void SetSpeaker(std::function<Text()> speaker) { speaker_ = std::move(speaker); }
     void Speak();
 
+    /// Ahead of the first time that it is painted, which it shortens.
+    void Measure();
+
     bool AcceptsFocus() const override { return group_ != nullptr && IsShown(); }
     bool AcceptsFocusFromKeyboard() const override;
     void SetFocus() override;
@@ -55,6 +58,15 @@ class CellLabel : public wxWindow {
     [[nodiscard]] const CellLook& Shown() const { return shown_; }
 
   private:
+    struct Measured {
+        Text Caption;
+        bool Bold = false;
+        bool Small = false;
+        wxFont Font;
+        wxString Drawn;
+        wxSize Extent;
+    };
+
     /// The caption as far as there is room for it.
     struct Fitted {
         int Room = -1;
@@ -71,6 +83,7 @@ class CellLabel : public wxWindow {
     CellGroup* group_;
     CellLook shown_;
     bool fresh_ = true;
+    Measured measured_;
     Fitted fitted_;
     std::function<Text()> speaker_;
     Text spoken_;

@@ -451,6 +451,7 @@ void FigForm::SpeakAnew() {
 bool FigForm::SpeakSome() {
     for (int i = 0; i < kSpokenAtOnce && !unspoken_.empty(); ++i) {
         unspoken_.back()->Speak();
+        unspoken_.back()->Measure();
         unspoken_.pop_back();
     }
     return !unspoken_.empty();
