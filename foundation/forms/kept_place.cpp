@@ -11,6 +11,10 @@ KeptPlace::KeptPlace(wxTopLevelWindow& window, WindowPlacement& placement) : win
             Keep();
         }
     });
+    window_.Bind(wxEVT_SHOW, [this](wxShowEvent& event) {
+        event.Skip();
+        wasShown_ = true;
+    });
     window_.Bind(wxEVT_MOVE, [this](wxMoveEvent& event) {
         event.Skip();
         if (kept_ && !window_.IsIconized() && !window_.IsMaximized() && window_.IsShown()) {
@@ -31,8 +35,8 @@ void KeptPlace::Put() {
         window_.Maximize();
     }
     // One of its controls got the keyboard before, and nothing will tell of it again. A hidden one that was shown once
-    // still counts as active.
-    if (window_.IsShown() && window_.IsActive()) {
+    // may still count as active.
+    if ((window_.IsShown() || !wasShown_) && window_.IsActive()) {
         Keep();
     }
 }

@@ -31,6 +31,7 @@ class KeptPlace {
     wxPoint place_;
     bool put_ = false;
     bool kept_ = false;
+    bool wasShown_ = false;
 };
 
 }  // namespace lv

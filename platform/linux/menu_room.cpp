@@ -7,8 +7,8 @@ namespace lv {
 namespace {
 
 // GtkPolicyType.
-constexpr int kAutomatic = 1;
 constexpr int kNever = 2;
+constexpr int kNoBar = 3;
 
 struct Functions {
     using OfWidget = void (*)(void*);
@@ -34,7 +34,7 @@ struct Functions {
 
 }  // namespace
 
-// The bar thinly shown over its lower edge, under the mouse, takes no room.
+// The wheel scrolls it; a scroll bar would take more room than the menus have.
 void LetMenusScroll(void* bar) {
     const Functions toolkit;
     void* const box = bar != nullptr && toolkit.All() ? toolkit.Parent(bar) : nullptr;
@@ -42,7 +42,7 @@ void LetMenusScroll(void* bar) {
         return;
     }
     void* const scrolled = toolkit.NewScrolled(nullptr, nullptr);
-    toolkit.SetPolicy(scrolled, kAutomatic, kNever);
+    toolkit.SetPolicy(scrolled, kNoBar, kNever);
     toolkit.Reference(bar);
     toolkit.Remove(box, bar);
     toolkit.Add(scrolled, bar);

@@ -63,17 +63,12 @@ TEST_F(FigWhatsThis, ARightClickOnAListShowsTheBubbleAndNoRows) {
     });
 }
 
-TEST_F(FigWhatsThis, TheArrowOfAListWithAFieldTellsAndTheFieldsOpenTheirMenu) {
+TEST_F(FigWhatsThis, TheArrowOfAListWithAFieldTells) {
     Use(kGames[0], "");
     Edit([] {
         const ToldHelp told;
         const wxRect list = Find("fov_Cbo")->GetScreenRect();
         RightClickAt(wxPoint(list.GetRight() - kArrow, list.y + list.height / 2));
-        EXPECT_EQ(told.Names, std::vector<std::string>{"fov_Cbo"});
-        RightClickOn(Find("Find_Txt"));
-        PressKey(WXK_ESCAPE);
-        RightClickOn(Find("Name_Txt"));
-        PressKey(WXK_ESCAPE);
         EXPECT_EQ(told.Names, std::vector<std::string>{"fov_Cbo"});
     });
 }
