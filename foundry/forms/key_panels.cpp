@@ -247,7 +247,8 @@ bool KeyPanels::ShowState() {
         keyboard_->Show(keyboard);
         controller_->Show(!keyboard);
         if (had) {
-            FirstOf(keyboard)->SetFocus();
+            // Behind the press, which may give the pressed button the keyboard once more.
+            CallAfter([this] { FirstOf(parts_.Model.Keyboard_Fra.Front)->SetFocus(); });
         }
     }
     return changed;

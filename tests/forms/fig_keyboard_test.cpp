@@ -84,21 +84,6 @@ TEST_F(FigKeyboard, TabGoesToTheKeysOfTheController) {
     });
 }
 
-TEST_F(FigKeyboard, GoesToThePanelThatComesUp) {
-    Use(kQuake, "");
-    Edit([this] {
-        TurnBindings(BindingsPage::Standard);
-        Find("Key_Lbl(5)")->SetFocus();
-        Settle();
-        PressKey('J', wxMOD_ALT);
-        EXPECT_TRUE(CameTo("Device_Cbo"));
-        PressKey(WXK_TAB);
-        EXPECT_TRUE(CameTo("Key_Lbl(98)"));
-        PressKey('K', wxMOD_ALT);
-        EXPECT_TRUE(CameTo("Key_Lbl(0)"));
-    });
-}
-
 TEST_F(FigKeyboard, UndoInTheFindBoxLeavesTheScriptAlone) {
     Use(kQuake, "bind w +forward\n");
     Edit([this] {
