@@ -6,8 +6,8 @@
 
 namespace lv {
 
-/// `bar` is the toolkit's native handle of a window's bar of menus, which stands in the window. The bar scrolls from now
-/// on where the window leaves it too little room, instead of keeping the window wide.
-void LetMenusScroll(void* bar);
+/// `bar` is the toolkit's native handle of a window's bar of menus, which stands in the window. Where it is wider
+/// than `room`, in the toolkit's pixels, it scrolls from now on instead of keeping the window wide.
+void LetMenusScroll(void* bar, int room);
 
 }  // namespace lv

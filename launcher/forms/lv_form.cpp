@@ -31,9 +31,7 @@ LvForm::LvForm(Launcher& launcher, WxUser& user, SplashForm* splash)
     SetName("LV_Frm");
     SetIcons(ProgramIcon());
     SetMenuBar(MakeMenuBar(launcher_.Window));
-    if (GetMenuBar()->GetBestSize().x > RoomInside(*this).x) {
-        LetMenusScroll(GetMenuBar()->GetHandle());
-    }
+    LetMenusScroll(GetMenuBar()->GetHandle(), RoomInside(*this).x);
     panels_ = new LvPanels(this, launcher_, binder_);
     launcher_.Measure = [this] { return MeasureWindow(); };
     GiveWhatsThis(this);

@@ -14,6 +14,8 @@ struct Functions {
     using OfWidget = void (*)(void*);
     using OfTwo = void (*)(void*, void*);
 
+    void (*PreferredWidth)(void*, int*,
+                           int*) = ToolkitFunction<void (*)(void*, int*, int*)>("gtk_widget_get_preferred_width");
     void* (*Parent)(void*) = ToolkitFunction<void* (*)(void*)>("gtk_widget_get_parent");
     void* (*Reference)(void*) = ToolkitFunction<void* (*)(void*)>("g_object_ref");
     OfWidget Unreference = ToolkitFunction<OfWidget>("g_object_unref");
@@ -27,18 +29,23 @@ struct Functions {
     OfWidget Show = ToolkitFunction<OfWidget>("gtk_widget_show_all");
 
     [[nodiscard]] bool All() const {
-        return Parent && Reference && Unreference && Remove && Add && NewScrolled && SetPolicy && Pack && Reorder &&
-               Show;
+        return PreferredWidth && Parent && Reference && Unreference && Remove && Add && NewScrolled && SetPolicy &&
+               Pack && Reorder && Show;
     }
 };
 
 }  // namespace
 
 // The wheel scrolls it; a scroll bar would take more room than the menus have.
-void LetMenusScroll(void* bar) {
+void LetMenusScroll(void* bar, int room) {
     const Functions toolkit;
     void* const box = bar != nullptr && toolkit.All() ? toolkit.Parent(bar) : nullptr;
     if (box == nullptr) {
+        return;
+    }
+    int wanted = 0;
+    toolkit.PreferredWidth(bar, nullptr, &wanted);
+    if (wanted <= room) {
         return;
     }
     void* const scrolled = toolkit.NewScrolled(nullptr, nullptr);

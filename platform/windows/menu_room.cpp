@@ -3,6 +3,6 @@
 namespace lv {
 
 // Windows breaks a bar of menus into lines.
-void LetMenusScroll(void*) {}
+void LetMenusScroll(void*, int) {}
 
 }  // namespace lv

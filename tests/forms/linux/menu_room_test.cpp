@@ -36,7 +36,7 @@ class ManyMenus : public ::testing::Test {
 }  // namespace
 
 TEST_F(ManyMenus, ScrollInANarrowWindowAndAllOpenByTheirKeys) {
-    LetMenusScroll(frame->GetMenuBar()->GetHandle());
+    LetMenusScroll(frame->GetMenuBar()->GetHandle(), 400);
     frame->Show();
     frame->SetClientSize(400, 200);
     EXPECT_TRUE(SettleUntil([this] { return std::abs(frame->GetClientSize().x - 400) <= 2; })) << frame->GetSize().x;
