@@ -19,7 +19,7 @@
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundation/window_services.h"
-#include "foundry/forms/fig_form.h"
+#include "foundry/forms/foundry_forms.h"
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
 #include "gamespy/forms/game_spy_form.h"

@@ -2,13 +2,9 @@
 
 #include <wx/button.h>
 #include <wx/display.h>
-#include <wx/settings.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <algorithm>
-
-#include "foundation/forms/help_bubble.h"
 #include "foundation/forms/help_key.h"
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/screen_fit.h"
@@ -16,16 +12,10 @@
 #include "foundation/forms/wx_text.h"
 #include "foundation/screen_fit.h"
 #include "foundation/settings.h"
-#include "foundry/editor/bindings_page.h"
 #include "foundry/editor/find_text.h"
 #include "foundry/editor/lifecycle.h"
-#include "foundry/editor/settings_pages.h"
-#include "foundry/forms/editor_dialogs.h"
-#include "foundry/forms/main_pages.h"
-#include "foundry/forms/phun_names_form.h"
-#include "foundry/forms/row_pages.h"
-#include "foundry/forms/scrolled_page.h"
-#include "foundry/forms/settings_forms.h"
+#include "foundry/forms/editor_room.h"
+#include "foundry/forms/editor_tabs.h"
 #include "platform/scroll_bars.h"
 #include "platform/warm_up.h"
 
@@ -34,80 +24,8 @@ namespace lv {
 namespace {
 
 constexpr int kFindLetters = 30;
-constexpr int kFrameRoom = 40;     // of the screen's height, left for the frame
-constexpr int kUsualWidth = 1000;  // at 100 %: what a screen of 1024 by 768 has room for
-constexpr int kUsualHeight = 686;
-constexpr int kTabHeight = 39;
 constexpr int kScrollStep = 10;
-constexpr int kPageFrames = 4;     // gaps beside a page: those of two notebooks
-constexpr int kPageRows = 17;      // of labels, that a page has room for
-constexpr int kLeastPageRows = 7;  // that it shows of them on a small screen, and scrolls
 constexpr int kSpokenAtOnce = 32;
-
-// The letter behind the "&" of a caption; 0 without one.
-char AccessKeyOf(TextView caption) {
-    const std::size_t mark = caption.find('&');
-    const bool has = mark != TextView::npos && mark + 1 < caption.size() && caption[mark + 1] != '&';
-    return has ? UpperCase(caption[mark + 1]) : '\0';
-}
-
-/// The page that the access key leads to; -1 if none does.
-int PageOfAccessKey(const TabSet& tabs, int code) {
-    for (std::size_t page = 0; page < tabs.Pages.size(); ++page) {
-        const TabPage& tab = tabs[page];
-        if (tab.Visible && tab.Enabled && AccessKeyOf(tab.Caption) == code) {
-            return static_cast<int>(page);
-        }
-    }
-    return -1;
-}
-
-// All pages count as shown, those behind the others too.
-bool IsOnTop(const wxWindow* window) {
-    for (const wxWindow* parent = window->GetParent(); parent != nullptr;
-         window = parent, parent = window->GetParent()) {
-        const auto* tabs = dynamic_cast<const wxNotebook*>(parent);
-        if (tabs != nullptr && tabs->GetCurrentPage() != window) {
-            return false;
-        }
-    }
-    return true;
-}
-
-/// A page that is not among the tabs belongs to the window all the same, but hangs in nothing.
-bool IsInTabs(const wxWindow* window) {
-    for (const wxWindow* parent = window->GetParent(); parent != nullptr;
-         window = parent, parent = window->GetParent()) {
-        const auto* tabs = dynamic_cast<const wxNotebook*>(parent);
-        if (tabs != nullptr && tabs->FindPage(window) == wxNOT_FOUND) {
-            return false;
-        }
-    }
-    return true;
-}
-
-/// What comes or goes in the page moves the rest of it, and the end of what can be scrolled.
-void LayOut(wxWindow* page) {
-    if (auto* scrolled = dynamic_cast<ScrolledPage*>(page->GetParent())) {
-        page->InvalidateBestSize();
-        if (scrolled->Fill()) {
-            return;
-        }
-    }
-    page->Layout();
-}
-
-bool HasFocusInside(const wxWindow* window) {
-    wxWindow* const focus = wxWindow::FindFocus();
-    return focus != nullptr && (focus == window || window->IsDescendant(focus));
-}
-
-template <std::size_t Count>
-struct Named {
-    const char* Names[Count];
-};
-
-constexpr Named<5> kMainPages = {{"Player_Page", "Bindings_Page", "Aliases_Page", "FreeForm_Page", "Save_Page"}};
 
 }  // namespace
 
@@ -123,6 +41,7 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
                  Finished();
              }),
       hand_(parts_),
+      pages_(parts_),
       place_(*this, model.Placement),
       saveTimer_(this) {
     SetName("Fig_Frm");
@@ -145,10 +64,12 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
     content_->SetSizer(scrolled);
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeFindRow(), wxSizerFlags().Expand().Border(wxALL, kPageGap / 2));
-    rows->Add(MakeMainTab(), wxSizerFlags(1).Expand());
+    tabs_ = MakeEditorTabs(inside_, parts_, pages_);
+    rows->Add(tabs_, wxSizerFlags(1).Expand());
     keys_ = new KeyPanels(inside_, parts_);
     rows->Add(keys_, wxSizerFlags().Expand().Border(wxTOP, kPageGap / 2));
     inside_->SetSizer(rows);
+    press_ = std::make_unique<EditorKeys>(*this, parts_, hand_, *keys_);
     hint_ = parts_.MakeLabel(this, "Hint_Lbl", model_.Hint_Lbl);
     auto* all = new wxBoxSizer(wxVERTICAL);
     all->Add(content_, wxSizerFlags(1).Expand());
@@ -157,16 +78,15 @@ FigForm::FigForm(wxWindow* owner, Fig_Frm& model, WxUser& user)
     BindEvents();
     ShowState();
     GiveWhatsThis(this);
-    FitToScreen();  // in the few pixels of a new window there is no room for what is warmed up
+    Fit();  // in the few pixels of a new window there is no room for what is warmed up
     WarmUp(GetHandle());
     WarmUp(keys_->GetHandle());
-    cold_ = pages_;
-    cold_.insert(cold_.end(), keys_->GetChildren().begin(), keys_->GetChildren().end());
+    pages_.WarmUpLater(keys_->GetChildren());
 }
 
 int FigForm::ShowModal() {
     ShowState();
-    FitToScreen();
+    Fit();
     PlaceOnScreen();
     user_.OnRefresh(this, [this] { ShowState(); });
     return wxDialog::ShowModal();
@@ -198,103 +118,17 @@ wxSizer* FigForm::MakeFindRow() {
     return row;
 }
 
-wxWindow* FigForm::AddLate(wxWindow* parent, std::function<void(wxPanel*)> make) {
-    auto* page = new ScrolledPage(parent);
-    page->Bind(wxEVT_SIZE, [this, page](wxSizeEvent& event) {
-        event.Skip();
-        if (IsOnTop(page)) {
-            page->Fill();
-        } else {
-            stale_.insert(page->Content());
-        }
-    });
-    pages_.push_back(page->Content());
-    late_.emplace_back(page, [page, make = std::move(make)] { make(page->Content()); });
-    return page;
-}
-
-wxPanel* FigForm::AddPage(wxWindow* parent) {
-    auto* page = new wxPanel(parent);
-    page->SetSize(RoomToBegin());
-    pages_.push_back(page);
-    return page;
-}
-
-wxNotebook* FigForm::MakeTab(wxWindow* parent) {
-    auto* tab = new wxNotebook(parent, wxID_ANY);
-    tab->SetSize(RoomToBegin());
-    return tab;
-}
-
-// GTK complains of tabs without room for their captions, though they are to get it the next moment.
-wxSize FigForm::RoomToBegin() const {
-    return FromDIP(wxSize(kUsualWidth, kUsualHeight));
-}
-
-wxWindow* FigForm::MakePlayerPage(wxNotebook* tabs) {
-    wxPanel* const page = AddPage(tabs);
-    auto* rows = new wxBoxSizer(wxVERTICAL);
-    MakeNameRow(parts_, page, rows);
-    wxNotebook* const options = MakeTab(page);
-    std::vector<wxWindow*> pages;
-    for (int which = 0; which < static_cast<int>(model_.Document.Options_Tab.Pages.size()); ++which) {
-        pages.push_back(AddLate(options, [this, which](wxPanel* made) { MakeOptionsPage(parts_, made, which); }));
-    }
-    parts_.Controls.Bind("Options_Tab", model_.Document.Options_Tab, options, pages,
-                         [this](int which) { Options_Tab_Click(model_, which); });
-    rows->Add(options, wxSizerFlags(1).Expand().Border(wxALL, kPageGap / 2));
-    page->SetSizer(rows);
-    return page;
-}
-
-wxWindow* FigForm::MakeBindingsTabs(wxNotebook* tabs) {
-    wxPanel* const page = AddPage(tabs);
-    wxNotebook* const bindings = MakeTab(page);
-    std::vector<wxWindow*> pages;
-    for (int which = 0; which < static_cast<int>(model_.Bindings_Tab.Pages.size()); ++which) {
-        pages.push_back(AddLate(bindings, [this, which](wxPanel* made) {
-            MakeBindingsPage(parts_, made, static_cast<BindingsPage>(which));
-        }));
-    }
-    parts_.Controls.Bind("Bindings_Tab", model_.Bindings_Tab, bindings, pages,
-                         [this](int which) { Bindings_Tab_Click(model_, which); });
-    auto* rows = new wxBoxSizer(wxVERTICAL);
-    rows->Add(bindings, wxSizerFlags(1).Expand().Border(wxALL, kPageGap / 2));
-    page->SetSizer(rows);
-    return page;
-}
-
-wxNotebook* FigForm::MakeMainTab() {
-    tabs_ = MakeTab(inside_);
-    wxNotebook* const tabs = tabs_;
-    std::vector<wxWindow*> pages = {MakePlayerPage(tabs), MakeBindingsTabs(tabs),
-                                    AddLate(tabs, [this](wxPanel* made) { MakeAliasPage(parts_, made); }),
-                                    AddLate(tabs, [this](wxPanel* made) { MakeFreeFormPage(parts_, made); }),
-                                    AddLate(tabs, [this](wxPanel* made) { MakeSavePage(parts_, made); })};
-    for (std::size_t i = 0; i < pages.size(); ++i) {
-        pages[i]->SetName(kMainPages.Names[i]);
-    }
-    tabs->SetMinSize(wxSize(-1, TabsHeight(kPageRows)));
-    parts_.Controls.Bind("Main_Tab", model_.Main_Tab, tabs, pages, [this](int page) { Main_Tab_Click(model_, page); });
-    return tabs;
-}
-
-// With the tabs of two notebooks above the rows.
-int FigForm::TabsHeight(int rows) {
-    return rows * (parts_.RowHeight(this) + kCellGap) + 2 * FromDIP(kTabHeight) + 3 * kPageGap;
-}
-
 void FigForm::BindEvents() {
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) { parts_.Controls.Run([this] { Fig_Frm_Unload(model_); }); });
-    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { PressKey(event); });
+    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { press_->Press(event); });
     Bind(
         wxEVT_TIMER, [this](wxTimerEvent&) { parts_.Controls.Run([this] { Save_Tmr_Timer(model_); }); },
         saveTimer_.GetId());
     Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
         event.Skip();
         if (!place_.IsPut()) {
-            PrepareOnePage();
-        } else if (painted_ && (parts_.Controls.FillOne() || MakeOnePage() || WarmUpOne() || SpeakSome())) {
+            Make([this] { return pages_.PrepareOne(); });
+        } else if (painted_ && (parts_.Controls.FillOne() || MakeOnePage() || pages_.WarmUpOne() || SpeakSome())) {
             event.RequestMore();
         }
     });
@@ -322,116 +156,18 @@ void FigForm::KeepSize() {
     }
 }
 
-void FigForm::PressKey(wxKeyEvent& event) {
-    if (hand_.TakeKey(event) || PressShortcut(event) || PressAccessKey(event) || PressOnLabel(event)) {
-        return;
+bool FigForm::Make(const std::function<bool()>& make) {
+    showing_ = true;
+    const bool made = make();
+    showing_ = false;
+    if (made) {
+        SpeakAnew();
     }
-    if (event.GetKeyCode() != WXK_ESCAPE) {
-        event.Skip();
-    }
-}
-
-// The tabs' own: those of the page that is seen come before those of all pages.
-bool FigForm::PressAccessKey(const wxKeyEvent& event) {
-    if (event.GetModifiers() != wxMOD_ALT) {
-        return false;
-    }
-    const int code = event.GetKeyCode();
-    const auto main = static_cast<EditorPage>(model_.Main_Tab.Tab);
-    if (const int page = PageOfAccessKey(model_.Bindings_Tab, code); main == EditorPage::Bindings && page >= 0) {
-        parts_.Controls.Run([&] { Bindings_Tab_Click(model_, page); });
-        return true;
-    }
-    const int options = PageOfAccessKey(model_.Document.Options_Tab, code);
-    if (main == EditorPage::Player && options >= 0) {
-        parts_.Controls.Run([&] { Options_Tab_Click(model_, options); });
-        return true;
-    }
-    if (const int page = PageOfAccessKey(model_.Main_Tab, code); page >= 0) {
-        parts_.Controls.Run([&] { Main_Tab_Click(model_, page); });
-        return true;
-    }
-    return false;
-}
-
-bool FigForm::PressShortcut(const wxKeyEvent& event) {
-    const bool control = event.GetModifiers() == wxMOD_CONTROL;
-    const bool both = event.GetModifiers() == (wxMOD_CONTROL | wxMOD_SHIFT);
-    const int code = event.GetKeyCode();
-    const bool undoes = event.ControlDown() && (code == 'Z' || code == 'Y');
-    if (undoes && HasFocusInside(FindWindow("Find_Txt"))) {
-        return false;  // what is looked for is no edit of the script: the field has its own
-    }
-    if (control && code == 'Z') {
-        parts_.Controls.Run([this] { Undo_Cmd_Click(model_); });
-    } else if ((control && code == 'Y') || (both && code == 'Z')) {
-        parts_.Controls.Run([this] { Redo_Cmd_Click(model_); });
-    } else if (control && code == 'S') {
-        parts_.Controls.Run([this] { View_Cmd_Click(model_, 6); });
-    } else if (control && code == 'F') {
-        FindWindow("Find_Txt")->SetFocus();
-    } else if (code == WXK_F3 && !event.HasAnyModifiers()) {
-        parts_.Controls.Run([this] { FindNext_Cmd_Click(model_); });
-    } else if (code == WXK_F1 && event.GetModifiers() == wxMOD_SHIFT) {
-        TellOfFocus(this);
-    } else if (code == WXK_F1 && !event.HasAnyModifiers()) {
-        parts_.Controls.Run([this] { OpenHelpFile(model_.run); });
-    } else {
-        return false;
-    }
-    return true;
-}
-
-// What the keyboard does to the row or key that has it.
-bool FigForm::PressOnLabel(wxKeyEvent& event) {
-    const auto* label = dynamic_cast<CellLabel*>(FindFocus());
-    if (label == nullptr) {
-        return false;
-    }
-    const int code = event.GetKeyCode();
-    const auto row = std::ranges::find_if(parts_.SettingLabels, [&](const auto& each) { return each.second == label; });
-    if (row != parts_.SettingLabels.end()) {
-        const SlotNumber slot = row->first;
-        if (code == WXK_RETURN || code == WXK_NUMPAD_ENTER) {
-            parts_.Controls.Run([&] { StartCapture(model_, slot); });
-        } else if (code == WXK_SPACE) {
-            parts_.Controls.Run([&] { Bound_Lbl_MouseUp(model_, slot, false); });
-        } else if (code == WXK_DELETE && event.ShiftDown()) {
-            parts_.Controls.Run([&] { Bound_Lbl_MouseUp(model_, slot, true); });
-        } else if (code == WXK_DELETE) {
-            parts_.Controls.Run([&] { ClearRow(model_, slot); });
-        } else {
-            return false;
-        }
-        return true;
-    }
-    const auto key = std::ranges::find_if(parts_.KeyLabels, [&](const auto& each) { return each.second == label; });
-    if (key == parts_.KeyLabels.end()) {
-        return false;
-    }
-    const Index index = key->first;
-    if (code == WXK_RETURN || code == WXK_NUMPAD_ENTER || code == WXK_SPACE) {
-        parts_.Controls.Run([&] { PickUpKey(model_, index); });
-    } else if (code == WXK_DELETE) {
-        parts_.Controls.Run([&] { Key_Lbl_DblClick(model_, index); });
-    } else {
-        return false;
-    }
-    return true;
+    return made;
 }
 
 bool FigForm::MakeOnePage() {
-    const auto page = std::ranges::find_if(late_, [](LatePage& late) { return late.Make(); });
-    if (page == late_.end()) {
-        return false;
-    }
-    showing_ = true;
-    parts_.Controls.Show();
-    showing_ = false;
-    LayOut(page->Page()->GetChildren().front());
-    GiveWhatsThis(page->Page());
-    SpeakAnew();
-    return true;
+    return Make([this] { return pages_.MakeOne(); });
 }
 
 void FigForm::SpeakAnew() {
@@ -457,40 +193,8 @@ bool FigForm::SpeakSome() {
     return !unspoken_.empty();
 }
 
-// In idle moments, a few milliseconds each: a page that is turned to comes up with all that can be had before.
-bool FigForm::WarmUpOne() {
-    if (cold_.empty()) {
-        return false;
-    }
-    if (IsInTabs(cold_.back())) {
-        WarmUpPart(cold_.back()->GetHandle());
-    }
-    cold_.pop_back();
-    return true;
-}
-
-// One at a time, for the splash has dots to draw. There is nothing yet to fill lists with.
-void FigForm::PrepareOnePage() {
-    const auto page = std::ranges::find_if(late_, [](LatePage& late) { return !late.IsMade(); });
-    if (page != late_.end() && MakeOnePage()) {
-        WarmUp(page->Page()->GetHandle());
-    }
-}
-
 void FigForm::MakeAllPages() {
     while (MakeOnePage() || parts_.Controls.FillOne()) {
-    }
-}
-
-void FigForm::MakeShownPages() {
-    for (LatePage& late : late_) {
-        if (IsOnTop(late.Page()) && late.Make()) {
-            parts_.Controls.Show();
-            LayOut(late.Page()->GetChildren().front());
-            if (place_.IsPut()) {
-                GiveWhatsThis(late.Page());
-            }
-        }
     }
 }
 
@@ -505,7 +209,7 @@ void FigForm::ShowState() {
     wxWindow* const before = FindFocus();
     const bool finding = before != nullptr && before->GetName() == "Find_Txt";
     const bool changed = parts_.Controls.Show();
-    MakeShownPages();
+    pages_.MakeShown(place_.IsPut());
     const bool moved = keys_->ShowState();
     hand_.ShowState();
     if (changed || moved) {
@@ -515,9 +219,9 @@ void FigForm::ShowState() {
     }
     SpeakAnew();
     if (changed) {
-        stale_.insert(pages_.begin(), pages_.end());
+        pages_.LayOutLater();
     }
-    LayOutPages();
+    pages_.LayOutShown();
     if (model_.Save_Tmr_Enabled && !saveTimer_.IsRunning()) {
         saveTimer_.Start(kSaveTimerMilliseconds);
     } else if (!model_.Save_Tmr_Enabled && saveTimer_.IsRunning()) {
@@ -568,69 +272,8 @@ void FigForm::PlaceOnScreen() {
     }
 }
 
-// Those behind the others wait until they are turned to.
-void FigForm::LayOutPages() {
-    std::erase_if(stale_, [](wxWindow* page) {
-        if (IsOnTop(page)) {
-            LayOut(page);
-            return true;
-        }
-        return false;
-    });
-}
-
-wxSize FigForm::WantedSize() {
-    wxSize wanted = inside_->GetSizer()->CalcMin();
-    if (!keys_->IsShown()) {
-        const wxSize keys = keys_->GetBestSize();
-        wanted = wxSize(std::max(wanted.x, keys.x), wanted.y + keys.y + kPageGap / 2);
-    }
-    return wanted;
-}
-
-// What scrolls asks for no room of its own.
-int FigForm::PagesWidth() {
-    int width = 0;
-    for (const wxWindow* page : pages_) {
-        width = std::max(width, page->GetBestSize().x);
-    }
-    return width + kPageFrames * kPageGap;
-}
-
-// On a small screen the pages give of their height, and scroll, so that rows and keys are seen together. What even that
-// leaves too large scrolls as a whole.
-void FigForm::FitToScreen() {
-    wxSize room =
-        wxDisplay(GetParent() != nullptr ? GetParent() : static_cast<wxWindow*>(this)).GetClientArea().GetSize();
-    const int below = hint_->GetBestSize().y + kPageGap / 2;
-    room.y -= FromDIP(kFrameRoom) + below;
-    const int bar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, content_);
-    const int height = TabsHeight(kPageRows);
-    tabs_->SetMinSize(wxSize(-1, height));
-    wxSize wanted = WantedSize();
-    const int over = wanted.y + (wanted.x > room.x ? bar : 0) - room.y;
-    const int given = std::clamp(over, 0, height - TabsHeight(kLeastPageRows));
-    tabs_->SetMinSize(wxSize(-1, height - given));
-    wanted.y -= given;
-    const wxSize usual = FromDIP(wxSize(kUsualWidth, kUsualHeight));
-    wanted.IncTo(wxSize(std::min(std::max(usual.x, PagesWidth()), room.x), std::min(usual.y, room.y)));
-    content_->SetVirtualSize(wanted);
-    const ShownContent shown = ShowInRoom(wanted.x, wanted.y, room.x, room.y, bar);
-    SetClientSize(shown.Width, shown.Height + below);
-}
-
-WxUser::FormMaker MakeFoundryForms(WxUser& user) {
-    return [&user](wxWindow* owner, ModalWindow& window) -> std::unique_ptr<wxDialog> {
-        if (auto* editor = dynamic_cast<Fig_Frm*>(&window)) {
-            return std::make_unique<FigForm>(owner, *editor, user);
-        }
-        auto* names = dynamic_cast<PhunNames_Frm*>(&window);
-        auto* over = dynamic_cast<FigForm*>(owner);
-        if (names != nullptr && over != nullptr) {
-            return std::make_unique<PhunNamesForm>(owner, over->Model(), [over] { over->ShowState(); });
-        }
-        return MakeEditorDialog(owner, window);
-    };
+void FigForm::Fit() {
+    FitToScreen({*this, *content_, *inside_, *tabs_, *keys_, *hint_, parts_, pages_});
 }
 
 }  // namespace lv

@@ -9,14 +9,17 @@
 #include <wx/scrolwin.h>
 #include <wx/timer.h>
 
-#include <set>
+#include <functional>
+#include <memory>
 #include <vector>
 
 #include "foundation/forms/kept_place.h"
 #include "foundation/forms/wx_user.h"
+#include "foundry/forms/editor_keys.h"
 #include "foundry/forms/fig_parts.h"
 #include "foundry/forms/key_hand.h"
 #include "foundry/forms/key_panels.h"
+#include "foundry/forms/late_pages.h"
 
 namespace lv {
 
@@ -36,30 +39,14 @@ class FigForm : public wxDialog {
 
   private:
     wxSizer* MakeFindRow();
-    wxNotebook* MakeMainTab();
-    wxNotebook* MakeTab(wxWindow* parent);
-    wxPanel* AddPage(wxWindow* parent);
-    [[nodiscard]] wxSize RoomToBegin() const;
-    wxWindow* MakePlayerPage(wxNotebook* tabs);
-    wxWindow* MakeBindingsTabs(wxNotebook* tabs);
-    wxWindow* AddLate(wxWindow* parent, std::function<void(wxPanel*)> make);
     void BindEvents();
-    void PressKey(wxKeyEvent& event);
-    bool PressOnLabel(wxKeyEvent& event);
-    bool PressShortcut(const wxKeyEvent& event);
-    bool PressAccessKey(const wxKeyEvent& event);
-    void MakeShownPages();
+    /// What `make` says; nothing is shown anew in between.
+    bool Make(const std::function<bool()>& make);
     bool MakeOnePage();
-    bool WarmUpOne();
-    void PrepareOnePage();
     void LeadToFound();
     void SpeakAnew();
     bool SpeakSome();
-    void FitToScreen();
-    wxSize WantedSize();
-    int PagesWidth();
-    int TabsHeight(int rows);
-    void LayOutPages();
+    void Fit();
     void PlaceOnScreen();
     void KeepSize();
     void Finished();
@@ -68,23 +55,18 @@ class FigForm : public wxDialog {
     WxUser& user_;
     FigParts parts_;
     KeyHand hand_;
+    LatePages pages_;
     KeptPlace place_;
     wxScrolledWindow* content_ = nullptr;
     wxPanel* inside_ = nullptr;  // of what scrolls
     wxNotebook* tabs_ = nullptr;
     KeyPanels* keys_ = nullptr;
-    std::vector<wxWindow*> pages_;  // those that lay out controls that come and go
-    std::set<wxWindow*> stale_;     // those of them that are to be laid out
-    std::vector<LatePage> late_;
-    std::vector<wxWindow*> cold_;       // what has not been seen, and can be warmed up
+    std::unique_ptr<EditorKeys> press_;
     wxWindow* hint_ = nullptr;          // below all that scrolls, in sight whatever row waits for a key
     std::vector<CellLabel*> unspoken_;  // whose names may be old
     wxTimer saveTimer_;                 // Save_Tmr
     bool showing_ = false;
     bool painted_ = false;  // has been seen
 };
-
-/// The form of Fig_Frm and of its dialogs, for a user interface's makers.
-WxUser::FormMaker MakeFoundryForms(WxUser& user);
 
 }  // namespace lv

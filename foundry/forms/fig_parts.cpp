@@ -90,13 +90,4 @@ int FigParts::LetterWidth(const wxWindow* window) {
     return letter_;
 }
 
-bool LatePage::Make() {
-    if (!make_) {
-        return false;
-    }
-    const auto make = std::exchange(make_, nullptr);
-    make();
-    return true;
-}
-
 }  // namespace lv

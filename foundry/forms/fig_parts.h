@@ -65,19 +65,4 @@ struct FigParts {
     int scale_ = 0;
 };
 
-/// A page whose content is made when it is first seen, or when nothing else is to be done.
-class LatePage {
-  public:
-    LatePage(wxWindow* page, std::function<void()> make) : page_(page), make_(std::move(make)) {}
-
-    [[nodiscard]] wxWindow* Page() const { return page_; }
-    [[nodiscard]] bool IsMade() const { return !make_; }
-    /// True if it was made now.
-    bool Make();
-
-  private:
-    wxWindow* page_;
-    std::function<void()> make_;
-};
-
 }  // namespace lv

@@ -254,4 +254,14 @@ bool KeyPanels::ShowState() {
     return changed;
 }
 
+bool KeyPanels::Turn(Index button) {
+    wxWindow* const pressed = FindWindow(wxString::Format("JoyToggle_Cmd(%d)", button));
+    if (!pressed->IsShownOnScreen() || !pressed->IsEnabled()) {
+        return false;
+    }
+    pressed->SetFocus();
+    parts_.Controls.Run([&] { JoyToggle_Cmd_Click(parts_.Model, button); });
+    return true;
+}
+
 }  // namespace lv

@@ -18,6 +18,9 @@ class KeyPanels : public wxPanel {
     /// True if the panels came or went.
     bool ShowState();
 
+    /// Presses a panel's button, JoyToggle_Cmd, and leads into the other panel; false if that button is not seen.
+    bool Turn(Index button);
+
   private:
     wxPanel* MakeKeyboard();
     wxPanel* MakeController();

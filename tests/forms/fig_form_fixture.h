@@ -13,6 +13,7 @@
 #include "foundation/settings.h"
 #include "foundry/editor/setup_foundry.h"
 #include "foundry/forms/fig_form.h"
+#include "foundry/forms/foundry_forms.h"
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
 #include "launcher/forms/lv_form.h"

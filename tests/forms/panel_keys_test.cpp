@@ -1,5 +1,4 @@
-// The access keys of the two panels of keys. On Windows a key of the picture that has the keyboard takes them for
-// itself.
+// The access keys of the two panels of keys, from inside and from outside.
 
 #include "tests/forms/fig_form_fixture.h"
 
@@ -24,6 +23,10 @@ TEST_F(PanelKeys, LeadIntoThePanelThatComesUp) {
         EXPECT_TRUE(CameTo("Key_Lbl(98)"));
         PressKey('K', wxMOD_ALT);
         EXPECT_TRUE(CameTo("Key_Lbl(0)"));
+        Find("Find_Txt")->SetFocus();
+        Settle();
+        PressKey('J', wxMOD_ALT);
+        EXPECT_TRUE(CameTo("Device_Cbo"));
     });
 }
 
