@@ -72,7 +72,7 @@ bool EditorKeys::PressAccessKey(const wxKeyEvent& event) {
         parts_.Controls.Run([&] { Main_Tab_Click(model_, page); });
         return true;
     }
-    for (const int which : {0, 1}) {
+    for (const Index which : {Index{0}, Index{1}}) {
         if (AccessKeyOf(model_.JoyToggle_Cmd[static_cast<std::size_t>(which)].Caption) == code && panels_.Turn(which)) {
             return true;
         }
@@ -109,7 +109,7 @@ bool EditorKeys::PressShortcut(const wxKeyEvent& event) {
 }
 
 // What the keyboard does to the row or key that has it.
-bool EditorKeys::PressOnLabel(wxKeyEvent& event) {
+bool EditorKeys::PressOnLabel(const wxKeyEvent& event) {
     const auto* label = dynamic_cast<CellLabel*>(wxWindow::FindFocus());
     if (label == nullptr) {
         return false;

@@ -8,6 +8,7 @@
 #include "foundry/editor/settings_pages.h"
 #include "foundry/forms/main_pages.h"
 #include "foundry/forms/row_pages.h"
+#include "foundry/forms/settings_forms.h"
 
 namespace lv {
 
