@@ -160,10 +160,11 @@ TEST(Placement, IsTheOneOfTheLastRun) {
     EXPECT_EQ(home.Get("LV_Frm", "Top"), "3750");
     ProgramRun second;
     HWND window = second.WaitForWindow();
-    EXPECT_TRUE(WaitUntil([&] { return PlaceOf(window).left == left.left && PlaceOf(window).top == left.top; }))
-        << PlaceOf(window).left << ", " << PlaceOf(window).top;
-    EXPECT_EQ(PlaceOf(window).right, left.right);
-    EXPECT_EQ(PlaceOf(window).bottom, left.bottom);
+    EXPECT_TRUE(WaitUntil([&] {
+        const RECT place = PlaceOf(window);
+        return EqualRect(&place, &left) != FALSE;
+    })) << PlaceOf(window).left
+        << ", " << PlaceOf(window).top << ", " << PlaceOf(window).right << ", " << PlaceOf(window).bottom;
 }
 
 TEST(Placement, DoesNotWanderFromRunToRun) {
