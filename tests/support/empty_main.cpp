@@ -1,0 +1,5 @@
+// A program that does nothing, for what is only linked.
+
+int main() {
+    return 0;
+}
