@@ -21,7 +21,7 @@ namespace lv {
 namespace {
 
 constexpr double kEnlarged = 1.38;  // the picture's twips were pixels of smaller screens
-constexpr int kLegendLetters = 10;
+constexpr int kLegendLetters = 9;
 constexpr std::uint64_t kMostPictureBytes = 4'000'000;
 constexpr int kMostPicturePixels = 4000;  // both ways
 constexpr std::size_t kBmpHeader = 34;    // up to the compression
