@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
 #include "foundation/link_question.h"
+#include "foundation/padded_item.h"
 #include "foundation/path_fault.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"

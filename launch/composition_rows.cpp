@@ -3,6 +3,7 @@
 #include <iterator>
 
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "launch/switch_rules.h"
 
 namespace lv {
@@ -119,7 +120,7 @@ Text DemoCommand(const Composition& c) {
     return *c.Selected.Demo;
 }
 Text ResolutionPayload(const Composition& c) {
-    return Trim(DropLeft(c.Profile.ResolutionsPos_Content, NameFieldWidth));
+    return ItemValue(c.Profile.ResolutionsPos_Content);
 }
 Text Q2Mode(const Composition& c) {
     return std::to_string(c.Profile.Q2_ResolutionsPos);

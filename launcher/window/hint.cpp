@@ -1,14 +1,11 @@
 #include "launcher/window/hint.h"
 
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 
 namespace lv {
 
 namespace {
-
-Text TitleOf(const ListBox& list) {
-    return Trim(TextView(list.Items[static_cast<std::size_t>(list.ListIndex)]).substr(0, NameFieldWidth));
-}
 
 bool Counts(const CheckBox& box, const ListBox& list) {
     return box.Value == 1 && list.HasSelection();
@@ -33,13 +30,13 @@ Text HintText(const Launcher& launcher) {
     }
     Text hint = Join("F2 starts ", program);
     if (Counts(window.Game_Chk, window.Game_Cbo)) {
-        hint += Join(", ", TitleOf(window.Game_Cbo));
+        hint += Join(", ", ItemTitle(window.Game_Cbo.Selected()));
     }
     if (Counts(window.Script_Chk, window.Script_Cbo)) {
-        hint += Join(", with ", TitleOf(window.Script_Cbo));
+        hint += Join(", with ", ItemTitle(window.Script_Cbo.Selected()));
     }
     if (Counts(window.Server_Chk, window.Server_Cbo)) {
-        hint += Join(", on ", TitleOf(window.Server_Cbo));
+        hint += Join(", on ", ItemTitle(window.Server_Cbo.Selected()));
     }
     if (Counts(window.Map_Chk, window.Map_Cbo)) {
         hint += Join(", at ", window.Map_Cbo.Selected());

@@ -6,6 +6,7 @@
 #include "foundation/game_numbers.h"
 #include "foundation/link_question.h"
 #include "foundation/numbers.h"
+#include "foundation/padded_item.h"
 #include "foundation/path_fault.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
@@ -308,7 +309,7 @@ void GiveUp(Click& click, const Error& failed) {
 }
 
 std::optional<Text> Payload(const ListBox& list) {
-    return list.HasSelection() ? std::optional(Trim(DropLeft(list.Selected(), NameFieldWidth))) : std::nullopt;
+    return list.HasSelection() ? std::optional(ItemValue(list.Selected())) : std::nullopt;
 }
 
 }  // namespace

@@ -2,10 +2,11 @@
 
 #include "catalogs/game_identification.h"
 #include "catalogs/map_scan.h"
+#include "catalogs/modifications.h"
 #include "catalogs/scripts.h"
-#include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
 #include "foundation/link_question.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "launcher/window/option_rules.h"
@@ -125,8 +126,8 @@ void ApplyModification(Launcher& launcher) {
     LV_Frm& window = launcher.Window;
     if (window.Game_Chk.Value == 1 && window.Game_Cbo.HasSelection()) {
         const Text row = window.Game_Cbo.Selected();
-        run.CurrentGameDir = Trim(DropLeft(row, NameFieldWidth + 6));
-        window.PlayerScript_Pan.Caption = Join("Player Script - (", Trim(TextView(row).substr(0, NameFieldWidth)), ")");
+        run.CurrentGameDir = DirectoryOfOption(ItemValue(row));
+        window.PlayerScript_Pan.Caption = Join("Player Script - (", ItemTitle(row), ")");
     } else {
         run.CurrentGameDir = run.BaseGameDir;
         window.PlayerScript_Pan.Caption = "Player Script";
@@ -169,7 +170,7 @@ void Script_Cbo_Click(Launcher& launcher) {
         return;
     }
     // Each game directory and modification remembers its own script.
-    Save(run, "DefaultScript", DefaultScriptKey(run), DropLeft(launcher.Window.Script_Cbo.Selected(), NameFieldWidth));
+    Save(run, "DefaultScript", DefaultScriptKey(run), StoredItemValue(launcher.Window.Script_Cbo.Selected()));
 }
 
 void Mem_Cbo_Click(Launcher& launcher) {

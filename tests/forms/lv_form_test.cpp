@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/settings.h"
 #include "launcher/start/main_window_load.h"
 #include "launcher/window/lv_events.h"
@@ -177,7 +177,7 @@ TEST_F(LvForm_, ALongRowShowsInFullAsAToolTip) {
     launcher.Window.Demo_Cbo.ListIndex = 0;
     user.Refresh();
     EXPECT_EQ(Find("Demo_Cbo")->GetToolTipText(), wxString(title));
-    launcher.Window.Demo_Cbo.Items = {PadToWidth("None", 100) + "playdemo nodemo.dem"};
+    launcher.Window.Demo_Cbo.Items = {MakeItem("None", "playdemo nodemo.dem")};
     user.Refresh();
     EXPECT_EQ(Find("Demo_Cbo")->GetToolTipText(), "");
 }

@@ -43,7 +43,7 @@ class UnrealOptions : public LauncherTest {
     void PickScript(TextView path) {
         const auto& items = window.Script_Cbo.Items;
         for (std::size_t i = 0; i < items.size(); ++i) {
-            if (SameText(items[i].substr(NameFieldWidth), path)) {
+            if (SameText(items[i].substr(100), path)) {
                 window.Script_Cbo.ListIndex = static_cast<int>(i);
                 return;
             }
