@@ -49,16 +49,11 @@ void Tell(Run& run, TextView text) {
     AskUser(run, "", text);
 }
 
-Text FiveDigits(int number) {
-    Text digits = std::to_string(number);
-    return Text(digits.size() < 5 ? 5 - digits.size() : 0, '0') + digits;
-}
-
 void ReportError(Click& click, const Error& failed) {
     Run& run = click.run;
-    Text report = Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error Code = EC",
-                       FiveDigits(click.Texts.LaunchStep), NewLine, "Error String = ", failed.Text, NewLine,
-                       "Curreny System Directory = ", run.System.Disk.CurrentDirectory(), NewLine,
+    Text report = Join("Error Number = ", std::to_string(failed.Number), NewLine,
+                       "Error Code = ", ShownStep(click.Texts.LaunchStep), NewLine, "Error String = ", failed.Text,
+                       NewLine, "Curreny System Directory = ", run.System.Disk.CurrentDirectory(), NewLine,
                        "Default Game Directory = ", run.DefaultGameDirectory, NewLine,
                        "Current Command Line = ", click.Texts.GameCommand);
     if (!click.FailureFile.empty()) {
@@ -69,7 +64,7 @@ void ReportError(Click& click, const Error& failed) {
 
 bool ExecutableIsThere(Click& click) {
     Run& run = click.run;
-    click.Texts.LaunchStep = 20;
+    click.Texts.LaunchStep = LaunchStep::Executable;
     if (!click.launcher.Window.Exe_Cbo.HasSelection()) {
         Tell(run, "No executable is selected.");
         return false;
@@ -135,7 +130,6 @@ void DeleteScript(Click& click) {
 bool WriteScript(Click& click) {
     Files& disk = click.run.System.Disk;
     const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
-    click.Texts.LaunchStep = 205;
     AddCommandLineAdditions(click.Selection, click.Texts);
     click.Script = ScriptText(click.Texts, click.Game);
     if (click.Script.empty() || click.Game.GameKind == game_kind::kUnreal || !hasDirectory) {
@@ -155,7 +149,7 @@ bool WriteScript(Click& click) {
 }
 
 bool WriteBatch(Click& click) {
-    click.Texts.LaunchStep = 230;
+    click.Texts.LaunchStep = LaunchStep::LaunchBatch;
     click.Batch = BatchText(EnvironmentLines(click.Game, click.Profile), click.Selection.ShowSet_Chk,
                             ExeDriveOf(click.Selection), click.Game.DefaultGameDirectory, click.Texts, click.Game);
     if (click.Game.DefaultGameDirectory.empty()) {
@@ -169,7 +163,7 @@ bool WriteBatch(Click& click) {
         return false;
     }
     click.FailureFile.clear();
-    click.Texts.LaunchStep = 240;
+    click.Texts.LaunchStep = LaunchStep::LaunchBatchWritten;
     return true;
 }
 
@@ -184,12 +178,12 @@ Text ViewText(const Click& click) {
 bool ViewOrGoOn(Click& click) {
     Run& run = click.run;
     int answer = 0;
-    click.Texts.LaunchStep = 470;
+    click.Texts.LaunchStep = LaunchStep::View;
     if (click.Mode == LaunchMode::View) {
         answer = AskUserFixedWidth(run, "Viewing Commands", ViewText(click),
                                    "&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!");
     }
-    click.Texts.LaunchStep = 480;
+    click.Texts.LaunchStep = LaunchStep::Clipboard;
     if (answer == 1) {
         if (const Error failed = run.System.Clip.SetText(ViewText(click))) {
             ReportError(click, failed);
@@ -261,7 +255,6 @@ void LeaveForGameSpy(Launcher& launcher, MinimizeLorvane choice) {
 void ConfigureInstead(Click& click, GameSpyConfig_Frm& form) {
     Run& run = click.run;
     const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
-    click.Texts.LaunchStep = 205;
     AddCommandLineAdditions(click.Selection, click.Texts);
     DeleteScript(click);
     if (hasDirectory) {

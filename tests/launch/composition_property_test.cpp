@@ -325,7 +325,8 @@ TEST(EveryLaunch, IsWrappedExactlyForPlainQuakeOnline) {
 }
 
 TEST(EveryLaunch, ReachesTheLastStepOfItsComposition) {
-    ForEachLaunch([](const LaunchInput& input, const Finished&) { EXPECT_EQ(input.Compose().LaunchStep, 190); });
+    ForEachLaunch(
+        [](const LaunchInput& input, const Finished&) { EXPECT_EQ(input.Compose().LaunchStep, LaunchStep::StartMap); });
 }
 
 TEST(EveryLaunch, StopsOnlyForADedicatedServer) {
@@ -338,7 +339,7 @@ TEST(EveryLaunch, StopsOnlyForADedicatedServer) {
             ++stops;
             EXPECT_TRUE(input.Selected.Dedicated_Chk);
             EXPECT_EQ(texts.Stop.Kind, StopKind::Message);
-            EXPECT_EQ(texts.LaunchStep, 90);
+            EXPECT_EQ(texts.LaunchStep, LaunchStep::DedicatedServer);
             EXPECT_FALSE(Has(texts.GameCommand, "dedicated"));
         }
     }

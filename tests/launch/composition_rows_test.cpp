@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <vector>
 
 #include "tests/support/launch_input.h"
 
@@ -285,41 +286,57 @@ TEST_P(EachRow, AddsWhatItSays) {
     EXPECT_EQ(texts.QuakeScript, expected.QuakeScript);
     EXPECT_EQ(texts.Quake2Script, expected.Quake2Script);
     EXPECT_FALSE(texts.Stop);
-    EXPECT_EQ(texts.LaunchStep, 190);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::StartMap);
 }
 
 INSTANTIATE_TEST_SUITE_P(Composition, EachRow, testing::ValuesIn(kRowCases),
                          [](const auto& info) { return Text(info.param.Name); });
 
-TEST(CompositionRows, AreNumberedFromOneInTheOrderOfTheirSteps) {
-    int number = 0;
+/// Row 1 is the first of the table.
+int NumberOf(const CompositionRow& row) {
+    return static_cast<int>(&row - CompositionRows().data()) + 1;
+}
+
+TEST(CompositionRows, StandInTheOrderOfTheirSteps) {
     int step = 0;
     for (const CompositionRow& row : CompositionRows()) {
-        EXPECT_EQ(row.Row, ++number);
-        EXPECT_GE(row.Step, step) << row.Row;
-        step = row.Step;
+        EXPECT_GE(static_cast<int>(row.Step), step) << NumberOf(row);
+        step = static_cast<int>(row.Step);
     }
-    EXPECT_EQ(number, 46);
+    EXPECT_EQ(CompositionRows().size(), 46u);
 }
 
 TEST(CompositionRows, HaveTheirSteps) {
-    const int expected[] = {20,  40,  40,  40,  40,  40,  40,  40,  40,  40,  40,  40,  50,  60,  70,  80,
-                            80,  80,  80,  80,  80,  90,  100, 110, 110, 110, 110, 110, 110, 110, 110, 110,
-                            110, 110, 110, 110, 120, 120, 120, 130, 130, 140, 190, 190, 205, 205};
+    const std::vector<int> expected = {20,  40,  40,  40,  40,  40,  40,  40,  40,  40,  40,  40,  50,  60,  70,  80,
+                                       80,  80,  80,  80,  80,  90,  100, 110, 110, 110, 110, 110, 110, 110, 110, 110,
+                                       110, 110, 110, 110, 120, 120, 120, 130, 130, 140, 190, 190, 205, 205};
+    std::vector<int> steps;
     for (const CompositionRow& row : CompositionRows()) {
-        EXPECT_EQ(row.Step, expected[row.Row - 1]) << row.Row;
+        steps.push_back(static_cast<int>(row.Step));
     }
+    EXPECT_EQ(steps, expected);
 }
 
 TEST(CompositionRows, From23To39AreNotForUnreal) {
     for (const CompositionRow& row : CompositionRows()) {
-        EXPECT_EQ(row.Games == CompositionScope::NotUnreal, row.Row >= 23 && row.Row <= 39) << row.Row;
+        const int number = NumberOf(row);
+        EXPECT_EQ(row.Games == CompositionScope::NotUnreal, number >= 23 && number <= 39) << number;
+    }
+}
+
+TEST(CompositionRows, RunOneBeforeTheScriptIsWrittenAndTheLastOnceItHasBeen) {
+    for (const CompositionRow& row : CompositionRows()) {
+        const int number = NumberOf(row);
+        const CompositionTime expected = number == 45   ? CompositionTime::BeforeScript
+                                         : number == 46 ? CompositionTime::ScriptWritten
+                                                        : CompositionTime::Composition;
+        EXPECT_EQ(row.Time, expected) << number;
     }
 }
 
 TEST(CompositionRows, AskOnlyForTunablesThatThereAre) {
     for (const CompositionRow& row : CompositionRows()) {
-        EXPECT_TRUE(row.Tunable == nullptr || FindTunable(row.Tunable) != nullptr) << row.Row;
+        EXPECT_TRUE(row.Tunable == nullptr || FindTunable(row.Tunable) != nullptr) << NumberOf(row);
     }
 }
 

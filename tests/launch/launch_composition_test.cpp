@@ -116,9 +116,9 @@ TEST(ComposeLaunch, ThePrefixHoldsTheWrapper) {
               "qlaunch quakeudp.dll QUAKE.EXE -noipx -noserial -mpath ");
 }
 
-TEST(ComposeLaunch, EndsAtStep190) {
-    EXPECT_EQ(QuakeLaunch().Compose().LaunchStep, 190);
-    EXPECT_EQ(UnrealLaunch().Compose().LaunchStep, 190);
+TEST(ComposeLaunch, EndsAtTheStepOfTheStartMap) {
+    EXPECT_EQ(QuakeLaunch().Compose().LaunchStep, LaunchStep::StartMap);
+    EXPECT_EQ(UnrealLaunch().Compose().LaunchStep, LaunchStep::StartMap);
 }
 
 TEST(AddCommandLineAdditions, StandTrimmedAtTheEndAndRightBehindUnrealsExecutable) {
@@ -130,7 +130,7 @@ TEST(AddCommandLineAdditions, StandTrimmedAtTheEndAndRightBehindUnrealsExecutabl
     AddCommandLineAdditions(input.Selected, texts);
     EXPECT_EQ(texts.UnrealCommand, "UNREAL.EXE -log now -nommx ");
     EXPECT_EQ(texts.GameCommand, "UNREAL.EXE -log now ");
-    EXPECT_EQ(texts.LaunchStep, 205);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::LaunchScript);
 }
 
 TEST(AddCommandLineAdditions, StandBeforeTheServerOfUnreal) {
@@ -162,7 +162,7 @@ TEST(AddCommandLineAdditions, AreLeftOutWhenNotTicked) {
     AddCommandLineAdditions(input.Selected, texts);
     EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 ");
     EXPECT_EQ(texts.UnrealCommand, "GLQUAKE.EXE ");
-    EXPECT_EQ(texts.LaunchStep, 205);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::LaunchScript);
 }
 
 TEST(AddScriptExec, StandsAtTheEndOfTheGamesCommandOnly) {

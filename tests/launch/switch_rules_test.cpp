@@ -141,7 +141,7 @@ TEST(ScriptRule, AFailureOnTheWayToTheRegistryStopsAtItsStep) {
     const LaunchTexts texts = WithScript(input, "C:\\HL\\VALVE\\my.cfg");
     EXPECT_EQ(texts.Stop.Kind, StopKind::Error);
     EXPECT_EQ(texts.Stop.Fault.Number, 70);
-    EXPECT_EQ(texts.LaunchStep, 80);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::PlayerScript);
     EXPECT_EQ(texts.Quake2Script, "");
 }
 
@@ -156,7 +156,7 @@ TEST(DedicatedRule, GlquakeIsRefused) {
     EXPECT_EQ(texts.Stop.Message,
               "The '-dedicated' parameter causes a fat GPF when used with glqauke.exe.\r\n\r\n"
               "Besides, there is no reason for a dedicated server to run GL. Please use quake.exe, or winquake.exe.");
-    EXPECT_EQ(texts.LaunchStep, 90);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::DedicatedServer);
     EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 ");
 }
 
@@ -304,7 +304,7 @@ TEST(GameSpyServerRule, NoAnswerStopsWithoutAWord) {
         const LaunchTexts texts = Fetched(QuakeLaunch(), answer);
         EXPECT_EQ(texts.Stop.Kind, StopKind::Silent);
         EXPECT_EQ(texts.Stop.Message, "");
-        EXPECT_EQ(texts.LaunchStep, 140);
+        EXPECT_EQ(texts.LaunchStep, LaunchStep::GameSpyServer);
         EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 ");
     }
 }
@@ -348,7 +348,7 @@ TEST(UnrealIniRule, AFailureStopsAtItsStepBehindTheSwitches) {
     EXPECT_EQ(texts.Stop.Kind, StopKind::Error);
     EXPECT_EQ(texts.Stop.Fault.Number, 53);
     EXPECT_EQ(texts.Stop.Fault.Text, "File not found");
-    EXPECT_EQ(texts.LaunchStep, 40);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::Switches);
     EXPECT_EQ(texts.UnrealCommand, "UNREAL.EXE -nodsound ");
     EXPECT_EQ(texts.GameCommand, "UNREAL.EXE ");
 }
