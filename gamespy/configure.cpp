@@ -122,9 +122,10 @@ void PutPif(SpyLaunch& launch, const SpyGames& games, std::size_t slot) {
 
 SpyFailure WriteBatches(SpyLaunch& launch, const SpyGames& games) {
     const LaunchTexts& texts = launch.Texts;
-    const SpyBatchParts parts = {launch.EnvironmentLines, DropLeft(texts.GameCommand, texts.PrefixLength),
-                                 DropLeft(texts.UnrealCommand, texts.PrefixLength),
-                                 launch.Selection.Memory_Chk ? launch.Selection.Memory : std::nullopt};
+    const SpyBatchParts parts = {
+        launch.EnvironmentLines, DropLeft(texts.GameCommand, texts.PrefixLength),
+        DropLeft(texts.UnrealCommand, texts.PrefixLength),
+        launch.Selection.Ticked.Has(Option::Memory_Chk) ? launch.Selection.Memory : std::nullopt};
     for (std::size_t slot = 0; slot < kSpySlots; ++slot) {
         if (!games[slot].InUse) {
             continue;

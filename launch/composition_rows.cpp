@@ -21,15 +21,15 @@ bool Never(const Composition&) {
     return false;
 }
 
-template <bool S::*Box>
+template <Option Box>
 bool Ticked(const Composition& c) {
-    return c.Selected.*Box;
+    return c.Selected.Ticked.Has(Box);
 }
 
 /// Ticked, and a row of its list selected.
-template <bool S::*Box, std::optional<Text> S::*Row>
+template <Option Box, std::optional<Text> S::*Row>
 bool Chosen(const Composition& c) {
-    return c.Selected.*Box && (c.Selected.*Row).has_value();
+    return c.Selected.Ticked.Has(Box) && (c.Selected.*Row).has_value();
 }
 
 bool IsUnreal(const Composition& c) {
@@ -46,10 +46,11 @@ bool IsNeitherFamily(const Composition& c) {
 }
 
 bool PlainQuakeOnline(const Composition& c) {
-    return (c.Selected.QSpy_Chk || c.Selected.Server_Chk) && Trim(c.Texts.GameCommand) == "QUAKE.EXE";
+    return (c.Selected.Ticked.Has(Option::QSpy_Chk) || c.Selected.Ticked.Has(Option::Server_Chk)) &&
+           Trim(c.Texts.GameCommand) == "QUAKE.EXE";
 }
 
-constexpr auto MapIsChosen = Chosen<&S::Map_Chk, &S::Map>;
+constexpr auto MapIsChosen = Chosen<Option::Map_Chk, &S::Map>;
 bool UnrealMap(const Composition& c) {
     return MapIsChosen(c) && IsUnreal(c);
 }
@@ -65,7 +66,8 @@ bool IsHlExe(const Composition& c) {
 }
 
 bool MemoryIsChosen(const Composition& c) {
-    return IsNeitherFamily(c) && Chosen<&S::Memory_Chk, &S::Memory>(c) && !c.Selected.LaunchQspy_Chk;
+    return IsNeitherFamily(c) && Chosen<Option::Memory_Chk, &S::Memory>(c) &&
+           !c.Selected.Ticked.Has(Option::LaunchQspy_Chk);
 }
 
 bool UsesResolution(const Composition& c) {
@@ -84,7 +86,7 @@ bool WindowedNotUnreal(const Composition& c) {
 }
 
 bool ScriptIsChosen(const Composition& c) {
-    return Chosen<&S::Script_Chk, &S::Script>(c) && !c.Selected.LaunchQspy_Chk;
+    return Chosen<Option::Script_Chk, &S::Script>(c) && !c.Selected.Ticked.Has(Option::LaunchQspy_Chk);
 }
 
 /// A 3D card, and an executable that uses it.
@@ -104,15 +106,16 @@ bool UsesGraphicsDriver(const Composition& c) {
 }
 
 bool ServerIsChosen(const Composition& c) {
-    return !c.Selected.Bench_Chk && Chosen<&S::Server_Chk, &S::Server>(c);
+    return !c.Selected.Ticked.Has(Option::Bench_Chk) && Chosen<Option::Server_Chk, &S::Server>(c);
 }
 
 bool ServerFromGameSpy(const Composition& c) {
-    return !c.Selected.Bench_Chk && c.Selected.QSpy_Chk;
+    return !c.Selected.Ticked.Has(Option::Bench_Chk) && c.Selected.Ticked.Has(Option::QSpy_Chk);
 }
 
 bool Benchmark(const Composition& c) {
-    return c.Selected.Bench_Chk && !c.Selected.QSpy_Chk && !c.Selected.LaunchQspy_Chk && IsNotUnreal(c);
+    return c.Selected.Ticked.Has(Option::Bench_Chk) && !c.Selected.Ticked.Has(Option::QSpy_Chk) &&
+           !c.Selected.Ticked.Has(Option::LaunchQspy_Chk) && IsNotUnreal(c);
 }
 
 Text MapName(const Composition& c) {
@@ -146,27 +149,27 @@ constexpr CompositionRow kRows[] = {
     // step, games, condition, tunable, GameCommand, UnrealCommand, script of Quake, script of Quake II, special, time
     {Step::Executable,      Every, PlainQuakeOnline,                   None, No, No, No, No, WrapQuake},
     {Step::Switches,        Every, UnrealMap,                          None, No, No, No, No, UnrealMapRule},
-    {Step::Switches,        Every, Ticked<&S::UnrealNoDirectSound_Chk>,     None, No, "-nodsound ",  No, No, {}},
-    {Step::Switches,        Every, Ticked<&S::UnrealSimulateFirstRun_Chk>,  None, No, "-firstrun ",  No, No, {}},
-    {Step::Switches,        Every, Ticked<&S::UnrealDisableLogWindow_Chk>,  None, No, "-nologwin ",  No, No, {}},
-    {Step::Switches,        Every, Ticked<&S::UnrealDisableK6Support_Chk>,  None, No, "-nok6 ",      No, No, {}},
-    {Step::Switches,        Every, Ticked<&S::UnrealDisableMMXSupport_Chk>, None, No, "-nommx ",     No, No, {}},
+    {Step::Switches,        Every, Ticked<Option::UnrealNoDirectSound_Chk>,     None, No, "-nodsound ",  No, No, {}},
+    {Step::Switches,        Every, Ticked<Option::UnrealSimulateFirstRun_Chk>,  None, No, "-firstrun ",  No, No, {}},
+    {Step::Switches,        Every, Ticked<Option::UnrealDisableLogWindow_Chk>,  None, No, "-nologwin ",  No, No, {}},
+    {Step::Switches,        Every, Ticked<Option::UnrealDisableK6Support_Chk>,  None, No, "-nok6 ",      No, No, {}},
+    {Step::Switches,        Every, Ticked<Option::UnrealDisableMMXSupport_Chk>, None, No, "-nommx ",     No, No, {}},
     {Step::Switches,        Every, No3dCard,                           None, No, "-nohard ",    No, No, {}},
     {Step::Switches,        Every, IsUnreal,                           None, No, No, No, No, UnrealIniRule},
     {Step::Switches,        Every, IsHlExe,                            None, "-console ",       No, No, No, {}},
     {Step::Switches,        Every, IsNotUnreal,                        None, "-zone 512 ",      No, No, No, {}},
-    {Step::Switches,        Every, Chosen<&S::Game_Chk, &S::Game>,     None, No, No, No, No, ModRule},
+    {Step::Switches,        Every, Chosen<Option::Game_Chk, &S::Game>,     None, No, No, No, No, ModRule},
     {Step::Memory,          Every, MemoryIsChosen,                     None, No, No, No, No, MemoryRule},
     {Step::Resolution,      Every, UsesResolution,                     None, "% ",              No, No, No, ResolutionPayload},
     // Kept out on purpose: a profile holds its bit depth, but no launch ever asks a game for one.
     {Step::BitDepth,        Every, Never,                              None, No, No, No, No, {}},
     {Step::PlayerScript,    Every, WindowedNotUnreal,                  None, "-window ",        No, No, No, {}},
-    {Step::PlayerScript,    Every, Ticked<&S::NOLAN_Chk>,              None, "-nolan ",         No, No, No, {}},
-    {Step::PlayerScript,    Every, Ticked<&S::NOUDP_Chk>,              None, "-noudp ",         No, No, No, {}},
+    {Step::PlayerScript,    Every, Ticked<Option::NOLAN_Chk>,              None, "-nolan ",         No, No, No, {}},
+    {Step::PlayerScript,    Every, Ticked<Option::NOUDP_Chk>,              None, "-noudp ",         No, No, No, {}},
     {Step::PlayerScript,    Every, ScriptIsChosen,                     None, No, No, No, No, ScriptRule},
-    {Step::PlayerScript,    Every, Ticked<&S::NOCDAUDIO_Chk>,          None, Not3("-nocdaudio "), No, No, In3("set cd_nocd 1"), {}},
+    {Step::PlayerScript,    Every, Ticked<Option::NOCDAUDIO_Chk>,          None, Not3("-nocdaudio "), No, No, In3("set cd_nocd 1"), {}},
     {Step::PlayerScript,    Every, GlCard, "GL_ROUND_DOWN", {"+gl_round_down % ", "+GL_ROUND_DOWN % "}, No, No, No, {}},
-    {Step::DedicatedServer, Every, Ticked<&S::Dedicated_Chk>,          None, No, No, No, No, DedicatedRule},
+    {Step::DedicatedServer, Every, Ticked<Option::Dedicated_Chk>,          None, No, No, No, No, DedicatedRule},
 
     {Step::Mouse,           Not4, Windowed, None,                No, No, "_windowed_mouse 1",   "set _windowed_mouse 1",   {}},
     {Step::Drawing,         Not4, GlCard,   "Shadows",           In3("+set gl_shadows % "), No, Not3("r_shadows %"), No,   {}},
@@ -181,12 +184,12 @@ constexpr CompositionRow kRows[] = {
     {Step::Drawing,         Not4, GlCard,   "GL_PLAYERMIP",      No, No, "gl_playermip %",      "set gl_playermip %",      {}},
     {Step::Drawing,         Not4, GlCard,   "GL_PICMIP",         No, No, "gl_picmip %",         "set gl_picmip %",         {}},
     {Step::Drawing,         Not4, Software, "D_MipCap",          No, No, "d_mipcap %",          "set d_mipcap %",          {}},
-    {Step::Drawing,         Not4, Chosen<&S::Demo_Chk, &S::Demo>, None, No, No, "%", "%", DemoCommand},
+    {Step::Drawing,         Not4, Chosen<Option::Demo_Chk, &S::Demo>, None, No, No, "%", "%", DemoCommand},
     {Step::GraphicsDriver,  Not4, UsesQ2Resolution, None, No, No, No, "set sw_mode \"%\"\r\nset gl_mode \"%\"", Q2Mode},
-    {Step::GraphicsDriver,  Not4, Ticked<&S::nosound_chk>, None, In3("+set s_initsound 0 "), No, Not3("nosound 1"), No, {}},
+    {Step::GraphicsDriver,  Not4, Ticked<Option::nosound_chk>, None, In3("+set s_initsound 0 "), No, Not3("nosound 1"), No, {}},
     {Step::GraphicsDriver,  Not4, UsesGraphicsDriver, None, No, No, No, No, GraphicsDriverRule},
 
-    {Step::Server,          Every, Ticked<&S::Listen_Chk>, None, Not3("-listen "), No, No, In3("set deathmatch 1"), {}},
+    {Step::Server,          Every, Ticked<Option::Listen_Chk>, None, Not3("-listen "), No, No, In3("set deathmatch 1"), {}},
     {Step::Server,          Every, ServerIsChosen,         None, No, No, No, No, ServerRule},
     {Step::GameSpyServer,   Every, ServerFromGameSpy,      None, No, No, No, No, GameSpyServerRule},
     {Step::StartMap,        Every, OtherMap,               None, No, No, "map %", "map %", MapName},
@@ -198,7 +201,7 @@ constexpr CompositionRow kRows[] = {
         "viewsize 120\r\n"
         "timedemo 1\r\n"
         "demomap demo1.dm2", {}},
-    {Step::LaunchScript,    Every, Ticked<&S::CommandLineAdditions_Chk>, None, No, No, No, No, AdditionsRule, Time::BeforeScript},
+    {Step::LaunchScript,    Every, Ticked<Option::CommandLineAdditions_Chk>, None, No, No, No, No, AdditionsRule, Time::BeforeScript},
     {Step::LaunchScript,    Every, Always,                 None, "+exec lv_666.qs ", No, No, No, {}, Time::ScriptWritten},
 };
 // clang-format on

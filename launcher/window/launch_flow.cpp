@@ -74,7 +74,7 @@ bool ExecutableIsThere(Click& click) {
         AskUser(run, "Error in executable path", kEmptyExecutable);
         return false;
     }
-    if (click.Selection.LaunchQspy_Chk || run.System.Disk.FileExists(path)) {
+    if (click.Selection.Ticked.Has(Option::LaunchQspy_Chk) || run.System.Disk.FileExists(path)) {
         return true;
     }
     Tell(run, MissingExecutableText(path, "4) Windows incorrectly reported that the file is missing."));
@@ -150,8 +150,9 @@ bool WriteScript(Click& click) {
 
 bool WriteBatch(Click& click) {
     click.Texts.LaunchStep = LaunchStep::LaunchBatch;
-    click.Batch = BatchText(EnvironmentLines(click.Game, click.Profile), click.Selection.ShowSet_Chk,
-                            ExeDriveOf(click.Selection), click.Game.DefaultGameDirectory, click.Texts, click.Game);
+    click.Batch =
+        BatchText(EnvironmentLines(click.Game, click.Profile), click.Selection.Ticked.Has(Option::ShowSet_Chk),
+                  ExeDriveOf(click.Selection), click.Game.DefaultGameDirectory, click.Texts, click.Game);
     if (click.Game.DefaultGameDirectory.empty()) {
         return true;
     }
@@ -238,7 +239,7 @@ void StartGame(Click& click) {
         ReportError(click, failed);
         return;
     }
-    if (click.launcher.Window.EndOnLaunch_Chk.Value == 1) {
+    if (click.launcher.Window.Box(Option::EndOnLaunch_Chk).Value == 1) {
         Exit_Bar_Click(click.launcher);
     }
 }
@@ -308,34 +309,14 @@ std::optional<Text> Payload(const ListBox& list) {
 }  // namespace
 
 LaunchSelection SelectionOf(const LV_Frm& window) {
-    const auto ticked = [](const CheckBox& box) { return box.Value == 1; };
     LaunchSelection selection;
     if (window.Exe_Cbo.HasSelection()) {
         const Text& key = window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Key;
         selection.ExecutablePath = ReplaceSameLength(key, "/", "\\");
     }
-    selection.LaunchQspy_Chk = ticked(window.LaunchQspy_Chk);
-    selection.QSpy_Chk = ticked(window.QSpy_Chk);
-    selection.Server_Chk = ticked(window.Server_Chk);
-    selection.Map_Chk = ticked(window.Map_Chk);
-    selection.Game_Chk = ticked(window.Game_Chk);
-    selection.Memory_Chk = ticked(window.Memory_Chk);
-    selection.NOLAN_Chk = ticked(window.NOLAN_Chk);
-    selection.NOUDP_Chk = ticked(window.NOUDP_Chk);
-    selection.Script_Chk = ticked(window.Script_Chk);
-    selection.NOCDAUDIO_Chk = ticked(window.NOCDAUDIO_Chk);
-    selection.Dedicated_Chk = ticked(window.Dedicated_Chk);
-    selection.Demo_Chk = ticked(window.Demo_Chk);
-    selection.nosound_chk = ticked(window.nosound_chk);
-    selection.Listen_Chk = ticked(window.Listen_Chk);
-    selection.Bench_Chk = ticked(window.Bench_Chk);
-    selection.CommandLineAdditions_Chk = ticked(window.CommandLineAdditions_Chk);
-    selection.ShowSet_Chk = ticked(window.ShowSet_Chk);
-    selection.UnrealSimulateFirstRun_Chk = ticked(window.UnrealSimulateFirstRun_Chk);
-    selection.UnrealDisableLogWindow_Chk = ticked(window.UnrealDisableLogWindow_Chk);
-    selection.UnrealDisableK6Support_Chk = ticked(window.UnrealDisableK6Support_Chk);
-    selection.UnrealDisableMMXSupport_Chk = ticked(window.UnrealDisableMMXSupport_Chk);
-    selection.UnrealNoDirectSound_Chk = ticked(window.UnrealNoDirectSound_Chk);
+    for (const OptionBox& row : OptionBoxes()) {
+        selection.Ticked.Set(row.Box, window.Box(row.Box).Value == 1);
+    }
     selection.Server = Payload(window.Server_Cbo);
     selection.Game = Payload(window.Game_Cbo);
     selection.Memory = Payload(window.Mem_Cbo);
@@ -376,7 +357,7 @@ void DoIt_Cmd_Click(Launcher& launcher, int index) {
                 {}};
     launcher.LaunchUnderWay = true;
     try {
-        if (click.Selection.LaunchQspy_Chk) {
+        if (click.Selection.Ticked.Has(Option::LaunchQspy_Chk)) {
             LaunchThroughGameSpy(click);
         } else {
             LaunchDirectly(click);

@@ -28,11 +28,11 @@ namespace {
 
 void ExpectNothingCutOff(const LvForm& form) {
     const wxRect inside = form.GetScreenRect();
-    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
-        const wxWindow* box = Find(option->Name);
+    for (const OptionBox& option : OptionBoxes()) {
+        const wxWindow* box = Find(option.Name);
         if (box->IsShownOnScreen()) {
-            EXPECT_TRUE(inside.Contains(box->GetScreenRect())) << option->Name;
-            EXPECT_GE(box->GetSize().x, box->GetBestSize().x) << option->Name;
+            EXPECT_TRUE(inside.Contains(box->GetScreenRect())) << option.Name;
+            EXPECT_GE(box->GetSize().x, box->GetBestSize().x) << option.Name;
         }
     }
     for (const char* button : {"DoIt_Cmd(0)", "DoIt_Cmd(1)", "DoIt_Cmd(2)"}) {
