@@ -12,9 +12,9 @@
 #include <chrono>
 
 #include "bench/limit.h"
-#include "catalogs/catalog_store.h"
 #include "catalogs/editors/view_all.h"
 #include "foundation/forms/wx_user.h"
+#include "foundation/padded_item.h"
 #include "launcher/launcher.h"
 #include "platform/memory/memory_platform.h"
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 
@@ -93,18 +94,6 @@ void AppendRecord(Text& list, TextView record) {
         list += ';';
     }
     list += record;
-}
-
-Text MakeItem(TextView title, TextView value) {
-    return PadToWidth(title, NameFieldWidth).append(value);
-}
-
-Text ItemTitle(TextView item) {
-    return Trim(item.substr(0, NameFieldWidth));
-}
-
-Text ItemValue(TextView item) {
-    return Trim(DropLeft(item, NameFieldWidth));
 }
 
 bool SaveCatalog(Run& run, CatalogLists& lists, TextView key, const ListBox& list) {

@@ -1,7 +1,7 @@
 // catalogs/catalog_store.h
 //
 // The six catalogs as they are stored: one text value each, records of a fixed number of fields joined by ";", with
-// no header and no escape. Reading one and checking it, rebuilding it from a list's rows, and the row's own form.
+// no header and no escape. Reading one and checking it, and rebuilding it from a list's rows.
 
 #pragma once
 
@@ -62,11 +62,6 @@ bool StoreCatalog(Run& run, TextView key, TextView value);
 
 /// Adds a record, or a list of them, to a ";"-list.
 void AppendRecord(Text& list, TextView record);
-
-/// A row of a plain list: the title in the first 100 characters, the record's other fields behind it.
-Text MakeItem(TextView title, TextView value);
-Text ItemTitle(TextView item);
-Text ItemValue(TextView item);
 
 /// Rebuilds the value from the list's rows and the hidden records of other games, and saves it. A value that is too
 /// long is refused: the user is told and the old one stays.

@@ -1,6 +1,7 @@
 #include "catalogs/memory_demos.h"
 
 #include "catalogs/catalog_store.h"
+#include "foundation/padded_item.h"
 
 namespace lv {
 

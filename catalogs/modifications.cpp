@@ -6,7 +6,7 @@
 #include "catalogs/list_room.h"
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
-#include "foundation/list_search.h"
+#include "foundation/padded_item.h"
 #include "foundation/settings.h"
 
 namespace lv {
@@ -67,9 +67,7 @@ bool AddRow(Run& run, CatalogLists& lists, TextView directory) {
 }
 
 bool HasRow(const ListBox& list, TextView directory) {
-    bool found = false;
-    FindExact(list.Items, NameFieldWidth + kGameOption.size() + 1, kToTheEnd, directory, found);
-    return found;
+    return FindItemValue(list.Items, directory, kGameOption.size()).has_value();
 }
 
 }  // namespace
@@ -81,6 +79,10 @@ Text ModificationTitle(TextView directory, Index gameKind) {
         }
     }
     return Text(directory);
+}
+
+Text DirectoryOfOption(TextView option) {
+    return Trim(DropLeft(option, kGameOption.size()));
 }
 
 bool FillGamesCombo(Run& run, CatalogLists& lists) {
@@ -97,7 +99,7 @@ bool FillGamesCombo(Run& run, CatalogLists& lists) {
     for (std::size_t i = 0; i < rows->Count(); ++i) {
         const Text& title = rows->Field(i, 0);
         const Text& option = rows->Field(i, 1);
-        const Text directory = Join(run.DefaultGameDirectory, "\\", Trim(DropLeft(option, kGameOption.size())));
+        const Text directory = Join(run.DefaultGameDirectory, "\\", DirectoryOfOption(option));
         if (!IsOfTheOtherGame(Trim(title), run.GameKind) && run.System.Disk.DirectoryExists(directory)) {
             list.Items.push_back(MakeItem(title, option));
         } else {

@@ -17,6 +17,9 @@ constexpr std::size_t kMostScannedEntries = 1000;
 /// The title of a modification by its directory; the directory's own name if it is not a known one.
 Text ModificationTitle(TextView directory, Index gameKind);
 
+/// "ctf", of a row's option text "-game ctf".
+Text DirectoryOfOption(TextView option);
+
 /// Shows the records whose directory exists in the current game's, holds back the others, adds what the scan finds.
 /// False if the program ended. A damaged value clears the list and the run goes on.
 bool FillGamesCombo(Run& run, CatalogLists& lists);

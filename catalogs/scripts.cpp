@@ -7,7 +7,7 @@
 #include "catalogs/list_room.h"
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
-#include "foundation/list_search.h"
+#include "foundation/padded_item.h"
 #include "foundation/settings.h"
 
 namespace lv {
@@ -70,9 +70,7 @@ int RememberedRow(Run& run, const ListBox& list) {
     const TextView usual = run.GameKind == kUnreal ? "\\unreal.ini" : "\\config.cfg";
     const Text wanted =
         GetSetting(run, run.AppName, "DefaultScript", DefaultScriptKey(run), Join(ScriptDirectory(run), usual));
-    bool found = false;
-    const Index row = FindExact(list.Items, NameFieldWidth + 1, kToTheEnd, wanted, found);
-    return found ? row : 0;
+    return FindItemValue(list.Items, wanted).value_or(0);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
 #include "foundation/numbers.h"
+#include "foundation/padded_item.h"
 
 namespace lv {
 

@@ -10,9 +10,6 @@
 
 namespace lv {
 
-/// Width of the title in a padded list item; the record's other fields stand behind it.
-constexpr std::size_t NameFieldWidth = 100;
-
 struct Control {
     bool Enabled = true;
     bool Visible = true;

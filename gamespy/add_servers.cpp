@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "catalogs/editors/add_server.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "gamespy/game_spy_fetch.h"
 #include "gamespy/server_text.h"

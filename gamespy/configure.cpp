@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
 #include "foundation/link_question.h"
+#include "foundation/padded_item.h"
 #include "foundation/path_fault.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
@@ -50,14 +50,14 @@ bool NoteGame(SpyLaunch& launch, std::size_t slot, SpyGame& game) {
 
 /// False if there is nothing to configure; the user was told.
 bool NoteGames(SpyLaunch& launch, SpyGames& games) {
-    launch.Texts.LaunchStep = 250;
+    launch.Texts.LaunchStep = LaunchStep::GameSpyGames;
     for (std::size_t slot = 0; slot < kSpySlots; ++slot) {
         if (SlotInUse(launch.Form, slot) && !NoteGame(launch, slot, games[slot])) {
             return false;
         }
         games[slot].Script = ItemValue(launch.Form.ScriptSpy_Cbo[slot].Selected());
     }
-    launch.Texts.LaunchStep = 294;
+    launch.Texts.LaunchStep = LaunchStep::GameSpyFiles;
     if (std::ranges::any_of(games, &SpyGame::InUse)) {
         return true;
     }
@@ -122,9 +122,10 @@ void PutPif(SpyLaunch& launch, const SpyGames& games, std::size_t slot) {
 
 SpyFailure WriteBatches(SpyLaunch& launch, const SpyGames& games) {
     const LaunchTexts& texts = launch.Texts;
-    const SpyBatchParts parts = {launch.EnvironmentLines, DropLeft(texts.GameCommand, texts.PrefixLength),
-                                 DropLeft(texts.UnrealCommand, texts.PrefixLength),
-                                 launch.Selection.Memory_Chk ? launch.Selection.Memory : std::nullopt};
+    const SpyBatchParts parts = {
+        launch.EnvironmentLines, DropLeft(texts.GameCommand, texts.PrefixLength),
+        DropLeft(texts.UnrealCommand, texts.PrefixLength),
+        launch.Selection.Ticked.Has(Option::Memory_Chk) ? launch.Selection.Memory : std::nullopt};
     for (std::size_t slot = 0; slot < kSpySlots; ++slot) {
         if (!games[slot].InUse) {
             continue;
@@ -139,7 +140,7 @@ SpyFailure WriteBatches(SpyLaunch& launch, const SpyGames& games) {
 }
 
 Error WriteRegistry(SpyLaunch& launch, const SpyGames& games) {
-    launch.Texts.LaunchStep = 404;
+    launch.Texts.LaunchStep = LaunchStep::GameSpyRegistry;
     std::vector<RegistryEntry> entries;
     for (RegistryTriple& triple : SpyRegistry(games)) {
         entries.push_back(
@@ -166,13 +167,13 @@ SpyFailure ConfigureGameSpy(SpyLaunch& launch) {
         return {std::move(failed), {}};
     }
     if (launch.Form.LaunchSpyNow_Chk.Value == 1) {
-        launch.Texts.LaunchStep = 410;
+        launch.Texts.LaunchStep = LaunchStep::GameSpyStart;
         if (!StartGameSpy(launch.run)) {
             return {};
         }
     }
     launch.LeaveMainWindow(launch.Form.Minimize);
-    launch.Texts.LaunchStep = 460;
+    launch.Texts.LaunchStep = LaunchStep::GameSpyStarted;
     return {};
 }
 

@@ -16,7 +16,7 @@ struct SpyLaunch {
     Run& run;
     GameSpyConfig_Frm& Form;  // answered with OK
     const LaunchSelection& Selection;
-    LaunchTexts& Texts;     // composed up to step 205; LaunchStep follows what is done
+    LaunchTexts& Texts;     // composed, the additions with them; LaunchStep follows what is done
     Text EnvironmentLines;  // each ended by NewLine
     std::function<Error(const Text& ini)> SetUnrealVideoOptions;
     std::function<void(MinimizeLorvane)> LeaveMainWindow;
@@ -28,7 +28,7 @@ struct SpyFailure {
     Text FailureFile;
 };
 
-/// Steps 250 to 460. A stop that is no failure was told to the user; what was written stays.
+/// From step GameSpyGames to GameSpyStarted. A stop that is no failure was told to the user; what was written stays.
 SpyFailure ConfigureGameSpy(SpyLaunch& launch);
 
 }  // namespace lv

@@ -4,6 +4,7 @@
 #include "catalogs/editors/path_window.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "launch/name_check.h"
 
 namespace lv {

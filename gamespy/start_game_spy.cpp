@@ -4,6 +4,7 @@
 #include "foundation/settings.h"
 #include "gamespy/game_spy_config.h"
 #include "gamespy/window_search.h"
+#include "launch/launch_step.h"
 
 namespace lv {
 
@@ -27,8 +28,8 @@ bool StartProgram(Run& run) {
     if (const Error failed = run.System.Programs.StartProgram(location, {})) {
         AskUser(run, "Error",
                 Join(NotLaunched(), NewLine, "Error Number = ", std::to_string(failed.Number), NewLine,
-                     "Error Code = EC00410", NewLine, "Error String = ", failed.Text, NewLine,
-                     "GameSpy Location = ", location));
+                     "Error Code = ", ShownStep(LaunchStep::GameSpyStart), NewLine, "Error String = ", failed.Text,
+                     NewLine, "GameSpy Location = ", location));
         return false;
     }
     return true;

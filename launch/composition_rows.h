@@ -48,9 +48,11 @@ struct CompositionSpecial {
 
 enum class CompositionScope { Every, NotUnreal };
 
+/// When a row is run: with the composition, before the script is written, or once it has been.
+enum class CompositionTime { Composition, BeforeScript, ScriptWritten };
+
 struct CompositionRow {
-    int Row = 0;
-    int Step = 0;
+    LaunchStep Step = LaunchStep::NotBegun;
     CompositionScope Games = CompositionScope::Every;
     bool (*Condition)(const Composition&) = nullptr;
     const char* Tunable = nullptr;  // must be active; gives the value
@@ -59,11 +61,12 @@ struct CompositionRow {
     CompositionCell QuakeScript;
     CompositionCell Quake2Script;
     CompositionSpecial Special;
+    CompositionTime Time = CompositionTime::Composition;
 };
 
 constexpr std::size_t kCompositionRows = 46;
 
-/// All rows; row n stands at n - 1.
+/// All rows, in the order in which they are run.
 std::span<const CompositionRow> CompositionRows();
 
 }  // namespace lv

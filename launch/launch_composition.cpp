@@ -9,11 +9,6 @@ namespace lv {
 
 namespace {
 
-constexpr int kWrapperStep = 20;
-constexpr int kLastStep = 190;
-constexpr int kAdditionsRow = 45;
-constexpr int kScriptExecRow = 46;
-
 void AddToCommand(Text& command, const CompositionCell& cell, const Composition& c, TextView value) {
     if (const char* const pattern = cell.For(c.Game)) {
         command += FillPattern(pattern, value);
@@ -44,13 +39,29 @@ LaunchStop RunRow(const CompositionRow& row, const Composition& c) {
     return {};
 }
 
-void RunRowAlone(int number, const LaunchSelection& selection, LaunchTexts& texts) {
+/// A row that stops the launch is the last.
+void RunRows(CompositionTime time, const Composition& c) {
+    for (const CompositionRow& row : CompositionRows()) {
+        if (row.Time != time || (row.Games == CompositionScope::NotUnreal && c.Game.GameKind == game_kind::kUnreal)) {
+            continue;
+        }
+        c.Texts.LaunchStep = row.Step;
+        c.Texts.Stop = RunRow(row, c);
+        if (c.Texts.Stop) {
+            return;
+        }
+        if (row.Step == LaunchStep::Executable) {
+            c.Texts.PrefixLength = c.Texts.GameCommand.size();
+        }
+    }
+}
+
+/// Rows that read neither the game nor its profile.
+void RunRows(CompositionTime time, const LaunchSelection& selection, LaunchTexts& texts) {
     const LaunchGame anyGame;
     const ProfileSnapshot anyProfile;
     const LaunchHooks noHooks;
-    const CompositionRow& row = CompositionRows()[static_cast<std::size_t>(number - 1)];
-    texts.LaunchStep = row.Step;
-    RunRow(row, {selection, anyGame, anyProfile, noHooks, texts});
+    RunRows(time, {selection, anyGame, anyProfile, noHooks, texts});
 }
 
 }  // namespace
@@ -60,29 +71,16 @@ LaunchTexts ComposeLaunch(const LaunchSelection& selection, const LaunchGame& ga
     LaunchTexts texts;
     texts.GameCommand = Join(ExecutableName(selection), Blank);
     texts.UnrealCommand = texts.GameCommand;
-    const Composition c{selection, game, profile, hooks, texts};
-    for (const CompositionRow& row : CompositionRows()) {
-        if (row.Step > kLastStep || (row.Games == CompositionScope::NotUnreal && game.GameKind == game_kind::kUnreal)) {
-            continue;
-        }
-        texts.LaunchStep = row.Step;
-        texts.Stop = RunRow(row, c);
-        if (texts.Stop) {
-            return texts;
-        }
-        if (row.Step == kWrapperStep) {
-            texts.PrefixLength = texts.GameCommand.size();
-        }
-    }
+    RunRows(CompositionTime::Composition, {selection, game, profile, hooks, texts});
     return texts;
 }
 
 void AddCommandLineAdditions(const LaunchSelection& selection, LaunchTexts& texts) {
-    RunRowAlone(kAdditionsRow, selection, texts);
+    RunRows(CompositionTime::BeforeScript, selection, texts);
 }
 
 void AddScriptExec(LaunchTexts& texts) {
-    RunRowAlone(kScriptExecRow, {}, texts);
+    RunRows(CompositionTime::ScriptWritten, {}, texts);
 }
 
 Text ExecutableName(const LaunchSelection& selection) {

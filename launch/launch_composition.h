@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "launch/launch_selection.h"
+#include "launch/launch_step.h"
 #include "platform/error.h"
 #include "platform/processes.h"
 #include "video/profile_model.h"
@@ -41,7 +42,7 @@ struct LaunchTexts {
     std::vector<GivenWord> GameGiven;    // where the values that are no text of the user's stand in GameCommand
     std::vector<GivenWord> UnrealGiven;  // and in UnrealCommand
     std::size_t PrefixLength = 0;        // of GameCommand once it may have been wrapped: executable and wrapper
-    int LaunchStep = 0;                  // the step reached
+    lv::LaunchStep LaunchStep{};         // the step reached
     LaunchStop Stop;
 };
 
@@ -53,11 +54,11 @@ struct LaunchHooks {
     std::function<std::optional<Text>()> GameSpyFetch;
 };
 
-/// Steps 20 to 190.
+/// All that stands in the texts before the launch files are written: the steps up to StartMap.
 LaunchTexts ComposeLaunch(const LaunchSelection& selection, const LaunchGame& game, const ProfileSnapshot& profile,
                           const LaunchHooks& hooks);
 
-/// Step 205: the user's own addition, and the switch that runs the script once that has been written.
+/// Step LaunchScript: the user's own addition, and the switch that runs the script once that has been written.
 void AddCommandLineAdditions(const LaunchSelection& selection, LaunchTexts& texts);
 void AddScriptExec(LaunchTexts& texts);
 

@@ -49,7 +49,7 @@ bool PartsCommands(TextView text) {
 using Names = std::vector<LaunchName>;
 
 void AddModification(Names& names, const LaunchSelection& selection, bool isUnreal) {
-    const Text mod = selection.Game_Chk && selection.Game ? LowerCase(*selection.Game) : Text();
+    const Text mod = selection.Ticked.Has(Option::Game_Chk) && selection.Game ? LowerCase(*selection.Game) : Text();
     if (mod.starts_with(kGameOption)) {  // anything else is an option that the user has typed
         const Text name = DropLeft(mod, kGameOption.size());
         names.push_back({.Kind = NameKind::Modification,
@@ -61,7 +61,7 @@ void AddModification(Names& names, const LaunchSelection& selection, bool isUnre
 }
 
 void AddServer(Names& names, const LaunchSelection& selection, const LaunchGame& game) {
-    if (!selection.Server_Chk || !selection.Server || selection.Bench_Chk) {
+    if (!selection.Ticked.Has(Option::Server_Chk) || !selection.Server || selection.Ticked.Has(Option::Bench_Chk)) {
         return;
     }
     const auto& [server, password] = ServerOf(*selection.Server);
@@ -81,7 +81,7 @@ void AddServer(Names& names, const LaunchSelection& selection, const LaunchGame&
 }
 
 void AddMap(Names& names, const LaunchSelection& selection, bool isUnreal) {
-    if (selection.Map_Chk && selection.Map) {
+    if (selection.Ticked.Has(Option::Map_Chk) && selection.Map) {
         const Text name = Join(LowerCase(*selection.Map), isUnreal ? ".unr" : "");
         names.push_back(
             {.Kind = NameKind::Map, .Value = name, .Written = name, .InCommand = isUnreal, .InScript = !isUnreal});
@@ -89,7 +89,8 @@ void AddMap(Names& names, const LaunchSelection& selection, bool isUnreal) {
 }
 
 void AddScript(Names& names, const LaunchSelection& selection, bool isUnreal) {
-    if (!selection.Script_Chk || !selection.Script || selection.LaunchQspy_Chk) {
+    if (!selection.Ticked.Has(Option::Script_Chk) || !selection.Script ||
+        selection.Ticked.Has(Option::LaunchQspy_Chk)) {
         return;
     }
     const Text name = Trim(LastPathPart(*selection.Script));
@@ -103,7 +104,7 @@ void AddScript(Names& names, const LaunchSelection& selection, bool isUnreal) {
 /// A demo's record is a console command; its name stands behind the command's word. A word that is none is named with
 /// the rest.
 void AddDemo(Names& names, const LaunchSelection& selection, bool isUnreal) {
-    if (selection.Demo_Chk && selection.Demo) {
+    if (selection.Ticked.Has(Option::Demo_Chk) && selection.Demo) {
         const Text& command = *selection.Demo;
         const std::size_t blank = std::min(command.find(' '), command.size());
         const TextView word = TextView(command).substr(0, blank);

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "foundation/text.h"
+#include "launch/option_boxes.h"
 
 namespace lv {
 
@@ -14,28 +15,7 @@ namespace lv {
 struct LaunchSelection {
     Text ExecutablePath;  // "\" as the separator
 
-    bool LaunchQspy_Chk = false;
-    bool QSpy_Chk = false;
-    bool Server_Chk = false;
-    bool Map_Chk = false;
-    bool Game_Chk = false;
-    bool Memory_Chk = false;
-    bool NOLAN_Chk = false;
-    bool NOUDP_Chk = false;
-    bool Script_Chk = false;
-    bool NOCDAUDIO_Chk = false;
-    bool Dedicated_Chk = false;
-    bool Demo_Chk = false;
-    bool nosound_chk = false;
-    bool Listen_Chk = false;
-    bool Bench_Chk = false;
-    bool CommandLineAdditions_Chk = false;
-    bool ShowSet_Chk = false;
-    bool UnrealSimulateFirstRun_Chk = false;
-    bool UnrealDisableLogWindow_Chk = false;
-    bool UnrealDisableK6Support_Chk = false;
-    bool UnrealDisableMMXSupport_Chk = false;
-    bool UnrealNoDirectSound_Chk = false;
+    OptionSet Ticked;
 
     // The selected rows' payloads: what stands behind the padded name, trimmed.
     std::optional<Text> Server;  // "host;port;type;password"

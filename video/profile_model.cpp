@@ -4,6 +4,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 
@@ -43,8 +44,7 @@ Text PaddedPair(TextView list, Index index) {
         return {};
     }
     const auto caption = static_cast<Index>(index * 2);
-    return PadToWidth(GetField(list, caption, ";"), NameFieldWidth) +
-           GetField(list, static_cast<Index>(caption + 1), ";");
+    return MakeItem(GetField(list, caption, ";"), GetField(list, static_cast<Index>(caption + 1), ";"));
 }
 
 std::vector<Text> PaddedPairs(TextView list) {

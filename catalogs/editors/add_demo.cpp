@@ -3,6 +3,7 @@
 #include "catalogs/game_filters.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/typed_path.h"
 
 namespace lv {

@@ -4,6 +4,7 @@
 #include "catalogs/modifications.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/settings.h"
 #include "foundation/typed_path.h"
 
@@ -43,7 +44,7 @@ AddGame_Frm::AddGame_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
     Browse_Cmd.Caption = "&Browse";
     if (mode == EntryMode::Edit && lists.Game_Cbo.HasSelection()) {
         GameTitle_Txt.Text = ItemTitle(lists.Game_Cbo.Selected());
-        GamePath_Txt.Text = Trim(DropLeft(ItemValue(lists.Game_Cbo.Selected()), kGameOption.size()));
+        GamePath_Txt.Text = DirectoryOfOption(ItemValue(lists.Game_Cbo.Selected()));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/link_question.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundation/typed_path.h"

@@ -2,6 +2,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
+#include "foundation/padded_item.h"
 
 namespace lv {
 
@@ -98,7 +99,7 @@ AddServer_Frm::AddServer_Frm(Run& owner, CatalogLists& lists, EntryMode mode, bo
     if (!fromRow || !lists.Server_Cbo.HasSelection()) {
         return;
     }
-    const std::vector<Text> fields = SplitFields(DropLeft(lists.Server_Cbo.Selected(), NameFieldWidth));
+    const std::vector<Text> fields = SplitFields(ItemValue(lists.Server_Cbo.Selected()));
     const auto field = [&](std::size_t index) { return index < fields.size() ? Trim(fields[index]) : Text(); };
     ServerTitle_Txt.Text = ItemTitle(lists.Server_Cbo.Selected());
     ServerPath_Txt.Text = field(server_field::kAddress - 1);

@@ -1,11 +1,11 @@
 #include "catalogs/editors/copy_script.h"
 
-#include "catalogs/catalog_store.h"
 #include "catalogs/editors/delete_entry.h"
 #include "catalogs/editors/path_window.h"
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
 #include "foundation/link_question.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 
 namespace lv {

@@ -1,7 +1,7 @@
 #include "catalogs/editors/delete_entry.h"
 
 #include "catalogs/catalog_store.h"
-#include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 
 namespace lv {

@@ -2,6 +2,7 @@
 
 #include "catalogs/catalog_store.h"
 #include "foundation/numbers.h"
+#include "foundation/padded_item.h"
 
 namespace lv {
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "catalogs/catalog_store.h"
 #include "catalogs/servers.h"
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 
 namespace lv {

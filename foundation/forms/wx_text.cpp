@@ -1,7 +1,6 @@
 #include "foundation/forms/wx_text.h"
 
-#include "foundation/controls.h"
-#include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 
 namespace lv {
 
@@ -16,7 +15,7 @@ Text FromWx(const wxString& text) {
 }
 
 wxString ShownItem(TextView item) {
-    return ToWx(Trim(item.substr(0, NameFieldWidth)));
+    return ToWx(ItemTitle(item));
 }
 
 }  // namespace lv

@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-#include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundry/editor/lifecycle.h"
 #include "foundry/editor/rescued_edits.h"
@@ -27,7 +27,7 @@ Text SelectedScript(Launcher& launcher) {
         Refuse(launcher.run, "No Script is selected.");
         return {};
     }
-    const Text path = Trim(DropLeft(scripts.Selected(), NameFieldWidth));
+    const Text path = ItemValue(scripts.Selected());
     if (!launcher.run.System.Disk.FileExists(path)) {
         Refuse(launcher.run, "Script Not Found");
         return {};

@@ -161,11 +161,11 @@ wxStaticBoxSizer* LvPanels::MakePanel(const char* name, Panel LV_Frm::*panel) {
 }
 
 // `label` is for a box that has no caption of its own.
-wxCheckBox* LvPanels::MakeOption(CheckBox LV_Frm::*box, const wxString& label) {
-    const OptionBox& option = OptionBoxOf(box);
-    const wxString caption = *option.Caption != '\0' ? ToWx(Trim(option.Caption)) : label;
+wxCheckBox* LvPanels::MakeOption(Option option, const wxString& label) {
+    const OptionBox& box = OptionBoxOf(option);
+    const wxString caption = *box.Caption != '\0' ? ToWx(Trim(box.Caption)) : label;
     auto* view = new wxCheckBox(at_, wxID_ANY, caption, wxDefaultPosition, wxDefaultSize, wxCHK_3STATE);
-    binder_.Bind(option.Name, launcher_.Window.*box, view, [this, box] { Option_Chk_Click(launcher_, box); });
+    binder_.Bind(box.Name, launcher_.Window.Box(option), view, [this, option] { Option_Chk_Click(launcher_, option); });
     return view;
 }
 
@@ -198,10 +198,10 @@ wxWindow* LvPanels::MakeSmallButton(const char* name, CommandButton LV_Frm::*but
     return view;
 }
 
-wxSizer* LvPanels::MakeRow(CheckBox LV_Frm::*box, wxWindow* list, const std::vector<wxWindow*>& behind) {
+wxSizer* LvPanels::MakeRow(std::optional<Option> option, wxWindow* list, const std::vector<wxWindow*>& behind) {
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    if (box != nullptr) {
-        wxCheckBox* tick = MakeOption(box);
+    if (option) {
+        wxCheckBox* tick = MakeOption(*option);
         tick->MoveBeforeInTabOrder(list);
         row->Add(tick, wxSizerFlags().CenterVertical().Border(wxLEFT | wxRIGHT, kTickGap));
     }
@@ -233,7 +233,7 @@ wxSizer* LvPanels::MakeExePanel() {
     list->SetMinSize(wxSize(FromDIP(160), FromDIP(kGamePicture) + kGamePictureRoom));
     SetSpokenName(list->GetHandle(), "Game");
     binder_.Bind("Exe_Cbo", launcher_.Window.Exe_Cbo, list, [this] { Exe_Cbo_Click(launcher_); });
-    panel->Add(MakeRow(nullptr, list, {MakeMenuPicture(0)}), Row());
+    panel->Add(MakeRow(std::nullopt, list, {MakeMenuPicture(0)}), Row());
     auto* hint =
         new wxStaticText(at_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
     hint->SetMinSize(FromDIP(wxSize(80, -1)));  // a long hint is cut, the window does not grow by it
@@ -258,7 +258,7 @@ wxSizer* LvPanels::MakeCommandPanel() {
     buttons->Add(launch, wxSizerFlags(1).Expand().Border(wxRIGHT, kGap));
     buttons->Add(files, wxSizerFlags().Expand());
     panel->Add(buttons, Row().Proportion(1));
-    panel->Add(MakeOption(&LV_Frm::EndOnLaunch_Chk), Row());
+    panel->Add(MakeOption(Option::EndOnLaunch_Chk), Row());
     int index = 0;
     for (wxButton* button : {launch, view, create}) {
         binder_.Bind(wxString::Format("DoIt_Cmd(%d)", index).utf8_str(),
@@ -272,7 +272,7 @@ wxSizer* LvPanels::MakeCommandPanel() {
 wxSizer* LvPanels::MakeModPanel() {
     wxStaticBoxSizer* panel = MakePanel("Mod_Pan", &LV_Frm::Mod_Pan);
     wxChoice* list = MakeList("Game_Cbo", &LV_Frm::Game_Cbo, "Modification", Game_Cbo_Click);
-    panel->Add(MakeRow(&LV_Frm::Game_Chk, list, {MakeMenuPicture(1)}), Row());
+    panel->Add(MakeRow(Option::Game_Chk, list, {MakeMenuPicture(1)}), Row());
     return panel;
 }
 
@@ -281,7 +281,7 @@ wxSizer* LvPanels::MakeScriptPanel() {
     wxChoice* list = MakeList("Script_Cbo", &LV_Frm::Script_Cbo, "Player script", Script_Cbo_Click);
     wxWindow* edit = MakeSmallButton("SetupFoundry_Cmd", &LV_Frm::SetupFoundry_Cmd, "edit_script",
                                      "Edit the player script", SetupFoundry_Bar_Click);
-    panel->Add(MakeRow(&LV_Frm::Script_Chk, list, {edit, MakeMenuPicture(3)}), Row());
+    panel->Add(MakeRow(Option::Script_Chk, list, {edit, MakeMenuPicture(3)}), Row());
     return panel;
 }
 
@@ -291,48 +291,48 @@ wxSizer* LvPanels::MakeVideoPanel() {
         MakeList("VideoProfiles_Cbo", &LV_Frm::VideoProfiles_Cbo, "Video profile", VideoProfiles_Cbo_Click);
     wxWindow* edit = MakeSmallButton("VideoProfileEdit_Cmd", &LV_Frm::VideoProfileEdit_Cmd, "beauty",
                                      "Edit the video profile", VideoProfileEdit_Cmd_Click);
-    panel->Add(MakeRow(nullptr, list, {edit, MakeMenuPicture(6)}), Row());
+    panel->Add(MakeRow(std::nullopt, list, {edit, MakeMenuPicture(6)}), Row());
     return panel;
 }
 
 wxSizer* LvPanels::MakeMemoryPanel() {
     wxStaticBoxSizer* panel = MakePanel("Memory_Pan", &LV_Frm::Memory_Pan);
     wxChoice* list = MakeList("Mem_Cbo", &LV_Frm::Mem_Cbo, "Memory", Mem_Cbo_Click);
-    panel->Add(MakeRow(&LV_Frm::Memory_Chk, list, {MakeMenuPicture(2)}), Row());
+    panel->Add(MakeRow(Option::Memory_Chk, list, {MakeMenuPicture(2)}), Row());
     return panel;
 }
 
 wxSizer* LvPanels::MakeDemoPanel() {
     wxStaticBoxSizer* panel = MakePanel("Demo_Pan", &LV_Frm::Demo_Pan);
     wxChoice* list = MakeList("Demo_Cbo", &LV_Frm::Demo_Cbo, "Demo", Demo_Cbo_Click);
-    panel->Add(MakeRow(&LV_Frm::Demo_Chk, list, {MakeMenuPicture(4)}), Row());
+    panel->Add(MakeRow(Option::Demo_Chk, list, {MakeMenuPicture(4)}), Row());
     return panel;
 }
 
 wxSizer* LvPanels::MakeServerPanel() {
     wxStaticBoxSizer* panel = MakePanel("Server_Pan", &LV_Frm::Server_Pan);
     wxChoice* servers = MakeList("Server_Cbo", &LV_Frm::Server_Cbo, "Server", Server_Cbo_Click);
-    panel->Add(MakeRow(&LV_Frm::Server_Chk, servers, {MakeMenuPicture(5)}), Row());
+    panel->Add(MakeRow(Option::Server_Chk, servers, {MakeMenuPicture(5)}), Row());
     wxChoice* maps = MakeList("Map_Cbo", &LV_Frm::Map_Cbo, "Start map", [](Launcher&) {});
-    panel->Add(MakeRow(&LV_Frm::Map_Chk, maps), Row());
+    panel->Add(MakeRow(Option::Map_Chk, maps), Row());
     auto* roles = new wxBoxSizer(wxHORIZONTAL);
-    roles->Add(MakeOption(&LV_Frm::Dedicated_Chk), wxSizerFlags(1).CenterVertical());
-    roles->Add(MakeOption(&LV_Frm::Listen_Chk), wxSizerFlags(1).CenterVertical());
+    roles->Add(MakeOption(Option::Dedicated_Chk), wxSizerFlags(1).CenterVertical());
+    roles->Add(MakeOption(Option::Listen_Chk), wxSizerFlags(1).CenterVertical());
     panel->Add(roles, Row());
     auto* additions = new wxTextCtrl(at_, wxID_ANY);
     additions->SetHint("More for the command line");
     SetSpokenName(additions->GetHandle(), "More for the command line");
     binder_.Bind("CommandLineAdditions_Txt", launcher_.Window.CommandLineAdditions_Txt, additions,
                  [this] { CommandLineAdditions_Txt_Change(launcher_); });
-    panel->Add(MakeRow(&LV_Frm::CommandLineAdditions_Chk, additions), Row());
+    panel->Add(MakeRow(Option::CommandLineAdditions_Chk, additions), Row());
     rightPanels_.push_back({&launcher_.Window.Server_Pan, panel});
     return panel;
 }
 
 wxSizer* LvPanels::MakeQSpyPanel() {
     wxStaticBoxSizer* panel = MakePanel("QSpy_Pan", &LV_Frm::QSpy_Pan);
-    panel->Add(MakeOption(&LV_Frm::LaunchQspy_Chk), Row());
-    panel->Add(MakeOption(&LV_Frm::QSpy_Chk), Row());
+    panel->Add(MakeOption(Option::LaunchQspy_Chk), Row());
+    panel->Add(MakeOption(Option::QSpy_Chk), Row());
     rightPanels_.push_back({&launcher_.Window.QSpy_Pan, panel});
     return panel;
 }
@@ -343,16 +343,16 @@ wxSizer* LvPanels::MakeOtherPanel() {
     auto* columns = new wxBoxSizer(wxHORIZONTAL);
     auto* left = new wxBoxSizer(wxVERTICAL);
     auto* right = new wxBoxSizer(wxVERTICAL);
-    for (CheckBox LV_Frm::*const option :
-         {&LV_Frm::Bench_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::UnrealSimulateFirstRun_Chk,
-          &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk, &LV_Frm::UnrealNoCDNeeded_Chk}) {
+    for (const Option option :
+         {Option::Bench_Chk, Option::NOLAN_Chk, Option::NOUDP_Chk, Option::UnrealSimulateFirstRun_Chk,
+          Option::UnrealDisableLogWindow_Chk, Option::UnrealDisableK6Support_Chk, Option::UnrealNoCDNeeded_Chk}) {
         left->Add(MakeOption(option), Row());
     }
-    for (CheckBox LV_Frm::*const option : {&LV_Frm::nosound_chk, &LV_Frm::NOCDAUDIO_Chk,
-                                           &LV_Frm::UnrealNoDirectSound_Chk, &LV_Frm::UnrealDisableMMXSupport_Chk}) {
+    for (const Option option : {Option::nosound_chk, Option::NOCDAUDIO_Chk, Option::UnrealNoDirectSound_Chk,
+                                Option::UnrealDisableMMXSupport_Chk}) {
         right->Add(MakeOption(option), Row());
     }
-    right->Add(MakeOption(&LV_Frm::ShowSet_Chk, "Show environment, then wait"), Row());
+    right->Add(MakeOption(Option::ShowSet_Chk, "Show environment, then wait"), Row());
     columns->Add(left, wxSizerFlags(1));
     columns->Add(right, wxSizerFlags(1));
     columns->SetMinSize(-1, kOptionRows * (at_->GetChildren().front()->GetBestSize().y + kGap / 2 * 2));

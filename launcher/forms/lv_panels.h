@@ -8,6 +8,7 @@
 #include <wx/sizer.h>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "foundation/forms/binder.h"
@@ -52,12 +53,12 @@ class LvPanels : public wxScrolledWindow {
     wxSizer* MakeOtherPanel();
 
     wxStaticBoxSizer* MakePanel(const char* name, Panel LV_Frm::*panel);
-    wxCheckBox* MakeOption(CheckBox LV_Frm::*box, const wxString& label = {});
+    wxCheckBox* MakeOption(Option option, const wxString& label = {});
     wxChoice* MakeList(const char* name, ListBox LV_Frm::*list, const wxString& spoken, void (*click)(Launcher&));
     wxWindow* MakeMenuPicture(int index);
     wxWindow* MakeSmallButton(const char* name, CommandButton LV_Frm::*button, const char* picture, const char* spoken,
                               void (*click)(Launcher&));
-    wxSizer* MakeRow(CheckBox LV_Frm::*box, wxWindow* list, const std::vector<wxWindow*>& behind = {});
+    wxSizer* MakeRow(std::optional<Option> option, wxWindow* list, const std::vector<wxWindow*>& behind = {});
     void PlaceRightColumn();
     bool ShowParts();
 

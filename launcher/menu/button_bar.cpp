@@ -22,7 +22,7 @@ void LaunchGameSpy(Launcher& launcher) {
     if (launcher.LaunchUnderWay) {
         return;
     }
-    SetOption(launcher, &LV_Frm::LaunchQspy_Chk, 1);
+    SetOption(launcher, Option::LaunchQspy_Chk, 1);
     DoIt_Cmd_Click(launcher, 0);
 }
 

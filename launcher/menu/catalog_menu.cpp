@@ -123,8 +123,8 @@ void GameDelete_Bar_Click(Launcher& launcher) {
     }
     if (launcher.Window.Game_Cbo.HasSelection()) {
         Game_Cbo_Click(launcher);
-    } else if (launcher.Window.Game_Chk.Value == 1) {
-        launcher.Window.Game_Chk.Value = 0;  // by the program: the stored choice stays
+    } else if (launcher.Window.Box(Option::Game_Chk).Value == 1) {
+        launcher.Window.Box(Option::Game_Chk).Value = 0;  // by the program: the stored choice stays
         ApplyModification(launcher);
     }
 }

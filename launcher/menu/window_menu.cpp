@@ -4,6 +4,7 @@
 #include "foundation/browse.h"
 #include "foundation/dialogs.h"
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 
@@ -95,7 +96,7 @@ void ScriptsOpen_Bar_Click(Launcher& launcher) {
         return;
     }
     const Text editor = GetSetting(run, run.AppName, kOptions, "ScriptEditor", "notepad.exe");
-    const Text script = Trim(DropLeft(scripts.Selected(), NameFieldWidth));
+    const Text script = ItemValue(scripts.Selected());
     if (const Error failed = run.System.Programs.StartProgram(editor, {script})) {
         AskUser(run, Join("Error Opening Default Editor [", editor, "]").c_str(), ErrorLines(failed));
     }

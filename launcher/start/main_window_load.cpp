@@ -15,14 +15,14 @@ namespace {
 void LoadOptionBoxes(Launcher& launcher) {
     Run& run = launcher.run;
     LV_Frm& window = launcher.Window;
-    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
-        if (*option->Key != '\0') {
-            const Index stored = GetNumber(run, kOptions, option->Key, static_cast<Index>(option->Default));
-            (window.*option->Box).Value = stored == 1 || stored == 2 ? stored : 0;
+    for (const OptionBox& option : OptionBoxes()) {
+        if (*option.Key != '\0') {
+            const Index stored = GetNumber(run, kOptions, option.Key, static_cast<Index>(option.Default));
+            window.Box(option.Box).Value = stored == 1 || stored == 2 ? stored : 0;
         }
     }
     if (!window.Game_Cbo.HasSelection()) {
-        window.Game_Chk.Value = 0;
+        window.Box(Option::Game_Chk).Value = 0;
     }
     ApplyGameSpyRule(window);
     window.CommandLineAdditions_Txt.Text = GetSetting(run, run.AppName, kOptions, "CustomCommandLineText");

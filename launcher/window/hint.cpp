@@ -1,14 +1,11 @@
 #include "launcher/window/hint.h"
 
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 
 namespace lv {
 
 namespace {
-
-Text TitleOf(const ListBox& list) {
-    return Trim(TextView(list.Items[static_cast<std::size_t>(list.ListIndex)]).substr(0, NameFieldWidth));
-}
 
 bool Counts(const CheckBox& box, const ListBox& list) {
     return box.Value == 1 && list.HasSelection();
@@ -24,7 +21,7 @@ Text HintText(const Launcher& launcher) {
     if (!window.Exe_Cbo.HasSelection()) {
         return "Pick a game.";
     }
-    if (window.LaunchQspy_Chk.Value == 1) {
+    if (window.Box(Option::LaunchQspy_Chk).Value == 1) {
         return "F2 configures GameSpy 3D to start your games.";
     }
     const Text program = LastPathPart(window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Key);
@@ -32,16 +29,16 @@ Text HintText(const Launcher& launcher) {
         return Join("No known game lies beside ", program, ".");
     }
     Text hint = Join("F2 starts ", program);
-    if (Counts(window.Game_Chk, window.Game_Cbo)) {
-        hint += Join(", ", TitleOf(window.Game_Cbo));
+    if (Counts(window.Box(Option::Game_Chk), window.Game_Cbo)) {
+        hint += Join(", ", ItemTitle(window.Game_Cbo.Selected()));
     }
-    if (Counts(window.Script_Chk, window.Script_Cbo)) {
-        hint += Join(", with ", TitleOf(window.Script_Cbo));
+    if (Counts(window.Box(Option::Script_Chk), window.Script_Cbo)) {
+        hint += Join(", with ", ItemTitle(window.Script_Cbo.Selected()));
     }
-    if (Counts(window.Server_Chk, window.Server_Cbo)) {
-        hint += Join(", on ", TitleOf(window.Server_Cbo));
+    if (Counts(window.Box(Option::Server_Chk), window.Server_Cbo)) {
+        hint += Join(", on ", ItemTitle(window.Server_Cbo.Selected()));
     }
-    if (Counts(window.Map_Chk, window.Map_Cbo)) {
+    if (Counts(window.Box(Option::Map_Chk), window.Map_Cbo)) {
         hint += Join(", at ", window.Map_Cbo.Selected());
     }
     return hint + ".";

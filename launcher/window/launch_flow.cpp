@@ -6,6 +6,7 @@
 #include "foundation/game_numbers.h"
 #include "foundation/link_question.h"
 #include "foundation/numbers.h"
+#include "foundation/padded_item.h"
 #include "foundation/path_fault.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
@@ -48,16 +49,11 @@ void Tell(Run& run, TextView text) {
     AskUser(run, "", text);
 }
 
-Text FiveDigits(int number) {
-    Text digits = std::to_string(number);
-    return Text(digits.size() < 5 ? 5 - digits.size() : 0, '0') + digits;
-}
-
 void ReportError(Click& click, const Error& failed) {
     Run& run = click.run;
-    Text report = Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error Code = EC",
-                       FiveDigits(click.Texts.LaunchStep), NewLine, "Error String = ", failed.Text, NewLine,
-                       "Curreny System Directory = ", run.System.Disk.CurrentDirectory(), NewLine,
+    Text report = Join("Error Number = ", std::to_string(failed.Number), NewLine,
+                       "Error Code = ", ShownStep(click.Texts.LaunchStep), NewLine, "Error String = ", failed.Text,
+                       NewLine, "Curreny System Directory = ", run.System.Disk.CurrentDirectory(), NewLine,
                        "Default Game Directory = ", run.DefaultGameDirectory, NewLine,
                        "Current Command Line = ", click.Texts.GameCommand);
     if (!click.FailureFile.empty()) {
@@ -68,7 +64,7 @@ void ReportError(Click& click, const Error& failed) {
 
 bool ExecutableIsThere(Click& click) {
     Run& run = click.run;
-    click.Texts.LaunchStep = 20;
+    click.Texts.LaunchStep = LaunchStep::Executable;
     if (!click.launcher.Window.Exe_Cbo.HasSelection()) {
         Tell(run, "No executable is selected.");
         return false;
@@ -78,7 +74,7 @@ bool ExecutableIsThere(Click& click) {
         AskUser(run, "Error in executable path", kEmptyExecutable);
         return false;
     }
-    if (click.Selection.LaunchQspy_Chk || run.System.Disk.FileExists(path)) {
+    if (click.Selection.Ticked.Has(Option::LaunchQspy_Chk) || run.System.Disk.FileExists(path)) {
         return true;
     }
     Tell(run, MissingExecutableText(path, "4) Windows incorrectly reported that the file is missing."));
@@ -134,7 +130,6 @@ void DeleteScript(Click& click) {
 bool WriteScript(Click& click) {
     Files& disk = click.run.System.Disk;
     const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
-    click.Texts.LaunchStep = 205;
     AddCommandLineAdditions(click.Selection, click.Texts);
     click.Script = ScriptText(click.Texts, click.Game);
     if (click.Script.empty() || click.Game.GameKind == game_kind::kUnreal || !hasDirectory) {
@@ -154,9 +149,10 @@ bool WriteScript(Click& click) {
 }
 
 bool WriteBatch(Click& click) {
-    click.Texts.LaunchStep = 230;
-    click.Batch = BatchText(EnvironmentLines(click.Game, click.Profile), click.Selection.ShowSet_Chk,
-                            ExeDriveOf(click.Selection), click.Game.DefaultGameDirectory, click.Texts, click.Game);
+    click.Texts.LaunchStep = LaunchStep::LaunchBatch;
+    click.Batch =
+        BatchText(EnvironmentLines(click.Game, click.Profile), click.Selection.Ticked.Has(Option::ShowSet_Chk),
+                  ExeDriveOf(click.Selection), click.Game.DefaultGameDirectory, click.Texts, click.Game);
     if (click.Game.DefaultGameDirectory.empty()) {
         return true;
     }
@@ -168,7 +164,7 @@ bool WriteBatch(Click& click) {
         return false;
     }
     click.FailureFile.clear();
-    click.Texts.LaunchStep = 240;
+    click.Texts.LaunchStep = LaunchStep::LaunchBatchWritten;
     return true;
 }
 
@@ -183,12 +179,12 @@ Text ViewText(const Click& click) {
 bool ViewOrGoOn(Click& click) {
     Run& run = click.run;
     int answer = 0;
-    click.Texts.LaunchStep = 470;
+    click.Texts.LaunchStep = LaunchStep::View;
     if (click.Mode == LaunchMode::View) {
         answer = AskUserFixedWidth(run, "Viewing Commands", ViewText(click),
                                    "&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!");
     }
-    click.Texts.LaunchStep = 480;
+    click.Texts.LaunchStep = LaunchStep::Clipboard;
     if (answer == 1) {
         if (const Error failed = run.System.Clip.SetText(ViewText(click))) {
             ReportError(click, failed);
@@ -243,7 +239,7 @@ void StartGame(Click& click) {
         ReportError(click, failed);
         return;
     }
-    if (click.launcher.Window.EndOnLaunch_Chk.Value == 1) {
+    if (click.launcher.Window.Box(Option::EndOnLaunch_Chk).Value == 1) {
         Exit_Bar_Click(click.launcher);
     }
 }
@@ -260,7 +256,6 @@ void LeaveForGameSpy(Launcher& launcher, MinimizeLorvane choice) {
 void ConfigureInstead(Click& click, GameSpyConfig_Frm& form) {
     Run& run = click.run;
     const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
-    click.Texts.LaunchStep = 205;
     AddCommandLineAdditions(click.Selection, click.Texts);
     DeleteScript(click);
     if (hasDirectory) {
@@ -308,40 +303,20 @@ void GiveUp(Click& click, const Error& failed) {
 }
 
 std::optional<Text> Payload(const ListBox& list) {
-    return list.HasSelection() ? std::optional(Trim(DropLeft(list.Selected(), NameFieldWidth))) : std::nullopt;
+    return list.HasSelection() ? std::optional(ItemValue(list.Selected())) : std::nullopt;
 }
 
 }  // namespace
 
 LaunchSelection SelectionOf(const LV_Frm& window) {
-    const auto ticked = [](const CheckBox& box) { return box.Value == 1; };
     LaunchSelection selection;
     if (window.Exe_Cbo.HasSelection()) {
         const Text& key = window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Key;
         selection.ExecutablePath = ReplaceSameLength(key, "/", "\\");
     }
-    selection.LaunchQspy_Chk = ticked(window.LaunchQspy_Chk);
-    selection.QSpy_Chk = ticked(window.QSpy_Chk);
-    selection.Server_Chk = ticked(window.Server_Chk);
-    selection.Map_Chk = ticked(window.Map_Chk);
-    selection.Game_Chk = ticked(window.Game_Chk);
-    selection.Memory_Chk = ticked(window.Memory_Chk);
-    selection.NOLAN_Chk = ticked(window.NOLAN_Chk);
-    selection.NOUDP_Chk = ticked(window.NOUDP_Chk);
-    selection.Script_Chk = ticked(window.Script_Chk);
-    selection.NOCDAUDIO_Chk = ticked(window.NOCDAUDIO_Chk);
-    selection.Dedicated_Chk = ticked(window.Dedicated_Chk);
-    selection.Demo_Chk = ticked(window.Demo_Chk);
-    selection.nosound_chk = ticked(window.nosound_chk);
-    selection.Listen_Chk = ticked(window.Listen_Chk);
-    selection.Bench_Chk = ticked(window.Bench_Chk);
-    selection.CommandLineAdditions_Chk = ticked(window.CommandLineAdditions_Chk);
-    selection.ShowSet_Chk = ticked(window.ShowSet_Chk);
-    selection.UnrealSimulateFirstRun_Chk = ticked(window.UnrealSimulateFirstRun_Chk);
-    selection.UnrealDisableLogWindow_Chk = ticked(window.UnrealDisableLogWindow_Chk);
-    selection.UnrealDisableK6Support_Chk = ticked(window.UnrealDisableK6Support_Chk);
-    selection.UnrealDisableMMXSupport_Chk = ticked(window.UnrealDisableMMXSupport_Chk);
-    selection.UnrealNoDirectSound_Chk = ticked(window.UnrealNoDirectSound_Chk);
+    for (const OptionBox& row : OptionBoxes()) {
+        selection.Ticked.Set(row.Box, window.Box(row.Box).Value == 1);
+    }
     selection.Server = Payload(window.Server_Cbo);
     selection.Game = Payload(window.Game_Cbo);
     selection.Memory = Payload(window.Mem_Cbo);
@@ -382,7 +357,7 @@ void DoIt_Cmd_Click(Launcher& launcher, int index) {
                 {}};
     launcher.LaunchUnderWay = true;
     try {
-        if (click.Selection.LaunchQspy_Chk) {
+        if (click.Selection.Ticked.Has(Option::LaunchQspy_Chk)) {
             LaunchThroughGameSpy(click);
         } else {
             LaunchDirectly(click);

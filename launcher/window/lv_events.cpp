@@ -2,10 +2,11 @@
 
 #include "catalogs/game_identification.h"
 #include "catalogs/map_scan.h"
+#include "catalogs/modifications.h"
 #include "catalogs/scripts.h"
-#include "foundation/field_strings.h"
 #include "foundation/game_numbers.h"
 #include "foundation/link_question.h"
+#include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "launcher/window/option_rules.h"
@@ -26,20 +27,20 @@ void Game_Chk_Click(Launcher& launcher) {
     if (!window.Game_Cbo.HasSelection()) {
         Tell(launcher, "No Modification Subdirectory is selected.");
         launcher.ClearingGameChk = true;
-        SetOption(launcher, &LV_Frm::Game_Chk, 0);
+        SetOption(launcher, Option::Game_Chk, 0);
         launcher.ClearingGameChk = false;
         return;
     }
     ApplyModification(launcher);
-    if (window.Game_Chk.Value == 1) {
-        SetOption(launcher, &LV_Frm::LaunchQspy_Chk, 0);
+    if (window.Box(Option::Game_Chk).Value == 1) {
+        SetOption(launcher, Option::LaunchQspy_Chk, 0);
     }
-    Save(launcher.run, kOptions, "UseGames", window.Game_Chk.Value);
+    Save(launcher.run, kOptions, "UseGames", window.Box(Option::Game_Chk).Value);
     ScanForMaps(launcher.run, launcher.Lists);
 }
 
 void Listen_Chk_Click(Launcher& launcher) {
-    if (launcher.Window.Listen_Chk.Value != 1 || launcher.run.GameKind != game_kind::kHalfLife) {
+    if (launcher.Window.Box(Option::Listen_Chk).Value != 1 || launcher.run.GameKind != game_kind::kHalfLife) {
         return;
     }
     AskUserUnlessTold(launcher.run, "HL_Listen_Server", "Half-Life Console Warning",
@@ -51,7 +52,7 @@ void Listen_Chk_Click(Launcher& launcher) {
 
 void Bench_Chk_Click(Launcher& launcher) {
     Run& run = launcher.run;
-    if (launcher.Window.Bench_Chk.Value != 1 || run.GameKind != game_kind::kHalfLife) {
+    if (launcher.Window.Box(Option::Bench_Chk).Value != 1 || run.GameKind != game_kind::kHalfLife) {
         return;
     }
     const Text demo = Join(run.DefaultGameDirectory, "\\valve\\1.dem");
@@ -72,16 +73,19 @@ void Bench_Chk_Click(Launcher& launcher) {
 
 void WriteKey(Launcher& launcher, const OptionBox& option) {
     if (*option.Key != '\0') {
-        Save(launcher.run, kOptions, option.Key, (launcher.Window.*option.Box).Value);
+        Save(launcher.run, kOptions, option.Key, launcher.Window.Box(option.Box).Value);
     }
 }
 
-void ClearExcluded(Launcher& launcher, CheckBox LV_Frm::*box) {
-    if ((launcher.Window.*box).Value != 1) {
+void ClearExcluded(Launcher& launcher, Option option) {
+    if (launcher.Window.Box(option).Value != 1) {
         return;
     }
-    for (CheckBox LV_Frm::*const excluded : ExcludedBy(box)) {
-        SetOption(launcher, excluded, 0);
+    const OptionSet excluded = ExcludedBy(option);
+    for (const OptionBox& row : OptionBoxes()) {
+        if (excluded.Has(row.Box)) {
+            SetOption(launcher, row.Box, 0);
+        }
     }
 }
 
@@ -91,31 +95,33 @@ void SavePosition(Launcher& launcher, TextView key, const ListBox& list) {
 
 }  // namespace
 
-void SetOption(Launcher& launcher, CheckBox LV_Frm::*box, int value) {
-    if ((launcher.Window.*box).Value == value) {
+void SetOption(Launcher& launcher, Option option, int value) {
+    CheckBox& box = launcher.Window.Box(option);
+    if (box.Value == value) {
         return;
     }
-    (launcher.Window.*box).Value = value;
-    Option_Chk_Click(launcher, box);
+    box.Value = value;
+    Option_Chk_Click(launcher, option);
 }
 
-void Option_Chk_Click(Launcher& launcher, CheckBox LV_Frm::*box) {
-    if (box == &LV_Frm::Game_Chk) {
+void Option_Chk_Click(Launcher& launcher, Option option) {
+    if (option == Option::Game_Chk) {
         Game_Chk_Click(launcher);
         return;
     }
-    if (box == &LV_Frm::Map_Chk && launcher.Window.Map_Chk.Value == 1 && !launcher.Window.Map_Cbo.HasSelection()) {
-        launcher.Window.Map_Chk.Value = 0;
+    if (option == Option::Map_Chk && launcher.Window.Box(Option::Map_Chk).Value == 1 &&
+        !launcher.Window.Map_Cbo.HasSelection()) {
+        launcher.Window.Box(Option::Map_Chk).Value = 0;
         return;
     }
-    if (box == &LV_Frm::LaunchQspy_Chk) {
+    if (option == Option::LaunchQspy_Chk) {
         ApplyGameSpyRule(launcher.Window);
     }
-    WriteKey(launcher, OptionBoxOf(box));
-    ClearExcluded(launcher, box);
-    if (box == &LV_Frm::Listen_Chk) {
+    WriteKey(launcher, OptionBoxOf(option));
+    ClearExcluded(launcher, option);
+    if (option == Option::Listen_Chk) {
         Listen_Chk_Click(launcher);
-    } else if (box == &LV_Frm::Bench_Chk) {
+    } else if (option == Option::Bench_Chk) {
         Bench_Chk_Click(launcher);
     }
 }
@@ -123,10 +129,10 @@ void Option_Chk_Click(Launcher& launcher, CheckBox LV_Frm::*box) {
 void ApplyModification(Launcher& launcher) {
     Run& run = launcher.run;
     LV_Frm& window = launcher.Window;
-    if (window.Game_Chk.Value == 1 && window.Game_Cbo.HasSelection()) {
+    if (window.Box(Option::Game_Chk).Value == 1 && window.Game_Cbo.HasSelection()) {
         const Text row = window.Game_Cbo.Selected();
-        run.CurrentGameDir = Trim(DropLeft(row, NameFieldWidth + 6));
-        window.PlayerScript_Pan.Caption = Join("Player Script - (", Trim(TextView(row).substr(0, NameFieldWidth)), ")");
+        run.CurrentGameDir = DirectoryOfOption(ItemValue(row));
+        window.PlayerScript_Pan.Caption = Join("Player Script - (", ItemTitle(row), ")");
     } else {
         run.CurrentGameDir = run.BaseGameDir;
         window.PlayerScript_Pan.Caption = "Player Script";
@@ -147,7 +153,8 @@ void Exe_Cbo_Click(Launcher& launcher) {
     if (run.Ended) {
         return;
     }
-    window.LaunchQspy_Chk.Enabled = run.GameKind != game_kind::kHalfLife && run.GameKind != game_kind::kHeretic2;
+    window.Box(Option::LaunchQspy_Chk).Enabled =
+        run.GameKind != game_kind::kHalfLife && run.GameKind != game_kind::kHeretic2;
     if (run.GameKind != 0) {
         ApplyModification(launcher);
     }
@@ -156,7 +163,7 @@ void Exe_Cbo_Click(Launcher& launcher) {
 
 void Game_Cbo_Click(Launcher& launcher) {
     SavePosition(launcher, "GamesPos", launcher.Window.Game_Cbo);
-    if (launcher.Window.Game_Chk.Value == 1) {
+    if (launcher.Window.Box(Option::Game_Chk).Value == 1) {
         Game_Chk_Click(launcher);
         return;
     }
@@ -169,7 +176,7 @@ void Script_Cbo_Click(Launcher& launcher) {
         return;
     }
     // Each game directory and modification remembers its own script.
-    Save(run, "DefaultScript", DefaultScriptKey(run), DropLeft(launcher.Window.Script_Cbo.Selected(), NameFieldWidth));
+    Save(run, "DefaultScript", DefaultScriptKey(run), StoredItemValue(launcher.Window.Script_Cbo.Selected()));
 }
 
 void Mem_Cbo_Click(Launcher& launcher) {

@@ -10,10 +10,10 @@ namespace lv {
 
 /// A click on an option check box, its new value in place: writes its key, clears what it excludes, and does what the
 /// box is for beyond that.
-void Option_Chk_Click(Launcher& launcher, CheckBox LV_Frm::*box);
+void Option_Chk_Click(Launcher& launcher, Option option);
 
 /// Sets a box as its user would: if the value changes, its click runs.
-void SetOption(Launcher& launcher, CheckBox LV_Frm::*box, int value);
+void SetOption(Launcher& launcher, Option option, int value);
 
 /// The change of game: runs on a pick, also of the same row.
 void Exe_Cbo_Click(Launcher& launcher);

@@ -9,6 +9,7 @@
 
 #include "foundation/controls.h"
 #include "foundation/window_services.h"
+#include "launch/option_boxes.h"
 #include "launcher/menu/button_bar.h"
 #include "launcher/menu/menu_table.h"
 #include "launcher/window/window_size.h"
@@ -61,30 +62,7 @@ struct LV_Frm {
     ListBox VideoProfiles_Cbo;
     TextBox CommandLineAdditions_Txt;
 
-    CheckBox Memory_Chk;
-    CheckBox Game_Chk;
-    CheckBox Script_Chk;
-    CheckBox Demo_Chk;
-    CheckBox Server_Chk;
-    CheckBox Dedicated_Chk;
-    CheckBox Listen_Chk;
-    CheckBox Map_Chk;
-    CheckBox QSpy_Chk;
-    CheckBox LaunchQspy_Chk;
-    CheckBox Bench_Chk;
-    CheckBox NOLAN_Chk;
-    CheckBox NOUDP_Chk;
-    CheckBox NOCDAUDIO_Chk;
-    CheckBox nosound_chk;
-    CheckBox ShowSet_Chk;
-    CheckBox EndOnLaunch_Chk;
-    CheckBox CommandLineAdditions_Chk;
-    CheckBox UnrealSimulateFirstRun_Chk;
-    CheckBox UnrealDisableLogWindow_Chk;
-    CheckBox UnrealDisableK6Support_Chk;
-    CheckBox UnrealDisableMMXSupport_Chk;
-    CheckBox UnrealNoDirectSound_Chk;
-    CheckBox UnrealNoCDNeeded_Chk;
+    std::array<CheckBox, kOptionCount> Option_Chk;  // see Box
 
     CommandButton SetupFoundry_Cmd;
     CommandButton VideoProfileEdit_Cmd;
@@ -95,23 +73,11 @@ struct LV_Frm {
 
     MenuState Menu = MakeMenuState();
 
+    CheckBox& Box(Option option) { return Option_Chk[static_cast<std::size_t>(option)]; }
+    [[nodiscard]] const CheckBox& Box(Option option) const { return Option_Chk[static_cast<std::size_t>(option)]; }
+
     MenuItemState& Bar(MenuItem item) { return Menu[static_cast<std::size_t>(item)]; }
     [[nodiscard]] const MenuItemState& Bar(MenuItem item) const { return Menu[static_cast<std::size_t>(item)]; }
 };
-
-/// An option check box: what it says, the key in "Options" that keeps it, and its tool tip.
-struct OptionBox {
-    CheckBox LV_Frm::*Box;
-    const char* Name;     // the control's name
-    const char* Caption;  // "" for a box that stands beside its list
-    const char* Key;      // "": not kept
-    int Default;
-    const char* ToolTip;
-};
-
-/// All option check boxes, in the order of the window's description.
-const OptionBox* OptionBoxesBegin();
-const OptionBox* OptionBoxesEnd();
-const OptionBox& OptionBoxOf(CheckBox LV_Frm::*box);
 
 }  // namespace lv

@@ -1,41 +1,34 @@
 #include "launcher/window/option_rules.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "foundation/game_numbers.h"
 
 namespace lv {
 
 namespace {
 
-using Box = CheckBox LV_Frm::*;
+using enum Option;
 
 struct ExclusionRow {
-    Box Set;
-    std::vector<Box> Cleared;
+    Option Set;
+    OptionSet Cleared;
 };
 
-const std::vector<ExclusionRow>& Exclusions() {
-    // clang-format off
-    static const std::vector<ExclusionRow> rows = {
-        {&LV_Frm::Server_Chk, {&LV_Frm::Dedicated_Chk, &LV_Frm::Listen_Chk, &LV_Frm::QSpy_Chk, &LV_Frm::LaunchQspy_Chk, &LV_Frm::Demo_Chk, &LV_Frm::Bench_Chk, &LV_Frm::Map_Chk}},
-        {&LV_Frm::QSpy_Chk, {&LV_Frm::Server_Chk, &LV_Frm::Dedicated_Chk, &LV_Frm::Listen_Chk, &LV_Frm::LaunchQspy_Chk, &LV_Frm::Demo_Chk, &LV_Frm::Bench_Chk, &LV_Frm::Map_Chk}},
-        {&LV_Frm::Dedicated_Chk, {&LV_Frm::Server_Chk, &LV_Frm::Listen_Chk, &LV_Frm::QSpy_Chk, &LV_Frm::LaunchQspy_Chk, &LV_Frm::Demo_Chk, &LV_Frm::Bench_Chk}},
-        {&LV_Frm::Listen_Chk, {&LV_Frm::Server_Chk, &LV_Frm::Dedicated_Chk, &LV_Frm::QSpy_Chk, &LV_Frm::LaunchQspy_Chk, &LV_Frm::Demo_Chk, &LV_Frm::Bench_Chk}},
-        {&LV_Frm::Demo_Chk, {&LV_Frm::Server_Chk, &LV_Frm::Dedicated_Chk, &LV_Frm::Listen_Chk, &LV_Frm::QSpy_Chk, &LV_Frm::LaunchQspy_Chk, &LV_Frm::Bench_Chk}},
-        {&LV_Frm::LaunchQspy_Chk, {&LV_Frm::Server_Chk, &LV_Frm::Dedicated_Chk, &LV_Frm::Listen_Chk, &LV_Frm::QSpy_Chk, &LV_Frm::Demo_Chk, &LV_Frm::Bench_Chk, &LV_Frm::Game_Chk, &LV_Frm::Map_Chk}},
-        {&LV_Frm::Map_Chk, {&LV_Frm::Server_Chk, &LV_Frm::QSpy_Chk, &LV_Frm::LaunchQspy_Chk, &LV_Frm::Bench_Chk}},
-    };
-    // clang-format on
-    return rows;
-}
-
-constexpr Box kUnrealBoxes[] = {
-    &LV_Frm::UnrealSimulateFirstRun_Chk,  &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk,
-    &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk,    &LV_Frm::UnrealNoCDNeeded_Chk,
+// clang-format off
+constexpr ExclusionRow kExclusions[] = {
+    {Server_Chk, {Dedicated_Chk, Listen_Chk, QSpy_Chk, LaunchQspy_Chk, Demo_Chk, Bench_Chk, Map_Chk}},
+    {QSpy_Chk, {Server_Chk, Dedicated_Chk, Listen_Chk, LaunchQspy_Chk, Demo_Chk, Bench_Chk, Map_Chk}},
+    {Dedicated_Chk, {Server_Chk, Listen_Chk, QSpy_Chk, LaunchQspy_Chk, Demo_Chk, Bench_Chk}},
+    {Listen_Chk, {Server_Chk, Dedicated_Chk, QSpy_Chk, LaunchQspy_Chk, Demo_Chk, Bench_Chk}},
+    {Demo_Chk, {Server_Chk, Dedicated_Chk, Listen_Chk, QSpy_Chk, LaunchQspy_Chk, Bench_Chk}},
+    {LaunchQspy_Chk, {Server_Chk, Dedicated_Chk, Listen_Chk, QSpy_Chk, Demo_Chk, Bench_Chk, Game_Chk, Map_Chk}},
+    {Map_Chk, {Server_Chk, QSpy_Chk, LaunchQspy_Chk, Bench_Chk}},
 };
+// clang-format on
 
-constexpr Box kNotForUnreal[] = {&LV_Frm::NOCDAUDIO_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::Bench_Chk};
-
-constexpr Box kGreyedByUnreal[] = {&LV_Frm::Memory_Chk, &LV_Frm::Game_Chk, &LV_Frm::Demo_Chk};
+constexpr Option kGreyedByUnreal[] = {Memory_Chk, Game_Chk, Demo_Chk};
 
 struct RightColumn {
     int ServerTop;
@@ -70,33 +63,30 @@ void Place(LV_Frm& window, const RightColumn& column) {
 
 void ApplyWorldClient(LV_Frm& window, bool worldClient) {
     window.Demo_Pan.Enabled = !worldClient;
-    for (const Box box :
-         {&LV_Frm::Listen_Chk, &LV_Frm::Dedicated_Chk, &LV_Frm::Bench_Chk, &LV_Frm::Game_Chk, &LV_Frm::Map_Chk}) {
-        (window.*box).Enabled = !worldClient;
+    for (const Option option : {Listen_Chk, Dedicated_Chk, Bench_Chk, Game_Chk, Map_Chk}) {
+        window.Box(option).Enabled = !worldClient;
     }
     if (worldClient) {
-        window.Demo_Chk.Value = 0;
-        ClearAndDisable(window.Bench_Chk);
-        ClearAndDisable(window.Game_Chk);
-        ClearAndDisable(window.Map_Chk);
+        window.Box(Demo_Chk).Value = 0;
+        ClearAndDisable(window.Box(Bench_Chk));
+        ClearAndDisable(window.Box(Game_Chk));
+        ClearAndDisable(window.Box(Map_Chk));
     }
 }
 
 void ApplyUnreal(LV_Frm& window) {
     Place(window, kUnrealColumn);
-    for (const Box box : kGreyedByUnreal) {
-        Grey(window.*box);
+    for (const Option option : kGreyedByUnreal) {
+        Grey(window.Box(option));
     }
     window.Memory_Pan.Enabled = window.Mod_Pan.Enabled = window.Demo_Pan.Enabled = false;
     window.Bar(MenuItem::Mem_Bar).Enabled = false;
-    for (const Box box : kNotForUnreal) {
-        (window.*box).Value = 0;
-        (window.*box).Visible = false;
+    for (const OptionBox& row : OptionBoxes()) {
+        CheckBox& box = window.Box(row.Box);
+        box.Visible = row.Games != OptionGames::NotUnreal;
+        box.Value = box.Visible ? box.Value : 0;
     }
-    window.Listen_Chk.Enabled = false;
-    for (const Box box : kUnrealBoxes) {
-        (window.*box).Visible = true;
-    }
+    window.Box(Listen_Chk).Enabled = false;
 }
 
 // Modifications and demos are there for a world client too: what ApplyWorldClient has taken of them comes back here.
@@ -104,46 +94,38 @@ void ApplyOtherGame(LV_Frm& window, const PanelGame& game) {
     Place(window, kOtherColumn);
     window.Memory_Pan.Enabled = window.Mod_Pan.Enabled = window.Demo_Pan.Enabled = true;
     window.Bar(MenuItem::Mem_Bar).Enabled = true;
-    window.Game_Chk.Enabled = true;
-    for (const Box box : kGreyedByUnreal) {
-        Ungrey(window.*box);
+    window.Box(Game_Chk).Enabled = true;
+    for (const Option option : kGreyedByUnreal) {
+        Ungrey(window.Box(option));
     }
-    for (const Box box : kNotForUnreal) {
-        (window.*box).Visible = true;
+    for (const OptionBox& row : OptionBoxes()) {
+        window.Box(row.Box).Visible = row.Games != OptionGames::Unreal;
     }
-    window.Listen_Chk.Enabled = !game.IsQuakeWorld;
-    for (const Box box : kUnrealBoxes) {
-        (window.*box).Visible = false;
-    }
+    window.Box(Listen_Chk).Enabled = !game.IsQuakeWorld;
 }
 
 void ApplyFamily(LV_Frm& window, const PanelGame& game) {
     if (game.ScriptFamily == 3) {
-        ClearAndDisable(window.NOLAN_Chk);
-        ClearAndDisable(window.NOUDP_Chk);
-        Grey(window.Memory_Chk);
+        ClearAndDisable(window.Box(NOLAN_Chk));
+        ClearAndDisable(window.Box(NOUDP_Chk));
+        Grey(window.Box(Memory_Chk));
         window.Memory_Pan.Enabled = false;
         window.Bar(MenuItem::Mem_Bar).Enabled = false;
         return;
     }
-    for (const Box box : {&LV_Frm::NOLAN_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOCDAUDIO_Chk, &LV_Frm::nosound_chk}) {
-        (window.*box).Enabled = true;
+    for (const Option option : {NOLAN_Chk, NOUDP_Chk, NOCDAUDIO_Chk, nosound_chk}) {
+        window.Box(option).Enabled = true;
     }
     window.Memory_Pan.Enabled = true;
     window.Bar(MenuItem::Mem_Bar).Enabled = true;
-    Ungrey(window.Memory_Chk);
+    Ungrey(window.Box(Memory_Chk));
 }
 
 }  // namespace
 
-const std::vector<CheckBox LV_Frm::*>& ExcludedBy(CheckBox LV_Frm::*box) {
-    static const std::vector<Box> none;
-    for (const ExclusionRow& row : Exclusions()) {
-        if (row.Set == box) {
-            return row.Cleared;
-        }
-    }
-    return none;
+OptionSet ExcludedBy(Option option) {
+    const auto* const row = std::ranges::find(kExclusions, option, &ExclusionRow::Set);
+    return row == std::end(kExclusions) ? OptionSet() : row->Cleared;
 }
 
 void ApplyGamePanels(LV_Frm& window, const PanelGame& game) {
@@ -157,7 +139,7 @@ void ApplyGamePanels(LV_Frm& window, const PanelGame& game) {
 }
 
 void ApplyGameSpyRule(LV_Frm& window) {
-    window.DoIt_Cmd[1].Enabled = window.DoIt_Cmd[2].Enabled = window.LaunchQspy_Chk.Value != 1;
+    window.DoIt_Cmd[1].Enabled = window.DoIt_Cmd[2].Enabled = window.Box(LaunchQspy_Chk).Value != 1;
 }
 
 }  // namespace lv

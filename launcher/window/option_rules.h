@@ -4,14 +4,12 @@
 
 #pragma once
 
-#include <vector>
-
 #include "launcher/window/lv_frm.h"
 
 namespace lv {
 
-/// The boxes that are cleared when `box` is set to 1. Empty for a box that excludes nothing.
-const std::vector<CheckBox LV_Frm::*>& ExcludedBy(CheckBox LV_Frm::*box);
+/// The boxes that are cleared when `option` is set to 1. Empty for a box that excludes nothing.
+OptionSet ExcludedBy(Option option);
 
 /// What the panels depend on.
 struct PanelGame {

@@ -14,7 +14,7 @@ namespace {
 
 Text PickIni(Launcher& launcher) {
     const LaunchSelection selection = SelectionOf(launcher.Window);
-    if (selection.Script_Chk && selection.Script) {
+    if (selection.Ticked.Has(Option::Script_Chk) && selection.Script) {
         return *selection.Script;
     }
     return Join(launcher.run.DefaultGameDirectory, "\\", kUnrealIni);
@@ -55,8 +55,9 @@ Error SetUnrealVideoOptionsForLaunch(Launcher& launcher, const std::optional<Tex
     if (!old.Ok()) {
         return Missing(FaultAt(run.System.Disk, path, old.Fault));
     }
-    UnrealIniResult rewritten = RewriteUnrealIni(
-        {old.Value, ReadProfile(run), launcher.Window.UnrealNoCDNeeded_Chk.Value == 1, run.DefaultGameDirectory});
+    UnrealIniResult rewritten =
+        RewriteUnrealIni({old.Value, ReadProfile(run), launcher.Window.Box(Option::UnrealNoCDNeeded_Chk).Value == 1,
+                          run.DefaultGameDirectory});
     changed = std::move(rewritten.ChangedIniLines);
     return FaultAt(run.System.Disk, path, run.System.Disk.Replace(path, rewritten.Ini));
 }

@@ -1,5 +1,6 @@
 #include "catalogs/catalog_store.h"
 
+#include "foundation/padded_item.h"
 #include "tests/catalogs/catalogs_fixture.h"
 
 namespace lv {
@@ -45,26 +46,6 @@ TEST(SplitRows, WithHalfARecordIsDamaged) {
 
 TEST(SplitRows, ShortOddValuesAreNotDamaged) {
     EXPECT_TRUE(SplitRows("a;b;c", 2));
-}
-
-TEST(CatalogItem, HoldsTheValueBehindAHundredCharacters) {
-    const Text item = MakeItem("Quake", "-game ctf");
-    EXPECT_EQ(item.size(), 109U);
-    EXPECT_EQ(item.substr(0, 6), "Quake ");
-    EXPECT_EQ(item.substr(100), "-game ctf");
-    EXPECT_EQ(ItemTitle(item), "Quake");
-    EXPECT_EQ(ItemValue(item), "-game ctf");
-}
-
-TEST(CatalogItem, CutsALongTitle) {
-    const Text item = MakeItem(Text(120, 'x'), "value");
-    EXPECT_EQ(ItemTitle(item), Text(100, 'x'));
-    EXPECT_EQ(ItemValue(item), "value");
-}
-
-TEST(CatalogItem, OfAShortTextHasNoValue) {
-    EXPECT_EQ(ItemTitle("abc"), "abc");
-    EXPECT_EQ(ItemValue("abc"), "");
 }
 
 TEST(FitsAField, RefusesSeparatorsAndControlCharacters) {

@@ -1,5 +1,6 @@
 #include "catalogs/game_identification.h"
 
+#include "foundation/padded_item.h"
 #include "tests/catalogs/catalogs_fixture.h"
 
 namespace lv {

@@ -1,5 +1,6 @@
 #include "catalogs/modifications.h"
 
+#include "foundation/padded_item.h"
 #include "tests/catalogs/catalogs_fixture.h"
 
 namespace lv {
@@ -26,6 +27,13 @@ INSTANTIATE_TEST_SUITE_P(
                       TitleCase{"CTF", 3, "Capture the Flag"}, TitleCase{"LMCTF", 3, "Loki's Minions CTF"},
                       TitleCase{"SHRAK", 1, "Shrak"}, TitleCase{"FORTRESS", 1, "Team Fortress"},
                       TitleCase{"ctf", 1, "Capture the Flag"}, TitleCase{"MyMod", 1, "MyMod"}));
+
+TEST(DirectoryOfOption, IsTheNameBehindTheSwitch) {
+    EXPECT_EQ(DirectoryOfOption("-game ctf"), "ctf");
+    EXPECT_EQ(DirectoryOfOption("-game  Team Fortress "), "Team Fortress");
+    EXPECT_EQ(DirectoryOfOption("-game"), "");
+    EXPECT_EQ(DirectoryOfOption(""), "");
+}
 
 class ModificationsTest : public CatalogsTest {
   protected:

@@ -73,12 +73,12 @@ struct StrangersYard {
     }
 
     /// Picks the row that ends so, and ticks its box.
-    void Pick(ListBox LV_Frm::*list, CheckBox LV_Frm::*box, TextView ending, void (*click)(Launcher&)) {
+    void Pick(ListBox LV_Frm::*list, Option option, TextView ending, void (*click)(Launcher&)) {
         const auto& items = (window.*list).Items;
         const auto row = std::ranges::find_if(items, [&](const Text& item) { return item.ends_with(ending); });
         ASSERT_NE(row, items.end()) << "the scan has not found " << ending;
         (window.*list).ListIndex = static_cast<int>(row - items.begin());
-        (window.*box).Value = 1;
+        window.Box(option).Value = 1;
         if (click != nullptr) {
             click(launcher);
         }
@@ -89,7 +89,7 @@ struct StrangersYard {
             user.Expect({"A Command In A Name", "\"" + name + "\" comes from", 1});
         }
     }
-    void PickModification(TextView name) { Pick(&LV_Frm::Game_Cbo, &LV_Frm::Game_Chk, name, Game_Cbo_Click); }
+    void PickModification(TextView name) { Pick(&LV_Frm::Game_Cbo, Option::Game_Chk, name, Game_Cbo_Click); }
 
     /// All files below the drive and beside it that a command of the names above would have made.
     [[nodiscard]] Strings Pwned() const {
@@ -133,9 +133,9 @@ TEST(CommandsOnTheWineRoad, NoMapScriptOrServerOfUnrealIsOne) {
     yard.Unpack({"Maps/x&echo pwned>pwned1.txt&.unr", "System/my&evil&.ini", "System/evil.bat"}, "Unreal");
     Save(yard.run, kOptions, "NetServers", "Bad;10.0&echo srv>srvpwn.txt&.0.1;7777;4;");
     yard.Load("C:\\Unreal\\System\\Unreal.exe");
-    yard.Pick(&LV_Frm::Map_Cbo, &LV_Frm::Map_Chk, "X&ECHO PWNED>PWNED1.TXT&", nullptr);
-    yard.Pick(&LV_Frm::Script_Cbo, &LV_Frm::Script_Chk, "my&evil&.ini", Script_Cbo_Click);
-    yard.Pick(&LV_Frm::Server_Cbo, &LV_Frm::Server_Chk, "10.0&echo srv>srvpwn.txt&.0.1;7777;4;", nullptr);
+    yard.Pick(&LV_Frm::Map_Cbo, Option::Map_Chk, "X&ECHO PWNED>PWNED1.TXT&", nullptr);
+    yard.Pick(&LV_Frm::Script_Cbo, Option::Script_Chk, "my&evil&.ini", Script_Cbo_Click);
+    yard.Pick(&LV_Frm::Server_Cbo, Option::Server_Chk, "10.0&echo srv>srvpwn.txt&.0.1;7777;4;", nullptr);
     DoIt_Cmd_Click(yard.launcher, 0);
     const fs::path system = yard.C / "Unreal/System";
     EXPECT_THAT(ArgumentsIn(system / "output.txt"),
@@ -171,7 +171,7 @@ TEST(CommandsOnTheWineRoad, AHalfLifeServerAndItsPasswordAreOneArgumentEach) {
     fs::create_directories(yard.C / "HL/valve");
     Save(yard.run, kOptions, "NetServers", "Bad;10.0.0.1 +exec evil;27015;9;a&echo pwned>pwned2.txt& b");
     yard.Load("C:\\HL\\hl.exe");
-    yard.Pick(&LV_Frm::Server_Cbo, &LV_Frm::Server_Chk, "b", nullptr);
+    yard.Pick(&LV_Frm::Server_Cbo, Option::Server_Chk, "b", nullptr);
     yard.ExpectQuestionAbout("10.0.0.1 +exec evil:27015");
     DoIt_Cmd_Click(yard.launcher, 0);
     EXPECT_THAT(ArgumentsIn(yard.C / "HL/output.txt"),
@@ -186,7 +186,7 @@ TEST(CommandsOnTheWineRoad, TheUsersOwnAdditionsAreTakenApart) {
     yard.AddGame("show_windows.exe", "Quake/GLQUAKE.EXE");
     fs::create_directories(yard.C / "Quake/id1");
     yard.Load("C:\\Quake\\GLQUAKE.EXE");
-    yard.window.CommandLineAdditions_Chk.Value = 1;
+    yard.window.Box(Option::CommandLineAdditions_Chk).Value = 1;
     yard.window.CommandLineAdditions_Txt.Text = "+name \"my self\" +connect 10.0.0.1";
     DoIt_Cmd_Click(yard.launcher, 0);
     EXPECT_THAT(ArgumentsIn(yard.C / "Quake/output.txt"),
@@ -222,7 +222,7 @@ TEST(CommandsOnTheNativeRoad, NoModificationOrServerIsMoreThanOneArgument) {
         Save(yard.run, kOptions, "NetServers", "Bad;10.0.0.1 +exec evil;27015;9;");
         yard.Load("C:\\HL\\hl.exe");
         yard.PickModification("-game " + name);
-        yard.Pick(&LV_Frm::Server_Cbo, &LV_Frm::Server_Chk, "27015;9;", nullptr);
+        yard.Pick(&LV_Frm::Server_Cbo, Option::Server_Chk, "27015;9;", nullptr);
         yard.ExpectQuestionAbout(name.find('+') != std::string::npos ? name : "10.0.0.1 +exec evil:27015");
         DoIt_Cmd_Click(yard.launcher, 0);
         EXPECT_THAT(ArgumentsIn(yard.C / "HL/output.txt"), ElementsAre("-console", "-zone", "512", "+set", "game", name,

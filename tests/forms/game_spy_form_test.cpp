@@ -155,7 +155,7 @@ TEST_F(GameSpyFlow, SaysWhatToPickWhenNoGameIsPicked) {
     system.Disk.AddFile("C:\\HL\\HL.EXE");
     launcher.Window.Exe_Cbo.Items = {{"Half-Life", "C:\\HL\\HL.EXE", "", ""}};
     launcher.Window.Exe_Cbo.ListIndex = 0;
-    launcher.Window.LaunchQspy_Chk.Value = 1;
+    launcher.Window.Box(Option::LaunchQspy_Chk).Value = 1;
     MessageReader message;
     WhenModal([&message] {
         EXPECT_FALSE(Find("ExeSpy_Cbo(0)")->IsEnabled());

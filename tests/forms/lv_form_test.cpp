@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "foundation/settings.h"
 #include "launcher/start/main_window_load.h"
 #include "launcher/window/lv_events.h"
@@ -28,11 +28,11 @@ namespace {
 
 void ExpectNothingCutOff(const LvForm& form) {
     const wxRect inside = form.GetScreenRect();
-    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
-        const wxWindow* box = Find(option->Name);
+    for (const OptionBox& option : OptionBoxes()) {
+        const wxWindow* box = Find(option.Name);
         if (box->IsShownOnScreen()) {
-            EXPECT_TRUE(inside.Contains(box->GetScreenRect())) << option->Name;
-            EXPECT_GE(box->GetSize().x, box->GetBestSize().x) << option->Name;
+            EXPECT_TRUE(inside.Contains(box->GetScreenRect())) << option.Name;
+            EXPECT_GE(box->GetSize().x, box->GetBestSize().x) << option.Name;
         }
     }
     for (const char* button : {"DoIt_Cmd(0)", "DoIt_Cmd(1)", "DoIt_Cmd(2)"}) {
@@ -177,7 +177,7 @@ TEST_F(LvForm_, ALongRowShowsInFullAsAToolTip) {
     launcher.Window.Demo_Cbo.ListIndex = 0;
     user.Refresh();
     EXPECT_EQ(Find("Demo_Cbo")->GetToolTipText(), wxString(title));
-    launcher.Window.Demo_Cbo.Items = {PadToWidth("None", 100) + "playdemo nodemo.dem"};
+    launcher.Window.Demo_Cbo.Items = {MakeItem("None", "playdemo nodemo.dem")};
     user.Refresh();
     EXPECT_EQ(Find("Demo_Cbo")->GetToolTipText(), "");
 }

@@ -28,7 +28,7 @@ class Configure : public GameSpyTest {
         Save(run, kOptions, "VidCard", "2");
         Load();
         PickExe("C:\\QUAKE\\GLQUAKE.EXE");
-        Click(&LV_Frm::LaunchQspy_Chk, 1);
+        Click(Option::LaunchQspy_Chk, 1);
         launcher.Window.Visible = true;
     }
 
@@ -121,7 +121,7 @@ TEST_F(Configure, WritesScriptBatchAndPifForQuake) {
 }
 
 TEST_F(Configure, TheBatchBeginsWithTheCardsLinesAndNeverShowsThem) {
-    Click(&LV_Frm::ShowSet_Chk, 1);
+    Click(Option::ShowSet_Chk, 1);
     RunFor({0});
     const Text batch = Bytes("C:\\QUAKE\\QSL1_666.bat");
     EXPECT_TRUE(batch.starts_with("SET FX_GLIDE_SWAPINTERVAL=")) << batch;
@@ -266,7 +266,7 @@ TEST_F(Configure, AnIniOfUtf16TextIsReportedAndLeftAlone) {
 }
 
 TEST_F(Configure, MemoryIsWrittenPerBatch) {
-    Click(&LV_Frm::Memory_Chk, 1);
+    Click(Option::Memory_Chk, 1);
     window.Mem_Cbo.ListIndex = 2;
     RunFor({0, 1, 2, 3});
     EXPECT_NE(Bytes("C:\\QUAKE\\QSL1_666.bat").find("GLQUAKE.EXE -winmem 16 -zone"), Text::npos);
@@ -277,7 +277,7 @@ TEST_F(Configure, MemoryIsWrittenPerBatch) {
 
 TEST_F(Configure, TheUsersOwnAdditionReachesTheBatches) {
     window.CommandLineAdditions_Txt.Text = "-mine";
-    Click(&LV_Frm::CommandLineAdditions_Chk, 1);
+    Click(Option::CommandLineAdditions_Chk, 1);
     RunFor({3, 4});
     EXPECT_NE(Bytes("C:\\QUAKE2\\QSL4_666.bat").find("QUAKE2.EXE -zone 512 -mine %1"), Text::npos);
     EXPECT_NE(Bytes("C:\\UNREAL\\SYSTEM\\QSL5_666.bat").find("UNREAL.EXE -mine %1"), Text::npos);
@@ -478,7 +478,7 @@ TEST_F(Configure, MayEndTheProgram) {
 }
 
 TEST_F(Configure, ADedicatedClientStopsItBeforeAnythingIsWritten) {
-    window.Dedicated_Chk.Value = 1;
+    window.Box(Option::Dedicated_Chk).Value = 1;
     user.Expect({"Lorvane 3D", "The '-dedicated' parameter causes a fat GPF"});
     RunFor({0});
     EXPECT_TRUE(system.Registry.Values.empty());
@@ -488,7 +488,7 @@ TEST_F(Configure, ADedicatedClientStopsItBeforeAnythingIsWritten) {
 TEST_F(Configure, ANameThatTheBatchWouldMisreadIsToldBeforeAnythingIsWritten) {
     window.Game_Cbo.Items = {Text("Evil") + Text(96, ' ') + "-game M&CALC"};
     window.Game_Cbo.ListIndex = 0;
-    window.Game_Chk.Value = 1;
+    window.Box(Option::Game_Chk).Value = 1;
     const std::size_t writes = system.Disk.Log.size();
     user.Expect({"Lorvane 3D",
                  "The modification \"m&calc\" comes from the directories of the game.\r\n"

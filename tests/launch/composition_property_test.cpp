@@ -55,29 +55,29 @@ LaunchInput AnyGame(Dice& dice) {
 }
 
 void TickAnything(LaunchSelection& selected, Dice& dice) {
-    for (bool* box : {&selected.LaunchQspy_Chk,
-                      &selected.QSpy_Chk,
-                      &selected.Server_Chk,
-                      &selected.Map_Chk,
-                      &selected.Game_Chk,
-                      &selected.Memory_Chk,
-                      &selected.NOLAN_Chk,
-                      &selected.NOUDP_Chk,
-                      &selected.Script_Chk,
-                      &selected.NOCDAUDIO_Chk,
-                      &selected.Demo_Chk,
-                      &selected.nosound_chk,
-                      &selected.Listen_Chk,
-                      &selected.Bench_Chk,
-                      &selected.ShowSet_Chk,
-                      &selected.UnrealSimulateFirstRun_Chk,
-                      &selected.UnrealDisableLogWindow_Chk,
-                      &selected.UnrealDisableK6Support_Chk,
-                      &selected.UnrealDisableMMXSupport_Chk,
-                      &selected.UnrealNoDirectSound_Chk}) {
-        *box = dice.Toss();
+    for (const Option option : {Option::LaunchQspy_Chk,
+                                Option::QSpy_Chk,
+                                Option::Server_Chk,
+                                Option::Map_Chk,
+                                Option::Game_Chk,
+                                Option::Memory_Chk,
+                                Option::NOLAN_Chk,
+                                Option::NOUDP_Chk,
+                                Option::Script_Chk,
+                                Option::NOCDAUDIO_Chk,
+                                Option::Demo_Chk,
+                                Option::nosound_chk,
+                                Option::Listen_Chk,
+                                Option::Bench_Chk,
+                                Option::ShowSet_Chk,
+                                Option::UnrealSimulateFirstRun_Chk,
+                                Option::UnrealDisableLogWindow_Chk,
+                                Option::UnrealDisableK6Support_Chk,
+                                Option::UnrealDisableMMXSupport_Chk,
+                                Option::UnrealNoDirectSound_Chk}) {
+        selected.Ticked.Set(option, dice.Toss());
     }
-    selected.Dedicated_Chk = dice.Below(5) == 0;
+    selected.Ticked.Set(Option::Dedicated_Chk, dice.Below(5) == 0);
     constexpr TextView kServers[] = {"10.0.0.1;26000;0;", "frag.example;;3;", "frag.example;27015;9;secret", "host"};
     constexpr TextView kMods[] = {"-game ctf", "-game ID1", "-game baseq2", "-game base", "-game valve"};
     constexpr TextView kMemory[] = {"-winmem 8", "-winmem 48"};
@@ -141,7 +141,7 @@ Finished Finish(const LaunchInput& input) {
         AddScriptExec(done.Texts);
     }
     done.Environment = EnvironmentLines(input.Game, input.Profile);
-    done.Batch = BatchText(done.Environment, input.Selected.ShowSet_Chk, ExeDriveOf(input.Selected),
+    done.Batch = BatchText(done.Environment, input.Selected.Ticked.Has(Option::ShowSet_Chk), ExeDriveOf(input.Selected),
                            input.Game.DefaultGameDirectory, done.Texts, input.Game);
     return done;
 }
@@ -282,7 +282,7 @@ TEST(EveryLaunch, HasABatchWithoutALineEndAtItsEnd) {
 
 TEST(EveryLaunch, HasABatchOfSetLinesDriveDirectoryAndCommand) {
     ForEachLaunch([](const LaunchInput& input, const Finished& done) {
-        const Text shown = input.Selected.ShowSet_Chk ? "SET\r\nPAUSE\r\n" : "";
+        const Text shown = input.Selected.Ticked.Has(Option::ShowSet_Chk) ? "SET\r\nPAUSE\r\n" : "";
         const Text start = Join(done.Environment, shown, "C:\r\ncd ", input.Game.DefaultGameDirectory, "\r\n");
         EXPECT_TRUE(done.Batch.starts_with(start));
         EXPECT_TRUE(
@@ -318,14 +318,16 @@ TEST(EveryLaunch, NeverAsksForABitDepth) {
 TEST(EveryLaunch, IsWrappedExactlyForPlainQuakeOnline) {
     ForEachLaunch([](const LaunchInput& input, const Finished& done) {
         const bool plain = input.Selected.ExecutablePath == "C:\\QUAKE\\QUAKE.EXE";
-        const bool online = input.Selected.QSpy_Chk || input.Selected.Server_Chk;
+        const bool online =
+            input.Selected.Ticked.Has(Option::QSpy_Chk) || input.Selected.Ticked.Has(Option::Server_Chk);
         EXPECT_EQ(done.Texts.GameCommand.starts_with("qlaunch "), plain && online);
         EXPECT_FALSE(Has(done.Texts.UnrealCommand, "qlaunch"));
     });
 }
 
 TEST(EveryLaunch, ReachesTheLastStepOfItsComposition) {
-    ForEachLaunch([](const LaunchInput& input, const Finished&) { EXPECT_EQ(input.Compose().LaunchStep, 190); });
+    ForEachLaunch(
+        [](const LaunchInput& input, const Finished&) { EXPECT_EQ(input.Compose().LaunchStep, LaunchStep::StartMap); });
 }
 
 TEST(EveryLaunch, StopsOnlyForADedicatedServer) {
@@ -336,9 +338,9 @@ TEST(EveryLaunch, StopsOnlyForADedicatedServer) {
         const LaunchTexts texts = input.Compose();
         if (texts.Stop) {
             ++stops;
-            EXPECT_TRUE(input.Selected.Dedicated_Chk);
+            EXPECT_TRUE(input.Selected.Ticked.Has(Option::Dedicated_Chk));
             EXPECT_EQ(texts.Stop.Kind, StopKind::Message);
-            EXPECT_EQ(texts.LaunchStep, 90);
+            EXPECT_EQ(texts.LaunchStep, LaunchStep::DedicatedServer);
             EXPECT_FALSE(Has(texts.GameCommand, "dedicated"));
         }
     }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <vector>
 
 #include "tests/support/launch_input.h"
 
@@ -62,43 +63,43 @@ Change Driver(Index driver) {
     };
 }
 
-template <bool LaunchSelection::*Box>
+template <Option Box>
 void Tick(In& in) {
-    in.Selected.*Box = true;
+    in.Selected.Ticked.Set(Box);
 }
 
 void PickMap(In& in) {
-    in.Selected.Map_Chk = true;
+    in.Selected.Ticked.Set(Option::Map_Chk);
     in.Selected.Map = "DmDeck16";
 }
 
 void PickDemo(In& in) {
-    in.Selected.Demo_Chk = true;
+    in.Selected.Ticked.Set(Option::Demo_Chk);
     in.Selected.Demo = "playdemo demo1.dem";
 }
 
 void PickServer(In& in) {
-    in.Selected.Server_Chk = true;
+    in.Selected.Ticked.Set(Option::Server_Chk);
     in.Selected.Server = "10.0.0.1;26000;0;";
 }
 
 void FetchServer(In& in) {
-    in.Selected.QSpy_Chk = true;
+    in.Selected.Ticked.Set(Option::QSpy_Chk);
     in.Hooks.GameSpyFetch = [] { return std::optional<Text>("10.0.0.2:27500"); };
 }
 
 void PickScript(In& in) {
-    in.Selected.Script_Chk = true;
+    in.Selected.Ticked.Set(Option::Script_Chk);
     in.Selected.Script = "C:\\QUAKE\\ID1\\my.cfg";
 }
 
 void PickMod(In& in) {
-    in.Selected.Game_Chk = true;
+    in.Selected.Ticked.Set(Option::Game_Chk);
     in.Selected.Game = "-game CTF";
 }
 
 void PickMemory(In& in) {
-    in.Selected.Memory_Chk = true;
+    in.Selected.Ticked.Set(Option::Memory_Chk);
     in.Selected.Memory = "-winmem 16";
 }
 
@@ -108,8 +109,6 @@ void NoCard(In& in) {
 void WindowedProfile(In& in) {
     in.Profile.Windowed = 1;
 }
-
-using S = LaunchSelection;
 
 constexpr const char* kQuake = "WINQUAKE.EXE -zone 512 ";
 constexpr const char* kQuakeOnly = "WINQUAKE.EXE ";
@@ -128,12 +127,12 @@ const RowCase kRowCases[] = {
      "connect 10.0.0.1:26000\r\n"},
     {"Row2_Unreal", UnrealLaunch, PickMap, kUnrealOnly, "UNREAL.EXE dmdeck16.unr ", "", ""},
     {"Row2_NotWhenNotTicked", UnrealLaunch, [](In& in) { in.Selected.Map = "X"; }, kUnrealOnly, kUnrealOnly, "", ""},
-    {"Row2_NotWithoutAMap", UnrealLaunch, Tick<&S::Map_Chk>, kUnrealOnly, kUnrealOnly, "", ""},
-    {"Row3", UnrealLaunch, Tick<&S::UnrealNoDirectSound_Chk>, kUnrealOnly, "UNREAL.EXE -nodsound ", "", ""},
-    {"Row4", UnrealLaunch, Tick<&S::UnrealSimulateFirstRun_Chk>, kUnrealOnly, "UNREAL.EXE -firstrun ", "", ""},
-    {"Row5", UnrealLaunch, Tick<&S::UnrealDisableLogWindow_Chk>, kUnrealOnly, "UNREAL.EXE -nologwin ", "", ""},
-    {"Row6", UnrealLaunch, Tick<&S::UnrealDisableK6Support_Chk>, kUnrealOnly, "UNREAL.EXE -nok6 ", "", ""},
-    {"Row7", UnrealLaunch, Tick<&S::UnrealDisableMMXSupport_Chk>, kUnrealOnly, "UNREAL.EXE -nommx ", "", ""},
+    {"Row2_NotWithoutAMap", UnrealLaunch, Tick<Option::Map_Chk>, kUnrealOnly, kUnrealOnly, "", ""},
+    {"Row3", UnrealLaunch, Tick<Option::UnrealNoDirectSound_Chk>, kUnrealOnly, "UNREAL.EXE -nodsound ", "", ""},
+    {"Row4", UnrealLaunch, Tick<Option::UnrealSimulateFirstRun_Chk>, kUnrealOnly, "UNREAL.EXE -firstrun ", "", ""},
+    {"Row5", UnrealLaunch, Tick<Option::UnrealDisableLogWindow_Chk>, kUnrealOnly, "UNREAL.EXE -nologwin ", "", ""},
+    {"Row6", UnrealLaunch, Tick<Option::UnrealDisableK6Support_Chk>, kUnrealOnly, "UNREAL.EXE -nok6 ", "", ""},
+    {"Row7", UnrealLaunch, Tick<Option::UnrealDisableMMXSupport_Chk>, kUnrealOnly, "UNREAL.EXE -nommx ", "", ""},
     {"Row8", UnrealLaunch, NoCard, kUnrealOnly, "UNREAL.EXE -nohard ", "", ""},
     {"Row8_AnyGame", Quake, NoCard, kQuake, "WINQUAKE.EXE -nohard ", "", ""},
     {"Row10", HalfLifeLaunch, {}, "HL.EXE -console -zone 512 ", "HL.EXE ", "", ""},
@@ -145,7 +144,7 @@ const RowCase kRowCases[] = {
     {"Row13", Quake, PickMemory, "WINQUAKE.EXE -zone 512 -heapsize 16384 ", kQuakeOnly, "", ""},
     {"Row13_NotForTheQuake2Family", Quake2Launch, PickMemory, kQ2, kQ2Only, "", ""},
     {"Row13_NotForUnreal", UnrealLaunch, PickMemory, kUnrealOnly, kUnrealOnly, "", ""},
-    {"Row13_NotWithoutASize", Quake, Tick<&S::Memory_Chk>, kQuake, kQuakeOnly, "", ""},
+    {"Row13_NotWithoutASize", Quake, Tick<Option::Memory_Chk>, kQuake, kQuakeOnly, "", ""},
     {"Row14", Quake, Resolution(4), "WINQUAKE.EXE -zone 512 -width 640 ", kQuakeOnly, "", ""},
     {"Row14_FirstResolution", Quake, Resolution(0), "WINQUAKE.EXE -zone 512 -width 640 ", kQuakeOnly, "", ""},
     {"Row14_NotWithoutAPosition", Quake, Resolution(-1), kQuake, kQuakeOnly, "", ""},
@@ -158,21 +157,21 @@ const RowCase kRowCases[] = {
     {"Row16_Row23_Quake", Quake, WindowedProfile, "WINQUAKE.EXE -zone 512 -window ", kQuakeOnly,
      "_windowed_mouse 1\r\n", "set _windowed_mouse 1\r\n"},
     {"Row16_Row23_NotForUnreal", UnrealLaunch, WindowedProfile, kUnrealOnly, kUnrealOnly, "", ""},
-    {"Row17", Quake, Tick<&S::NOLAN_Chk>, "WINQUAKE.EXE -zone 512 -nolan ", kQuakeOnly, "", ""},
-    {"Row18", Quake, Tick<&S::NOUDP_Chk>, "WINQUAKE.EXE -zone 512 -noudp ", kQuakeOnly, "", ""},
+    {"Row17", Quake, Tick<Option::NOLAN_Chk>, "WINQUAKE.EXE -zone 512 -nolan ", kQuakeOnly, "", ""},
+    {"Row18", Quake, Tick<Option::NOUDP_Chk>, "WINQUAKE.EXE -zone 512 -noudp ", kQuakeOnly, "", ""},
     {"Row19", Quake, PickScript, kQuake, kQuakeOnly, "exec my.cfg\r\n", "exec my.cfg\r\n"},
     {"Row19_NotWithGameSpy", Quake, [](In& in) {
          PickScript(in);
-         in.Selected.LaunchQspy_Chk = true;
+         in.Selected.Ticked.Set(Option::LaunchQspy_Chk);
      }, kQuake, kQuakeOnly, "", ""},
-    {"Row20", Quake, Tick<&S::NOCDAUDIO_Chk>, "WINQUAKE.EXE -zone 512 -nocdaudio ", kQuakeOnly, "", ""},
-    {"Row20_Quake2", Quake2Launch, Tick<&S::NOCDAUDIO_Chk>, kQ2, kQ2Only, "", "set cd_nocd 1\r\n"},
+    {"Row20", Quake, Tick<Option::NOCDAUDIO_Chk>, "WINQUAKE.EXE -zone 512 -nocdaudio ", kQuakeOnly, "", ""},
+    {"Row20_Quake2", Quake2Launch, Tick<Option::NOCDAUDIO_Chk>, kQ2, kQ2Only, "", "set cd_nocd 1\r\n"},
     {"Row21", Quake, Used("GL_ROUND_DOWN", "1", 1), "WINQUAKE.EXE -zone 512 +GL_ROUND_DOWN 1 ", kQuakeOnly, "", ""},
     {"Row21_Quake2", Quake2Launch, Used("GL_ROUND_DOWN", "0"), "QUAKE2.EXE -zone 512 +gl_round_down 0 ", kQ2Only,
      "", ""},
     {"Row21_NotInSoftware", Quake, UsedInSoftware("GL_ROUND_DOWN", "1"), kQuake, kQuakeOnly, "", ""},
     {"Row21_NotWithoutAnItem", Quake, Used("GL_ROUND_DOWN", "1", -1), kQuake, kQuakeOnly, "", ""},
-    {"Row22", Quake, Tick<&S::Dedicated_Chk>, "WINQUAKE.EXE -zone 512 -dedicated ", kQuakeOnly, "", ""},
+    {"Row22", Quake, Tick<Option::Dedicated_Chk>, "WINQUAKE.EXE -zone 512 -dedicated ", kQuakeOnly, "", ""},
     {"Row24", Quake, Used("Shadows", "1", 1), kQuake, kQuakeOnly, "r_shadows 1\r\n", ""},
     {"Row24_Quake2", Quake2Launch, Used("Shadows", "1", 1), "QUAKE2.EXE -zone 512 +set gl_shadows 1 ", kQ2Only,
      "", ""},
@@ -214,16 +213,16 @@ const RowCase kRowCases[] = {
          in.Game.ScriptFamily = 0;
      }, kQuake, kQuakeOnly, "", ""},
     {"Row36", Quake, PickDemo, kQuake, kQuakeOnly, "playdemo demo1.dem\r\n", "playdemo demo1.dem\r\n"},
-    {"Row36_NotWithoutADemo", Quake, Tick<&S::Demo_Chk>, kQuake, kQuakeOnly, "", ""},
+    {"Row36_NotWithoutADemo", Quake, Tick<Option::Demo_Chk>, kQuake, kQuakeOnly, "", ""},
     {"Row36_NotForUnreal", UnrealLaunch, PickDemo, kUnrealOnly, kUnrealOnly, "", ""},
     {"Row37", Quake2Launch, Resolution(3), kQ2, kQ2Only, "", "set sw_mode \"3\"\r\nset gl_mode \"3\"\r\n"},
     {"Row37_FirstMode", Quake2Launch, Resolution(0), kQ2, kQ2Only, "",
      "set sw_mode \"0\"\r\nset gl_mode \"0\"\r\n"},
     {"Row37_NotWithoutAPosition", Quake2Launch, Resolution(-1), kQ2, kQ2Only, "", ""},
-    {"Row38", Quake, Tick<&S::nosound_chk>, kQuake, kQuakeOnly, "nosound 1\r\n", ""},
-    {"Row38_Quake2", Quake2Launch, Tick<&S::nosound_chk>, "QUAKE2.EXE -zone 512 +set s_initsound 0 ", kQ2Only,
+    {"Row38", Quake, Tick<Option::nosound_chk>, kQuake, kQuakeOnly, "nosound 1\r\n", ""},
+    {"Row38_Quake2", Quake2Launch, Tick<Option::nosound_chk>, "QUAKE2.EXE -zone 512 +set s_initsound 0 ", kQ2Only,
      "", ""},
-    {"Row38_HasNoEffectForUnreal", UnrealLaunch, Tick<&S::nosound_chk>, kUnrealOnly, kUnrealOnly, "", ""},
+    {"Row38_HasNoEffectForUnreal", UnrealLaunch, Tick<Option::nosound_chk>, kUnrealOnly, kUnrealOnly, "", ""},
     {"Row39_Driver0", Quake2Launch, Driver(0), kQ2, kQ2Only, "",
      "set vid_ref \"soft\"\r\nset vid_fullscreen \"0\"\r\nset vid_xpos \"50\"\r\nset vid_ypos \"50\"\r\n"},
     {"Row39_Driver1", Quake2Launch, Driver(1), kQ2, kQ2Only, "",
@@ -247,27 +246,27 @@ const RowCase kRowCases[] = {
     {"Row39_NotBeyond7", Quake2Launch, Driver(8), kQ2, kQ2Only, "", ""},
     {"Row39_NotWithoutADriver", Quake2Launch, Driver(-1), kQ2, kQ2Only, "", ""},
     {"Row39_NotForTheQuakeFamily", Quake, Driver(1), kQuake, kQuakeOnly, "", ""},
-    {"Row40", Quake, Tick<&S::Listen_Chk>, "WINQUAKE.EXE -zone 512 -listen ", kQuakeOnly, "", ""},
-    {"Row40_Quake2", Quake2Launch, Tick<&S::Listen_Chk>, kQ2, kQ2Only, "", "set deathmatch 1\r\n"},
-    {"Row40_UnrealOnlyInTheUnusedCommand", UnrealLaunch, Tick<&S::Listen_Chk>, "UNREAL.EXE -listen ", kUnrealOnly,
+    {"Row40", Quake, Tick<Option::Listen_Chk>, "WINQUAKE.EXE -zone 512 -listen ", kQuakeOnly, "", ""},
+    {"Row40_Quake2", Quake2Launch, Tick<Option::Listen_Chk>, kQ2, kQ2Only, "", "set deathmatch 1\r\n"},
+    {"Row40_UnrealOnlyInTheUnusedCommand", UnrealLaunch, Tick<Option::Listen_Chk>, "UNREAL.EXE -listen ", kUnrealOnly,
      "", ""},
     {"Row41", Quake, PickServer, kQuake, kQuakeOnly, "connect 10.0.0.1:26000\r\n", "connect 10.0.0.1:26000\r\n"},
-    {"Row41_NotWithoutAServer", Quake, Tick<&S::Server_Chk>, kQuake, kQuakeOnly, "", ""},
+    {"Row41_NotWithoutAServer", Quake, Tick<Option::Server_Chk>, kQuake, kQuakeOnly, "", ""},
     {"Row42", Quake, FetchServer, kQuake, kQuakeOnly, "connect 10.0.0.2:27500\r\n", "connect 10.0.0.2:27500\r\n"},
     {"Row43", Quake, PickMap, kQuake, kQuakeOnly, "map dmdeck16\r\n", "map dmdeck16\r\n"},
-    {"Row44", Quake, Tick<&S::Bench_Chk>, kQuake, kQuakeOnly,
+    {"Row44", Quake, Tick<Option::Bench_Chk>, kQuake, kQuakeOnly,
      "clear\r\nsizeup;sizeup;sizeup;sizeup;sizeup;sizeup;sizeup;sizeup;sizeup;sizeup\r\nvid_mode 0\r\n"
      "timedemo demo2\r\n",
      "viewsize 120\r\ntimedemo 1\r\ndemomap demo1.dm2\r\n"},
     {"Row44_NotWithGameSpysServer", Quake, [](In& in) {
-         in.Selected.Bench_Chk = true;
-         in.Selected.QSpy_Chk = true;
+         in.Selected.Ticked.Set(Option::Bench_Chk);
+         in.Selected.Ticked.Set(Option::QSpy_Chk);
      }, kQuake, kQuakeOnly, "", ""},
     {"Row44_NotWithGameSpy", Quake, [](In& in) {
-         in.Selected.Bench_Chk = true;
-         in.Selected.LaunchQspy_Chk = true;
+         in.Selected.Ticked.Set(Option::Bench_Chk);
+         in.Selected.Ticked.Set(Option::LaunchQspy_Chk);
      }, kQuake, kQuakeOnly, "", ""},
-    {"Row44_NeverForUnreal", UnrealLaunch, Tick<&S::Bench_Chk>, kUnrealOnly, kUnrealOnly, "", ""},
+    {"Row44_NeverForUnreal", UnrealLaunch, Tick<Option::Bench_Chk>, kUnrealOnly, kUnrealOnly, "", ""},
 };
 // clang-format on
 
@@ -285,41 +284,57 @@ TEST_P(EachRow, AddsWhatItSays) {
     EXPECT_EQ(texts.QuakeScript, expected.QuakeScript);
     EXPECT_EQ(texts.Quake2Script, expected.Quake2Script);
     EXPECT_FALSE(texts.Stop);
-    EXPECT_EQ(texts.LaunchStep, 190);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::StartMap);
 }
 
 INSTANTIATE_TEST_SUITE_P(Composition, EachRow, testing::ValuesIn(kRowCases),
                          [](const auto& info) { return Text(info.param.Name); });
 
-TEST(CompositionRows, AreNumberedFromOneInTheOrderOfTheirSteps) {
-    int number = 0;
+/// Row 1 is the first of the table.
+int NumberOf(const CompositionRow& row) {
+    return static_cast<int>(&row - CompositionRows().data()) + 1;
+}
+
+TEST(CompositionRows, StandInTheOrderOfTheirSteps) {
     int step = 0;
     for (const CompositionRow& row : CompositionRows()) {
-        EXPECT_EQ(row.Row, ++number);
-        EXPECT_GE(row.Step, step) << row.Row;
-        step = row.Step;
+        EXPECT_GE(static_cast<int>(row.Step), step) << NumberOf(row);
+        step = static_cast<int>(row.Step);
     }
-    EXPECT_EQ(number, 46);
+    EXPECT_EQ(CompositionRows().size(), 46u);
 }
 
 TEST(CompositionRows, HaveTheirSteps) {
-    const int expected[] = {20,  40,  40,  40,  40,  40,  40,  40,  40,  40,  40,  40,  50,  60,  70,  80,
-                            80,  80,  80,  80,  80,  90,  100, 110, 110, 110, 110, 110, 110, 110, 110, 110,
-                            110, 110, 110, 110, 120, 120, 120, 130, 130, 140, 190, 190, 205, 205};
+    const std::vector<int> expected = {20,  40,  40,  40,  40,  40,  40,  40,  40,  40,  40,  40,  50,  60,  70,  80,
+                                       80,  80,  80,  80,  80,  90,  100, 110, 110, 110, 110, 110, 110, 110, 110, 110,
+                                       110, 110, 110, 110, 120, 120, 120, 130, 130, 140, 190, 190, 205, 205};
+    std::vector<int> steps;
     for (const CompositionRow& row : CompositionRows()) {
-        EXPECT_EQ(row.Step, expected[row.Row - 1]) << row.Row;
+        steps.push_back(static_cast<int>(row.Step));
     }
+    EXPECT_EQ(steps, expected);
 }
 
 TEST(CompositionRows, From23To39AreNotForUnreal) {
     for (const CompositionRow& row : CompositionRows()) {
-        EXPECT_EQ(row.Games == CompositionScope::NotUnreal, row.Row >= 23 && row.Row <= 39) << row.Row;
+        const int number = NumberOf(row);
+        EXPECT_EQ(row.Games == CompositionScope::NotUnreal, number >= 23 && number <= 39) << number;
+    }
+}
+
+TEST(CompositionRows, RunOneBeforeTheScriptIsWrittenAndTheLastOnceItHasBeen) {
+    for (const CompositionRow& row : CompositionRows()) {
+        const int number = NumberOf(row);
+        const CompositionTime expected = number == 45   ? CompositionTime::BeforeScript
+                                         : number == 46 ? CompositionTime::ScriptWritten
+                                                        : CompositionTime::Composition;
+        EXPECT_EQ(row.Time, expected) << number;
     }
 }
 
 TEST(CompositionRows, AskOnlyForTunablesThatThereAre) {
     for (const CompositionRow& row : CompositionRows()) {
-        EXPECT_TRUE(row.Tunable == nullptr || FindTunable(row.Tunable) != nullptr) << row.Row;
+        EXPECT_TRUE(row.Tunable == nullptr || FindTunable(row.Tunable) != nullptr) << NumberOf(row);
     }
 }
 

@@ -9,9 +9,9 @@ namespace {
 
 /// A script, 16 megabytes, 640 across, Voodoo, gl_polyblend off.
 void SetUpExample(LaunchInput& input, TextView scriptPath) {
-    input.Selected.Script_Chk = true;
+    input.Selected.Ticked.Set(Option::Script_Chk);
     input.Selected.Script = scriptPath;
-    input.Selected.Memory_Chk = true;
+    input.Selected.Ticked.Set(Option::Memory_Chk);
     input.Selected.Memory = "-winmem 16";
     input.Profile.UseRez = 1;
     input.Profile.ResolutionsPos = 4;
@@ -32,9 +32,9 @@ TEST(ComposeLaunch, QuakeWithScriptMemoryAndResolution) {
 TEST(ComposeLaunch, Quake2WithTheSameAModAndAServer) {
     LaunchInput input = Quake2Launch();
     SetUpExample(input, "C:\\QUAKE2\\BASEQ2\\my.cfg");
-    input.Selected.Game_Chk = true;
+    input.Selected.Ticked.Set(Option::Game_Chk);
     input.Selected.Game = "-game ctf";
-    input.Selected.Server_Chk = true;
+    input.Selected.Ticked.Set(Option::Server_Chk);
     input.Selected.Server = "10.0.0.1;27910;3;";
     LaunchTexts texts = input.Compose();
     AddScriptExec(texts);
@@ -58,13 +58,13 @@ TEST(ComposeLaunch, HalfLifeOpensItsConsole) {
 TEST(ComposeLaunch, UnrealWithMapSwitchesAndIni) {
     LaunchInput input = UnrealLaunch();
     SetUpExample(input, "C:\\Unreal\\System\\my.ini");
-    input.Selected.Map_Chk = true;
+    input.Selected.Ticked.Set(Option::Map_Chk);
     input.Selected.Map = "DmDeck16";
-    input.Selected.UnrealNoDirectSound_Chk = true;
-    input.Selected.UnrealSimulateFirstRun_Chk = true;
-    input.Selected.UnrealDisableLogWindow_Chk = true;
-    input.Selected.UnrealDisableK6Support_Chk = true;
-    input.Selected.UnrealDisableMMXSupport_Chk = true;
+    input.Selected.Ticked.Set(Option::UnrealNoDirectSound_Chk);
+    input.Selected.Ticked.Set(Option::UnrealSimulateFirstRun_Chk);
+    input.Selected.Ticked.Set(Option::UnrealDisableLogWindow_Chk);
+    input.Selected.Ticked.Set(Option::UnrealDisableK6Support_Chk);
+    input.Selected.Ticked.Set(Option::UnrealDisableMMXSupport_Chk);
     input.Game.VidCard = 0;
     const LaunchTexts texts = input.Compose();
     EXPECT_EQ(texts.UnrealCommand,
@@ -76,15 +76,15 @@ TEST(ComposeLaunch, UnrealWithMapSwitchesAndIni) {
 TEST(ComposeLaunch, EverythingAtOnceStandsInTheOrderOfTheRows) {
     LaunchInput input = QuakeLaunch("WINQUAKE.EXE");
     SetUpExample(input, "C:\\QUAKE\\ID1\\my.cfg");
-    input.Selected.Game_Chk = true;
+    input.Selected.Ticked.Set(Option::Game_Chk);
     input.Selected.Game = "-game ctf";
-    input.Selected.NOLAN_Chk = true;
-    input.Selected.NOUDP_Chk = true;
-    input.Selected.NOCDAUDIO_Chk = true;
-    input.Selected.Dedicated_Chk = true;
-    input.Selected.Listen_Chk = true;
-    input.Selected.nosound_chk = true;
-    input.Selected.Map_Chk = true;
+    input.Selected.Ticked.Set(Option::NOLAN_Chk);
+    input.Selected.Ticked.Set(Option::NOUDP_Chk);
+    input.Selected.Ticked.Set(Option::NOCDAUDIO_Chk);
+    input.Selected.Ticked.Set(Option::Dedicated_Chk);
+    input.Selected.Ticked.Set(Option::Listen_Chk);
+    input.Selected.Ticked.Set(Option::nosound_chk);
+    input.Selected.Ticked.Set(Option::Map_Chk);
     input.Selected.Map = "START";
     input.Profile.Windowed = 1;
     Use(input.Profile, "GL_ROUND_DOWN", "1");
@@ -110,34 +110,34 @@ TEST(ComposeLaunch, ThePrefixIsTheExecutableAndItsBlank) {
 
 TEST(ComposeLaunch, ThePrefixHoldsTheWrapper) {
     LaunchInput input = QuakeLaunch("QUAKE.EXE");
-    input.Selected.Server_Chk = true;
+    input.Selected.Ticked.Set(Option::Server_Chk);
     const LaunchTexts texts = input.Compose();
     EXPECT_EQ(texts.GameCommand.substr(0, texts.PrefixLength),
               "qlaunch quakeudp.dll QUAKE.EXE -noipx -noserial -mpath ");
 }
 
-TEST(ComposeLaunch, EndsAtStep190) {
-    EXPECT_EQ(QuakeLaunch().Compose().LaunchStep, 190);
-    EXPECT_EQ(UnrealLaunch().Compose().LaunchStep, 190);
+TEST(ComposeLaunch, EndsAtTheStepOfTheStartMap) {
+    EXPECT_EQ(QuakeLaunch().Compose().LaunchStep, LaunchStep::StartMap);
+    EXPECT_EQ(UnrealLaunch().Compose().LaunchStep, LaunchStep::StartMap);
 }
 
 TEST(AddCommandLineAdditions, StandTrimmedAtTheEndAndRightBehindUnrealsExecutable) {
     LaunchInput input = UnrealLaunch();
-    input.Selected.UnrealDisableMMXSupport_Chk = true;
-    input.Selected.CommandLineAdditions_Chk = true;
+    input.Selected.Ticked.Set(Option::UnrealDisableMMXSupport_Chk);
+    input.Selected.Ticked.Set(Option::CommandLineAdditions_Chk);
     input.Selected.CommandLineAdditions_Txt = "  -log now ";
     LaunchTexts texts = input.Compose();
     AddCommandLineAdditions(input.Selected, texts);
     EXPECT_EQ(texts.UnrealCommand, "UNREAL.EXE -log now -nommx ");
     EXPECT_EQ(texts.GameCommand, "UNREAL.EXE -log now ");
-    EXPECT_EQ(texts.LaunchStep, 205);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::LaunchScript);
 }
 
 TEST(AddCommandLineAdditions, StandBeforeTheServerOfUnreal) {
     LaunchInput input = UnrealLaunch();
-    input.Selected.Server_Chk = true;
+    input.Selected.Ticked.Set(Option::Server_Chk);
     input.Selected.Server = "frag.example;7777;4;";
-    input.Selected.CommandLineAdditions_Chk = true;
+    input.Selected.Ticked.Set(Option::CommandLineAdditions_Chk);
     input.Selected.CommandLineAdditions_Txt = "-log";
     LaunchTexts texts = input.Compose();
     AddCommandLineAdditions(input.Selected, texts);
@@ -147,8 +147,8 @@ TEST(AddCommandLineAdditions, StandBeforeTheServerOfUnreal) {
 TEST(AddCommandLineAdditions, StandBehindTheNameOfAnExecutableOfAnotherEnding) {
     LaunchInput input = UnrealLaunch();
     input.Selected.ExecutablePath = "C:\\Unreal\\System\\unreal-bin";
-    input.Selected.UnrealDisableMMXSupport_Chk = true;
-    input.Selected.CommandLineAdditions_Chk = true;
+    input.Selected.Ticked.Set(Option::UnrealDisableMMXSupport_Chk);
+    input.Selected.Ticked.Set(Option::CommandLineAdditions_Chk);
     input.Selected.CommandLineAdditions_Txt = "-log";
     LaunchTexts texts = input.Compose();
     AddCommandLineAdditions(input.Selected, texts);
@@ -162,7 +162,7 @@ TEST(AddCommandLineAdditions, AreLeftOutWhenNotTicked) {
     AddCommandLineAdditions(input.Selected, texts);
     EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 ");
     EXPECT_EQ(texts.UnrealCommand, "GLQUAKE.EXE ");
-    EXPECT_EQ(texts.LaunchStep, 205);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::LaunchScript);
 }
 
 TEST(AddScriptExec, StandsAtTheEndOfTheGamesCommandOnly) {

@@ -24,9 +24,9 @@ LaunchTexts ScriptsOf(TextView quake, TextView quake2) {
 
 /// A launch that uses a bit of everything: a script, 16 megabytes, 640 across, Glide and OpenGL settings.
 LaunchInput Example(LaunchInput input, TextView scriptPath) {
-    input.Selected.Script_Chk = true;
+    input.Selected.Ticked.Set(Option::Script_Chk);
     input.Selected.Script = scriptPath;
-    input.Selected.Memory_Chk = true;
+    input.Selected.Ticked.Set(Option::Memory_Chk);
     input.Selected.Memory = "-winmem 16";
     input.Profile.UseRez = 1;
     input.Profile.ResolutionsPos = 4;
@@ -49,7 +49,7 @@ Written FilesOf(const LaunchInput& input) {
     if (!files.Script.empty()) {
         AddScriptExec(texts);
     }
-    files.Batch = BatchText(EnvironmentLines(input.Game, input.Profile), input.Selected.ShowSet_Chk,
+    files.Batch = BatchText(EnvironmentLines(input.Game, input.Profile), input.Selected.Ticked.Has(Option::ShowSet_Chk),
                             ExeDriveOf(input.Selected), input.Game.DefaultGameDirectory, texts, input.Game);
     return files;
 }
@@ -193,8 +193,11 @@ std::vector<Text> GivenOf(const LaunchInput& input) {
 }
 
 LaunchInput WithNames(LaunchInput input) {
-    input.Selected.Game_Chk = input.Selected.Map_Chk = input.Selected.Script_Chk = true;
-    input.Selected.Server_Chk = input.Selected.CommandLineAdditions_Chk = true;
+    input.Selected.Ticked.Set(Option::Game_Chk);
+    input.Selected.Ticked.Set(Option::Map_Chk);
+    input.Selected.Ticked.Set(Option::Script_Chk);
+    input.Selected.Ticked.Set(Option::Server_Chk);
+    input.Selected.Ticked.Set(Option::CommandLineAdditions_Chk);
     input.Selected.Game = "-game 512 -GAME";
     input.Selected.Map = "START HERE";
     input.Selected.Server = "10.0.0.1;27500;0;\"my secret\"";
@@ -233,15 +236,15 @@ TEST(CommandOfBatch, KnowsPasswordAndServerOfHalfLife) {
     EXPECT_EQ(GivenOf(WithNames(HalfLifeLaunch())),
               (Strings{"512 -game|512 -game", "\"my secret\"|my secret", "10.0.0.1:27500|10.0.0.1:27500"}));
     LaunchInput input = WithNames(HalfLifeLaunch());
-    input.Selected.Server_Chk = false;
-    input.Selected.QSpy_Chk = true;
+    input.Selected.Ticked.Set(Option::Server_Chk, false);
+    input.Selected.Ticked.Set(Option::QSpy_Chk);
     input.Hooks.GameSpyFetch = [] { return std::optional<Text>("10.0.0.2:27015"); };
     EXPECT_EQ(GivenOf(input), (Strings{"512 -game|512 -game", "10.0.0.2:27015|10.0.0.2:27015"}));
 }
 
 TEST(CommandOfBatch, KnowsNoWordWhereAServerHasNoName) {
     for (LaunchInput input : {HalfLifeLaunch(), UnrealLaunch()}) {
-        input.Selected.Server_Chk = true;
+        input.Selected.Ticked.Set(Option::Server_Chk);
         input.Selected.Server = ";;0;";
         EXPECT_EQ(GivenOf(input), Strings());
     }
@@ -249,7 +252,7 @@ TEST(CommandOfBatch, KnowsNoWordWhereAServerHasNoName) {
 
 TEST(CommandOfBatch, LeavesAnOptionThatTheUserHasTypedToTheUser) {
     LaunchInput input = QuakeLaunch();
-    input.Selected.Game_Chk = true;
+    input.Selected.Ticked.Set(Option::Game_Chk);
     input.Selected.Game = "-hipnotic -game x";
     EXPECT_EQ(GivenOf(input), Strings());
 }

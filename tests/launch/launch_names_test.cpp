@@ -33,8 +33,11 @@ std::optional<Text> Misread(const LaunchInput& input, LineReader reader) {
 }
 
 void TickAll(LaunchInput& input) {
-    input.Selected.Game_Chk = input.Selected.Map_Chk = input.Selected.Script_Chk = true;
-    input.Selected.Demo_Chk = input.Selected.Server_Chk = true;
+    input.Selected.Ticked.Set(Option::Game_Chk);
+    input.Selected.Ticked.Set(Option::Map_Chk);
+    input.Selected.Ticked.Set(Option::Script_Chk);
+    input.Selected.Ticked.Set(Option::Demo_Chk);
+    input.Selected.Ticked.Set(Option::Server_Chk);
     input.Selected.Game = "-game CTF";
     input.Selected.Map = "START";
     input.Selected.Script = "C:\\QUAKE\\ID1\\my own.cfg";
@@ -78,15 +81,18 @@ TEST(NamesOf, ListsWhatIsPickedForUnrealInTheOrderOfItsCommand) {
 TEST(NamesOf, LeavesOutWhatIsNotTicked) {
     LaunchInput input = QuakeLaunch();
     TickAll(input);
-    input.Selected.Game_Chk = input.Selected.Map_Chk = input.Selected.Script_Chk = false;
-    input.Selected.Demo_Chk = input.Selected.Server_Chk = false;
+    input.Selected.Ticked.Set(Option::Game_Chk, false);
+    input.Selected.Ticked.Set(Option::Map_Chk, false);
+    input.Selected.Ticked.Set(Option::Script_Chk, false);
+    input.Selected.Ticked.Set(Option::Demo_Chk, false);
+    input.Selected.Ticked.Set(Option::Server_Chk, false);
     EXPECT_THAT(Shown(input),
                 ElementsAre("directory=C:\\QUAKE|C:\\QUAKE", "executable=GLQUAKE.EXE|GLQUAKE.EXE|command"));
 }
 
 TEST(NamesOf, LeavesOutAnOptionThatTheUserHasTyped) {
     LaunchInput input = QuakeLaunch();
-    input.Selected.Game_Chk = true;
+    input.Selected.Ticked.Set(Option::Game_Chk);
     input.Selected.Game = "-hipnotic -game x & y";
     EXPECT_THAT(Shown(input),
                 ElementsAre("directory=C:\\QUAKE|C:\\QUAKE", "executable=GLQUAKE.EXE|GLQUAKE.EXE|command"));
@@ -205,14 +211,14 @@ TEST(MisreadName, NoReaderTakesALineEndInTheFirstWordOfADemo) {
         for (const char* const demo :
              {"demomap\nquit x", "demomap\x01 x", "demomap;quit x", "demomap\"quit x", "quit\ny"}) {
             LaunchInput input = Quake2Launch();
-            input.Selected.Demo_Chk = true;
+            input.Selected.Ticked.Set(Option::Demo_Chk);
             input.Selected.Demo = demo;
             EXPECT_THAT(Misread(input, reader).value_or("nothing"), HasSubstr(" comes from the list of demos.\r\n"))
                 << demo;
         }
     }
     LaunchInput input = Quake2Launch();
-    input.Selected.Demo_Chk = true;
+    input.Selected.Ticked.Set(Option::Demo_Chk);
     input.Selected.Demo = "demomap\nquit x";
     EXPECT_THAT(Misread(input, LineReader::kNobody).value_or("nothing"),
                 HasSubstr("The demo \"demomap?quit x\" comes from the list of demos.\r\nA command line would"));
@@ -285,7 +291,7 @@ TEST(CommandQuestion, NamesWhatAGameMightTakeForAnOption) {
 
 TEST(MisreadName, CutsALongName) {
     LaunchInput input = QuakeLaunch();
-    input.Selected.Map_Chk = true;
+    input.Selected.Ticked.Set(Option::Map_Chk);
     input.Selected.Map = Text(5000, 'x') + "&";
     const Text said = Misread(input, LineReader::kCommandProcessor).value_or("");
     EXPECT_THAT(said, HasSubstr("The map \"" + Text(200, 'x') + "...\" comes"));

@@ -8,7 +8,7 @@ namespace lv {
 namespace {
 
 Text CommandWithMod(LaunchInput input, TextView mod) {
-    input.Selected.Game_Chk = true;
+    input.Selected.Ticked.Set(Option::Game_Chk);
     input.Selected.Game = mod;
     return input.Compose().GameCommand;
 }
@@ -50,7 +50,7 @@ TEST(ModRule, AModIsLowerCaseAndAVariableInTheQuake2Family) {
 
 TEST(ModRule, ForUnrealAModGoesToTheUnusedCommand) {
     LaunchInput input = UnrealLaunch();
-    input.Selected.Game_Chk = true;
+    input.Selected.Ticked.Set(Option::Game_Chk);
     input.Selected.Game = "-game x";
     const LaunchTexts texts = input.Compose();
     EXPECT_EQ(texts.GameCommand, "UNREAL.EXE -game x ");
@@ -58,7 +58,7 @@ TEST(ModRule, ForUnrealAModGoesToTheUnusedCommand) {
 }
 
 Text CommandWithMemory(LaunchInput input, TextView memory) {
-    input.Selected.Memory_Chk = true;
+    input.Selected.Ticked.Set(Option::Memory_Chk);
     input.Selected.Memory = memory;
     return input.Compose().GameCommand;
 }
@@ -75,14 +75,14 @@ TEST(MemoryRule, AnExecutableWithAnotherBeginningTakesTheItemUnchanged) {
 
 TEST(MemoryRule, TheWrapperHidesTheBeginning) {
     LaunchInput input = QuakeLaunch("QUAKE.EXE");
-    input.Selected.Server_Chk = true;
+    input.Selected.Ticked.Set(Option::Server_Chk);
     EXPECT_EQ(CommandWithMemory(input, "-winmem 8"),
               "qlaunch quakeudp.dll QUAKE.EXE -noipx -noserial -mpath -zone 512 -winmem 8 ");
 }
 
 TEST(MemoryRule, MemoryHasNoEffectWhileGameSpyIsConfigured) {
     LaunchInput input = QuakeLaunch();
-    input.Selected.LaunchQspy_Chk = true;
+    input.Selected.Ticked.Set(Option::LaunchQspy_Chk);
     EXPECT_EQ(CommandWithMemory(input, "-winmem 16"), "GLQUAKE.EXE -zone 512 ");
 }
 
@@ -92,7 +92,7 @@ TEST(MemoryRule, AnyNumberOfMegabytesIsMultiplied) {
 }
 
 LaunchTexts WithScript(LaunchInput input, TextView path) {
-    input.Selected.Script_Chk = true;
+    input.Selected.Ticked.Set(Option::Script_Chk);
     input.Selected.Script = path;
     return input.Compose();
 }
@@ -141,12 +141,12 @@ TEST(ScriptRule, AFailureOnTheWayToTheRegistryStopsAtItsStep) {
     const LaunchTexts texts = WithScript(input, "C:\\HL\\VALVE\\my.cfg");
     EXPECT_EQ(texts.Stop.Kind, StopKind::Error);
     EXPECT_EQ(texts.Stop.Fault.Number, 70);
-    EXPECT_EQ(texts.LaunchStep, 80);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::PlayerScript);
     EXPECT_EQ(texts.Quake2Script, "");
 }
 
 LaunchTexts Dedicated(LaunchInput input) {
-    input.Selected.Dedicated_Chk = true;
+    input.Selected.Ticked.Set(Option::Dedicated_Chk);
     return input.Compose();
 }
 
@@ -156,7 +156,7 @@ TEST(DedicatedRule, GlquakeIsRefused) {
     EXPECT_EQ(texts.Stop.Message,
               "The '-dedicated' parameter causes a fat GPF when used with glqauke.exe.\r\n\r\n"
               "Besides, there is no reason for a dedicated server to run GL. Please use quake.exe, or winquake.exe.");
-    EXPECT_EQ(texts.LaunchStep, 90);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::DedicatedServer);
     EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 ");
 }
 
@@ -193,8 +193,8 @@ TEST(DedicatedRule, TheQuake2FamilyGetsTwoVariables) {
 
 TEST(DedicatedRule, NothingIsAddedBehindAStop) {
     LaunchInput input = QuakeLaunch("GLQUAKE.EXE");
-    input.Selected.Listen_Chk = true;
-    input.Selected.Map_Chk = true;
+    input.Selected.Ticked.Set(Option::Listen_Chk);
+    input.Selected.Ticked.Set(Option::Map_Chk);
     input.Selected.Map = "start";
     const LaunchTexts texts = Dedicated(input);
     EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 ");
@@ -202,7 +202,7 @@ TEST(DedicatedRule, NothingIsAddedBehindAStop) {
 }
 
 LaunchTexts ConnectedTo(LaunchInput input, TextView record) {
-    input.Selected.Server_Chk = true;
+    input.Selected.Ticked.Set(Option::Server_Chk);
     input.Selected.Server = record;
     return input.Compose();
 }
@@ -242,9 +242,9 @@ TEST(ServerRule, HalfLifesPasswordBreaksTheLineInsideTheCommand) {
 
 TEST(ServerRule, UnrealGetsTheServerRightBehindItsExecutable) {
     LaunchInput input = UnrealLaunch();
-    input.Selected.Map_Chk = true;
+    input.Selected.Ticked.Set(Option::Map_Chk);
     input.Selected.Map = "DmDeck16";
-    input.Selected.UnrealDisableMMXSupport_Chk = true;
+    input.Selected.Ticked.Set(Option::UnrealDisableMMXSupport_Chk);
     const LaunchTexts texts = ConnectedTo(input, "frag.example;7777;4;secret");
     EXPECT_EQ(texts.UnrealCommand, "UNREAL.EXE frag.example:7777 dmdeck16.unr -nommx ");
     EXPECT_EQ(texts.QuakeScript, "");
@@ -258,14 +258,14 @@ TEST(ServerRule, UnrealGetsAServerWithoutAPort) {
 TEST(ServerRule, AnExecutableOfAnotherEndingIsCutBehindItsName) {
     LaunchInput input = UnrealLaunch();
     input.Selected.ExecutablePath = "C:\\Unreal\\System\\unreal-bin";
-    input.Selected.Script_Chk = true;
+    input.Selected.Ticked.Set(Option::Script_Chk);
     input.Selected.Script = "C:\\Unreal\\System\\my.EXE.ini";
     EXPECT_EQ(ConnectedTo(input, "frag.example;7777;4;").UnrealCommand, "UNREAL-BIN frag.example:7777 INI=my.EXE.ini ");
 }
 
 TEST(ServerRule, TheListsServerStandsBeforeGameSpys) {
     LaunchInput input = QuakeLaunch();
-    input.Selected.QSpy_Chk = true;
+    input.Selected.Ticked.Set(Option::QSpy_Chk);
     input.Hooks.GameSpyFetch = [] { return std::optional<Text>("10.0.0.2:27500"); };
     EXPECT_EQ(ConnectedTo(input, "10.0.0.1;26000;0;").QuakeScript,
               "connect 10.0.0.1:26000\r\nconnect 10.0.0.2:27500\r\n");
@@ -273,16 +273,16 @@ TEST(ServerRule, TheListsServerStandsBeforeGameSpys) {
 
 TEST(ServerRule, TheDemoLineStandsBeforeTheServer) {
     LaunchInput input = QuakeLaunch();
-    input.Selected.Demo_Chk = true;
+    input.Selected.Ticked.Set(Option::Demo_Chk);
     input.Selected.Demo = "playdemo demo1.dem";
     EXPECT_EQ(ConnectedTo(input, "10.0.0.1;26000;0;").QuakeScript, "playdemo demo1.dem\r\nconnect 10.0.0.1:26000\r\n");
 }
 
 TEST(ServerRule, TheBenchmarkCancelsBothServersButNotTheDemo) {
     LaunchInput input = QuakeLaunch();
-    input.Selected.Bench_Chk = true;
-    input.Selected.QSpy_Chk = true;
-    input.Selected.Demo_Chk = true;
+    input.Selected.Ticked.Set(Option::Bench_Chk);
+    input.Selected.Ticked.Set(Option::QSpy_Chk);
+    input.Selected.Ticked.Set(Option::Demo_Chk);
     input.Selected.Demo = "playdemo demo1.dem";
     bool fetched = false;
     input.Hooks.GameSpyFetch = [&] {
@@ -294,7 +294,7 @@ TEST(ServerRule, TheBenchmarkCancelsBothServersButNotTheDemo) {
 }
 
 LaunchTexts Fetched(LaunchInput input, std::optional<Text> answer) {
-    input.Selected.QSpy_Chk = true;
+    input.Selected.Ticked.Set(Option::QSpy_Chk);
     input.Hooks.GameSpyFetch = [=] { return answer; };
     return input.Compose();
 }
@@ -304,7 +304,7 @@ TEST(GameSpyServerRule, NoAnswerStopsWithoutAWord) {
         const LaunchTexts texts = Fetched(QuakeLaunch(), answer);
         EXPECT_EQ(texts.Stop.Kind, StopKind::Silent);
         EXPECT_EQ(texts.Stop.Message, "");
-        EXPECT_EQ(texts.LaunchStep, 140);
+        EXPECT_EQ(texts.LaunchStep, LaunchStep::GameSpyServer);
         EXPECT_EQ(texts.GameCommand, "GLQUAKE.EXE -zone 512 ");
     }
 }
@@ -321,7 +321,7 @@ TEST(GameSpyServerRule, UnrealGetsTheServerRightBehindItsExecutable) {
 
 TEST(GameSpyServerRule, WithoutAHookThereIsNoServer) {
     LaunchInput input = QuakeLaunch();
-    input.Selected.QSpy_Chk = true;
+    input.Selected.Ticked.Set(Option::QSpy_Chk);
     const LaunchTexts texts = input.Compose();
     EXPECT_FALSE(texts.Stop);
     EXPECT_EQ(texts.QuakeScript, "");
@@ -341,14 +341,14 @@ TEST(UnrealIniRule, RunsOnceForUnrealOnly) {
 
 TEST(UnrealIniRule, AFailureStopsAtItsStepBehindTheSwitches) {
     LaunchInput input = UnrealLaunch();
-    input.Selected.UnrealNoDirectSound_Chk = true;
-    input.Selected.Listen_Chk = true;
+    input.Selected.Ticked.Set(Option::UnrealNoDirectSound_Chk);
+    input.Selected.Ticked.Set(Option::Listen_Chk);
     input.Hooks.RewriteUnrealIni = [] { return MakeError(error::kFileNotFound); };
     const LaunchTexts texts = input.Compose();
     EXPECT_EQ(texts.Stop.Kind, StopKind::Error);
     EXPECT_EQ(texts.Stop.Fault.Number, 53);
     EXPECT_EQ(texts.Stop.Fault.Text, "File not found");
-    EXPECT_EQ(texts.LaunchStep, 40);
+    EXPECT_EQ(texts.LaunchStep, LaunchStep::Switches);
     EXPECT_EQ(texts.UnrealCommand, "UNREAL.EXE -nodsound ");
     EXPECT_EQ(texts.GameCommand, "UNREAL.EXE ");
 }

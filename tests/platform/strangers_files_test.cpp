@@ -116,7 +116,7 @@ TEST_F(StrangersFiles, LinksAtTheNamesOfTheLaunchFilesCostNobodyAFile) {
     UnpackInto(quake);
     ASSERT_TRUE(fs::is_symlink(quake / "lv_666.bat"));
     Pick(0);
-    launcher.Window.Script_Chk.Value = 1;
+    launcher.Window.Box(Option::Script_Chk).Value = 1;
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(BytesOf(scratch / "me/.bashrc"), "mine");
     EXPECT_THAT(BytesOf(quake / "lv_666.bat"), EndsWith("+exec lv_666.qs"));
@@ -132,7 +132,7 @@ TEST_F(StrangersFiles, LaunchFilesAreReadByTheirOwnerAloneWhateverTheArchiveHad)
     }
     UnpackInto(quake);
     Pick(0);
-    launcher.Window.Script_Chk.Value = 1;
+    launcher.Window.Box(Option::Script_Chk).Value = 1;
     DoIt_Cmd_Click(launcher, 2);
     EXPECT_EQ(ModeOf(quake / "lv_666.bat"), 0600u);
     EXPECT_EQ(ModeOf(quake / "ID1/lv_666.qs"), 0600u);
@@ -213,7 +213,7 @@ TEST_F(StrangersFiles, WhatAKilledLaunchHasLeftGoesAtTheNextOne) {
     WriteBytes(quake / ".lv_666_2147483600_0", "half a batch with a password");
     WriteBytes(quake / "ID1/.lv_666_2147483600_0", "half a script");
     Pick(0);
-    launcher.Window.Script_Chk.Value = 1;
+    launcher.Window.Box(Option::Script_Chk).Value = 1;
     DoIt_Cmd_Click(launcher, 2);
     EXPECT_FALSE(fs::exists(quake / ".lv_666_2147483600_0"));
     EXPECT_FALSE(fs::exists(quake / "ID1/.lv_666_2147483600_0"));
@@ -225,7 +225,7 @@ TEST_F(StrangersFiles, AnotherSpellingOfALaunchFileIsNeitherWrittenNorLeftBeside
     fs::create_symlink(scratch / "me/.bashrc", scratch / "packed/LV_666.BAT");
     UnpackInto(quake);
     Pick(0);
-    launcher.Window.Script_Chk.Value = 1;
+    launcher.Window.Box(Option::Script_Chk).Value = 1;
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(BytesOf(scratch / "me/.bashrc"), "mine");
     EXPECT_THAT(BytesOf(quake / "ID1/lv_666.qs"), StartsWith("exec my.cfg\r\n"));
@@ -241,7 +241,7 @@ TEST_F(StrangersFiles, PipesAtTheNamesOfTheLaunchFilesHoldNoLaunchUp) {
     }
     UnpackInto(quake);
     Pick(0);
-    launcher.Window.Script_Chk.Value = 1;
+    launcher.Window.Box(Option::Script_Chk).Value = 1;
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_THAT(BytesOf(quake / "ID1/lv_666.qs"), StartsWith("exec my.cfg\r\n"));
     EXPECT_THAT(BytesOf(quake / "lv_666.bat"), EndsWith("+exec lv_666.qs"));
@@ -252,7 +252,7 @@ TEST_F(StrangersFiles, ADirectoryAtTheNameOfALaunchFileIsNamed) {
     fs::create_directories(scratch / "packed/ID1/LV_666.QS");
     UnpackInto(quake);
     Pick(0);
-    launcher.Window.Script_Chk.Value = 1;
+    launcher.Window.Box(Option::Script_Chk).Value = 1;
     user.Expect({"Lorvane 3D",
                  "Error String = Path/File access error: c:\\quake\\ID1\\lv_666.qs is a directory. Rename it, or "
                  "remove it.\r\n"});
@@ -277,7 +277,7 @@ TEST_F(StrangersFiles, ADataDirectoryThatIsALinkOutOfHomeAndGameIsAskedAbout) {
     fs::create_directory_symlink(scratch / "else", scratch / "packed/ID1");
     UnpackInto(quake);
     Pick(0);
-    launcher.Window.Script_Chk.Value = 1;
+    launcher.Window.Box(Option::Script_Chk).Value = 1;
     user.Expect({.Title = "Link To Another Place", .Text_ = (scratch / "else").string(), .Answer = 0});
     DoIt_Cmd_Click(launcher, 2);
     EXPECT_EQ(BytesOf(scratch / "else/lv_666.qs"), "theirs");

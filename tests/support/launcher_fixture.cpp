@@ -65,9 +65,9 @@ void LauncherTest::PickExe(TextView path) {
     FAIL() << "no such executable: " << path;
 }
 
-void LauncherTest::Click(CheckBox LV_Frm::*box, int value) {
-    (window.*box).Value = value;
-    Option_Chk_Click(launcher, box);
+void LauncherTest::Click(Option option, int value) {
+    window.Box(option).Value = value;
+    Option_Chk_Click(launcher, option);
 }
 
 }  // namespace lv

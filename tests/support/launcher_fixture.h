@@ -32,7 +32,7 @@ class LauncherTest : public ::testing::Test {
     void PickExe(TextView path);
 
     /// A click on a check box that leaves it with this value.
-    void Click(CheckBox LV_Frm::*box, int value);
+    void Click(Option option, int value);
 
     Text Stored(TextView section, TextView key) { return GetSetting(run, run.AppName, section, key, "(none)"); }
 

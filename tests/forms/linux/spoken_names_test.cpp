@@ -15,8 +15,8 @@ namespace lv {
 TEST_F(LvForm_, EveryControlHasATextOrANameThatAssistiveToolsRead) {
     std::vector<const char*> names = {"Exe_Cbo",  "Game_Cbo",   "Script_Cbo", "VideoProfiles_Cbo",       "Mem_Cbo",
                                       "Demo_Cbo", "Server_Cbo", "Map_Cbo",    "CommandLineAdditions_Txt"};
-    for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
-        names.push_back(option->Name);
+    for (const OptionBox& option : OptionBoxes()) {
+        names.push_back(option.Name);
     }
     for (const char* name : names) {
         wxWindow* control = Find(name);

@@ -22,7 +22,7 @@ class SetupFoundryTest : public LauncherTest {
     }
     void LoadWithScript() {
         Load();
-        ASSERT_EQ(Trim(window.Script_Cbo.Selected().substr(NameFieldWidth)), "c:\\quake\\id1\\my.cfg");
+        ASSERT_EQ(Trim(window.Script_Cbo.Selected().substr(100)), "c:\\quake\\id1\\my.cfg");
         pumpsBefore_ = user.Pumps;
     }
     void ExpectError(TextView text) { user.Expect({"Error", Text(text), 0, false, true, "&OK"}); }

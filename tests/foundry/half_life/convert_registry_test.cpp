@@ -260,7 +260,7 @@ TEST_F(ConnectFoundryTest, ALaunchWithAScriptWritesItToTheRegistryBeforeTheGameS
             window.Script_Cbo.ListIndex = static_cast<int>(i);
         }
     }
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(Held("player", "|chat nickname"), "Alyx");
     EXPECT_EQ(Held("player", "\\kb|119"), "+forward");
@@ -272,7 +272,7 @@ TEST_F(ConnectFoundryTest, ALaunchWithoutAScriptLeavesTheRegistryAlone) {
     BeQuiet();
     Load();
     PickExe("C:\\HL\\HL.EXE");
-    Click(&LV_Frm::Script_Chk, 0);
+    Click(Option::Script_Chk, 0);
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_TRUE(system.Registry.Values.empty());
     EXPECT_EQ(system.Programs.Started.size(), 1u);
@@ -283,7 +283,7 @@ TEST_F(ConnectFoundryTest, ARegistryThatRefusesTheScriptStopsTheLaunch) {
     Load();
     Hold("player", "|chat nickname", "Gordon");
     PickExe("C:\\HL\\HL.EXE");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     system.Registry.RefuseWrites = Error{5, "Access is denied."};
     user.Expect({"Lorvane 3D", "Error Number = 5\r\nError Code = EC00080"});
     DoIt_Cmd_Click(launcher, 0);

@@ -2,6 +2,7 @@
 
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
 #include "tests/fuzz/readers.h"
 
 namespace lv {

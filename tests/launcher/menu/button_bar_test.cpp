@@ -71,7 +71,7 @@ TEST_F(ButtonBar, GameSpyTicksItsBoxAndLaunches) {
     Load();
     user.In<GameSpyConfig_Frm>([](GameSpyConfig_Frm& form) { GameSpyConfig_Cancel_Cmd_Click(form); });
     ButtonBar_Cmd_Click(launcher, 2);
-    EXPECT_EQ(window.LaunchQspy_Chk.Value, 1);
+    EXPECT_EQ(window.Box(Option::LaunchQspy_Chk).Value, 1);
     EXPECT_EQ(Stored(kOptions, "LaunchQSpy"), "1");
     EXPECT_TRUE(system.Programs.Started.empty());
 }

@@ -124,7 +124,7 @@ TEST_F(CatalogMenu, AGameIsAdded) {
 TEST_F(CatalogMenu, AnEditedGameInUseIsInUseUnderItsNewDirectory) {
     system.Disk.AddDirectory("C:\\QUAKE\\NEW");
     window.Game_Cbo.ListIndex = 0;
-    LauncherTest::Click(&LV_Frm::Game_Chk, 1);
+    LauncherTest::Click(Option::Game_Chk, 1);
     EXPECT_EQ(run.CurrentGameDir, "CTF");
     user.In<AddGame_Frm>([&](AddGame_Frm& form) {
         EXPECT_EQ(form.Mode, EntryMode::Edit);
@@ -138,7 +138,7 @@ TEST_F(CatalogMenu, AnEditedGameInUseIsInUseUnderItsNewDirectory) {
 
 TEST_F(CatalogMenu, ADeletedGameInUseGivesItsPlaceToTheFirst) {
     window.Game_Cbo.ListIndex = 0;
-    LauncherTest::Click(&LV_Frm::Game_Chk, 1);
+    LauncherTest::Click(Option::Game_Chk, 1);
     ExpectDeletion();
     Click(MenuItem::GameDelete_Bar);
     EXPECT_EQ(run.CurrentGameDir, "ID1");
@@ -147,10 +147,10 @@ TEST_F(CatalogMenu, ADeletedGameInUseGivesItsPlaceToTheFirst) {
 TEST_F(CatalogMenu, WithoutAGameLeftTheBaseGameIsInUse) {
     window.Game_Cbo.Items.resize(1);
     window.Game_Cbo.ListIndex = 0;
-    LauncherTest::Click(&LV_Frm::Game_Chk, 1);
+    LauncherTest::Click(Option::Game_Chk, 1);
     ExpectDeletion();
     Click(MenuItem::GameDelete_Bar);
-    EXPECT_EQ(window.Game_Chk.Value, 0);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 0);
     EXPECT_EQ(run.CurrentGameDir, "ID1");
 }
 

@@ -69,8 +69,8 @@ TEST_F(MainWindowLoad, AStoredServerTickClearsNoOther) {
     Save(run, kOptions, "UseServers", 1);
     Save(run, kOptions, "UseDemos", 1);
     Load();
-    EXPECT_EQ(window.Server_Chk.Value, 1);
-    EXPECT_EQ(window.Demo_Chk.Value, 1);
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Demo_Chk).Value, 1);
 }
 
 TEST_F(MainWindowLoad, AStoredModificationTickIsThereAgain) {
@@ -78,7 +78,7 @@ TEST_F(MainWindowLoad, AStoredModificationTickIsThereAgain) {
     Save(run, kOptions, "UseGames", 1);
     Load();
     EXPECT_EQ(run.GameKind, 1);
-    EXPECT_EQ(window.Game_Chk.Value, 1);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 1);
     EXPECT_EQ(Stored(kOptions, "UseGames"), "1");
 }
 
@@ -86,7 +86,7 @@ TEST_F(MainWindowLoad, AStoredGameSpyTickDisablesTheButtonsOfTheLaunchFiles) {
     AddGames();
     Save(run, kOptions, "LaunchQSpy", 1);
     Load();
-    EXPECT_EQ(window.LaunchQspy_Chk.Value, 1);
+    EXPECT_EQ(window.Box(Option::LaunchQspy_Chk).Value, 1);
     EXPECT_TRUE(window.DoIt_Cmd[0].Enabled);
     EXPECT_FALSE(window.DoIt_Cmd[1].Enabled);
     EXPECT_FALSE(window.DoIt_Cmd[2].Enabled);

@@ -31,18 +31,18 @@ TEST_F(Hint, NamesWhatF2Starts) {
     window.Script_Cbo.Items = {Text("my.cfg") + Text(94, ' ') + "c:\\quake\\id1\\my.cfg"};
     window.Map_Cbo.Items = {"START"};
     window.Game_Cbo.ListIndex = window.Script_Cbo.ListIndex = window.Map_Cbo.ListIndex = 0;
-    window.Game_Chk.Value = window.Script_Chk.Value = window.Map_Chk.Value = 1;
+    window.Box(Option::Game_Chk).Value = window.Box(Option::Script_Chk).Value = window.Box(Option::Map_Chk).Value = 1;
     EXPECT_EQ(HintText(launcher), "F2 starts quake.exe, Capture the Flag, with my.cfg, at START.");
 }
 
 TEST_F(Hint, SaysThatF2ConfiguresGameSpyWhereThatIsTicked) {
-    window.LaunchQspy_Chk.Value = 1;
+    window.Box(Option::LaunchQspy_Chk).Value = 1;
     EXPECT_EQ(HintText(launcher), "No game is in the list yet.");
     window.Exe_Cbo.Items = {{"Quake", "c:\\quake\\quake.exe", "QUAKE", "QUAKE"}};
     window.Exe_Cbo.ListIndex = 0;
     run.GameKind = 1;
     EXPECT_EQ(HintText(launcher), "F2 configures GameSpy 3D to start your games.");
-    window.LaunchQspy_Chk.Value = 0;
+    window.Box(Option::LaunchQspy_Chk).Value = 0;
     EXPECT_EQ(HintText(launcher), "F2 starts quake.exe.");
 }
 

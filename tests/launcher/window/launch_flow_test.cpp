@@ -38,8 +38,8 @@ TEST_F(LaunchFlow, WritesTheThreeFilesByteForByteAndStartsTheBatch) {
     SetProfile("UseRez", "1");
     SetProfile("ResolutionsPos", "4");
     SetProfile("ResolutionsPos_Content", Text("640x480") + Text(93, ' ') + "-width 640");
-    Click(&LV_Frm::Script_Chk, 1);
-    Click(&LV_Frm::Memory_Chk, 1);
+    Click(Option::Script_Chk, 1);
+    Click(Option::Memory_Chk, 1);
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Disk.Bytes(kScript), "exec my.cfg\r\ngl_polyblend 0\r\n");
     EXPECT_EQ(system.Disk.Bytes(kBatch),
@@ -93,7 +93,7 @@ TEST_F(LaunchFlow, CreateOnlyWritesScriptAndBatchAndNothingElse) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
     system.Disk.AddFile(kPif, "as it was");
     window.Visible = true;
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     DoIt_Cmd_Click(launcher, 2);
     EXPECT_EQ(system.Disk.Bytes(kScript), "exec my.cfg\r\n");
     EXPECT_TRUE(system.Disk.FileExists(kBatch));
@@ -106,7 +106,7 @@ TEST_F(LaunchFlow, CreateOnlyWritesScriptAndBatchAndNothingElse) {
 TEST_F(LaunchFlow, ViewShowsTheTextsAndStopsAtCool) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
     Save(run, kOptions, "VidCard", "0");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     user.Expect({"Viewing Commands",
                  "AppDir = C:\\LORVANE\r\n\r\nBatch File = \r\nC:\r\ncd c:\\quake\r\n"
                  "GLQUAKE.EXE -zone 512 +exec lv_666.qs\r\n\r\nScript File = \r\nexec my.cfg\r\n",
@@ -146,7 +146,7 @@ TEST_F(LaunchFlow, ALineOf129CharactersAsksOnWindows95) {
     run.IsWin9x = true;
     const Text command = "GLQUAKE.EXE -zone 512 ";
     window.CommandLineAdditions_Txt.Text = Text(129 - command.size() - 1, 'x');
-    window.CommandLineAdditions_Chk.Value = 1;
+    window.Box(Option::CommandLineAdditions_Chk).Value = 1;
     const Text whole = command + window.CommandLineAdditions_Txt.Text + " ";
     user.Expect({"Command Line Problem",
                  "Command Line = " + whole +
@@ -164,7 +164,7 @@ TEST_F(LaunchFlow, ALineOf128CharactersDoesNotAsk) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
     run.IsWin9x = true;
     window.CommandLineAdditions_Txt.Text = Text(128 - Text("GLQUAKE.EXE -zone 512 ").size() - 1, 'x');
-    window.CommandLineAdditions_Chk.Value = 1;
+    window.Box(Option::CommandLineAdditions_Chk).Value = 1;
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Programs.Started.size(), 1u);
 }
@@ -172,7 +172,7 @@ TEST_F(LaunchFlow, ALineOf128CharactersDoesNotAsk) {
 TEST_F(LaunchFlow, OnWindowsNtNoLengthAsks) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
     window.CommandLineAdditions_Txt.Text = Text(500, 'x');
-    window.CommandLineAdditions_Chk.Value = 1;
+    window.Box(Option::CommandLineAdditions_Chk).Value = 1;
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Programs.Started.size(), 1u);
 }
@@ -197,7 +197,7 @@ TEST_F(LaunchFlow, AnEmptyScriptTakesTheLastOneAway) {
 
 TEST_F(LaunchFlow, WithoutADataDirectoryTheScriptLiesBesideTheBatch) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     run.CurrentGameDir.clear();
     DoIt_Cmd_Click(launcher, 2);
     EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE\\lv_666.qs"), "exec my.cfg\r\n");
@@ -205,7 +205,7 @@ TEST_F(LaunchFlow, WithoutADataDirectoryTheScriptLiesBesideTheBatch) {
 
 TEST_F(LaunchFlow, AScriptThatCannotBeWrittenIsReportedAndEndsTheClick) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     system.Disk.Refused["c:\\quake\\id1\\lv_666.qs"] = MakeError(error::kDiskFull);
     user.Expect({"Lorvane 3D",
                  "Error Number = 61\r\nError Code = EC00205\r\nError String = Disk full\r\n"
@@ -256,7 +256,7 @@ TEST_F(LaunchFlow, Quake2GetsItsOwnTemplate) {
 TEST_F(LaunchFlow, UnrealGetsNoScriptFile) {
     LoadWith("C:\\UNREAL\\SYSTEM\\UNREAL.EXE");
     Save(run, kOptions, "VidCard", "0");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Disk.Bytes("C:\\UNREAL\\SYSTEM\\lv_666.bat"),
               "C:\r\ncd c:\\unreal\\system\r\nUNREAL.EXE -nohard INI=unreal.ini ");
@@ -265,7 +265,7 @@ TEST_F(LaunchFlow, UnrealGetsNoScriptFile) {
 
 TEST_F(LaunchFlow, DedicatedOnAGlExecutableIsRefused) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::Dedicated_Chk, 1);
+    Click(Option::Dedicated_Chk, 1);
     user.Expect({"Lorvane 3D",
                  "The '-dedicated' parameter causes a fat GPF when used with glqauke.exe.\r\n\r\n"
                  "Besides, there is no reason for a dedicated server to run GL. Please use quake.exe, or winquake.exe.",
@@ -276,7 +276,7 @@ TEST_F(LaunchFlow, DedicatedOnAGlExecutableIsRefused) {
 
 TEST_F(LaunchFlow, ExitOnLaunchEndsTheProgramBehindTheStart) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::EndOnLaunch_Chk, 1);
+    Click(Option::EndOnLaunch_Chk, 1);
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Programs.Started.size(), 1u);
     EXPECT_TRUE(user.ProgramEnded);
@@ -284,7 +284,7 @@ TEST_F(LaunchFlow, ExitOnLaunchEndsTheProgramBehindTheStart) {
 
 TEST_F(LaunchFlow, ConnectsToTheServerInGameSpysWindow) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::QSpy_Chk, 1);
+    Click(Option::QSpy_Chk, 1);
     system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
     system.Clip.Held = "43 10.0.0.1 27500 Home";
     DoIt_Cmd_Click(launcher, 0);
@@ -294,7 +294,7 @@ TEST_F(LaunchFlow, ConnectsToTheServerInGameSpysWindow) {
 
 TEST_F(LaunchFlow, WithoutAServerInGameSpysWindowStopsWithoutAnotherWord) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::QSpy_Chk, 1);
+    Click(Option::QSpy_Chk, 1);
     user.Expect({"Error Looking for GameSpy 3D", "GameSpy 3D was not found.", 0, false, true, "&OK"});
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_TRUE(system.Programs.Started.empty());
@@ -303,7 +303,7 @@ TEST_F(LaunchFlow, WithoutAServerInGameSpysWindowStopsWithoutAnotherWord) {
 
 TEST_F(LaunchFlow, AnotherClickWhileGameSpyIsWaitedForDoesNothing) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::QSpy_Chk, 1);
+    Click(Option::QSpy_Chk, 1);
     system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
     system.Clip.Held = "10.0.0.1:27500";
     user.OnPump = [this] { DoIt_Cmd_Click(launcher, 0); };
@@ -314,7 +314,7 @@ TEST_F(LaunchFlow, AnotherClickWhileGameSpyIsWaitedForDoesNothing) {
 
 TEST_F(LaunchFlow, AProgramThatEndsWhileGameSpyIsAskedStartsNoGame) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::QSpy_Chk, 1);
+    Click(Option::QSpy_Chk, 1);
     system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
     system.Clip.Held = "10.0.0.1:27500";
     user.OnPump = [this] { run.Ended = user.WindowCalls.empty() && !system.Windows.Log.empty(); };
@@ -325,7 +325,7 @@ TEST_F(LaunchFlow, AProgramThatEndsWhileGameSpyIsAskedStartsNoGame) {
 
 TEST_F(LaunchFlow, AnotherGamePickedWhileGameSpyIsAskedDoesNotChangeWhatStarts) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::QSpy_Chk, 1);
+    Click(Option::QSpy_Chk, 1);
     system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
     system.Clip.Held = "10.0.0.1:27500";
     user.OnPump = [this] { run.DefaultGameDirectory = "c:\\quake2"; };
@@ -341,10 +341,10 @@ TEST_F(LaunchFlow, ALaunchMakesTheGamesDirectoryCurrent) {
 
 TEST_F(LaunchFlow, ATickCountsOnlyWhenItIsOne) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    window.NOLAN_Chk.Value = 2;
-    EXPECT_FALSE(SelectionOf(window).NOLAN_Chk);
-    window.NOLAN_Chk.Value = 1;
-    EXPECT_TRUE(SelectionOf(window).NOLAN_Chk);
+    window.Box(Option::NOLAN_Chk).Value = 2;
+    EXPECT_FALSE(SelectionOf(window).Ticked.Has(Option::NOLAN_Chk));
+    window.Box(Option::NOLAN_Chk).Value = 1;
+    EXPECT_TRUE(SelectionOf(window).Ticked.Has(Option::NOLAN_Chk));
 }
 
 TEST_F(LaunchFlow, AListCountsOnlyWithASelectedRow) {
@@ -365,7 +365,7 @@ TEST_F(LaunchFlow, ANameThatTheCommandProcessorWouldMisreadIsToldBeforeAnythingI
     system.Programs.Reader = LineReader::kCommandProcessor;
     window.Game_Cbo.ListIndex = static_cast<int>(window.Game_Cbo.Items.size()) - 1;
     ASSERT_TRUE(window.Game_Cbo.Selected().ends_with("-game M&CALC"));
-    window.Game_Chk.Value = 1;
+    window.Box(Option::Game_Chk).Value = 1;
     const std::size_t writes = system.Disk.Log.size();
     for (const int mode : {0, 1, 2}) {
         user.Expect({"Lorvane 3D",
@@ -387,7 +387,7 @@ TEST_F(LaunchFlow, WhereNobodyReadsTheCommandTheBatchIsWrittenAndTheNameHandedOv
     Load();
     PickExe("C:\\QUAKE\\GLQUAKE.EXE");
     window.Game_Cbo.ListIndex = static_cast<int>(window.Game_Cbo.Items.size()) - 1;
-    window.Game_Chk.Value = 1;
+    window.Box(Option::Game_Chk).Value = 1;
     const std::size_t writes = system.Disk.Log.size();
     const auto expectQuestion = [this](int answer) {
         user.Expect({"A Command In A Name",
@@ -430,7 +430,7 @@ TEST_F(LaunchFlow, ADirectoryThatDosBoxCannotMountIsToldBeforeAnythingIsWritten)
 
 TEST_F(LaunchFlow, ADirectoryAtTheNameOfALaunchFileIsToldWithItsPath) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     system.Disk.AddDirectory("C:\\QUAKE\\LV_666.BAT");
     user.Expect({"Lorvane 3D",
                  "Error Number = 75\r\nError Code = EC00230\r\nError String = Path/File access error: "
@@ -447,7 +447,7 @@ TEST_F(LaunchFlow, ADirectoryAtTheNameOfALaunchFileIsToldWithItsPath) {
 
 TEST_F(LaunchFlow, AScriptThatMayNotBeWrittenIsToldWithItsPath) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     for (const int number : {70, 75}) {
         system.Disk.Refused["c:\\quake\\id1\\lv_666.qs"] = MakeError(number);
         user.Expect({"Lorvane 3D", Join(MakeError(number).Text, ": c:\\quake\\ID1\\lv_666.qs\r\n")});
@@ -457,7 +457,7 @@ TEST_F(LaunchFlow, AScriptThatMayNotBeWrittenIsToldWithItsPath) {
 
 TEST_F(LaunchFlow, PipesAtTheNamesOfTheLaunchFilesAreReplaced) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     for (const char* const file : {kBatch, kScript, kPif}) {
         system.Disk.AddDevice(file);
     }
@@ -476,7 +476,7 @@ TEST_F(LaunchFlow, ADataDirectoryThatIsALinkOutOfTheGameIsAskedAboutOnce) {
     PickExe("C:\\QUAKE\\GLQUAKE.EXE");
     DoIt_Cmd_Click(launcher, 2);  // without a script nothing there is touched
     EXPECT_EQ(system.Disk.Bytes("C:\\SRV\\ID1\\lv_666.qs"), "theirs");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     ASSERT_TRUE(window.Script_Cbo.HasSelection());
     const auto expectQuestion = [this](int answer) {
         user.Expect({"Link To Another Place",
@@ -501,7 +501,7 @@ TEST_F(LaunchFlow, TheUsersOwnAdditionsRemainTheUsers) {
     for (const LineReader reader : {LineReader::kCommandProcessor, LineReader::kBatch, LineReader::kDosShell}) {
         system.Programs.Reader = reader;
         window.CommandLineAdditions_Txt.Text = "+name \"a & b\" & echo %PATH%";
-        window.CommandLineAdditions_Chk.Value = 1;
+        window.Box(Option::CommandLineAdditions_Chk).Value = 1;
         DoIt_Cmd_Click(launcher, 0);
         EXPECT_TRUE(system.Disk.Bytes(kBatch).ends_with("+name \"a & b\" & echo %PATH%"));
     }
@@ -513,7 +513,7 @@ TEST_F(LaunchFlow, AHalfLifePasswordRunsNoFileCalledConnect) {
     system.Disk.AddFile("C:\\HL\\CONNECT.BAT");
     window.Server_Cbo.Items = {Text("Mine") + Text(96, ' ') + "10.0.0.1;27015;9;secret"};
     window.Server_Cbo.ListIndex = 0;
-    window.Server_Chk.Value = 1;
+    window.Box(Option::Server_Chk).Value = 1;
     system.Programs.Reader = LineReader::kCommandProcessor;
     const std::size_t writes = system.Disk.Log.size();
     user.Expect({"Lorvane 3D",
@@ -533,7 +533,7 @@ TEST_F(LaunchFlow, LinksAtTheLaunchFilesAreReplacedAndNeverFollowed) {
     for (const char* const file : {kBatch, kScript, kPif}) {
         system.Disk.AddFileLink(file, "C:\\HOME\\.bashrc");
     }
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Disk.Bytes("C:\\HOME\\.bashrc"), "mine");
     EXPECT_EQ(system.Disk.Bytes(kScript), "exec my.cfg\r\n");
@@ -543,7 +543,7 @@ TEST_F(LaunchFlow, LinksAtTheLaunchFilesAreReplacedAndNeverFollowed) {
 
 TEST_F(LaunchFlow, TheLaunchFilesAreTheirOwnersAlone) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::Script_Chk, 1);
+    Click(Option::Script_Chk, 1);
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_EQ(system.Disk.Private,
               (std::set<std::string>{"c:\\quake\\id1\\lv_666.qs", "c:\\quake\\lv_666.bat", "c:\\quake\\lv_666.pif"}));
@@ -551,7 +551,7 @@ TEST_F(LaunchFlow, TheLaunchFilesAreTheirOwnersAlone) {
 
 TEST_F(LaunchFlow, WantOfMemoryIsReportedAndTheNextLaunchWorks) {
     LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::QSpy_Chk, 1);
+    Click(Option::QSpy_Chk, 1);
     system.Windows.Windows[7] = {"GameSpy 3D 2.20", "Afx:1"};
     system.Clip.Held = "10.0.0.1:27500";
     user.OnPump = [] { throw std::bad_alloc(); };
@@ -571,7 +571,7 @@ TEST_F(LaunchFlow, UnrealsIniIsNotRewrittenForALaunchThatIsRefused) {
     Load();
     PickExe("C:\\UNREAL\\SYSTEM\\UNREAL.EXE");
     ASSERT_TRUE(window.Map_Cbo.HasSelection());
-    window.Map_Chk.Value = 1;
+    window.Box(Option::Map_Chk).Value = 1;
     system.Programs.Reader = LineReader::kCommandProcessor;
     const std::size_t writes = system.Disk.Log.size();
     user.Expect({"Lorvane 3D", "The map \"x&calc&.unr\" comes from the maps and archives of the game."});

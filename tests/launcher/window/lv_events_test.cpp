@@ -18,58 +18,58 @@ void Select(ListBox& list, TextView title) {
 }
 
 TEST_F(LvEvents, AClickWritesItsKeyAtOnce) {
-    Click(&LV_Frm::NOLAN_Chk, 1);
+    Click(Option::NOLAN_Chk, 1);
     EXPECT_EQ(Stored(kOptions, "NoLAN"), "1");
-    Click(&LV_Frm::NOLAN_Chk, 0);
+    Click(Option::NOLAN_Chk, 0);
     EXPECT_EQ(Stored(kOptions, "NoLAN"), "0");
 }
 
 TEST_F(LvEvents, QspyIsFoundUnderItsOtherSpelling) {
-    Click(&LV_Frm::QSpy_Chk, 1);
+    Click(Option::QSpy_Chk, 1);
     EXPECT_EQ(system.Settings.Log.back(), "Options|Qspy|1");
     EXPECT_EQ(Stored(kOptions, "QSpy"), "1");
 }
 
 TEST_F(LvEvents, ABoxWithoutAKeyWritesNothing) {
     const std::size_t before = system.Settings.Log.size();
-    Click(&LV_Frm::nosound_chk, 1);
+    Click(Option::nosound_chk, 1);
     EXPECT_EQ(system.Settings.Log.size(), before);
 }
 
 TEST_F(LvEvents, SettingAServerRoleClearsTheOthersAndTheirKeys) {
-    Click(&LV_Frm::Dedicated_Chk, 1);
-    Click(&LV_Frm::Server_Chk, 1);
-    EXPECT_EQ(window.Dedicated_Chk.Value, 0);
+    Click(Option::Dedicated_Chk, 1);
+    Click(Option::Server_Chk, 1);
+    EXPECT_EQ(window.Box(Option::Dedicated_Chk).Value, 0);
     EXPECT_EQ(Stored(kOptions, "Dedicated"), "0");
     EXPECT_EQ(Stored(kOptions, "UseServers"), "1");
 }
 
 TEST_F(LvEvents, ClearingABoxLeavesTheOthersAlone) {
-    window.Listen_Chk.Value = 1;
-    Click(&LV_Frm::Server_Chk, 0);
-    EXPECT_EQ(window.Listen_Chk.Value, 1);
+    window.Box(Option::Listen_Chk).Value = 1;
+    Click(Option::Server_Chk, 0);
+    EXPECT_EQ(window.Box(Option::Listen_Chk).Value, 1);
 }
 
 TEST_F(LvEvents, MapWithoutASelectedMapClearsItselfAndLeavesTheOthersAlone) {
-    window.Server_Chk.Value = 1;
-    Click(&LV_Frm::Map_Chk, 1);
-    EXPECT_EQ(window.Map_Chk.Value, 0);
-    EXPECT_EQ(window.Server_Chk.Value, 1);
+    window.Box(Option::Server_Chk).Value = 1;
+    Click(Option::Map_Chk, 1);
+    EXPECT_EQ(window.Box(Option::Map_Chk).Value, 0);
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 1);
 }
 
 TEST_F(LvEvents, MapWithASelectedMapClearsTheServer) {
     window.Map_Cbo.Items = {"START"};
     window.Map_Cbo.ListIndex = 0;
-    window.Server_Chk.Value = 1;
-    Click(&LV_Frm::Map_Chk, 1);
-    EXPECT_EQ(window.Map_Chk.Value, 1);
-    EXPECT_EQ(window.Server_Chk.Value, 0);
+    window.Box(Option::Server_Chk).Value = 1;
+    Click(Option::Map_Chk, 1);
+    EXPECT_EQ(window.Box(Option::Map_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 0);
 }
 
 TEST_F(LvEvents, GameSpyDisablesTheViewOfTheLaunchFilesAndTheirCreationAlone) {
-    window.Server_Chk.Value = 1;
-    Click(&LV_Frm::LaunchQspy_Chk, 1);
-    EXPECT_EQ(window.Server_Chk.Value, 0);
+    window.Box(Option::Server_Chk).Value = 1;
+    Click(Option::LaunchQspy_Chk, 1);
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 0);
     EXPECT_EQ(Stored(kOptions, "LaunchQSpy"), "1");
     EXPECT_TRUE(window.DoIt_Cmd[0].Enabled);
     EXPECT_FALSE(window.DoIt_Cmd[1].Enabled);
@@ -77,25 +77,25 @@ TEST_F(LvEvents, GameSpyDisablesTheViewOfTheLaunchFilesAndTheirCreationAlone) {
 }
 
 TEST_F(LvEvents, WithoutGameSpyTheLaunchFilesCanBeViewedAgain) {
-    Click(&LV_Frm::LaunchQspy_Chk, 1);
-    Click(&LV_Frm::LaunchQspy_Chk, 0);
+    Click(Option::LaunchQspy_Chk, 1);
+    Click(Option::LaunchQspy_Chk, 0);
     EXPECT_EQ(Stored(kOptions, "LaunchQSpy"), "0");
     EXPECT_TRUE(window.DoIt_Cmd[1].Enabled);
     EXPECT_TRUE(window.DoIt_Cmd[2].Enabled);
 }
 
 TEST_F(LvEvents, AServerClearsGameSpyAndBringsTheButtonsBack) {
-    Click(&LV_Frm::LaunchQspy_Chk, 1);
-    Click(&LV_Frm::Server_Chk, 1);
-    EXPECT_EQ(window.LaunchQspy_Chk.Value, 0);
+    Click(Option::LaunchQspy_Chk, 1);
+    Click(Option::Server_Chk, 1);
+    EXPECT_EQ(window.Box(Option::LaunchQspy_Chk).Value, 0);
     EXPECT_TRUE(window.DoIt_Cmd[1].Enabled);
     EXPECT_TRUE(window.DoIt_Cmd[2].Enabled);
 }
 
 TEST_F(LvEvents, AModificationWithoutASelectedRowSaysSoAndClearsItself) {
     user.Expect({"Lorvane 3D", "No Modification Subdirectory is selected.", 0, false, true, "&OK"});
-    Click(&LV_Frm::Game_Chk, 1);
-    EXPECT_EQ(window.Game_Chk.Value, 0);
+    Click(Option::Game_Chk, 1);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 0);
 }
 
 TEST_F(LvEvents, AModificationBringsItsDirectoryScriptsAndMaps) {
@@ -104,7 +104,7 @@ TEST_F(LvEvents, AModificationBringsItsDirectoryScriptsAndMaps) {
     PickExe("C:\\QUAKE\\GLQUAKE.EXE");
     EXPECT_EQ(run.CurrentGameDir, "ID1");
     Select(window.Game_Cbo, "Capture the Flag");
-    Click(&LV_Frm::Game_Chk, 1);
+    Click(Option::Game_Chk, 1);
     EXPECT_EQ(run.CurrentGameDir, "CTF");
     EXPECT_EQ(window.PlayerScript_Pan.Caption, "Player Script - (Capture the Flag)");
     EXPECT_TRUE(window.Script_Cbo.Selected().ends_with("c:\\quake\\ctf\\flag.cfg"));
@@ -117,8 +117,8 @@ TEST_F(LvEvents, WithoutTheModificationTheBaseDirectoryIsBack) {
     Load();
     PickExe("C:\\QUAKE\\GLQUAKE.EXE");
     Select(window.Game_Cbo, "Capture the Flag");
-    Click(&LV_Frm::Game_Chk, 1);
-    Click(&LV_Frm::Game_Chk, 0);
+    Click(Option::Game_Chk, 1);
+    Click(Option::Game_Chk, 0);
     EXPECT_EQ(run.CurrentGameDir, "ID1");
     EXPECT_EQ(window.PlayerScript_Pan.Caption, "Player Script");
     EXPECT_TRUE(window.Script_Cbo.Selected().ends_with("c:\\quake\\id1\\my.cfg"));
@@ -134,7 +134,7 @@ TEST_F(LvEvents, PickingAModificationFollowsOnlyATickedBox) {
     Game_Cbo_Click(launcher);
     EXPECT_EQ(run.CurrentGameDir, "ID1");
     EXPECT_EQ(Stored(kOptions, "GamesPos"), std::to_string(window.Game_Cbo.ListIndex));
-    Click(&LV_Frm::Game_Chk, 1);
+    Click(Option::Game_Chk, 1);
     Select(window.Game_Cbo, "Base");
     Game_Cbo_Click(launcher);
     EXPECT_EQ(run.CurrentGameDir, "ID1");
@@ -145,9 +145,9 @@ TEST_F(LvEvents, TheCheckOfTheOldModificationIsDroppedWhenTheKindChanges) {
     AddGames();
     Load();
     PickExe("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::Game_Chk, 1);
+    Click(Option::Game_Chk, 1);
     PickExe("C:\\QUAKE2\\QUAKE2.EXE");
-    EXPECT_EQ(window.Game_Chk.Value, 0);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 0);
     EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
 }
 
@@ -155,10 +155,10 @@ TEST_F(LvEvents, AModificationThatAChangeOfKindDroppedStaysDropped) {
     AddGames();
     Load();
     PickExe("C:\\QUAKE\\GLQUAKE.EXE");
-    Click(&LV_Frm::Game_Chk, 1);
+    Click(Option::Game_Chk, 1);
     PickExe("C:\\QUAKE2\\QUAKE2.EXE");
     PickExe("C:\\QUAKE2\\QUAKE2.EXE");
-    EXPECT_EQ(window.Game_Chk.Value, 0);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 0);
     EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
     EXPECT_EQ(Stored(kOptions, "UseGames"), "0");
 }
@@ -169,9 +169,9 @@ TEST_F(LvEvents, AQuakeWorldPlayerTicksAModification) {
     PickExe("C:\\QUAKE\\QWCL.EXE");
     Select(window.Game_Cbo, "Capture the Flag");
     Game_Cbo_Click(launcher);
-    Click(&LV_Frm::Game_Chk, 1);
-    EXPECT_TRUE(window.Game_Chk.Enabled);
-    EXPECT_EQ(window.Game_Chk.Value, 1);
+    Click(Option::Game_Chk, 1);
+    EXPECT_TRUE(window.Box(Option::Game_Chk).Enabled);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 1);
     EXPECT_EQ(run.CurrentGameDir, "CTF");
 }
 
@@ -181,9 +181,9 @@ TEST_F(LvEvents, TheCheckOfTheModificationStaysWhenTheKindIsTheSame) {
     PickExe("C:\\QUAKE\\GLQUAKE.EXE");
     Select(window.Game_Cbo, "Capture the Flag");
     Game_Cbo_Click(launcher);
-    Click(&LV_Frm::Game_Chk, 1);
+    Click(Option::Game_Chk, 1);
     PickExe("C:\\QUAKE\\QUAKE.EXE");
-    EXPECT_EQ(window.Game_Chk.Value, 1);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 1);
     EXPECT_EQ(run.CurrentGameDir, "CTF");
 }
 
@@ -227,9 +227,9 @@ TEST_F(LvEvents, GameSpyIsOutOfReachForHalfLifeAndHeretic2) {
     AddGames();
     Load();
     PickExe("C:\\QUAKE\\GLQUAKE.EXE");
-    EXPECT_TRUE(window.LaunchQspy_Chk.Enabled);
+    EXPECT_TRUE(window.Box(Option::LaunchQspy_Chk).Enabled);
     PickExe("C:\\HL\\HL.EXE");
-    EXPECT_FALSE(window.LaunchQspy_Chk.Enabled);
+    EXPECT_FALSE(window.Box(Option::LaunchQspy_Chk).Enabled);
 }
 
 TEST_F(LvEvents, EachModificationRemembersItsOwnScript) {
@@ -265,10 +265,10 @@ TEST_F(LvEvents, TheCommandLineAdditionsAreSavedAtEachChange) {
 TEST_F(LvEvents, ListenWarnsOnceAboutHalfLifesConsole) {
     run.GameKind = 9;
     user.Expect({"Half-Life Console Warning", "Click the button to launch the listen server.", 0, true});
-    Click(&LV_Frm::Listen_Chk, 1);
+    Click(Option::Listen_Chk, 1);
     EXPECT_EQ(Stored("ShowMessage", "HL_Listen_Server"), "0");
-    Click(&LV_Frm::Listen_Chk, 0);
-    Click(&LV_Frm::Listen_Chk, 1);
+    Click(Option::Listen_Chk, 0);
+    Click(Option::Listen_Chk, 1);
 }
 
 TEST_F(LvEvents, TheBenchmarkOfHalfLifeNeedsADemo) {
@@ -278,7 +278,7 @@ TEST_F(LvEvents, TheBenchmarkOfHalfLifeNeedsADemo) {
     system.Disk.AddFile("C:\\LORVANE\\hl1.dem", "a demo");
     user.Expect({"Half-Life TimeDemo Warning", "Half-Life does not ship a demo file to run a timedemo.", 0, true});
     user.Expect({"Half-Life TimeDemo Warning", "Click the button to run the timedemo.", 0, true});
-    Click(&LV_Frm::Bench_Chk, 1);
+    Click(Option::Bench_Chk, 1);
     EXPECT_EQ(system.Disk.Bytes("C:\\HL\\valve\\1.dem"), "a demo");
     EXPECT_EQ(Stored("ShowMessage", "HL_TimeDemo_2"), "0");
     EXPECT_EQ(Stored("ShowMessage", "HL_TimeDemo"), "0");
@@ -286,8 +286,8 @@ TEST_F(LvEvents, TheBenchmarkOfHalfLifeNeedsADemo) {
 
 TEST_F(LvEvents, NoWarningComesForOtherGames) {
     run.GameKind = 1;
-    Click(&LV_Frm::Listen_Chk, 1);
-    Click(&LV_Frm::Bench_Chk, 1);
+    Click(Option::Listen_Chk, 1);
+    Click(Option::Bench_Chk, 1);
     EXPECT_TRUE(user.Asked.empty());
 }
 

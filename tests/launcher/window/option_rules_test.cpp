@@ -2,91 +2,45 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 
 namespace lv {
 namespace {
 
-using Box = CheckBox LV_Frm::*;
-
-std::set<Text> NamesExcludedBy(Box box) {
+std::set<Text> NamesExcludedBy(Option option) {
     std::set<Text> names;
-    for (const Box excluded : ExcludedBy(box)) {
-        names.insert(OptionBoxOf(excluded).Name);
+    for (const OptionBox& row : OptionBoxes()) {
+        if (ExcludedBy(option).Has(row.Box)) {
+            names.insert(row.Name);
+        }
     }
     return names;
 }
 
 TEST(ExcludedBy, HoldsEachRowOfTheTable) {
     using Names = std::set<Text>;
-    EXPECT_EQ(NamesExcludedBy(&LV_Frm::Server_Chk),
+    EXPECT_EQ(NamesExcludedBy(Option::Server_Chk),
               (Names{"Dedicated_Chk", "Listen_Chk", "QSpy_Chk", "LaunchQspy_Chk", "Demo_Chk", "Bench_Chk", "Map_Chk"}));
-    EXPECT_EQ(NamesExcludedBy(&LV_Frm::QSpy_Chk), (Names{"Server_Chk", "Dedicated_Chk", "Listen_Chk", "LaunchQspy_Chk",
-                                                         "Demo_Chk", "Bench_Chk", "Map_Chk"}));
-    EXPECT_EQ(NamesExcludedBy(&LV_Frm::Dedicated_Chk),
+    EXPECT_EQ(NamesExcludedBy(Option::QSpy_Chk), (Names{"Server_Chk", "Dedicated_Chk", "Listen_Chk", "LaunchQspy_Chk",
+                                                        "Demo_Chk", "Bench_Chk", "Map_Chk"}));
+    EXPECT_EQ(NamesExcludedBy(Option::Dedicated_Chk),
               (Names{"Server_Chk", "Listen_Chk", "QSpy_Chk", "LaunchQspy_Chk", "Demo_Chk", "Bench_Chk"}));
-    EXPECT_EQ(NamesExcludedBy(&LV_Frm::Listen_Chk),
+    EXPECT_EQ(NamesExcludedBy(Option::Listen_Chk),
               (Names{"Server_Chk", "Dedicated_Chk", "QSpy_Chk", "LaunchQspy_Chk", "Demo_Chk", "Bench_Chk"}));
-    EXPECT_EQ(NamesExcludedBy(&LV_Frm::Demo_Chk),
+    EXPECT_EQ(NamesExcludedBy(Option::Demo_Chk),
               (Names{"Server_Chk", "Dedicated_Chk", "Listen_Chk", "QSpy_Chk", "LaunchQspy_Chk", "Bench_Chk"}));
-    EXPECT_EQ(NamesExcludedBy(&LV_Frm::LaunchQspy_Chk), (Names{"Server_Chk", "Dedicated_Chk", "Listen_Chk", "QSpy_Chk",
-                                                               "Demo_Chk", "Bench_Chk", "Game_Chk", "Map_Chk"}));
-    EXPECT_EQ(NamesExcludedBy(&LV_Frm::Map_Chk), (Names{"Server_Chk", "QSpy_Chk", "LaunchQspy_Chk", "Bench_Chk"}));
-    EXPECT_TRUE(NamesExcludedBy(&LV_Frm::Bench_Chk).empty());
-    EXPECT_TRUE(NamesExcludedBy(&LV_Frm::NOLAN_Chk).empty());
+    EXPECT_EQ(NamesExcludedBy(Option::LaunchQspy_Chk), (Names{"Server_Chk", "Dedicated_Chk", "Listen_Chk", "QSpy_Chk",
+                                                              "Demo_Chk", "Bench_Chk", "Game_Chk", "Map_Chk"}));
+    EXPECT_EQ(NamesExcludedBy(Option::Map_Chk), (Names{"Server_Chk", "QSpy_Chk", "LaunchQspy_Chk", "Bench_Chk"}));
+    EXPECT_TRUE(NamesExcludedBy(Option::Bench_Chk).empty());
+    EXPECT_TRUE(NamesExcludedBy(Option::NOLAN_Chk).empty());
 }
 
-struct OptionCase {
-    const char* Name;
-    const char* Caption;
-    const char* Key;
-    int Default;
-    const char* ToolTip;
-};
-
-constexpr const char* kBench = "Check to run the standard benchmark video frame rate test";
-
-constexpr OptionCase kOptionCases[] = {
-    {"Memory_Chk", "", "UseMemory", 1, "Check to activate the selected memory usage amount"},
-    {"Game_Chk", "", "UseGames", 1, "Check to activate the selected game modification"},
-    {"Script_Chk", "", "UseScripts", 0, "Check to activate the selected player script"},
-    {"Demo_Chk", "", "UseDemos", 1, "Check to activate the selected demo"},
-    {"Server_Chk", "", "UseServers", 0, "Check to activate the connection to the selected server"},
-    {"Dedicated_Chk", "&Dedicated", "Dedicated", 0, "Check to launch a dedicated server (you do not play)"},
-    {"Listen_Chk", "&Listen", "Listen", 0, "Check to launch a listen server (you play too)"},
-    {"Map_Chk", "", "", 0, "Check to launch to the selected map"},
-    {"QSpy_Chk", "  &Connect To Current GameSpy Server", "Qspy", 0,
-     "Check to connect to the currently selected GameSpy server"},
-    {"LaunchQspy_Chk", "  Configure and Launch Game&Spy", "LaunchQSpy", 0,
-     "Check to configure GameSpy with your Lorvane settings"},
-    {"Bench_Chk", "Run standard benchmark", "", 0, kBench},
-    {"NOLAN_Chk", "Disable Network", "NoLAN", 0, "Check to disable all network support"},
-    {"NOUDP_Chk", "Disable TCP/IP", "NoUDP", 0, "Check to disable TCP/IP support"},
-    {"NOCDAUDIO_Chk", "Disable CD Audio", "NoCDAudio", 0, "Check to disable CD audio"},
-    {"nosound_chk", "Disable Sound", "", 0, "Check to disable sound"},
-    {"ShowSet_Chk", "", "ShowEnvSettings", 0, ""},
-    {"EndOnLaunch_Chk", "Exit on Launch", "EndOnLaunch", 0, ""},
-    {"CommandLineAdditions_Chk", "", "UseCustomCommandLine", 0, "Check to add this text to the command line"},
-    {"UnrealSimulateFirstRun_Chk", "Simulate First Run", "", 0, kBench},
-    {"UnrealDisableLogWindow_Chk", "Disable Log Window", "", 0, kBench},
-    {"UnrealDisableK6Support_Chk", "Disable K6 Support", "", 0, kBench},
-    {"UnrealDisableMMXSupport_Chk", "Disable MMX Support", "", 0, kBench},
-    {"UnrealNoDirectSound_Chk", "Disable DirectSound", "", 0, kBench},
-    {"UnrealNoCDNeeded_Chk", "No CD Needed", "", 0, "Check to have Unreal read the CD's files from its own directory"},
-};
-
-TEST(OptionBoxes, HoldsEachRowOfTheTable) {
-    ASSERT_EQ(OptionBoxesEnd() - OptionBoxesBegin(), static_cast<std::ptrdiff_t>(std::size(kOptionCases)));
+TEST(LV_Frm, ShowsOnEachBoxWhatItsRowSays) {
     const LV_Frm window;
-    for (const OptionCase& expected : kOptionCases) {
-        const OptionBox* row = std::find_if(OptionBoxesBegin(), OptionBoxesEnd(),
-                                            [&](const OptionBox& one) { return Text(one.Name) == expected.Name; });
-        ASSERT_NE(row, OptionBoxesEnd()) << expected.Name;
-        EXPECT_STREQ(row->Key, expected.Key) << expected.Name;
-        EXPECT_EQ(row->Default, expected.Default) << expected.Name;
-        EXPECT_EQ((window.*row->Box).Caption, expected.Caption) << expected.Name;
-        EXPECT_EQ((window.*row->Box).ToolTip, expected.ToolTip) << expected.Name;
+    for (const OptionBox& row : OptionBoxes()) {
+        EXPECT_EQ(window.Box(row.Box).Caption, row.Caption) << row.Name;
+        EXPECT_EQ(window.Box(row.Box).ToolTip, row.ToolTip) << row.Name;
     }
 }
 
@@ -115,7 +69,7 @@ TEST(LV_Frm, NamesItsLaunchButtons) {
     EXPECT_EQ(window.DoIt_Cmd[1].ToolTip, "Click to create and view the launch files");
     EXPECT_EQ(window.DoIt_Cmd[2].Caption, "&Create Only");
     EXPECT_EQ(window.DoIt_Cmd[2].ToolTip, "Click to create launch files, but not launch");
-    EXPECT_EQ(window.EndOnLaunch_Chk.Caption, "Exit on Launch");
+    EXPECT_EQ(window.Box(Option::EndOnLaunch_Chk).Caption, "Exit on Launch");
     EXPECT_EQ(window.Exe_Cbo.ToolTip, "List of recognized games");
 }
 
@@ -124,47 +78,47 @@ constexpr PanelGame kQuakeWorld = {1, 1, true, false};
 constexpr PanelGame kQuake2 = {3, 3, false, false};
 constexpr PanelGame kUnreal = {4, 4, false, false};
 
-LV_Frm WithTicked(std::initializer_list<Box> boxes) {
+LV_Frm WithTicked(std::initializer_list<Option> options) {
     LV_Frm window;
-    for (const Box box : boxes) {
-        (window.*box).Value = 1;
+    for (const Option option : options) {
+        window.Box(option).Value = 1;
     }
     return window;
 }
 
 TEST(ApplyGamePanels, TakesFromAQuakeWorldClientWhatItCannotDo) {
     LV_Frm window =
-        WithTicked({&LV_Frm::Demo_Chk, &LV_Frm::Bench_Chk, &LV_Frm::Game_Chk, &LV_Frm::Map_Chk, &LV_Frm::Memory_Chk});
+        WithTicked({Option::Demo_Chk, Option::Bench_Chk, Option::Game_Chk, Option::Map_Chk, Option::Memory_Chk});
     ApplyGamePanels(window, kQuakeWorld);
-    EXPECT_EQ(window.Demo_Chk.Value, 0);
-    EXPECT_EQ(window.Game_Chk.Value, 0);
-    for (const Box box : {&LV_Frm::Bench_Chk, &LV_Frm::Map_Chk}) {
-        EXPECT_EQ((window.*box).Value, 0) << OptionBoxOf(box).Name;
-        EXPECT_FALSE((window.*box).Enabled) << OptionBoxOf(box).Name;
+    EXPECT_EQ(window.Box(Option::Demo_Chk).Value, 0);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 0);
+    for (const Option option : {Option::Bench_Chk, Option::Map_Chk}) {
+        EXPECT_EQ(window.Box(option).Value, 0) << OptionBoxOf(option).Name;
+        EXPECT_FALSE(window.Box(option).Enabled) << OptionBoxOf(option).Name;
     }
-    EXPECT_FALSE(window.Listen_Chk.Enabled);
-    EXPECT_FALSE(window.Dedicated_Chk.Enabled);
-    EXPECT_EQ(window.Memory_Chk.Value, 1);
+    EXPECT_FALSE(window.Box(Option::Listen_Chk).Enabled);
+    EXPECT_FALSE(window.Box(Option::Dedicated_Chk).Enabled);
+    EXPECT_EQ(window.Box(Option::Memory_Chk).Value, 1);
 }
 
 TEST(ApplyGamePanels, LeavesAQuakeWorldClientItsModificationsAndDemos) {
     LV_Frm window;
     ApplyGamePanels(window, kQuakeWorld);
-    EXPECT_TRUE(window.Game_Chk.Enabled);
+    EXPECT_TRUE(window.Box(Option::Game_Chk).Enabled);
     EXPECT_TRUE(window.Mod_Pan.Enabled);
     EXPECT_TRUE(window.Demo_Pan.Enabled);
 }
 
 TEST(ApplyGamePanels, LeavesAHexenWorldClientTheListenServerToo) {
-    LV_Frm window = WithTicked({&LV_Frm::Demo_Chk});
+    LV_Frm window = WithTicked({Option::Demo_Chk});
     ApplyGamePanels(window, {2, 1, false, true});
-    EXPECT_EQ(window.Demo_Chk.Value, 0);
+    EXPECT_EQ(window.Box(Option::Demo_Chk).Value, 0);
     EXPECT_TRUE(window.Demo_Pan.Enabled);
-    EXPECT_TRUE(window.Game_Chk.Enabled);
-    EXPECT_TRUE(window.Listen_Chk.Enabled);
-    EXPECT_FALSE(window.Dedicated_Chk.Enabled);
-    EXPECT_FALSE(window.Bench_Chk.Enabled);
-    EXPECT_FALSE(window.Map_Chk.Enabled);
+    EXPECT_TRUE(window.Box(Option::Game_Chk).Enabled);
+    EXPECT_TRUE(window.Box(Option::Listen_Chk).Enabled);
+    EXPECT_FALSE(window.Box(Option::Dedicated_Chk).Enabled);
+    EXPECT_FALSE(window.Box(Option::Bench_Chk).Enabled);
+    EXPECT_FALSE(window.Box(Option::Map_Chk).Enabled);
 }
 
 TEST(ApplyGamePanels, GivesEverythingBackForQuake) {
@@ -172,16 +126,16 @@ TEST(ApplyGamePanels, GivesEverythingBackForQuake) {
     ApplyGamePanels(window, kQuakeWorld);
     ApplyGamePanels(window, kQuake);
     EXPECT_TRUE(window.Demo_Pan.Enabled);
-    for (const Box box : {&LV_Frm::Listen_Chk, &LV_Frm::Dedicated_Chk, &LV_Frm::Bench_Chk, &LV_Frm::Game_Chk,
-                          &LV_Frm::Map_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::NOUDP_Chk}) {
-        EXPECT_TRUE((window.*box).Enabled) << OptionBoxOf(box).Name;
+    for (const Option option : {Option::Listen_Chk, Option::Dedicated_Chk, Option::Bench_Chk, Option::Game_Chk,
+                                Option::Map_Chk, Option::NOLAN_Chk, Option::NOUDP_Chk}) {
+        EXPECT_TRUE(window.Box(option).Enabled) << OptionBoxOf(option).Name;
     }
 }
 
 TEST(ApplyGamePanels, KeepsTheModificationTickBetweenTwoGamesOfOneKind) {
-    LV_Frm window = WithTicked({&LV_Frm::Game_Chk});
+    LV_Frm window = WithTicked({Option::Game_Chk});
     ApplyGamePanels(window, kQuake);
-    EXPECT_EQ(window.Game_Chk.Value, 1);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 1);
 }
 
 TEST(ApplyGamePanels, LaysTheRightColumnOutForUnreal) {
@@ -204,90 +158,90 @@ TEST(ApplyGamePanels, LaysTheRightColumnOutForTheOthers) {
 }
 
 TEST(ApplyGamePanels, GreysForUnrealWhatItRemembers) {
-    LV_Frm window = WithTicked({&LV_Frm::Game_Chk});
+    LV_Frm window = WithTicked({Option::Game_Chk});
     ApplyGamePanels(window, kUnreal);
-    EXPECT_EQ(window.Game_Chk.Value, 2);
-    EXPECT_EQ(window.Demo_Chk.Value, 0);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 2);
+    EXPECT_EQ(window.Box(Option::Demo_Chk).Value, 0);
     EXPECT_FALSE(window.Mod_Pan.Enabled);
     EXPECT_FALSE(window.Demo_Pan.Enabled);
-    EXPECT_FALSE(window.Listen_Chk.Enabled);
+    EXPECT_FALSE(window.Box(Option::Listen_Chk).Enabled);
 }
 
 TEST(ApplyGamePanels, LeavesUnrealItsMemory) {
-    LV_Frm window = WithTicked({&LV_Frm::Memory_Chk});
+    LV_Frm window = WithTicked({Option::Memory_Chk});
     ApplyGamePanels(window, kUnreal);
-    EXPECT_EQ(window.Memory_Chk.Value, 1);
+    EXPECT_EQ(window.Box(Option::Memory_Chk).Value, 1);
     EXPECT_TRUE(window.Memory_Pan.Enabled);
     EXPECT_TRUE(window.Bar(MenuItem::Mem_Bar).Enabled);
 }
 
 TEST(ApplyGamePanels, TicksAgainBehindUnrealWhatWasGreyed) {
-    LV_Frm window = WithTicked({&LV_Frm::Memory_Chk, &LV_Frm::Game_Chk, &LV_Frm::Demo_Chk});
+    LV_Frm window = WithTicked({Option::Memory_Chk, Option::Game_Chk, Option::Demo_Chk});
     ApplyGamePanels(window, kUnreal);
     ApplyGamePanels(window, kQuake);
-    EXPECT_EQ(window.Memory_Chk.Value, 1);
-    EXPECT_EQ(window.Game_Chk.Value, 1);
-    EXPECT_EQ(window.Demo_Chk.Value, 1);
+    EXPECT_EQ(window.Box(Option::Memory_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Demo_Chk).Value, 1);
     EXPECT_TRUE(window.Memory_Pan.Enabled);
     EXPECT_TRUE(window.Mod_Pan.Enabled);
     EXPECT_TRUE(window.Bar(MenuItem::Mem_Bar).Enabled);
 }
 
 TEST(ApplyGamePanels, ChangesTheOptionsForUnreal) {
-    LV_Frm window = WithTicked({&LV_Frm::NOCDAUDIO_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::Bench_Chk});
+    LV_Frm window = WithTicked({Option::NOCDAUDIO_Chk, Option::NOUDP_Chk, Option::NOLAN_Chk, Option::Bench_Chk});
     ApplyGamePanels(window, kUnreal);
-    for (const Box box : {&LV_Frm::NOCDAUDIO_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::NOLAN_Chk, &LV_Frm::Bench_Chk}) {
-        EXPECT_EQ((window.*box).Value, 0) << OptionBoxOf(box).Name;
-        EXPECT_FALSE((window.*box).Visible) << OptionBoxOf(box).Name;
+    for (const Option option : {Option::NOCDAUDIO_Chk, Option::NOUDP_Chk, Option::NOLAN_Chk, Option::Bench_Chk}) {
+        EXPECT_EQ(window.Box(option).Value, 0) << OptionBoxOf(option).Name;
+        EXPECT_FALSE(window.Box(option).Visible) << OptionBoxOf(option).Name;
     }
-    for (const Box box :
-         {&LV_Frm::UnrealSimulateFirstRun_Chk, &LV_Frm::UnrealDisableLogWindow_Chk, &LV_Frm::UnrealDisableK6Support_Chk,
-          &LV_Frm::UnrealDisableMMXSupport_Chk, &LV_Frm::UnrealNoDirectSound_Chk, &LV_Frm::UnrealNoCDNeeded_Chk}) {
-        EXPECT_TRUE((window.*box).Visible) << OptionBoxOf(box).Name;
+    for (const Option option :
+         {Option::UnrealSimulateFirstRun_Chk, Option::UnrealDisableLogWindow_Chk, Option::UnrealDisableK6Support_Chk,
+          Option::UnrealDisableMMXSupport_Chk, Option::UnrealNoDirectSound_Chk, Option::UnrealNoCDNeeded_Chk}) {
+        EXPECT_TRUE(window.Box(option).Visible) << OptionBoxOf(option).Name;
     }
     ApplyGamePanels(window, kQuake);
-    EXPECT_TRUE(window.Bench_Chk.Visible);
-    EXPECT_TRUE(window.NOLAN_Chk.Visible);
-    EXPECT_FALSE(window.UnrealNoDirectSound_Chk.Visible);
+    EXPECT_TRUE(window.Box(Option::Bench_Chk).Visible);
+    EXPECT_TRUE(window.Box(Option::NOLAN_Chk).Visible);
+    EXPECT_FALSE(window.Box(Option::UnrealNoDirectSound_Chk).Visible);
 }
 
 TEST(ApplyGamePanels, KeepsListenDisabledForQuakeWorldAlsoAfterLeavingUnreal) {
     LV_Frm window;
     ApplyGamePanels(window, kUnreal);
     ApplyGamePanels(window, kQuakeWorld);
-    EXPECT_FALSE(window.Listen_Chk.Enabled);
+    EXPECT_FALSE(window.Box(Option::Listen_Chk).Enabled);
     ApplyGamePanels(window, kQuake);
-    EXPECT_TRUE(window.Listen_Chk.Enabled);
+    EXPECT_TRUE(window.Box(Option::Listen_Chk).Enabled);
 }
 
 TEST(ApplyGamePanels, LeavesTheQuake2FamilyItsOwnMemoryAndNetwork) {
-    LV_Frm window = WithTicked({&LV_Frm::NOLAN_Chk, &LV_Frm::NOUDP_Chk, &LV_Frm::Memory_Chk});
+    LV_Frm window = WithTicked({Option::NOLAN_Chk, Option::NOUDP_Chk, Option::Memory_Chk});
     ApplyGamePanels(window, kQuake2);
-    EXPECT_EQ(window.NOLAN_Chk.Value, 0);
-    EXPECT_FALSE(window.NOLAN_Chk.Enabled);
-    EXPECT_EQ(window.NOUDP_Chk.Value, 0);
-    EXPECT_FALSE(window.NOUDP_Chk.Enabled);
-    EXPECT_EQ(window.Memory_Chk.Value, 2);
+    EXPECT_EQ(window.Box(Option::NOLAN_Chk).Value, 0);
+    EXPECT_FALSE(window.Box(Option::NOLAN_Chk).Enabled);
+    EXPECT_EQ(window.Box(Option::NOUDP_Chk).Value, 0);
+    EXPECT_FALSE(window.Box(Option::NOUDP_Chk).Enabled);
+    EXPECT_EQ(window.Box(Option::Memory_Chk).Value, 2);
     EXPECT_FALSE(window.Memory_Pan.Enabled);
     EXPECT_FALSE(window.Bar(MenuItem::Mem_Bar).Enabled);
     ApplyGamePanels(window, kQuake);
-    EXPECT_TRUE(window.NOLAN_Chk.Enabled);
-    EXPECT_TRUE(window.NOCDAUDIO_Chk.Enabled);
-    EXPECT_TRUE(window.nosound_chk.Enabled);
+    EXPECT_TRUE(window.Box(Option::NOLAN_Chk).Enabled);
+    EXPECT_TRUE(window.Box(Option::NOCDAUDIO_Chk).Enabled);
+    EXPECT_TRUE(window.Box(Option::nosound_chk).Enabled);
     EXPECT_TRUE(window.Memory_Pan.Enabled);
     EXPECT_TRUE(window.Bar(MenuItem::Mem_Bar).Enabled);
-    EXPECT_EQ(window.Memory_Chk.Value, 1);
+    EXPECT_EQ(window.Box(Option::Memory_Chk).Value, 1);
 }
 
 TEST(ApplyGamePanels, ChangesNothingTheSecondTime) {
     for (const PanelGame& game : {kQuake, kQuakeWorld, kQuake2, kUnreal}) {
-        LV_Frm once = WithTicked({&LV_Frm::Memory_Chk, &LV_Frm::Demo_Chk, &LV_Frm::NOLAN_Chk});
+        LV_Frm once = WithTicked({Option::Memory_Chk, Option::Demo_Chk, Option::NOLAN_Chk});
         ApplyGamePanels(once, game);
         LV_Frm twice = once;
         ApplyGamePanels(twice, game);
-        for (const OptionBox* option = OptionBoxesBegin(); option != OptionBoxesEnd(); ++option) {
-            EXPECT_EQ((once.*option->Box).Value, (twice.*option->Box).Value) << option->Name;
-            EXPECT_EQ((once.*option->Box).Enabled, (twice.*option->Box).Enabled) << option->Name;
+        for (const OptionBox& option : OptionBoxes()) {
+            EXPECT_EQ(once.Box(option.Box).Value, twice.Box(option.Box).Value) << option.Name;
+            EXPECT_EQ(once.Box(option.Box).Enabled, twice.Box(option.Box).Enabled) << option.Name;
         }
     }
 }

@@ -43,7 +43,7 @@ class UnrealOptions : public LauncherTest {
     void PickScript(TextView path) {
         const auto& items = window.Script_Cbo.Items;
         for (std::size_t i = 0; i < items.size(); ++i) {
-            if (SameText(items[i].substr(NameFieldWidth), path)) {
+            if (SameText(items[i].substr(100), path)) {
                 window.Script_Cbo.ListIndex = static_cast<int>(i);
                 return;
             }
@@ -63,7 +63,7 @@ TEST_F(UnrealOptions, AreSetInTheGameDirectorysOwnIni) {
 
 TEST_F(UnrealOptions, AreSetInTheTickedScript) {
     PickScript(kMyIni);
-    window.Script_Chk.Value = 1;
+    window.Box(Option::Script_Chk).Value = 1;
     EXPECT_EQ(Rewrite().Number, 0);
     EXPECT_EQ(system.Disk.Bytes(kMyIni), kNew);
     EXPECT_EQ(system.Disk.Bytes(kIni), kOld);
@@ -71,9 +71,9 @@ TEST_F(UnrealOptions, AreSetInTheTickedScript) {
 
 TEST_F(UnrealOptions, PassOverAScriptThatIsNotTickedOrNotChosen) {
     PickScript(kMyIni);
-    window.Script_Chk.Value = 2;
+    window.Box(Option::Script_Chk).Value = 2;
     EXPECT_EQ(Rewrite().Number, 0);
-    window.Script_Chk.Value = 1;
+    window.Box(Option::Script_Chk).Value = 1;
     window.Script_Cbo.ListIndex = -1;
     EXPECT_EQ(Rewrite().Number, 0);
     EXPECT_EQ(system.Disk.Bytes(kMyIni), kOld);
@@ -95,17 +95,17 @@ TEST_F(UnrealOptions, WithoutAStoredResolutionAreThoseOfTheDefault) {
 }
 
 TEST_F(UnrealOptions, SetTheCdPathWithItsBoxTicked) {
-    window.UnrealNoCDNeeded_Chk.Value = 2;
+    window.Box(Option::UnrealNoCDNeeded_Chk).Value = 2;
     EXPECT_EQ(Rewrite().Number, 0);
     EXPECT_THAT(system.Disk.Bytes(kIni), HasSubstr("CdPath=D:\\\r\n"));
-    window.UnrealNoCDNeeded_Chk.Value = 1;
+    window.Box(Option::UnrealNoCDNeeded_Chk).Value = 1;
     EXPECT_EQ(Rewrite().Number, 0);
     EXPECT_THAT(system.Disk.Bytes(kIni), HasSubstr("CdPath=c:\\unreal\\\r\n"));
 }
 
 TEST_F(UnrealOptions, ForAGivenIniMakeItsDirectoryTheGames) {
     run.DefaultGameDirectory = "C:\\QUAKE";
-    window.UnrealNoCDNeeded_Chk.Value = 1;
+    window.Box(Option::UnrealNoCDNeeded_Chk).Value = 1;
     system.Disk.AddFile("D:\\Games\\Unreal\\System\\other.ini", kOld);
     system.Disk.AddFile("D:\\Games\\Unreal\\System\\temp666_.ini", "left behind");
     EXPECT_EQ(SetUnrealVideoOptionsForLaunch(launcher, "D:\\Games\\Unreal\\System\\other.ini").Number, 0);
@@ -202,7 +202,7 @@ TEST_F(UnrealOptions, AreShownByView) {
 
 TEST_F(UnrealOptions, AreSetInTheIniThatTheCommandLineNames) {
     PickScript(kMyIni);
-    window.Script_Chk.Value = 1;
+    window.Box(Option::Script_Chk).Value = 1;
     DoIt_Cmd_Click(launcher, 2);
     EXPECT_EQ(system.Disk.Bytes(kMyIni), kNew);
     EXPECT_TRUE(system.Disk.Bytes("C:\\UNREAL\\SYSTEM\\lv_666.bat").ends_with("\r\nUNREAL.EXE -nohard INI=my.ini "));

@@ -235,7 +235,7 @@ TEST_F(WindowLife, ALaunchWithExitOnLaunchExitsAsTheMenuWould) {
     AddGames();
     Load();
     window.Placement = {150, 300, 4500, 6000, kWindowNormal};
-    window.EndOnLaunch_Chk.Value = 1;
+    window.Box(Option::EndOnLaunch_Chk).Value = 1;
     DoIt_Cmd_Click(launcher, 0);
     EXPECT_TRUE(run.Ended);
     EXPECT_EQ(Stored("LV_Frm", "Top"), "150");
