@@ -6,8 +6,8 @@
 
 namespace lv {
 
-/// Whether the keyboard goes to the control, or to a part of it, when its window is in front. `control` is the toolkit's
-/// native handle.
+/// Whether the keyboard goes to the control, or to a part of it, when its window is in front. `control` is the
+/// toolkit's native handle.
 bool HoldsKeyboard(void* control);
 
 }  // namespace lv
