@@ -1,7 +1,7 @@
 #include "launch/launch_composition.h"
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "launch/composition_rows.h"
 #include "launch/text_patterns.h"
 
@@ -62,7 +62,7 @@ LaunchTexts ComposeLaunch(const LaunchSelection& selection, const LaunchGame& ga
     texts.UnrealCommand = texts.GameCommand;
     const Composition c{selection, game, profile, hooks, texts};
     for (const CompositionRow& row : CompositionRows()) {
-        if (row.Step > kLastStep || (row.Games == CompositionScope::NotUnreal && game.GameKind == game_kind::kUnreal)) {
+        if (row.Step > kLastStep || (row.Games == CompositionScope::NotUnreal && game.GameKind == Game::Unreal)) {
             continue;
         }
         texts.LaunchStep = row.Step;

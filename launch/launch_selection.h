@@ -6,7 +6,7 @@
 
 #include <optional>
 
-#include "foundation/text.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -50,8 +50,8 @@ struct LaunchSelection {
 
 /// The game that the selection is for.
 struct LaunchGame {
-    Index GameKind = 0;
-    Index ScriptFamily = 0;
+    Game GameKind = Game::None;
+    Dialect ScriptFamily = Dialect::None;
     Text DefaultGameDirectory;
     Text CurrentGameDir;
     bool UsesAccelerator = true;

@@ -4,7 +4,7 @@
 #include "catalogs/map_scan.h"
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/link_question.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
@@ -39,7 +39,7 @@ void Game_Chk_Click(Launcher& launcher) {
 }
 
 void Listen_Chk_Click(Launcher& launcher) {
-    if (launcher.Window.Listen_Chk.Value != 1 || launcher.run.GameKind != game_kind::kHalfLife) {
+    if (launcher.Window.Listen_Chk.Value != 1 || launcher.run.GameKind != Game::HalfLife) {
         return;
     }
     AskUserUnlessTold(launcher.run, "HL_Listen_Server", "Half-Life Console Warning",
@@ -51,7 +51,7 @@ void Listen_Chk_Click(Launcher& launcher) {
 
 void Bench_Chk_Click(Launcher& launcher) {
     Run& run = launcher.run;
-    if (launcher.Window.Bench_Chk.Value != 1 || run.GameKind != game_kind::kHalfLife) {
+    if (launcher.Window.Bench_Chk.Value != 1 || run.GameKind != Game::HalfLife) {
         return;
     }
     const Text demo = Join(run.DefaultGameDirectory, "\\valve\\1.dem");
@@ -147,8 +147,8 @@ void Exe_Cbo_Click(Launcher& launcher) {
     if (run.Ended) {
         return;
     }
-    window.LaunchQspy_Chk.Enabled = run.GameKind != game_kind::kHalfLife && run.GameKind != game_kind::kHeretic2;
-    if (run.GameKind != 0) {
+    window.LaunchQspy_Chk.Enabled = run.GameKind != Game::HalfLife && run.GameKind != Game::Heretic2;
+    if (run.GameKind != Game::None) {
         ApplyModification(launcher);
     }
     ScanForMaps(run, launcher.Lists);

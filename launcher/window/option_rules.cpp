@@ -1,6 +1,6 @@
 #include "launcher/window/option_rules.h"
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -118,7 +118,7 @@ void ApplyOtherGame(LV_Frm& window, const PanelGame& game) {
 }
 
 void ApplyFamily(LV_Frm& window, const PanelGame& game) {
-    if (game.ScriptFamily == 3) {
+    if (game.ScriptFamily == Dialect::Quake2) {
         ClearAndDisable(window.NOLAN_Chk);
         ClearAndDisable(window.NOUDP_Chk);
         Grey(window.Memory_Chk);
@@ -148,7 +148,7 @@ const std::vector<CheckBox LV_Frm::*>& ExcludedBy(CheckBox LV_Frm::*box) {
 
 void ApplyGamePanels(LV_Frm& window, const PanelGame& game) {
     ApplyWorldClient(window, game.IsQuakeWorld || game.IsHexenWorld);
-    if (game.GameKind == game_kind::kUnreal) {
+    if (game.GameKind == Game::Unreal) {
         ApplyUnreal(window);
     } else {
         ApplyOtherGame(window, game);

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "foundation/game.h"
 #include "launcher/window/lv_frm.h"
 
 namespace lv {
@@ -15,8 +16,8 @@ const std::vector<CheckBox LV_Frm::*>& ExcludedBy(CheckBox LV_Frm::*box);
 
 /// What the panels depend on.
 struct PanelGame {
-    Index GameKind = 0;
-    Index ScriptFamily = 0;
+    Game GameKind = Game::None;
+    Dialect ScriptFamily = Dialect::None;
     bool IsQuakeWorld = false;
     bool IsHexenWorld = false;
 };
