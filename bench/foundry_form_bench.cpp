@@ -41,20 +41,20 @@ constexpr double kSplashMilliseconds = 1000;
 constexpr int kQuietMilliseconds = 60;
 constexpr int kLookMilliseconds = 500;  // from a window that has come up to a quick hand's first click in it
 
-struct Game {
+struct PlayedGame {
     const char* Name;
-    lv::Index Kind;
-    lv::Index Family;
+    lv::Game Kind;
+    lv::Dialect Family;
     const char* Program;
     const char* Script;
 };
 
 // clang-format off
-constexpr Game kGames[] = {
-    {"Quake",    1, 1, "C:\\QUAKE\\GLQUAKE.EXE",         "C:\\QUAKE\\ID1\\my.cfg"},
-    {"Hexen II", 2, 1, "C:\\HEXEN2\\GLH2.EXE",           "C:\\HEXEN2\\DATA1\\my.cfg"},
-    {"Quake II", 3, 3, "C:\\QUAKE2\\QUAKE2.EXE",         "C:\\QUAKE2\\BASEQ2\\my.cfg"},
-    {"Unreal",   4, 4, "C:\\UNREAL\\SYSTEM\\UNREAL.EXE", "C:\\UNREAL\\SYSTEM\\unreal.ini"},
+constexpr PlayedGame kGames[] = {
+    {"Quake",    lv::Game::Quake,  lv::Dialect::Quake,  "C:\\QUAKE\\GLQUAKE.EXE",         "C:\\QUAKE\\ID1\\my.cfg"},
+    {"Hexen II", lv::Game::Hexen2, lv::Dialect::Quake,  "C:\\HEXEN2\\GLH2.EXE",           "C:\\HEXEN2\\DATA1\\my.cfg"},
+    {"Quake II", lv::Game::Quake2, lv::Dialect::Quake2, "C:\\QUAKE2\\QUAKE2.EXE",         "C:\\QUAKE2\\BASEQ2\\my.cfg"},
+    {"Unreal",   lv::Game::Unreal, lv::Dialect::Unreal, "C:\\UNREAL\\SYSTEM\\UNREAL.EXE", "C:\\UNREAL\\SYSTEM\\unreal.ini"},
 };
 // clang-format on
 
@@ -85,7 +85,7 @@ class WhenSeen : public wxTimer {
 /// The editor over the main window, as in the program.
 class Bench {
   public:
-    Bench(const Game& game, const std::string& script) {
+    Bench(const PlayedGame& game, const std::string& script) {
         lv::Save(run_, "LV-Stuff", "FirstTime", 0);
         lv::Save(run_, "ShowMessage", "HL_Phun-Names", 0);
         user_.AddForms(lv::MakeEntryForm);
@@ -146,7 +146,7 @@ class Bench {
 };
 
 void BM_ClickToEditor(benchmark::State& state) {
-    const Game& game = kGames[state.range(0)];
+    const PlayedGame& game = kGames[state.range(0)];
     state.SetLabel(game.Name);
     Bench bench(game, lv::MixedScript(kLines));
     double total = 0;
@@ -190,7 +190,7 @@ void TurnAll(lv::PaintWatch& watch, Turns& turns) {
 }
 
 void BM_TurnPages(benchmark::State& state) {
-    const Game& game = kGames[state.range(0)];
+    const PlayedGame& game = kGames[state.range(0)];
     const bool first = state.range(1) != 0;
     // The first look at the pages of a long script comes behind the idle moments in which they are made.
     Bench bench(game, lv::MixedScript(first ? kUsualLines : kLines));

@@ -35,8 +35,8 @@ void Open(benchmark::State& state, const std::string& script, double limit) {
     memory.Disk.AddFile(kPath, script);
     lv::NoUser user;
     lv::Run run{memory.Services, user};
-    run.GameKind = 3;
-    run.ScriptFamily = 3;
+    run.GameKind = lv::Game::Quake2;
+    run.ScriptFamily = lv::Dialect::Quake2;
     lv::ScriptView view;
     lv::ScriptDocument document;
     double seconds = 0;
@@ -90,7 +90,8 @@ void BM_MemoryOfAHugeLine(benchmark::State& state) {
     lv::ScriptView view;
     const double before = PeakMegabytes();
     for (auto _ : state) {
-        lv::ScriptDocument document = lv::MakeScriptDocument({.GameKind = 1, .ScriptFamily = 1});
+        lv::ScriptDocument document =
+            lv::MakeScriptDocument({.GameKind = lv::Game::Quake, .ScriptFamily = lv::Dialect::Quake});
         const std::uint64_t full = lv::ReadAliases(file, document);
         lv::ReadLines(file, document, view, full, [] {});
         if (document.KeyBinding[1].size() < 90'000'000) {

@@ -103,7 +103,7 @@ void ScanOneArchive(benchmark::State& state, const std::string& bytes, std::uint
     lv::NoUser user;
     lv::Run run{system, user};
     lv::Launcher launcher{run};
-    run.GameKind = 1;
+    run.GameKind = lv::Game::Quake;
     run.DefaultGameDirectory = "c:\\quake";
     run.BaseGameDir = run.CurrentGameDir = "ID1";
     double seconds = 0;

@@ -20,7 +20,7 @@ constexpr int kLines = 10000;
 
 /// Half aliases, half lines of the player's own; a few hundred more are settings, bindings and banners.
 lv::ScriptDocument DocumentOf(int lines) {
-    lv::ScriptDocument document = lv::MakeScriptDocument({3, 3, false, false, ','});
+    lv::ScriptDocument document = lv::MakeScriptDocument({lv::Game::Quake2, lv::Dialect::Quake2, false, false, ','});
     for (lv::Text& command : document.KeyBinding) {
         command = "echo a command of some length; wait; +attack";
     }

@@ -4,18 +4,18 @@
 
 #pragma once
 
-#include "foundation/text.h"
+#include "foundation/game.h"
 
 namespace lv {
 
 struct GameFilters {
-    Index GameKind;
+    Game GameKind;
     TextView Scripts;    // filter of the file dialog
     TextView Demos;      // the same; empty: the game has none
     TextView Extension;  // with its point, ".qs"
 };
 
-/// The row of a game; null for GameKind 0 and other numbers that are no game.
-const GameFilters* FiltersOf(Index gameKind);
+/// The row of a game; null for none.
+const GameFilters* FiltersOf(Game gameKind);
 
 }  // namespace lv

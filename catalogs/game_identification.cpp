@@ -12,10 +12,6 @@ namespace lv {
 
 namespace {
 
-constexpr Index kQuake = 1;
-constexpr Index kHexen2 = 2;
-constexpr Index kHalfLife = 9;
-
 enum class Test {
     Below,         // this directory stands below the executable's
     PathHolds,     // the executable's directory, in upper case, holds this
@@ -25,17 +21,22 @@ enum class Test {
 struct GameRow {
     Test How;
     TextView What;
-    Index GameKind;
-    Index ScriptFamily;
+    Game GameKind;
+    Dialect ScriptFamily;
     TextView BaseGameDir;
 };
 
+// clang-format off
 constexpr GameRow kGameTable[] = {
-    {Test::Below, "\\id1", 1, 1, "ID1"},       {Test::Below, "\\data1", 2, 1, "DATA1"},
-    {Test::Below, "\\baseq2", 3, 3, "BASEQ2"}, {Test::PathHolds, "UNREAL\\SYSTEM", 4, 4, "MAPS"},
-    {Test::BaseAndHolds, "sin", 5, 3, "BASE"}, {Test::BaseAndHolds, "heretic", 6, 3, "BASE"},
-    {Test::Below, "\\valve", 9, 3, "VALVE"},
+    {Test::Below,        "\\id1",          Game::Quake,    Dialect::Quake,  "ID1"},
+    {Test::Below,        "\\data1",        Game::Hexen2,   Dialect::Quake,  "DATA1"},
+    {Test::Below,        "\\baseq2",       Game::Quake2,   Dialect::Quake2, "BASEQ2"},
+    {Test::PathHolds,    "UNREAL\\SYSTEM", Game::Unreal,   Dialect::Unreal, "MAPS"},
+    {Test::BaseAndHolds, "sin",            Game::Sin,      Dialect::Quake2, "BASE"},
+    {Test::BaseAndHolds, "heretic",        Game::Heretic2, Dialect::Quake2, "BASE"},
+    {Test::Below,        "\\valve",        Game::HalfLife, Dialect::Quake2, "VALVE"},
 };
+// clang-format on
 
 bool IsHit(Files& files, TextView directory, const GameRow& row) {
     switch (row.How) {
@@ -85,9 +86,9 @@ void ReportEmptyPath(Run& run, TextView path) {
 }
 
 // The modification was one of the old game. A start has no old game: it finds the tick as it was left.
-void DropModification(Run& run, CatalogLists& lists, Index before) {
+void DropModification(Run& run, CatalogLists& lists, Game before) {
     lists.Game_Chk.Value = 0;
-    if (before != 0 || run.MainFormLoaded) {
+    if (before != Game::None || run.MainFormLoaded) {
         Save(run, kOptions, "UseGames", 0);
     }
 }
@@ -98,7 +99,7 @@ bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const Registry
     run.BaseGameDir = facts.BaseGameDir;
     run.CurrentGameDir = facts.BaseGameDir;
     run.GameKind = facts.GameKind;
-    if (facts.GameKind == 0) {
+    if (facts.GameKind == Game::None) {
         ClearForNoGame(run, lists);
         return true;
     }
@@ -108,7 +109,7 @@ bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const Registry
     run.IsHexenWorld = flags.IsHexenWorld;
     run.IsMissionPack = flags.IsMissionPack;
     run.UsesAccelerator = flags.UsesAccelerator;
-    if (facts.GameKind == kHalfLife && toScript) {
+    if (facts.GameKind == Game::HalfLife && toScript) {
         toScript(Join(run.DefaultGameDirectory, "\\valve\\lv3dhlrg.cfg"));
     }
     return !run.Ended && FillGamesCombo(run, lists) && FillScriptsCombo(run, lists) && FillServerCombo(run, lists);
@@ -125,14 +126,14 @@ GameFacts FactsOfDirectory(Files& files, TextView directory) {
     return {};
 }
 
-ExecutableFlags FlagsOfPath(Index gameKind, TextView path) {
+ExecutableFlags FlagsOfPath(Game gameKind, TextView path) {
     const Text upper = UpperCase(path);
     ExecutableFlags flags;
-    if (gameKind == kQuake) {
+    if (gameKind == Game::Quake) {
         flags.IsQuakeWorld = Holds(upper, "QWCL.EXE");
         flags.UsesAccelerator = !HoldsAny(upper, {"\\QWCL.EXE", "\\QUAKE.EXE"});
     }
-    if (gameKind == kHexen2) {
+    if (gameKind == Game::Hexen2) {
         flags.IsMissionPack = Holds(upper, "H2MP.EXE");
         // With the blank, kept on purpose: something must follow the name for the test to hit.
         flags.IsHexenWorld = !flags.IsMissionPack && Holds(upper, "HWCL.EXE ");
@@ -145,7 +146,7 @@ bool IdentifyGame(Run& run, CatalogLists& lists, const RegistryToScript& toScrip
     if (!lists.Exe_Cbo.HasSelection()) {
         return !run.Ended;
     }
-    const Index before = run.GameKind;
+    const Game before = run.GameKind;
     const Text& key = lists.Exe_Cbo.Items[static_cast<std::size_t>(lists.Exe_Cbo.ListIndex)].Key;
     const Text path = ReplaceSameLength(LowerCase(key), "/", "\\");
     Save(run, kOptions, "ExecutablesPos", lists.Exe_Cbo.ListIndex);
@@ -169,7 +170,7 @@ bool IdentifyGame(Run& run, CatalogLists& lists, const RegistryToScript& toScrip
 void ApplyMissionPackRule(Run& run, CatalogLists& lists) {
     ListBox& list = lists.Game_Cbo;
     if (!run.IsMissionPack) {
-        if (run.GameKind == kHexen2 && EndsInPortals(list.Selected())) {
+        if (run.GameKind == Game::Hexen2 && EndsInPortals(list.Selected())) {
             lists.Game_Chk.Value = 0;
         }
         return;

@@ -8,12 +8,13 @@
 #include <functional>
 
 #include "catalogs/catalog_lists.h"
+#include "foundation/game.h"
 
 namespace lv {
 
 struct GameFacts {
-    Index GameKind = 0;
-    Index ScriptFamily = 0;  // 0: the one before stays
+    Game GameKind = Game::None;
+    Dialect ScriptFamily = Dialect::None;  // none: the one before stays
     Text BaseGameDir;
 };
 
@@ -29,7 +30,7 @@ struct ExecutableFlags {
 };
 
 /// What the executable's path says, in any letter case.
-ExecutableFlags FlagsOfPath(Index gameKind, TextView path);
+ExecutableFlags FlagsOfPath(Game gameKind, TextView path);
 
 /// Writes Half-Life's registry settings as a script to this path.
 using RegistryToScript = std::function<void(TextView path)>;

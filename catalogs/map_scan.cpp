@@ -11,8 +11,6 @@ namespace lv {
 
 namespace {
 
-constexpr Index kUnreal = 4;
-constexpr Index kSin = 5;
 // An archive may hold the window up for a tenth of a second. Thousands of them may not do so one by one.
 constexpr double kSecondsForAnArchive = 0.1;
 constexpr double kSecondsForADirectory = 1;
@@ -68,7 +66,7 @@ void ScanLooseFiles(Files& files, TextView directory, MapScan& scan) {
 }
 
 void ScanArchives(Run& run, TextView directory, MapScan& scan) {
-    const bool isSin = run.GameKind == kSin;
+    const bool isSin = run.GameKind == Game::Sin;
     Files& files = run.System.Disk;
     Clock& clock = run.System.Time;
     const double end = clock.Seconds() + kSecondsForADirectory;
@@ -98,7 +96,7 @@ void ScanDirectory(Run& run, TextView subdirectory, MapScan& scan) {
 }
 
 void ScanGame(Run& run, MapScan& scan) {
-    if (run.GameKind == kUnreal) {
+    if (run.GameKind == Game::Unreal) {
         ScanUnreal(run.System.Disk, run.DefaultGameDirectory, scan);
         return;
     }

@@ -13,35 +13,37 @@ namespace lv {
 
 namespace {
 
-constexpr Index kAnyKind = -1;
-constexpr Index kQuake = 1;
-constexpr Index kQuake2 = 3;
-constexpr Index kHalfLife = 9;
+constexpr Game kAnyGame = Game::None;
 
 struct TitleRow {
     TextView Directory;
-    Index GameKind;
+    Game GameKind;
     TextView Title;
 };
 
 constexpr TitleRow kTitles[] = {
-    {"ACTION", kAnyKind, "Action Quake"},         {"AS", kAnyKind, "Aftershock"},
-    {"ARENA", kAnyKind, "Rocket Arena"},          {"HIPNOTIC", kAnyKind, "Scourge of Armagon"},
-    {"ROGUE", kQuake, "Dissolution of Eternity"}, {"ROGUE", kQuake2, "Ground Zero"},
-    {"PORTALS", kAnyKind, "Portals of Praevus"},  {"CTF", kAnyKind, "Capture the Flag"},
-    {"LMCTF", kAnyKind, "Loki's Minions CTF"},    {"SHRAK", kAnyKind, "Shrak"},
-    {"FORTRESS", kAnyKind, "Team Fortress"},
+    {"ACTION", kAnyGame, "Action Quake"},
+    {"AS", kAnyGame, "Aftershock"},
+    {"ARENA", kAnyGame, "Rocket Arena"},
+    {"HIPNOTIC", kAnyGame, "Scourge of Armagon"},
+    {"ROGUE", Game::Quake, "Dissolution of Eternity"},
+    {"ROGUE", Game::Quake2, "Ground Zero"},
+    {"PORTALS", kAnyGame, "Portals of Praevus"},
+    {"CTF", kAnyGame, "Capture the Flag"},
+    {"LMCTF", kAnyGame, "Loki's Minions CTF"},
+    {"SHRAK", kAnyGame, "Shrak"},
+    {"FORTRESS", kAnyGame, "Team Fortress"},
 };
 
 // Two titles that stand for a directory of the same name in the other game.
-bool IsOfTheOtherGame(TextView title, Index gameKind) {
-    return (title == "Dissolution of Eternity" && gameKind == kQuake2) ||
-           (title == "Ground Zero" && gameKind == kQuake);
+bool IsOfTheOtherGame(TextView title, Game gameKind) {
+    return (title == "Dissolution of Eternity" && gameKind == Game::Quake2) ||
+           (title == "Ground Zero" && gameKind == Game::Quake);
 }
 
 // Half-Life's own directories that hold no game.
-bool IsSkipped(TextView directory, Index gameKind) {
-    return gameKind == kHalfLife && (SameText(directory, "AUTH") || SameText(directory, "PROFILEDATA"));
+bool IsSkipped(TextView directory, Game gameKind) {
+    return gameKind == Game::HalfLife && (SameText(directory, "AUTH") || SameText(directory, "PROFILEDATA"));
 }
 
 bool IsGameDirectory(Files& files, TextView directory) {
@@ -72,9 +74,9 @@ bool HasRow(const ListBox& list, TextView directory) {
 
 }  // namespace
 
-Text ModificationTitle(TextView directory, Index gameKind) {
+Text ModificationTitle(TextView directory, Game gameKind) {
     for (const TitleRow& row : kTitles) {
-        if (SameText(row.Directory, directory) && (row.GameKind == kAnyKind || row.GameKind == gameKind)) {
+        if (SameText(row.Directory, directory) && (row.GameKind == kAnyGame || row.GameKind == gameKind)) {
             return Text(row.Title);
         }
     }

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "catalogs/catalog_lists.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -15,7 +16,7 @@ constexpr TextView kGameOption = "-game ";
 constexpr std::size_t kMostScannedEntries = 1000;
 
 /// The title of a modification by its directory; the directory's own name if it is not a known one.
-Text ModificationTitle(TextView directory, Index gameKind);
+Text ModificationTitle(TextView directory, Game gameKind);
 
 /// "ctf", of a row's option text "-game ctf".
 Text DirectoryOfOption(TextView option);

@@ -14,8 +14,6 @@ namespace lv {
 
 namespace {
 
-constexpr Index kUnreal = 4;
-
 // Helper files of other programs and of this one; no player's scripts.
 constexpr TextView kHelperFiles[] = {
     "qspy.cfg", "autoexec.cfg", "gamespy.cfg",  "qdm.cfg",    "qview.cfg",
@@ -47,7 +45,7 @@ Scripts CollectScripts(Run& run, const CatalogRows& stored, TextView directory) 
             scripts.All.push_back({stored.Field(i, 0), std::move(path)});
         }
     }
-    for (const Text& found : ListFiles(run.System.Disk, directory, run.GameKind == kUnreal ? "*.ini" : "*.cfg")) {
+    for (const Text& found : ListFiles(run.System.Disk, directory, run.GameKind == Game::Unreal ? "*.ini" : "*.cfg")) {
         Text name = LowerCase(found);
         Text path = Join(directory, "\\", name);
         if (IsHelperFile(name) || !FitsAField(path) || !paths.insert(path).second) {
@@ -67,7 +65,7 @@ int RememberedRow(Run& run, const ListBox& list) {
     if (list.Items.empty()) {
         return -1;
     }
-    const TextView usual = run.GameKind == kUnreal ? "\\unreal.ini" : "\\config.cfg";
+    const TextView usual = run.GameKind == Game::Unreal ? "\\unreal.ini" : "\\config.cfg";
     const Text wanted =
         GetSetting(run, run.AppName, "DefaultScript", DefaultScriptKey(run), Join(ScriptDirectory(run), usual));
     return FindItemValue(list.Items, wanted).value_or(0);
@@ -76,8 +74,8 @@ int RememberedRow(Run& run, const ListBox& list) {
 }  // namespace
 
 Text ScriptDirectory(const Run& run) {
-    return run.GameKind == kUnreal ? run.DefaultGameDirectory
-                                   : Join(run.DefaultGameDirectory, "\\", run.CurrentGameDir);
+    return run.GameKind == Game::Unreal ? run.DefaultGameDirectory
+                                        : Join(run.DefaultGameDirectory, "\\", run.CurrentGameDir);
 }
 
 Text DefaultScriptKey(const Run& run) {

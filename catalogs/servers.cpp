@@ -2,13 +2,15 @@
 
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/numbers.h"
 #include "foundation/padded_item.h"
 
 namespace lv {
 
 namespace {
+
+constexpr Index kQuakeServer = 0;
 
 constexpr TextView kTypeNames[kServerTypes] = {
     "Quake", "QuakeWorld", "Hexen2", "Quake2", "Unreal", "SIN", "Heretic2", "Shogo", "Blood 2", "Half-Life",
@@ -29,8 +31,8 @@ TextView ServerTypeName(Index type) {
 }
 
 Index WantedServerType(const Run& run) {
-    const bool plainQuake = run.GameKind == game_kind::kQuake && !run.IsQuakeWorld;
-    return plainQuake ? Index{0} : run.GameKind;
+    const bool plainQuake = run.GameKind == Game::Quake && !run.IsQuakeWorld;
+    return plainQuake ? kQuakeServer : NumberOf(run.GameKind);
 }
 
 bool FillServerCombo(Run& run, CatalogLists& lists) {

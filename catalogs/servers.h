@@ -23,7 +23,7 @@ constexpr Index kServerTypes = 10;
 /// The game that a server type stands for, "QuakeWorld" for 1; empty for a number that is none.
 TextView ServerTypeName(Index type);
 
-/// The type of the servers that the current game can join: its GameKind, but 0 for plain Quake.
+/// The type of the servers that the current game can join: the number of its GameKind, but 0 for plain Quake.
 Index WantedServerType(const Run& run);
 
 /// False if the program ended over a damaged value.

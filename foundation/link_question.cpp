@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 
@@ -45,7 +45,7 @@ void Agree(Run& run, TextView target) {
 
 Text GameTreeOf(const Run& run, TextView path) {
     TextView tree = run.DefaultGameDirectory;
-    if (run.GameKind == game_kind::kUnreal && LowerCase(tree).ends_with(kUnrealSystem)) {
+    if (run.GameKind == Game::Unreal && LowerCase(tree).ends_with(kUnrealSystem)) {
         tree.remove_suffix(kUnrealSystem.size());
     }
     return LiesBelow(path, tree) ? Text(tree) : Text(path.substr(0, path.rfind('\\') + 1));

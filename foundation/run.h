@@ -7,6 +7,7 @@
 
 #include <functional>
 
+#include "foundation/game.h"
 #include "foundation/text.h"
 #include "foundation/topmost.h"
 #include "foundation/user_interface.h"
@@ -16,10 +17,6 @@ namespace lv {
 
 constexpr TextView kOptions = "Options";  // the section of the program's own settings and of the Base profile
 constexpr TextView kStuff = "LV-Stuff";   // the section of what the program notes about its runs
-
-/// By game kind; 7 and 8 are not in use.
-constexpr TextView kGameKindNames[] = {"Unknown", "Quake",    "Hexen2", "Quake2", "Unreal",
-                                       "Sin",     "Heretic2", "",       "",       "Half-Life"};
 
 /// The product's page on the web.
 constexpr TextView kHomePage = "https://lorvane3d.example/";
@@ -37,8 +34,8 @@ struct Run {
     Text AppDirectory{};
 
     // Set by the change of game.
-    Index GameKind = 0;  // 0 none, 1 Quake, 2 Hexen II, 3 Quake II, 4 Unreal, 5 Sin, 6 Heretic II, 9 Half-Life
-    Index ScriptFamily = 0;
+    Game GameKind = Game::None;
+    Dialect ScriptFamily = Dialect::None;
     Text DefaultGameDirectory{};  // no trailing "\"
     Text BaseGameDir{};
     Text CurrentGameDir{};

@@ -33,16 +33,16 @@ bool Chosen(const Composition& c) {
 }
 
 bool IsUnreal(const Composition& c) {
-    return c.Game.GameKind == game_kind::kUnreal;
+    return c.Game.GameKind == Game::Unreal;
 }
 bool IsNotUnreal(const Composition& c) {
     return !IsUnreal(c);
 }
 bool IsQuake2Family(const Composition& c) {
-    return c.Game.ScriptFamily == script_family::kQuake2;
+    return c.Game.ScriptFamily == Dialect::Quake2;
 }
 bool IsNeitherFamily(const Composition& c) {
-    return !IsQuake2Family(c) && c.Game.ScriptFamily != script_family::kUnreal;
+    return !IsQuake2Family(c) && c.Game.ScriptFamily != Dialect::Unreal;
 }
 
 bool PlainQuakeOnline(const Composition& c) {
@@ -96,7 +96,7 @@ bool GlCard(const Composition& c) {
 
 /// Drawn without a 3D card.
 bool Software(const Composition& c) {
-    const bool knowsMipCap = c.Game.ScriptFamily == script_family::kQuake || IsQuake2Family(c);
+    const bool knowsMipCap = c.Game.ScriptFamily == Dialect::Quake || IsQuake2Family(c);
     return !c.Game.UsesAccelerator || (c.Game.CardClass == 0 && knowsMipCap);
 }
 

@@ -6,7 +6,7 @@
 
 #include <span>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "launch/launch_composition.h"
 
 namespace lv {
@@ -32,7 +32,7 @@ struct CompositionCell {
     constexpr CompositionCell(const char* quake2, const char* others) : Quake2Family(quake2), OtherFamilies(others) {}
 
     [[nodiscard]] const char* For(const LaunchGame& game) const {
-        return game.ScriptFamily == script_family::kQuake2 ? Quake2Family : OtherFamilies;
+        return game.ScriptFamily == Dialect::Quake2 ? Quake2Family : OtherFamilies;
     }
 };
 

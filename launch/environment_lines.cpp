@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "launch/text_patterns.h"
 
 namespace lv {
@@ -71,8 +71,8 @@ bool FitsAName(TextView resolution) {
 }
 
 Text ResolutionOf(const LaunchGame& game, const ProfileSnapshot& profile) {
-    const Text& content = game.ScriptFamily == script_family::kQuake2 ? profile.Q2_ResolutionsPos_Content
-                                                                      : profile.ResolutionsPos_Content;
+    const Text& content =
+        game.ScriptFamily == Dialect::Quake2 ? profile.Q2_ResolutionsPos_Content : profile.ResolutionsPos_Content;
     return Trim(content.substr(0, kResolutionWidth));
 }
 

@@ -1,7 +1,7 @@
 #include "launch/launch_composition.h"
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "launch/composition_rows.h"
 #include "launch/text_patterns.h"
 
@@ -42,7 +42,7 @@ LaunchStop RunRow(const CompositionRow& row, const Composition& c) {
 /// A row that stops the launch is the last.
 void RunRows(CompositionTime time, const Composition& c) {
     for (const CompositionRow& row : CompositionRows()) {
-        if (row.Time != time || (row.Games == CompositionScope::NotUnreal && c.Game.GameKind == game_kind::kUnreal)) {
+        if (row.Time != time || (row.Games == CompositionScope::NotUnreal && c.Game.GameKind == Game::Unreal)) {
             continue;
         }
         c.Texts.LaunchStep = row.Step;

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "launch/switch_rules.h"
 
 namespace lv {
@@ -12,16 +12,16 @@ namespace {
 
 /// The batch's last line.
 Text CommandLine(const LaunchTexts& texts, const LaunchGame& game) {
-    return game.GameKind == game_kind::kUnreal ? texts.UnrealCommand : Trim(texts.GameCommand);
+    return game.GameKind == Game::Unreal ? texts.UnrealCommand : Trim(texts.GameCommand);
 }
 
 }  // namespace
 
 Text ScriptText(const LaunchTexts& texts, const LaunchGame& game) {
-    if (game.ScriptFamily != script_family::kQuake2) {
+    if (game.ScriptFamily != Dialect::Quake2) {
         return texts.QuakeScript;
     }
-    return game.GameKind == game_kind::kHalfLife ? ReplaceText(texts.Quake2Script, "set ", "") : texts.Quake2Script;
+    return game.GameKind == Game::HalfLife ? ReplaceText(texts.Quake2Script, "set ", "") : texts.Quake2Script;
 }
 
 Text ScriptFilePath(const LaunchGame& game) {
@@ -42,7 +42,7 @@ Text BatchText(TextView environmentLines, bool showSet, TextView exeDrive, TextV
 
 BatchCommand CommandOfBatch(TextView batch, const LaunchSelection& selection, const LaunchTexts& texts,
                             const LaunchGame& game) {
-    const bool isUnreal = game.GameKind == game_kind::kUnreal;
+    const bool isUnreal = game.GameKind == Game::Unreal;
     const Text& composed = isUnreal ? texts.UnrealCommand : texts.GameCommand;
     const std::size_t at = batch.size() - CommandLine(texts, game).size();
     const std::size_t trimmed = isUnreal ? 0 : std::min(composed.find_first_not_of(' '), composed.size());
@@ -53,8 +53,8 @@ BatchCommand CommandOfBatch(TextView batch, const LaunchSelection& selection, co
     return command;
 }
 
-TextView PifTemplateName(Index gameKind) {
-    return gameKind == game_kind::kQuake2 || gameKind == game_kind::kSin ? kPifTemplateQuake2 : kPifTemplate;
+TextView PifTemplateName(Game gameKind) {
+    return gameKind == Game::Quake2 || gameKind == Game::Sin ? kPifTemplateQuake2 : kPifTemplate;
 }
 
 }  // namespace lv

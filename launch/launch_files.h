@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include "foundation/game.h"
 #include "launch/launch_composition.h"
 
 namespace lv {
@@ -32,6 +33,6 @@ BatchCommand CommandOfBatch(TextView batch, const LaunchSelection& selection, co
                             const LaunchGame& game);
 
 /// The file that gives the batch's console window its properties (Windows PIF).
-TextView PifTemplateName(Index gameKind);
+TextView PifTemplateName(Game gameKind);
 
 }  // namespace lv

@@ -4,7 +4,7 @@
 
 #include "catalogs/modifications.h"
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "launch/switch_rules.h"
 
 namespace lv {
@@ -65,8 +65,8 @@ void AddServer(Names& names, const LaunchSelection& selection, const LaunchGame&
         return;
     }
     const auto& [server, password] = ServerOf(*selection.Server);
-    const bool isUnreal = game.GameKind == game_kind::kUnreal;
-    const bool isHalfLife = game.GameKind == game_kind::kHalfLife;
+    const bool isUnreal = game.GameKind == Game::Unreal;
+    const bool isHalfLife = game.GameKind == Game::HalfLife;
     names.push_back({.Kind = NameKind::Password,
                      .Value = PasswordAsArgument(password),
                      .Written = password,
@@ -161,7 +161,7 @@ Text Introduce(const LaunchName& name) {
 }  // namespace
 
 std::vector<LaunchName> NamesOf(const LaunchSelection& selection, const LaunchGame& game) {
-    const bool isUnreal = game.GameKind == game_kind::kUnreal;
+    const bool isUnreal = game.GameKind == Game::Unreal;
     Names names;
     const Text directory = QuotedIfBlank(game.DefaultGameDirectory);
     names.push_back({.Kind = NameKind::GameDirectory, .Value = game.DefaultGameDirectory, .Written = directory});

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include "foundation/game.h"
 #include "foundation/text.h"
 #include "launch/option_boxes.h"
 
@@ -30,8 +31,8 @@ struct LaunchSelection {
 
 /// The game that the selection is for.
 struct LaunchGame {
-    Index GameKind = 0;
-    Index ScriptFamily = 0;
+    Game GameKind = Game::None;
+    Dialect ScriptFamily = Dialect::None;
     Text DefaultGameDirectory;
     Text CurrentGameDir;
     bool UsesAccelerator = true;

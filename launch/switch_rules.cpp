@@ -53,12 +53,12 @@ std::size_t InsertBehindExecutable(const Composition& c, TextView text) {
 
 bool IsBaseDirectory(TextView mod, const LaunchGame& game) {
     struct Base {
-        Index Kind;
+        Game Kind;
         TextView Mod;
     };
     constexpr Base kBases[] = {
-        {game_kind::kQuake, "-game id1"}, {game_kind::kHexen2, "-game data1"},  {game_kind::kQuake2, "-game baseq2"},
-        {game_kind::kSin, "-game base"},  {game_kind::kHeretic2, "-game base"}, {game_kind::kHalfLife, "-game valve"},
+        {Game::Quake, "-game id1"}, {Game::Hexen2, "-game data1"},  {Game::Quake2, "-game baseq2"},
+        {Game::Sin, "-game base"},  {Game::Heretic2, "-game base"}, {Game::HalfLife, "-game valve"},
     };
     for (const Base& base : kBases) {
         if (base.Kind == game.GameKind && base.Mod == mod) {
@@ -89,7 +89,7 @@ void ConnectHalfLife(const ServerAddress& server, LaunchTexts& texts) {
 }
 
 void ConnectTo(const ServerAddress& server, const Composition& c) {
-    if (c.Game.GameKind == game_kind::kUnreal) {
+    if (c.Game.GameKind == Game::Unreal) {
         GivenWord word = AsItStands(server.HostAndPort);
         word.At = InsertBehindExecutable(c, server.HostAndPort);
         if (!word.Written.empty()) {
@@ -99,7 +99,7 @@ void ConnectTo(const ServerAddress& server, const Composition& c) {
     }
     const Text connect = ConnectText(server);
     c.Texts.QuakeScript += connect;
-    if (c.Game.GameKind == game_kind::kHalfLife) {
+    if (c.Game.GameKind == Game::HalfLife) {
         ConnectHalfLife(server, c.Texts);
         return;
     }
@@ -143,7 +143,7 @@ LaunchStop ModRule(const Composition& c) {
     if (IsBaseDirectory(mod, c.Game)) {
         return {};
     }
-    const bool asVariable = c.Game.ScriptFamily == script_family::kQuake2;
+    const bool asVariable = c.Game.ScriptFamily == Dialect::Quake2;
     c.Texts.GameCommand += asVariable ? "+set " : "";
     if (mod.starts_with(kGameOption)) {
         c.Texts.GameCommand += asVariable ? kGameOption.substr(1) : kGameOption;
@@ -169,14 +169,14 @@ LaunchStop MemoryRule(const Composition& c) {
 
 LaunchStop ScriptRule(const Composition& c) {
     const Text& path = *c.Selected.Script;
-    if (c.Game.GameKind == game_kind::kHalfLife && c.Hooks.ScriptToRegistry) {
+    if (c.Game.GameKind == Game::HalfLife && c.Hooks.ScriptToRegistry) {
         if (LaunchStop stop = StopOn(c.Hooks.ScriptToRegistry(path))) {
             return stop;
         }
     }
     const Text file = Trim(LastPathPart(path));
     const Text name = QuotedIfBlank(file);
-    if (c.Game.GameKind == game_kind::kUnreal) {
+    if (c.Game.GameKind == Game::Unreal) {
         AddGiven(c.Texts.UnrealCommand, c.Texts.UnrealGiven, {.Written = name, .Argument = file, .Option = "INI="});
         c.Texts.UnrealCommand += Blank;
         return {};
@@ -197,15 +197,15 @@ LaunchStop DedicatedRule(const Composition& c) {
     if (Holds(c.Texts.GameCommand, "QWCL.EXE")) {
         return StopWith("Dedicated QuakeWorld servers are started with qwsv.exe.");
     }
-    if (c.Game.ScriptFamily != script_family::kQuake2) {
-        if (c.Game.GameKind == game_kind::kUnreal) {
+    if (c.Game.ScriptFamily != Dialect::Quake2) {
+        if (c.Game.GameKind == Game::Unreal) {
             c.Texts.UnrealCommand += "-server ";
         } else {
             c.Texts.GameCommand += "-dedicated ";
         }
         return {};
     }
-    if (c.Game.GameKind == game_kind::kHalfLife) {
+    if (c.Game.GameKind == Game::HalfLife) {
         return StopWith("Dedicated Half-Life servers are started with hlds.exe.");
     }
     c.Texts.GameCommand += "+set deathmatch 1 +set dedicated 1 ";
@@ -232,7 +232,7 @@ LaunchStop GraphicsDriverRule(const Composition& c) {
         c.Texts.Quake2Script += Join("set ", name, Blank, DoubleQuote, value, DoubleQuote, NewLine);
     };
     set("vid_ref", driver.VidRef);
-    set(driver.Variable, chosen == k3dfx && c.Game.GameKind == game_kind::kHeretic2 ? "3dfxgl_ht2" : driver.Value);
+    set(driver.Variable, chosen == k3dfx && c.Game.GameKind == Game::Heretic2 ? "3dfxgl_ht2" : driver.Value);
     if (chosen == kSoftwareWindow) {
         set("vid_xpos", "50");
         set("vid_ypos", "50");

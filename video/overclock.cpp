@@ -28,16 +28,11 @@ constexpr ClockWarning kWarnings[] = {
 
 constexpr Index kGoOn = 0;
 
-TextView KindName(Index kind) {
-    const auto at = static_cast<std::size_t>(kind);
-    return kind >= 0 && at < std::size(kGameKindNames) ? kGameKindNames[at] : kGameKindNames[0];
-}
-
 bool ConfirmsDanger(Run& run, const ClockWarning& warning) {
-    const Text text =
-        Join(warning.FirstText, NewLine,
-             Join("To do this, you should be a GL", KindName(run.GameKind), " and 3DFX GOD. This is because", NewLine),
-             "only such a GOD will not care when he blows out his card.", NewLine, warning.Ruin);
+    const Text text = Join(
+        warning.FirstText, NewLine,
+        Join("To do this, you should be a GL", GameKindName(run.GameKind), " and 3DFX GOD. This is because", NewLine),
+        "only such a GOD will not care when he blows out his card.", NewLine, warning.Ruin);
     return AskUser(run, "DANGER WILL ROBINSON", text,
                    "&Of Course I Am a GLQuake GOD,&I'm smart enough to admit I don't know what I am doing") == kGoOn;
 }

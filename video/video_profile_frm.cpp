@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/numbers.h"
 #include "foundation/settings.h"
 #include "video/overclock.h"
@@ -173,8 +173,8 @@ void Videop(VideoProfile_Frm& form) {
 }
 
 void ShowGameControls(VideoProfile_Frm& form) {
-    const bool quake2 = form.run.ScriptFamily == script_family::kQuake2;
-    form.PanelOf(ProfilePanel::UnrealVideo).Visible = form.run.GameKind == game_kind::kUnreal;
+    const bool quake2 = form.run.ScriptFamily == Dialect::Quake2;
+    form.PanelOf(ProfilePanel::UnrealVideo).Visible = form.run.GameKind == Game::Unreal;
     form.Q2_Rez_Cbo.Visible = quake2;
     form.GraphicsDriver_Chk.Visible = quake2;
     form.GraphicsDriver_Cbo.Visible = quake2;

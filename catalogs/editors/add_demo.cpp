@@ -10,8 +10,6 @@ namespace lv {
 
 namespace {
 
-constexpr Index kQuake2 = 3;
-
 Text DemoDirectory(const Run& run) {
     return Join(run.DefaultGameDirectory, "\\", run.CurrentGameDir);
 }
@@ -70,7 +68,7 @@ void AddDemo_OK_Cmd_Click(AddDemo_Frm& form) {
         return;
     }
     const bool edit = form.Mode == EntryMode::Edit && list.HasSelection();
-    const Text command = Join(!edit && form.run.GameKind == kQuake2 ? "demomap " : "playdemo ", name);
+    const Text command = Join(!edit && form.run.GameKind == Game::Quake2 ? "demomap " : "playdemo ", name);
     const ListBox before = list;
     if (edit) {
         list.Items[static_cast<std::size_t>(list.ListIndex)] = MakeItem(title, command);

@@ -14,8 +14,6 @@ namespace lv {
 
 namespace {
 
-constexpr Index kUnreal = 4;
-
 const char* CaptionOf(EntryMode mode) {
     switch (mode) {
         case EntryMode::Edit:
@@ -65,7 +63,7 @@ Text AlreadyExists(TextView path) {
 // A copy of the game's own script, or an empty file if there is none.
 Error MakeScript(const Run& run, const Text& path) {
     Files& disk = run.System.Disk;
-    const Text pattern = Join(ScriptDirectory(run), run.GameKind == kUnreal ? "\\unreal.ini" : "\\config.cfg");
+    const Text pattern = Join(ScriptDirectory(run), run.GameKind == Game::Unreal ? "\\unreal.ini" : "\\config.cfg");
     return disk.FileExists(pattern) ? disk.Copy(pattern, path) : disk.Replace(path, "");
 }
 
@@ -77,7 +75,7 @@ bool ValidateFile(AddScript_Frm& form, const Text& path) {
         if (!there) {
             TellFault(form, "ScriptPath_Txt",
                       Join("The script must be in the '", run.CurrentGameDir,
-                           run.GameKind == kUnreal ? "' directory." : "' subdirectory."),
+                           run.GameKind == Game::Unreal ? "' directory." : "' subdirectory."),
                       "File Name is Invalid.");
         }
         return there;
@@ -131,7 +129,7 @@ AddScript_Frm::AddScript_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
 Text WholeScriptPath(const Run& run, TextView typed) {
     Text name(typed);
     if (!Holds(name, ".")) {
-        name += run.GameKind == kUnreal ? ".ini" : ".cfg";
+        name += run.GameKind == Game::Unreal ? ".ini" : ".cfg";
     }
     const Text directory = ScriptDirectory(run);
     if (Holds(LowerCase(name), LowerCase(directory)) || Holds(name, ":")) {

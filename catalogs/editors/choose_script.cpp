@@ -9,11 +9,9 @@ namespace lv {
 
 namespace {
 
-constexpr Index kQuake2 = 3;
-
 // The games that came later share the plain filter here, Unreal too.
-TextView FilterFor(Index gameKind) {
-    const bool hasOwn = gameKind >= 1 && gameKind <= kQuake2;
+TextView FilterFor(Game gameKind) {
+    const bool hasOwn = gameKind == Game::Quake || gameKind == Game::Hexen2 || gameKind == Game::Quake2;
     return hasOwn ? FiltersOf(gameKind)->Scripts : "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*";
 }
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -159,7 +159,7 @@ AliasPlace FindAlias(const ScriptDocument& document, TextView name) {
 }
 
 bool AddAlias(ScriptDocument& document, TextView name, TextView body) {
-    const bool unreal = document.Dialect.GameKind == game_kind::kUnreal;
+    const bool unreal = document.Dialect.GameKind == Game::Unreal;
     IniAlias alias = unreal ? ReadIniAlias(body) : IniAlias{Text(name), Text(body)};
     const bool placeHolder = unreal && SameText(alias.Name, "none");
     if (alias.Name.empty() || alias.Body.empty() || placeHolder) {

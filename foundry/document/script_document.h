@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "foundation/controls.h"
+#include "foundation/game.h"
 #include "foundry/document/alias_list.h"
 #include "foundry/tables/keys.h"
 #include "foundry/tables/script_settings.h"
@@ -17,8 +18,8 @@ namespace lv {
 
 /// The dialect of a script: that of the selected game, never that of the script's content.
 struct ScriptDialect {
-    Index GameKind = 0;      // game_kind, foundation/game_numbers.h
-    Index ScriptFamily = 0;  // script_family
+    Game GameKind = Game::None;
+    Dialect ScriptFamily = Dialect::None;
     bool IsQuakeWorld = false;
     bool IsMissionPack = false;
     char DecimalSeparator = '.';  // the locale's

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "foundation/bounded_file.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/question_box.h"
 
 namespace lv {
@@ -14,7 +14,7 @@ Text ErrorLines(const Error& failed) {
 }
 
 std::unique_ptr<RandomAccessFile> OpenScriptFile(Run& run, TextView path) {
-    return OpenScriptFile(run, path, run.GameKind == game_kind::kUnreal ? kLargestIni : kLargestScript);
+    return OpenScriptFile(run, path, run.GameKind == Game::Unreal ? kLargestIni : kLargestScript);
 }
 
 std::unique_ptr<RandomAccessFile> OpenScriptFile(Run& run, TextView path, std::uint64_t most) {

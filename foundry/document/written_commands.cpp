@@ -9,44 +9,44 @@ namespace lv {
 
 namespace {
 
-// Every number that is no kind of its own is edited as Quake.
+// What is no kind of its own is edited as Quake.
 
-TextView CommandOf(const MovementRow& row, Index kind) {
+TextView CommandOf(const MovementRow& row, Game kind) {
     switch (kind) {
-        case game_kind::kHalfLife:
+        case Game::HalfLife:
             return row.HalfLife;
-        case game_kind::kUnreal:
+        case Game::Unreal:
             return row.Unreal;
         default:
             return row.Console;
     }
 }
 
-TextView CellOf(const WeaponRow& row, Index kind) {
+TextView CellOf(const WeaponRow& row, Game kind) {
     switch (kind) {
-        case game_kind::kQuake2:
+        case Game::Quake2:
             return row.Quake2;
-        case game_kind::kSin:
+        case Game::Sin:
             return row.Sin;
-        case game_kind::kHeretic2:
+        case Game::Heretic2:
             return row.Heretic2;
-        case game_kind::kHalfLife:
+        case Game::HalfLife:
             return row.HalfLife;
-        case game_kind::kUnreal:
+        case Game::Unreal:
             return row.Unreal;
         default:
             return row.Quake;
     }
 }
 
-TextView CommandOf(const SystemRow& row, Index kind) {
+TextView CommandOf(const SystemRow& row, Game kind) {
     switch (kind) {
-        case game_kind::kQuake2:
-        case game_kind::kSin:
-        case game_kind::kHeretic2:
-        case game_kind::kHalfLife:
+        case Game::Quake2:
+        case Game::Sin:
+        case Game::Heretic2:
+        case Game::HalfLife:
             return row.NewConsole;
-        case game_kind::kUnreal:
+        case Game::Unreal:
             return row.Unreal;
         default:
             return row.OldConsole;
@@ -58,26 +58,26 @@ struct Cells {
     TextView Caption;
 };
 
-Cells CellsOf(const ActionRow& row, Index kind) {
+Cells CellsOf(const ActionRow& row, Game kind) {
     switch (kind) {
-        case game_kind::kHexen2:
+        case Game::Hexen2:
             return {row.Hexen2, row.Hexen2Caption};
-        case game_kind::kHeretic2:
+        case Game::Heretic2:
             return {row.Heretic2, row.Heretic2Caption};
-        case game_kind::kHalfLife:
+        case Game::HalfLife:
             return {row.HalfLife, row.HalfLifeCaption};
         default:
             return {};
     }
 }
 
-Cells CellsOf(const ItemRow& row, Index kind) {
+Cells CellsOf(const ItemRow& row, Game kind) {
     switch (kind) {
-        case game_kind::kSin:
+        case Game::Sin:
             return {row.Sin, row.SinCaption};
-        case game_kind::kHalfLife:
+        case Game::HalfLife:
             return {row.HalfLife, row.HalfLifeCaption};
-        case game_kind::kUnreal:
+        case Game::Unreal:
             return {row.Unreal, row.UnrealCaption};
         default:
             return {row.Console, row.Caption};
@@ -86,20 +86,20 @@ Cells CellsOf(const ItemRow& row, Index kind) {
 
 /// What the kind has in place of the row's own text.
 template <std::size_t Count>
-TextView TextOr(const KindText (&others)[Count], SlotNumber slot, Index kind, TextView own) {
+TextView TextOr(const KindText (&others)[Count], SlotNumber slot, Game kind, TextView own) {
     const auto* const found =
         std::ranges::find_if(others, [&](const KindText& other) { return other.Slot == slot && other.Kind == kind; });
     return found == std::end(others) ? own : found->Text;
 }
 
 template <std::size_t Count>
-bool Lists(const KindSlot (&slots)[Count], SlotNumber slot, Index kind) {
+bool Lists(const KindSlot (&slots)[Count], SlotNumber slot, Game kind) {
     return std::ranges::any_of(slots, [&](const KindSlot& s) { return s.Slot == slot && s.Kind == kind; });
 }
 
 class Filler {
   public:
-    Filler(ScriptDocument& document, Index kind) : document_(document), kind_(kind) {}
+    Filler(ScriptDocument& document, Game kind) : document_(document), kind_(kind) {}
 
     void Put(SlotNumber slot, TextView command, TextView caption) {
         const TextView written = TextOr(kOtherCommands, slot, kind_, command);
@@ -116,12 +116,12 @@ class Filler {
 
   private:
     ScriptDocument& document_;
-    Index kind_;
+    Game kind_;
 };
 
 }  // namespace
 
-void FillCommandTable(ScriptDocument& document, Index gameKind) {
+void FillCommandTable(ScriptDocument& document, Game gameKind) {
     Filler filler(document, gameKind);
     for (const MovementRow& row : kMovementRows) {
         filler.Put(row.Slot, CommandOf(row, gameKind), row.Caption);
@@ -130,7 +130,7 @@ void FillCommandTable(ScriptDocument& document, Index gameKind) {
         filler.Put(kWeaponRows[i].Slot, CellOf(kWeaponRows[i], gameKind), CellOf(kWeaponCaptionRows[i], gameKind));
     }
     for (const SystemRow& row : kSystemRows) {
-        const bool unreal = gameKind == game_kind::kUnreal;
+        const bool unreal = gameKind == Game::Unreal;
         filler.Put(row.Slot, CommandOf(row, gameKind), unreal ? row.UnrealCaption : row.Caption);
     }
     for (const ActionRow& row : kActionRows) {

@@ -4,12 +4,13 @@
 
 #pragma once
 
+#include "foundation/game.h"
 #include "foundry/document/script_document.h"
 
 namespace lv {
 
 /// The commands of the fixed slots, and the captions of slots and headings, in this kind of game. A slot that the kind
 /// has no use for gets an empty command and is hidden. Runs on tables that are empty.
-void FillCommandTable(ScriptDocument& document, Index gameKind);
+void FillCommandTable(ScriptDocument& document, Game gameKind);
 
 }  // namespace lv

@@ -4,25 +4,18 @@
 
 #pragma once
 
-#include "foundation/game_numbers.h"
+#include "foundry/tables/kind_set.h"
 #include "foundry/tables/slots.h"
 
 namespace lv {
 
-/// Kinds of game, a bit each.
-using KindSet = unsigned;
-
-constexpr KindSet KindBit(Index kind) {
-    return 1U << static_cast<unsigned>(kind);
-}
-
-constexpr KindSet kInQuake = KindBit(game_kind::kQuake);
-constexpr KindSet kInHexen2 = KindBit(game_kind::kHexen2);
-constexpr KindSet kInQuake2 = KindBit(game_kind::kQuake2);
-constexpr KindSet kInSin = KindBit(game_kind::kSin);
-constexpr KindSet kInHeretic2 = KindBit(game_kind::kHeretic2);
-constexpr KindSet kInHalfLife = KindBit(game_kind::kHalfLife);
-constexpr KindSet kInOlder = kInQuake | kInHexen2;  // script family 1
+constexpr KindSet kInQuake = Only(Game::Quake);
+constexpr KindSet kInHexen2 = Only(Game::Hexen2);
+constexpr KindSet kInQuake2 = Only(Game::Quake2);
+constexpr KindSet kInSin = Only(Game::Sin);
+constexpr KindSet kInHeretic2 = Only(Game::Heretic2);
+constexpr KindSet kInHalfLife = Only(Game::HalfLife);
+constexpr KindSet kInOlder = kInQuake | kInHexen2;
 constexpr KindSet kInAll = kInOlder | kInQuake2 | kInSin | kInHeretic2 | kInHalfLife;
 constexpr KindSet kNotInHalfLife = kInAll & ~kInHalfLife;
 
@@ -97,16 +90,16 @@ constexpr AddableRow kCommandsBeforeWeapons[] = {
 
 /// The slots of a kind's weapons that are switched to by their names, and what stands before the name.
 struct NamedWeapons {
-    Index Kind;
+    Game Kind;
     SlotBlock Slots;
     TextView Prefix;
 };
 
 constexpr NamedWeapons kNamedWeapons[] = {
-    {game_kind::kQuake2, {201, 210}, "use "},
-    {game_kind::kSin, {201, 210}, "use "},
-    {game_kind::kHeretic2, {201, 210}, "use "},
-    {game_kind::kHalfLife, {910, 923}, "use weapon_"},
+    {Game::Quake2, {201, 210}, "use "},
+    {Game::Sin, {201, 210}, "use "},
+    {Game::Heretic2, {201, 210}, "use "},
+    {Game::HalfLife, {910, 923}, "use weapon_"},
 };
 
 /// Behind the weapons that have names.

@@ -9,10 +9,9 @@ namespace lv {
 
 namespace {
 
-/// Every number that is no kind of its own is edited as Quake.
-KindSet BitOf(Index kind) {
-    const KindSet bit = kind > 0 && kind <= game_kind::kHalfLife ? KindBit(kind) : 0;
-    return (bit & kInAll) != 0 ? bit : kInQuake;
+/// What is no kind of its own is edited as Quake.
+KindSet BitOf(Game kind) {
+    return Has(kInAll, kind) ? Only(kind) : kInQuake;
 }
 
 void AddRows(std::vector<AddableCommand>& commands, std::span<const AddableRow> rows, KindSet kind) {
@@ -42,7 +41,7 @@ void AddNamedWeapons(std::vector<AddableCommand>& commands, const ScriptDocument
 
 std::vector<AddableCommand> AddableCommands(const ScriptDocument& document) {
     std::vector<AddableCommand> commands;
-    if (document.Dialect.GameKind == game_kind::kUnreal) {
+    if (document.Dialect.GameKind == Game::Unreal) {
         for (const TextView command : kUnrealCommands) {
             commands.push_back({Text(command), Text(kUnrealDescription)});
         }

@@ -1,7 +1,7 @@
 #include "foundry/editor/alias_frm.h"
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/question_box.h"
 #include "foundry/document/bindings.h"
 #include "foundry/editor/addable_commands.h"
@@ -17,7 +17,7 @@ namespace {
 constexpr int kCommandTabs = 2;
 
 bool IsUnreal(const Alias_Frm& form) {
-    return form.Editor.GameKind() == game_kind::kUnreal;
+    return form.Editor.GameKind() == Game::Unreal;
 }
 
 char Separator(const Alias_Frm& form) {

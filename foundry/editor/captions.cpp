@@ -1,6 +1,6 @@
 #include "foundry/editor/captions.h"
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/editor/settings_pages.h"
 
 namespace lv {
@@ -195,7 +195,7 @@ void FillCaptions(Fig_Frm& form) {
     FillTabs(form.Bindings_Tab, kBindingsPages);
     for (const LegendRow& row : kLegend) {
         form.ColorCode_Lbl[row.Label].Caption = row.Caption;
-        form.ColorCode_Lbl[row.Label].BackColor = SlotColor(row.Row, game_kind::kQuake);
+        form.ColorCode_Lbl[row.Label].BackColor = SlotColor(row.Row, Game::Quake);
     }
     for (const ButtonText& row : kButtons) {
         Put(form.*row.Button, row.Caption, row.ToolTip);

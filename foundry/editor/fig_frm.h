@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "catalogs/catalog_lists.h"
+#include "foundation/game.h"
 #include "foundation/modal_window.h"
 #include "foundation/window_services.h"
 #include "foundry/document/script_document.h"
@@ -141,7 +142,7 @@ struct Fig_Frm : ModalWindow, ScriptView {
     UndoHistory History;
 
     KeyLabel& KeyLabelOf(Index label) { return Key_Lbl[static_cast<std::size_t>(label)]; }
-    [[nodiscard]] Index GameKind() const { return Document.Dialect.GameKind; }
+    [[nodiscard]] Game GameKind() const { return Document.Dialect.GameKind; }
 
     // ScriptView
     void PaintKey(Index label, Color backColor) override;

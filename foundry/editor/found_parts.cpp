@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/editor/key_picture.h"
 #include "foundry/editor/settings_pages.h"
 #include "foundry/editor/slot_pages.h"
@@ -59,7 +59,7 @@ class Finder {
                 continue;
             }
             const auto options = static_cast<OptionsPage>(page);
-            if (GameKind() != game_kind::kUnreal || options == OptionsPage::General) {
+            if (GameKind() != Game::Unreal || options == OptionsPage::General) {
                 FindRowsOfSettings(options);
             } else {
                 FindUnrealLists(options);
@@ -199,7 +199,7 @@ class Finder {
         }
     }
 
-    [[nodiscard]] Index GameKind() const { return document_.Dialect.GameKind; }
+    [[nodiscard]] Game GameKind() const { return document_.Dialect.GameKind; }
 
     const Fig_Frm& form_;
     const ScriptDocument& document_;

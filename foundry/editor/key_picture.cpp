@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/editor/controllers.h"
 
 namespace lv {
@@ -174,9 +174,8 @@ constexpr KeyIndex kEnter = 75;
 constexpr Index kKeypadEnter = 93;
 constexpr Index kFirstAuxLabel = 104;
 
-bool KeypadIsItsOwn(Index gameKind) {
-    return gameKind == game_kind::kQuake2 || gameKind == game_kind::kUnreal || gameKind == game_kind::kSin ||
-           gameKind == game_kind::kHeretic2;
+bool KeypadIsItsOwn(Game gameKind) {
+    return gameKind == Game::Quake2 || gameKind == Game::Unreal || gameKind == Game::Sin || gameKind == Game::Heretic2;
 }
 
 Text JoyCaption(Index label) {
@@ -211,7 +210,7 @@ void LayOutKeys(Fig_Frm& form) {
     LayOutGrid(form);
 }
 
-KeyIndex KeyOfLabel(Index label, Index gameKind) {
+KeyIndex KeyOfLabel(Index label, Game gameKind) {
     if (label >= kRightShift && label <= kRightAlt) {
         return static_cast<KeyIndex>(label - kRightToLeft);
     }
@@ -222,8 +221,8 @@ KeyIndex KeyOfLabel(Index label, Index gameKind) {
     return twin == std::end(kTwins) || KeypadIsItsOwn(gameKind) ? label : twin->Key;
 }
 
-KeyIndex KeyToClear(Index label, Index gameKind) {
-    return gameKind == game_kind::kUnreal && label == kKeypadEnter ? kEnter : KeyOfLabel(label, gameKind);
+KeyIndex KeyToClear(Index label, Game gameKind) {
+    return gameKind == Game::Unreal && label == kKeypadEnter ? kEnter : KeyOfLabel(label, gameKind);
 }
 
 Text SpokenName(Index label) {

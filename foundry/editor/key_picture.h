@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include "foundation/game.h"
 #include "foundry/editor/fig_frm.h"
 
 namespace lv {
@@ -18,10 +19,10 @@ constexpr int kKeyboardHeight = 1850;
 void LayOutKeys(Fig_Frm& form);
 
 /// The key that a label acts on by a tool tip or a drag. kNoKey for the labels that can't be bound.
-KeyIndex KeyOfLabel(Index label, Index gameKind);
+KeyIndex KeyOfLabel(Index label, Game gameKind);
 
 /// The key that a double click on the label frees: as KeyOfLabel, but Unreal's keypad Enter is the main one here.
-KeyIndex KeyToClear(Index label, Index gameKind);
+KeyIndex KeyToClear(Index label, Game gameKind);
 
 /// The label's key in words, for assistive tools and hints: "W", "Up", "Keypad 5". Empty for what is no label.
 Text SpokenName(Index label);

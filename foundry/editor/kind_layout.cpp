@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/editor/player_page.h"
 #include "foundry/editor/standard_aliases.h"
 
@@ -13,52 +13,52 @@ namespace {
 
 using F = Fig_Frm;
 
-// Every number that is no kind of its own is edited as Quake, which stands first.
+// What is no kind of its own is edited as Quake, which stands first.
 
 // clang-format off
 
 /// The pages of Bindings_Tab that some kinds have. Empty: off.
 struct PagesRow {
-    Index Kind;
+    Game Kind;
     TextView Hexen2, Quake2, Ctf;
 };
 
 constexpr PagesRow kPages[] = {
-    {game_kind::kQuake,    "",             "",                "&CTF"},
-    {game_kind::kHexen2,   "&Hexen ][",    "",                ""},
-    {game_kind::kQuake2,   "",             "&Quake ][",       ""},
-    {game_kind::kUnreal,   "",             "UnReal",          ""},
-    {game_kind::kSin,      "",             "SIN",             ""},
-    {game_kind::kHeretic2, "&Heretic ][",  "",                ""},
-    {game_kind::kHalfLife, "&Half-Life",   "&Camera Tricks",  ""},
+    {Game::Quake,    "",            "",               "&CTF"},
+    {Game::Hexen2,   "&Hexen ][",   "",               ""},
+    {Game::Quake2,   "",            "&Quake ][",      ""},
+    {Game::Unreal,   "",            "UnReal",         ""},
+    {Game::Sin,      "",            "SIN",            ""},
+    {Game::Heretic2, "&Heretic ][", "",               ""},
+    {Game::HalfLife, "&Half-Life",  "&Camera Tricks", ""},
 };
 
 /// ColorCode_Lbl(4) to (6). Empty: hidden.
 struct LegendCaptions {
-    Index Kind;
+    Game Kind;
     TextView Captions[3];
 };
 
 constexpr std::size_t kFirstKindLegend = 4;
 constexpr LegendCaptions kLegends[] = {
-    {game_kind::kQuake,    {" CTF ", "",              ""}},
-    {game_kind::kHexen2,   {"",      " Hexen ][",     ""}},
-    {game_kind::kQuake2,   {"",      "",              " Quake ]["}},
-    {game_kind::kUnreal,   {"",      "",              " Unreal"}},
-    {game_kind::kSin,      {"",      "",              " Sin"}},
-    {game_kind::kHeretic2, {"",      " Heretic ][",   ""}},
-    {game_kind::kHalfLife, {"",      " Half-Life",    " Camera"}},
+    {Game::Quake,    {" CTF ", "",              ""}},
+    {Game::Hexen2,   {"",      " Hexen ][",     ""}},
+    {Game::Quake2,   {"",      "",              " Quake ]["}},
+    {Game::Unreal,   {"",      "",              " Unreal"}},
+    {Game::Sin,      {"",      "",              " Sin"}},
+    {Game::Heretic2, {"",      " Heretic ][",   ""}},
+    {Game::HalfLife, {"",      " Half-Life",    " Camera"}},
 };
 
 struct HiddenHeading {
-    Index Kind;
+    Game Kind;
     SlotNumber Heading;
 };
 
 constexpr HiddenHeading kHiddenHeadings[] = {
-    {game_kind::kSin,      1199},
-    {game_kind::kHalfLife, 1198},
-    {game_kind::kHalfLife, 1199},
+    {Game::Sin,      1199},
+    {Game::HalfLife, 1198},
+    {Game::HalfLife, 1199},
 };
 
 struct KeypadCaption {
@@ -68,9 +68,9 @@ struct KeypadCaption {
 
 // Half-Life's keypad has no keys of its own; it shows the digits all the same, kept on purpose.
 constexpr KeypadCaption kKeypad[] = {
-    {84, "7"}, {85, "8"}, {86, "9"},
+    {84, "7"}, {85,            "8"}, {86, "9"},
     {87, "4"},            {89, "6"},
-    {90, "1"}, {91, "2"}, {92, "3"},
+    {90, "1"}, {91,            "2"}, {92, "3"},
     {94, "0"},
 };
 
@@ -88,7 +88,7 @@ constexpr Index kLastHiddenAux = 123;
 // clang-format on
 
 template <class Row, std::size_t Count>
-const Row& RowOfKind(const Row (&rows)[Count], Index kind) {
+const Row& RowOfKind(const Row (&rows)[Count], Game kind) {
     const auto* const found = std::ranges::find(rows, kind, &Row::Kind);
     return found == std::end(rows) ? rows[0] : *found;
 }
@@ -97,12 +97,12 @@ const Row& RowOfKind(const Row (&rows)[Count], Index kind) {
 struct Traits {
     explicit Traits(const ScriptDialect& dialect)
         : Kind(dialect.GameKind),
-          Unreal(dialect.GameKind == game_kind::kUnreal),
-          HalfLife(dialect.GameKind == game_kind::kHalfLife),
-          New(dialect.ScriptFamily == script_family::kQuake2),
+          Unreal(dialect.GameKind == Game::Unreal),
+          HalfLife(dialect.GameKind == Game::HalfLife),
+          New(dialect.ScriptFamily == Dialect::Quake2),
           Old(!Unreal && !New) {}
 
-    Index Kind;
+    Game Kind;
     bool Unreal;
     bool HalfLife;
     bool New;  // of the newer family
@@ -117,14 +117,14 @@ void ShowPage(TabPage& page, TextView caption) {
     }
 }
 
-void ShowPages(Fig_Frm& form, Index kind) {
+void ShowPages(Fig_Frm& form, Game kind) {
     const PagesRow& row = RowOfKind(kPages, kind);
     ShowPage(form.Bindings_Tab[static_cast<std::size_t>(BindingsPage::Hexen2)], row.Hexen2);
     ShowPage(form.Bindings_Tab[static_cast<std::size_t>(BindingsPage::Quake2)], row.Quake2);
     ShowPage(form.Bindings_Tab[static_cast<std::size_t>(BindingsPage::Ctf)], row.Ctf);
 }
 
-void ShowLegend(Fig_Frm& form, Index kind) {
+void ShowLegend(Fig_Frm& form, Game kind) {
     std::size_t place = kFirstKindLegend;
     for (const TextView caption : RowOfKind(kLegends, kind).Captions) {
         const LegendRow& own = LegendOf(place);
@@ -145,7 +145,7 @@ void ShowRows(Fig_Frm& form, const Traits& traits) {
     for (SlotNumber slot = kNotAvailable.First; slot <= kNotAvailable.Last; ++slot) {
         form.Document.Setting_Lbl[slot].Enabled = !traits.HalfLife;
     }
-    if (traits.Kind == game_kind::kHexen2) {
+    if (traits.Kind == Game::Hexen2) {
         CaptionClassWeapons(form);
     }
     if (traits.Unreal) {
@@ -178,8 +178,8 @@ void ShowPlayer(Fig_Frm& form, const Traits& traits) {
     document.Sex_Cbo.Visible = traits.New;
     form.Skin_Lbl.Visible = traits.New;
     document.Skin_Cbo.Visible = traits.New;
-    form.Some_Lbl.Visible = traits.Kind == game_kind::kHexen2;
-    document.PlayerClass_Cbo.Visible = traits.Kind == game_kind::kHexen2;
+    form.Some_Lbl.Visible = traits.Kind == Game::Hexen2;
+    document.PlayerClass_Cbo.Visible = traits.Kind == Game::Hexen2;
 }
 
 void ShowSettings(Fig_Frm& form, const Traits& traits) {
@@ -187,7 +187,7 @@ void ShowSettings(Fig_Frm& form, const Traits& traits) {
     document.Handed_Cbo.Visible = traits.New && !traits.HalfLife;
     document.CrossHairColor_Cbo.Visible = document.Dialect.IsQuakeWorld;
     EnableCrosshairColor(form);
-    document.vidmode_Cbo.Visible = traits.Kind != game_kind::kQuake2 && traits.Kind != game_kind::kSin;
+    document.vidmode_Cbo.Visible = traits.Kind != Game::Quake2 && traits.Kind != Game::Sin;
     document.bgmvolume_Cbo.Visible = !traits.New;
     document.Q2_EnableCD_Chk.Visible = traits.New;
     document.Q2_WaveOnly_Chk.Visible = traits.New;

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/question_box.h"
 #include "foundry/editor/fig_frm.h"
 #include "foundry/fonts/game_font.h"
@@ -88,7 +88,7 @@ std::vector<Text> GameDirectories(const Fig_Frm& form) {
 }
 
 void TellOfHalfLife(Fig_Frm& form) {
-    if (form.GameKind() == game_kind::kHalfLife) {
+    if (form.GameKind() == Game::HalfLife) {
         AskUserUnlessTold(
             form.run, "HL_Phun-Names", "Half-Life Phun-Names",
             Join("Sorry - these are just Quake1 letters...", NewLine, "We'll get the halflife letters in here soon."));

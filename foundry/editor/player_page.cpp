@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/question_box.h"
 #include "foundry/fonts/game_font.h"
 #include "foundry/reading/skin_page.h"
@@ -62,7 +62,7 @@ void Name_Txt_Change(Fig_Frm& form) {
 }
 
 char Name_Txt_KeyPress(const Fig_Frm& form, char typed) {
-    return typed == ' ' && form.GameKind() == game_kind::kUnreal ? '_' : typed;
+    return typed == ' ' && form.GameKind() == Game::Unreal ? '_' : typed;
 }
 
 std::array<Color, 14> PlayerColors(Fig_Frm& form) {

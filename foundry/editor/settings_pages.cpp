@@ -1,7 +1,7 @@
 #include "foundry/editor/settings_pages.h"
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/editor/player_page.h"
 #include "foundry/reading/list_finder.h"
 
@@ -129,7 +129,7 @@ constexpr HeadingText kHeadings[] = {
 // clang-format on
 
 bool IsQuake2OrSin(const Fig_Frm& form) {
-    return form.GameKind() == game_kind::kQuake2 || form.GameKind() == game_kind::kSin;
+    return form.GameKind() == Game::Quake2 || form.GameKind() == Game::Sin;
 }
 
 TextView DefaultOf(const Fig_Frm& form, const SettingRow& row) {

@@ -2,7 +2,7 @@
 
 #include "catalogs/scripts.h"
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/link_question.h"
 #include "foundation/path_fault.h"
 #include "foundation/question_box.h"
@@ -70,7 +70,7 @@ Text NameScrollScript(TextView name, const LocalTime& date) {
 
 void FillStandardAliases(Fig_Frm& form) {
     form.StdAliases_Cbo.Clear();
-    if (form.GameKind() == game_kind::kQuake) {
+    if (form.GameKind() == Game::Quake) {
         for (const StandardAlias& alias : kStandardAliases) {
             form.StdAliases_Cbo.Items.emplace_back(alias.Title);
         }

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "catalogs/wildcard.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/fonts/pak_file.h"
 
 namespace lv {
@@ -57,7 +57,7 @@ std::optional<Text> ReadLoose(Files& disk, TextView directory, TextView name) {
     return read.Ok() ? std::optional(std::move(read.Value)) : std::nullopt;
 }
 
-bool TakeFromDirectory(Files& disk, TextView directory, Index gameKind, TextView name,
+bool TakeFromDirectory(Files& disk, TextView directory, Game gameKind, TextView name,
                        const std::function<bool(TextView)>& take) {
     const auto loose = ReadLoose(disk, directory, name);
     if (loose && take(*loose)) {
@@ -72,14 +72,14 @@ bool TakeFromDirectory(Files& disk, TextView directory, Index gameKind, TextView
 
 }  // namespace
 
-std::vector<Text> NewestArchives(Files& disk, TextView directory, Index gameKind) {
-    std::vector<Text> names = ListFiles(disk, directory, gameKind == game_kind::kSin ? "*.sin" : "*.pak");
+std::vector<Text> NewestArchives(Files& disk, TextView directory, Game gameKind) {
+    std::vector<Text> names = ListFiles(disk, directory, gameKind == Game::Sin ? "*.sin" : "*.pak");
     std::ranges::sort(names, [](const Text& a, const Text& b) { return IsOlder(LowerCase(b), LowerCase(a)); });
     names.resize(std::min(names.size(), kMostArchives));
     return names;
 }
 
-bool TakeGameFile(Files& disk, const std::vector<Text>& directories, Index gameKind, TextView name,
+bool TakeGameFile(Files& disk, const std::vector<Text>& directories, Game gameKind, TextView name,
                   const std::function<bool(TextView)>& take) {
     return std::ranges::any_of(
         directories, [&](const Text& directory) { return TakeFromDirectory(disk, directory, gameKind, name, take); });

@@ -7,7 +7,7 @@
 #include <functional>
 #include <vector>
 
-#include "foundation/text.h"
+#include "foundation/game.h"
 #include "platform/files.h"
 
 namespace lv {
@@ -19,11 +19,11 @@ constexpr std::uint32_t kLargestFontFile = 1U << 20U;
 constexpr std::size_t kMostArchives = 32;
 
 /// The archives of a directory that a game of this kind knows, the newest first: "pak10.pak", "pak9.pak".
-std::vector<Text> NewestArchives(Files& disk, TextView directory, Index gameKind);
+std::vector<Text> NewestArchives(Files& disk, TextView directory, Game gameKind);
 
 /// Shows `take` the contents of the files of that name ("gfx/palette.lmp") until it takes one: in each directory, in
 /// their order, the loose file and then those in the archives. False if none was taken.
-bool TakeGameFile(Files& disk, const std::vector<Text>& directories, Index gameKind, TextView name,
+bool TakeGameFile(Files& disk, const std::vector<Text>& directories, Game gameKind, TextView name,
                   const std::function<bool(TextView)>& take);
 
 }  // namespace lv

@@ -1,6 +1,6 @@
 #include "foundry/fonts/game_font.h"
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/fonts/game_files.h"
 #include "foundry/fonts/heretic_picture.h"
 #include "foundry/fonts/pcx.h"
@@ -14,13 +14,13 @@ namespace lv {
 namespace {
 
 struct PalettePlace {
-    Index GameKind;
+    Game GameKind;
     TextView File;
     std::optional<Palette> (*Read)(TextView bytes);
 };
 
 struct FontPlace {
-    Index GameKind;
+    Game GameKind;
     TextView File;
     TextView Lump;  // of the file; empty: the file itself
     std::optional<FontMap> (*Read)(TextView bytes, const std::optional<Palette>& palette);  // the game's palette
@@ -50,27 +50,27 @@ std::optional<FontMap> HalfLifeFont(TextView bytes, const std::optional<Palette>
 
 // clang-format off
 constexpr PalettePlace kPalettes[] = {
-    {game_kind::kQuake,    "gfx/palette.lmp",        ReadPalette},
-    {game_kind::kHexen2,   "gfx/palette.lmp",        ReadPalette},
-    {game_kind::kQuake2,   "pics/colormap.pcx",      ReadPcxPalette},
-    {game_kind::kSin,      "pics/colormap.pcx",      ReadPcxPalette},
+    {Game::Quake,  "gfx/palette.lmp",   ReadPalette},
+    {Game::Hexen2, "gfx/palette.lmp",   ReadPalette},
+    {Game::Quake2, "pics/colormap.pcx", ReadPcxPalette},
+    {Game::Sin,    "pics/colormap.pcx", ReadPcxPalette},
 };
 
 constexpr FontPlace kFonts[] = {
-    {game_kind::kQuake,    "gfx.wad",                "CONCHARS", QuakeFont},
-    {game_kind::kHexen2,   "gfx/menu/conchars.lmp",  "",         Hexen2Font},
-    {game_kind::kQuake2,   "pics/conchars.pcx",      "",         PcxFont},
-    {game_kind::kSin,      "pics/conchars.pcx",      "",         PcxFont},
-    {game_kind::kHeretic2, "pics/misc/conchars.m32", "",         HereticFont},
-    {game_kind::kHeretic2, "pics/misc/conchars.m8",  "",         HereticFont},
-    {game_kind::kHalfLife, "gfx.wad",                "CONCHARS", HalfLifeFont},
-    {game_kind::kHalfLife, "fonts.wad",              "FONT0",    HalfLifeFont},
-    {game_kind::kHalfLife, "fonts.wad",              "FONT1",    HalfLifeFont},
-    {game_kind::kHalfLife, "fonts.wad",              "FONT2",    HalfLifeFont},
+    {Game::Quake,    "gfx.wad",                "CONCHARS", QuakeFont},
+    {Game::Hexen2,   "gfx/menu/conchars.lmp",  "",         Hexen2Font},
+    {Game::Quake2,   "pics/conchars.pcx",      "",         PcxFont},
+    {Game::Sin,      "pics/conchars.pcx",      "",         PcxFont},
+    {Game::Heretic2, "pics/misc/conchars.m32", "",         HereticFont},
+    {Game::Heretic2, "pics/misc/conchars.m8",  "",         HereticFont},
+    {Game::HalfLife, "gfx.wad",                "CONCHARS", HalfLifeFont},
+    {Game::HalfLife, "fonts.wad",              "FONT0",    HalfLifeFont},
+    {Game::HalfLife, "fonts.wad",              "FONT1",    HalfLifeFont},
+    {Game::HalfLife, "fonts.wad",              "FONT2",    HalfLifeFont},
 };
 // clang-format on
 
-std::optional<Palette> ReadGamePalette(Files& disk, const std::vector<Text>& directories, Index gameKind) {
+std::optional<Palette> ReadGamePalette(Files& disk, const std::vector<Text>& directories, Game gameKind) {
     std::optional<Palette> palette;
     for (const PalettePlace& place : kPalettes) {
         if (place.GameKind == gameKind) {
@@ -85,7 +85,7 @@ std::optional<Palette> ReadGamePalette(Files& disk, const std::vector<Text>& dir
 
 }  // namespace
 
-std::optional<FontMap> ReadGameFont(Files& disk, const std::vector<Text>& directories, Index gameKind) {
+std::optional<FontMap> ReadGameFont(Files& disk, const std::vector<Text>& directories, Game gameKind) {
     const auto palette = ReadGamePalette(disk, directories, gameKind);
     std::optional<FontMap> font;
     for (const FontPlace& place : kFonts) {
@@ -102,12 +102,12 @@ std::optional<FontMap> ReadGameFont(Files& disk, const std::vector<Text>& direct
 }
 
 std::optional<std::array<Color, 14>> ReadPlayerColors(Files& disk, const std::vector<Text>& directories,
-                                                      Index gameKind) {
-    if (gameKind != game_kind::kQuake && gameKind != game_kind::kHexen2) {
+                                                      Game gameKind) {
+    if (gameKind != Game::Quake && gameKind != Game::Hexen2) {
         return std::nullopt;
     }
     const auto palette = ReadGamePalette(disk, directories, gameKind);
-    if (!palette || gameKind == game_kind::kQuake) {
+    if (!palette || gameKind == Game::Quake) {
         return palette ? std::optional(QuakeColors(*palette)) : std::nullopt;
     }
     std::optional<PlayerColorList> colors;

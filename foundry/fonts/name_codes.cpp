@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -37,12 +37,12 @@ constexpr int kBackslash = 92;
 
 }  // namespace
 
-bool NameTakes(Index gameKind, int code) {
-    if (gameKind == game_kind::kUnreal) {
+bool NameTakes(Game gameKind, int code) {
+    if (gameKind == Game::Unreal) {
         return std::ranges::none_of(kUnrealHoles,
                                     [code](const CodeRange& hole) { return code >= hole.First && code <= hole.Last; });
     }
-    if (gameKind == game_kind::kQuake2 && code == kBackslash) {
+    if (gameKind == Game::Quake2 && code == kBackslash) {
         return false;
     }
     return std::ranges::find(kNeverTaken, code) == std::end(kNeverTaken);

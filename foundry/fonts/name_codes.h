@@ -4,12 +4,12 @@
 
 #pragma once
 
-#include "foundation/text.h"
+#include "foundation/game.h"
 
 namespace lv {
 
 /// Whether the code, 0 to 255, can be chosen: 0, 10 and 13 can't be written, nor "\" in Quake II, and Unreal's font has
 /// holes.
-bool NameTakes(Index gameKind, int code);
+bool NameTakes(Game gameKind, int code);
 
 }  // namespace lv

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/fonts/latin_letters.h"
 #include "foundry/fonts/name_codes.h"
 #include "foundry/fonts/own_letters.h"
@@ -85,8 +85,8 @@ Rows Compose(const AccentedLetter& accented) {
     return rows;
 }
 
-bool HasLatinHalf(Index gameKind) {
-    return gameKind == game_kind::kUnreal || gameKind == game_kind::kHeretic2;
+bool HasLatinHalf(Game gameKind) {
+    return gameKind == Game::Unreal || gameKind == Game::Heretic2;
 }
 
 void DrawLowerHalf(FontMap& map) {
@@ -129,7 +129,7 @@ void ClearCell(FontMap& map, int code) {
 
 }  // namespace
 
-FontMap OwnFont(Index gameKind) {
+FontMap OwnFont(Game gameKind) {
     FontMap map;
     DrawLowerHalf(map);
     if (HasLatinHalf(gameKind)) {
@@ -137,7 +137,7 @@ FontMap OwnFont(Index gameKind) {
     } else {
         DrawGoldenHalf(map);
     }
-    for (int code = 0; gameKind == game_kind::kUnreal && code < kFontCodes; ++code) {
+    for (int code = 0; gameKind == Game::Unreal && code < kFontCodes; ++code) {
         if (!NameTakes(gameKind, code)) {
             ClearCell(map, code);
         }

@@ -10,7 +10,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/wx_text.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/editor/free_rows.h"
 #include "foundry/editor/player_page.h"
@@ -29,7 +29,7 @@ struct ColumnRow {
     BindingsPage Page;
     SlotNumber Heading;
     SlotBlock Slots;
-    Index OnlyKind = 0;  // 0: all kinds that have no row of their own
+    Game OnlyKind = Game::None;  // none: all kinds that have no row of their own
 };
 
 // clang-format off
@@ -44,8 +44,8 @@ constexpr ColumnRow kColumns[] = {
     {BindingsPage::Talking,  67,   {801, 813}},
     {BindingsPage::Hexen2,   900,  {901, 908}},
     {BindingsPage::Hexen2,   950,  {909, 923}},
-    {BindingsPage::Hexen2,   900,  {901, 912}, game_kind::kHeretic2},
-    {BindingsPage::Hexen2,   950,  {913, 923}, game_kind::kHeretic2},
+    {BindingsPage::Hexen2,   900,  {901, 912}, Game::Heretic2},
+    {BindingsPage::Hexen2,   950,  {913, 923}, Game::Heretic2},
     {BindingsPage::Quake2,   1100, {1101, 1105}},
     {BindingsPage::Quake2,   1198, {1110, 1116}},
     {BindingsPage::Quake2,   1199, {1120, 1124}},
@@ -159,7 +159,7 @@ class RowMaker {
     std::vector<wxCheckBox*> boxes_;
 };
 
-bool Belongs(const ColumnRow& column, BindingsPage page, Index kind) {
+bool Belongs(const ColumnRow& column, BindingsPage page, Game kind) {
     if (column.Page != page) {
         return false;
     }
@@ -167,7 +167,7 @@ bool Belongs(const ColumnRow& column, BindingsPage page, Index kind) {
     for (const ColumnRow& other : kColumns) {
         own = own || (other.Page == page && other.OnlyKind == kind);
     }
-    return column.OnlyKind == (own ? kind : 0);
+    return column.OnlyKind == (own ? kind : Game::None);
 }
 
 using Click = void (*)(Fig_Frm&);

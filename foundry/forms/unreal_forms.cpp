@@ -12,7 +12,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/wx_text.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/editor/player_page.h"
 #include "foundry/editor/settings_pages.h"
 #include "platform/spoken_name.h"
@@ -154,7 +154,7 @@ class UnrealPageMaker {
 }  // namespace
 
 bool MakeUnrealPage(FigParts& parts, wxWindow* page, int which) {
-    if (parts.Model.GameKind() != game_kind::kUnreal) {
+    if (parts.Model.GameKind() != Game::Unreal) {
         return false;
     }
     UnrealPageMaker maker(parts, page);

@@ -8,7 +8,7 @@
 #include "catalogs/archive_names.h"
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -30,9 +30,9 @@ bool HoldsNone(TextView lowerName, const std::array<TextView, Count>& parts) {
 }
 
 /// The names of all entries below `folder` ("players/"), without it.
-void VisitEntries(Files& disk, TextView directory, Index gameKind, TextView folder,
+void VisitEntries(Files& disk, TextView directory, Game gameKind, TextView folder,
                   const std::function<void(TextView)>& visit) {
-    std::vector<Text> archives = ListFiles(disk, directory, gameKind == game_kind::kSin ? "*.sin" : "*.pak");
+    std::vector<Text> archives = ListFiles(disk, directory, gameKind == Game::Sin ? "*.sin" : "*.pak");
     std::ranges::sort(archives, {}, [](const Text& name) { return LowerCase(name); });
     archives.resize(std::min(archives.size(), kMostArchives));
     for (const Text& archive : archives) {
@@ -62,12 +62,12 @@ class NameSet {
     std::vector<Text> names_;
 };
 
-bool IsSkinOfArchive(TextView file, Index gameKind) {
+bool IsSkinOfArchive(TextView file, Game gameKind) {
     if (file.find('/') != TextView::npos || !IsModelSkin(file)) {
         return false;
     }
-    return MatchesWildcard(file, "*.pcx") || (gameKind == game_kind::kHeretic2 && MatchesWildcard(file, "*.m8") &&
-                                              HoldsNone(LowerCase(file), kNoTextures));
+    return MatchesWildcard(file, "*.pcx") ||
+           (gameKind == Game::Heretic2 && MatchesWildcard(file, "*.m8") && HoldsNone(LowerCase(file), kNoTextures));
 }
 
 }  // namespace
@@ -76,7 +76,7 @@ bool IsModelSkin(TextView file) {
     return HoldsNone(LowerCase(file), kNoSkins);
 }
 
-std::vector<Text> ArchivedModels(Files& disk, TextView directory, Index gameKind) {
+std::vector<Text> ArchivedModels(Files& disk, TextView directory, Game gameKind) {
     NameSet models;
     VisitEntries(disk, directory, gameKind, kPlayers, [&](TextView name) {
         if (const std::size_t slash = name.find('/'); slash != TextView::npos) {
@@ -86,7 +86,7 @@ std::vector<Text> ArchivedModels(Files& disk, TextView directory, Index gameKind
     return models.Take();
 }
 
-std::vector<Text> ArchivedSkins(Files& disk, TextView directory, TextView model, Index gameKind) {
+std::vector<Text> ArchivedSkins(Files& disk, TextView directory, TextView model, Game gameKind) {
     NameSet skins;
     VisitEntries(disk, directory, gameKind, Join(kPlayers, model, "/"), [&](TextView name) {
         if (IsSkinOfArchive(name, gameKind)) {
@@ -98,7 +98,7 @@ std::vector<Text> ArchivedSkins(Files& disk, TextView directory, TextView model,
 
 std::vector<Text> ArchivedQuakeWorldSkins(Files& disk, TextView directory) {
     NameSet skins;
-    VisitEntries(disk, directory, game_kind::kQuake, kSkins, [&](TextView name) {
+    VisitEntries(disk, directory, Game::Quake, kSkins, [&](TextView name) {
         if (name.find('/') == TextView::npos && MatchesWildcard(name, "*.pcx")) {
             skins.Add(name);
         }

@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "foundation/game.h"
 #include "foundry/document/script_document.h"
 #include "platform/files.h"
 
@@ -14,8 +15,8 @@ bool IsModelSkin(TextView file);
 
 // All names come in the order of the archives, each once whatever its letter case; skins without their ending.
 
-std::vector<Text> ArchivedModels(Files& disk, TextView directory, Index gameKind);
-std::vector<Text> ArchivedSkins(Files& disk, TextView directory, TextView model, Index gameKind);
+std::vector<Text> ArchivedModels(Files& disk, TextView directory, Game gameKind);
+std::vector<Text> ArchivedSkins(Files& disk, TextView directory, TextView model, Game gameKind);
 
 /// With the ending ".pcx", as files are listed.
 std::vector<Text> ArchivedQuakeWorldSkins(Files& disk, TextView directory);

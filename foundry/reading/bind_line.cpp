@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -158,10 +158,10 @@ Text BindLine(ScriptDocument& document, ScriptView& view, TextView key, Text com
     if (TrimmedView(command).empty()) {
         command = kEmptyCommand;
     }
-    const Index kind = document.Dialect.GameKind;
+    const Game kind = document.Dialect.GameKind;
     const KeyIndex index = KeyOf(key);
     if (index == kNoKey) {
-        return kind == game_kind::kUnreal ? Join(LowerCase(key), "=", command, NewLine) : Text();
+        return kind == Game::Unreal ? Join(LowerCase(key), "=", command, NewLine) : Text();
     }
     const SlotMatch match = SlotFromCommand(LowerCase(TrimmedView(command)), kind);
     if (!match.Known) {

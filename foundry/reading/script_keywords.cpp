@@ -4,7 +4,7 @@
 #include <array>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/numbers.h"
 
 namespace lv {
@@ -21,12 +21,12 @@ constexpr std::array<TextView, 4> kBannerEchoes = {"|========================|",
 
 constexpr int kListedVideoModes = 11;
 
-bool IsKind(const KeywordContext& context, std::initializer_list<Index> kinds) {
+bool IsKind(const KeywordContext& context, std::initializer_list<Game> kinds) {
     return std::ranges::find(kinds, context.Document.Dialect.GameKind) != kinds.end();
 }
 
 bool IsNewFamily(const KeywordContext& context) {
-    return context.Document.Dialect.ScriptFamily == script_family::kQuake2;
+    return context.Document.Dialect.ScriptFamily == Dialect::Quake2;
 }
 
 LineUse SetCheck(CheckBox& check, bool on) {
@@ -96,20 +96,20 @@ LineUse SelectRow(KeywordContext& context, const ScriptLine& line, const Keyword
 }
 
 LineUse SelectRowInNewGames(KeywordContext& context, const ScriptLine& line, const KeywordRow& row) {
-    const bool byRow = IsKind(context, {game_kind::kQuake2, game_kind::kSin});
+    const bool byRow = IsKind(context, {Game::Quake2, Game::Sin});
     return byRow ? SelectRow(context, line, row) : Select(context, line, row);
 }
 
 /// Heretic II's values are found in the list, but a hand that was not chosen is written as the row -1.
 LineUse SelectHand(KeywordContext& context, const ScriptLine& line, const KeywordRow& row) {
-    if (IsKind(context, {game_kind::kHeretic2}) && line.Value == "-1") {
+    if (IsKind(context, {Game::Heretic2}) && line.Value == "-1") {
         return SelectRow(context, line, row);
     }
     return SelectRowInNewGames(context, line, row);
 }
 
 LineUse SelectClass(KeywordContext& context, const ScriptLine& line, const KeywordRow&) {
-    if (!IsKind(context, {game_kind::kHexen2})) {
+    if (!IsKind(context, {Game::Hexen2})) {
         return kFreeForm;
     }
     // The game numbers its classes, and so does the list; a name would take part in no comparison of numbers.
@@ -125,7 +125,7 @@ LineUse PutText(KeywordContext& context, const ScriptLine& line, const KeywordRo
 }
 
 LineUse PutName(KeywordContext& context, const ScriptLine& line, const KeywordRow& row) {
-    if (IsKind(context, {game_kind::kUnreal})) {
+    if (IsKind(context, {Game::Unreal})) {
         return kFreeForm;
     }
     PutText(context, line, row);
@@ -239,7 +239,7 @@ LineUse BindToSlot(KeywordContext& context, const ScriptLine& line, const Keywor
     if (line.Value.empty() || line.Value2.empty()) {
         return kUnderstood;
     }
-    const bool unreal = IsKind(context, {game_kind::kUnreal});
+    const bool unreal = IsKind(context, {Game::Unreal});
     if (unreal && (SameText(line.Value, "escape") || SameText(line.Value, "capslock"))) {
         return kUnderstood;
     }

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/numbers.h"
 #include "foundry/reading/free_form.h"
 #include "foundry/reading/joined_line.h"
@@ -45,7 +45,7 @@ TextView BeforeComment(TextView line) {
 }
 
 bool IsUnreal(const ScriptDocument& document) {
-    return document.Dialect.GameKind == game_kind::kUnreal;
+    return document.Dialect.GameKind == Game::Unreal;
 }
 
 /// An alias as the first pass reads it. The letter case of one in a console script is lost.
@@ -152,7 +152,7 @@ class SecondPass {
     void Finish(const std::function<void()>& modelChosen);
     /// An ini has no banner; there the program's own section tells who wrote it.
     [[nodiscard]] bool Foreign() const {
-        const bool isIni = context_.Document.Dialect.GameKind == game_kind::kUnreal;
+        const bool isIni = context_.Document.Dialect.GameKind == Game::Unreal;
         return !sawBanner_ && !(isIni && sections_.SawOwn());
     }
 
@@ -247,7 +247,7 @@ void SecondPass::FillWeapons() {
 void SecondPass::ChooseSkin(const std::function<void()>& modelChosen) {
     ScriptDocument& document = context_.Document;
     const TextView skin = *context_.Skin;
-    if (document.Dialect.ScriptFamily != script_family::kQuake2) {
+    if (document.Dialect.ScriptFamily != Dialect::Quake2) {
         const bool hasEnding = skin.size() >= 4 && SameText(skin.substr(skin.size() - 4), ".pcx");
         const int row = RowOf(document.Skin_Fil, hasEnding ? Text(skin) : Join(skin, ".pcx"));
         document.Skin_Fil.ListIndex = row >= 0 ? row : document.Skin_Fil.ListIndex;

@@ -6,7 +6,7 @@
 #include "catalogs/sorted_names.h"
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/question_box.h"
 #include "foundry/reading/archived_skins.h"
 
@@ -77,7 +77,7 @@ void FillQuakeWorldSkins(Run& run, ScriptDocument& document) {
 
 void PrepareSkinPage(Run& run, ScriptDocument& document) {
     const bool quakeWorld = document.Dialect.IsQuakeWorld;
-    const bool newFamily = document.Dialect.ScriptFamily == script_family::kQuake2;
+    const bool newFamily = document.Dialect.ScriptFamily == Dialect::Quake2;
     document.Options_Tab[kSkinsPage].Enabled = quakeWorld;
     document.Options_Tab[kRatePage].Enabled = quakeWorld || newFamily;
     document.Skin_Fil.Clear();

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/tables/key_rows.h"
 
 namespace lv {
@@ -85,13 +85,13 @@ constexpr Mirror kMirrors[] = {
     {69, 86}, {70, 92},  {71, 85},  {72, 91},  {73, 87}, {74, 89}, {75, 93}, {68, 90},
 };
 
-bool KindMirrors(KeyIndex key, Index gameKind) {
+bool KindMirrors(KeyIndex key, Game gameKind) {
     switch (gameKind) {
-        case game_kind::kQuake2:
-        case game_kind::kSin:
-        case game_kind::kHeretic2:
+        case Game::Quake2:
+        case Game::Sin:
+        case Game::Heretic2:
             return false;
-        case game_kind::kUnreal:
+        case Game::Unreal:
             return key == kEnter;
         default:
             return true;
@@ -100,11 +100,11 @@ bool KindMirrors(KeyIndex key, Index gameKind) {
 
 }  // namespace
 
-KeyStyle StyleOfFamily(Index scriptFamily) {
+KeyStyle StyleOfFamily(Dialect scriptFamily) {
     switch (scriptFamily) {
-        case script_family::kQuake2:
+        case Dialect::Quake2:
             return KeyStyle::NewConsole;
-        case script_family::kUnreal:
+        case Dialect::Unreal:
             return KeyStyle::Unreal;
         default:
             return KeyStyle::OldConsole;
@@ -130,10 +130,10 @@ KeyIndex KeyFromName(TextView spelling) {
     return found != kSpellings.end() && found->View() == spelling ? found->Key : kNoKey;
 }
 
-KeyTexts KeyCaptions(Index gameKind) {
+KeyTexts KeyCaptions(Game gameKind) {
     KeyTexts captions;
     std::ranges::transform(kKeyRows, captions.begin(), [](const KeyRow& row) { return Text(row.Caption); });
-    if (gameKind == game_kind::kQuake2 || gameKind == game_kind::kSin) {
+    if (gameKind == Game::Quake2 || gameKind == Game::Sin) {
         captions[static_cast<std::size_t>(kPlus)] = "kp+";
     }
     return captions;
@@ -144,7 +144,7 @@ KeyIndex KeyIndexOfCaption(const KeyTexts& captions, TextView caption) {
     return found == captions.end() ? kNoKey : static_cast<KeyIndex>(found - captions.begin());
 }
 
-Index MirrorLabel(KeyIndex key, Index gameKind) {
+Index MirrorLabel(KeyIndex key, Game gameKind) {
     const auto* const found = std::ranges::find(kMirrors, key, &Mirror::Key);
     return found != std::end(kMirrors) && KindMirrors(key, gameKind) ? found->Label : kNoKey;
 }

@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "foundation/text.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -24,8 +24,8 @@ enum class KeyStyle {
     Unreal,
 };
 
-/// The style of the scripts of a script family (script_family, foundation/game_numbers.h).
-KeyStyle StyleOfFamily(Index scriptFamily);
+/// The style of the scripts of a dialect.
+KeyStyle StyleOfFamily(Dialect scriptFamily);
 
 struct WrittenKey {
     TextView Name;
@@ -40,13 +40,13 @@ WrittenKey KeyName(KeyIndex key, KeyStyle style);
 KeyIndex KeyFromName(TextView spelling);
 
 /// The short names on the keyboard's picture; that of key 77 depends on the kind of game.
-KeyTexts KeyCaptions(Index gameKind);
+KeyTexts KeyCaptions(Game gameKind);
 
 /// The first key with exactly this caption; kNoKey if there is none.
 KeyIndex KeyIndexOfCaption(const KeyTexts& captions, TextView caption);
 
 /// The second label of the keyboard's picture that shows the key's colour, or kNoKey. The older engines don't tell
 /// the keypad from the main keys, nor a right Shift, Ctrl or Alt (labels 149 to 151) from a left one.
-Index MirrorLabel(KeyIndex key, Index gameKind);
+Index MirrorLabel(KeyIndex key, Game gameKind);
 
 }  // namespace lv

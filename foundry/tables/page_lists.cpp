@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <span>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -96,9 +96,9 @@ void FillCrosshairColors(ListBox& list) {
     }
 }
 
-void FillPlayer(ScriptSettings& settings, Index gameKind, Index scriptFamily, bool isMissionPack) {
-    const bool halfLife = gameKind == game_kind::kHalfLife;
-    const bool newConsole = scriptFamily == script_family::kQuake2;
+void FillPlayer(ScriptSettings& settings, Game gameKind, Dialect scriptFamily, bool isMissionPack) {
+    const bool halfLife = gameKind == Game::HalfLife;
+    const bool newConsole = scriptFamily == Dialect::Quake2;
     settings.Handed_Cbo.Clear();
     if (halfLife) {
         Put(settings.Crosshair_Cbo, {"0 (none)", "1 (crosshair on)"});
@@ -112,7 +112,7 @@ void FillPlayer(ScriptSettings& settings, Index gameKind, Index scriptFamily, bo
     Put(settings.m_filter_Cbo, {"0", "1"});
 
     settings.PlayerClass_Cbo.Clear();
-    if (gameKind == game_kind::kHexen2) {
+    if (gameKind == Game::Hexen2) {
         Put(settings.PlayerClass_Cbo, {"Paladin", "Crusader", "Necromancer", "Assassin"});
         if (isMissionPack) {
             settings.PlayerClass_Cbo.Items.emplace_back("Demoness");
@@ -159,7 +159,7 @@ void FillMouseBinds(std::span<ListBox> lists) {
 
 }  // namespace
 
-void FillPageLists(ScriptSettings& settings, Index gameKind, Index scriptFamily, bool isMissionPack) {
+void FillPageLists(ScriptSettings& settings, Game gameKind, Dialect scriptFamily, bool isMissionPack) {
     FillPlayer(settings, gameKind, scriptFamily, isMissionPack);
     FillUnrealAudio(settings.UnrealAudio_Cbo);
     FillPlayerPawn(settings.PlayerPawn_Cbo);

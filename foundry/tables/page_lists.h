@@ -4,12 +4,13 @@
 
 #pragma once
 
+#include "foundation/game.h"
 #include "foundry/tables/script_settings.h"
 
 namespace lv {
 
 /// Empties and fills the other lists of the pages, with nothing selected: crosshair, hand, player class, the Unreal
 /// lists and weapons. An Unreal ini's numbers have a point in every locale.
-void FillPageLists(ScriptSettings& settings, Index gameKind, Index scriptFamily, bool isMissionPack);
+void FillPageLists(ScriptSettings& settings, Game gameKind, Dialect scriptFamily, bool isMissionPack);
 
 }  // namespace lv

@@ -6,26 +6,13 @@
 
 #include <array>
 
-#include "foundation/game_numbers.h"
+#include "foundry/tables/kind_set.h"
 #include "foundry/tables/slots.h"
 
 namespace lv {
 
-/// A set of kinds of games, a bit each.
-using KindSet = unsigned;
-
-template <class... Kinds>
-constexpr KindSet Only(Kinds... kinds) {
-    return (0U | ... | (1U << static_cast<unsigned>(kinds)));
-}
-
-template <class... Kinds>
-constexpr KindSet Not(Kinds... kinds) {
-    return ~Only(kinds...);
-}
-
-constexpr KindSet kAll = ~0U;
-constexpr KindSet kActions = Only(game_kind::kHexen2, game_kind::kHeretic2, game_kind::kHalfLife);
+constexpr KindSet kAll = Not();
+constexpr KindSet kActions = Only(Game::Hexen2, Game::Heretic2, Game::HalfLife);
 
 /// One slot has several rows where its spellings hold for different kinds.
 struct CommandRow {
@@ -45,50 +32,50 @@ constexpr CommandRow kCommandRows[] = {
     {107, kAll, {"+lookup", "lookup"}},
     {108, kAll, {"+lookdown", "lookdown"}},
     {109, kAll, {"+moveup", "viewup"}},
-    {109, Only(game_kind::kHalfLife), {"+jump", "jump"}},
+    {109, Only(Game::HalfLife), {"+jump", "jump"}},
     {110, kAll, {"+movedown", "viewdown", "+duck"}},
     {111, kAll, {"+attack", "fire"}},
-    {112, Not(game_kind::kHalfLife), {"+jump", "jump"}},
+    {112, Not(Game::HalfLife), {"+jump", "jump"}},
     {113, kAll, {"+strafe", "strafe"}},
-    {114, Not(game_kind::kHeretic2), {"+speed"}},
+    {114, Not(Game::Heretic2), {"+speed"}},
     {115, kAll, {"+mlook"}},  // kept on purpose: Unreal's "Look" is written, and never recognised
     {116, kAll, {"+klook"}},
     {201, kAll, {"impulse 1", "use blaster", "switchweapon 1", "use fists", "use sword-staff", "slot1"}},
     {202, kAll, {"impulse 2", "switchweapon 2", "use magnum", "use flying-fist", "slot2"}},
-    {202, Only(game_kind::kQuake2), {"use shotgun"}},
+    {202, Only(Game::Quake2), {"use shotgun"}},
     {203, kAll, {"impulse 3", "use super shotgun", "switchweapon 3", "use hell-staff", "slot3"}},
-    {203, Only(game_kind::kSin), {"use shotgun"}},
+    {203, Only(Game::Sin), {"use shotgun"}},
     {204, kAll, {"impulse 4", "use machinegun", "switchweapon 4", "use assaultrifle", "use magic-missile", "slot4"}},
-    {205, Not(game_kind::kHexen2), {"impulse 5", "use chaingun", "switchweapon 5", "use red-rain-bow", "slot5"}},
-    {206, Not(game_kind::kHexen2),
+    {205, Not(Game::Hexen2), {"impulse 5", "use chaingun", "switchweapon 5", "use red-rain-bow", "slot5"}},
+    {206, Not(Game::Hexen2),
         {"impulse 6", "use grenade launcher", "switchweapon 6", "use sphere-of-annihilation", "use spidermine"}},
-    {207, Not(game_kind::kHexen2),
+    {207, Not(Game::Hexen2),
         {"impulse 7", "use rocket launcher", "switchweapon 7", "use rocketlauncher", "use phoenix-bow"}},
-    {208, Not(game_kind::kHexen2),
+    {208, Not(Game::Hexen2),
         {"impulse 8", "use hyperblaster", "switchweapon 8", "use mace-balls", "use pulserifle"}},
     {209, kAll, {"impulse 12", "use railgun", "switchweapon 9", "use firewall", "use quantumdestabilizer"}},
     {210, kAll, {"impulse 10", "use bfg10k", "switchweapon 10", "use sniperrifle"}},
     {211, kAll, {"weaplast", "prevweapon", "weapprev"}},
     {212, kAll, {"weapnext", "nextweapon"}},
-    {1001, Only(game_kind::kQuake), {"impulse 20"}},
-    {1002, Only(game_kind::kQuake), {"impulse 21"}},
-    {1003, Only(game_kind::kQuake), {"impulse 22"}},
-    {1004, Only(game_kind::kQuake), {"impulse 23"}},
-    {1005, Only(game_kind::kQuake), {"impulse 69"}},
-    {901, Only(game_kind::kHexen2, game_kind::kHeretic2), {"+crouch", "+creep"}},
-    {901, Only(game_kind::kHalfLife), {"invnext", "inventorynext"}},
-    {902, Only(game_kind::kHexen2, game_kind::kHeretic2), {"impulse 13", "+action"}},
-    {902, Only(game_kind::kHalfLife), {"invprev", "inventoryprevious"}},
+    {1001, Only(Game::Quake), {"impulse 20"}},
+    {1002, Only(Game::Quake), {"impulse 21"}},
+    {1003, Only(Game::Quake), {"impulse 22"}},
+    {1004, Only(Game::Quake), {"impulse 23"}},
+    {1005, Only(Game::Quake), {"impulse 69"}},
+    {901, Only(Game::Hexen2, Game::Heretic2), {"+crouch", "+creep"}},
+    {901, Only(Game::HalfLife), {"invnext", "inventorynext"}},
+    {902, Only(Game::Hexen2, Game::Heretic2), {"impulse 13", "+action"}},
+    {902, Only(Game::HalfLife), {"invprev", "inventoryprevious"}},
     {903, kActions, {"invleft", "+defend", "lastinv"}},
     {904, kActions, {"invright", "defprev", "+reload"}},
     {905, kActions, {"invuse", "inventoryactivate", "defnext", "+attack2"}},
     {906, kActions, {"impulse 44", "+lookaround", "impulse 201"}},
-    {907, Only(game_kind::kHexen2, game_kind::kHeretic2), {"+showinfo", "+quickturn"}},
-    {907, Only(game_kind::kHalfLife), {"impulse 100", "+autoaim"}},
-    {908, Only(game_kind::kHexen2), {"toggle_dm"}},
-    {908, Only(game_kind::kHeretic2), {"+speed"}},
-    {908, Only(game_kind::kHalfLife), {"use rebreather", "throwweapon", "+use"}},
-    {909, Only(game_kind::kHexen2, game_kind::kHeretic2), {"impulse 100", "+autoaim"}},
+    {907, Only(Game::Hexen2, Game::Heretic2), {"+showinfo", "+quickturn"}},
+    {907, Only(Game::HalfLife), {"impulse 100", "+autoaim"}},
+    {908, Only(Game::Hexen2), {"toggle_dm"}},
+    {908, Only(Game::Heretic2), {"+speed"}},
+    {908, Only(Game::HalfLife), {"use rebreather", "throwweapon", "+use"}},
+    {909, Only(Game::Hexen2, Game::Heretic2), {"impulse 100", "+autoaim"}},
     {910, kActions, {"impulse 101", "freezeworld", "use weapon_357", "weapon_357"}},
     {911, kActions, {"impulse 102",
                      "set cl_camera_dampfactor 0.2 ; set cl_camera_viewmax 200 ; echo camera normal",
@@ -97,10 +84,10 @@ constexpr CommandRow kCommandRows[] = {
     {912, kActions, {"impulse 103",
                      "set cl_camera_dampfactor 0.0 ; set cl_camera_viewmax 1000 ; echo camera locked",
                      "use weapon_9mmhandgun", "weapon_9mmhandgun"}},
-    {913, Only(game_kind::kHexen2, game_kind::kHalfLife), {"impulse 104", "use weapon_crossbow", "weapon_crossbow"}},
-    {914, Only(game_kind::kHexen2, game_kind::kHalfLife), {"impulse 105", "use weapon_crowbar", "weapon_crowbar"}},
-    {915, Only(game_kind::kHexen2, game_kind::kHalfLife), {"impulse 106", "use weapon_egon", "weapon_egon"}},
-    {916, Only(game_kind::kHexen2, game_kind::kHalfLife), {"impulse 107", "use weapon_gauss", "weapon_gauss"}},
+    {913, Only(Game::Hexen2, Game::HalfLife), {"impulse 104", "use weapon_crossbow", "weapon_crossbow"}},
+    {914, Only(Game::Hexen2, Game::HalfLife), {"impulse 105", "use weapon_crowbar", "weapon_crowbar"}},
+    {915, Only(Game::Hexen2, Game::HalfLife), {"impulse 106", "use weapon_egon", "weapon_egon"}},
+    {916, Only(Game::Hexen2, Game::HalfLife), {"impulse 107", "use weapon_gauss", "weapon_gauss"}},
     {917, kActions, {"impulse 108", "use tome-of-power", "use weapon_handgrenade", "weapon_handgrenade"}},
     {918, kActions, {"impulse 109", "use shield", "use weapon_hornetgun", "weapon_hornetgun"}},
     {919, kActions, {"impulse 110", "use armor", "use weapon_rpg", "weapon_rpg"}},
@@ -133,14 +120,14 @@ constexpr CommandRow kCommandRows[] = {
     {413, kAll, {"endfullscreen"}},
     {1101, kAll, {"inven", "invshow", "firstperson"}},
     {1102, kAll, {"thirdperson"}},
-    {1102, Not(game_kind::kHalfLife), {"invnext", "inventorynext"}},
+    {1102, Not(Game::HalfLife), {"invnext", "inventorynext"}},
     {1103, kAll, {"+camdistance"}},
-    {1103, Not(game_kind::kHalfLife), {"invprev", "inventoryprevious"}},
+    {1103, Not(Game::HalfLife), {"invprev", "inventoryprevious"}},
     {1104, kAll, {"+cammousemove"}},
-    {1104, Only(game_kind::kQuake2, game_kind::kUnreal, game_kind::kSin),
+    {1104, Only(Game::Quake2, Game::Unreal, Game::Sin),
         {"invuse", "inventoryactivate", "defnext", "+attack2"}},
     {1105, kAll, {"+camin", "invdrop"}},
-    {1110, Not(game_kind::kHalfLife), {"use rebreather", "throwweapon", "+use"}},
+    {1110, Not(Game::HalfLife), {"use rebreather", "throwweapon", "+use"}},
     {1111, kAll, {"use environment suit", "duck", "cmd showmission"}},
     {1112, kAll, {"use grenades", "altfire", "toggleviewmode"}},
     {1113, kAll, {"use invulnerability", "feigndeath"}},

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/tables/read_command_rows.h"
 
 namespace lv {
@@ -42,22 +42,20 @@ constexpr auto MakeSpellings() {
 
 constexpr auto kSpellings = MakeSpellings();
 
-/// Every number that is no kind of its own is edited as Quake.
-Index KnownKind(Index gameKind) {
-    const bool known =
-        (gameKind >= game_kind::kQuake && gameKind <= game_kind::kHeretic2) || gameKind == game_kind::kHalfLife;
-    return known ? gameKind : game_kind::kQuake;
+/// What is no kind of its own is read as Quake.
+Game KnownKind(Game gameKind) {
+    return Has(kEveryGame, gameKind) ? gameKind : Game::Quake;
 }
 
 }  // namespace
 
-SlotMatch SlotFromCommand(TextView lowerCaseCommand, Index gameKind) {
-    const KindSet kind = Only(KnownKind(gameKind));
+SlotMatch SlotFromCommand(TextView lowerCaseCommand, Game gameKind) {
+    const Game kind = KnownKind(gameKind);
     SlotMatch match;
     const auto* spelling = std::ranges::lower_bound(kSpellings, lowerCaseCommand, {}, &Spelling::Text);
     for (; spelling != kSpellings.end() && spelling->Text == lowerCaseCommand; ++spelling) {
         match.Known = true;
-        if ((spelling->Row->Kinds & kind) != 0) {
+        if (Has(spelling->Row->Kinds, kind)) {
             match.Slot = spelling->Row->Slot;
             break;
         }

@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "foundation/game.h"
 #include "foundry/tables/slots.h"
 
 namespace lv {
@@ -15,6 +16,6 @@ struct SlotMatch {
 };
 
 /// Looks for the command among the spellings of the fixed slots. The text comes in lower case.
-SlotMatch SlotFromCommand(TextView lowerCaseCommand, Index gameKind);
+SlotMatch SlotFromCommand(TextView lowerCaseCommand, Game gameKind);
 
 }  // namespace lv

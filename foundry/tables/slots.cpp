@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -57,8 +57,8 @@ const std::vector<SlotNumber>& SlotNumbers() {
     return numbers;
 }
 
-Color SlotColor(SlotNumber slot, Index gameKind) {
-    if (gameKind == game_kind::kHalfLife && (kCameraSlots.Holds(slot) || kMoreCameraSlots.Holds(slot))) {
+Color SlotColor(SlotNumber slot, Game gameKind) {
+    if (gameKind == Game::HalfLife && (kCameraSlots.Holds(slot) || kMoreCameraSlots.Holds(slot))) {
         return kCameraTricks;
     }
     const auto* const group =

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "foundation/text.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -72,6 +72,6 @@ class SlotArray {
 const std::vector<SlotNumber>& SlotNumbers();
 
 /// The back colour of the slot's group, which its bound keys take.
-Color SlotColor(SlotNumber slot, Index gameKind);
+Color SlotColor(SlotNumber slot, Game gameKind);
 
 }  // namespace lv

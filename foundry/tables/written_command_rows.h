@@ -5,7 +5,7 @@
 
 #pragma once
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundry/tables/slots.h"
 
 namespace lv {
@@ -181,72 +181,72 @@ constexpr ItemRow kItemRows[] = {
 /// Where a kind differs from its column.
 struct KindText {
     SlotNumber Slot;
-    Index Kind;
+    Game Kind;
     TextView Text;
 };
 
 constexpr KindText kOtherCommands[] = {
-    {112, game_kind::kQuake2, "+crouch"},
-    {112, game_kind::kSin, "+crouch"},
-    {306, game_kind::kHexen2, "+showdm"},
-    {306, game_kind::kHeretic2, "score"},
-    {306, game_kind::kHalfLife, "+showscores"},
-    {408, game_kind::kSin, "menu_quit"},
-    {408, game_kind::kHeretic2, "menu_quit"},
-    {409, game_kind::kHalfLife, ""},
-    {411, game_kind::kHalfLife, ""},
+    {112, Game::Quake2, "+crouch"},
+    {112, Game::Sin, "+crouch"},
+    {306, Game::Hexen2, "+showdm"},
+    {306, Game::Heretic2, "score"},
+    {306, Game::HalfLife, "+showscores"},
+    {408, Game::Sin, "menu_quit"},
+    {408, Game::Heretic2, "menu_quit"},
+    {409, Game::HalfLife, ""},
+    {411, Game::HalfLife, ""},
 };
 
 constexpr KindText kOtherCaptions[] = {
-    {109, game_kind::kQuake2, " Jump / Up"},
-    {109, game_kind::kSin, " Jump / Up"},
-    {109, game_kind::kHeretic2, " Jump / Up"},
-    {109, game_kind::kHalfLife, " Jump / Up"},
-    {110, game_kind::kQuake2, " Crouch / Dn"},
-    {110, game_kind::kSin, " Crouch / Dn"},
-    {110, game_kind::kHeretic2, " Crouch / Dn"},
-    {110, game_kind::kHalfLife, " Crouch / Dn"},
-    {109, game_kind::kUnreal, " View Up"},
-    {110, game_kind::kUnreal, " View Down"},
+    {109, Game::Quake2, " Jump / Up"},
+    {109, Game::Sin, " Jump / Up"},
+    {109, Game::Heretic2, " Jump / Up"},
+    {109, Game::HalfLife, " Jump / Up"},
+    {110, Game::Quake2, " Crouch / Dn"},
+    {110, Game::Sin, " Crouch / Dn"},
+    {110, Game::Heretic2, " Crouch / Dn"},
+    {110, Game::HalfLife, " Crouch / Dn"},
+    {109, Game::Unreal, " View Up"},
+    {110, Game::Unreal, " View Down"},
 };
 
 struct KindSlot {
     SlotNumber Slot;
-    Index Kind;
+    Game Kind;
 };
 
 /// Hidden, though they have a command.
 constexpr KindSlot kHiddenSlots[] = {
-    {112, game_kind::kQuake2},
-    {112, game_kind::kSin},
-    {112, game_kind::kHeretic2},
-    {112, game_kind::kHalfLife},
-    {205, game_kind::kHexen2},
-    {206, game_kind::kHexen2},
-    {207, game_kind::kHexen2},
-    {208, game_kind::kHexen2},
-    {211, game_kind::kUnreal},
-    {212, game_kind::kUnreal},
-    {1105, game_kind::kSin},
-    {1113, game_kind::kSin},
-    {1114, game_kind::kSin},
-    {1115, game_kind::kSin},
-    {1116, game_kind::kSin},
-    {1120, game_kind::kSin},
-    {1121, game_kind::kSin},
-    {1122, game_kind::kSin},
-    {1123, game_kind::kSin},
-    {1124, game_kind::kSin},
-    {1114, game_kind::kUnreal},
-    {1115, game_kind::kUnreal},
-    {1116, game_kind::kUnreal},
+    {112, Game::Quake2},
+    {112, Game::Sin},
+    {112, Game::Heretic2},
+    {112, Game::HalfLife},
+    {205, Game::Hexen2},
+    {206, Game::Hexen2},
+    {207, Game::Hexen2},
+    {208, Game::Hexen2},
+    {211, Game::Unreal},
+    {212, Game::Unreal},
+    {1105, Game::Sin},
+    {1113, Game::Sin},
+    {1114, Game::Sin},
+    {1115, Game::Sin},
+    {1116, Game::Sin},
+    {1120, Game::Sin},
+    {1121, Game::Sin},
+    {1122, Game::Sin},
+    {1123, Game::Sin},
+    {1124, Game::Sin},
+    {1114, Game::Unreal},
+    {1115, Game::Unreal},
+    {1116, Game::Unreal},
 };
 
 /// Shown, though they have none.
 constexpr KindSlot kShownSlots[] = {
-    {206, game_kind::kHalfLife},
-    {207, game_kind::kHalfLife},
-    {208, game_kind::kHalfLife},
+    {206, Game::HalfLife},
+    {207, Game::HalfLife},
+    {208, Game::HalfLife},
 };
 
 struct HeadingRow {
@@ -272,16 +272,16 @@ constexpr HeadingRow kHeadingRows[] = {
 };
 
 constexpr KindText kOtherHeadings[] = {
-    {900, game_kind::kHeretic2, " Heretic ][ Actions"},
-    {900, game_kind::kHalfLife, " Half-Life Actions"},
-    {950, game_kind::kHeretic2, " Heretic ][ Magic"},
-    {950, game_kind::kHalfLife, " Half-Life Weapons"},
-    {1100, game_kind::kSin, " Sin Inventory Control"},
-    {1100, game_kind::kHalfLife, " Camera Tricks!"},
-    {1100, game_kind::kUnreal, " Unreal Inventory Control"},
-    {1198, game_kind::kSin, " Sin Stuff"},
-    {1198, game_kind::kUnreal, " Unreal Actions"},
-    {1199, game_kind::kUnreal, " Unreal Hand Signals"},
+    {900, Game::Heretic2, " Heretic ][ Actions"},
+    {900, Game::HalfLife, " Half-Life Actions"},
+    {950, Game::Heretic2, " Heretic ][ Magic"},
+    {950, Game::HalfLife, " Half-Life Weapons"},
+    {1100, Game::Sin, " Sin Inventory Control"},
+    {1100, Game::HalfLife, " Camera Tricks!"},
+    {1100, Game::Unreal, " Unreal Inventory Control"},
+    {1198, Game::Sin, " Sin Stuff"},
+    {1198, Game::Unreal, " Unreal Actions"},
+    {1199, Game::Unreal, " Unreal Hand Signals"},
 };
 
 // clang-format on

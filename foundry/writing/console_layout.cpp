@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/numbers.h"
 #include "foundry/writing/banners.h"
 #include "foundry/writing/value_text.h"
@@ -171,14 +171,14 @@ void AddPlayer(Writing& w) {
         AddColors(w);
     }
     AddSkinFile(w);
-    if (document.Dialect.GameKind == game_kind::kHexen2) {
+    if (document.Dialect.GameKind == Game::Hexen2) {
         AddLine(w.Script, "_cl_playerclass \"", std::to_string(document.PlayerClass_Cbo.ListIndex), DoubleQuote);
     }
 }
 
 void AddLook(Writing& w) {
     const CheckBox& look = w.Document.MLook_Chk;
-    if (w.IsNew && w.Document.Dialect.GameKind != game_kind::kHalfLife) {
+    if (w.IsNew && w.Document.Dialect.GameKind != Game::HalfLife) {
         AddLine(w.Script, w.Prefix, "freelook ", Digit(look));
     } else if (IsOn(look)) {
         AddLine(w.Script, "+mlook");
@@ -199,7 +199,7 @@ void AddRun(Writing& w) {
 
 // The crosshair's colour belongs to the client of QuakeWorld; plain Quake knows none.
 bool HasCrosshairColor(const ScriptDialect& dialect) {
-    return dialect.GameKind != game_kind::kQuake || dialect.IsQuakeWorld;
+    return dialect.GameKind != Game::Quake || dialect.IsQuakeWorld;
 }
 
 void AddCrosshair(Writing& w) {
@@ -341,9 +341,9 @@ void RaiseWeaponName(Text& script) {
 }  // namespace
 
 Text ConsoleScript(const ScriptDocument& document, const LocalTime& date) {
-    const Index kind = document.Dialect.GameKind;
-    Writing w = {document, document.Dialect.ScriptFamily == script_family::kQuake2, "", {}};
-    if (kind == game_kind::kQuake2 || kind == game_kind::kSin) {
+    const Game kind = document.Dialect.GameKind;
+    Writing w = {document, document.Dialect.ScriptFamily == Dialect::Quake2, "", {}};
+    if (kind == Game::Quake2 || kind == Game::Sin) {
         w.Prefix = "set ";
     }
     AddHeader(w, date);
@@ -352,7 +352,7 @@ Text ConsoleScript(const ScriptDocument& document, const LocalTime& date) {
     AddBindings(w);
     AddFreeForm(w);
     AddEnd(w);
-    if (kind == game_kind::kHalfLife) {
+    if (kind == Game::HalfLife) {
         RaiseWeaponName(w.Script);
     }
     return std::move(w.Script);

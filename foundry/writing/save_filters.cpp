@@ -9,7 +9,7 @@ namespace {
 constexpr TextView kAllFiles = "|All Files (*.*)|*.*";
 
 struct FilterRow {
-    Index GameKind;  // 0: all others
+    Game GameKind;  // none: all others
     TextView Head;
     TextView Patterns;
     TextView Extensions[2];
@@ -17,16 +17,16 @@ struct FilterRow {
 
 // The second extension of Hexen II and Sin is not the one that their filter names, kept on purpose.
 constexpr FilterRow kFilters[] = {
-    {1, "Quake Scripts (*.cfg, *.qs", "*.cfg;*.qs", {"cfg", "qs"}},
-    {2, "Hexen Scripts (*.cfg, *.hs", "*.cfg;*.hs", {"cfg", "qs"}},
-    {3, "Quake2 Scripts (*.cfg, *.q2s", "*.cfg;*.q2s", {"cfg", "q2s"}},
-    {5, "Sin Scripts (*.cfg, *.ss", "*.cfg;*.ss", {"cfg", "q2s"}},
-    {4, "Unreal INIs (*.ini", "*.ini", {"ini", "ini"}},
-    {6, "Heretic2 Scripts (*.cfg, *.hrs", "*.cfg;*.hrs", {"cfg", "hrs"}},
-    {0, "Scripts (*.cfg", "*.cfg", {"cfg", "cfg"}},
+    {Game::Quake, "Quake Scripts (*.cfg, *.qs", "*.cfg;*.qs", {"cfg", "qs"}},
+    {Game::Hexen2, "Hexen Scripts (*.cfg, *.hs", "*.cfg;*.hs", {"cfg", "qs"}},
+    {Game::Quake2, "Quake2 Scripts (*.cfg, *.q2s", "*.cfg;*.q2s", {"cfg", "q2s"}},
+    {Game::Sin, "Sin Scripts (*.cfg, *.ss", "*.cfg;*.ss", {"cfg", "q2s"}},
+    {Game::Unreal, "Unreal INIs (*.ini", "*.ini", {"ini", "ini"}},
+    {Game::Heretic2, "Heretic2 Scripts (*.cfg, *.hrs", "*.cfg;*.hrs", {"cfg", "hrs"}},
+    {Game::None, "Scripts (*.cfg", "*.cfg", {"cfg", "cfg"}},
 };
 
-const FilterRow& RowOf(Index gameKind) {
+const FilterRow& RowOf(Game gameKind) {
     for (const FilterRow& row : kFilters) {
         if (row.GameKind == gameKind) {
             return row;
@@ -37,7 +37,7 @@ const FilterRow& RowOf(Index gameKind) {
 
 }  // namespace
 
-Text SaveFilter(Index gameKind, TextView extension) {
+Text SaveFilter(Game gameKind, TextView extension) {
     const FilterRow& row = RowOf(gameKind);
     const bool isKnown = extension == row.Extensions[0] || extension == row.Extensions[1];
     // These two part a filter's pieces.

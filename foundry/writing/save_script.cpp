@@ -5,7 +5,7 @@
 #include "catalogs/scripts.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/link_question.h"
 #include "foundation/question_box.h"
 #include "foundry/document/bindings.h"
@@ -34,11 +34,11 @@ void TellDialogFailure(Run& run, const Error& failed, bool diagnostics) {
 
 /// Empty if the user chose none, or was told why there is none.
 Text ChoosePath(Run& run, const ScriptDocument& document, bool diagnostics) {
-    const Index kind = document.Dialect.GameKind;
+    const Game kind = document.Dialect.GameKind;
     const Text& path = document.CurrentScriptPath;
     FileRequest request;
     request.Filter = SaveFilter(kind, ExtensionOf(path));
-    request.InitialDirectory = kind == game_kind::kUnreal ? DirectoryOf(path) : ScriptDirectory(run);
+    request.InitialDirectory = kind == Game::Unreal ? DirectoryOf(path) : ScriptDirectory(run);
     request.FileName = LastPathPart(path);
     request.ForSaving = true;
     request.MaxFileSize = kMaxFileSize;
@@ -54,7 +54,7 @@ Text ChoosePath(Run& run, const ScriptDocument& document, bool diagnostics) {
 
 /// The games of the newer family write their config.cfg themselves.
 bool MayOwnConfig(Run& run, const ScriptDocument& document, TextView path) {
-    if (document.Dialect.ScriptFamily != script_family::kQuake2 || !Holds(LowerCase(path), "\\config.cfg")) {
+    if (document.Dialect.ScriptFamily != Dialect::Quake2 || !Holds(LowerCase(path), "\\config.cfg")) {
         return true;
     }
     const Index answer = AskUser(run, kTitle,
@@ -126,7 +126,7 @@ bool Write(Run& run, const ScriptDocument& document, const Text& path) {
 
 /// An ini has no form for the empty command, so only a console script frees the key.
 void FreeEmptyBindings(ScriptDocument& document, ScriptView& view) {
-    if (document.Dialect.GameKind == game_kind::kUnreal) {
+    if (document.Dialect.GameKind == Game::Unreal) {
         return;
     }
     for (KeyIndex key = 0; key < kKeyCount; ++key) {

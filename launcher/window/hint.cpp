@@ -25,7 +25,7 @@ Text HintText(const Launcher& launcher) {
         return "F2 configures GameSpy 3D to start your games.";
     }
     const Text program = LastPathPart(window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Key);
-    if (launcher.run.GameKind == 0) {
+    if (launcher.run.GameKind == Game::None) {
         return Join("No known game lies beside ", program, ".");
     }
     Text hint = Join("F2 starts ", program);

@@ -3,7 +3,7 @@
 #include <exception>
 
 #include "foundation/field_strings.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/link_question.h"
 #include "foundation/numbers.h"
 #include "foundation/padded_item.h"
@@ -132,7 +132,7 @@ bool WriteScript(Click& click) {
     const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
     AddCommandLineAdditions(click.Selection, click.Texts);
     click.Script = ScriptText(click.Texts, click.Game);
-    if (click.Script.empty() || click.Game.GameKind == game_kind::kUnreal || !hasDirectory) {
+    if (click.Script.empty() || click.Game.GameKind == Game::Unreal || !hasDirectory) {
         DeleteScript(click);
         return true;
     }
@@ -172,7 +172,7 @@ bool WriteBatch(Click& click) {
 Text ViewText(const Click& click) {
     return Join("AppDir = ", click.run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
                 NewLine, "Script File = ", NewLine,
-                click.Game.GameKind == game_kind::kUnreal ? click.launcher.Window.ChangedIniLines : click.Script);
+                click.Game.GameKind == Game::Unreal ? click.launcher.Window.ChangedIniLines : click.Script);
 }
 
 /// Shows the files where that was asked for. True if the game is to be started.

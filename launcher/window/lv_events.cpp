@@ -4,7 +4,7 @@
 #include "catalogs/map_scan.h"
 #include "catalogs/modifications.h"
 #include "catalogs/scripts.h"
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 #include "foundation/link_question.h"
 #include "foundation/padded_item.h"
 #include "foundation/question_box.h"
@@ -40,7 +40,7 @@ void Game_Chk_Click(Launcher& launcher) {
 }
 
 void Listen_Chk_Click(Launcher& launcher) {
-    if (launcher.Window.Box(Option::Listen_Chk).Value != 1 || launcher.run.GameKind != game_kind::kHalfLife) {
+    if (launcher.Window.Box(Option::Listen_Chk).Value != 1 || launcher.run.GameKind != Game::HalfLife) {
         return;
     }
     AskUserUnlessTold(launcher.run, "HL_Listen_Server", "Half-Life Console Warning",
@@ -52,7 +52,7 @@ void Listen_Chk_Click(Launcher& launcher) {
 
 void Bench_Chk_Click(Launcher& launcher) {
     Run& run = launcher.run;
-    if (launcher.Window.Box(Option::Bench_Chk).Value != 1 || run.GameKind != game_kind::kHalfLife) {
+    if (launcher.Window.Box(Option::Bench_Chk).Value != 1 || run.GameKind != Game::HalfLife) {
         return;
     }
     const Text demo = Join(run.DefaultGameDirectory, "\\valve\\1.dem");
@@ -153,9 +153,8 @@ void Exe_Cbo_Click(Launcher& launcher) {
     if (run.Ended) {
         return;
     }
-    window.Box(Option::LaunchQspy_Chk).Enabled =
-        run.GameKind != game_kind::kHalfLife && run.GameKind != game_kind::kHeretic2;
-    if (run.GameKind != 0) {
+    window.Box(Option::LaunchQspy_Chk).Enabled = run.GameKind != Game::HalfLife && run.GameKind != Game::Heretic2;
+    if (run.GameKind != Game::None) {
         ApplyModification(launcher);
     }
     ScanForMaps(run, launcher.Lists);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "foundation/game_numbers.h"
+#include "foundation/game.h"
 
 namespace lv {
 
@@ -105,7 +105,7 @@ void ApplyOtherGame(LV_Frm& window, const PanelGame& game) {
 }
 
 void ApplyFamily(LV_Frm& window, const PanelGame& game) {
-    if (game.ScriptFamily == 3) {
+    if (game.ScriptFamily == Dialect::Quake2) {
         ClearAndDisable(window.Box(NOLAN_Chk));
         ClearAndDisable(window.Box(NOUDP_Chk));
         Grey(window.Box(Memory_Chk));
@@ -130,7 +130,7 @@ OptionSet ExcludedBy(Option option) {
 
 void ApplyGamePanels(LV_Frm& window, const PanelGame& game) {
     ApplyWorldClient(window, game.IsQuakeWorld || game.IsHexenWorld);
-    if (game.GameKind == game_kind::kUnreal) {
+    if (game.GameKind == Game::Unreal) {
         ApplyUnreal(window);
     } else {
         ApplyOtherGame(window, game);

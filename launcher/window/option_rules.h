@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "foundation/game.h"
 #include "launcher/window/lv_frm.h"
 
 namespace lv {
@@ -13,8 +14,8 @@ OptionSet ExcludedBy(Option option);
 
 /// What the panels depend on.
 struct PanelGame {
-    Index GameKind = 0;
-    Index ScriptFamily = 0;
+    Game GameKind = Game::None;
+    Dialect ScriptFamily = Dialect::None;
     bool IsQuakeWorld = false;
     bool IsHexenWorld = false;
 };

@@ -8,6 +8,7 @@
 
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
+#include "foundation/game.h"
 #include "foundation/settings.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/support/scripted_user.h"
@@ -66,8 +67,8 @@ class CatalogsTest : public ::testing::Test {
         run.DefaultGameDirectory = "c:\\quake";
         run.BaseGameDir = "ID1";
         run.CurrentGameDir = "ID1";
-        run.GameKind = 1;
-        run.ScriptFamily = 1;
+        run.GameKind = Game::Quake;
+        run.ScriptFamily = Dialect::Quake;
     }
 
     void ExpectDamage(TextView name, TextView value) {

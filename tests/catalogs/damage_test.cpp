@@ -109,7 +109,7 @@ TEST_P(HostileStore, EndsEveryFill) {
         run.DefaultGameDirectory = "c:\\quake";
         run.BaseGameDir = "ID1";
         run.CurrentGameDir = "ID1";
-        run.GameKind = 1;
+        run.GameKind = Game::Quake;
         FillGamesCombo(run, lists);
         FillScriptsCombo(run, lists);
         FillServerCombo(run, lists);

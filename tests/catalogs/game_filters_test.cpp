@@ -6,7 +6,7 @@ namespace lv {
 namespace {
 
 struct FilterCase {
-    Index Kind;
+    Game Kind;
     const char* Scripts;
     const char* Demos;
     const char* Extension;
@@ -25,25 +25,25 @@ TEST_P(Filters, AreTheGames) {
 
 INSTANTIATE_TEST_SUITE_P(
     EachRow, Filters,
-    ::testing::Values(FilterCase{1, "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*",
+    ::testing::Values(FilterCase{Game::Quake, "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*",
                                  "Quake Demonstrations (*.dem;*.qwd)|*.dem;*.qwd|All Files (*.*)|*.*", ".qs"},
-                      FilterCase{2, "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*",
+                      FilterCase{Game::Hexen2, "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*",
                                  "Hexen Demonstrations (*.dem)|*.dem|All Files (*.*)|*.*", ".hs"},
-                      FilterCase{3, "Quake2 Scripts (*.cfg, *.q2s)|*.cfg;*.q2s|All Files (*.*)|*.*",
+                      FilterCase{Game::Quake2, "Quake2 Scripts (*.cfg, *.q2s)|*.cfg;*.q2s|All Files (*.*)|*.*",
                                  "Quake ][ Demonstrations (*.dm2)|*.dm2|All Files (*.*)|*.*", ".q2s"},
-                      FilterCase{5, "SIN Scripts (*.cfg, *.sns)|*.cfg;*.sns|All Files (*.*)|*.*",
+                      FilterCase{Game::Sin, "SIN Scripts (*.cfg, *.sns)|*.cfg;*.sns|All Files (*.*)|*.*",
                                  "Quake ][ Demonstrations (*.dm2)|*.dm2|All Files (*.*)|*.*", ".sns"},
-                      FilterCase{6, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*",
+                      FilterCase{Game::Heretic2, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*",
                                  "Quake ][ Demonstrations (*.dm2)|*.dm2|All Files (*.*)|*.*", ".cfg"},
-                      FilterCase{9, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*",
+                      FilterCase{Game::HalfLife, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*",
                                  "Quake ][ Demonstrations (*.dm2)|*.dm2|All Files (*.*)|*.*", ".cfg"},
-                      FilterCase{4, "Unreal INIs (*.ini)|*.ini|All Files (*.*)|*.*", "", ".ini"}));
+                      FilterCase{Game::Unreal, "Unreal INIs (*.ini)|*.ini|All Files (*.*)|*.*", "", ".ini"}));
 
 TEST(FiltersOf, NoGameIsNothing) {
-    EXPECT_EQ(FiltersOf(0), nullptr);
-    EXPECT_EQ(FiltersOf(7), nullptr);
-    EXPECT_EQ(FiltersOf(8), nullptr);
-    EXPECT_EQ(FiltersOf(-1), nullptr);
+    EXPECT_EQ(FiltersOf(Game::None), nullptr);
+    EXPECT_EQ(FiltersOf(Game{7}), nullptr);
+    EXPECT_EQ(FiltersOf(Game{8}), nullptr);
+    EXPECT_EQ(FiltersOf(Game{-1}), nullptr);
 }
 
 }  // namespace

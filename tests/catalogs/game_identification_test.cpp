@@ -9,8 +9,8 @@ namespace {
 struct TreeCase {
     const char* Directory;  // of the executable
     const char* Below;      // what stands below it
-    Index Kind;
-    Index Family;
+    Game Kind;
+    Dialect Family;
     const char* Base;
 };
 
@@ -25,41 +25,46 @@ TEST_P(GameTree, IsToldByItsDirectories) {
     EXPECT_EQ(facts.BaseGameDir, GetParam().Base);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    EachRow, GameTree,
-    ::testing::Values(TreeCase{"c:\\quake", "ID1", 1, 1, "ID1"}, TreeCase{"c:\\hexen2", "data1", 2, 1, "DATA1"},
-                      TreeCase{"c:\\quake2", "baseq2", 3, 3, "BASEQ2"},
-                      TreeCase{"c:\\unreal\\system", "editor", 4, 4, "MAPS"}, TreeCase{"c:\\sin", "base", 5, 3, "BASE"},
-                      TreeCase{"c:\\heretic2", "base", 6, 3, "BASE"}, TreeCase{"c:\\half-life", "valve", 9, 3, "VALVE"},
-                      TreeCase{"c:\\doom", "wads", 0, 0, ""}, TreeCase{"c:\\doom", "base", 0, 0, ""},
-                      TreeCase{"c:\\sin", "wads", 0, 0, ""}, TreeCase{"c:\\unreal", "system", 0, 0, ""},
-                      // A plain test of the directory's text.
-                      TreeCase{"c:\\Games\\Sinistar", "base", 5, 3, "BASE"},
-                      TreeCase{"c:\\sin\\heretic", "base", 5, 3, "BASE"},
-                      TreeCase{"d:\\UnReal\\SysTem", "x", 4, 4, "MAPS"}));
+INSTANTIATE_TEST_SUITE_P(EachRow, GameTree,
+                         ::testing::Values(TreeCase{"c:\\quake", "ID1", Game::Quake, Dialect::Quake, "ID1"},
+                                           TreeCase{"c:\\hexen2", "data1", Game::Hexen2, Dialect::Quake, "DATA1"},
+                                           TreeCase{"c:\\quake2", "baseq2", Game::Quake2, Dialect::Quake2, "BASEQ2"},
+                                           TreeCase{"c:\\unreal\\system", "editor", Game::Unreal, Dialect::Unreal,
+                                                    "MAPS"},
+                                           TreeCase{"c:\\sin", "base", Game::Sin, Dialect::Quake2, "BASE"},
+                                           TreeCase{"c:\\heretic2", "base", Game::Heretic2, Dialect::Quake2, "BASE"},
+                                           TreeCase{"c:\\half-life", "valve", Game::HalfLife, Dialect::Quake2, "VALVE"},
+                                           TreeCase{"c:\\doom", "wads", Game::None, Dialect::None, ""},
+                                           TreeCase{"c:\\doom", "base", Game::None, Dialect::None, ""},
+                                           TreeCase{"c:\\sin", "wads", Game::None, Dialect::None, ""},
+                                           TreeCase{"c:\\unreal", "system", Game::None, Dialect::None, ""},
+                                           // A plain test of the directory's text.
+                                           TreeCase{"c:\\Games\\Sinistar", "base", Game::Sin, Dialect::Quake2, "BASE"},
+                                           TreeCase{"c:\\sin\\heretic", "base", Game::Sin, Dialect::Quake2, "BASE"},
+                                           TreeCase{"d:\\UnReal\\SysTem", "x", Game::Unreal, Dialect::Unreal, "MAPS"}));
 
 TEST(FactsOfDirectory, TheOrderOfTheTableCounts) {
     MemoryFiles files;
     files.AddDirectory("C:\\SIN\\valve");
-    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 9);
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, Game::HalfLife);
     files.AddDirectory("C:\\SIN\\base");
-    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 5);
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, Game::Sin);
     files.AddDirectory("C:\\SIN\\baseq2");
-    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 3);
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, Game::Quake2);
     files.AddDirectory("C:\\SIN\\data1");
-    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 2);
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, Game::Hexen2);
     files.AddDirectory("C:\\SIN\\id1");  // a left-over "id1" makes it Quake
-    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, 1);
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin").GameKind, Game::Quake);
 }
 
 TEST(FactsOfDirectory, AFileIsNoDataDirectory) {
     MemoryFiles files;
     files.AddFile("C:\\QUAKE\\id1");
-    EXPECT_EQ(FactsOfDirectory(files, "c:\\quake").GameKind, 0);
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\quake").GameKind, Game::None);
 }
 
 struct FlagCase {
-    Index Kind;
+    Game Kind;
     const char* Path;
     bool QuakeWorld;
     bool HexenWorld;
@@ -78,23 +83,24 @@ TEST_P(PathFlags, AreToldByTheName) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EachExecutable, PathFlags,
-                         ::testing::Values(FlagCase{1, "c:\\q\\quake.exe", false, false, false, false},
-                                           FlagCase{1, "c:\\q\\glquake.exe", false, false, false, true},
-                                           FlagCase{1, "c:\\q\\winquake.exe", false, false, false, true},
-                                           FlagCase{1, "c:\\q\\qwcl.exe", true, false, false, false},
-                                           FlagCase{1, "c:\\q\\glqwcl.exe", true, false, false, true},
-                                           FlagCase{1, "c:\\q\\h2mp.exe", false, false, false, true},
-                                           FlagCase{2, "c:\\h\\h2.exe", false, false, false, false},
-                                           FlagCase{2, "c:\\h\\glh2.exe", false, false, false, true},
-                                           FlagCase{2, "c:\\h\\h2mp.exe", false, false, true, false},
-                                           FlagCase{2, "c:\\h\\glh2mp.exe", false, false, true, true},
-                                           FlagCase{2, "c:\\h\\hwcl.exe", false, false, false, false},
-                                           FlagCase{2, "c:\\h\\hwcl.exe +x", false, true, false, false},
-                                           FlagCase{2, "c:\\h\\glhwcl.exe +x", false, true, false, true},
-                                           FlagCase{2, "c:\\h\\h2mp.exe hwcl.exe ", false, false, true, false},
-                                           FlagCase{2, "c:\\h\\qwcl.exe", false, false, false, true},
-                                           FlagCase{3, "c:\\q2\\quake.exe", false, false, false, true},
-                                           FlagCase{0, "c:\\x\\qwcl.exe", false, false, false, true}));
+                         ::testing::Values(FlagCase{Game::Quake, "c:\\q\\quake.exe", false, false, false, false},
+                                           FlagCase{Game::Quake, "c:\\q\\glquake.exe", false, false, false, true},
+                                           FlagCase{Game::Quake, "c:\\q\\winquake.exe", false, false, false, true},
+                                           FlagCase{Game::Quake, "c:\\q\\qwcl.exe", true, false, false, false},
+                                           FlagCase{Game::Quake, "c:\\q\\glqwcl.exe", true, false, false, true},
+                                           FlagCase{Game::Quake, "c:\\q\\h2mp.exe", false, false, false, true},
+                                           FlagCase{Game::Hexen2, "c:\\h\\h2.exe", false, false, false, false},
+                                           FlagCase{Game::Hexen2, "c:\\h\\glh2.exe", false, false, false, true},
+                                           FlagCase{Game::Hexen2, "c:\\h\\h2mp.exe", false, false, true, false},
+                                           FlagCase{Game::Hexen2, "c:\\h\\glh2mp.exe", false, false, true, true},
+                                           FlagCase{Game::Hexen2, "c:\\h\\hwcl.exe", false, false, false, false},
+                                           FlagCase{Game::Hexen2, "c:\\h\\hwcl.exe +x", false, true, false, false},
+                                           FlagCase{Game::Hexen2, "c:\\h\\glhwcl.exe +x", false, true, false, true},
+                                           FlagCase{Game::Hexen2, "c:\\h\\h2mp.exe hwcl.exe ", false, false, true,
+                                                    false},
+                                           FlagCase{Game::Hexen2, "c:\\h\\qwcl.exe", false, false, false, true},
+                                           FlagCase{Game::Quake2, "c:\\q2\\quake.exe", false, false, false, true},
+                                           FlagCase{Game::None, "c:\\x\\qwcl.exe", false, false, false, true}));
 
 class IdentifyTest : public CatalogsTest {
   protected:
@@ -116,8 +122,8 @@ class IdentifyTest : public CatalogsTest {
 
 TEST_F(IdentifyTest, APickSetsTheRun) {
     EXPECT_TRUE(Pick("C:\\QUAKE2\\QUAKE2.EXE"));
-    EXPECT_EQ(run.GameKind, 3);
-    EXPECT_EQ(run.ScriptFamily, 3);
+    EXPECT_EQ(run.GameKind, Game::Quake2);
+    EXPECT_EQ(run.ScriptFamily, Dialect::Quake2);
     EXPECT_EQ(run.DefaultGameDirectory, "c:\\quake2");
     EXPECT_EQ(run.BaseGameDir, "BASEQ2");
     EXPECT_EQ(run.CurrentGameDir, "BASEQ2");
@@ -134,13 +140,13 @@ TEST_F(IdentifyTest, APickSavesThePosition) {
 TEST_F(IdentifyTest, SlashesBecomeBackslashes) {
     EXPECT_TRUE(Pick("C:/QUAKE/qwcl.exe"));
     EXPECT_EQ(run.DefaultGameDirectory, "c:\\quake");
-    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_EQ(run.GameKind, Game::Quake);
     EXPECT_FALSE(run.UsesAccelerator);
 }
 
 TEST_F(IdentifyTest, QuakeWorldIsQuakeWithAFlag) {
     Pick("C:\\QUAKE\\qwcl.exe");
-    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_EQ(run.GameKind, Game::Quake);
     EXPECT_TRUE(run.IsQuakeWorld);
     EXPECT_FALSE(run.UsesAccelerator);
     Pick("C:\\QUAKE\\glqwcl.exe");
@@ -172,7 +178,7 @@ TEST_F(IdentifyTest, AllThreeListsAreFilled) {
     Store("Games", "Team Fortress;-game tfc");
     Store("NetServers", "Home;127.0.0.1;27015;9;");
     EXPECT_TRUE(Pick("C:\\HL\\hl.exe"));
-    EXPECT_EQ(run.GameKind, 9);
+    EXPECT_EQ(run.GameKind, Game::HalfLife);
     EXPECT_EQ(Rows(lists.Game_Cbo), (TextList{"Team Fortress|-game tfc"}));
     EXPECT_EQ(Rows(lists.Script_Cbo), (TextList{"config.cfg|c:\\hl\\valve\\config.cfg"}));
     EXPECT_EQ(Rows(lists.Server_Cbo), (TextList{"Home|127.0.0.1;27015;9;"}));
@@ -184,8 +190,8 @@ TEST_F(IdentifyTest, AnUnknownTreeEmptiesTheListsAndKeepsTheFamily) {
     Pick("C:\\QUAKE2\\quake2.exe");
     ASSERT_EQ(lists.Server_Cbo.Items.size(), 1U);
     EXPECT_TRUE(Pick("C:\\DOOM\\doom.exe"));
-    EXPECT_EQ(run.GameKind, 0);
-    EXPECT_EQ(run.ScriptFamily, 3);
+    EXPECT_EQ(run.GameKind, Game::None);
+    EXPECT_EQ(run.ScriptFamily, Dialect::Quake2);
     EXPECT_EQ(run.BaseGameDir, "");
     EXPECT_EQ(run.CurrentGameDir, "");
     EXPECT_EQ(run.DefaultGameDirectory, "c:\\doom");
@@ -212,16 +218,16 @@ TEST_F(IdentifyTest, AnEmptyPathIsToldAndTheRunGoesOn) {
                  0, false, true, "&OK"});
     EXPECT_TRUE(Pick(""));
     EXPECT_EQ(run.DefaultGameDirectory, "");
-    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_EQ(run.GameKind, Game::Quake);
     EXPECT_FALSE(run.IsQuakeWorld);
     EXPECT_TRUE(run.UsesAccelerator);
     EXPECT_FALSE(run.Ended);
 }
 
 TEST_F(IdentifyTest, WithoutASelectedRowNothingHappens) {
-    run.GameKind = 3;
+    run.GameKind = Game::Quake2;
     EXPECT_TRUE(IdentifyGame(run, lists));
-    EXPECT_EQ(run.GameKind, 3);
+    EXPECT_EQ(run.GameKind, Game::Quake2);
     EXPECT_EQ(system.Settings.Count(), 0U);
 }
 
@@ -289,7 +295,7 @@ TEST_F(IdentifyTest, AnExecutableInARootHasTheDriveAsItsDirectory) {
 class MissionPackTest : public CatalogsTest {
   protected:
     MissionPackTest() {
-        run.GameKind = 2;
+        run.GameKind = Game::Hexen2;
         lists.Game_Cbo.Items = {MakeItem("CTF", "-game ctf"), MakeItem("Portals of Praevus", "-game Portals"),
                                 MakeItem("Again", "-game portals")};
         lists.Game_Cbo.ListIndex = 0;
@@ -326,7 +332,7 @@ TEST_F(MissionPackTest, AnotherModificationStays) {
 }
 
 TEST_F(MissionPackTest, AnotherGameKeepsPortals) {
-    run.GameKind = 1;
+    run.GameKind = Game::Quake;
     lists.Game_Cbo.ListIndex = 1;
     lists.Game_Chk.Value = 1;
     ApplyMissionPackRule(run, lists);

@@ -91,7 +91,7 @@ TEST_F(MapScanTest, LooseModelsAreKept) {
 }
 
 TEST_F(MapScanTest, SinLooksAtItsOwnArchivesOnly) {
-    run.GameKind = 5;
+    run.GameKind = Game::Sin;
     run.BaseGameDir = "BASE";
     run.CurrentGameDir = "BASE";
     system.Disk.AddFile("C:\\QUAKE\\BASE\\pak0.pak", PakFile({"maps/packed.bsp"}));
@@ -111,7 +111,7 @@ TEST_F(MapScanTest, OtherGamesLeaveSinsArchivesAlone) {
 }
 
 TEST_F(MapScanTest, UnrealsMapsLieBesideItsSystemDirectory) {
-    run.GameKind = 4;
+    run.GameKind = Game::Unreal;
     run.DefaultGameDirectory = "c:\\unreal\\system";
     run.BaseGameDir = "MAPS";
     run.CurrentGameDir = "MAPS";

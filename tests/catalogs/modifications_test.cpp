@@ -8,7 +8,7 @@ namespace {
 
 struct TitleCase {
     const char* Directory;
-    Index Kind;
+    Game Kind;
     const char* Title;
 };
 
@@ -20,13 +20,14 @@ TEST_P(KnownDirectory, HasItsTitle) {
 
 INSTANTIATE_TEST_SUITE_P(
     EachRow, KnownDirectory,
-    ::testing::Values(TitleCase{"ACTION", 3, "Action Quake"}, TitleCase{"AS", 1, "Aftershock"},
-                      TitleCase{"ARENA", 1, "Rocket Arena"}, TitleCase{"HIPNOTIC", 1, "Scourge of Armagon"},
-                      TitleCase{"ROGUE", 1, "Dissolution of Eternity"}, TitleCase{"ROGUE", 3, "Ground Zero"},
-                      TitleCase{"rogue", 2, "rogue"}, TitleCase{"PORTALS", 2, "Portals of Praevus"},
-                      TitleCase{"CTF", 3, "Capture the Flag"}, TitleCase{"LMCTF", 3, "Loki's Minions CTF"},
-                      TitleCase{"SHRAK", 1, "Shrak"}, TitleCase{"FORTRESS", 1, "Team Fortress"},
-                      TitleCase{"ctf", 1, "Capture the Flag"}, TitleCase{"MyMod", 1, "MyMod"}));
+    ::testing::Values(
+        TitleCase{"ACTION", Game::Quake2, "Action Quake"}, TitleCase{"AS", Game::Quake, "Aftershock"},
+        TitleCase{"ARENA", Game::Quake, "Rocket Arena"}, TitleCase{"HIPNOTIC", Game::Quake, "Scourge of Armagon"},
+        TitleCase{"ROGUE", Game::Quake, "Dissolution of Eternity"}, TitleCase{"ROGUE", Game::Quake2, "Ground Zero"},
+        TitleCase{"rogue", Game::Hexen2, "rogue"}, TitleCase{"PORTALS", Game::Hexen2, "Portals of Praevus"},
+        TitleCase{"CTF", Game::Quake2, "Capture the Flag"}, TitleCase{"LMCTF", Game::Quake2, "Loki's Minions CTF"},
+        TitleCase{"SHRAK", Game::Quake, "Shrak"}, TitleCase{"FORTRESS", Game::Quake, "Team Fortress"},
+        TitleCase{"ctf", Game::Quake, "Capture the Flag"}, TitleCase{"MyMod", Game::Quake, "MyMod"}));
 
 TEST(DirectoryOfOption, IsTheNameBehindTheSwitch) {
     EXPECT_EQ(DirectoryOfOption("-game ctf"), "ctf");
@@ -73,7 +74,7 @@ TEST_F(ModificationsTest, GroundZeroIsNotShownInQuake) {
 }
 
 TEST_F(ModificationsTest, DissolutionOfEternityIsNotShownInQuakeTwo) {
-    run.GameKind = 3;
+    run.GameKind = Game::Quake2;
     system.Disk.AddDirectory("C:\\QUAKE\\ROGUE");
     Store("Games", "Ground Zero;-game rogue;Dissolution of Eternity;-game rogue");
     FillGamesCombo(run, lists);
@@ -203,7 +204,7 @@ TEST_F(ModificationsTest, ALongerNameInFrontHidesNoHit) {
 }
 
 TEST_F(ModificationsTest, HalfLifeSkipsItsOwnTwoDirectories) {
-    run.GameKind = 9;
+    run.GameKind = Game::HalfLife;
     AddGameDirectory("Auth");
     AddGameDirectory("ProfileData");
     AddGameDirectory("tfc");

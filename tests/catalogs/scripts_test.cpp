@@ -15,7 +15,7 @@ class ScriptsTest : public CatalogsTest {
         run.DefaultGameDirectory = "c:\\unreal\\system";
         run.BaseGameDir = "MAPS";
         run.CurrentGameDir = "MAPS";
-        run.GameKind = 4;
+        run.GameKind = Game::Unreal;
     }
 };
 

@@ -29,11 +29,11 @@ class ServersTest : public CatalogsTest {
 };
 
 TEST_F(ServersTest, PlainQuakeWantsTypeZero) {
-    run.GameKind = 1;
+    run.GameKind = Game::Quake;
     EXPECT_EQ(WantedServerType(run), 0);
     run.IsQuakeWorld = true;
     EXPECT_EQ(WantedServerType(run), 1);
-    run.GameKind = 9;
+    run.GameKind = Game::HalfLife;
     run.IsQuakeWorld = false;
     EXPECT_EQ(WantedServerType(run), 9);
 }
@@ -81,7 +81,7 @@ TEST_F(ServersTest, DeletingTheLastRowKeepsTheOtherGames) {
 }
 
 TEST_F(ServersTest, ThePositionComesFromTheKeyOfTheType) {
-    run.GameKind = 3;
+    run.GameKind = Game::Quake2;
     Store("NetServers", "A;1;2;3;;B;1;2;3;;C;1;2;3;");
     Store("3ServersPos", "1");
     Store("ServerPos", "2");
@@ -90,7 +90,7 @@ TEST_F(ServersTest, ThePositionComesFromTheKeyOfTheType) {
 }
 
 TEST_F(ServersTest, APositionBehindTheEndIsCutAndSaved) {
-    run.GameKind = 3;
+    run.GameKind = Game::Quake2;
     Store("NetServers", "A;1;2;3;;B;1;2;3;");
     Store("3ServersPos", "8");
     FillServerCombo(run, lists);
@@ -99,7 +99,7 @@ TEST_F(ServersTest, APositionBehindTheEndIsCutAndSaved) {
 }
 
 TEST_F(ServersTest, WithoutRowsNoPositionIsTouched) {
-    run.GameKind = 3;
+    run.GameKind = Game::Quake2;
     Store("3ServersPos", "8");
     EXPECT_TRUE(FillServerCombo(run, lists));
     EXPECT_EQ(lists.Server_Cbo.ListIndex, -1);
@@ -107,7 +107,7 @@ TEST_F(ServersTest, WithoutRowsNoPositionIsTouched) {
 }
 
 TEST_F(ServersTest, TheBoxTakesItsStoredState) {
-    run.GameKind = 3;
+    run.GameKind = Game::Quake2;
     lists.Server_Chk.Value = 1;
     FillServerCombo(run, lists);
     EXPECT_EQ(lists.Server_Chk.Value, 0);

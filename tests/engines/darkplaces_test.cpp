@@ -96,7 +96,7 @@ TEST(DarkPlaces, ExecutesTheScriptOfALaunch) {
 }
 
 TEST(DarkPlaces, ExecutesAScriptOfTheScriptEditor) {
-    ScriptDocument script = MakeScriptDocument({1, 1, false, false, '.'});
+    ScriptDocument script = MakeScriptDocument({Game::Quake, Dialect::Quake, false, false, '.'});
     script.Name_Txt.Text = "Zoe the 1st";
     script.PlayerColor_Lbl[0].Tag = 4;
     script.PlayerColor_Lbl[1].Tag = 13;
@@ -118,7 +118,7 @@ TEST(DarkPlaces, ExecutesAScriptOfTheScriptEditor) {
 
 // A server has no variables of a player; "set" makes them, and so they can be asked.
 TEST(DarkPlaces, HasTheValuesOfAScriptOfTheNewerFamily) {
-    ScriptDocument script = MakeScriptDocument({3, 3, false, false, ','});
+    ScriptDocument script = MakeScriptDocument({Game::Quake2, Dialect::Quake2, false, false, ','});
     const auto choose = [](ListBox& list, const char* text) {
         list.Items = {text};
         list.ListIndex = 0;

@@ -358,7 +358,8 @@ INSTANTIATE_TEST_SUITE_P(Kinds, FigFormOfKind, ::testing::ValuesIn(kGames),
                          [](const auto& kind) { return std::string(kind.param.Name); });
 
 TEST_P(FigFormOfKind, EveryPageFitsTheScreen) {
-    Use(GetParam(), GetParam().Dialect.GameKind == 4 ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
+    Use(GetParam(),
+        GetParam().Dialect.GameKind == Game::Unreal ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
     Edit([this] {
         form->MakeAllPages();
         Settle();

@@ -112,7 +112,7 @@ TEST_P(FigNames, EveryControlIsThereAndTellsWhatItIsFor) {
         form->MakeAllPages();
         std::map<std::string, wxWindow*> all;
         Collect(form, all);
-        for (const std::string& name : NamesOf(GetParam().Dialect.GameKind == 4)) {
+        for (const std::string& name : NamesOf(GetParam().Dialect.GameKind == Game::Unreal)) {
             const auto found = all.find(name);
             if (found == all.end()) {
                 ADD_FAILURE() << "no " << name;

@@ -100,7 +100,8 @@ INSTANTIATE_TEST_SUITE_P(Kinds, FoundryOnAnyScreen, ::testing::ValuesIn(kGames),
                          [](const auto& kind) { return std::string(kind.param.Name); });
 
 TEST_P(FoundryOnAnyScreen, EveryControlOfEveryPageIsInReachOfABar) {
-    Use(GetParam(), GetParam().Dialect.GameKind == 4 ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
+    Use(GetParam(),
+        GetParam().Dialect.GameKind == Game::Unreal ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
     Edit([this] {
         form->MakeAllPages();
         LookAtTabs("Options_Tab");
@@ -114,7 +115,8 @@ TEST_P(FoundryOnAnyScreen, EveryControlOfEveryPageIsInReachOfABar) {
 }
 
 TEST_P(FoundryOnAnyScreen, TheNamesEditorLeavesTheNameInSight) {
-    Use(GetParam(), GetParam().Dialect.GameKind == 4 ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
+    Use(GetParam(),
+        GetParam().Dialect.GameKind == Game::Unreal ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
     Edit([this] {
         Settle(300);
         DoAndAnswer([this] { PressNamesButton(); },
@@ -133,7 +135,7 @@ TEST_P(FoundryOnAnyScreen, TheNamesEditorLeavesTheNameInSight) {
 }
 
 TEST_P(FoundryOnAnyScreen, TheKeyboardBringsTheLastSettingOfAPageIntoSight) {
-    const bool unreal = GetParam().Dialect.GameKind == 4;
+    const bool unreal = GetParam().Dialect.GameKind == Game::Unreal;
     Use(GetParam(), unreal ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
     Edit([this, unreal] {
         form->MakeAllPages();

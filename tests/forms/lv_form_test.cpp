@@ -101,7 +101,7 @@ TEST_F(LvForm_, TheKeyboardPicksAnotherGame) {
     PressKey(WXK_TAB);
     EXPECT_TRUE(HasKeyboard(Find("Exe_Cbo")));
     PressKey(WXK_DOWN);
-    EXPECT_TRUE(SettleUntil([this] { return run.GameKind == 3; }));
+    EXPECT_TRUE(SettleUntil([this] { return run.GameKind == Game::Quake2; }));
 }
 
 TEST_F(LvForm_, UnrealShowsItsOwnOptions) {

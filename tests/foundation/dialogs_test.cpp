@@ -117,14 +117,14 @@ TEST_F(Dialogs, OtherBoxesHaveNone) {
 }
 
 TEST(GameKindNames, AreTheWrittenOnes) {
-    EXPECT_EQ(kGameKindNames[0], "Unknown");
-    EXPECT_EQ(kGameKindNames[1], "Quake");
-    EXPECT_EQ(kGameKindNames[2], "Hexen2");
-    EXPECT_EQ(kGameKindNames[3], "Quake2");
-    EXPECT_EQ(kGameKindNames[4], "Unreal");
-    EXPECT_EQ(kGameKindNames[5], "Sin");
-    EXPECT_EQ(kGameKindNames[6], "Heretic2");
-    EXPECT_EQ(kGameKindNames[9], "Half-Life");
+    EXPECT_EQ(GameKindName(Game::None), "Unknown");
+    EXPECT_EQ(GameKindName(Game::Quake), "Quake");
+    EXPECT_EQ(GameKindName(Game::Hexen2), "Hexen2");
+    EXPECT_EQ(GameKindName(Game::Quake2), "Quake2");
+    EXPECT_EQ(GameKindName(Game::Unreal), "Unreal");
+    EXPECT_EQ(GameKindName(Game::Sin), "Sin");
+    EXPECT_EQ(GameKindName(Game::Heretic2), "Heretic2");
+    EXPECT_EQ(GameKindName(Game::HalfLife), "Half-Life");
 }
 
 }  // namespace lv

@@ -12,7 +12,7 @@ class LinkQuestion : public ::testing::Test {
   protected:
     LinkQuestion() {
         run.DefaultGameDirectory = "c:\\quake";
-        run.GameKind = 1;
+        run.GameKind = Game::Quake;
         system.Disk.AddDirectory("C:\\QUAKE\\ID1");
     }
     void Expect(int answer) {
@@ -55,7 +55,7 @@ TEST_F(LinkQuestion, IsAskedElsewhere) {
 TEST_F(LinkQuestion, KnowsTheGamesTree) {
     EXPECT_EQ(GameTreeOf(run, "C:\\Quake\\ID1\\my.cfg"), "c:\\quake");
     EXPECT_EQ(GameTreeOf(run, "C:\\QUAKE2\\BASEQ2\\my.cfg"), "C:\\QUAKE2\\BASEQ2\\");
-    run.GameKind = 4;
+    run.GameKind = Game::Unreal;
     run.DefaultGameDirectory = "c:\\unreal\\System";
     EXPECT_EQ(GameTreeOf(run, "C:\\UNREAL\\SYSTEM\\unreal.ini"), "c:\\unreal");
     run.DefaultGameDirectory = "";

@@ -17,7 +17,7 @@ class RunTest : public ::testing::Test {
 
 TEST_F(RunTest, BeginsAsTheProgramItself) {
     EXPECT_EQ(run.AppName, "Lorvane 3D");
-    EXPECT_EQ(run.GameKind, 0);
+    EXPECT_EQ(run.GameKind, Game::None);
     EXPECT_TRUE(run.UsesAccelerator);
     EXPECT_EQ(run.VideoProfileSection, "Options");
 }

@@ -6,13 +6,15 @@
 
 #include <initializer_list>
 
-#include "foundation/text.h"
+#include "foundation/game.h"
 
 namespace lv {
 
-using Kinds = std::initializer_list<Index>;
+using Kinds = std::initializer_list<Game>;
+using KeyList = std::initializer_list<Index>;  // and labels
 using Slots = std::initializer_list<Index>;
 
-constexpr Index kKinds[] = {1, 2, 3, 4, 5, 6, 9};
+constexpr Game kKinds[] = {Game::Quake, Game::Hexen2,   Game::Quake2,  Game::Unreal,
+                           Game::Sin,   Game::Heretic2, Game::HalfLife};
 
 }  // namespace lv

@@ -6,6 +6,8 @@
 
 #include <array>
 
+#include "foundation/game.h"
+
 namespace lv::listing {
 
 struct KeyRow {
@@ -162,17 +164,17 @@ constexpr KeyRow kKeys[] = {
 /// The one key whose caption and console name change with the kind.
 struct KeyOfKind {
     int Index;
-    int Kind;
+    Game Kind;
     const char* Caption;
     const char* ConsoleName;
 };
 constexpr KeyOfKind kKeysByKind[] = {
-    {77, 1, "{+}", "+"},
-    {77, 2, "{+}", "+"},
-    {77, 3, "kp+", "kp_plus"},
-    {77, 5, "kp+", "kp_plus"},
-    {77, 6, "{+}", "kp_plus"},
-    {77, 9, "{+}", "kp_plus"},
+    {77, Game::Quake, "{+}", "+"},
+    {77, Game::Hexen2, "{+}", "+"},
+    {77, Game::Quake2, "kp+", "kp_plus"},
+    {77, Game::Sin, "kp+", "kp_plus"},
+    {77, Game::Heretic2, "{+}", "kp_plus"},
+    {77, Game::HalfLife, "{+}", "kp_plus"},
 };
 
 /// Names that look like keys and are none.

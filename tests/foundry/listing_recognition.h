@@ -6,10 +6,13 @@
 
 #include <array>
 
+#include "foundation/game.h"
+
 namespace lv::listing {
 
 /// The kinds in the order of the columns below.
-constexpr std::array<int, 7> kKinds = {1, 2, 3, 4, 5, 6, 9};
+constexpr std::array<Game, 7> kKinds = {Game::Quake, Game::Hexen2,   Game::Quake2,  Game::Unreal,
+                                        Game::Sin,   Game::Heretic2, Game::HalfLife};
 
 /// The spelling is known and belongs to no slot of the kind: the search ends there.
 constexpr int None = 0;

@@ -6,6 +6,7 @@
 
 #include <random>
 
+#include "foundation/game.h"
 #include "tests/foundry/script_fixture.h"
 
 namespace lv {
@@ -15,7 +16,7 @@ class MadeUpScripts {
     explicit MadeUpScripts(unsigned seed) : random_(seed) {}
 
     /// A script of this dialect, every value one that its game knows.
-    Text Next(const ScriptDialect& dialect) { return dialect.GameKind == 4 ? Ini() : Console(dialect); }
+    Text Next(const ScriptDialect& dialect) { return dialect.GameKind == Game::Unreal ? Ini() : Console(dialect); }
 
   private:
     std::size_t Below(std::size_t count) { return random_() % count; }
@@ -56,12 +57,12 @@ class MadeUpScripts {
             case 5:
                 return Join("impulse ", Number(0, 120));
             default:
-                return Text(dialect.ScriptFamily == 3 ? OneOf(kNewCommands) : OneOf(kOldCommands));
+                return Text(dialect.ScriptFamily == Dialect::Quake2 ? OneOf(kNewCommands) : OneOf(kOldCommands));
         }
     }
 
     Text ConsoleLine(const ScriptDialect& dialect) {
-        const bool fresh = dialect.ScriptFamily == 3;
+        const bool fresh = dialect.ScriptFamily == Dialect::Quake2;
         switch (Below(12)) {
             case 0:
             case 1:
@@ -92,7 +93,7 @@ class MadeUpScripts {
     /// A chosen hand, or none: said, as this program writes it, or without a word. Half-Life has no list of hands, so
     /// its first value is its only row.
     Text Hand(const ScriptDialect& dialect) {
-        if (dialect.GameKind == 9) {
+        if (dialect.GameKind == Game::HalfLife) {
             return Join("hand 0", LineEnd());
         }
         return Below(5) == 0 ? Text() : Join("hand ", Number(-1, 2), LineEnd());
@@ -101,11 +102,11 @@ class MadeUpScripts {
     Text Console(const ScriptDialect& dialect) {
         // What the game reads by its place in a list, within that list.
         Text script = Join("name ", Word(), LineEnd(), "crosshair ", Number(0, 1), LineEnd());
-        if (dialect.ScriptFamily == 3) {
+        if (dialect.ScriptFamily == Dialect::Quake2) {
             script += Join(Hand(dialect), "cd_nocd ", Number(0, 1), LineEnd(), "s_wavonly ", Number(0, 1), LineEnd(),
                            "rate ", Number(500, 9999), LineEnd());
         }
-        if (dialect.GameKind == 2) {
+        if (dialect.GameKind == Game::Hexen2) {
             script += Join("_cl_playerclass ", Number(0, 3), LineEnd());
         }
         for (std::size_t left = Below(60); left > 0; --left) {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+#include "foundation/game.h"
 #include "foundry/reading/script_reader.h"
 
 namespace lv {
@@ -28,8 +29,10 @@ class BytesFile : public RandomAccessFile {
     TextView bytes_;
 };
 
-inline ScriptDialect DialectOf(Index kind, bool quakeWorld = false) {
-    const Index family = kind == 4 ? Index{4} : Index(kind == 1 || kind == 2 ? 1 : 3);
+inline ScriptDialect DialectOf(Game kind, bool quakeWorld = false) {
+    const Dialect family = kind == Game::Unreal                          ? Dialect::Unreal
+                           : kind == Game::Quake || kind == Game::Hexen2 ? Dialect::Quake
+                                                                         : Dialect::Quake2;
     return {.GameKind = kind,
             .ScriptFamily = family,
             .IsQuakeWorld = quakeWorld,
@@ -51,7 +54,7 @@ inline ScriptDocument ReadScript(const ScriptDialect& dialect, TextView bytes) {
     return document;
 }
 
-inline ScriptDocument ReadScript(Index kind, TextView bytes) {
+inline ScriptDocument ReadScript(Game kind, TextView bytes) {
     return ReadScript(DialectOf(kind), bytes);
 }
 

@@ -13,14 +13,14 @@
 
 namespace lv {
 
-constexpr ScriptDialect kQuakeDialect = {1, 1, false, false, '.'};
-constexpr ScriptDialect kQuakeWorldDialect = {1, 1, true, false, '.'};
-constexpr ScriptDialect kHexen2Dialect = {2, 1, false, false, '.'};
-constexpr ScriptDialect kQuake2Dialect = {3, 3, false, false, '.'};
-constexpr ScriptDialect kUnrealDialect = {4, 4, false, false, '.'};
-constexpr ScriptDialect kSinDialect = {5, 3, false, false, '.'};
-constexpr ScriptDialect kHeretic2Dialect = {6, 3, false, false, '.'};
-constexpr ScriptDialect kHalfLifeDialect = {9, 3, false, false, '.'};
+constexpr ScriptDialect kQuakeDialect = {Game::Quake, Dialect::Quake, false, false, '.'};
+constexpr ScriptDialect kQuakeWorldDialect = {Game::Quake, Dialect::Quake, true, false, '.'};
+constexpr ScriptDialect kHexen2Dialect = {Game::Hexen2, Dialect::Quake, false, false, '.'};
+constexpr ScriptDialect kQuake2Dialect = {Game::Quake2, Dialect::Quake2, false, false, '.'};
+constexpr ScriptDialect kUnrealDialect = {Game::Unreal, Dialect::Unreal, false, false, '.'};
+constexpr ScriptDialect kSinDialect = {Game::Sin, Dialect::Quake2, false, false, '.'};
+constexpr ScriptDialect kHeretic2Dialect = {Game::Heretic2, Dialect::Quake2, false, false, '.'};
+constexpr ScriptDialect kHalfLifeDialect = {Game::HalfLife, Dialect::Quake2, false, false, '.'};
 
 constexpr LocalTime kScriptDay = {1999, 11, 21, 12, 30, 0};
 

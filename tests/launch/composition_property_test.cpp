@@ -217,7 +217,7 @@ TEST(EveryLaunch, EndsBothCommandsInABlank) {
 
 TEST(EveryLaunch, OfUnrealHasNeitherAScriptNorAnExec) {
     ForEachLaunch([](const LaunchInput& input, const Finished& done) {
-        if (input.Game.GameKind == 4) {
+        if (input.Game.GameKind == Game::Unreal) {
             EXPECT_EQ(done.Script, "");
             EXPECT_EQ(done.Texts.QuakeScript, "");
             EXPECT_EQ(done.Texts.Quake2Script, "");
@@ -235,7 +235,7 @@ TEST(EveryLaunch, RunsItsScriptExactlyWhenThereIsOne) {
 
 TEST(EveryLaunch, HasItsZoneOnceButForUnreal) {
     ForEachLaunch([](const LaunchInput& input, const Finished& done) {
-        EXPECT_EQ(CountOf(done.Texts.GameCommand, "-zone 512 "), input.Game.GameKind == 4 ? 0 : 1);
+        EXPECT_EQ(CountOf(done.Texts.GameCommand, "-zone 512 "), input.Game.GameKind == Game::Unreal ? 0 : 1);
         EXPECT_EQ(CountOf(done.Texts.UnrealCommand, "-zone 512 "), 0);
     });
 }
@@ -274,7 +274,7 @@ TEST(EveryLaunch, TellsAVoodoo2ItsClock) {
 TEST(EveryLaunch, HasABatchWithoutALineEndAtItsEnd) {
     ForEachLaunch([](const LaunchInput& input, const Finished& done) {
         // Half-Life's password brings line ends of its own into the command.
-        if (input.Game.GameKind != 9 || !Has(done.Texts.GameCommand, "+password ")) {
+        if (input.Game.GameKind != Game::HalfLife || !Has(done.Texts.GameCommand, "+password ")) {
             EXPECT_FALSE(done.Batch.ends_with('\n'));
         }
     });
@@ -305,7 +305,7 @@ TEST(EveryLaunch, SetsVariablesOnlyInTheQuake2Dialect) {
 
 TEST(EveryLaunch, LeavesHalfLifesScriptWithoutSets) {
     ForEachLaunch([](const LaunchInput& input, const Finished& done) {
-        if (input.Game.GameKind == 9) {
+        if (input.Game.GameKind == Game::HalfLife) {
             EXPECT_FALSE(Has(done.Script, "set "));
         }
     });

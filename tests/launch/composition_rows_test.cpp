@@ -210,7 +210,7 @@ const RowCase kRowCases[] = {
     {"Row35_NotForAnotherFamilyWithoutACard", Quake, [](In& in) {
          Use(in.Profile, "D_MipCap", "2");
          in.Game.CardClass = 0;
-         in.Game.ScriptFamily = 0;
+         in.Game.ScriptFamily = Dialect::None;
      }, kQuake, kQuakeOnly, "", ""},
     {"Row36", Quake, PickDemo, kQuake, kQuakeOnly, "playdemo demo1.dem\r\n", "playdemo demo1.dem\r\n"},
     {"Row36_NotWithoutADemo", Quake, Tick<Option::Demo_Chk>, kQuake, kQuakeOnly, "", ""},

@@ -162,10 +162,10 @@ TEST(BatchText, TakesUnrealsCommandUntrimmed) {
 }
 
 TEST(PifTemplateName, IsTheQuake2OneForQuake2AndSin) {
-    EXPECT_EQ(PifTemplateName(3), "lv_666_q2.hid");
-    EXPECT_EQ(PifTemplateName(5), "lv_666_q2.hid");
-    for (const Index kind : {Index(0), Index(1), Index(2), Index(4), Index(6), Index(9)}) {
-        EXPECT_EQ(PifTemplateName(kind), "lv_666.hid") << kind;
+    EXPECT_EQ(PifTemplateName(Game::Quake2), "lv_666_q2.hid");
+    EXPECT_EQ(PifTemplateName(Game::Sin), "lv_666_q2.hid");
+    for (const Game kind : {Game::None, Game::Quake, Game::Hexen2, Game::Unreal, Game::Heretic2, Game::HalfLife}) {
+        EXPECT_EQ(PifTemplateName(kind), "lv_666.hid") << NumberOf(kind);
     }
 }
 

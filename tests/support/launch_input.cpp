@@ -6,7 +6,7 @@ namespace lv {
 
 namespace {
 
-LaunchInput LaunchOf(Index kind, Index family, TextView directory, TextView dataDirectory, TextView executable) {
+LaunchInput LaunchOf(Game kind, Dialect family, TextView directory, TextView dataDirectory, TextView executable) {
     LaunchInput input;
     input.Selected.ExecutablePath = Join(directory, "\\", executable);
     input.Game.GameKind = kind;
@@ -19,25 +19,25 @@ LaunchInput LaunchOf(Index kind, Index family, TextView directory, TextView data
 }  // namespace
 
 LaunchInput QuakeLaunch(TextView executable) {
-    return LaunchOf(1, 1, "C:\\QUAKE", "ID1", executable);
+    return LaunchOf(Game::Quake, Dialect::Quake, "C:\\QUAKE", "ID1", executable);
 }
 LaunchInput Hexen2Launch(TextView executable) {
-    return LaunchOf(2, 1, "C:\\HEXEN2", "DATA1", executable);
+    return LaunchOf(Game::Hexen2, Dialect::Quake, "C:\\HEXEN2", "DATA1", executable);
 }
 LaunchInput Quake2Launch() {
-    return LaunchOf(3, 3, "C:\\QUAKE2", "BASEQ2", "quake2.exe");
+    return LaunchOf(Game::Quake2, Dialect::Quake2, "C:\\QUAKE2", "BASEQ2", "quake2.exe");
 }
 LaunchInput UnrealLaunch() {
-    return LaunchOf(4, 4, "C:\\Unreal\\System", "", "Unreal.exe");
+    return LaunchOf(Game::Unreal, Dialect::Unreal, "C:\\Unreal\\System", "", "Unreal.exe");
 }
 LaunchInput SinLaunch() {
-    return LaunchOf(5, 3, "C:\\SIN", "BASE", "sin.exe");
+    return LaunchOf(Game::Sin, Dialect::Quake2, "C:\\SIN", "BASE", "sin.exe");
 }
 LaunchInput Heretic2Launch() {
-    return LaunchOf(6, 3, "C:\\HERETIC2", "BASE", "heretic2.exe");
+    return LaunchOf(Game::Heretic2, Dialect::Quake2, "C:\\HERETIC2", "BASE", "heretic2.exe");
 }
 LaunchInput HalfLifeLaunch() {
-    return LaunchOf(9, 3, "C:\\SIERRA\\HALF-LIFE", "VALVE", "hl.exe");
+    return LaunchOf(Game::HalfLife, Dialect::Quake2, "C:\\SIERRA\\HALF-LIFE", "VALVE", "hl.exe");
 }
 
 void Use(ProfileSnapshot& profile, TextView stem, TextView content, Index setting, Index flag) {

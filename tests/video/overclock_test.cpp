@@ -19,7 +19,7 @@ constexpr const char* kFireButtons = "&I Know All,&I'm smart enough to admit I d
 
 class Overclock : public ProfileModel {
   protected:
-    Overclock() { run.GameKind = 1; }
+    Overclock() { run.GameKind = Game::Quake; }
 
     void ExpectDanger(int answer) { user.Expect({kDanger, "overclocking", answer, false, false, kDangerButtons}); }
     void ExpectFire(int answer) { user.Expect({kFire, "really really", answer, false, false, kFireButtons}); }
@@ -46,7 +46,7 @@ TEST_F(Overclock, TheFirstBoxOfAVoodooStandsToTheLetter) {
 }
 
 TEST_F(Overclock, TheFirstBoxOfAVoodoo2StandsToTheLetter) {
-    run.GameKind = 2;
+    run.GameKind = Game::Hexen2;
     user.Expect({kDanger,
                  "Setting this value over 90 is considered 'overclocking' the chipset.\r\n"
                  "To do this, you should be a GLHexen2 and 3DFX GOD. This is because\r\n"
@@ -155,7 +155,7 @@ TEST_F(Overclock, OtherTunablesMayBeAnything) {
 }
 
 TEST_F(Overclock, AGameOfNoKnownKindIsNamedUnknown) {
-    run.GameKind = 0;
+    run.GameKind = Game::None;
     user.Expect({kDanger, "you should be a GLUnknown and 3DFX GOD", 0});
     Pick("SST_GRXCLK", "53");
 }

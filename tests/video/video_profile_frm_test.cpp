@@ -365,27 +365,28 @@ TEST_F(VideoProfile, TheCardIsStoredForAllProfiles) {
 }
 
 TEST_F(VideoProfile, UnrealsPanelIsForUnrealOnly) {
-    constexpr Index kKinds[] = {0, 1, 2, 3, 4, 5, 6, 9};
-    for (const Index kind : kKinds) {
+    constexpr Game kKinds[] = {Game::None,   Game::Quake, Game::Hexen2,   Game::Quake2,
+                               Game::Unreal, Game::Sin,   Game::Heretic2, Game::HalfLife};
+    for (const Game kind : kKinds) {
         run.GameKind = kind;
         ShowGameControls(form);
-        EXPECT_EQ(form.PanelOf(ProfilePanel::UnrealVideo).Visible, kind == 4) << kind;
+        EXPECT_EQ(form.PanelOf(ProfilePanel::UnrealVideo).Visible, kind == Game::Unreal) << NumberOf(kind);
     }
 }
 
 TEST_F(VideoProfile, TheQuake2FamilyHasItsOwnResolutionsAndADriverButNoColourDepth) {
-    constexpr Index kFamilies[] = {0, 1, 3, 4};
-    for (const Index family : kFamilies) {
+    constexpr Dialect kFamilies[] = {Dialect::None, Dialect::Quake, Dialect::Quake2, Dialect::Unreal};
+    for (const Dialect family : kFamilies) {
         run.ScriptFamily = family;
         ShowGameControls(form);
-        const bool quake2 = family == 3;
-        EXPECT_EQ(form.Q2_Rez_Cbo.Visible, quake2) << family;
-        EXPECT_EQ(form.GraphicsDriver_Chk.Visible, quake2) << family;
-        EXPECT_EQ(form.GraphicsDriver_Cbo.Visible, quake2) << family;
-        EXPECT_EQ(form.Rez_Cbo.Visible, !quake2) << family;
-        EXPECT_EQ(form.Bits_Cbo.Visible, !quake2) << family;
-        EXPECT_EQ(form.GL_Chk[1].Visible, !quake2) << family;
-        EXPECT_TRUE(form.GL_Chk[0].Visible) << family;
+        const bool quake2 = family == Dialect::Quake2;
+        EXPECT_EQ(form.Q2_Rez_Cbo.Visible, quake2) << static_cast<Index>(family);
+        EXPECT_EQ(form.GraphicsDriver_Chk.Visible, quake2) << static_cast<Index>(family);
+        EXPECT_EQ(form.GraphicsDriver_Cbo.Visible, quake2) << static_cast<Index>(family);
+        EXPECT_EQ(form.Rez_Cbo.Visible, !quake2) << static_cast<Index>(family);
+        EXPECT_EQ(form.Bits_Cbo.Visible, !quake2) << static_cast<Index>(family);
+        EXPECT_EQ(form.GL_Chk[1].Visible, !quake2) << static_cast<Index>(family);
+        EXPECT_TRUE(form.GL_Chk[0].Visible) << static_cast<Index>(family);
     }
 }
 

@@ -14,7 +14,7 @@ class AddDemo : public EditorsTest {
         lists.Demo_Cbo.ListIndex = 0;
     }
     void BeInQuake2() {
-        run.GameKind = 3;
+        run.GameKind = Game::Quake2;
         run.DefaultGameDirectory = "c:\\quake2";
         run.CurrentGameDir = "BASEQ2";
     }
@@ -102,7 +102,7 @@ TEST_F(AddDemo, BrowsingElsewhereTakesTheNameAlone) {
 }
 
 TEST_F(AddDemo, AGameWithoutDemosBrowsesAllFiles) {
-    run.GameKind = 4;
+    run.GameKind = Game::Unreal;
     AddDemo_Frm form(run, lists, EntryMode::Add);
     user.FileAnswers.push_back(std::optional<Text>());
     AddDemo_Browse_Cmd_Click(form);

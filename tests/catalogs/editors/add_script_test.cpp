@@ -19,7 +19,7 @@ class AddScript : public EditorsTest {
         form.ScriptPath_Txt.Text = path;
     }
     void BeInUnreal() {
-        run.GameKind = 4;
+        run.GameKind = Game::Unreal;
         run.DefaultGameDirectory = "c:\\unreal\\system";
         run.CurrentGameDir = "MAPS";
         system.Disk.AddDirectory("C:\\UNREAL\\SYSTEM");

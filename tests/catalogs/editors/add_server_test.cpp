@@ -37,7 +37,7 @@ TEST_F(AddServer, HasItsCaptions) {
 TEST_F(AddServer, BeginsWithTheGamesType) {
     run.IsQuakeWorld = true;
     EXPECT_EQ(AddServer_Frm(run, lists, EntryMode::Add, false).ServerType, 1);
-    run.GameKind = 9;
+    run.GameKind = Game::HalfLife;
     EXPECT_EQ(AddServer_Frm(run, lists, EntryMode::Add, false).ServerType, 9);
 }
 

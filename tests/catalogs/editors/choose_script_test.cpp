@@ -29,13 +29,13 @@ TEST_F(ChooseScript, GivesTheNameBack) {
 }
 
 TEST_F(ChooseScript, BrowsesWithTheGamesFilter) {
-    const std::vector<std::pair<Index, const char*>> rows = {
-        {1, "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"},
-        {2, "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*"},
-        {3, "Quake2 Scripts (*.cfg, *.q2s)|*.cfg;*.q2s|All Files (*.*)|*.*"},
-        {4, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
-        {9, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
-        {0, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
+    const std::vector<std::pair<Game, const char*>> rows = {
+        {Game::Quake, "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"},
+        {Game::Hexen2, "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*"},
+        {Game::Quake2, "Quake2 Scripts (*.cfg, *.q2s)|*.cfg;*.q2s|All Files (*.*)|*.*"},
+        {Game::Unreal, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
+        {Game::HalfLife, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
+        {Game::None, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
     };
     for (const auto& [kind, filter] : rows) {
         run.GameKind = kind;

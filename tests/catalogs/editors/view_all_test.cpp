@@ -49,7 +49,7 @@ TEST_F(ViewAll, Memory) {
 
 TEST_F(ViewAll, ServersShowAddressAndPort) {
     lists.Server_Cbo.Items = {Item("Home", "10.0.0.1;26000;0;secret")};
-    run.GameKind = 1;
+    run.GameKind = Game::Quake;
     const char* text =
         "Server Title  /  Server Address\r\n-------------------------------\r\nHome\t  /  10.0.0.1:26000";
     ExpectView("View All Quake Servers", text);
@@ -57,16 +57,16 @@ TEST_F(ViewAll, ServersShowAddressAndPort) {
     run.IsQuakeWorld = true;
     ExpectView("View All QuakeWorld Servers", text);
     ViewAllServers(run, lists);
-    run.GameKind = 2;
+    run.GameKind = Game::Hexen2;
     ExpectView("View All Hexen2 Servers", text);
     ViewAllServers(run, lists);
-    run.GameKind = 3;
+    run.GameKind = Game::Quake2;
     ExpectView("View All Quake2 Servers", text);
     ViewAllServers(run, lists);
 }
 
 TEST_F(ViewAll, ServersOfOtherGamesHaveNoTitle) {
-    for (const Index kind : {Index{4}, Index{5}, Index{6}, Index{9}}) {
+    for (const Game kind : {Game::Unreal, Game::Sin, Game::Heretic2, Game::HalfLife}) {
         run.GameKind = kind;
         ExpectView("Lorvane 3D", "Server Title  /  Server Address\r\n-------------------------------");
         ViewAllServers(run, lists);

@@ -52,7 +52,7 @@ struct Model {
 
 class Tables {
   public:
-    explicit Tables(Index kind) : document_(MakeScriptDocument({.GameKind = kind})) {
+    explicit Tables(Game kind) : document_(MakeScriptDocument({.GameKind = kind})) {
         for (const SlotBlock& block : {kExtras, kBoundAliases, kBoundScripts, kMessages}) {
             for (SlotNumber slot = block.First; slot <= block.Last; ++slot) {
                 document_.SlotCommand[slot] = "free " + std::to_string(slot);
@@ -111,8 +111,10 @@ class Tables {
 
     /// Whether another key paints this one's label too.
     [[nodiscard]] bool IsTwinOfAnother(KeyIndex key) const {
-        const Index kind = document_.Dialect.GameKind;
-        return kind == 4 ? key == 93 : (kind < 3 || kind > 6) && key >= 82 && key <= 95;
+        const Game kind = document_.Dialect.GameKind;
+        return kind == Game::Unreal
+                   ? key == 93
+                   : (kind == Game::Quake || kind == Game::Hexen2 || kind == Game::HalfLife) && key >= 82 && key <= 95;
     }
 
     ScriptDocument document_;
@@ -121,10 +123,10 @@ class Tables {
     std::vector<SlotNumber> slots_;
 };
 
-class BindingProperties : public testing::TestWithParam<Index> {};
+class BindingProperties : public testing::TestWithParam<Game> {};
 
 TEST_P(BindingProperties, KeyTableAndKeyListsAgreeAfterThousandsOfOperations) {
-    const Index kind = GetParam();
+    const Game kind = GetParam();
     std::mt19937 random(static_cast<unsigned>(kind));
     Tables tables(kind);
     constexpr int kRounds = 60;
@@ -140,7 +142,7 @@ TEST_P(BindingProperties, KeyTableAndKeyListsAgreeAfterThousandsOfOperations) {
 INSTANTIATE_TEST_SUITE_P(OfEveryKind, BindingProperties, testing::ValuesIn(kKinds));
 
 TEST(BindingProperties, EveryKeyOfAFullRowComesFreeByOneClearing) {
-    ScriptDocument document = MakeScriptDocument({.GameKind = 3});
+    ScriptDocument document = MakeScriptDocument({.GameKind = Game::Quake2});
     WatchingView view;
     for (KeyIndex key = 0; key < kKeyCount; ++key) {
         BindKey(document, view, key, 111);

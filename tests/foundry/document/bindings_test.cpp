@@ -22,7 +22,7 @@ constexpr Color kGreen = 0x00c000;
 constexpr Color kOlive = 0x00c0c0;
 
 struct Bindings : testing::Test {
-    explicit Bindings(Index kind = 1) : document(MakeScriptDocument({.GameKind = kind})) {}
+    explicit Bindings(Game kind = Game::Quake) : document(MakeScriptDocument({.GameKind = kind})) {}
 
     void Bind(KeyIndex key, SlotNumber slot) { BindKey(document, view, key, slot); }
     void Unbind(KeyIndex key) { UnbindKey(document, view, key); }
@@ -34,13 +34,13 @@ struct Bindings : testing::Test {
 };
 
 struct SinBindings : Bindings {
-    SinBindings() : Bindings(5) {}
+    SinBindings() : Bindings(Game::Sin) {}
 };
 struct UnrealBindings : Bindings {
-    UnrealBindings() : Bindings(4) {}
+    UnrealBindings() : Bindings(Game::Unreal) {}
 };
 struct HalfLifeBindings : Bindings {
-    HalfLifeBindings() : Bindings(9) {}
+    HalfLifeBindings() : Bindings(Game::HalfLife) {}
 };
 
 TEST_F(Bindings, BindingGivesTheKeyTheCommandAndTheSlotTheKey) {
@@ -118,7 +118,7 @@ TEST_F(Bindings, WhatIsNoKeyBindsAndUnbindsNothing) {
     Bind(kA, 111);
     document.ScriptClean = true;
     view = {};
-    for (const KeyIndex key : Kinds{-1, -32768, 136, 149, 32767}) {
+    for (const KeyIndex key : KeyList{-1, -32768, 136, 149, 32767}) {
         Bind(key, 112);
         Unbind(key);
     }

@@ -8,9 +8,9 @@ namespace lv {
 namespace {
 
 TEST(MakeScriptDocument, BuildsTheTablesOfItsDialect) {
-    const ScriptDocument document =
-        MakeScriptDocument({.GameKind = 3, .ScriptFamily = 3, .IsQuakeWorld = false, .DecimalSeparator = ','});
-    EXPECT_EQ(document.Dialect.GameKind, 3);
+    const ScriptDocument document = MakeScriptDocument(
+        {.GameKind = Game::Quake2, .ScriptFamily = Dialect::Quake2, .IsQuakeWorld = false, .DecimalSeparator = ','});
+    EXPECT_EQ(document.Dialect.GameKind, Game::Quake2);
     EXPECT_EQ(document.KeyCaption[77], "kp+");
     EXPECT_EQ(document.SlotCommand[201], "use Blaster");
     EXPECT_EQ(document.Bound_Lbl[201].Caption, " Blaster");
@@ -19,7 +19,7 @@ TEST(MakeScriptDocument, BuildsTheTablesOfItsDialect) {
 }
 
 TEST(MakeScriptDocument, HoldsNothingOfAScript) {
-    const ScriptDocument document = MakeScriptDocument({.GameKind = 1, .ScriptFamily = 1});
+    const ScriptDocument document = MakeScriptDocument({.GameKind = Game::Quake, .ScriptFamily = Dialect::Quake});
     EXPECT_TRUE(std::ranges::all_of(document.KeyBinding, [](const Text& binding) { return binding.empty(); }));
     EXPECT_TRUE(document.AliasTable.empty());
     EXPECT_TRUE(document.Sections.empty());
@@ -30,7 +30,7 @@ TEST(MakeScriptDocument, HoldsNothingOfAScript) {
 }
 
 TEST(MakeScriptDocument, CopiesAsAValue) {
-    ScriptDocument document = MakeScriptDocument({.GameKind = 1});
+    ScriptDocument document = MakeScriptDocument({.GameKind = Game::Quake});
     document.AliasTable.Insert({.Bound = false, .Name = "a", .Body = "wait"});
     const ScriptDocument copy = document;
     document.AliasTable.Erase(0);

@@ -134,8 +134,8 @@ TEST(AddableCommands, OfUnrealAreItsOwnWithoutADescription) {
 }
 
 TEST(AddableCommands, OfAnUnknownKindAreQuakes) {
-    EXPECT_EQ(Commands({.GameKind = 7}), Commands(kQuakeDialect));
-    EXPECT_EQ(Commands({.GameKind = -1}), Commands(kQuakeDialect));
+    EXPECT_EQ(Commands({.GameKind = Game{7}}), Commands(kQuakeDialect));
+    EXPECT_EQ(Commands({.GameKind = Game{-1}}), Commands(kQuakeDialect));
 }
 
 TEST(AddableCommands, AreDescribed) {

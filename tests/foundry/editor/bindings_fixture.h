@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "foundation/game.h"
 #include "foundry/document/bindings.h"
 #include "foundry/editor/bindings_page.h"
 #include "foundry/editor/key_picture.h"
@@ -20,7 +21,7 @@ constexpr Color kMoveColor = 0x00c000;
 
 class KeyBindingTest : public FigTest {
   protected:
-    void NewScript(Index kind) {
+    void NewScript(Game kind) {
         LayOutKeys(form);
         form.Document = MakeScriptDocument({.GameKind = kind});
         form.Main_Tab.Tab = static_cast<int>(EditorPage::Bindings);

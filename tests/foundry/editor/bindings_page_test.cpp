@@ -14,7 +14,7 @@ using testing::HasSubstr;
 // The pages
 
 struct KeyPages : KeyBindingTest {
-    KeyPages() { NewScript(1); }
+    KeyPages() { NewScript(Game::Quake); }
 };
 
 TEST_F(KeyPages, OfKeysBringBothPanelsIntoSight) {
@@ -93,7 +93,7 @@ TEST_F(KeyPages, SayWhatToDo) {
 // The double clicks
 
 struct DoubleClicks : KeyBindingTest {
-    DoubleClicks() { NewScript(1); }
+    DoubleClicks() { NewScript(Game::Quake); }
 };
 
 TEST_F(DoubleClicks, OnAKeyFreeItIfTheUserSaysYes) {
@@ -138,32 +138,32 @@ TEST_F(DoubleClicks, OnAnUnbindableKeyAskNothing) {
 }
 
 TEST_F(DoubleClicks, OnTheKeypadFreeTheMainKeyInTheOlderEngines) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         NewScript(kind);
         BindKey(form.Document, form, kFive, 111);
         ExpectClear(0);
         Key_Lbl_DblClick(form, kKeypadFive);
-        const bool older = kind == 1 || kind == 2 || kind == 9;
-        EXPECT_EQ(Command(kFive).empty(), older) << kind;
-        EXPECT_EQ(KeyColor(kKeypadFive), kWhite) << kind;
+        const bool older = kind == Game::Quake || kind == Game::Hexen2 || kind == Game::HalfLife;
+        EXPECT_EQ(Command(kFive).empty(), older) << NumberOf(kind);
+        EXPECT_EQ(KeyColor(kKeypadFive), kWhite) << NumberOf(kind);
     }
 }
 
 TEST_F(DoubleClicks, OnARightModifierFreeTheLeftOne) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         NewScript(kind);
-        for (const Index label : Kinds{149, 150, 151}) {
+        for (const Index label : KeyList{149, 150, 151}) {
             const auto key = static_cast<KeyIndex>(label - 100);
             BindKey(form.Document, form, key, 111);
             ExpectClear(0);
             Key_Lbl_DblClick(form, label);
-            EXPECT_EQ(Command(key), "") << kind << " " << label;
+            EXPECT_EQ(Command(key), "") << NumberOf(kind) << " " << label;
         }
     }
 }
 
 TEST_F(DoubleClicks, OnUnrealsKeypadEnterFreeTheMainOneAndLeaveItsOwnBinding) {
-    NewScript(4);
+    NewScript(Game::Unreal);
     BindKey(form.Document, form, 75, 111);
     BindKey(form.Document, form, 93, 112);
     ExpectClear(0);
@@ -213,7 +213,7 @@ TEST_F(DoubleClicks, OnARowEmptyWhatIsNoKeysCaption) {
 // The names of the rows
 
 struct RowNameClicks : KeyBindingTest {
-    RowNameClicks() { NewScript(1); }
+    RowNameClicks() { NewScript(Game::Quake); }
 };
 
 TEST_F(RowNameClicks, OnFixedRowsAreIgnored) {

@@ -171,7 +171,7 @@ class Editing {
     /// But for the two that an ini spells as no key's name, or as another's.
     KeyIndex SomeKey() {
         const auto key = static_cast<KeyIndex>(Below(kKeyCount));
-        const bool misread = document_.Dialect.GameKind == 4 && (key == 62 || key == 93);
+        const bool misread = document_.Dialect.GameKind == Game::Unreal && (key == 62 || key == 93);
         return misread ? KeyIndex{1} : key;
     }
 
@@ -186,12 +186,12 @@ class Editing {
     /// Rows of the other games have commands too, which this one's reader drops.
     bool HasPage(SlotNumber slot) {
         switch (document_.Dialect.GameKind) {
-            case 1:
+            case Game::Quake:
                 return slot < 900 || slot / 100 == 10;
-            case 2:
-            case 6:
+            case Game::Hexen2:
+            case Game::Heretic2:
                 return slot < 1000;
-            case 9:
+            case Game::HalfLife:
                 return slot < 1000 || slot > 1100;
             default:
                 return slot < 900 || slot > 1100;
@@ -230,7 +230,7 @@ class Editing {
     void AddSomeAlias() {
         const Text name = Word();
         const Text body = Word();
-        const bool added = document_.Dialect.GameKind == 4
+        const bool added = document_.Dialect.GameKind == Game::Unreal
                                ? AddAlias(document_, "", Join("(Command=\"", body, "\",Alias=", name, ")"))
                                : AddAlias(document_, name, body);
         if (added) {

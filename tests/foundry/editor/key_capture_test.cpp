@@ -16,9 +16,9 @@ constexpr const char* kUsual = "Drag a key onto a function, or press Enter on a 
 constexpr const char* kWIsPickedUp = "W is picked up. Press Enter on the row that it is to do, Escape lays it down.";
 
 struct KeyCapture : FigTest {
-    KeyCapture() { NewScript(1); }
+    KeyCapture() { NewScript(Game::Quake); }
 
-    void NewScript(Index kind) {
+    void NewScript(Game kind) {
         LayOutKeys(form);
         form.Document = MakeScriptDocument({.GameKind = kind});
         form.Main_Tab.Tab = static_cast<int>(EditorPage::Bindings);
@@ -51,7 +51,7 @@ TEST_F(KeyCapture, TakesOneKeyOnly) {
 }
 
 TEST_F(KeyCapture, TakesMouseButtonsAndTurnsOfTheWheel) {
-    for (const KeyIndex key : Kinds{79, 80, 81, 96, 97, 98, 66, 75}) {
+    for (const KeyIndex key : KeyList{79, 80, 81, 96, 97, 98, 66, 75}) {
         StartCapture(form, 101);
         CaptureKey(form, key);
         EXPECT_EQ(Command(key), "+forward") << key;
@@ -71,7 +71,7 @@ TEST_F(KeyCapture, GivesUpOnEscape) {
 
 TEST_F(KeyCapture, SaysThatAKeyCannotBeBoundAndGoesOnWaiting) {
     StartCapture(form, 101);
-    for (const Index label : Kinds{-1, 200, 201, 140}) {
+    for (const Index label : KeyList{-1, 200, 201, 140}) {
         CaptureKey(form, label);
         EXPECT_EQ(Hint(), "That key can't be bound. Press a key for Forward") << label;
         EXPECT_EQ(form.CaptureRow, 101) << label;
@@ -82,12 +82,12 @@ TEST_F(KeyCapture, SaysThatAKeyCannotBeBoundAndGoesOnWaiting) {
 }
 
 TEST_F(KeyCapture, TakesTheKeypadForTheMainKeysInTheOlderEngines) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         NewScript(kind);
         StartCapture(form, 111);
         CaptureKey(form, 88);
-        const bool older = kind == 1 || kind == 2 || kind == 9;
-        EXPECT_EQ(Keys(111), older ? "{5}" : "kp5") << kind;
+        const bool older = kind == Game::Quake || kind == Game::Hexen2 || kind == Game::HalfLife;
+        EXPECT_EQ(Keys(111), older ? "{5}" : "kp5") << NumberOf(kind);
     }
 }
 
@@ -207,7 +207,7 @@ TEST_F(PickedUp, AKeyStaysSoWhenARowRefusesIt) {
 TEST_F(PickedUp, AKeyOfTheKeypadIsTheMainOneInTheOlderEnginesAndItselfInUnreal) {
     PickUpKey(form, 93);
     EXPECT_EQ(form.PickedKey, 75);
-    NewScript(4);
+    NewScript(Game::Unreal);
     PickUpKey(form, 93);
     StartCapture(form, 111);
     EXPECT_EQ(Command(93), "Fire");
@@ -276,7 +276,7 @@ TEST_F(SpokenBindings, ATwinTellsWhatTheMainKeyDoes) {
 }
 
 TEST_F(SpokenBindings, AKeyTellsTheRowThatShowsItWhereTwoHaveItsCommand) {
-    NewScript(9);
+    NewScript(Game::HalfLife);
     BindKey(form.Document, form, kW, 112);
     EXPECT_EQ(SpokenKey(form, kW), "W, Jump");
     BindKey(form.Document, form, kA, 109);

@@ -12,7 +12,7 @@ namespace {
 struct KeyTips : KeyBindingTest {};
 
 TEST_F(KeyTips, AreTheCommandsOfTheKeys) {
-    NewScript(1);
+    NewScript(Game::Quake);
     BindKey(form.Document, form, kA, 111);
     Key_Lbl_MouseMove(form, kA);
     EXPECT_EQ(form.KeyLabelOf(kA).ToolTip, "+attack");
@@ -22,26 +22,26 @@ TEST_F(KeyTips, AreTheCommandsOfTheKeys) {
 }
 
 TEST_F(KeyTips, OfTheKeypadAreThoseOfTheMainKeyInTheOlderEngines) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         NewScript(kind);
         BindKey(form.Document, form, kFive, 111);
         Key_Lbl_MouseMove(form, kKeypadFive);
-        const bool older = kind == 1 || kind == 2 || kind == 9;
-        EXPECT_EQ(form.KeyLabelOf(kKeypadFive).ToolTip, older ? "+attack" : "") << kind;
+        const bool older = kind == Game::Quake || kind == Game::Hexen2 || kind == Game::HalfLife;
+        EXPECT_EQ(form.KeyLabelOf(kKeypadFive).ToolTip, older ? "+attack" : "") << NumberOf(kind);
     }
 }
 
 TEST_F(KeyTips, OfTheRightModifiersAreThoseOfTheLeftOnes) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         NewScript(kind);
         BindKey(form.Document, form, 50, 111);
         Key_Lbl_MouseMove(form, 150);
-        EXPECT_EQ(form.KeyLabelOf(150).ToolTip, kind == 4 ? "Fire" : "+attack") << kind;
+        EXPECT_EQ(form.KeyLabelOf(150).ToolTip, kind == Game::Unreal ? "Fire" : "+attack") << NumberOf(kind);
     }
 }
 
 TEST_F(KeyTips, OfTheFiveOthersSayThatTheyAreUnbindable) {
-    NewScript(1);
+    NewScript(Game::Quake);
     for (Index label = 200; label <= 204; ++label) {
         Key_Lbl_MouseMove(form, label);
         EXPECT_EQ(form.KeyLabelOf(label).ToolTip, "Unbindable") << label;
@@ -51,7 +51,7 @@ TEST_F(KeyTips, OfTheFiveOthersSayThatTheyAreUnbindable) {
 // The drag
 
 struct Dragging : KeyBindingTest {
-    Dragging() { NewScript(1); }
+    Dragging() { NewScript(Game::Quake); }
 };
 
 TEST_F(Dragging, BeginsAtThePressWithThePointerOfRefusal) {
@@ -189,33 +189,33 @@ TEST_F(Dragging, StartsAnewWithTheNextPress) {
 }
 
 TEST_F(Dragging, TakesTheKeypadsFiveForTheMainOneInTheOlderEnginesOnly) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         NewScript(kind);
         DragOnto(kKeypadFive, 111);
-        const bool older = kind == 1 || kind == 2 || kind == 9;
-        const Text attack = kind == 4 ? "Fire" : "+attack";
-        EXPECT_EQ(Command(kFive), older ? attack : "") << kind;
-        EXPECT_EQ(Command(kKeypadFive), older ? "" : attack) << kind;
-        EXPECT_EQ(Keys(111), older ? "{5}" : "kp5") << kind;
-        EXPECT_EQ(KeyColor(kFive), older ? kMoveColor : kWhite) << kind;
-        EXPECT_EQ(KeyColor(kKeypadFive), kMoveColor) << kind;
+        const bool older = kind == Game::Quake || kind == Game::Hexen2 || kind == Game::HalfLife;
+        const Text attack = kind == Game::Unreal ? "Fire" : "+attack";
+        EXPECT_EQ(Command(kFive), older ? attack : "") << NumberOf(kind);
+        EXPECT_EQ(Command(kKeypadFive), older ? "" : attack) << NumberOf(kind);
+        EXPECT_EQ(Keys(111), older ? "{5}" : "kp5") << NumberOf(kind);
+        EXPECT_EQ(KeyColor(kFive), older ? kMoveColor : kWhite) << NumberOf(kind);
+        EXPECT_EQ(KeyColor(kKeypadFive), kMoveColor) << NumberOf(kind);
     }
 }
 
 TEST_F(Dragging, TakesTheRightShiftForTheLeftOneWhichAloneIsColoredInTheNewerEngines) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         NewScript(kind);
         DragOnto(149, 111);
-        const bool older = kind == 1 || kind == 2 || kind == 9;
-        EXPECT_EQ(Command(49), kind == 4 ? "Fire" : "+attack") << kind;
-        EXPECT_EQ(Keys(111), "Shft") << kind;
-        EXPECT_EQ(KeyColor(49), kMoveColor) << kind;
-        EXPECT_EQ(KeyColor(149), older ? kMoveColor : kWhite) << kind;
+        const bool older = kind == Game::Quake || kind == Game::Hexen2 || kind == Game::HalfLife;
+        EXPECT_EQ(Command(49), kind == Game::Unreal ? "Fire" : "+attack") << NumberOf(kind);
+        EXPECT_EQ(Keys(111), "Shft") << NumberOf(kind);
+        EXPECT_EQ(KeyColor(49), kMoveColor) << NumberOf(kind);
+        EXPECT_EQ(KeyColor(149), older ? kMoveColor : kWhite) << NumberOf(kind);
     }
 }
 
 TEST_F(Dragging, BindsUnrealsKeypadEnterItself) {
-    NewScript(4);
+    NewScript(Game::Unreal);
     DragOnto(93, 111);
     EXPECT_EQ(Command(93), "Fire");
     EXPECT_EQ(Command(75), "");
@@ -225,7 +225,7 @@ TEST_F(Dragging, BindsUnrealsKeypadEnterItself) {
 }
 
 TEST_F(Dragging, OfUnrealsMainEnterColorsTheKeypadsToo) {
-    NewScript(4);
+    NewScript(Game::Unreal);
     DragOnto(75, 111);
     EXPECT_EQ(Command(93), "");
     EXPECT_EQ(KeyColor(75), kMoveColor);
@@ -239,7 +239,7 @@ TEST_F(Dragging, BindsJoystickKeysLikeAnyOther) {
 }
 
 TEST_F(Dragging, RefusesTheRowsOfHalfLifeThatHaveNoWeapon) {
-    NewScript(9);
+    NewScript(Game::HalfLife);
     for (SlotNumber slot = 206; slot <= 210; ++slot) {
         form.Document.Bound_Lbl[slot].Visible = form.Document.Setting_Lbl[slot].Visible = true;
         form.Document.Setting_Lbl[slot].Enabled = false;

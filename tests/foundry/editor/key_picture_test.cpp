@@ -127,20 +127,20 @@ TEST_F(KeyPicture, HasNormalKeysOf345TwipsAtAPitchOf360) {
 }
 
 TEST_F(KeyPicture, HasWiderKeysWhereTheKeyboardHas) {
-    for (const Index label : Kinds{57, 201, 75, 49, 149, 50, 150, 51, 151, 64, 60, 0, 94}) {
+    for (const Index label : KeyList{57, 201, 75, 49, 149, 50, 150, 51, 151, 64, 60, 0, 94}) {
         EXPECT_GE(form.KeyLabelOf(label).Width, 525) << label;
     }
 }
 
 TEST_F(KeyPicture, GivesLongCaptionsTheRoomTheyNeed) {
-    for (const Index label : Kinds{0, 96, 97}) {
+    for (const Index label : KeyList{0, 96, 97}) {
         EXPECT_GE(form.KeyLabelOf(label).Width, 900) << label;
     }
 }
 
 TEST_F(KeyPicture, HasTheMouseKeysRightOfTheKeypad) {
     const KeyLabel& keypadEnter = form.KeyLabelOf(93);
-    for (const Index label : Kinds{79, 80, 81, 96, 97}) {
+    for (const Index label : KeyList{79, 80, 81, 96, 97}) {
         EXPECT_GT(form.KeyLabelOf(label).Left, keypadEnter.Left + keypadEnter.Width) << label;
     }
 }
@@ -169,52 +169,53 @@ TEST_F(KeyPicture, HasNoLabelOverAnother) {
 }
 
 TEST(KeyOfLabel, IsTheMainKeyOnTheKeypadOfTheOlderEngines) {
-    for (const Index kind : Kinds{1, 2, 9}) {
+    for (const Game kind : Kinds{Game::Quake, Game::Hexen2, Game::HalfLife}) {
         for (Index label = 0; label < 136; ++label) {
             const auto twin = kTwins.find(label);
-            EXPECT_EQ(KeyOfLabel(label, kind), twin == kTwins.end() ? label : twin->second) << kind << " " << label;
+            EXPECT_EQ(KeyOfLabel(label, kind), twin == kTwins.end() ? label : twin->second)
+                << NumberOf(kind) << " " << label;
         }
     }
 }
 
 TEST(KeyOfLabel, IsTheLabelsOwnKeyWhereTheKeypadIsItsOwn) {
-    for (const Index kind : Kinds{3, 4, 5, 6}) {
+    for (const Game kind : Kinds{Game::Quake2, Game::Unreal, Game::Sin, Game::Heretic2}) {
         for (Index label = 0; label < 136; ++label) {
-            EXPECT_EQ(KeyOfLabel(label, kind), label) << kind;
+            EXPECT_EQ(KeyOfLabel(label, kind), label) << NumberOf(kind);
         }
     }
 }
 
 TEST(KeyOfLabel, IsTheLeftModifierForTheRightOneInAllKinds) {
-    for (const Index kind : kKinds) {
-        EXPECT_EQ(KeyOfLabel(149, kind), 49) << kind;
-        EXPECT_EQ(KeyOfLabel(150, kind), 50) << kind;
-        EXPECT_EQ(KeyOfLabel(151, kind), 51) << kind;
-        EXPECT_EQ(KeyToClear(149, kind), 49) << kind;
-        EXPECT_EQ(KeyToClear(150, kind), 50) << kind;
-        EXPECT_EQ(KeyToClear(151, kind), 51) << kind;
+    for (const Game kind : kKinds) {
+        EXPECT_EQ(KeyOfLabel(149, kind), 49) << NumberOf(kind);
+        EXPECT_EQ(KeyOfLabel(150, kind), 50) << NumberOf(kind);
+        EXPECT_EQ(KeyOfLabel(151, kind), 51) << NumberOf(kind);
+        EXPECT_EQ(KeyToClear(149, kind), 49) << NumberOf(kind);
+        EXPECT_EQ(KeyToClear(150, kind), 50) << NumberOf(kind);
+        EXPECT_EQ(KeyToClear(151, kind), 51) << NumberOf(kind);
     }
 }
 
 TEST(KeyOfLabel, IsNoneForWhatCannotBeBoundOrIsNoLabel) {
-    for (const Index kind : kKinds) {
-        for (const Index label : Kinds{-1, -32768, 136, 148, 152, 199, 200, 201, 202, 203, 204, 205, 32767}) {
-            EXPECT_EQ(KeyOfLabel(label, kind), kNoKey) << kind << " " << label;
-            EXPECT_EQ(KeyToClear(label, kind), kNoKey) << kind << " " << label;
+    for (const Game kind : kKinds) {
+        for (const Index label : KeyList{-1, -32768, 136, 148, 152, 199, 200, 201, 202, 203, 204, 205, 32767}) {
+            EXPECT_EQ(KeyOfLabel(label, kind), kNoKey) << NumberOf(kind) << " " << label;
+            EXPECT_EQ(KeyToClear(label, kind), kNoKey) << NumberOf(kind) << " " << label;
         }
     }
 }
 
 TEST(KeyToClear, IsTheMainEnterForUnrealsKeypadEnterWhichADragBindsItself) {
-    EXPECT_EQ(KeyToClear(93, 4), 75);
-    EXPECT_EQ(KeyOfLabel(93, 4), 93);
+    EXPECT_EQ(KeyToClear(93, Game::Unreal), 75);
+    EXPECT_EQ(KeyOfLabel(93, Game::Unreal), 93);
 }
 
 TEST(KeyToClear, IsElsewhereTheKeyThatADragBinds) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         for (Index label = 0; label < 136; ++label) {
-            if (kind != 4 || label != 93) {
-                EXPECT_EQ(KeyToClear(label, kind), KeyOfLabel(label, kind)) << kind << " " << label;
+            if (kind != Game::Unreal || label != 93) {
+                EXPECT_EQ(KeyToClear(label, kind), KeyOfLabel(label, kind)) << NumberOf(kind) << " " << label;
             }
         }
     }
@@ -222,7 +223,7 @@ TEST(KeyToClear, IsElsewhereTheKeyThatADragBinds) {
 
 struct MirrorKeys : FigTest {
     /// The labels that have a colour once the key is bound.
-    std::vector<Index> ColoredWith(KeyIndex key, Index kind) {
+    std::vector<Index> ColoredWith(KeyIndex key, Game kind) {
         LayOutKeys(form);
         form.Document = MakeScriptDocument({.GameKind = kind});
         BindKey(form.Document, form, key, 111);
@@ -240,20 +241,20 @@ struct MirrorKeys : FigTest {
 };
 
 TEST_F(MirrorKeys, ColorTwoLabelsInTheOlderEngines) {
-    for (const Index kind : Kinds{1, 2, 9}) {
+    for (const Game kind : Kinds{Game::Quake, Game::Hexen2, Game::HalfLife}) {
         for (KeyIndex key = 0; key < kKeyCount; ++key) {
             const auto mirror = kMirrors.find(key);
             const std::vector<Index> expected =
                 mirror == kMirrors.end() ? std::vector<Index>{key} : std::vector<Index>{key, mirror->second};
-            EXPECT_EQ(ColoredWith(key, kind), expected) << kind;
+            EXPECT_EQ(ColoredWith(key, kind), expected) << NumberOf(kind);
         }
     }
 }
 
 TEST_F(MirrorKeys, AreNoneInQuake2SinAndHeretic2NotEvenTheRightShift) {
-    for (const Index kind : Kinds{3, 5, 6}) {
+    for (const Game kind : Kinds{Game::Quake2, Game::Sin, Game::Heretic2}) {
         for (const auto& [key, mirror] : kMirrors) {
-            EXPECT_EQ(ColoredWith(key, kind), std::vector<Index>{key}) << kind;
+            EXPECT_EQ(ColoredWith(key, kind), std::vector<Index>{key}) << NumberOf(kind);
         }
     }
 }
@@ -261,7 +262,7 @@ TEST_F(MirrorKeys, AreNoneInQuake2SinAndHeretic2NotEvenTheRightShift) {
 TEST_F(MirrorKeys, AreEnterAloneInUnreal) {
     for (const auto& [key, mirror] : kMirrors) {
         const std::vector<Index> expected = key == 75 ? std::vector<Index>{75, 93} : std::vector<Index>{key};
-        EXPECT_EQ(ColoredWith(key, 4), expected);
+        EXPECT_EQ(ColoredWith(key, Game::Unreal), expected);
     }
 }
 

@@ -53,7 +53,7 @@ class KindLayoutTest : public FigTest {
 // clang-format off
 
 struct ListedKind {
-    Index Kind;
+    Game Kind;
     const char* Page4;
     const char* Page5;
     const char* Page6;
@@ -65,30 +65,30 @@ struct ListedKind {
 };
 
 constexpr ListedKind kListed[] = {
-    {1, "off",           "off",             "&CTF", " CTF ",  "hidden",       "hidden",     "211 212 411 412 413", ""},
-    {2, "&Hexen ][",     "off",             "off",  "hidden", " Hexen ][",    "hidden",     "205 206 207 208 211 212 411 412 413", ""},
-    {3, "off",           "&Quake ][",       "off",  "hidden", "hidden",       " Quake ][",  "112 412 413", ""},
-    {4, "off",           "UnReal",          "off",  "hidden", "hidden",       " Unreal",    "114 116 211 212 301 302 304 308 409 1101 1105 1114 1115 1116 1123 1124", ""},
-    {5, "off",           "SIN",             "off",  "hidden", "hidden",       " Sin",       "112 412 413 1105 1113 1114 1115 1116 1120 1121 1122 1123 1124", "1199"},
-    {6, "&Heretic ][",   "off",             "off",  "hidden", " Heretic ][",  "hidden",     "112 210 412 413 913 914 915 916", ""},
-    {9, "&Half-Life",    "&Camera Tricks",  "off",  "hidden", " Half-Life",   " Camera",    "112 209 210 211 212 409 411 412 413 909 1110 1111 1112 1113 1114 1115 1116", "1198 1199"},
+    {Game::Quake,    "off",         "off",            "&CTF", " CTF ",  "hidden",      "hidden",    "211 212 411 412 413",                                                        ""},
+    {Game::Hexen2,   "&Hexen ][",   "off",            "off",  "hidden", " Hexen ][",   "hidden",    "205 206 207 208 211 212 411 412 413",                                        ""},
+    {Game::Quake2,   "off",         "&Quake ][",      "off",  "hidden", "hidden",      " Quake ][", "112 412 413",                                                                ""},
+    {Game::Unreal,   "off",         "UnReal",         "off",  "hidden", "hidden",      " Unreal",   "114 116 211 212 301 302 304 308 409 1101 1105 1114 1115 1116 1123 1124",     ""},
+    {Game::Sin,      "off",         "SIN",            "off",  "hidden", "hidden",      " Sin",      "112 412 413 1105 1113 1114 1115 1116 1120 1121 1122 1123 1124",              "1199"},
+    {Game::Heretic2, "&Heretic ][", "off",            "off",  "hidden", " Heretic ][", "hidden",    "112 210 412 413 913 914 915 916",                                            ""},
+    {Game::HalfLife, "&Half-Life",  "&Camera Tricks", "off",  "hidden", " Half-Life",  " Camera",   "112 209 210 211 212 409 411 412 413 909 1110 1111 1112 1113 1114 1115 1116", "1198 1199"},
 };
 
 // What of the player's pages is visible.
 struct ListedControls {
-    Index Kind;
+    Game Kind;
     bool Colors, NoColors, Models, PlayerClass, Handed, VidMode, CdVolume, EnableCd, UnbindAll, Unreal;
 };
 
 constexpr ListedControls kListedControls[] = {
-    //  colors  no colors  models  class  handed  vid mode  CD volume  enable CD  unbind all  Unreal
-    {1, true,   true,      false,  false, false,  true,     true,      false,     true,       false},
-    {2, true,   true,      false,  true,  false,  true,     true,      false,     true,       false},
-    {3, false,  false,     true,   false, true,   false,    false,     true,      true,       false},
-    {4, false,  false,     false,  false, false,  true,     true,      false,     false,      true},
-    {5, false,  false,     true,   false, true,   false,    false,     true,      true,       false},
-    {6, false,  false,     true,   false, true,   true,     false,     true,      true,       false},
-    {9, false,  false,     true,   false, false,  true,     false,     true,      true,       false},
+    //                colors  no colors  models  class  handed  vid mode  CD volume  enable CD  unbind all  Unreal
+    {Game::Quake,     true,   true,      false,  false, false,  true,     true,      false,     true,       false},
+    {Game::Hexen2,    true,   true,      false,  true,  false,  true,     true,      false,     true,       false},
+    {Game::Quake2,    false,  false,     true,   false, true,   false,    false,     true,      true,       false},
+    {Game::Unreal,    false,  false,     false,  false, false,  true,     true,      false,     false,      true},
+    {Game::Sin,       false,  false,     true,   false, true,   false,    false,     true,      true,       false},
+    {Game::Heretic2,  false,  false,     true,   false, true,   true,     false,     true,      true,       false},
+    {Game::HalfLife,  false,  false,     true,   false, false,  true,     false,     true,      true,       false},
 };
 
 // clang-format on
@@ -109,13 +109,13 @@ TEST_F(KindLayoutTest, EachKindHasItsPagesLegendAndRows) {
 }
 
 TEST_F(KindLayoutTest, ThePagesOfAllKindsAreAlwaysOn) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         Load(DialectOf(kind));
         for (std::size_t page = 0; page < 4; ++page) {
-            EXPECT_NE(Page(page), "off") << kind;
+            EXPECT_NE(Page(page), "off") << NumberOf(kind);
         }
         for (const std::size_t label : {0, 1, 2, 3, 7, 8, 9, 10}) {
-            EXPECT_NE(Legend(label), "hidden") << kind;
+            EXPECT_NE(Legend(label), "hidden") << NumberOf(kind);
         }
     }
 }
@@ -204,12 +204,12 @@ TEST_F(KindLayoutTest, UnrealHidesTwentyAuxKeys) {
 }
 
 TEST_F(KindLayoutTest, OtherKindsHideNoAuxKey) {
-    for (const Index kind : Kinds{1, 2, 3, 5, 6, 9}) {
+    for (const Game kind : Kinds{Game::Quake, Game::Hexen2, Game::Quake2, Game::Sin, Game::Heretic2, Game::HalfLife}) {
         Fig_Frm fresh(run, launcher.Lists);
         fresh.Document.Dialect = DialectOf(kind);
         ApplyGameKind(fresh);
-        EXPECT_TRUE(fresh.KeyLabelOf(104).Visible) << kind;
-        EXPECT_TRUE(fresh.KeyLabelOf(123).Visible) << kind;
+        EXPECT_TRUE(fresh.KeyLabelOf(104).Visible) << NumberOf(kind);
+        EXPECT_TRUE(fresh.KeyLabelOf(123).Visible) << NumberOf(kind);
     }
 }
 
@@ -220,15 +220,16 @@ TEST_F(KindLayoutTest, TheNewerKindsShowDigitsOnTheKeypad) {
     };
     const Digit digits[] = {{84, "7"}, {85, "8"}, {86, "9"}, {87, "4"}, {89, "6"},
                             {90, "1"}, {91, "2"}, {92, "3"}, {94, "0"}};
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         Fig_Frm fresh(run, launcher.Lists);
         fresh.Document.Dialect = DialectOf(kind);
         const Text five = fresh.KeyLabelOf(88).Caption;
         const Text seven = fresh.KeyLabelOf(84).Caption;
         ApplyGameKind(fresh);
-        const bool isNew = kind == 3 || kind == 5 || kind == 6 || kind == 9;
+        const bool isNew =
+            kind == Game::Quake2 || kind == Game::Sin || kind == Game::Heretic2 || kind == Game::HalfLife;
         for (const Digit& digit : digits) {
-            EXPECT_EQ(fresh.KeyLabelOf(digit.Label).Caption == digit.Caption, isNew) << kind;
+            EXPECT_EQ(fresh.KeyLabelOf(digit.Label).Caption == digit.Caption, isNew) << NumberOf(kind);
         }
         EXPECT_EQ(fresh.KeyLabelOf(88).Caption, five);
         EXPECT_EQ(fresh.KeyLabelOf(84).Caption, isNew ? "7" : seven);
@@ -236,10 +237,11 @@ TEST_F(KindLayoutTest, TheNewerKindsShowDigitsOnTheKeypad) {
 }
 
 TEST_F(KindLayoutTest, OnlyQuakeOffersStandardAliases) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         Load(DialectOf(kind));
-        const auto expected = kind == 1 ? std::vector<Text>{" 1. Rocket Jump", " 2. Name Scroll"} : std::vector<Text>{};
-        EXPECT_EQ(form.StdAliases_Cbo.Items, expected) << kind;
+        const auto expected =
+            kind == Game::Quake ? std::vector<Text>{" 1. Rocket Jump", " 2. Name Scroll"} : std::vector<Text>{};
+        EXPECT_EQ(form.StdAliases_Cbo.Items, expected) << NumberOf(kind);
         EXPECT_EQ(form.StdAliases_Cbo.ListIndex, -1);
     }
 }
@@ -283,9 +285,9 @@ TEST_F(KindLayoutTest, AScriptsColorsAreShownInTheGamesOwnPalette) {
 }
 
 TEST_F(KindLayoutTest, IsNoEdit) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         Load(DialectOf(kind));
-        EXPECT_TRUE(form.Document.ScriptClean) << kind;
+        EXPECT_TRUE(form.Document.ScriptClean) << NumberOf(kind);
     }
 }
 

@@ -179,18 +179,20 @@ TEST_F(SettingsPagesTest, HintsAndListsShowACommaWhereTheLocaleHasOne) {
 }
 
 TEST_F(SettingsPagesTest, Quake2AndSinMixFurtherAhead) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         Load(DialectOf(kind));
-        EXPECT_EQ(Hint("snd_mixahead_Cbo"), kind == 3 || kind == 5 ? "(default 0.2)" : "(default 0.1)") << kind;
+        EXPECT_EQ(Hint("snd_mixahead_Cbo"),
+                  kind == Game::Quake2 || kind == Game::Sin ? "(default 0.2)" : "(default 0.1)")
+            << NumberOf(kind);
     }
 }
 
 TEST_F(SettingsPagesTest, Quake2AndSinHaveNoVideoModeAndNoHintForIt) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         Load(DialectOf(kind));
-        const bool none = kind == 3 || kind == 5;
-        EXPECT_EQ(form.Document.vidmode_Cbo.Visible, !none) << kind;
-        EXPECT_EQ(Hint("vidmode_Cbo"), none ? "" : "(default 320x200)") << kind;
+        const bool none = kind == Game::Quake2 || kind == Game::Sin;
+        EXPECT_EQ(form.Document.vidmode_Cbo.Visible, !none) << NumberOf(kind);
+        EXPECT_EQ(Hint("vidmode_Cbo"), none ? "" : "(default 320x200)") << NumberOf(kind);
         EXPECT_TRUE(form.Document.gamma_Cbo.Visible);
     }
 }

@@ -105,7 +105,7 @@ TEST_F(SetupFoundryTest, TheWindowIsPreparedForTheGameWhileTheSplashIsUp) {
         auto& form = dynamic_cast<Fig_Frm&>(window);
         EXPECT_TRUE(foundry.Splash.Visible);
         EXPECT_EQ(form.Document.CurrentScriptPath, "");
-        EXPECT_EQ(form.Document.Dialect.GameKind, 1);
+        EXPECT_EQ(form.Document.Dialect.GameKind, Game::Quake);
         EXPECT_EQ(form.Document.Setting_Lbl[101].Caption, "");
         prepared = &form;
     };

@@ -9,7 +9,7 @@ namespace {
 class GameFiles : public ::testing::Test {
   protected:
     /// All that is shown, joined by "|"; the one that is `wanted` is taken.
-    Text Shown(const std::vector<Text>& directories, Index gameKind, TextView name, TextView wanted = "") {
+    Text Shown(const std::vector<Text>& directories, Game gameKind, TextView name, TextView wanted = "") {
         Text shown;
         taken = TakeGameFile(system.Disk, directories, gameKind, name, [&](TextView content) {
             shown += shown.empty() ? "" : "|";
@@ -33,29 +33,29 @@ TEST_F(GameFiles, AreLooseOnesFirstAndThenTheNewestArchives) {
     AddPak("C:\\QUAKE\\ID1\\pak10.pak", "10");
     AddPak("C:\\QUAKE\\ID1\\pak1.pak", "1");
     system.Disk.AddFile("C:\\QUAKE\\ID1\\GFX\\A.LMP", "loose");
-    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, 1, "gfx/a.lmp"), "loose|10|2|1|0");
+    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, Game::Quake, "gfx/a.lmp"), "loose|10|2|1|0");
     EXPECT_FALSE(taken);
 }
 
 TEST_F(GameFiles, ComeFromTheDirectoriesInTheirOrder) {
     AddPak("C:\\QUAKE\\ID1\\pak0.pak", "base");
     AddPak("C:\\QUAKE\\CTF\\pak0.pak", "mod");
-    EXPECT_EQ(Shown({"C:\\QUAKE\\CTF", "C:\\QUAKE\\NONE", "C:\\QUAKE\\ID1"}, 1, "gfx/a.lmp"), "mod|base");
+    EXPECT_EQ(Shown({"C:\\QUAKE\\CTF", "C:\\QUAKE\\NONE", "C:\\QUAKE\\ID1"}, Game::Quake, "gfx/a.lmp"), "mod|base");
 }
 
 TEST_F(GameFiles, EndWithTheOneThatIsTaken) {
     AddPak("C:\\QUAKE\\ID1\\pak0.pak", "0");
     AddPak("C:\\QUAKE\\ID1\\pak1.pak", "1");
     AddPak("C:\\QUAKE\\ID1\\pak2.pak", "2");
-    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, 1, "gfx/a.lmp", "1"), "2|1");
+    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, Game::Quake, "gfx/a.lmp", "1"), "2|1");
     EXPECT_TRUE(taken);
 }
 
 TEST_F(GameFiles, OfSinLieInItsOwnArchives) {
     AddPak("C:\\SIN\\BASE\\pak0.sin", "sin", "SPAK");
     AddPak("C:\\SIN\\BASE\\pak0.pak", "pak");
-    EXPECT_EQ(Shown({"C:\\SIN\\BASE"}, 5, "gfx/a.lmp"), "sin");
-    EXPECT_EQ(Shown({"C:\\SIN\\BASE"}, 3, "gfx/a.lmp"), "pak");
+    EXPECT_EQ(Shown({"C:\\SIN\\BASE"}, Game::Sin, "gfx/a.lmp"), "sin");
+    EXPECT_EQ(Shown({"C:\\SIN\\BASE"}, Game::Quake2, "gfx/a.lmp"), "pak");
 }
 
 TEST_F(GameFiles, OfMoreThanAMegabyteAreNotRead) {
@@ -63,9 +63,9 @@ TEST_F(GameFiles, OfMoreThanAMegabyteAreNotRead) {
     system.Disk.AddFile("C:\\QUAKE\\ID1\\gfx\\a.lmp", Text(kMegabyte + 1, 'x'));
     AddPak("C:\\QUAKE\\ID1\\pak1.pak", Text(kMegabyte + 1, 'x'));
     AddPak("C:\\QUAKE\\ID1\\pak0.pak", "small");
-    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, 1, "gfx/a.lmp"), "small");
+    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, Game::Quake, "gfx/a.lmp"), "small");
     system.Disk.AddFile("C:\\QUAKE\\ID1\\gfx\\a.lmp", Text(kMegabyte, 'x'));
-    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, 1, "gfx/a.lmp"), Text(kMegabyte, 'x') + "|small");
+    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, Game::Quake, "gfx/a.lmp"), Text(kMegabyte, 'x') + "|small");
 }
 
 TEST_F(GameFiles, ComeFromNoMoreThanTheThirtyTwoNewestArchives) {
@@ -73,7 +73,7 @@ TEST_F(GameFiles, ComeFromNoMoreThanTheThirtyTwoNewestArchives) {
         const Text number = std::to_string(i);
         AddPak(Join("C:\\QUAKE\\ID1\\pak", number, ".pak"), number);
     }
-    const Text shown = Shown({"C:\\QUAKE\\ID1"}, 1, "gfx/a.lmp");
+    const Text shown = Shown({"C:\\QUAKE\\ID1"}, Game::Quake, "gfx/a.lmp");
     EXPECT_TRUE(shown.starts_with("32|31|30|"));
     EXPECT_TRUE(shown.ends_with("|3|2|1"));
     EXPECT_EQ(std::count(shown.begin(), shown.end(), '|'), 31);
@@ -82,21 +82,21 @@ TEST_F(GameFiles, ComeFromNoMoreThanTheThirtyTwoNewestArchives) {
 TEST_F(GameFiles, DoNotIncludeDirectoriesThatAreNamedLikeThem) {
     system.Disk.AddDirectory("C:\\QUAKE\\ID1\\gfx\\a.lmp");
     system.Disk.AddDirectory("C:\\QUAKE\\ID1\\pak0.pak");
-    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1", ""}, 1, "gfx/a.lmp"), "");
+    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1", ""}, Game::Quake, "gfx/a.lmp"), "");
 }
 
 TEST_F(GameFiles, AreSoughtPastDamagedArchives) {
     system.Disk.AddFile("C:\\QUAKE\\ID1\\pak2.pak", "");
     system.Disk.AddFile("C:\\QUAKE\\ID1\\pak1.pak", "PACK\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF");
     AddPak("C:\\QUAKE\\ID1\\pak0.pak", "0");
-    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, 1, "gfx/a.lmp"), "0");
+    EXPECT_EQ(Shown({"C:\\QUAKE\\ID1"}, Game::Quake, "gfx/a.lmp"), "0");
 }
 
 TEST_F(GameFiles, InArchivesAreOrderedByTheNumbersInTheNames) {
     for (const char* name : {"Htic2-0.pak", "htic2-1.pak", "pak009.pak", "pak10.pak", "zoo.pak", "pak.pak"}) {
         system.Disk.AddFile(Join("C:\\H2\\", name), "");
     }
-    EXPECT_EQ(NewestArchives(system.Disk, "C:\\H2", 6),
+    EXPECT_EQ(NewestArchives(system.Disk, "C:\\H2", Game::Heretic2),
               (std::vector<Text>{"zoo.pak", "pak10.pak", "pak009.pak", "pak.pak", "htic2-1.pak", "Htic2-0.pak"}));
 }
 

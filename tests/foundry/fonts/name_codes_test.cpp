@@ -8,7 +8,7 @@
 namespace lv {
 namespace {
 
-std::set<int> Refused(Index gameKind) {
+std::set<int> Refused(Game gameKind) {
     std::set<int> refused;
     for (int code = 0; code < 256; ++code) {
         if (!NameTakes(gameKind, code)) {
@@ -19,13 +19,14 @@ std::set<int> Refused(Index gameKind) {
 }
 
 TEST(NameTakes, AllButZeroAndLineEnds) {
-    for (const Index gameKind : std::vector<Index>{1, 2, 5, 6, 9}) {
-        EXPECT_EQ(Refused(gameKind), (std::set<int>{0, 10, 13})) << gameKind;
+    for (const Game gameKind :
+         std::vector<Game>{Game::Quake, Game::Hexen2, Game::Sin, Game::Heretic2, Game::HalfLife}) {
+        EXPECT_EQ(Refused(gameKind), (std::set<int>{0, 10, 13})) << NumberOf(gameKind);
     }
 }
 
 TEST(NameTakes, NoBackslashInQuake2) {
-    EXPECT_EQ(Refused(3), (std::set<int>{0, 10, 13, 92}));
+    EXPECT_EQ(Refused(Game::Quake2), (std::set<int>{0, 10, 13, 92}));
 }
 
 TEST(NameTakes, WhatUnrealsFontHas) {
@@ -34,7 +35,7 @@ TEST(NameTakes, WhatUnrealsFontHas) {
                                  170, 171, 172, 174, 175, 176, 177, 178, 179, 180, 184, 185, 186, 187, 188, 189, 191,
                                  192, 193, 194, 195, 196, 197, 200, 201, 202, 203, 204, 205, 208, 209, 217, 218, 219,
                                  220, 221, 223, 240, 241, 243, 244, 246, 251, 252, 253, 254, 255};
-    EXPECT_EQ(Refused(4), holes);
+    EXPECT_EQ(Refused(Game::Unreal), holes);
 }
 
 }  // namespace

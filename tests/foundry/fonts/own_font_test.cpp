@@ -41,7 +41,7 @@ bool IsGolden(const FontMap& map, int code) {
 }
 
 TEST(OwnFont, HasAShapeOfItsOwnForEachPlainLetter) {
-    const FontMap map = OwnFont(1);
+    const FontMap map = OwnFont(Game::Quake);
     std::map<Text, int> shapes;
     for (int code = 33; code <= 126; ++code) {
         EXPECT_FALSE(IsEmpty(map, code)) << code;
@@ -51,14 +51,14 @@ TEST(OwnFont, HasAShapeOfItsOwnForEachPlainLetter) {
 }
 
 TEST(OwnFont, LeavesBlanksEmpty) {
-    const FontMap map = OwnFont(1);
+    const FontMap map = OwnFont(Game::Quake);
     EXPECT_TRUE(IsEmpty(map, 32));
     EXPECT_TRUE(IsEmpty(map, 160));
     EXPECT_TRUE(IsEmpty(map, 0));
 }
 
 TEST(OwnFont, DrawsQuakesSpecialCells) {
-    const FontMap map = OwnFont(1);
+    const FontMap map = OwnFont(Game::Quake);
     for (const int code : {5, 11, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31}) {
         EXPECT_FALSE(IsEmpty(map, code)) << code;
     }
@@ -70,7 +70,7 @@ TEST(OwnFont, DrawsQuakesSpecialCells) {
 }
 
 TEST(OwnFont, HasGoldenTwinsInTheUpperHalf) {
-    for (const Index gameKind : std::vector<Index>{1, 2, 3, 5, 9}) {
+    for (const Game gameKind : std::vector<Game>{Game::Quake, Game::Hexen2, Game::Quake2, Game::Sin, Game::HalfLife}) {
         const FontMap map = OwnFont(gameKind);
         for (int code = 161; code <= 254; ++code) {
             ASSERT_EQ(Shape(map, code), Shape(map, code - 128)) << code;
@@ -82,7 +82,7 @@ TEST(OwnFont, HasGoldenTwinsInTheUpperHalf) {
 }
 
 TEST(OwnFont, HasSmallDigitsInGold) {
-    const FontMap map = OwnFont(1);
+    const FontMap map = OwnFont(Game::Quake);
     std::set<Text> shapes;
     for (int code = 18; code <= 27; ++code) {
         EXPECT_TRUE(IsGolden(map, code)) << code;
@@ -93,14 +93,14 @@ TEST(OwnFont, HasSmallDigitsInGold) {
 }
 
 TEST(OwnFont, IsDarkerAtTheBottom) {
-    const FontMap map = OwnFont(1);
+    const FontMap map = OwnFont(Game::Quake);
     for (const int code : {65, 72, 120, 200}) {
         EXPECT_GT(Light(map, code, 0, 7), 1.2 * Light(map, code, 8, 15)) << code;
     }
 }
 
 TEST(OwnFont, IsOfPixelsTwoByTwo) {
-    const Text shape = Shape(OwnFont(1), 'Q');
+    const Text shape = Shape(OwnFont(Game::Quake), 'Q');
     for (std::size_t y = 0; y < 16; y += 2) {
         for (std::size_t x = 0; x < 16; x += 2) {
             const char pixel = shape[y * 16 + x];
@@ -112,7 +112,7 @@ TEST(OwnFont, IsOfPixelsTwoByTwo) {
 }
 
 TEST(OwnFont, HasTheLettersOfItsCodePageInHeretic2) {
-    const FontMap map = OwnFont(6);
+    const FontMap map = OwnFont(Game::Heretic2);
     const std::set<int> none = {129, 141, 143, 144, 157, 160, 173};
     std::map<Text, int> shapes;
     for (int code = 128; code < 256; ++code) {
@@ -129,7 +129,7 @@ TEST(OwnFont, HasTheLettersOfItsCodePageInHeretic2) {
 }
 
 TEST(OwnFont, HasUnrealsHoles) {
-    const FontMap map = OwnFont(4);
+    const FontMap map = OwnFont(Game::Unreal);
     for (const int code : {5, 16, 32, 169, 192, 208, 223, 246, 255}) {
         EXPECT_TRUE(IsEmpty(map, code)) << code;
     }

@@ -57,7 +57,7 @@ class NarrowView : public ScriptView {
 constexpr std::size_t kTables = kShare == 1 ? 1 << 20 : 4 << 20;
 
 /// The most that reading a script takes, the file's own bytes not counted, in the file's size.
-void ExpectModest(Index kind, const Text& script) {
+void ExpectModest(Game kind, const Text& script) {
     NarrowView narrow;
     ScriptView wide;
     for (ScriptView* view : std::initializer_list<ScriptView*>{&narrow, &wide}) {
@@ -66,7 +66,7 @@ void ExpectModest(Index kind, const Text& script) {
         most = before;
         ReadInto(document, script, *view);
         EXPECT_LE(most - before, 4 * script.size() + kTables)
-            << "kind " << kind << ", " << script.substr(0, 30) << ": "
+            << "kind " << NumberOf(kind) << ", " << script.substr(0, 30) << ": "
             << static_cast<double>(most - before) / static_cast<double>(script.size());
     }
 }
@@ -84,7 +84,7 @@ Text Repeated(TextView head, TextView line, std::size_t size) {
 }
 
 TEST(ReaderMemory, IsModestForASingleLine) {
-    for (const Index kind : std::initializer_list<Index>{3, 4}) {
+    for (const Game kind : std::initializer_list<Game>{Game::Quake2, Game::Unreal}) {
         for (const char* start : {"",
                                   "//",
                                   "bind a ",
@@ -117,30 +117,30 @@ TEST(ReaderMemory, IsModestForASingleLine) {
 }
 
 TEST(ReaderMemory, IsModestForAnUnknownKeyOfUnreal) {
-    ExpectModest(4, "[Engine.Input]\n" + Text(kLong, 'x') + "=Fire");
-    ExpectModest(4, "[Engine.Input]\nMinus=" + Text(kLong, 'x'));
-    ExpectModest(4, "[Engine.Input]\nMinus=Fire\nMinus=" + Text(kLong, 'x'));
-    ExpectModest(4, "[Engine.Input]\nAliases[0]=(Command=\"" + Text(kLong, 'x') + "\",Alias=y)");
+    ExpectModest(Game::Unreal, "[Engine.Input]\n" + Text(kLong, 'x') + "=Fire");
+    ExpectModest(Game::Unreal, "[Engine.Input]\nMinus=" + Text(kLong, 'x'));
+    ExpectModest(Game::Unreal, "[Engine.Input]\nMinus=Fire\nMinus=" + Text(kLong, 'x'));
+    ExpectModest(Game::Unreal, "[Engine.Input]\nAliases[0]=(Command=\"" + Text(kLong, 'x') + "\",Alias=y)");
 }
 
 TEST(ReaderMemory, IsModestForManyTinyLines) {
-    for (const Index kind : std::initializer_list<Index>{1, 4}) {
+    for (const Game kind : std::initializer_list<Game>{Game::Quake, Game::Unreal}) {
         for (const char* line : {"x\n", "\n", "//\n", "\"\n"}) {
             ExpectModest(kind, Repeated("", line, kMany));
         }
     }
-    ExpectModest(4, Repeated("", "[\n", 6 * kMany));
-    ExpectModest(4, Repeated("[Engine.Input]\n", "$=b\n", kMany));
-    ExpectModest(4, Repeated("[Engine.Input]\n", "a=b\n", kMany));
+    ExpectModest(Game::Unreal, Repeated("", "[\n", 6 * kMany));
+    ExpectModest(Game::Unreal, Repeated("[Engine.Input]\n", "$=b\n", kMany));
+    ExpectModest(Game::Unreal, Repeated("[Engine.Input]\n", "a=b\n", kMany));
 }
 
 TEST(ReaderMemory, IsModestForManyDifferentValues) {
     for (const char* start :
          {"alias n", "fov 1.", "vid_mode 1", "bind a x", "gamma x", "_cl_name ", "WeaponPriority[1]=w"}) {
-        for (const Index kind : std::initializer_list<Index>{1, 4}) {
+        for (const Game kind : std::initializer_list<Game>{Game::Quake, Game::Unreal}) {
             Text script;
             for (std::size_t number = 0; script.size() < 4 * kMany; ++number) {
-                script += Join(start, std::to_string(number), kind == 1 && *start == 'a' ? " x\n" : "\n");
+                script += Join(start, std::to_string(number), kind == Game::Quake && *start == 'a' ? " x\n" : "\n");
             }
             ExpectModest(kind, script);
         }

@@ -16,11 +16,13 @@ using Names = std::vector<Text>;
 class ArchivedSkinsTest : public ::testing::Test {
   protected:
     void Add(TextView path, const Names& names) { system.Disk.AddFile(path, PakFile(names)); }
-    Names Models(Index kind = 3) { return ArchivedModels(system.Disk, "C:\\Q2\\BASEQ2", kind); }
-    Names Skins(TextView model, Index kind = 3) { return ArchivedSkins(system.Disk, "C:\\Q2\\BASEQ2", model, kind); }
+    Names Models(Game kind = Game::Quake2) { return ArchivedModels(system.Disk, "C:\\Q2\\BASEQ2", kind); }
+    Names Skins(TextView model, Game kind = Game::Quake2) {
+        return ArchivedSkins(system.Disk, "C:\\Q2\\BASEQ2", model, kind);
+    }
 
     /// The lists as a script in the base directory has them.
-    void Prepare(Index kind, bool quakeWorld = false) {
+    void Prepare(Game kind, bool quakeWorld = false) {
         run.DefaultGameDirectory = "C:\\Q2";
         run.BaseGameDir = "BASEQ2";
         document.CurrentScriptDirectory = "C:\\Q2\\BASEQ2\\";
@@ -57,17 +59,17 @@ TEST_F(ArchivedSkinsTest, ANameInTwoArchivesIsListedOnce) {
 TEST_F(ArchivedSkinsTest, SinHasArchivesOfItsOwn) {
     Add("C:\\Q2\\BASEQ2\\pak0.pak", {"players/male/grunt.pcx"});
     system.Disk.AddFile("C:\\Q2\\BASEQ2\\pak0.sin", SinFile({"players/blade/" + Text(60, 'b') + ".pcx"}));
-    EXPECT_EQ(Models(5), Names{"blade"});
-    EXPECT_EQ(Skins("blade", 5), Names{Text(60, 'b')});
-    EXPECT_EQ(Models(3), Names{"male"});
+    EXPECT_EQ(Models(Game::Sin), Names{"blade"});
+    EXPECT_EQ(Skins("blade", Game::Sin), Names{Text(60, 'b')});
+    EXPECT_EQ(Models(Game::Quake2), Names{"male"});
 }
 
 TEST_F(ArchivedSkinsTest, HereticsOwnPicturesAreSkinsToo) {
     Add("C:\\Q2\\BASEQ2\\Htic2-0.pak",
         {"players/male/Corvus.m8", "players/male/Corvus_i.m8", "players/male/CorvusDmg.m8", "players/male/reflect.m8",
          "players/male/tris.fm", "players/male/plain.pcx"});
-    EXPECT_EQ(Skins("male", 6), (Names{"Corvus", "plain"}));
-    EXPECT_EQ(Skins("male", 3), Names{"plain"});
+    EXPECT_EQ(Skins("male", Game::Heretic2), (Names{"Corvus", "plain"}));
+    EXPECT_EQ(Skins("male", Game::Quake2), Names{"plain"});
 }
 
 TEST_F(ArchivedSkinsTest, ADamagedArchiveCostsItsOwnNames) {
@@ -95,7 +97,7 @@ TEST_F(ArchivedSkinsTest, ThePageShowsLooseAndArchivedNamesTogether) {
     system.Disk.AddFile("C:\\Q2\\BASEQ2\\players\\Male\\mine.pcx");
     system.Disk.AddFile("C:\\Q2\\BASEQ2\\players\\Male\\Grunt.pcx");
     Add("C:\\Q2\\BASEQ2\\pak0.pak", {"players/male/grunt.pcx", "players/male/cipher.pcx", "players/female/athena.pcx"});
-    Prepare(3);
+    Prepare(Game::Quake2);
     EXPECT_EQ(document.Sex_Cbo.Items, (Names{"female", "Male"}));
     EXPECT_EQ(document.Sex_Cbo.ListIndex, 0);
     EXPECT_EQ(document.Skin_Cbo.Items, Names{"athena"});
@@ -107,7 +109,7 @@ TEST_F(ArchivedSkinsTest, ThePageShowsLooseAndArchivedNamesTogether) {
 TEST_F(ArchivedSkinsTest, HereticsLooseSkinsAreItsPicturesAlone) {
     system.Disk.AddFile("C:\\Q2\\BASEQ2\\players\\male\\loose.m8");
     system.Disk.AddFile("C:\\Q2\\BASEQ2\\players\\male\\plain.pcx");
-    Prepare(6);
+    Prepare(Game::Heretic2);
     EXPECT_EQ(document.Skin_Cbo.Items, Names{"plain"});
 }
 
@@ -115,14 +117,14 @@ TEST_F(ArchivedSkinsTest, QuakeWorldsSkinsComeOutOfItsArchivesToo) {
     system.Disk.AddFile("C:\\Q2\\qw\\skins\\Base.pcx");
     Add("C:\\Q2\\qw\\pak0.pak",
         {"skins/base.pcx", "skins/Tron.PCX", "skins/more/x.pcx", "skins/readme.txt", "tron.pcx"});
-    Prepare(1, true);
+    Prepare(Game::Quake, true);
     EXPECT_EQ(document.Skin_Fil.Items, (Names{"Base.pcx", "Tron.PCX"}));
     EXPECT_EQ(document.Skin_Fil.Path, "C:\\Q2\\qw\\skins");
 }
 
 TEST_F(ArchivedSkinsTest, QuakeWorldsArchivesServeWithoutADirectoryOfSkins) {
     Add("C:\\Q2\\qw\\pak0.pak", {"skins/base.pcx"});
-    Prepare(1, true);
+    Prepare(Game::Quake, true);
     EXPECT_EQ(document.Skin_Fil.Items, Names{"base.pcx"});
     EXPECT_EQ(document.Skin_Fil.Path, "");
 }

@@ -10,7 +10,7 @@ namespace {
 
 class BindLineTest : public ::testing::Test {
   protected:
-    void Use(Index kind) { document = MakeScriptDocument(DialectOf(kind)); }
+    void Use(Game kind) { document = MakeScriptDocument(DialectOf(kind)); }
     Text Bind(TextView key, TextView command) { return BindLine(document, view, key, Text(command)); }
     [[nodiscard]] Text Held(TextView key) const { return BindingOf(document, key); }
     [[nodiscard]] Text Caption(SlotNumber slot) const { return document.Bound_Lbl[slot].Caption; }
@@ -18,7 +18,7 @@ class BindLineTest : public ::testing::Test {
     [[nodiscard]] Text Command(SlotNumber slot) const { return document.SlotCommand[slot]; }
 
     ScriptView view;
-    ScriptDocument document = MakeScriptDocument(DialectOf(1));
+    ScriptDocument document = MakeScriptDocument(DialectOf(Game::Quake));
 };
 
 constexpr const char* kKeys[] = {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l", "m", "n",
@@ -35,8 +35,7 @@ TEST_F(BindLineTest, ReachesTheFixedSlotInItsOwnSpelling) {
 
 TEST_F(BindLineTest, ACommandThatIsWrittenWithABlankAheadComesBackToItsSlot) {
     int seen = 0;
-    constexpr Index kKinds[] = {1, 2, 3, 4, 5, 6, 9};
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         Use(kind);
         const ScriptDocument fresh = document;
         for (const SlotNumber slot : SlotNumbers()) {
@@ -46,9 +45,9 @@ TEST_F(BindLineTest, ACommandThatIsWrittenWithABlankAheadComesBackToItsSlot) {
             ++seen;
             document = fresh;
             Bind("a", fresh.SlotCommand[slot]);
-            EXPECT_EQ(Held("a"), fresh.SlotCommand[slot]) << kind << " " << slot;
-            EXPECT_EQ(Keys(slot), "{A}") << kind << " " << slot;
-            EXPECT_EQ(Caption(501), "") << kind << " " << slot;
+            EXPECT_EQ(Held("a"), fresh.SlotCommand[slot]) << NumberOf(kind) << " " << slot;
+            EXPECT_EQ(Keys(slot), "{A}") << NumberOf(kind) << " " << slot;
+            EXPECT_EQ(Caption(501), "") << NumberOf(kind) << " " << slot;
         }
     }
     EXPECT_GT(seen, 0);
@@ -62,7 +61,7 @@ TEST_F(BindLineTest, AnUnknownKeyIsDroppedInAConsoleScript) {
 }
 
 TEST_F(BindLineTest, AnUnknownKeyOfUnrealIsALineOfTheText) {
-    Use(4);
+    Use(Game::Unreal);
     EXPECT_EQ(Bind("Minus", "Fire"), "minus=Fire\r\n");
     EXPECT_EQ(Keys(111), "");
 }
@@ -76,7 +75,7 @@ TEST_F(BindLineTest, ACommandOfAnotherKindIsDropped) {
     Bind("a", "+jump");
     Bind("a", "impulse 13");
     EXPECT_EQ(Held("a"), "+jump");
-    Use(3);
+    Use(Game::Quake2);
     Bind("a", "impulse 20");
     EXPECT_EQ(Held("a"), "");
     EXPECT_EQ(Caption(501), "");
@@ -95,14 +94,14 @@ TEST_F(BindLineTest, ACommandWhoseSlotIsEmptyInThisKindFreesTheKey) {
 }
 
 TEST_F(BindLineTest, BlanksAtACommandsEndsSayNothing) {
-    Use(4);
+    Use(Game::Unreal);
     Bind("F10", " Cancel");
     EXPECT_EQ(Keys(411), "{F10}");
     EXPECT_EQ(Caption(501), "");
     document.AliasTable.Insert({.Bound = false, .Name = "slink", .Body = "Button bDuck"});
     Bind("C", " Slink ");
     EXPECT_EQ(Keys(601), "{C}");
-    Use(1);
+    Use(Game::Quake);
     Bind("a", " +attack ");
     EXPECT_EQ(Keys(111), "{A}");
     Bind("b", " exec duel.cfg");
@@ -218,7 +217,7 @@ TEST_F(BindLineTest, AnAliasTakesASlotOfItsOwn) {
 }
 
 TEST_F(BindLineTest, AnUnrealAliasKeepsItsCaseAndIsFoundAgain) {
-    Use(4);
+    Use(Game::Unreal);
     AddAlias(document, "", "(Command=\"Fire | Jump\",Alias=FireJump)");
     Bind("a", "firejump");
     Bind("b", "FIREJUMP");
@@ -285,7 +284,7 @@ TEST_F(BindLineTest, TheTwentyFifthExtraIsDropped) {
 }
 
 TEST_F(BindLineTest, TheUnrealCommandLookIsAnExtra) {
-    Use(4);
+    Use(Game::Unreal);
     Bind("x", "Look");
     EXPECT_EQ(Keys(115), "");
     EXPECT_EQ(Caption(501), " Look");

@@ -13,7 +13,7 @@ void ExpectBehindAxes(TextView line, TextView left) {
 }
 
 ScriptDocument Input(TextView lines) {
-    return ReadScript(4, Join("[Engine.Input]\r\n", lines));
+    return ReadScript(Game::Unreal, Join("[Engine.Input]\r\n", lines));
 }
 
 TEST(AxesWithoutSpeed, StandInFrontOfTheOtherAxis) {
@@ -63,8 +63,8 @@ TEST(JoinedLine, GivesAKeyAndAnAliasOfTheFreeTextBack) {
 }
 
 TEST(JoinedLine, IsOneOfTheInputSectionOnly) {
-    EXPECT_EQ(ReadScript(4, "[Other]\r\nMouseX=MouseY=minus=Fire\r\n").Sections[0].Text, "");
-    EXPECT_EQ(ReadScript(4, "[Other]\r\nMouseY=minus=Fire\r\n").MouseBind_Cbo[1].Selected(), "minus=Fire");
+    EXPECT_EQ(ReadScript(Game::Unreal, "[Other]\r\nMouseX=MouseY=minus=Fire\r\n").Sections[0].Text, "");
+    EXPECT_EQ(ReadScript(Game::Unreal, "[Other]\r\nMouseY=minus=Fire\r\n").MouseBind_Cbo[1].Selected(), "minus=Fire");
 }
 
 }  // namespace

@@ -17,11 +17,11 @@ class OpenScriptTest : public ::testing::Test {
   protected:
     OpenScriptTest() {
         system.Disk.AddDirectory("C:\\QUAKE\\ID1");
-        Use(1);
+        Use(Game::Quake);
         run.DefaultGameDirectory = "C:\\QUAKE";
         run.BaseGameDir = "ID1";
     }
-    void Use(Index kind, bool quakeWorld = false) {
+    void Use(Game kind, bool quakeWorld = false) {
         run.GameKind = kind;
         run.ScriptFamily = DialectOf(kind).ScriptFamily;
         run.IsQuakeWorld = quakeWorld;
@@ -56,14 +56,14 @@ class OpenScriptTest : public ::testing::Test {
 };
 
 TEST_F(OpenScriptTest, ReadsTheFileUnderTheDialectOfTheGame) {
-    Use(3);
+    Use(Game::Quake2);
     EXPECT_TRUE(Open(Join(kOurs, "bind kp_home +attack\nset fov 95\ngl_x 1\nalias rj x")));
     EXPECT_EQ(document.KeyBinding[84], "+attack");
     EXPECT_EQ(document.fov_Cbo.Selected(), "95");
     EXPECT_EQ(document.Sections.at(0).Text, "gl_x 1");
     EXPECT_EQ(AliasesOf(document), "rj=x");
-    EXPECT_EQ(document.Dialect.GameKind, 3);
-    EXPECT_EQ(document.Dialect.ScriptFamily, 3);
+    EXPECT_EQ(document.Dialect.GameKind, Game::Quake2);
+    EXPECT_EQ(document.Dialect.ScriptFamily, Dialect::Quake2);
 }
 
 TEST_F(OpenScriptTest, NamesTheFile) {
@@ -162,7 +162,7 @@ TEST_F(OpenScriptTest, TellsThatTheFileIsGoneBeforeTheSecondPass) {
     disk.AddFile("C:\\a.cfg", "alias rj x\nbind a rj");
     Platform services{system.Settings, system.Registry, disk, system.Programs, system.Clip, system.Time};
     lv::Run other{services, user};
-    other.GameKind = 1;
+    other.GameKind = Game::Quake;
     ExpectNotOpened(70, "Permission denied");
     EXPECT_FALSE(OpenScript(other, document, view, "C:\\a.cfg"));
     EXPECT_FALSE(document.ScriptLoading);
@@ -237,7 +237,7 @@ TEST_F(OpenScriptTest, TellsThatAScriptIsTooLarge) {
 }
 
 TEST_F(OpenScriptTest, TellsThatAnIniIsTooLarge) {
-    Use(4);
+    Use(Game::Unreal);
     system.Disk.AddSparseFile("C:\\QUAKE\\huge.ini", "[x]\n", (64U << 20U) + 1);
     ExpectNotOpened(7, "The file is larger than 64 MB: C:\\QUAKE\\huge.ini");
     EXPECT_FALSE(OpenScript(run, document, view, "C:\\QUAKE\\huge.ini"));
@@ -259,21 +259,21 @@ TEST_F(OpenScriptTest, HasTheRatePageForQuakeWorldAndTheNewerGames) {
     Open(kOurs);
     EXPECT_FALSE(document.Options_Tab[4].Enabled);
     EXPECT_FALSE(document.Options_Tab[3].Enabled);
-    Use(1, true);
+    Use(Game::Quake, true);
     Open(kOurs);
     EXPECT_TRUE(document.Options_Tab[4].Enabled);
     EXPECT_TRUE(document.Options_Tab[3].Enabled);
-    for (const Index kind : std::initializer_list<Index>{3, 5, 6, 9}) {
+    for (const Game kind : std::initializer_list<Game>{Game::Quake2, Game::Sin, Game::Heretic2, Game::HalfLife}) {
         Use(kind);
         Open(kOurs);
-        EXPECT_TRUE(document.Options_Tab[4].Enabled) << kind;
-        EXPECT_FALSE(document.Options_Tab[3].Enabled) << kind;
+        EXPECT_TRUE(document.Options_Tab[4].Enabled) << NumberOf(kind);
+        EXPECT_FALSE(document.Options_Tab[3].Enabled) << NumberOf(kind);
     }
-    for (const Index kind : std::initializer_list<Index>{2, 4}) {
+    for (const Game kind : std::initializer_list<Game>{Game::Hexen2, Game::Unreal}) {
         Use(kind);
-        Open(kind == 4 ? "[Lorvane 3D]" : kOurs);
-        EXPECT_FALSE(document.Options_Tab[4].Enabled) << kind;
-        EXPECT_FALSE(document.Options_Tab[3].Enabled) << kind;
+        Open(kind == Game::Unreal ? "[Lorvane 3D]" : kOurs);
+        EXPECT_FALSE(document.Options_Tab[4].Enabled) << NumberOf(kind);
+        EXPECT_FALSE(document.Options_Tab[3].Enabled) << NumberOf(kind);
     }
 }
 
@@ -313,7 +313,7 @@ TEST_F(OpenScriptTest, KeepsZeroBytesInTheCopyAlone) {
 }
 
 TEST_F(OpenScriptTest, RefusesUtf16TextAndKeepsNoCopy) {
-    for (const Index kind : {Index{1}, Index{4}}) {
+    for (const Game kind : {Game::Quake, Game::Unreal}) {
         Use(kind);
         for (const TextView bytes : {TextView("\xFF\xFE[\0A\0]\0", 8), TextView("\xFE\xFF\0[\0A\0]", 8)}) {
             ExpectNotOpened(75, "The file is UTF-16 text: C:\\QUAKE\\ID1\\my.cfg. Save it as plain text (ANSI) first.");

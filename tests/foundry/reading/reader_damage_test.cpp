@@ -88,7 +88,7 @@ void ExpectSound(const ScriptDocument& document) {
     }
 }
 
-class DamagedScript : public ::testing::TestWithParam<Index> {
+class DamagedScript : public ::testing::TestWithParam<Game> {
   protected:
     // Each kind starts with another step, so that no step is left out by all of them.
     std::size_t step_ = static_cast<std::size_t>(std::ranges::find(kKinds, GetParam()) - std::begin(kKinds));
@@ -152,7 +152,7 @@ TEST_P(DamagedScript, OfManyTinyLinesIsRead) {
 INSTANTIATE_TEST_SUITE_P(OfEveryKind, DamagedScript, ::testing::ValuesIn(kKinds));
 
 TEST(DamagedScript, OfAKindThatIsNoneIsRead) {
-    for (const Index kind : std::initializer_list<Index>{-1, 0, 7, 8, 10, 32767}) {
+    for (const Game kind : std::initializer_list<Game>{Game{-1}, Game::None, Game{7}, Game{8}, Game{10}, Game{32767}}) {
         ExpectSound(ReadScript(kind, "bind a +attack\n[x]\ncolor 1 2\nalias b c\nbind d b"));
     }
 }
@@ -175,7 +175,7 @@ TEST(LongScript, ReadsTheFileNoMoreThanAFewTimes) {
         }
         CountingFile file(script);
         ScriptView view;
-        ScriptDocument document = MakeScriptDocument(DialectOf(1));
+        ScriptDocument document = MakeScriptDocument(DialectOf(Game::Quake));
         ReadLines(file, document, view, 0, [] {});
         EXPECT_LE(file.Bytes, 6 * script.size()) << length;
     }

@@ -16,8 +16,8 @@ namespace {
 
 constexpr TextView kScript = "C:\\GAME\\MY.CFG";
 
-Index FamilyOf(Index kind) {
-    return kind == 4 ? 4 : kind == 1 || kind == 2 ? 1 : 3;
+Index FamilyOf(Game kind) {
+    return kind == Game::Unreal ? 4 : kind == Game::Quake || kind == Game::Hexen2 ? 1 : 3;
 }
 
 ScriptDocument Read(const Text& script, ScriptDialect dialect) {
@@ -32,20 +32,20 @@ ScriptDocument Read(const Text& script, ScriptDialect dialect) {
     return document;
 }
 
-ScriptDocument Read(const Text& script, Index kind) {
+ScriptDocument Read(const Text& script, Game kind) {
     return Read(script, {.GameKind = kind, .ScriptFamily = FamilyOf(kind)});
 }
 
-Text LineOf(const listing::KeywordRow& row, Index kind) {
-    if (kind == 4) {
+Text LineOf(const listing::KeywordRow& row, Game kind) {
+    if (kind == Game::Unreal) {
         return Join(row.Keyword, "=", row.Value);
     }
     return *row.Value ? Join(row.Keyword, " ", row.Value) : Text(row.Keyword);
 }
 
 /// A console script that is the line; an ini has it in a section.
-ScriptDocument ReadRow(const listing::KeywordRow& row, Index kind) {
-    return Read(Join(kind == 4 ? "[Some.Section]\r\n" : "", LineOf(row, kind), "\r\n"), kind);
+ScriptDocument ReadRow(const listing::KeywordRow& row, Game kind) {
+    return Read(Join(kind == Game::Unreal ? "[Some.Section]\r\n" : "", LineOf(row, kind), "\r\n"), kind);
 }
 
 Text FreeForm(const ScriptDocument& document) {
@@ -135,16 +135,16 @@ TEST(ReaderKeywordsTable, EachLineSetsItsControlOrIsKeptOrDropped) {
             if (!TakesStep(step++, 3)) {
                 continue;
             }
-            const auto kind = static_cast<Index>(digit - '0');
+            const Game kind = Game{static_cast<Index>(digit - '0')};
             const ScriptDocument document = ReadRow(row, kind);
             const Text line = LineOf(row, kind);
             if (row.Control == listing::kKept) {
-                EXPECT_EQ(FreeForm(document), line) << kind;
+                EXPECT_EQ(FreeForm(document), line) << NumberOf(kind);
                 continue;
             }
-            EXPECT_EQ(FreeForm(document), "") << line << " in " << kind;
+            EXPECT_EQ(FreeForm(document), "") << line << " in " << NumberOf(kind);
             if (row.Control != listing::kDropped) {
-                EXPECT_EQ(ShownBy(document, row.Control), row.Expected) << line << " in " << kind;
+                EXPECT_EQ(ShownBy(document, row.Control), row.Expected) << line << " in " << NumberOf(kind);
             }
         }
     }
@@ -163,8 +163,8 @@ TEST(ReaderKeywordsTable, AKeywordWithALetterTooManyOrTooFewIsNone) {
     for (const Text& keyword : keywords) {
         for (const Text& other : {keyword + "x", "x" + keyword, keyword.substr(1)}) {
             if (!keywords.contains(other) && TakesStep(step++, 4)) {
-                EXPECT_EQ(FreeForm(Read(Join(other, " 1\r\n"), 1)), Join(other, " 1"));
-                EXPECT_EQ(FreeForm(Read(Join("[Some.Section]\r\n", other, "=1\r\n"), 4)), Join(other, "=1"));
+                EXPECT_EQ(FreeForm(Read(Join(other, " 1\r\n"), Game::Quake)), Join(other, " 1"));
+                EXPECT_EQ(FreeForm(Read(Join("[Some.Section]\r\n", other, "=1\r\n"), Game::Unreal)), Join(other, "=1"));
             }
         }
     }
@@ -178,23 +178,24 @@ TEST(ReaderKeywordsTable, BoxesKeepTheirStateOnAnyOtherValue) {
                                             {"noaim", "NoAim_Chk"},           {"showpause", "ShowPause_Chk"},
                                             {"showram", "ShowRAM_Chk"},       {"showturtle", "ShowTurtle_Chk"}};
         const Text on = Join(keyword, " 1\r\n");
-        EXPECT_EQ(ShownBy(Read(Join(on, keyword, " 2\r\n"), 1), boxes.at(keyword)), "1") << keyword;
-        EXPECT_EQ(ShownBy(Read(Join(on, keyword, " yes\r\n"), 1), boxes.at(keyword)), "1") << keyword;
-        EXPECT_EQ(ShownBy(Read(Join(on, keyword, "\r\n"), 1), boxes.at(keyword)), "1") << keyword;
-        EXPECT_EQ(ShownBy(Read(Join(on, keyword, " 0\r\n"), 1), boxes.at(keyword)), "0") << keyword;
+        EXPECT_EQ(ShownBy(Read(Join(on, keyword, " 2\r\n"), Game::Quake), boxes.at(keyword)), "1") << keyword;
+        EXPECT_EQ(ShownBy(Read(Join(on, keyword, " yes\r\n"), Game::Quake), boxes.at(keyword)), "1") << keyword;
+        EXPECT_EQ(ShownBy(Read(Join(on, keyword, "\r\n"), Game::Quake), boxes.at(keyword)), "1") << keyword;
+        EXPECT_EQ(ShownBy(Read(Join(on, keyword, " 0\r\n"), Game::Quake), boxes.at(keyword)), "0") << keyword;
     }
 }
 
 TEST(ReaderKeywordsTable, RunAndAimGoOffOnAnyOtherValue) {
-    EXPECT_EQ(Read("cl_run 1\r\ncl_run 2\r\n", 3).Speed_Chk.Value, 0);
-    EXPECT_EQ(Read("sv_aim 1\r\nsv_aim 2\r\n", 3).NoAim_Chk.Value, 0);
-    EXPECT_EQ(Read("s_wavonly 1\r\ns_wavonly 2\r\n", 3).Q2_WaveOnly_Chk.Value, 0);
-    EXPECT_EQ(Read("cd_nocd 1\r\ncd_nocd 2\r\n", 3).Q2_EnableCD_Chk.Value, 1);
+    EXPECT_EQ(Read("cl_run 1\r\ncl_run 2\r\n", Game::Quake2).Speed_Chk.Value, 0);
+    EXPECT_EQ(Read("sv_aim 1\r\nsv_aim 2\r\n", Game::Quake2).NoAim_Chk.Value, 0);
+    EXPECT_EQ(Read("s_wavonly 1\r\ns_wavonly 2\r\n", Game::Quake2).Q2_WaveOnly_Chk.Value, 0);
+    EXPECT_EQ(Read("cd_nocd 1\r\ncd_nocd 2\r\n", Game::Quake2).Q2_EnableCD_Chk.Value, 1);
 }
 
 TEST(ReaderKeywordsTable, WeaponsAreKeptByTheirNumberAndJoinTheList) {
     const ScriptDocument document = Read(
-        "[Engine.PlayerPawn]\r\nWeaponPriority[0]=Rifle\r\nweaponpriority[7]=RailGun\r\nWeaponPriority[8]=None\r\n", 4);
+        "[Engine.PlayerPawn]\r\nWeaponPriority[0]=Rifle\r\nweaponpriority[7]=RailGun\r\nWeaponPriority[8]=None\r\n",
+        Game::Unreal);
     EXPECT_EQ(document.WeaponPriority[0], "Rifle");
     EXPECT_EQ(document.WeaponPriority[7], "RailGun");
     EXPECT_TRUE(document.WeaponPriority[8].empty() || document.WeaponPriority[8] == "None");
@@ -202,19 +203,19 @@ TEST(ReaderKeywordsTable, WeaponsAreKeptByTheirNumberAndJoinTheList) {
 }
 
 TEST(ReaderKeywordsTable, QuakeWorldHasARate) {
-    const ScriptDialect quakeWorld = {.GameKind = 1, .ScriptFamily = 1, .IsQuakeWorld = true};
+    const ScriptDialect quakeWorld = {.GameKind = Game::Quake, .ScriptFamily = Dialect::Quake, .IsQuakeWorld = true};
     const ScriptDocument document = Read("rate 2500\r\n", quakeWorld);
     EXPECT_EQ(document.Rate_Txt.Text, "2500");
     EXPECT_EQ(FreeForm(document), "");
 }
 
 TEST(ReaderKeywordsTable, TheLastOfTwoValuesStands) {
-    EXPECT_EQ(Read("fov 90\r\nfov 120\r\n", 1).fov_Cbo.Selected(), "120");
-    EXPECT_EQ(Read("name Joe\r\nname Jane\r\n", 1).Name_Txt.Text, "Jane");
+    EXPECT_EQ(Read("fov 90\r\nfov 120\r\n", Game::Quake).fov_Cbo.Selected(), "120");
+    EXPECT_EQ(Read("name Joe\r\nname Jane\r\n", Game::Quake).Name_Txt.Text, "Jane");
 }
 
 TEST(ReaderKeywordsTable, NumbersFindTheirRowWhereTheLocaleHasAComma) {
-    const ScriptDialect dialect = {.GameKind = 1, .ScriptFamily = 1, .DecimalSeparator = ','};
+    const ScriptDialect dialect = {.GameKind = Game::Quake, .ScriptFamily = Dialect::Quake, .DecimalSeparator = ','};
     EXPECT_EQ(Read("sensitivity 3.5\r\n", dialect).MouseSensitivity_Cbo.Selected(), "3,5");
     EXPECT_EQ(Read("m_pitch -0.022\r\n", dialect).m_pitch_Cbo.Selected(), "0,022");
 }

@@ -35,7 +35,7 @@ const Words kValues = {"0", "1", "90", "-0.022", "0.5", "abc", "male/grunt", "",
 
 class Maker {
   public:
-    Maker(Index kind, unsigned seed) : unreal_(kind == 4), random_(seed) {}
+    Maker(Game kind, unsigned seed) : unreal_(kind == Game::Unreal), random_(seed) {}
 
     Text Make() {
         Text script = unreal_ ? "[Engine.Input]\r\n" : "";
@@ -111,7 +111,7 @@ Words UnknownLinesOf(const ScriptDocument& document) {
     return lines;
 }
 
-class ReaderProperties : public ::testing::TestWithParam<Index> {};
+class ReaderProperties : public ::testing::TestWithParam<Game> {};
 
 constexpr unsigned kScripts = Rounds(2000U);  // of each kind
 constexpr unsigned kFewScripts = Rounds(100U);

@@ -22,7 +22,7 @@ class SkinPageTest : public ::testing::Test {
         }
         document.CurrentScriptDirectory = "C:\\QUAKE2\\BASEQ2\\";
     }
-    void Use(Index kind, bool quakeWorld = false) {
+    void Use(Game kind, bool quakeWorld = false) {
         run.GameKind = kind;
         run.ScriptFamily = DialectOf(kind).ScriptFamily;
         run.IsQuakeWorld = quakeWorld;
@@ -38,7 +38,7 @@ class SkinPageTest : public ::testing::Test {
 using Names = std::vector<Text>;
 
 TEST_F(SkinPageTest, ListsTheModelsAndTheSkinsOfTheFirst) {
-    Use(3);
+    Use(Game::Quake2);
     PrepareSkinPage(run, document);
     EXPECT_EQ(document.Sex_Cbo.Items, (Names{"female", "male"}));
     EXPECT_EQ(document.Sex_Cbo.ListIndex, 0);
@@ -47,7 +47,7 @@ TEST_F(SkinPageTest, ListsTheModelsAndTheSkinsOfTheFirst) {
 }
 
 TEST_F(SkinPageTest, ListsTheSkinsOfTheChosenModel) {
-    Use(3);
+    Use(Game::Quake2);
     PrepareSkinPage(run, document);
     document.Sex_Cbo.ListIndex = 1;
     Sex_Cbo_Click(run, document);
@@ -55,7 +55,7 @@ TEST_F(SkinPageTest, ListsTheSkinsOfTheChosenModel) {
 }
 
 TEST_F(SkinPageTest, TakesTheSkinsFromTheDirectoryOfTheScript) {
-    Use(3);
+    Use(Game::Quake2);
     system.Disk.AddFile("C:\\QUAKE2\\CTF\\players\\female\\ctf_r.pcx");
     document.CurrentScriptDirectory = "C:\\QUAKE2\\CTF\\";
     PrepareSkinPage(run, document);
@@ -63,7 +63,7 @@ TEST_F(SkinPageTest, TakesTheSkinsFromTheDirectoryOfTheScript) {
 }
 
 TEST_F(SkinPageTest, IsEmptyWithoutThePlayersDirectory) {
-    Use(9);
+    Use(Game::HalfLife);
     run.DefaultGameDirectory = "C:\\HALFLIFE";
     PrepareSkinPage(run, document);
     EXPECT_TRUE(document.Sex_Cbo.Items.empty());
@@ -72,7 +72,7 @@ TEST_F(SkinPageTest, IsEmptyWithoutThePlayersDirectory) {
 }
 
 TEST_F(SkinPageTest, TellsThatTheModelsCannotBeRead) {
-    Use(3);
+    Use(Game::Quake2);
     system.Disk.Unreadable.insert("c:\\quake2\\baseq2\\players");
     user.Expect({.Title = "Error",
                  .Text_ = "The following error occured attempting to build the models list...\r\n"
@@ -85,7 +85,7 @@ TEST_F(SkinPageTest, TellsThatTheModelsCannotBeRead) {
 }
 
 TEST_F(SkinPageTest, TellsThatTheSkinsCannotBeRead) {
-    Use(3);
+    Use(Game::Quake2);
     system.Disk.Unreadable.insert("c:\\quake2\\baseq2\\players\\female");
     user.Expect({.Title = "Error", .Text_ = "attempting to build the skins list...", .Buttons = "OK"});
     PrepareSkinPage(run, document);
@@ -93,7 +93,7 @@ TEST_F(SkinPageTest, TellsThatTheSkinsCannotBeRead) {
 }
 
 TEST_F(SkinPageTest, ListsTheSkinsOfQuakeWorld) {
-    Use(1, true);
+    Use(Game::Quake, true);
     run.DefaultGameDirectory = "C:\\QUAKE";
     for (const char* file : {"b.pcx", "A.PCX", "c.txt"}) {
         system.Disk.AddFile(Join("C:\\QUAKE\\qw\\skins\\", file));
@@ -107,14 +107,14 @@ TEST_F(SkinPageTest, ListsTheSkinsOfQuakeWorld) {
 }
 
 TEST_F(SkinPageTest, PointsNowhereWithoutTheSkinsOfQuakeWorld) {
-    Use(1, true);
+    Use(Game::Quake, true);
     PrepareSkinPage(run, document);
     EXPECT_EQ(document.Skin_Fil.Path, "");
     EXPECT_TRUE(document.Skin_Fil.Items.empty());
 }
 
 TEST_F(SkinPageTest, ReadsModelAndSkinOfAScript) {
-    Use(3);
+    Use(Game::Quake2);
     ScriptView view;
     system.Disk.AddFile("C:\\QUAKE2\\BASEQ2\\my.cfg", "// Setup Foundry   //\nskin male/GRUNT");
     EXPECT_TRUE(OpenScript(run, document, view, "C:\\QUAKE2\\BASEQ2\\my.cfg"));

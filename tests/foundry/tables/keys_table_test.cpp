@@ -147,33 +147,36 @@ TEST(KeysTable, WhatUnrealWritesIsReadBackAsTheSameKeyButForMinusAndTheSecondEnt
 
 TEST(KeysTable, EachKeyHasItsCaptionInEachKind) {
     for (const auto& kind : listing::kKeysByKind) {
-        const KeyTexts captions = KeyCaptions(static_cast<Index>(kind.Kind));
+        const KeyTexts captions = KeyCaptions(kind.Kind);
         for (const auto& row : kKeys) {
             const char* const expected = row.Index == kind.Index ? kind.Caption : row.Caption;
-            EXPECT_EQ(captions[static_cast<std::size_t>(row.Index)], expected) << row.Index << " in " << kind.Kind;
+            EXPECT_EQ(captions[static_cast<std::size_t>(row.Index)], expected)
+                << row.Index << " in " << NumberOf(kind.Kind);
         }
     }
     for (const auto& row : kKeys) {
-        EXPECT_EQ(KeyCaptions(4)[static_cast<std::size_t>(row.Index)], row.Caption) << row.Index;
+        EXPECT_EQ(KeyCaptions(Game::Unreal)[static_cast<std::size_t>(row.Index)], row.Caption) << row.Index;
     }
 }
 
 TEST(KeysTable, EachCaptionLeadsToItsKeyInEachKind) {
-    for (const Index kind : std::initializer_list<Index>{1, 2, 3, 4, 5, 6, 9}) {
+    for (const Game kind : std::initializer_list<Game>{Game::Quake, Game::Hexen2, Game::Quake2, Game::Unreal, Game::Sin,
+                                                       Game::Heretic2, Game::HalfLife}) {
         const KeyTexts captions = KeyCaptions(kind);
         for (const auto& row : kKeys) {
             if (row.Index != 77) {
-                EXPECT_EQ(KeyIndexOfCaption(captions, row.Caption), row.Index) << row.Caption << " in " << kind;
+                EXPECT_EQ(KeyIndexOfCaption(captions, row.Caption), row.Index)
+                    << row.Caption << " in " << NumberOf(kind);
             }
         }
-        const bool ofItsOwn = kind == 3 || kind == 5;
-        EXPECT_EQ(KeyIndexOfCaption(captions, "kp+"), ofItsOwn ? 77 : -1) << kind;
-        EXPECT_EQ(KeyIndexOfCaption(captions, "{+}"), ofItsOwn ? -1 : 77) << kind;
+        const bool ofItsOwn = kind == Game::Quake2 || kind == Game::Sin;
+        EXPECT_EQ(KeyIndexOfCaption(captions, "kp+"), ofItsOwn ? 77 : -1) << NumberOf(kind);
+        EXPECT_EQ(KeyIndexOfCaption(captions, "{+}"), ofItsOwn ? -1 : 77) << NumberOf(kind);
     }
 }
 
 TEST(KeysTable, CaptionsAreComparedExactly) {
-    const KeyTexts captions = KeyCaptions(1);
+    const KeyTexts captions = KeyCaptions(Game::Quake);
     for (const char* const text :
          {"",    " ",   "{a}",   "A",   "{A} ", " {A}", "spc", "SPC", "Spc ", "{Spc}", "shft", "Shift",
           "{[}", "{]}", "{kp7}", "KP7", "MW",   "J0",   "J7",  "A0",  "A33",  "M0",    "M4",   "Esc"}) {
@@ -187,24 +190,26 @@ TEST(KeysTable, OlderKindsMirrorTheKeypadAndTheRightModifiers) {
         expected[row.Key] = row.Label;
     }
     ASSERT_EQ(expected.size(), 17u);
-    for (const Index kind : std::initializer_list<Index>{1, 2, 9}) {
+    for (const Game kind : std::initializer_list<Game>{Game::Quake, Game::Hexen2, Game::HalfLife}) {
         for (KeyIndex key = 0; key < kKeyCount; ++key) {
-            EXPECT_EQ(MirrorLabel(key, kind), expected.contains(key) ? expected[key] : -1) << key << " in " << kind;
+            EXPECT_EQ(MirrorLabel(key, kind), expected.contains(key) ? expected[key] : -1)
+                << key << " in " << NumberOf(kind);
         }
     }
 }
 
 TEST(KeysTable, UnrealMirrorsEnterOnly) {
     for (KeyIndex key = 0; key < kKeyCount; ++key) {
-        EXPECT_EQ(MirrorLabel(key, 4), key == listing::kMirrorOfUnreal.Key ? listing::kMirrorOfUnreal.Label : -1)
+        EXPECT_EQ(MirrorLabel(key, Game::Unreal),
+                  key == listing::kMirrorOfUnreal.Key ? listing::kMirrorOfUnreal.Label : -1)
             << key;
     }
 }
 
 TEST(KeysTable, KindsWithAKeypadOfItsOwnMirrorNothing) {
-    for (const Index kind : std::initializer_list<Index>{3, 5, 6}) {
+    for (const Game kind : std::initializer_list<Game>{Game::Quake2, Game::Sin, Game::Heretic2}) {
         for (KeyIndex key = 0; key < kKeyCount; ++key) {
-            EXPECT_EQ(MirrorLabel(key, kind), -1) << key << " in " << kind;
+            EXPECT_EQ(MirrorLabel(key, kind), -1) << key << " in " << NumberOf(kind);
         }
     }
 }

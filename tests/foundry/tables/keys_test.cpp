@@ -162,21 +162,21 @@ TEST(KeyName, IsEmptyForWhatIsNoKey) {
 }
 
 TEST(StyleOfFamily, FollowsTheScriptFamily) {
-    EXPECT_EQ(StyleOfFamily(1), KeyStyle::OldConsole);
-    EXPECT_EQ(StyleOfFamily(3), KeyStyle::NewConsole);
-    EXPECT_EQ(StyleOfFamily(4), KeyStyle::Unreal);
-    EXPECT_EQ(StyleOfFamily(0), KeyStyle::OldConsole);
+    EXPECT_EQ(StyleOfFamily(Dialect::Quake), KeyStyle::OldConsole);
+    EXPECT_EQ(StyleOfFamily(Dialect::Quake2), KeyStyle::NewConsole);
+    EXPECT_EQ(StyleOfFamily(Dialect::Unreal), KeyStyle::Unreal);
+    EXPECT_EQ(StyleOfFamily(Dialect::None), KeyStyle::OldConsole);
 }
 
 TEST(KeyCaptions, NameTheKeypadsPlusInQuake2AndSinOnly) {
-    for (const Index kind : kKinds) {
-        const bool keypad = kind == 3 || kind == 5;
-        EXPECT_EQ(KeyCaptions(kind)[77], keypad ? "kp+" : "{+}") << kind;
+    for (const Game kind : kKinds) {
+        const bool keypad = kind == Game::Quake2 || kind == Game::Sin;
+        EXPECT_EQ(KeyCaptions(kind)[77], keypad ? "kp+" : "{+}") << NumberOf(kind);
     }
 }
 
 TEST(KeyCaptions, AreBracedButForTheSquareBrackets) {
-    const KeyTexts captions = KeyCaptions(1);
+    const KeyTexts captions = KeyCaptions(Game::Quake);
     EXPECT_EQ(captions[1], "{A}");
     EXPECT_EQ(captions[27], "{0}");
     EXPECT_EQ(captions[36], "{9}");
@@ -187,7 +187,7 @@ TEST(KeyCaptions, AreBracedButForTheSquareBrackets) {
 }
 
 TEST(KeyCaptions, TellAllKeysApartAndHoldNoColon) {
-    for (const Index kind : kKinds) {
+    for (const Game kind : kKinds) {
         std::set<Text> seen;
         for (const Text& caption : KeyCaptions(kind)) {
             EXPECT_FALSE(caption.empty());
@@ -199,15 +199,15 @@ TEST(KeyCaptions, TellAllKeysApartAndHoldNoColon) {
 }
 
 TEST(KeyIndexOfCaption, FindsTheKeypadsPlusInQuake2AndSinOnly) {
-    for (const Index kind : kKinds) {
-        const bool keypad = kind == 3 || kind == 5;
-        EXPECT_EQ(KeyIndexOfCaption(KeyCaptions(kind), "kp+"), keypad ? 77 : kNoKey) << kind;
-        EXPECT_EQ(KeyIndexOfCaption(KeyCaptions(kind), "{+}"), keypad ? kNoKey : 77) << kind;
+    for (const Game kind : kKinds) {
+        const bool keypad = kind == Game::Quake2 || kind == Game::Sin;
+        EXPECT_EQ(KeyIndexOfCaption(KeyCaptions(kind), "kp+"), keypad ? 77 : kNoKey) << NumberOf(kind);
+        EXPECT_EQ(KeyIndexOfCaption(KeyCaptions(kind), "{+}"), keypad ? kNoKey : 77) << NumberOf(kind);
     }
 }
 
 TEST(KeyIndexOfCaption, ComparesExactly) {
-    const KeyTexts captions = KeyCaptions(1);
+    const KeyTexts captions = KeyCaptions(Game::Quake);
     EXPECT_EQ(KeyIndexOfCaption(captions, "Spc"), 0);
     EXPECT_EQ(KeyIndexOfCaption(captions, "A32"), 135);
     EXPECT_EQ(KeyIndexOfCaption(captions, "spc"), kNoKey);
@@ -216,7 +216,7 @@ TEST(KeyIndexOfCaption, ComparesExactly) {
 }
 
 TEST(KeyIndexOfCaption, GivesMinusOneAsASigned16BitNumberForNoKey) {
-    EXPECT_EQ(static_cast<std::uint16_t>(KeyIndexOfCaption(KeyCaptions(1), "no key")), 65535);
+    EXPECT_EQ(static_cast<std::uint16_t>(KeyIndexOfCaption(KeyCaptions(Game::Quake), "no key")), 65535);
 }
 
 TEST(KeyIndexOfCaption, TakesTheFirstOfEqualCaptions) {
@@ -236,24 +236,24 @@ TEST(MirrorLabel, TiesTheKeypadToTheMainKeysWhereItIsNotToldApart) {
         {69, 86}, {70, 92},  {71, 85},  {72, 91},  {73, 87}, {74, 89}, {75, 93}, {68, 90},
     };
     for (const Case& c : kCases) {
-        EXPECT_EQ(MirrorLabel(c.Key, 1), c.Label) << c.Key;
-        EXPECT_EQ(MirrorLabel(c.Key, 2), c.Label) << c.Key;
-        EXPECT_EQ(MirrorLabel(c.Key, 9), c.Label) << c.Key;
-        EXPECT_EQ(MirrorLabel(c.Key, 3), kNoKey) << c.Key;
-        EXPECT_EQ(MirrorLabel(c.Key, 5), kNoKey) << c.Key;
-        EXPECT_EQ(MirrorLabel(c.Key, 6), kNoKey) << c.Key;
-        EXPECT_EQ(MirrorLabel(c.Key, 4), c.Key == 75 ? 93 : kNoKey) << c.Key;
+        EXPECT_EQ(MirrorLabel(c.Key, Game::Quake), c.Label) << c.Key;
+        EXPECT_EQ(MirrorLabel(c.Key, Game::Hexen2), c.Label) << c.Key;
+        EXPECT_EQ(MirrorLabel(c.Key, Game::HalfLife), c.Label) << c.Key;
+        EXPECT_EQ(MirrorLabel(c.Key, Game::Quake2), kNoKey) << c.Key;
+        EXPECT_EQ(MirrorLabel(c.Key, Game::Sin), kNoKey) << c.Key;
+        EXPECT_EQ(MirrorLabel(c.Key, Game::Heretic2), kNoKey) << c.Key;
+        EXPECT_EQ(MirrorLabel(c.Key, Game::Unreal), c.Key == 75 ? 93 : kNoKey) << c.Key;
     }
 }
 
 TEST(MirrorLabel, BelongsToSeventeenKeysOnly) {
     int mirrored = 0;
     for (KeyIndex key = 0; key < kKeyCount; ++key) {
-        mirrored += MirrorLabel(key, 1) != kNoKey ? 1 : 0;
+        mirrored += MirrorLabel(key, Game::Quake) != kNoKey ? 1 : 0;
     }
     EXPECT_EQ(mirrored, 17);
-    EXPECT_EQ(MirrorLabel(88, 1), kNoKey);
-    EXPECT_EQ(MirrorLabel(93, 4), kNoKey);
+    EXPECT_EQ(MirrorLabel(88, Game::Quake), kNoKey);
+    EXPECT_EQ(MirrorLabel(93, Game::Unreal), kNoKey);
 }
 
 }  // namespace

@@ -26,10 +26,10 @@ std::set<Text> ListedCommands() {
 }
 
 void ExpectUnknownInAllKinds(const Text& command) {
-    for (const int kind : kKinds) {
-        const SlotMatch match = SlotFromCommand(command, static_cast<Index>(kind));
-        EXPECT_FALSE(match.Known) << "\"" << command << "\" in " << kind;
-        EXPECT_EQ(match.Slot, kNoSlot) << "\"" << command << "\" in " << kind;
+    for (const Game kind : kKinds) {
+        const SlotMatch match = SlotFromCommand(command, kind);
+        EXPECT_FALSE(match.Known) << "\"" << command << "\" in " << NumberOf(kind);
+        EXPECT_EQ(match.Slot, kNoSlot) << "\"" << command << "\" in " << NumberOf(kind);
     }
 }
 
@@ -48,7 +48,7 @@ TEST(RecognitionTable, TheListingNamesEachCommandOnce) {
 TEST(RecognitionTable, EachCommandMeansTheListedSlotInEachKind) {
     for (const auto& row : kRecognition) {
         for (std::size_t i = 0; i < kKinds.size(); ++i) {
-            const SlotMatch match = SlotFromCommand(row.Command, static_cast<Index>(kKinds[i]));
+            const SlotMatch match = SlotFromCommand(row.Command, kKinds[i]);
             EXPECT_TRUE(match.Known) << row.Command << " in " << kKinds[i];
             EXPECT_EQ(match.Slot, row.Slots[i]) << row.Command << " in " << kKinds[i];
         }
@@ -56,12 +56,12 @@ TEST(RecognitionTable, EachCommandMeansTheListedSlotInEachKind) {
 }
 
 TEST(RecognitionTable, AnotherKindsCommandIsKnownAndHasNoSlot) {
-    const SlotMatch match = SlotFromCommand("impulse 20", 3);
+    const SlotMatch match = SlotFromCommand("impulse 20", Game::Quake2);
     EXPECT_TRUE(match.Known);
     EXPECT_EQ(match.Slot, kNoSlot);
-    EXPECT_EQ(SlotFromCommand("impulse 20", 1).Slot, 1001);
-    EXPECT_TRUE(SlotFromCommand("impulse 13", 1).Known);
-    EXPECT_EQ(SlotFromCommand("impulse 13", 1).Slot, kNoSlot);
+    EXPECT_EQ(SlotFromCommand("impulse 20", Game::Quake).Slot, 1001);
+    EXPECT_TRUE(SlotFromCommand("impulse 13", Game::Quake).Known);
+    EXPECT_EQ(SlotFromCommand("impulse 13", Game::Quake).Slot, kNoSlot);
 }
 
 TEST(RecognitionTable, TheLookOfUnrealIsReadAsNoSlot) {
@@ -85,9 +85,9 @@ TEST(RecognitionTable, NoOtherImpulseIsKnown) {
 TEST(RecognitionTable, NoTextOfOneOrTwoBytesIsKnown) {
     for (int first = 0; first < 256; ++first) {
         const Text one(1, static_cast<char>(first));
-        EXPECT_FALSE(SlotFromCommand(one, 1).Known) << first;
+        EXPECT_FALSE(SlotFromCommand(one, Game::Quake).Known) << first;
         for (int second = 0; second < 256; ++second) {
-            EXPECT_FALSE(SlotFromCommand(one + static_cast<char>(second), 1).Known) << first << " " << second;
+            EXPECT_FALSE(SlotFromCommand(one + static_cast<char>(second), Game::Quake).Known) << first << " " << second;
         }
     }
 }
@@ -121,9 +121,9 @@ struct Astray {
 };
 
 /// All fixed slots of the kind whose commands, as FillCommandTable gives them, don't lead back to them.
-void ExpectReadBackButFor(int kind, const std::vector<Astray>& astray) {
+void ExpectReadBackButFor(Game kind, const std::vector<Astray>& astray) {
     ScriptDocument document;
-    FillCommandTable(document, static_cast<Index>(kind));
+    FillCommandTable(document, kind);
     std::map<int, Astray> expected;
     for (const Astray& row : astray) {
         expected[row.Slot] = row;
@@ -131,87 +131,87 @@ void ExpectReadBackButFor(int kind, const std::vector<Astray>& astray) {
     for (const SlotNumber slot : SlotNumbers()) {
         Text command = document.SlotCommand[slot];
         if (command.empty()) {
-            EXPECT_FALSE(expected.contains(slot)) << slot << " in " << kind;
+            EXPECT_FALSE(expected.contains(slot)) << slot << " in " << NumberOf(kind);
             continue;
         }
         for (char& c : command) {
             c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
         }
-        const SlotMatch match = SlotFromCommand(command, static_cast<Index>(kind));
+        const SlotMatch match = SlotFromCommand(command, kind);
         const Astray row = expected.contains(slot) ? expected[slot] : Astray{slot, slot, true};
-        EXPECT_EQ(match.Slot, row.ReadAs) << slot << " in " << kind << ": " << command;
-        EXPECT_EQ(match.Known, row.Known) << slot << " in " << kind << ": " << command;
+        EXPECT_EQ(match.Slot, row.ReadAs) << slot << " in " << NumberOf(kind) << ": " << command;
+        EXPECT_EQ(match.Known, row.Known) << slot << " in " << NumberOf(kind) << ": " << command;
     }
 }
 
 constexpr int None = listing::None;
 
 TEST(RecognitionTable, CommandsOfQuakeLeadBackToTheirSlots) {
-    ExpectReadBackButFor(1, {{1104, None, true}});
+    ExpectReadBackButFor(Game::Quake, {{1104, None, true}});
 }
 
 TEST(RecognitionTable, CommandsOfHexen2LeadBackButForWeaponsItHasNot) {
-    ExpectReadBackButFor(2, {{205, None, true},
-                             {206, None, true},
-                             {207, None, true},
-                             {208, None, true},
-                             {1001, None, true},
-                             {1002, None, true},
-                             {1003, None, true},
-                             {1004, None, true},
-                             {1005, None, true},
-                             {1104, 905, true}});
+    ExpectReadBackButFor(Game::Hexen2, {{205, None, true},
+                                        {206, None, true},
+                                        {207, None, true},
+                                        {208, None, true},
+                                        {1001, None, true},
+                                        {1002, None, true},
+                                        {1003, None, true},
+                                        {1004, None, true},
+                                        {1005, None, true},
+                                        {1104, 905, true}});
 }
 
 TEST(RecognitionTable, CommandsOfQuake2LeadBackButForTheCrouch) {
-    ExpectReadBackButFor(3, {{112, None, true},
-                             {1001, None, true},
-                             {1002, None, true},
-                             {1003, None, true},
-                             {1004, None, true},
-                             {1005, None, true}});
+    ExpectReadBackButFor(Game::Quake2, {{112, None, true},
+                                        {1001, None, true},
+                                        {1002, None, true},
+                                        {1003, None, true},
+                                        {1004, None, true},
+                                        {1005, None, true}});
 }
 
 TEST(RecognitionTable, CommandsOfSinLeadBackButForTheCrouch) {
-    ExpectReadBackButFor(5, {{112, None, true},
-                             {1001, None, true},
-                             {1002, None, true},
-                             {1003, None, true},
-                             {1004, None, true},
-                             {1005, None, true}});
+    ExpectReadBackButFor(Game::Sin, {{112, None, true},
+                                     {1001, None, true},
+                                     {1002, None, true},
+                                     {1003, None, true},
+                                     {1004, None, true},
+                                     {1005, None, true}});
 }
 
 TEST(RecognitionTable, CommandsOfHeretic2LeadBackButForTheRun) {
-    ExpectReadBackButFor(6, {{114, 908, true},
-                             {1001, None, true},
-                             {1002, None, true},
-                             {1003, None, true},
-                             {1004, None, true},
-                             {1005, None, true},
-                             {1104, 905, true}});
+    ExpectReadBackButFor(Game::Heretic2, {{114, 908, true},
+                                          {1001, None, true},
+                                          {1002, None, true},
+                                          {1003, None, true},
+                                          {1004, None, true},
+                                          {1005, None, true},
+                                          {1104, 905, true}});
 }
 
 TEST(RecognitionTable, CommandsOfHalfLifeLeadBackButForTheSecondJump) {
-    ExpectReadBackButFor(9, {{112, 109, true},
-                             {1001, None, true},
-                             {1002, None, true},
-                             {1003, None, true},
-                             {1004, None, true},
-                             {1005, None, true}});
+    ExpectReadBackButFor(Game::HalfLife, {{112, 109, true},
+                                          {1001, None, true},
+                                          {1002, None, true},
+                                          {1003, None, true},
+                                          {1004, None, true},
+                                          {1005, None, true}});
 }
 
 TEST(RecognitionTable, CommandsOfUnrealLeadBackButForTheLookAndThoseThatBeginWithABlank) {
-    ExpectReadBackButFor(4, {{115, None, false},
-                             {408, None, false},
-                             {410, None, false},
-                             {411, None, false},
-                             {412, None, false},
-                             {413, None, false},
-                             {1001, None, true},
-                             {1002, None, true},
-                             {1003, None, true},
-                             {1004, None, true},
-                             {1005, None, true}});
+    ExpectReadBackButFor(Game::Unreal, {{115, None, false},
+                                        {408, None, false},
+                                        {410, None, false},
+                                        {411, None, false},
+                                        {412, None, false},
+                                        {413, None, false},
+                                        {1001, None, true},
+                                        {1002, None, true},
+                                        {1003, None, true},
+                                        {1004, None, true},
+                                        {1005, None, true}});
 }
 
 }  // namespace

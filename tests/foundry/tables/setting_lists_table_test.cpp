@@ -89,7 +89,7 @@ TEST(SettingListsTable, NothingIsSelectedAfterAFill) {
 
 TEST(SettingListsTable, TheMouseFilterIsOffOrOn) {
     ScriptSettings settings;
-    FillPageLists(settings, 1, 1, false);
+    FillPageLists(settings, Game::Quake, Dialect::Quake, false);
     EXPECT_EQ(settings.m_filter_Cbo.Items, (std::vector<Text>{"0", "1"}));
 }
 

@@ -89,28 +89,30 @@ TEST(FillSettingLists, EmptiesTheListsFirst) {
     EXPECT_EQ(settings.vidmode_Cbo.ListIndex, -1);
 }
 
-ScriptSettings Pages(Index kind, Index family, bool isMissionPack = false) {
+ScriptSettings Pages(Game kind, Dialect family, bool isMissionPack = false) {
     ScriptSettings settings;
     FillPageLists(settings, kind, family, isMissionPack);
     return settings;
 }
 
 TEST(FillPageLists, OffersTheCrosshairsOfTheKind) {
-    EXPECT_THAT(Pages(1, 1).Crosshair_Cbo.Items, ElementsAre("0", "1", "2"));
-    EXPECT_THAT(Pages(2, 1).Crosshair_Cbo.Items, ElementsAre("0", "1", "2"));
-    EXPECT_THAT(Pages(3, 3).Crosshair_Cbo.Items,
+    EXPECT_THAT(Pages(Game::Quake, Dialect::Quake).Crosshair_Cbo.Items, ElementsAre("0", "1", "2"));
+    EXPECT_THAT(Pages(Game::Hexen2, Dialect::Quake).Crosshair_Cbo.Items, ElementsAre("0", "1", "2"));
+    EXPECT_THAT(Pages(Game::Quake2, Dialect::Quake2).Crosshair_Cbo.Items,
                 ElementsAre("0 (none)", "1 (white cross)", "2 (red dot)", "3 (red angle)"));
-    EXPECT_THAT(Pages(9, 3).Crosshair_Cbo.Items, ElementsAre("0 (none)", "1 (crosshair on)"));
+    EXPECT_THAT(Pages(Game::HalfLife, Dialect::Quake2).Crosshair_Cbo.Items,
+                ElementsAre("0 (none)", "1 (crosshair on)"));
 }
 
 TEST(FillPageLists, OffersHandsInTheNewConsoleButHalfLife) {
-    EXPECT_THAT(Pages(6, 3).Handed_Cbo.Items, ElementsAre("0 (right)", "1 (left)", "2 (none)"));
-    EXPECT_TRUE(Pages(1, 1).Handed_Cbo.Items.empty());
-    EXPECT_TRUE(Pages(9, 3).Handed_Cbo.Items.empty());
+    EXPECT_THAT(Pages(Game::Heretic2, Dialect::Quake2).Handed_Cbo.Items,
+                ElementsAre("0 (right)", "1 (left)", "2 (none)"));
+    EXPECT_TRUE(Pages(Game::Quake, Dialect::Quake).Handed_Cbo.Items.empty());
+    EXPECT_TRUE(Pages(Game::HalfLife, Dialect::Quake2).Handed_Cbo.Items.empty());
 }
 
 TEST(FillPageLists, NamesThirtyOneOfThe256CrosshairColors) {
-    const std::vector<Text> colors = Pages(1, 1).CrossHairColor_Cbo.Items;
+    const std::vector<Text> colors = Pages(Game::Quake, Dialect::Quake).CrossHairColor_Cbo.Items;
     EXPECT_EQ(colors.size(), 256U);
     EXPECT_EQ(colors[0], "000 -Brown");
     EXPECT_EQ(colors[1], "001");
@@ -121,15 +123,16 @@ TEST(FillPageLists, NamesThirtyOneOfThe256CrosshairColors) {
 }
 
 TEST(FillPageLists, HasTheDemonessWithTheMissionPackOnly) {
-    EXPECT_THAT(Pages(2, 1).PlayerClass_Cbo.Items, ElementsAre("Paladin", "Crusader", "Necromancer", "Assassin"));
-    EXPECT_THAT(Pages(2, 1, true).PlayerClass_Cbo.Items,
+    EXPECT_THAT(Pages(Game::Hexen2, Dialect::Quake).PlayerClass_Cbo.Items,
+                ElementsAre("Paladin", "Crusader", "Necromancer", "Assassin"));
+    EXPECT_THAT(Pages(Game::Hexen2, Dialect::Quake, true).PlayerClass_Cbo.Items,
                 ElementsAre("Paladin", "Crusader", "Necromancer", "Assassin", "Demoness"));
-    EXPECT_EQ(Pages(2, 1).PlayerClass_Cbo.ListIndex, 0);
-    EXPECT_TRUE(Pages(1, 1, true).PlayerClass_Cbo.Items.empty());
+    EXPECT_EQ(Pages(Game::Hexen2, Dialect::Quake).PlayerClass_Cbo.ListIndex, 0);
+    EXPECT_TRUE(Pages(Game::Quake, Dialect::Quake, true).PlayerClass_Cbo.Items.empty());
 }
 
 TEST(FillPageLists, WritesUnrealsNumbersAsItsIniDoes) {
-    const ScriptSettings settings = Pages(4, 4);
+    const ScriptSettings settings = Pages(Game::Unreal, Dialect::Unreal);
     EXPECT_THAT(settings.UnrealAudio_Cbo[0].Items, ElementsAre("True", "False"));
     EXPECT_THAT(settings.UnrealAudio_Cbo[10].Items, ElementsAre("True", "False"));
     EXPECT_EQ(settings.UnrealAudio_Cbo[11].Items.size(), 11U);
@@ -143,7 +146,7 @@ TEST(FillPageLists, WritesUnrealsNumbersAsItsIniDoes) {
 }
 
 TEST(FillPageLists, OffersUnrealsPlayerItsChoices) {
-    const ScriptSettings settings = Pages(4, 4);
+    const ScriptSettings settings = Pages(Game::Unreal, Dialect::Unreal);
     EXPECT_THAT(settings.PlayerPawn_Cbo[0].Items,
                 ElementsAre("0.000000", "0.125000", "0.250000", "0.375000", "0.500000", "0.675000", "0.750000",
                             "0.875000", "1.000000"));

@@ -37,12 +37,12 @@ constexpr GroupColorRow kGroupsOfHalfLife[] = {
 // clang-format on
 
 TEST(SlotColorsTable, EachGroupHasItsColorInEachKind) {
-    for (const int kind : listing::kKinds) {
+    for (const Game kind : listing::kKinds) {
         for (const auto& group : kGroups) {
-            const bool ofTheCamera = kind == 9 && (group.First == 1101 || group.First == 1120);
+            const bool ofTheCamera = kind == Game::HalfLife && (group.First == 1101 || group.First == 1120);
             for (int slot = group.First; !ofTheCamera && slot <= group.Last; ++slot) {
-                EXPECT_EQ(SlotColor(static_cast<SlotNumber>(slot), static_cast<Index>(kind)), group.Back)
-                    << slot << " in " << kind;
+                EXPECT_EQ(SlotColor(static_cast<SlotNumber>(slot), kind), group.Back)
+                    << slot << " in " << NumberOf(kind);
             }
         }
     }
@@ -51,27 +51,27 @@ TEST(SlotColorsTable, EachGroupHasItsColorInEachKind) {
 TEST(SlotColorsTable, CameraTricksOfHalfLifeHaveTheirOwn) {
     for (const auto& group : kGroupsOfHalfLife) {
         for (int slot = group.First; slot <= group.Last; ++slot) {
-            EXPECT_EQ(SlotColor(static_cast<SlotNumber>(slot), 9), group.Back) << slot;
+            EXPECT_EQ(SlotColor(static_cast<SlotNumber>(slot), Game::HalfLife), group.Back) << slot;
         }
     }
 }
 
 TEST(SlotColorsTable, HeadingsHaveTheColorOfTheirGroup) {
-    EXPECT_EQ(SlotColor(100, 1), 0x00c000u);
-    EXPECT_EQ(SlotColor(200, 1), 0x00c0c0u);
-    EXPECT_EQ(SlotColor(300, 1), 0xc0c000u);
-    EXPECT_EQ(SlotColor(400, 1), 0xff8080u);
-    EXPECT_EQ(SlotColor(500, 1), 0x8080ffu);
-    EXPECT_EQ(SlotColor(700, 1), 0xff80ffu);
-    EXPECT_EQ(SlotColor(800, 1), 0x80c0ffu);
-    EXPECT_EQ(SlotColor(67, 1), 0x80ffffu);
-    EXPECT_EQ(SlotColor(900, 2), 0xffc0c0u);
-    EXPECT_EQ(SlotColor(950, 2), 0xffc0c0u);
-    EXPECT_EQ(SlotColor(1000, 1), 0xffc0ffu);
-    EXPECT_EQ(SlotColor(1100, 3), 0xffc0c0u);
-    EXPECT_EQ(SlotColor(1198, 3), 0xffc0c0u);
-    EXPECT_EQ(SlotColor(1199, 3), 0xffc0c0u);
-    EXPECT_EQ(SlotColor(1100, 9), 0xffc0ffu);
+    EXPECT_EQ(SlotColor(100, Game::Quake), 0x00c000u);
+    EXPECT_EQ(SlotColor(200, Game::Quake), 0x00c0c0u);
+    EXPECT_EQ(SlotColor(300, Game::Quake), 0xc0c000u);
+    EXPECT_EQ(SlotColor(400, Game::Quake), 0xff8080u);
+    EXPECT_EQ(SlotColor(500, Game::Quake), 0x8080ffu);
+    EXPECT_EQ(SlotColor(700, Game::Quake), 0xff80ffu);
+    EXPECT_EQ(SlotColor(800, Game::Quake), 0x80c0ffu);
+    EXPECT_EQ(SlotColor(67, Game::Quake), 0x80ffffu);
+    EXPECT_EQ(SlotColor(900, Game::Hexen2), 0xffc0c0u);
+    EXPECT_EQ(SlotColor(950, Game::Hexen2), 0xffc0c0u);
+    EXPECT_EQ(SlotColor(1000, Game::Quake), 0xffc0ffu);
+    EXPECT_EQ(SlotColor(1100, Game::Quake2), 0xffc0c0u);
+    EXPECT_EQ(SlotColor(1198, Game::Quake2), 0xffc0c0u);
+    EXPECT_EQ(SlotColor(1199, Game::Quake2), 0xffc0c0u);
+    EXPECT_EQ(SlotColor(1100, Game::HalfLife), 0xffc0ffu);
 }
 
 }  // namespace

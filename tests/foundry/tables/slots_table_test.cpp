@@ -21,26 +21,26 @@ using listing::kNotShown;
 using listing::kSlotRuns;
 
 struct KindListing {
-    int Kind;
+    Game Kind;
     std::span<const listing::SlotRow> Slots;
     std::span<const listing::HeadingRow> Headings;
     std::span<const int> Hidden;
 };
 
 const KindListing kListings[] = {
-    {1, listing::kSlotsOfQuake, {}, listing::kHiddenInQuake},
-    {2, listing::kSlotsOfHexen2, listing::kHeadingsOfHexen2, listing::kHiddenInHexen2},
-    {3, listing::kSlotsOfQuake2, listing::kHeadingsOfQuake2, listing::kHiddenInQuake2},
-    {4, listing::kSlotsOfUnreal, listing::kHeadingsOfUnreal, listing::kHiddenInUnreal},
-    {5, listing::kSlotsOfSin, listing::kHeadingsOfSin, listing::kHiddenInSin},
-    {6, listing::kSlotsOfHeretic2, listing::kHeadingsOfHeretic2, listing::kHiddenInHeretic2},
-    {9, listing::kSlotsOfHalfLife, listing::kHeadingsOfHalfLife, listing::kHiddenInHalfLife},
+    {Game::Quake, listing::kSlotsOfQuake, {}, listing::kHiddenInQuake},
+    {Game::Hexen2, listing::kSlotsOfHexen2, listing::kHeadingsOfHexen2, listing::kHiddenInHexen2},
+    {Game::Quake2, listing::kSlotsOfQuake2, listing::kHeadingsOfQuake2, listing::kHiddenInQuake2},
+    {Game::Unreal, listing::kSlotsOfUnreal, listing::kHeadingsOfUnreal, listing::kHiddenInUnreal},
+    {Game::Sin, listing::kSlotsOfSin, listing::kHeadingsOfSin, listing::kHiddenInSin},
+    {Game::Heretic2, listing::kSlotsOfHeretic2, listing::kHeadingsOfHeretic2, listing::kHiddenInHeretic2},
+    {Game::HalfLife, listing::kSlotsOfHalfLife, listing::kHeadingsOfHalfLife, listing::kHiddenInHalfLife},
 };
 
 /// Empty tables, filled for the kind.
-ScriptDocument Filled(int kind) {
+ScriptDocument Filled(Game kind) {
     ScriptDocument document;
-    FillCommandTable(document, static_cast<Index>(kind));
+    FillCommandTable(document, kind);
     return document;
 }
 
@@ -63,12 +63,12 @@ TEST(SlotsTable, EachNumberHasItsCommandOrNoneInEachKind) {
     for (const KindListing& listing : kListings) {
         std::map<int, const char*> expected;
         for (const auto& row : listing.Slots) {
-            ASSERT_TRUE(expected.emplace(row.Slot, row.Command).second) << row.Slot << " in " << listing.Kind;
+            ASSERT_TRUE(expected.emplace(row.Slot, row.Command).second) << row.Slot << " in " << NumberOf(listing.Kind);
         }
         const ScriptDocument document = Filled(listing.Kind);
         for (SlotNumber slot = 101; slot <= 1124; ++slot) {
             EXPECT_EQ(document.SlotCommand[slot], expected.contains(slot) ? expected[slot] : "")
-                << slot << " in " << listing.Kind;
+                << slot << " in " << NumberOf(listing.Kind);
         }
     }
 }
@@ -79,7 +79,7 @@ TEST(SlotsTable, EachShownSlotHasItsCaptionInEachKind) {
         for (const auto& row : listing.Slots) {
             if (row.Caption != kNotShown) {
                 EXPECT_EQ(document.Bound_Lbl[static_cast<SlotNumber>(row.Slot)].Caption, row.Caption)
-                    << row.Slot << " in " << listing.Kind;
+                    << row.Slot << " in " << NumberOf(listing.Kind);
             }
         }
     }
@@ -102,7 +102,7 @@ TEST(SlotsTable, NoKeyIsSetToASlotAtFirst) {
     for (const KindListing& listing : kListings) {
         const ScriptDocument document = Filled(listing.Kind);
         for (SlotNumber slot = 101; slot <= 1124; ++slot) {
-            EXPECT_EQ(document.Setting_Lbl[slot].Caption, "") << slot << " in " << listing.Kind;
+            EXPECT_EQ(document.Setting_Lbl[slot].Caption, "") << slot << " in " << NumberOf(listing.Kind);
         }
     }
 }
@@ -112,7 +112,7 @@ TEST(SlotsTable, HeadingsNameTheKindsOwnBlocks) {
         const ScriptDocument document = Filled(listing.Kind);
         for (const auto& row : listing.Headings) {
             EXPECT_EQ(document.Bound_Lbl[static_cast<SlotNumber>(row.Heading)].Caption, row.Caption)
-                << row.Heading << " in " << listing.Kind;
+                << row.Heading << " in " << NumberOf(listing.Kind);
         }
     }
 }
@@ -121,18 +121,20 @@ TEST(SlotsTable, WhatAKindHasNotIsHidden) {
     for (const KindListing& listing : kListings) {
         const ScriptDocument document = Filled(listing.Kind);
         for (const int slot : listing.Hidden) {
-            EXPECT_FALSE(document.Bound_Lbl[static_cast<SlotNumber>(slot)].Visible) << slot << " in " << listing.Kind;
-            EXPECT_FALSE(document.Setting_Lbl[static_cast<SlotNumber>(slot)].Visible) << slot << " in " << listing.Kind;
+            EXPECT_FALSE(document.Bound_Lbl[static_cast<SlotNumber>(slot)].Visible)
+                << slot << " in " << NumberOf(listing.Kind);
+            EXPECT_FALSE(document.Setting_Lbl[static_cast<SlotNumber>(slot)].Visible)
+                << slot << " in " << NumberOf(listing.Kind);
         }
     }
 }
 
 /// Whether the kind has the page on which the slot stands.
-bool PageIsOn(int slot, int kind) {
-    const std::set<int> actions = {2, 6, 9};
-    const std::set<int> inventory = {3, 4, 5, 9};
+bool PageIsOn(int slot, Game kind) {
+    const std::set<Game> actions = {Game::Hexen2, Game::Heretic2, Game::HalfLife};
+    const std::set<Game> inventory = {Game::Quake2, Game::Unreal, Game::Sin, Game::HalfLife};
     return slot >= 1101   ? inventory.contains(kind)
-           : slot >= 1001 ? kind == 1
+           : slot >= 1001 ? kind == Game::Quake
            : slot >= 901  ? actions.contains(kind)
                           : true;
 }
@@ -143,7 +145,7 @@ TEST(SlotsTable, WhatAKindHasIsShown) {
         for (const auto& row : listing.Slots) {
             if (PageIsOn(row.Slot, listing.Kind) && !IsHidden(listing, row.Slot)) {
                 EXPECT_TRUE(document.Bound_Lbl[static_cast<SlotNumber>(row.Slot)].Visible)
-                    << row.Slot << " in " << listing.Kind;
+                    << row.Slot << " in " << NumberOf(listing.Kind);
             }
         }
     }

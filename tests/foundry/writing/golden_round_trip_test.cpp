@@ -50,27 +50,28 @@ void ExpectSame(const Text& name, const ScriptDialect& dialect) {
 
 TEST(GoldenRoundTrip, QuakeLosesOnlyTheBindingOfNothing) {
     const Text script = Golden("quake.cfg");
-    ExpectSaved(script, {.GameKind = 1, .ScriptFamily = 1}, Changed(script, {{"bind \"\\\"             \"\"", ""}}));
+    ExpectSaved(script, {.GameKind = Game::Quake, .ScriptFamily = Dialect::Quake},
+                Changed(script, {{"bind \"\\\"             \"\"", ""}}));
 }
 
 TEST(GoldenRoundTrip, Quake2) {
-    ExpectSame("quake2.cfg", {.GameKind = 3, .ScriptFamily = 3});
+    ExpectSame("quake2.cfg", {.GameKind = Game::Quake2, .ScriptFamily = Dialect::Quake2});
 }
 
 TEST(GoldenRoundTrip, Sin) {
-    ExpectSame("sin.cfg", {.GameKind = 5, .ScriptFamily = 3});
+    ExpectSame("sin.cfg", {.GameKind = Game::Sin, .ScriptFamily = Dialect::Quake2});
 }
 
 TEST(GoldenRoundTrip, Heretic2) {
-    ExpectSame("heretic2.cfg", {.GameKind = 6, .ScriptFamily = 3});
+    ExpectSame("heretic2.cfg", {.GameKind = Game::Heretic2, .ScriptFamily = Dialect::Quake2});
 }
 
 TEST(GoldenRoundTrip, Hexen2) {
-    ExpectSame("hexen2.cfg", {.GameKind = 2, .ScriptFamily = 1, .DecimalSeparator = ','});
+    ExpectSame("hexen2.cfg", {.GameKind = Game::Hexen2, .ScriptFamily = Dialect::Quake, .DecimalSeparator = ','});
 }
 
 TEST(GoldenRoundTrip, HalfLife) {
-    ExpectSame("halflife.cfg", {.GameKind = 9, .ScriptFamily = 3});
+    ExpectSame("halflife.cfg", {.GameKind = Game::HalfLife, .ScriptFamily = Dialect::Quake2});
 }
 
 TEST(GoldenRoundTrip, UnrealWithBothAxes) {
@@ -78,7 +79,7 @@ TEST(GoldenRoundTrip, UnrealWithBothAxes) {
         Changed(Golden("unreal.ini"), {{"Minus=SwitchWeapon 4", "Minus=\r\n"},
                                        {"Enter=Feigndeath", "Enter=\r\n"},
                                        {"MouseY=JoyX=Axis aStrafe", "MouseY=Axis aMouseY Speed=7.0\r\n\r\n"}});
-    ExpectSaved(script, {.GameKind = 4, .ScriptFamily = 4}, script);
+    ExpectSaved(script, {.GameKind = Game::Unreal, .ScriptFamily = Dialect::Unreal}, script);
 }
 
 TEST(GoldenRoundTrip, TheSecondEnterOfUnrealTakesThePlaceOfTheFirst) {
@@ -87,7 +88,8 @@ TEST(GoldenRoundTrip, TheSecondEnterOfUnrealTakesThePlaceOfTheFirst) {
                                        {"MouseY=JoyX=Axis aStrafe", "MouseY=Axis aMouseY Speed=7.0\r\n\r\n"}});
     const Text expected = Changed(script, {{"Enter=InventoryActivate", "Enter=Feigndeath\r\n"}});
     const std::size_t second = expected.rfind("Enter=Feigndeath");
-    ExpectSaved(script, {.GameKind = 4, .ScriptFamily = 4}, Text(expected).erase(second + 6, 10));
+    ExpectSaved(script, {.GameKind = Game::Unreal, .ScriptFamily = Dialect::Unreal},
+                Text(expected).erase(second + 6, 10));
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ void Select(ListBox& list, const Text& text) {
     }
 }
 
-ScriptDocument Document(Index kind, Index family, char decimalSeparator = '.') {
+ScriptDocument Document(Game kind, Dialect family, char decimalSeparator = '.') {
     return MakeScriptDocument({.GameKind = kind, .ScriptFamily = family, .DecimalSeparator = decimalSeparator});
 }
 
@@ -91,7 +91,7 @@ void AddAliases(ScriptDocument& document) {
 }
 
 TEST(GoldenScripts, QuakeWithoutTheCrosshairsColorThatQuakeWorldHas) {
-    ScriptDocument document = Document(1, 1);
+    ScriptDocument document = Document(Game::Quake, Dialect::Quake);
     SetEverything(document);
     AddAliases(document);
     document.Unbindall_Chk.Value = 1;
@@ -116,11 +116,11 @@ TEST(GoldenScripts, QuakeWithoutTheCrosshairsColorThatQuakeWorldHas) {
 }
 
 TEST(GoldenScripts, AnEmptyDocument) {
-    ExpectScript(ComposeScript(Document(1, 1), {1998, 12, 31}), Golden("quake_empty.cfg"));
+    ExpectScript(ComposeScript(Document(Game::Quake, Dialect::Quake), {1998, 12, 31}), Golden("quake_empty.cfg"));
 }
 
 TEST(GoldenScripts, QuakeWorld) {
-    ScriptDocument document = Document(1, 1);
+    ScriptDocument document = Document(Game::Quake, Dialect::Quake);
     document.Dialect.IsQuakeWorld = true;
     document.Name_Txt.Text = "Joe";
     document.NoColors_Chk.Value = 1;
@@ -133,7 +133,7 @@ TEST(GoldenScripts, QuakeWorld) {
 }
 
 TEST(GoldenScripts, Hexen2WhereTheLocaleHasAComma) {
-    ScriptDocument document = Document(2, 1, ',');
+    ScriptDocument document = Document(Game::Hexen2, Dialect::Quake, ',');
     SetEverything(document);
     document.PlayerClass_Cbo.ListIndex = 2;
     Bind(document, {{5, "impulse 100"}, {77, "impulse 103"}, {82, "+klook"}, {104, "+crouch"}});
@@ -142,7 +142,7 @@ TEST(GoldenScripts, Hexen2WhereTheLocaleHasAComma) {
 }
 
 TEST(GoldenScripts, Quake2WithTheKeypad) {
-    ScriptDocument document = Document(3, 3);
+    ScriptDocument document = Document(Game::Quake2, Dialect::Quake2);
     SetEverything(document);
     AddAliases(document);
     document.Unbindall_Chk.Value = 1;
@@ -168,7 +168,7 @@ TEST(GoldenScripts, Quake2WithTheKeypad) {
 }
 
 TEST(GoldenScripts, SinWithLittleSelected) {
-    ScriptDocument document = Document(5, 3);
+    ScriptDocument document = Document(Game::Sin, Dialect::Quake2);
     document.Name_Txt.Text = "Joe";
     Select(document.Sex_Cbo, "blade");
     Select(document.Skin_Cbo, "base");
@@ -182,7 +182,7 @@ TEST(GoldenScripts, SinWithLittleSelected) {
 }
 
 TEST(GoldenScripts, Heretic2WithAPitchThatIsNegativeTwice) {
-    ScriptDocument document = Document(6, 3);
+    ScriptDocument document = Document(Game::Heretic2, Dialect::Quake2);
     document.Name_Txt.Text = "Joe";
     Select(document.Sex_Cbo, "male");
     Select(document.Skin_Cbo, "Corvus");
@@ -202,7 +202,7 @@ TEST(GoldenScripts, Heretic2WithAPitchThatIsNegativeTwice) {
 }
 
 TEST(GoldenScripts, HalfLifeWithTheWeaponThatHasCapitals) {
-    ScriptDocument document = Document(9, 3);
+    ScriptDocument document = Document(Game::HalfLife, Dialect::Quake2);
     SetEverything(document);
     document.Handed_Cbo.ListIndex = 0;
     AddAliases(document);
@@ -212,7 +212,7 @@ TEST(GoldenScripts, HalfLifeWithTheWeaponThatHasCapitals) {
 }
 
 TEST(GoldenScripts, Unreal) {
-    ScriptDocument document = Document(4, 4);
+    ScriptDocument document = Document(Game::Unreal, Dialect::Unreal);
     document.Name_Txt.Text = "Joe_Ranger";
     document.UnrealTeamName_Txt.Text = "Reds";
     document.UnrealPassword_Txt.Text = "SeCret";

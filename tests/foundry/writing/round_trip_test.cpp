@@ -280,12 +280,12 @@ TEST(RoundTrip, SurvivesHostileScripts) {
 }
 
 TEST(RoundTrip, AnUnrealIniKeepsTheCommandThatIsWrittenWithABlankAhead) {
-    const Text first = ComposeScript(ReadScript(4,
+    const Text first = ComposeScript(ReadScript(Game::Unreal,
                                                 "[Engine.Input]\nF10=Cancel\nF9=Taunt Wave\n"
                                                 "MouseX=Axis aMouseX Speed=6.0\nMouseY=Axis aMouseY Speed=6.0\n"),
                                      kScriptDay);
     EXPECT_NE(first.find("F10= Cancel\r\n"), Text::npos) << first;
-    const ScriptDocument again = ReadScript(4, first);
+    const ScriptDocument again = ReadScript(Game::Unreal, first);
     EXPECT_EQ(again.Setting_Lbl[411].Caption, "{F10}");
     EXPECT_EQ(ComposeScript(again, kScriptDay), first);
 }

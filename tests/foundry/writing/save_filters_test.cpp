@@ -6,22 +6,22 @@ namespace lv {
 namespace {
 
 struct Row {
-    Index GameKind;
+    Game GameKind;
     TextView Extension;
     TextView Filter;
 };
 
 TEST(SaveFilter, IsThatOfTheKind) {
     const Row rows[] = {
-        {1, "cfg", "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"},
-        {1, "qs", "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"},
-        {2, "cfg", "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*"},
-        {3, "q2s", "Quake2 Scripts (*.cfg, *.q2s)|*.cfg;*.q2s|All Files (*.*)|*.*"},
-        {5, "cfg", "Sin Scripts (*.cfg, *.ss)|*.cfg;*.ss|All Files (*.*)|*.*"},
-        {4, "ini", "Unreal INIs (*.ini)|*.ini|All Files (*.*)|*.*"},
-        {6, "hrs", "Heretic2 Scripts (*.cfg, *.hrs)|*.cfg;*.hrs|All Files (*.*)|*.*"},
-        {9, "cfg", "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
-        {0, "cfg", "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
+        {Game::Quake, "cfg", "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"},
+        {Game::Quake, "qs", "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"},
+        {Game::Hexen2, "cfg", "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*"},
+        {Game::Quake2, "q2s", "Quake2 Scripts (*.cfg, *.q2s)|*.cfg;*.q2s|All Files (*.*)|*.*"},
+        {Game::Sin, "cfg", "Sin Scripts (*.cfg, *.ss)|*.cfg;*.ss|All Files (*.*)|*.*"},
+        {Game::Unreal, "ini", "Unreal INIs (*.ini)|*.ini|All Files (*.*)|*.*"},
+        {Game::Heretic2, "hrs", "Heretic2 Scripts (*.cfg, *.hrs)|*.cfg;*.hrs|All Files (*.*)|*.*"},
+        {Game::HalfLife, "cfg", "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
+        {Game::None, "cfg", "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(SaveFilter(row.GameKind, row.Extension), row.Filter) << row.GameKind;
@@ -30,11 +30,11 @@ TEST(SaveFilter, IsThatOfTheKind) {
 
 TEST(SaveFilter, TakesAThirdExtension) {
     const Row rows[] = {
-        {1, "rc", "Quake Scripts (*.cfg, *.qs, *.rc)|*.cfg;*.qs;*.rc|All Files (*.*)|*.*"},
-        {3, "rc", "Quake2 Scripts (*.cfg, *.q2s, *.rc)|*.cfg;*.q2s;*.rc|All Files (*.*)|*.*"},
-        {4, "cfg", "Unreal INIs (*.ini, *.cfg)|*.ini;*.cfg|All Files (*.*)|*.*"},
-        {6, "rc", "Heretic2 Scripts (*.cfg, *.hrs, *.rc)|*.cfg;*.hrs;*.rc|All Files (*.*)|*.*"},
-        {9, "qs", "Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"},
+        {Game::Quake, "rc", "Quake Scripts (*.cfg, *.qs, *.rc)|*.cfg;*.qs;*.rc|All Files (*.*)|*.*"},
+        {Game::Quake2, "rc", "Quake2 Scripts (*.cfg, *.q2s, *.rc)|*.cfg;*.q2s;*.rc|All Files (*.*)|*.*"},
+        {Game::Unreal, "cfg", "Unreal INIs (*.ini, *.cfg)|*.ini;*.cfg|All Files (*.*)|*.*"},
+        {Game::Heretic2, "rc", "Heretic2 Scripts (*.cfg, *.hrs, *.rc)|*.cfg;*.hrs;*.rc|All Files (*.*)|*.*"},
+        {Game::HalfLife, "qs", "Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(SaveFilter(row.GameKind, row.Extension), row.Filter) << row.GameKind;
@@ -42,15 +42,15 @@ TEST(SaveFilter, TakesAThirdExtension) {
 }
 
 TEST(SaveFilter, OfHexenAndSinTestsTheExtensionsOfOthers) {
-    EXPECT_EQ(SaveFilter(2, "qs"), "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*");
-    EXPECT_EQ(SaveFilter(2, "hs"), "Hexen Scripts (*.cfg, *.hs, *.hs)|*.cfg;*.hs;*.hs|All Files (*.*)|*.*");
-    EXPECT_EQ(SaveFilter(5, "q2s"), "Sin Scripts (*.cfg, *.ss)|*.cfg;*.ss|All Files (*.*)|*.*");
-    EXPECT_EQ(SaveFilter(5, "ss"), "Sin Scripts (*.cfg, *.ss, *.ss)|*.cfg;*.ss;*.ss|All Files (*.*)|*.*");
+    EXPECT_EQ(SaveFilter(Game::Hexen2, "qs"), "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*");
+    EXPECT_EQ(SaveFilter(Game::Hexen2, "hs"), "Hexen Scripts (*.cfg, *.hs, *.hs)|*.cfg;*.hs;*.hs|All Files (*.*)|*.*");
+    EXPECT_EQ(SaveFilter(Game::Sin, "q2s"), "Sin Scripts (*.cfg, *.ss)|*.cfg;*.ss|All Files (*.*)|*.*");
+    EXPECT_EQ(SaveFilter(Game::Sin, "ss"), "Sin Scripts (*.cfg, *.ss, *.ss)|*.cfg;*.ss;*.ss|All Files (*.*)|*.*");
 }
 
 TEST(SaveFilter, TakesNoExtensionThatWouldBreakIt) {
     for (const TextView odd : {"", "c|g", "c;g"}) {
-        EXPECT_EQ(SaveFilter(9, odd), "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*") << odd;
+        EXPECT_EQ(SaveFilter(Game::HalfLife, odd), "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*") << odd;
     }
 }
 

@@ -78,8 +78,8 @@ TEST(UnrealRounds, TheSecondSaveIsTheThird) {
     Inis inis(14);
     for (int i = 0; i < kInis; ++i) {
         const Text ini = inis.Next();
-        const Text second = Saved(ReadScript(4, Saved(ReadScript(4, ini))));
-        ASSERT_EQ(Saved(ReadScript(4, second)), second) << ini;
+        const Text second = Saved(ReadScript(Game::Unreal, Saved(ReadScript(Game::Unreal, ini))));
+        ASSERT_EQ(Saved(ReadScript(Game::Unreal, second)), second) << ini;
     }
 }
 
@@ -87,8 +87,8 @@ TEST(UnrealRounds, LoseNoBindAndNoAlias) {
     Inis inis(15);
     for (int i = 0; i < kInis; ++i) {
         const Text ini = inis.Next();
-        const ScriptDocument first = ReadScript(4, ini);
-        const ScriptDocument third = ReadScript(4, Saved(ReadScript(4, Saved(first))));
+        const ScriptDocument first = ReadScript(Game::Unreal, ini);
+        const ScriptDocument third = ReadScript(Game::Unreal, Saved(ReadScript(Game::Unreal, Saved(first))));
         ASSERT_EQ(third.KeyBinding, first.KeyBinding) << ini;
         ASSERT_EQ(AliasesOf(third), AliasesOf(first)) << ini;
         ASSERT_EQ(third.MouseBind_Cbo[0].Selected(), first.MouseBind_Cbo[0].Selected()) << ini;
@@ -100,21 +100,21 @@ TEST(UnrealRounds, KeepEachLineThatTheyDoNotUnderstand) {
     Inis inis(16);
     for (int i = 0; i < kInis; ++i) {
         const Text ini = inis.Next();
-        const ScriptDocument first = ReadScript(4, ini);
-        ASSERT_EQ(KeptLines(ReadScript(4, Saved(first))), KeptLines(first)) << ini;
+        const ScriptDocument first = ReadScript(Game::Unreal, ini);
+        ASSERT_EQ(KeptLines(ReadScript(Game::Unreal, Saved(first))), KeptLines(first)) << ini;
     }
 }
 
 TEST(UnrealRounds, AnIniWithoutMouseSpeedsStaysAsLong) {
-    const Text first = Saved(ReadScript(4, "[Engine.Input]\r\nA=Fire\r\n"));
+    const Text first = Saved(ReadScript(Game::Unreal, "[Engine.Input]\r\nA=Fire\r\n"));
     EXPECT_EQ(CountLines(first, "MouseX=MouseY="), 1);
-    EXPECT_EQ(Saved(ReadScript(4, first)), first);
+    EXPECT_EQ(Saved(ReadScript(Game::Unreal, first)), first);
 }
 
 TEST(UnrealRounds, AnIniThatHasGrownComesBackToItsSize) {
-    const Text grown =
-        Saved(ReadScript(4, "[Engine.Input]\r\nMouseX=MouseY=mousex=MouseY=mousex=MouseY=\r\n\r\nA=Fire\r\n"));
-    EXPECT_EQ(grown, Saved(ReadScript(4, "[Engine.Input]\r\nA=Fire\r\n")));
+    const Text grown = Saved(
+        ReadScript(Game::Unreal, "[Engine.Input]\r\nMouseX=MouseY=mousex=MouseY=mousex=MouseY=\r\n\r\nA=Fire\r\n"));
+    EXPECT_EQ(grown, Saved(ReadScript(Game::Unreal, "[Engine.Input]\r\nA=Fire\r\n")));
 }
 
 }  // namespace

@@ -9,13 +9,20 @@
 
 namespace {
 
-struct Game {
-    lv::Index Kind;
+struct PlayedGame {
+    lv::Game Kind;
     bool QuakeWorld;
 };
 
-constexpr std::array<Game, 9> kGames = {
-    {{1, false}, {1, true}, {2, false}, {3, false}, {4, false}, {5, false}, {6, false}, {9, false}, {0, false}}};
+constexpr std::array<PlayedGame, 9> kGames = {{{lv::Game::Quake, false},
+                                               {lv::Game::Quake, true},
+                                               {lv::Game::Hexen2, false},
+                                               {lv::Game::Quake2, false},
+                                               {lv::Game::Unreal, false},
+                                               {lv::Game::Sin, false},
+                                               {lv::Game::Heretic2, false},
+                                               {lv::Game::HalfLife, false},
+                                               {lv::Game::None, false}}};
 
 /// Texts are as wide as they are long, and a row shows 20 characters.
 class NarrowView : public lv::ScriptView {

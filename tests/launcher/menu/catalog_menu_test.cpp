@@ -69,7 +69,7 @@ TEST_F(CatalogMenu, AnAddedExecutableIsTheGameNow) {
         AddExe_OK_Cmd_Click(form);
     });
     Click(MenuItem::ExeAddManual_Bar);
-    EXPECT_EQ(run.GameKind, 3);
+    EXPECT_EQ(run.GameKind, Game::Quake2);
 }
 
 TEST_F(CatalogMenu, AnEditedExecutableIsTheGameNow) {
@@ -81,7 +81,7 @@ TEST_F(CatalogMenu, AnEditedExecutableIsTheGameNow) {
         AddExe_OK_Cmd_Click(form);
     });
     Click(MenuItem::ExeEdit_Bar);
-    EXPECT_EQ(run.GameKind, 3);
+    EXPECT_EQ(run.GameKind, Game::Quake2);
 }
 
 TEST_F(CatalogMenu, ADeletedExecutableLeavesTheFirstOneInItsPlace) {
@@ -89,7 +89,7 @@ TEST_F(CatalogMenu, ADeletedExecutableLeavesTheFirstOneInItsPlace) {
     ExpectDeletion();
     Click(MenuItem::ExeDelete_Bar);
     EXPECT_EQ(window.Exe_Cbo.ListIndex, 0);
-    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_EQ(run.GameKind, Game::Quake);
     EXPECT_EQ(Stored(kOptions, "ExecutablesPos"), "0");
 }
 

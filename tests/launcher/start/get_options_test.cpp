@@ -197,7 +197,7 @@ TEST_F(GetOptionsTest, WhatTheWizardStoredIsInTheList) {
     ExpectEmptyListQuestion(0);
     EXPECT_TRUE(GetOptions(launcher));
     EXPECT_EQ(window.Exe_Cbo.Items.size(), 1u);
-    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_EQ(run.GameKind, Game::Quake);
 }
 
 TEST_F(GetOptionsTest, AnOldCardNumberIsRaisedOnce) {
@@ -274,7 +274,7 @@ TEST_F(GetOptionsTest, TheStoredExecutableRunsTheChangeOfGame) {
     Save(run, kOptions, "ExecutablesPos", 3);
     EXPECT_TRUE(GetOptions(launcher));
     EXPECT_EQ(window.Exe_Cbo.ListIndex, 3);
-    EXPECT_EQ(run.GameKind, 3);
+    EXPECT_EQ(run.GameKind, Game::Quake2);
 }
 
 TEST_F(GetOptionsTest, AnOpenVideoProfileWindowIsUnloaded) {

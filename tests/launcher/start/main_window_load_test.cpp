@@ -77,7 +77,7 @@ TEST_F(MainWindowLoad, AStoredModificationTickIsThereAgain) {
     AddGames();
     Save(run, kOptions, "UseGames", 1);
     Load();
-    EXPECT_EQ(run.GameKind, 1);
+    EXPECT_EQ(run.GameKind, Game::Quake);
     EXPECT_EQ(window.Box(Option::Game_Chk).Value, 1);
     EXPECT_EQ(Stored(kOptions, "UseGames"), "1");
 }

@@ -25,7 +25,7 @@ TEST_F(Hint, TellsOfAProgramWithoutAGame) {
 TEST_F(Hint, NamesWhatF2Starts) {
     window.Exe_Cbo.Items = {{"Quake", "c:\\quake\\quake.exe", "QUAKE", "QUAKE"}};
     window.Exe_Cbo.ListIndex = 0;
-    run.GameKind = 1;
+    run.GameKind = Game::Quake;
     EXPECT_EQ(HintText(launcher), "F2 starts quake.exe.");
     window.Game_Cbo.Items = {Text("Capture the Flag") + Text(84, ' ') + "-game ctf"};
     window.Script_Cbo.Items = {Text("my.cfg") + Text(94, ' ') + "c:\\quake\\id1\\my.cfg"};
@@ -40,7 +40,7 @@ TEST_F(Hint, SaysThatF2ConfiguresGameSpyWhereThatIsTicked) {
     EXPECT_EQ(HintText(launcher), "No game is in the list yet.");
     window.Exe_Cbo.Items = {{"Quake", "c:\\quake\\quake.exe", "QUAKE", "QUAKE"}};
     window.Exe_Cbo.ListIndex = 0;
-    run.GameKind = 1;
+    run.GameKind = Game::Quake;
     EXPECT_EQ(HintText(launcher), "F2 configures GameSpy 3D to start your games.");
     window.Box(Option::LaunchQspy_Chk).Value = 0;
     EXPECT_EQ(HintText(launcher), "F2 starts quake.exe.");

@@ -201,7 +201,7 @@ TEST_F(LvEvents, PickingAGameSavesItsPosition) {
     Load();
     PickExe("C:\\QUAKE2\\QUAKE2.EXE");
     EXPECT_EQ(Stored(kOptions, "ExecutablesPos"), "3");
-    EXPECT_EQ(run.GameKind, 3);
+    EXPECT_EQ(run.GameKind, Game::Quake2);
 }
 
 TEST_F(LvEvents, AChangeOfGameLoadsTheProfileIntoAClosedWindow) {
@@ -263,7 +263,7 @@ TEST_F(LvEvents, TheCommandLineAdditionsAreSavedAtEachChange) {
 }
 
 TEST_F(LvEvents, ListenWarnsOnceAboutHalfLifesConsole) {
-    run.GameKind = 9;
+    run.GameKind = Game::HalfLife;
     user.Expect({"Half-Life Console Warning", "Click the button to launch the listen server.", 0, true});
     Click(Option::Listen_Chk, 1);
     EXPECT_EQ(Stored("ShowMessage", "HL_Listen_Server"), "0");
@@ -272,7 +272,7 @@ TEST_F(LvEvents, ListenWarnsOnceAboutHalfLifesConsole) {
 }
 
 TEST_F(LvEvents, TheBenchmarkOfHalfLifeNeedsADemo) {
-    run.GameKind = 9;
+    run.GameKind = Game::HalfLife;
     run.DefaultGameDirectory = "C:\\HL";
     system.Disk.AddDirectory("C:\\HL\\valve");
     system.Disk.AddFile("C:\\LORVANE\\hl1.dem", "a demo");
@@ -285,7 +285,7 @@ TEST_F(LvEvents, TheBenchmarkOfHalfLifeNeedsADemo) {
 }
 
 TEST_F(LvEvents, NoWarningComesForOtherGames) {
-    run.GameKind = 1;
+    run.GameKind = Game::Quake;
     Click(Option::Listen_Chk, 1);
     Click(Option::Bench_Chk, 1);
     EXPECT_TRUE(user.Asked.empty());

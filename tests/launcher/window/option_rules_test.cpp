@@ -73,10 +73,10 @@ TEST(LV_Frm, NamesItsLaunchButtons) {
     EXPECT_EQ(window.Exe_Cbo.ToolTip, "List of recognized games");
 }
 
-constexpr PanelGame kQuake = {1, 1, false, false};
-constexpr PanelGame kQuakeWorld = {1, 1, true, false};
-constexpr PanelGame kQuake2 = {3, 3, false, false};
-constexpr PanelGame kUnreal = {4, 4, false, false};
+constexpr PanelGame kQuake = {Game::Quake, Dialect::Quake, false, false};
+constexpr PanelGame kQuakeWorld = {Game::Quake, Dialect::Quake, true, false};
+constexpr PanelGame kQuake2 = {Game::Quake2, Dialect::Quake2, false, false};
+constexpr PanelGame kUnreal = {Game::Unreal, Dialect::Unreal, false, false};
 
 LV_Frm WithTicked(std::initializer_list<Option> options) {
     LV_Frm window;
@@ -111,7 +111,7 @@ TEST(ApplyGamePanels, LeavesAQuakeWorldClientItsModificationsAndDemos) {
 
 TEST(ApplyGamePanels, LeavesAHexenWorldClientTheListenServerToo) {
     LV_Frm window = WithTicked({Option::Demo_Chk});
-    ApplyGamePanels(window, {2, 1, false, true});
+    ApplyGamePanels(window, {Game::Hexen2, Dialect::Quake, false, true});
     EXPECT_EQ(window.Box(Option::Demo_Chk).Value, 0);
     EXPECT_TRUE(window.Demo_Pan.Enabled);
     EXPECT_TRUE(window.Box(Option::Game_Chk).Enabled);
