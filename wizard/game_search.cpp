@@ -1,10 +1,11 @@
+#include "wizard/game_search.h"
+
 #include <algorithm>
 #include <limits>
 
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "wizard/disk_walk.h"
-#include "wizard/install_frm.h"
 
 namespace lv {
 

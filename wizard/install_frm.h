@@ -48,12 +48,7 @@ struct InstallRow {
 };
 const std::array<InstallRow, kInstallRows>& InstallRows();
 
-/// Looks in the usual places, then on whole disks if the user wants that. While it runs it only asks it to stop.
-void Install_AutoSearch_Cmd_Click(Install_Frm& form);
 void Install_Browse_Cmd_Click(Install_Frm& form, int index);
-
-/// Turns the ticked rows into entries of the catalog of executables.
-void Install_OK_Cmd_Click(Install_Frm& form);
 void Install_Cancel_Cmd_Click(Install_Frm& form);
 
 /// The window's close box. True if the window may go; a search that runs is asked to stop first.

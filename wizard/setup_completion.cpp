@@ -1,8 +1,9 @@
+#include "wizard/setup_completion.h"
+
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/typed_path.h"
-#include "wizard/install_frm.h"
 
 namespace lv {
 

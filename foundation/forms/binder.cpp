@@ -1,17 +1,16 @@
 #include "foundation/forms/binder.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "foundation/field_strings.h"
-#include "foundation/forms/pictures.h"
+#include "foundation/forms/binder_lists.h"
 #include "foundation/forms/wx_text.h"
-#include "platform/long_list.h"
 #include "platform/spoken_name.h"
 
 namespace lv {
 
 namespace {
-
-constexpr std::size_t kRowsOfAMenu = 256;  // that one may still want to look through
-constexpr int kArrowWidth = 48;            // of a list's arrow and its margins, at 100 %
 
 // A control that shows no text of its own is called by its tool tip.
 bool ShowControl(const Control& model, wxWindow* view, Text& tip) {
@@ -30,26 +29,6 @@ bool ShowControl(const Control& model, wxWindow* view, Text& tip) {
     return view->IsShown() != model.Visible && view->Show(model.Visible);
 }
 
-/// A list's row, measured. Measuring costs more than all else that brings a list in line.
-struct MeasuredRow {
-    wxString Row;
-    int Width = -1;
-    bool Cut = false;
-};
-
-// A row that is wider than its list shows in full as the list's tool tip.
-void ShowFullRow(const Text& ownTip, const wxString& row, wxWindow* view, MeasuredRow& measured) {
-    const int width = view->GetClientSize().x;
-    if (measured.Row != row || measured.Width != width) {
-        const bool cut = view->GetTextExtent(row).x > width - view->FromDIP(kArrowWidth);
-        measured = {row, width, cut};
-    }
-    const wxString tip = measured.Cut ? row : ToWx(ownTip);
-    if (view->GetToolTipText() != tip) {
-        view->SetToolTip(tip);
-    }
-}
-
 /// The caption with each "&" shown as one.
 Text Literal(const Text& caption) {
     return ReplaceText(caption, "&", "&&");
@@ -60,18 +39,6 @@ void ShowLabel(const Text& caption, wxWindow* view) {
     if (view->GetLabel() != label) {
         view->SetLabel(label);
     }
-}
-
-bool SameRows(const ImageCombo& model, const std::vector<Text>& shown) {
-    if (model.Items.size() * 2 != shown.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < model.Items.size(); ++i) {
-        if (shown[i * 2] != model.Items[i].Title || shown[i * 2 + 1] != model.Items[i].Image) {
-            return false;
-        }
-    }
-    return true;
 }
 
 }  // namespace
@@ -141,28 +108,7 @@ void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler clic
         }
         Run(click);
     });
-    Add(name, model, view, [&model, view, none, shown = std::vector<Text>(), full = MeasuredRow()]() mutable {
-        if (shown != model.Items) {
-            shown = model.Items;
-            wxArrayString rows;
-            for (const Text& item : shown) {
-                rows.Add(ShownItem(item));
-            }
-            if (!none.empty() && !rows.empty()) {
-                rows.Add(none);
-            }
-            view->Clear();
-            if (rows.size() > kRowsOfAMenu) {
-                LetHaveManyRows(view->GetHandle());
-            }
-            view->Append(rows);
-        }
-        if (view->GetSelection() != model.ListIndex) {
-            view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
-        }
-        ShowFullRow(model.ToolTip, view->GetStringSelection(), view, full);
-        return false;
-    });
+    Add(name, model, view, ChoiceShower(model, view, none));
 }
 
 void Binder::Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, Handler click) {
@@ -170,24 +116,83 @@ void Binder::Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, H
         model.ListIndex = view->GetSelection();
         Run(click);
     });
-    Add(name, model, view, [&model, view, shown = std::vector<Text>(), full = MeasuredRow()]() mutable {
-        if (!SameRows(model, shown)) {
-            shown.clear();
-            while (view->GetCount() > 0) {
-                view->Delete(view->GetCount() - 1);
-            }
-            for (const ImageComboItem& item : model.Items) {
-                shown.push_back(item.Title);
-                shown.push_back(item.Image);
-                view->Append(ShownItem(item.Title), PictureOf(Join("icons/games/", LowerCase(item.Image))));
-            }
+    Add(name, model, view, ImageListShower(model, view));
+}
+
+void Binder::Bind(const char* name, ListBox& model, wxListBox* view, Handler click) {
+    view->Bind(wxEVT_LISTBOX, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
+        if (!showing_) {
+            model.ListIndex = view->GetSelection();
+            Run(click);
         }
-        if (view->GetSelection() != model.ListIndex) {
-            view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
-        }
-        ShowFullRow(model.ToolTip, view->GetStringSelection(), view, full);
-        return false;
     });
+    Add(name, model, view, Long(view, ListShower(model, view)));
+}
+
+Shower Binder::Long(wxWindow* view, Shower show) {
+    if (!fillLater_) {
+        return show;
+    }
+    const auto waiting = std::make_shared<bool>(true);
+    lateRows_.push_back({showers_.size(), waiting});
+    return [view, waiting, show = std::move(show)]() mutable {
+        *waiting = *waiting && !view->IsShownOnScreen();
+        return !*waiting && show();
+    };
+}
+
+void Binder::Bind(const char* name, ListBox& model, wxComboBox* view, Handler click,
+                  std::function<void(TextView)> typed) {
+    view->Bind(wxEVT_COMBOBOX, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
+        if (!showing_) {
+            model.ListIndex = view->GetSelection();
+            Run(click);
+        }
+    });
+    view->Bind(wxEVT_TEXT, [this, &model, view, typed = std::move(typed)](wxCommandEvent&) {
+        const Text text = FromWx(view->GetValue());
+        if (!showing_ && text != model.Selected()) {
+            Run([&] { typed(text); });
+        }
+    });
+    const auto waiting = std::make_shared<bool>(fillLater_);
+    if (fillLater_) {
+        lateRows_.push_back({showers_.size(), waiting});
+    }
+    Add(name, model, view, FieldListShower(model, view, waiting));
+}
+
+bool Binder::FillOne() {
+    if (lateRows_.empty()) {
+        return false;
+    }
+    const LateRows next = std::move(lateRows_.front());
+    lateRows_.pop_front();
+    *next.Waiting = false;
+    showing_ = true;
+    showers_[next.Shower]();
+    showing_ = false;
+    return true;
+}
+
+void Binder::Bind(const char* name, TabSet& model, wxNotebook* view, std::vector<wxWindow*> pages,
+                  std::function<void(int)> click) {
+    // The page that comes takes the keyboard, and a list then selects a row: what follows from that waits for the turn,
+    // for until then the struct has the page that goes.
+    view->Bind(wxEVT_NOTEBOOK_PAGE_CHANGING, [this, view](wxBookCtrlEvent& event) {
+        event.Skip();
+        turning_ = turning_ || event.GetEventObject() == view;
+    });
+    view->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, [this, view, &model, click = std::move(click)](wxBookCtrlEvent& event) {
+        event.Skip();
+        turning_ = turning_ && event.GetEventObject() != view;
+        const std::vector<int> visible = VisiblePages(model);
+        const int tab = event.GetSelection();
+        if (event.GetEventObject() == view && !showing_ && tab >= 0 && static_cast<std::size_t>(tab) < visible.size()) {
+            Run([&] { click(visible[static_cast<std::size_t>(tab)]); });
+        }
+    });
+    Add(name, model, view, PageShower(model, view, std::move(pages)));
 }
 
 void Binder::Bind(const char* name, TextBox& model, wxTextCtrl* view, Handler change) {

@@ -6,12 +6,7 @@
 #pragma once
 
 #include <wx/anybutton.h>
-#include <wx/bmpcbox.h>
 #include <wx/checkbox.h>
-#include <wx/choice.h>
-#include <wx/combobox.h>
-#include <wx/listbox.h>
-#include <wx/notebook.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
@@ -20,7 +15,7 @@
 #include <memory>
 #include <vector>
 
-#include "foundation/controls.h"
+#include "foundation/forms/binder_lists.h"
 
 namespace lv {
 
@@ -71,7 +66,6 @@ class Binder {
     bool Show();
 
   private:
-    using Shower = std::function<bool()>;
     struct LateRows {
         std::size_t Shower;
         std::shared_ptr<bool> Waiting;

@@ -356,6 +356,8 @@ constexpr KeywordRow kKeywords[] = {
 };
 // clang-format on
 
+static_assert(std::size(kKeywords) == 96, "the tests list every keyword: put the new one there too");
+
 constexpr auto kByKeyword = [] {
     std::array<const KeywordRow*, std::size(kKeywords)> rows{};
     std::ranges::transform(kKeywords, rows.begin(), [](const KeywordRow& row) { return &row; });
@@ -368,10 +370,6 @@ constexpr auto kByKeyword = [] {
 const KeywordRow* FindKeyword(TextView keyword) {
     const auto* const found = std::ranges::lower_bound(kByKeyword, keyword, {}, &KeywordRow::Keyword);
     return found == kByKeyword.end() || (*found)->Keyword != keyword ? nullptr : *found;
-}
-
-std::size_t CountKeywords() {
-    return std::size(kKeywords);
 }
 
 }  // namespace lv

@@ -61,7 +61,4 @@ struct KeywordRow {
 /// nullptr for a keyword, in lower case, that is none.
 const KeywordRow* FindKeyword(TextView keyword);
 
-/// How many there are.
-std::size_t CountKeywords();
-
 }  // namespace lv

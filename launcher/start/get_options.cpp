@@ -3,8 +3,8 @@
 #include <array>
 #include <cstdio>
 
+#include "catalogs/built_in_lists.h"
 #include "catalogs/executables.h"
-#include "catalogs/memory_demos.h"
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
 #include "foundation/question_box.h"

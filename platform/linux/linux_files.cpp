@@ -3,14 +3,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <filesystem>
-#include <system_error>
 
 #include "platform/code_page.h"
 #include "platform/linux/errno_error.h"
-#include "platform/linux/host_links.h"
 #include "platform/linux/host_read.h"
 #include "platform/linux/user_directories.h"
 
@@ -41,17 +38,8 @@ LinuxFiles::LinuxFiles(DriveDirectories directories) : directories_(std::move(di
     }
 }
 
-std::optional<LinuxFiles::Place> LinuxFiles::Find(std::string_view path) const {
-    auto taken = TakeApart(path, current_);
-    if (!taken) {
-        return std::nullopt;
-    }
-    auto root = DriveEntry(directories_, taken->Letter);
-    if (!root) {
-        return std::nullopt;
-    }
-    std::string host = HostPathBelow(*root, taken->Parts);
-    return Place{*std::move(taken), *std::move(root), std::move(host)};
+std::optional<HostPlace> LinuxFiles::Find(std::string_view path) const {
+    return FindPlace(directories_, path, current_);
 }
 
 std::vector<std::string> LinuxFiles::Drives() {
@@ -121,6 +109,39 @@ Result<std::unique_ptr<RandomAccessFile>> LinuxFiles::Open(std::string_view path
         return MakeError(error::kPathNotFound);
     }
     return OpenHostFileAnywhere(place->Host);
+}
+
+Error LinuxFiles::Replace(std::string_view path, std::string_view bytes) {
+    return PutFile(path, Whose::kUsers, bytes);
+}
+
+Error LinuxFiles::ReplaceOwn(std::string_view path, std::string_view bytes) {
+    return PutFile(path, Whose::kOurs, bytes);
+}
+
+Error LinuxFiles::Copy(std::string_view from, std::string_view to) {
+    return CopyFile(from, to, Whose::kUsers);
+}
+
+Error LinuxFiles::CopyOwn(std::string_view from, std::string_view to) {
+    return CopyFile(from, to, Whose::kOurs);
+}
+
+Error LinuxFiles::PutFile(std::string_view path, Whose whose, std::string_view bytes) const {
+    const auto place = Find(path);
+    return place ? PutHostFile(*place, whose, 0666, [bytes](int file) { return WriteAll(file, bytes); })
+                 : MakeError(error::kPathNotFound);
+}
+
+Error LinuxFiles::CopyFile(std::string_view from, std::string_view to, Whose whose) const {
+    const auto source = Find(from);
+    const auto target = Find(to);
+    return source && target ? CopyHostFile(*source, *target, whose) : MakeError(error::kPathNotFound);
+}
+
+std::string LinuxFiles::LeadsAway(std::string_view path, std::string_view tree) {
+    const auto place = Find(path);
+    return place ? lv::LeadsAway(*place, Find(tree)) : std::string();
 }
 
 Error LinuxFiles::Delete(std::string_view path) {
@@ -194,48 +215,11 @@ std::string LinuxFiles::ProgramDirectory() {
 
 std::string LinuxFiles::ToHost(std::string_view path) {
     const auto place = Find(path);
-    if (!place) {
-        return {};
-    }
-    std::error_code failed;
-    const fs::path root = fs::canonical(place->Root, failed);
-    if (failed) {
-        return place->Host;
-    }
-    const std::string below = place->Host.substr(place->Root.size());
-    if (below.empty()) {
-        return root.string();
-    }
-    return root == root.root_path() ? below : root.string() + below;
+    return place ? LinkedHostPath(*place) : std::string();
 }
 
 std::string LinuxFiles::FromHost(std::string_view hostPath) {
-    const fs::path given(hostPath);
-    if (!given.is_absolute() || hostPath.find('\0') != std::string_view::npos) {
-        return {};
-    }
-    const fs::path path = FollowButForAFile(given);
-    std::size_t deepest = 0;
-    std::optional<DrivePath> best;
-    for (const char letter : DriveLetters(directories_)) {
-        std::error_code failed;
-        const fs::path root = fs::canonical(*DriveEntry(directories_, letter), failed);
-        const auto depth = static_cast<std::size_t>(std::distance(root.begin(), root.end()));
-        const auto below = failed ? std::nullopt : PartsBelow(root, path);
-        if (!below || depth <= deepest) {
-            continue;
-        }
-        deepest = depth;
-        best = DrivePath{letter, {}};
-        for (const fs::path& part : *below) {
-            const auto name = NameFromHost(part.string());
-            if (!name) {
-                return {};
-            }
-            best->Parts.push_back(*name);
-        }
-    }
-    return best ? PutTogether(*best) : std::string();
+    return DrivePathOf(directories_, hostPath);
 }
 
 std::string LinuxFiles::UserHome() {

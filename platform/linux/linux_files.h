@@ -10,8 +10,8 @@
 
 #include "platform/files.h"
 #include "platform/linux/drives.h"
-#include "platform/linux/host_names.h"
-#include "platform/linux/replace_file.h"
+#include "platform/linux/host_places.h"
+#include "platform/linux/host_write.h"
 #include "platform/linux/walkable.h"
 
 namespace lv {
@@ -60,15 +60,8 @@ class LinuxFiles : public Files {
     std::string FromTyped(std::string_view typed) override;
 
   private:
-    struct Place {
-        DrivePath Path;
-        std::string Root;  // the drive's entry
-        std::string Host;  // the whole host path
-    };
-    enum class Whose { kUsers, kOurs };
-
-    [[nodiscard]] std::optional<Place> Find(std::string_view path) const;
-    Error PutFile(std::string_view path, Whose whose, unsigned mode, const FileFiller& fill) const;
+    [[nodiscard]] std::optional<HostPlace> Find(std::string_view path) const;
+    Error PutFile(std::string_view path, Whose whose, std::string_view bytes) const;
     Error CopyFile(std::string_view from, std::string_view to, Whose whose) const;
 
     DriveDirectories directories_;

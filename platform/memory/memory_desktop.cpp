@@ -1,5 +1,6 @@
+#include "platform/memory/memory_desktop.h"
+
 #include "platform/key_strokes.h"
-#include "platform/memory/memory_platform.h"
 
 namespace lv {
 

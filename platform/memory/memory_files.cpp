@@ -1,7 +1,8 @@
+#include "platform/memory/memory_files.h"
+
 #include <algorithm>
 
 #include "platform/code_page.h"
-#include "platform/memory/memory_platform.h"
 
 namespace lv {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <random>
 
+#include "catalogs/built_in_lists.h"
 #include "catalogs/executables.h"
 #include "catalogs/game_identification.h"
 #include "catalogs/map_scan.h"
-#include "catalogs/memory_demos.h"
 #include "catalogs/modifications.h"
 #include "catalogs/scripts.h"
 #include "catalogs/servers.h"

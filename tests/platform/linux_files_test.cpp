@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-#include "tests/platform/scratch_directory.h"
+#include "tests/platform/linux_home.h"
 
 namespace lv {
 
@@ -19,14 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-
-// A home whose "C:" is the directory `C` of the host.
-struct Home {
-    ScratchDirectory Scratch;
-    LinuxFiles Disk{{Scratch / "data/drives", Scratch / "wine", Scratch / "program"}};
-    fs::path C = Scratch / "data/drive_c";
-    fs::path Drives = Scratch / "data/drives";
-};
 
 Names NamesOf(const std::vector<DirectoryEntry>& entries) {
     Names names;
@@ -179,16 +171,6 @@ TEST(LinuxFiles, TakeAFileForADirectoryNowhere) {
     EXPECT_EQ(home.Disk.Replace("C:\\new\\", "x").Number, 75);
 }
 
-TEST(LinuxFiles, CopyTheRightToRun) {
-    Home home;
-    WriteBytes(home.C / "run.sh", "x");
-    chmod((home.C / "run.sh").c_str(), 0555);
-    EXPECT_EQ(home.Disk.Copy("C:\\run.sh", "C:\\copy.sh").Number, 0);
-    struct stat info {};
-    ASSERT_EQ(stat((home.C / "copy.sh").c_str(), &info), 0);
-    EXPECT_EQ(info.st_mode & 0700u, 0700u);
-}
-
 TEST(LinuxFiles, DeleteALinkAndNotWhatItLeadsTo) {
     Home home;
     WriteBytes(home.C / "real.cfg", "x");
@@ -248,68 +230,6 @@ TEST(LinuxFiles, RemoveNoDriveAndNoLink) {
     EXPECT_EQ(home.Disk.RemoveDirectory("C:\\id1").Number, 75);
     EXPECT_TRUE(fs::is_symlink(home.C / "id1"));
     EXPECT_TRUE(fs::is_symlink(home.Drives / "c:"));
-}
-
-TEST(ToHost, FollowsTheDriveAndFindsTheNames) {
-    Home home;
-    fs::create_directories(home.C / "Quake/id1");
-    EXPECT_EQ(home.Disk.ToHost("C:\\"), home.C);
-    EXPECT_EQ(home.Disk.ToHost("c:\\QUAKE\\ID1"), home.C / "Quake/id1");
-    EXPECT_EQ(home.Disk.ToHost("C:/QUAKE/ID1"), home.C / "Quake/id1");
-    EXPECT_EQ(home.Disk.ToHost("Z:\\"), "/");
-    EXPECT_EQ(home.Disk.ToHost("Z:\\DEV\\Null"), "/dev/null");
-}
-
-TEST(ToHost, KeepsTheSpellingOfWhatIsNotThereYet) {
-    Home home;
-    fs::create_directories(home.C / "Quake");
-    EXPECT_EQ(home.Disk.ToHost("C:\\QUAKE\\New\\\xC9.cfg"), home.C / "Quake/New/\xC3\x89.cfg");
-}
-
-TEST(ToHost, HasNothingForADriveThatIsNotThere) {
-    Home home;
-    EXPECT_EQ(home.Disk.ToHost("Q:\\QUAKE"), "");
-    EXPECT_EQ(home.Disk.ToHost("A:\\"), "");
-    EXPECT_EQ(home.Disk.ToHost(""), "");
-}
-
-TEST(FromHost, TakesTheDriveThatLiesDeepest) {
-    Home home;
-    fs::create_directories(home.Scratch / "games/quake");
-    fs::create_directory_symlink(home.Scratch / "games", home.Drives / "g:");
-    fs::create_directory_symlink(home.Scratch / "games/quake", home.Drives / "q:");
-    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "games/quake/id1/pak0.pak").string()), "Q:\\id1\\pak0.pak");
-    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "games/quake2").string()), "G:\\quake2");
-    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "games").string()), "G:\\");
-    EXPECT_EQ(home.Disk.FromHost("/dev/null"), "Z:\\dev\\null");
-    EXPECT_EQ(home.Disk.FromHost("/"), "Z:\\");
-}
-
-TEST(FromHost, KnowsThePlainDirectoryAndTheLinkToIt) {
-    Home home;
-    fs::create_directories(home.C / "QUAKE");
-    EXPECT_EQ(home.Disk.FromHost((home.C / "QUAKE").string()), "C:\\QUAKE");
-    EXPECT_EQ(home.Disk.FromHost((home.Drives / "c:/QUAKE/").string()), "C:\\QUAKE");
-    EXPECT_EQ(home.Disk.FromHost((home.C / "QUAKE/../QUAKE/./new.cfg").string()), "C:\\QUAKE\\new.cfg");
-}
-
-TEST(FromHost, FollowsALinkToADirectoryAndKeepsALinkToAFile) {
-    Home home;
-    fs::create_directories(home.C / "QUAKE");
-    fs::create_directory_symlink(home.C / "QUAKE", home.Scratch / "link");
-    fs::create_symlink("/bin/true", home.C / "QUAKE/engine");
-    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "link").string()), "C:\\QUAKE");
-    EXPECT_EQ(home.Disk.FromHost((home.Scratch / "link/engine").string()), "C:\\QUAKE\\engine");
-}
-
-TEST(FromHost, HasNothingForWhatNoDriveCanSay) {
-    Home home;
-    EXPECT_EQ(home.Disk.FromHost((home.C / "\xE6\x97\xA5.cfg").string()), "");
-    EXPECT_EQ(home.Disk.FromHost((home.C / "a\\b").string()), "");
-    EXPECT_EQ(home.Disk.FromHost("relative"), "");
-    EXPECT_EQ(home.Disk.FromHost(""), "");
-    fs::remove(home.Drives / "z:");
-    EXPECT_EQ(home.Disk.FromHost("/dev/null"), "");
 }
 
 TEST(FromTyped, TakesTheHostsOwnPathsAsThoseOfTheDrives) {
@@ -404,133 +324,5 @@ TEST(LinuxFiles, TellThatThereIsNoMemoryForAStretch) {
     EXPECT_EQ(file.Value->Read(0, 4).Value, "PACK");
 }
 #endif
-
-TEST(LinuxFiles, ReplaceALinkByTheProgramsOwnFile) {
-    Home home;
-    WriteBytes(home.Scratch / ".bashrc", "mine");
-    fs::create_directory(home.C / "QUAKE");
-    fs::create_symlink(home.Scratch / ".bashrc", home.C / "QUAKE/lv_666.bat");
-    EXPECT_EQ(home.Disk.ReplaceOwn("C:\\QUAKE\\LV_666.BAT", "new").Number, 0);
-    EXPECT_EQ(home.Disk.Read("C:\\QUAKE\\lv_666.bat").Value, "new");
-    fs::create_symlink(home.Scratch / ".bashrc", home.C / "QUAKE/lv_666.pif");
-    EXPECT_EQ(home.Disk.CopyOwn("C:\\QUAKE\\LV_666.BAT", "C:\\QUAKE\\lv_666.pif").Number, 0);
-    EXPECT_EQ(home.Disk.Read("C:\\QUAKE\\lv_666.pif").Value, "new");
-    EXPECT_EQ(BytesOf(home.Scratch / ".bashrc"), "mine");
-    struct stat info {};
-    EXPECT_FALSE(fs::exists(fs::symlink_status(home.C / "QUAKE/lv_666.bat")));
-    ASSERT_EQ(stat((home.C / "QUAKE/LV_666.BAT").c_str(), &info), 0);
-    EXPECT_EQ(info.st_mode & 07777u, 0600u);
-}
-
-TEST(LinuxFiles, SpellTheProgramsOwnFilesAsTheProgramDoes) {
-    Home home;
-    WriteBytes(home.Scratch / ".bashrc", "mine");
-    fs::create_directories(home.C / "QUAKE/Id1");
-    WriteBytes(home.C / "QUAKE/Id1/LV_666.QS", "a stranger's");
-    fs::create_symlink(home.Scratch / ".bashrc", home.C / "QUAKE/Id1/Lv_666.qs");
-    EXPECT_EQ(home.Disk.ReplaceOwn("C:\\QUAKE\\ID1\\lv_666.qs", "ours").Number, 0);
-    EXPECT_EQ(BytesOf(home.C / "QUAKE/Id1/lv_666.qs"), "ours");
-    EXPECT_EQ(std::distance(fs::directory_iterator(home.C / "QUAKE/Id1"), fs::directory_iterator()), 1);
-    EXPECT_EQ(BytesOf(home.Scratch / ".bashrc"), "mine");
-    fs::create_directory(home.C / "QUAKE/LV_666.BAT");
-    EXPECT_EQ(home.Disk.ReplaceOwn("C:\\QUAKE\\lv_666.bat", "ours").Number, 75);
-    EXPECT_FALSE(fs::exists(home.C / "QUAKE/lv_666.bat"));
-}
-
-TEST(LinuxFiles, CopyAFileOfHolesAsOne) {
-    Home home;
-    WriteBytes(home.C / "holes.cfg", "bind a +attack\n");
-    fs::resize_file(home.C / "holes.cfg", 100'000'001);
-    EXPECT_EQ(home.Disk.Copy("C:\\holes.cfg", "C:\\copy.cfg").Number, 0);
-    EXPECT_EQ(fs::file_size(home.C / "copy.cfg"), 100'000'001u);
-    const auto copied = home.Disk.Open("C:\\copy.cfg");
-    EXPECT_EQ(copied.Value->Read(0, 17).Value, std::string("bind a +attack\n\0\0", 17));
-    EXPECT_EQ(copied.Value->Read(99'999'999, 10).Value, std::string(2, '\0'));
-    struct stat info {};
-    ASSERT_EQ(stat((home.C / "copy.cfg").c_str(), &info), 0);
-    EXPECT_LT(info.st_blocks * 512, 10'000'000);
-}
-
-// The test's own place lies outside of the user's home.
-class LeadsAway : public testing::Test {
-  protected:
-    LeadsAway() {
-        setenv("HOME", (home_.Scratch / "me").c_str(), 1);
-        fs::create_directories(home_.Scratch / "me/dotfiles");
-        fs::create_directories(home_.Scratch / "else");
-        fs::create_directories(home_.C / "QUAKE/ID1");
-    }
-    ~LeadsAway() override { setenv("HOME", before_.c_str(), 1); }
-    void Link(const std::string& name, const fs::path& target) {
-        fs::create_symlink(target, home_.C / "QUAKE/ID1" / name);
-    }
-    std::string Of(const std::string& name) { return home_.Disk.LeadsAway("C:\\QUAKE\\ID1\\" + name, "C:\\QUAKE"); }
-
-    const std::string before_ = getenv("HOME") == nullptr ? "/" : getenv("HOME");
-    Home home_;
-};
-
-TEST_F(LeadsAway, IsNothingForPlainFilesAndLinksThatStay) {
-    WriteBytes(home_.C / "QUAKE/ID1/plain.cfg", "x");
-    Link("home.cfg", home_.Scratch / "me/dotfiles/quake.cfg");
-    Link("tree.cfg", "../config.cfg");
-    Link("circle.cfg", "circle.cfg");
-    for (const char* const name : {"plain.cfg", "new.cfg", "home.cfg", "tree.cfg", "circle.cfg"}) {
-        EXPECT_EQ(Of(name), "") << name;
-    }
-}
-
-TEST_F(LeadsAway, IsTheEndOfALinkThatLeadsOut) {
-    const std::string there = (home_.Scratch / "else").string();
-    WriteBytes(home_.Scratch / "else/real", "x");
-    Link("real.cfg", home_.Scratch / "else/real");
-    Link("dangling.cfg", home_.Scratch / "else/new");
-    Link("two.cfg", "real.cfg");
-    EXPECT_EQ(Of("real.cfg"), there + "/real");
-    EXPECT_EQ(Of("REAL.CFG"), there + "/real");
-    EXPECT_EQ(Of("dangling.cfg"), there + "/new");
-    EXPECT_EQ(Of("two.cfg"), there + "/real");
-}
-
-TEST_F(LeadsAway, IsAFileOfAnotherKindInTheHomeToo) {
-    WriteBytes(home_.Scratch / "me/.bashrc", "x");
-    Link("Unreal.ini", home_.Scratch / "me/.bashrc");
-    Link("notes.cfg", home_.Scratch / "me/notes.txt");
-    Link("same.CFG", home_.Scratch / "me/dotfiles/my.cfg");
-    EXPECT_EQ(Of("Unreal.ini"), (home_.Scratch / "me/.bashrc").string());
-    EXPECT_EQ(Of("notes.cfg"), (home_.Scratch / "me/notes.txt").string());
-    EXPECT_EQ(Of("same.CFG"), "");
-}
-
-TEST_F(LeadsAway, IsWhereALinkedDirectoryLies) {
-    fs::create_directory_symlink(home_.Scratch / "else", home_.C / "QUAKE/CTF");
-    EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\CTF\\my.cfg", "C:\\QUAKE"), (home_.Scratch / "else/my.cfg").string());
-    EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\CTF\\my.cfg", "C:\\QUAKE\\CTF"), "");
-}
-
-TEST_F(LeadsAway, IsAskedOfADirectoryToo) {
-    fs::create_directory_symlink(home_.Scratch / "else", home_.C / "QUAKE/CTF");
-    fs::create_directories(home_.Scratch / "me/my.mods");
-    fs::create_directory_symlink(home_.Scratch / "me/my.mods", home_.C / "QUAKE/HOME");
-    fs::create_directory_symlink("ID1", home_.C / "QUAKE/SAME");
-    EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\CTF", "C:\\QUAKE"), (home_.Scratch / "else").string());
-    for (const char* const name : {"HOME", "SAME", "ID1", "NONE"}) {
-        EXPECT_EQ(home_.Disk.LeadsAway(std::string("C:\\QUAKE\\") + name, "C:\\QUAKE"), "") << name;
-    }
-}
-
-TEST_F(LeadsAway, CountsADriveThatIsALinkAsNone) {
-    fs::create_directory_symlink(home_.Scratch / "else", home_.Drives / "g:");
-    fs::create_directories(home_.Scratch / "else/quake");
-    EXPECT_EQ(home_.Disk.LeadsAway("G:\\quake\\my.cfg", "G:\\quake"), "");
-    EXPECT_EQ(home_.Disk.LeadsAway("G:\\quake\\my.cfg", "C:\\QUAKE"), "");
-}
-
-TEST_F(LeadsAway, TakesNoRootForAHomeOrAGame) {
-    WriteBytes(home_.Scratch / "else/real", "x");
-    Link("real.cfg", home_.Scratch / "else/real");
-    setenv("HOME", "/", 1);
-    EXPECT_EQ(home_.Disk.LeadsAway("C:\\QUAKE\\ID1\\real.cfg", "Z:\\"), (home_.Scratch / "else/real").string());
-}
 
 }  // namespace lv

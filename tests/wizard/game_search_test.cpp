@@ -1,3 +1,5 @@
+#include "wizard/game_search.h"
+
 #include <algorithm>
 
 #include "tests/wizard/wizard_fixture.h"

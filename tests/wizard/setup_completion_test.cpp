@@ -1,3 +1,5 @@
+#include "wizard/setup_completion.h"
+
 #include "tests/wizard/wizard_fixture.h"
 
 namespace lv {

@@ -1,6 +1,7 @@
 #include "wizard/wizard.h"
 
 #include "tests/wizard/wizard_fixture.h"
+#include "wizard/setup_completion.h"
 
 namespace lv {
 

@@ -11,6 +11,8 @@
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/wx_text.h"
 #include "platform/spoken_name.h"
+#include "wizard/game_search.h"
+#include "wizard/setup_completion.h"
 
 namespace lv {
 

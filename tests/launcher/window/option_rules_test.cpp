@@ -36,43 +36,6 @@ TEST(ExcludedBy, HoldsEachRowOfTheTable) {
     EXPECT_TRUE(NamesExcludedBy(Option::NOLAN_Chk).empty());
 }
 
-TEST(LV_Frm, ShowsOnEachBoxWhatItsRowSays) {
-    const LV_Frm window;
-    for (const OptionBox& row : OptionBoxes()) {
-        EXPECT_EQ(window.Box(row.Box).Caption, row.Caption) << row.Name;
-        EXPECT_EQ(window.Box(row.Box).ToolTip, row.ToolTip) << row.Name;
-    }
-}
-
-TEST(LV_Frm, HasEachPanelsTitle) {
-    const LV_Frm window;
-    EXPECT_EQ(window.Exe_Pan.Caption, "  Game Executable");
-    EXPECT_EQ(window.Mod_Pan.Caption, "  Modification Subdirectory");
-    EXPECT_EQ(window.Memory_Pan.Caption, "  Memory Usage");
-    EXPECT_EQ(window.PlayerScript_Pan.Caption, "  Player Script");
-    EXPECT_EQ(window.Demo_Pan.Caption, "  Default Demo");
-    EXPECT_EQ(window.Server_Pan.Caption, "  Server and/or Start Map");
-    EXPECT_EQ(window.VideoProfile_Pan.Caption, "  Video Profiles");
-    EXPECT_EQ(window.QSpy_Pan.Caption, "  GameSpy 3D Integration");
-    EXPECT_EQ(window.OtherOpts_Pan.Caption, "  Other Options");
-    EXPECT_EQ(window.Command_Pan.Caption, " Command Center");
-}
-
-TEST(LV_Frm, NamesItsListOfVideoProfiles) {
-    EXPECT_EQ(LV_Frm().VideoProfiles_Cbo.ToolTip, "List of video profiles");
-}
-
-TEST(LV_Frm, NamesItsLaunchButtons) {
-    const LV_Frm window;
-    EXPECT_EQ(window.DoIt_Cmd[0].ToolTip, "Click to launch your game [F2]");
-    EXPECT_EQ(window.DoIt_Cmd[1].Caption, "&View");
-    EXPECT_EQ(window.DoIt_Cmd[1].ToolTip, "Click to create and view the launch files");
-    EXPECT_EQ(window.DoIt_Cmd[2].Caption, "&Create Only");
-    EXPECT_EQ(window.DoIt_Cmd[2].ToolTip, "Click to create launch files, but not launch");
-    EXPECT_EQ(window.Box(Option::EndOnLaunch_Chk).Caption, "Exit on Launch");
-    EXPECT_EQ(window.Exe_Cbo.ToolTip, "List of recognized games");
-}
-
 constexpr PanelGame kQuake = {Game::Quake, Dialect::Quake, false, false};
 constexpr PanelGame kQuakeWorld = {Game::Quake, Dialect::Quake, true, false};
 constexpr PanelGame kQuake2 = {Game::Quake2, Dialect::Quake2, false, false};

@@ -1,4 +1,4 @@
-#include "catalogs/memory_demos.h"
+#include "catalogs/built_in_lists.h"
 
 #include "tests/catalogs/catalogs_fixture.h"
 

@@ -1,4 +1,4 @@
-// catalogs/memory_demos.h
+// catalogs/built_in_lists.h
 //
 // The two catalogs that are the same for every game and come with built-in lists: memory sizes and demos.
 

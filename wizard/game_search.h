@@ -1,0 +1,14 @@
+// wizard/game_search.h
+//
+// The search for the ticked games.
+
+#pragma once
+
+#include "wizard/install_frm.h"
+
+namespace lv {
+
+/// Looks in the usual places, then on whole disks if the user wants that. While it runs it only asks it to stop.
+void Install_AutoSearch_Cmd_Click(Install_Frm& form);
+
+}  // namespace lv
