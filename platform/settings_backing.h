@@ -36,7 +36,7 @@ class SettingsBacking {
     /// false what was to be done fails with 55, and so does all that follows, without a wait and without a question,
     /// until the store is free again.
     using LockedQuestion = std::function<bool(const Error& reason)>;
-    virtual void WhenLocked(LockedQuestion) {}
+    virtual void WhenLocked(LockedQuestion /*question*/) {}  // NOLINT(performance-unnecessary-value-param): it is kept
 };
 
 /// Groups the writes of a scope.

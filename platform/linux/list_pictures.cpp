@@ -45,6 +45,9 @@ const PictureFunctions& Functions() {
 // As a pixbuf a picture has no scale; as a surface it has.
 void ShowFittingPicture(void*, void* cell, void* rows, void* row, void* height) {
     const PictureFunctions& toolkit = Functions();
+    if (!toolkit.AreThere) {
+        return;
+    }
     void* picture = nullptr;
     toolkit.GetValue(rows, row, kPictureColumn, &picture, -1);
     if (picture == nullptr) {
@@ -71,8 +74,9 @@ void FitListPictures(void* list, int height) {
     }
     ListNode* const cells = cellsOf(list);
     if (cells != nullptr) {
-        setShower(list, cells->Data, ShowFittingPicture, reinterpret_cast<void*>(static_cast<std::intptr_t>(height)),
-                  nullptr);
+        // GTK keeps a number as a pointer. NOLINTNEXTLINE(performance-no-int-to-ptr)
+        void* const kept = reinterpret_cast<void*>(static_cast<std::intptr_t>(height));
+        setShower(list, cells->Data, ShowFittingPicture, kept, nullptr);
     }
     releaseList(cells);
 }
