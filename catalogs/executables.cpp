@@ -3,10 +3,10 @@
 #include <unordered_set>
 
 #include "catalogs/catalog_store.h"
-#include "catalogs/image_keys.h"
 #include "catalogs/missing_game.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
+#include "games/programs.h"
 
 namespace lv {
 

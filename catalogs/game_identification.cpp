@@ -7,57 +7,12 @@
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "games/games.h"
+#include "games/programs.h"
 
 namespace lv {
 
 namespace {
-
-enum class Test {
-    Below,         // this directory stands below the executable's
-    PathHolds,     // the executable's directory, in upper case, holds this
-    BaseAndHolds,  // "\base" stands below it, and its lower-case form holds this
-};
-
-struct GameRow {
-    Test How;
-    TextView What;
-    Game GameKind;
-    Dialect ScriptFamily;
-    TextView BaseGameDir;
-};
-
-// clang-format off
-constexpr GameRow kGameTable[] = {
-    {Test::Below,        "\\id1",          Game::Quake,    Dialect::Quake,  "ID1"},
-    {Test::Below,        "\\data1",        Game::Hexen2,   Dialect::Quake,  "DATA1"},
-    {Test::Below,        "\\baseq2",       Game::Quake2,   Dialect::Quake2, "BASEQ2"},
-    {Test::PathHolds,    "UNREAL\\SYSTEM", Game::Unreal,   Dialect::Unreal, "MAPS"},
-    {Test::BaseAndHolds, "sin",            Game::Sin,      Dialect::Quake2, "BASE"},
-    {Test::BaseAndHolds, "heretic",        Game::Heretic2, Dialect::Quake2, "BASE"},
-    {Test::Below,        "\\valve",        Game::HalfLife, Dialect::Quake2, "VALVE"},
-};
-// clang-format on
-
-bool IsHit(Files& files, TextView directory, const GameRow& row) {
-    switch (row.How) {
-        case Test::Below:
-            return files.DirectoryExists(Join(directory, row.What));
-        case Test::PathHolds:
-            return Holds(UpperCase(directory), row.What);
-        case Test::BaseAndHolds:
-            return Holds(LowerCase(directory), row.What) && files.DirectoryExists(Join(directory, "\\base"));
-    }
-    return false;
-}
-
-bool HoldsAny(TextView text, std::initializer_list<TextView> finds) {
-    for (const TextView find : finds) {
-        if (Holds(text, find)) {
-            return true;
-        }
-    }
-    return false;
-}
 
 bool EndsInPortals(TextView row) {
     return LowerCase(row).ends_with("-game portals");
@@ -95,7 +50,7 @@ void DropModification(Run& run, CatalogLists& lists, Game before) {
 
 bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const RegistryToScript& toScript) {
     run.DefaultGameDirectory = DirectoryOf(path);
-    const GameFacts facts = FactsOfDirectory(run.System.Disk, run.DefaultGameDirectory);
+    const GameFacts& facts = FactsOfDirectory(run.System.Disk, run.DefaultGameDirectory);
     run.BaseGameDir = facts.BaseGameDir;
     run.CurrentGameDir = facts.BaseGameDir;
     run.GameKind = facts.GameKind;
@@ -116,31 +71,6 @@ bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const Registry
 }
 
 }  // namespace
-
-GameFacts FactsOfDirectory(Files& files, TextView directory) {
-    for (const GameRow& row : kGameTable) {
-        if (IsHit(files, directory, row)) {
-            return {row.GameKind, row.ScriptFamily, Text(row.BaseGameDir)};
-        }
-    }
-    return {};
-}
-
-ExecutableFlags FlagsOfPath(Game gameKind, TextView path) {
-    const Text upper = UpperCase(path);
-    ExecutableFlags flags;
-    if (gameKind == Game::Quake) {
-        flags.IsQuakeWorld = Holds(upper, "QWCL.EXE");
-        flags.UsesAccelerator = !HoldsAny(upper, {"\\QWCL.EXE", "\\QUAKE.EXE"});
-    }
-    if (gameKind == Game::Hexen2) {
-        flags.IsMissionPack = Holds(upper, "H2MP.EXE");
-        // With the blank, kept on purpose: something must follow the name for the test to hit.
-        flags.IsHexenWorld = !flags.IsMissionPack && Holds(upper, "HWCL.EXE ");
-        flags.UsesAccelerator = !HoldsAny(upper, {"\\H2MP.EXE", "\\HWCL.EXE", "\\H2.EXE"});
-    }
-    return flags;
-}
 
 bool IdentifyGame(Run& run, CatalogLists& lists, const RegistryToScript& toScript) {
     if (!lists.Exe_Cbo.HasSelection()) {

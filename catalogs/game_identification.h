@@ -1,36 +1,15 @@
 // catalogs/game_identification.h
 //
-// Which game an executable is: worked out afresh at each pick from what lies beside it and from its name. There is no
-// stored game type.
+// The change of game. Which game an executable is, is worked out afresh at each pick from what lies beside it and from
+// its name. There is no stored game type.
 
 #pragma once
 
 #include <functional>
 
 #include "catalogs/catalog_lists.h"
-#include "foundation/game.h"
 
 namespace lv {
-
-struct GameFacts {
-    Game GameKind = Game::None;
-    Dialect ScriptFamily = Dialect::None;  // none: the one before stays
-    Text BaseGameDir;
-};
-
-/// The game whose executable lies in this directory (without a trailing "\"). The first hit of the table counts, so a
-/// Hexen II tree with a left-over "id1" is Quake.
-GameFacts FactsOfDirectory(Files& files, TextView directory);
-
-struct ExecutableFlags {
-    bool IsQuakeWorld = false;
-    bool IsHexenWorld = false;
-    bool IsMissionPack = false;
-    bool UsesAccelerator = true;
-};
-
-/// What the executable's path says, in any letter case.
-ExecutableFlags FlagsOfPath(Game gameKind, TextView path);
 
 /// Writes Half-Life's registry settings as a script to this path.
 using RegistryToScript = std::function<void(TextView path)>;

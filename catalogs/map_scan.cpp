@@ -6,6 +6,7 @@
 #include "catalogs/timed_file.h"
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
+#include "games/games.h"
 
 namespace lv {
 
@@ -66,11 +67,11 @@ void ScanLooseFiles(Files& files, TextView directory, MapScan& scan) {
 }
 
 void ScanArchives(Run& run, TextView directory, MapScan& scan) {
-    const bool isSin = run.GameKind == Game::Sin;
+    const GameFacts& game = FactsOf(run.GameKind);
     Files& files = run.System.Disk;
     Clock& clock = run.System.Time;
     const double end = clock.Seconds() + kSecondsForADirectory;
-    for (const Text& name : ListFiles(files, directory, isSin ? "*.sin" : "*.pak")) {
+    for (const Text& name : ListFiles(files, directory, game.Archives)) {
         if (scan.RoomForArchives == 0 || clock.Seconds() > end) {
             return;
         }
@@ -79,7 +80,7 @@ void ScanArchives(Run& run, TextView directory, MapScan& scan) {
             continue;
         }
         TimedFile timed(*archive.Value, clock, kSecondsForAnArchive);
-        for (const Text& map : PakMapNames(timed, isSin ? "SPAK" : "PACK", scan.RoomForArchives)) {
+        for (const Text& map : PakMapNames(timed, game.ArchiveMark, scan.RoomForArchives)) {
             AddMap(scan.List, map);
             --scan.RoomForArchives;
         }

@@ -2,30 +2,31 @@
 # one library of each subsystem that links what its folders may know, and nothing else.
 
 # From below to above.
-set(LV_SUBSYSTEMS platform foundation catalogs video launch gamespy launcher foundry wizard)
+set(LV_SUBSYSTEMS platform foundation games catalogs video launch gamespy launcher foundry wizard)
 set(ROOMS_catalogs editors)
 set(ROOMS_launcher start window menu)
 set(ROOMS_foundry tables document reading writing half_life fonts editor)
 
 set(MAY_platform platform)
 set(MAY_foundation foundation platform)
-set(MAY_catalogs catalogs foundation platform)
+set(MAY_games games foundation platform)
+set(MAY_catalogs catalogs ${MAY_games})
 set(MAY_catalogs/editors catalogs/editors ${MAY_catalogs})
-set(MAY_video video foundation platform)
-set(MAY_launch launch video catalogs foundation platform)
+set(MAY_video video ${MAY_games})
+set(MAY_launch launch video ${MAY_catalogs})
 set(MAY_gamespy gamespy catalogs/editors ${MAY_launch})
 set(MAY_launcher launcher launcher/start launcher/window launcher/menu ${MAY_gamespy})
 set(MAY_launcher/start ${MAY_launcher})
 set(MAY_launcher/window ${MAY_launcher})
 set(MAY_launcher/menu ${MAY_launcher})
-set(BELOW_FOUNDRY launcher launcher/start launcher/window launcher/menu launch video catalogs catalogs/editors
-    foundation platform)
+set(BELOW_FOUNDRY launcher launcher/start launcher/window launcher/menu launch video catalogs/editors
+    ${MAY_catalogs})
 set(MAY_foundry/tables foundry/tables foundation)
 set(MAY_foundry/document foundry/document ${MAY_foundry/tables} platform)
 set(MAY_foundry/reading foundry/reading foundry/document foundry/tables ${BELOW_FOUNDRY})
 set(MAY_foundry/writing foundry/writing foundry/document foundry/tables ${BELOW_FOUNDRY})
 set(MAY_foundry/half_life foundry/half_life ${MAY_foundry/writing} foundry/reading)
-set(MAY_foundry/fonts foundry/fonts foundry/tables catalogs foundation platform)
+set(MAY_foundry/fonts foundry/fonts foundry/tables ${MAY_catalogs})
 set(MAY_foundry/editor foundry/editor foundry/fonts ${MAY_foundry/half_life})
 set(MAY_foundry foundry ${MAY_foundry/editor})
 set(MAY_wizard wizard ${BELOW_FOUNDRY})

@@ -26,27 +26,4 @@ constexpr Index NumberOf(Game game) {
     return static_cast<Index>(game);
 }
 
-/// As questions name it; "Unknown" for none.
-constexpr TextView GameKindName(Game game) {
-    switch (game) {
-        case Game::Quake:
-            return "Quake";
-        case Game::Hexen2:
-            return "Hexen2";
-        case Game::Quake2:
-            return "Quake2";
-        case Game::Unreal:
-            return "Unreal";
-        case Game::Sin:
-            return "Sin";
-        case Game::Heretic2:
-            return "Heretic2";
-        case Game::HalfLife:
-            return "Half-Life";
-        case Game::None:
-            break;
-    }
-    return "Unknown";
-}
-
 }  // namespace lv

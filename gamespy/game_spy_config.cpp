@@ -29,7 +29,7 @@ void FillExecutables(GameSpyConfig_Frm& form, std::size_t slot) {
     list.Clear();
     for (const ImageComboItem& item : form.Executables.Items) {
         const Text path = ReplaceSameLength(item.Key, "/", "\\");
-        if (IsExecutableOf(facts, path) &&
+        if (IsExecutableOf(slot, path) &&
             form.run.System.Disk.DirectoryExists(Join(DirectoryOf(path), facts.DataDirectory))) {
             list.Items.push_back(MakeItem(item.Title, path));
         }

@@ -4,6 +4,7 @@
 #include "catalogs/modifications.h"
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
+#include "games/games.h"
 
 namespace lv {
 
@@ -52,20 +53,8 @@ std::size_t InsertBehindExecutable(const Composition& c, TextView text) {
 }
 
 bool IsBaseDirectory(TextView mod, const LaunchGame& game) {
-    struct Base {
-        Game Kind;
-        TextView Mod;
-    };
-    constexpr Base kBases[] = {
-        {Game::Quake, "-game id1"}, {Game::Hexen2, "-game data1"},  {Game::Quake2, "-game baseq2"},
-        {Game::Sin, "-game base"},  {Game::Heretic2, "-game base"}, {Game::HalfLife, "-game valve"},
-    };
-    for (const Base& base : kBases) {
-        if (base.Kind == game.GameKind && base.Mod == mod) {
-            return true;
-        }
-    }
-    return false;
+    const TextView base = FactsOf(game.GameKind).BaseGameDir;
+    return game.GameKind != Game::Unreal && !base.empty() && mod == Join("-game ", LowerCase(base));
 }
 
 Text ConnectText(const ServerAddress& server) {

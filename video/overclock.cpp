@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "foundation/question_box.h"
+#include "games/games.h"
 
 namespace lv {
 
@@ -31,7 +32,7 @@ constexpr Index kGoOn = 0;
 bool ConfirmsDanger(Run& run, const ClockWarning& warning) {
     const Text text = Join(
         warning.FirstText, NewLine,
-        Join("To do this, you should be a GL", GameKindName(run.GameKind), " and 3DFX GOD. This is because", NewLine),
+        Join("To do this, you should be a GL", FactsOf(run.GameKind).Name, " and 3DFX GOD. This is because", NewLine),
         "only such a GOD will not care when he blows out his card.", NewLine, warning.Ruin);
     return AskUser(run, "DANGER WILL ROBINSON", text,
                    "&Of Course I Am a GLQuake GOD,&I'm smart enough to admit I don't know what I am doing") == kGoOn;

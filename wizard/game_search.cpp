@@ -5,6 +5,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
+#include "games/programs.h"
 #include "wizard/disk_walk.h"
 
 namespace lv {
@@ -20,49 +21,49 @@ struct UsualPlace {
 };
 
 constexpr UsualPlace kUsualPlaces[] = {
-    {0, "\\quake\\"},
-    {0, "\\games\\quake\\"},
-    {0, "\\program files\\quake\\"},
-    {1, "\\hexen2\\"},
-    {1, "\\games\\hexen2\\"},
-    {1, "\\program files\\hexen2\\"},
-    {2, "\\quake2\\"},
-    {2, "\\games\\quake2\\"},
-    {2, "\\program files\\quake2\\"},
-    {3, "\\unreal\\system\\"},
-    {3, "\\games\\unreal\\system\\"},
-    {3, "\\program files\\unreal\\system\\"},
-    {4, "\\sin\\"},
-    {4, "\\games\\sin\\"},
-    {4, "\\program files\\sin\\"},
-    {4, "\\activision\\sin\\"},
-    {4, "\\games\\activision\\sin\\"},
-    {4, "\\program files\\activision\\sin\\"},
-    {4, "\\sin demo\\"},
-    {4, "\\games\\sin demo\\"},
-    {4, "\\program files\\sin demo\\"},
-    {4, "\\activision\\sin demo\\"},
-    {4, "\\games\\activision\\sin demo\\"},
-    {4, "\\program files\\activision\\sin demo\\"},
-    {5, "\\heretic ii\\"},
-    {5, "\\games\\heretic ii\\"},
-    {5, "\\program files\\heretic ii\\"},
-    {5, "\\heretic ii demo\\"},
-    {5, "\\games\\heretic ii demo\\"},
-    {5, "\\program files\\heretic ii demo\\"},
-    {6, "\\shogo\\"},
-    {6, "\\games\\shogo\\"},
-    {6, "\\program files\\shogo\\"},
-    {7, "\\blood2\\"},
-    {7, "\\games\\blood2\\"},
-    {7, "\\program files\\blood2\\"},
-    {8, "\\sierra\\half-life\\"},
-    {8, "\\games\\sierra\\half-life\\"},
-    {8, "\\program files\\sierra\\half-life\\"},
+    {wizard_row::kQuake, "\\quake\\"},
+    {wizard_row::kQuake, "\\games\\quake\\"},
+    {wizard_row::kQuake, "\\program files\\quake\\"},
+    {wizard_row::kHexen2, "\\hexen2\\"},
+    {wizard_row::kHexen2, "\\games\\hexen2\\"},
+    {wizard_row::kHexen2, "\\program files\\hexen2\\"},
+    {wizard_row::kQuake2, "\\quake2\\"},
+    {wizard_row::kQuake2, "\\games\\quake2\\"},
+    {wizard_row::kQuake2, "\\program files\\quake2\\"},
+    {wizard_row::kUnreal, "\\unreal\\system\\"},
+    {wizard_row::kUnreal, "\\games\\unreal\\system\\"},
+    {wizard_row::kUnreal, "\\program files\\unreal\\system\\"},
+    {wizard_row::kSin, "\\sin\\"},
+    {wizard_row::kSin, "\\games\\sin\\"},
+    {wizard_row::kSin, "\\program files\\sin\\"},
+    {wizard_row::kSin, "\\activision\\sin\\"},
+    {wizard_row::kSin, "\\games\\activision\\sin\\"},
+    {wizard_row::kSin, "\\program files\\activision\\sin\\"},
+    {wizard_row::kSin, "\\sin demo\\"},
+    {wizard_row::kSin, "\\games\\sin demo\\"},
+    {wizard_row::kSin, "\\program files\\sin demo\\"},
+    {wizard_row::kSin, "\\activision\\sin demo\\"},
+    {wizard_row::kSin, "\\games\\activision\\sin demo\\"},
+    {wizard_row::kSin, "\\program files\\activision\\sin demo\\"},
+    {wizard_row::kHeretic2, "\\heretic ii\\"},
+    {wizard_row::kHeretic2, "\\games\\heretic ii\\"},
+    {wizard_row::kHeretic2, "\\program files\\heretic ii\\"},
+    {wizard_row::kHeretic2, "\\heretic ii demo\\"},
+    {wizard_row::kHeretic2, "\\games\\heretic ii demo\\"},
+    {wizard_row::kHeretic2, "\\program files\\heretic ii demo\\"},
+    {wizard_row::kShogo, "\\shogo\\"},
+    {wizard_row::kShogo, "\\games\\shogo\\"},
+    {wizard_row::kShogo, "\\program files\\shogo\\"},
+    {wizard_row::kBlood2, "\\blood2\\"},
+    {wizard_row::kBlood2, "\\games\\blood2\\"},
+    {wizard_row::kBlood2, "\\program files\\blood2\\"},
+    {wizard_row::kHalfLife, "\\sierra\\half-life\\"},
+    {wizard_row::kHalfLife, "\\games\\sierra\\half-life\\"},
+    {wizard_row::kHalfLife, "\\program files\\sierra\\half-life\\"},
 };
 
 // Which games are looked for, and still open. A game that is known already is neither.
-using Rows = std::array<bool, kInstallRows>;
+using Rows = std::array<bool, kWizardRows>;
 
 Rows TickedRows(const Install_Frm& form) {
     Rows ticked{};
@@ -92,7 +93,7 @@ Rows SearchUsualPlaces(Install_Frm& form, const Rows& ticked) {
         }
         for (const Text& drive : drives) {
             const Text directory = Join(drive, place.Path);
-            if (form.run.System.Disk.FileExists(Join(directory, InstallRows()[place.Row].FileName))) {
+            if (form.run.System.Disk.FileExists(Join(directory, SearchedProgram(place.Row)))) {
                 form.GamePath_Txt[place.Row].Text = DropRight(directory, 1);
                 open[place.Row] = false;
             }
@@ -103,7 +104,7 @@ Rows SearchUsualPlaces(Install_Frm& form, const Rows& ticked) {
 
 Text NamesOf(const Rows& rows) {
     Text names;
-    for (std::size_t i = 0; i < kInstallRows; ++i) {
+    for (std::size_t i = 0; i < kWizardRows; ++i) {
         if (rows[i]) {
             names += Join(InstallRows()[i].ListName, ", ");
         }
@@ -124,7 +125,7 @@ void SetSearching(Install_Frm& form, bool searching) {
     form.CancelSearch = false;
     form.OK_Cmd.Enabled = !searching;
     form.Cancel_Cmd.Enabled = !searching;
-    for (std::size_t i = 0; i < kInstallRows; ++i) {
+    for (std::size_t i = 0; i < kWizardRows; ++i) {
         form.Browse_Cmd[i].Enabled = !searching && form.Game_Chk[i].Enabled;  // a known game's stays out of use
     }
     form.AutoSearch_Cmd.Caption = searching ? "Cancel &Search" : "&Do An Auto-Search";
@@ -140,8 +141,8 @@ void TakeHits(Install_Frm& form, const DiskWalk::Step& step, Rows& open) {
         if (!MayBeProgram(entry)) {
             continue;
         }
-        for (std::size_t i = 0; i < kInstallRows; ++i) {
-            if (open[i] && SameText(entry.Name, InstallRows()[i].WalkedName)) {
+        for (std::size_t i = 0; i < kWizardRows; ++i) {
+            if (open[i] && SameText(entry.Name, SearchedProgram(i))) {
                 form.GamePath_Txt[i].Text = step.Path.ends_with('\\') ? DropRight(step.Path, 1) : step.Path;
                 open[i] = false;
             }

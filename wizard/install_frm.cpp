@@ -8,27 +8,27 @@ namespace lv {
 namespace {
 
 // "Half-File" is how the window has always called that game.
-constexpr std::array<InstallRow, kInstallRows> kRows = {{
-    {"Quake", "Quake", "Quake", "quake", "quake.exe", "quake.exe"},
-    {"Hexen 2", "Hexen 2", "Hexen2", "hexen2", "h2.exe", "h2.exe"},
-    {"Quake 2", "Quake 2", "Quake2", "quake2", "quake2.exe", "quake2.exe"},
-    {"Unreal", "Unreal", "Unreal", "unreal", "unreal.exe", "unreal.exe"},
-    {"Sin", "Sin", "Sin", "sin", "sin.exe", "sin.exe"},
-    {"Heretic 2", "Heretic 2", "Heretic 2", "heretic2", "Heretic2.exe", "heretic2.exe"},
-    {"Shogo", "Shogo", "Shogo", "shogo", "shogo.exe", "shogo.exe"},
-    {"Blood2", "Blood 2", "Blood 2", "blood2", "blood2.exe", "blood2.exe"},
-    {"Half-File", "Half-Life", "Half-Life", "halflife", "HL.exe", "hl.exe"},
+constexpr std::array<InstallRow, kWizardRows> kRows = {{
+    {"Quake", "Quake", "Quake", "quake"},
+    {"Hexen 2", "Hexen 2", "Hexen2", "hexen2"},
+    {"Quake 2", "Quake 2", "Quake2", "quake2"},
+    {"Unreal", "Unreal", "Unreal", "unreal"},
+    {"Sin", "Sin", "Sin", "sin"},
+    {"Heretic 2", "Heretic 2", "Heretic 2", "heretic2"},
+    {"Shogo", "Shogo", "Shogo", "shogo"},
+    {"Blood2", "Blood 2", "Blood 2", "blood2"},
+    {"Half-File", "Half-Life", "Half-Life", "halflife"},
 }};
 
 }  // namespace
 
-const std::array<InstallRow, kInstallRows>& InstallRows() {
+const std::array<InstallRow, kWizardRows>& InstallRows() {
     return kRows;
 }
 
 Install_Frm::Install_Frm(Run& owner, const std::vector<KnownGame>& known) : ModalWindow(owner, "Install_Frm") {
     Caption = "Lorvane 3D Setup";
-    for (std::size_t i = 0; i < kInstallRows; ++i) {
+    for (std::size_t i = 0; i < kWizardRows; ++i) {
         Game_Chk[i].Caption = kRows[i].Caption;
         Browse_Cmd[i].Caption = "&Browse";
         Label1[i].Caption = "path -->";
@@ -44,11 +44,10 @@ Install_Frm::Install_Frm(Run& owner, const std::vector<KnownGame>& known) : Moda
     OK_Cmd.Default = true;
     Cancel_Cmd.Caption = "&Cancel";
     for (const KnownGame& game : known) {
-        const auto row = static_cast<std::size_t>(game.Row);
-        Game_Chk[row].Value = 2;
-        Game_Chk[row].Enabled = false;
-        GamePath_Txt[row].Text = game.Directory;
-        Browse_Cmd[row].Enabled = false;
+        Game_Chk[game.Row].Value = 2;
+        Game_Chk[game.Row].Enabled = false;
+        GamePath_Txt[game.Row].Text = game.Directory;
+        Browse_Cmd[game.Row].Enabled = false;
     }
 }
 

@@ -8,22 +8,21 @@
 #include <vector>
 
 #include "foundation/modal_window.h"
+#include "games/places.h"
 #include "launcher/menu/known_games.h"
 
 namespace lv {
-
-constexpr std::size_t kInstallRows = 9;
 
 struct Install_Frm : ModalWindow {
     /// The games that are known already are greyed and not looked for.
     explicit Install_Frm(Run& owner, const std::vector<KnownGame>& known = {});
 
-    std::array<Panel, kInstallRows> GameSetup_Fra;
-    std::array<Picture, kInstallRows> GameIcon_Pic;
-    std::array<CheckBox, kInstallRows> Game_Chk;
-    std::array<Label, kInstallRows> Label1;
-    std::array<TextBox, kInstallRows> GamePath_Txt;
-    std::array<CommandButton, kInstallRows> Browse_Cmd;
+    std::array<Panel, kWizardRows> GameSetup_Fra;
+    std::array<Picture, kWizardRows> GameIcon_Pic;
+    std::array<CheckBox, kWizardRows> Game_Chk;
+    std::array<Label, kWizardRows> Label1;
+    std::array<TextBox, kWizardRows> GamePath_Txt;
+    std::array<CommandButton, kWizardRows> Browse_Cmd;
     std::array<Label, 3> Label2;  // what to do
     CommandButton AutoSearch_Cmd;
     CheckBox ZipMagic_Chk;
@@ -39,14 +38,12 @@ struct Install_Frm : ModalWindow {
 
 /// What a row shows.
 struct InstallRow {
-    const char* Caption;     // of its check box
-    const char* Name;        // in the title of the path dialog and in messages
-    const char* ListName;    // in the list of games not found
-    const char* Picture;     // of assets/icons/games
-    const char* FileName;    // looked for in the usual places
-    const char* WalkedName;  // looked for on whole disks
+    const char* Caption;   // of its check box
+    const char* Name;      // in the title of the path dialog and in messages
+    const char* ListName;  // in the list of games not found
+    const char* Picture;   // of assets/icons/games
 };
-const std::array<InstallRow, kInstallRows>& InstallRows();
+const std::array<InstallRow, kWizardRows>& InstallRows();
 
 void Install_Browse_Cmd_Click(Install_Frm& form, int index);
 void Install_Cancel_Cmd_Click(Install_Frm& form);

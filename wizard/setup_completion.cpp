@@ -4,40 +4,11 @@
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/typed_path.h"
+#include "games/programs.h"
 
 namespace lv {
 
 namespace {
-
-struct ProgramRow {
-    std::size_t Row;
-    const char* Title;
-    const char* File;
-};
-
-constexpr ProgramRow kPrograms[] = {
-    {0, "Quake", "\\quake.exe"},
-    {0, "GL Quake", "\\glquake.exe"},
-    {0, "QuakeWorld", "\\qwcl.exe"},
-    {0, "GL QuakeWorld", "\\glqwcl.exe"},
-    {0, "WinQuake", "\\winquake.exe"},
-    {0, "V Quake", "\\vquake.exe"},
-    {1, "Hexen 2", "\\h2.exe"},
-    {1, "GL Hexen 2", "\\glh2.exe"},
-    {1, "Hexen World", "\\hwcl.exe"},
-    {1, "Hexen 2 - Portals", "\\h2mp.exe"},
-    {1, "GL Hexen 2 - Portals", "\\glh2mp.exe"},
-    {2, "Quake 2", "\\quake2.exe"},
-    {3, "Unreal", "\\unreal.exe"},
-    {4, "Sin", "\\sin.exe"},
-    {5, "Heretic 2", "\\heretic2.exe"},
-    {6, "Shogo", "\\shogo.exe"},
-    {7, "Blood 2", "\\blood2.exe"},
-    {7, "Blood 2", "\\b2demo.exe"},
-    {8, "Half-Life", "\\hl.exe"},
-};
-
-constexpr std::size_t kQuakeRow = 0;
 
 // A path that cannot stand in the list would take all entries behind it with it.
 bool IsNew(Run& run, const Text& list, const Text& program) {
@@ -45,10 +16,13 @@ bool IsNew(Run& run, const Text& list, const Text& program) {
 }
 
 void AddPrograms(Run& run, std::size_t row, const Text& path, Text& list) {
-    for (const ProgramRow& program : kPrograms) {
-        const Text file = Join(path, program.File);
-        if (program.Row == row && IsNew(run, list, file)) {
-            list += Join(program.Title, ";", file, ";");
+    for (const Program& program : AllPrograms()) {
+        if (program.WizardRow != row || program.EntryTitle.empty()) {
+            continue;
+        }
+        const Text file = Join(path, "\\", program.FileName);
+        if (IsNew(run, list, file)) {
+            list += Join(program.EntryTitle, ";", file, ";");
         }
     }
 }
@@ -74,7 +48,7 @@ void Install_OK_Cmd_Click(Install_Frm& form) {
         list += ';';
     }
     Text directory = run.DefaultGameDirectory;
-    for (std::size_t i = 0; i < kInstallRows; ++i) {
+    for (std::size_t i = 0; i < kWizardRows; ++i) {
         if (form.Game_Chk[i].Value != 1) {
             continue;
         }
@@ -83,7 +57,7 @@ void Install_OK_Cmd_Click(Install_Frm& form) {
             return;
         }
         AddPrograms(run, i, path, list);
-        if (directory.empty() || i == kQuakeRow) {
+        if (directory.empty() || i == wizard_row::kQuake) {
             directory = Join(path, "\\");
         }
     }

@@ -1,10 +1,10 @@
 #include "catalogs/editors/add_demo.h"
 
-#include "catalogs/game_filters.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/padded_item.h"
 #include "foundation/typed_path.h"
+#include "games/games.h"
 
 namespace lv {
 
@@ -47,8 +47,8 @@ AddDemo_Frm::AddDemo_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
 }
 
 void AddDemo_Browse_Cmd_Click(AddDemo_Frm& form) {
-    const GameFilters* filters = FiltersOf(form.run.GameKind);
-    const TextView filter = filters == nullptr || filters->Demos.empty() ? kAllFilesFilter : filters->Demos;
+    const TextView own = FactsOf(form.run.GameKind).DemoFilter;
+    const TextView filter = own.empty() ? kAllFilesFilter : own;
     const Text directory = DemoDirectory(form.run);
     const Text typed = TypedName(form.run, form.DemoPath_Txt.Text, directory);
     const Text inBox = typed.empty() ? Text() : Join(directory, "\\", typed);

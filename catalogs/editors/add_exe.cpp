@@ -1,30 +1,16 @@
 #include "catalogs/editors/add_exe.h"
 
-#include <algorithm>
-
 #include "catalogs/missing_game.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundation/typed_path.h"
+#include "games/programs.h"
 
 namespace lv {
 
 namespace {
-
-struct ImageKeyRow {
-    TextView FileName;
-    TextView Image;
-};
-
-// Neither hl.exe nor shogo.exe, blood2.exe and glhwcl.exe: those get their pictures at the next start.
-constexpr ImageKeyRow kImageKeys[] = {
-    {"quake.exe", "QUAKE"},     {"winquake.exe", "QUAKE"},    {"vquake.exe", "QUAKE"},  {"glquake.exe", "QUAKE"},
-    {"qwcl.exe", "QUAKEWORLD"}, {"glqwcl.exe", "QUAKEWORLD"}, {"quake2.exe", "QUAKE2"}, {"h2.exe", "HEXEN2"},
-    {"h2mp.exe", "HEXEN2"},     {"glh2.exe", "HEXEN2"},       {"glh2mp.exe", "HEXEN2"}, {"hwcl.exe", "HEXEN2"},
-    {"unreal.exe", "UNREAL"},   {"sin.exe", "SIN"},           {"sindemo.exe", "SIN"},   {"heretic2.exe", "HERETIC2"},
-};
 
 ImageComboItem& SelectedRow(ImageCombo& list) {
     return list.Items[static_cast<std::size_t>(list.ListIndex)];
@@ -84,12 +70,6 @@ void EnterDirectoryOf(AddExe_Frm& form, const GameRecord& game) {
 }
 
 }  // namespace
-
-Text NewExeImageKeyOf(TextView fileName) {
-    const auto* row = std::find_if(std::begin(kImageKeys), std::end(kImageKeys),
-                                   [&](const ImageKeyRow& known) { return SameText(known.FileName, fileName); });
-    return row == std::end(kImageKeys) ? "QUESTION" : Text(row->Image);
-}
 
 AddExe_Frm::AddExe_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
     : EntryWindow(owner, "AddExe_Frm", mode), Lists(lists) {

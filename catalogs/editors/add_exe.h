@@ -28,7 +28,4 @@ struct AddExe_Frm : EntryWindow {
 void AddExe_Browse_Cmd_Click(AddExe_Frm& form);
 void AddExe_OK_Cmd_Click(AddExe_Frm& form);
 
-/// The picture of a new row. Knows fewer programs than the list at the next start does: kept on purpose.
-Text NewExeImageKeyOf(TextView fileName);
-
 }  // namespace lv

@@ -1,6 +1,5 @@
 #include "catalogs/editors/add_script.h"
 
-#include "catalogs/game_filters.h"
 #include "catalogs/scripts.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
@@ -9,6 +8,7 @@
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundation/typed_path.h"
+#include "games/games.h"
 
 namespace lv {
 
@@ -139,10 +139,10 @@ Text WholeScriptPath(const Run& run, TextView typed) {
 }
 
 void AddScript_Browse_Cmd_Click(AddScript_Frm& form) {
-    const GameFilters* filters = FiltersOf(form.run.GameKind);
+    const TextView own = FactsOf(form.run.GameKind).ScriptFilter;
     const Text typed = TypedPath(form.run, form.ScriptPath_Txt.Text);
     const Text inBox = typed.empty() ? Text() : WholeScriptPath(form.run, typed);
-    if (auto path = BrowseForFile(form.run, filters == nullptr ? kAllFilesFilter : filters->Scripts,
+    if (auto path = BrowseForFile(form.run, own.empty() ? kAllFilesFilter : own,
                                   BrowseStart(form.run, inBox, ScriptDirectory(form.run)))) {
         form.ScriptPath_Txt.Text = *std::move(path);
     }

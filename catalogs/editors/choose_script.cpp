@@ -1,9 +1,9 @@
 #include "catalogs/editors/choose_script.h"
 
-#include "catalogs/game_filters.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/typed_path.h"
+#include "games/games.h"
 
 namespace lv {
 
@@ -12,7 +12,7 @@ namespace {
 // The games that came later share the plain filter here, Unreal too.
 TextView FilterFor(Game gameKind) {
     const bool hasOwn = gameKind == Game::Quake || gameKind == Game::Hexen2 || gameKind == Game::Quake2;
-    return hasOwn ? FiltersOf(gameKind)->Scripts : "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*";
+    return hasOwn ? FactsOf(gameKind).ScriptFilter : "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*";
 }
 
 }  // namespace

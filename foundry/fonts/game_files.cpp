@@ -6,6 +6,7 @@
 #include "catalogs/wildcard.h"
 #include "foundation/game.h"
 #include "foundry/fonts/pak_file.h"
+#include "games/games.h"
 
 namespace lv {
 
@@ -73,7 +74,7 @@ bool TakeFromDirectory(Files& disk, TextView directory, Game gameKind, TextView 
 }  // namespace
 
 std::vector<Text> NewestArchives(Files& disk, TextView directory, Game gameKind) {
-    std::vector<Text> names = ListFiles(disk, directory, gameKind == Game::Sin ? "*.sin" : "*.pak");
+    std::vector<Text> names = ListFiles(disk, directory, FactsOf(gameKind).Archives);
     std::ranges::sort(names, [](const Text& a, const Text& b) { return IsOlder(LowerCase(b), LowerCase(a)); });
     names.resize(std::min(names.size(), kMostArchives));
     return names;

@@ -9,6 +9,7 @@
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
 #include "foundation/game.h"
+#include "games/games.h"
 
 namespace lv {
 
@@ -32,7 +33,7 @@ bool HoldsNone(TextView lowerName, const std::array<TextView, Count>& parts) {
 /// The names of all entries below `folder` ("players/"), without it.
 void VisitEntries(Files& disk, TextView directory, Game gameKind, TextView folder,
                   const std::function<void(TextView)>& visit) {
-    std::vector<Text> archives = ListFiles(disk, directory, gameKind == Game::Sin ? "*.sin" : "*.pak");
+    std::vector<Text> archives = ListFiles(disk, directory, FactsOf(gameKind).Archives);
     std::ranges::sort(archives, {}, [](const Text& name) { return LowerCase(name); });
     archives.resize(std::min(archives.size(), kMostArchives));
     for (const Text& archive : archives) {

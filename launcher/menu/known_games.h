@@ -12,12 +12,9 @@
 namespace lv {
 
 struct KnownGame {
-    int Row = 0;     // of the wizard
-    Text Directory;  // without a "\" at the end
+    std::size_t Row = 0;  // of the wizard
+    Text Directory;       // without a "\" at the end
 };
-
-/// The wizard's row for an executable's file name, in any letter case.
-std::optional<int> WizardRowOf(TextView fileName);
 
 /// The catalog's, in its order. Nothing if it is damaged: the user was told, and the program is at its end.
 std::optional<std::vector<KnownGame>> KnownGames(Run& run);

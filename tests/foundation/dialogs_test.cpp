@@ -116,15 +116,4 @@ TEST_F(Dialogs, OtherBoxesHaveNone) {
     EXPECT_FALSE(user.Asked.back().FixedWidth);
 }
 
-TEST(GameKindNames, AreTheWrittenOnes) {
-    EXPECT_EQ(GameKindName(Game::None), "Unknown");
-    EXPECT_EQ(GameKindName(Game::Quake), "Quake");
-    EXPECT_EQ(GameKindName(Game::Hexen2), "Hexen2");
-    EXPECT_EQ(GameKindName(Game::Quake2), "Quake2");
-    EXPECT_EQ(GameKindName(Game::Unreal), "Unreal");
-    EXPECT_EQ(GameKindName(Game::Sin), "Sin");
-    EXPECT_EQ(GameKindName(Game::Heretic2), "Heretic2");
-    EXPECT_EQ(GameKindName(Game::HalfLife), "Half-Life");
-}
-
 }  // namespace lv

@@ -61,7 +61,7 @@ class InstallForm : public ModalForm {
         auto* rows = new wxBoxSizer(wxVERTICAL);
         std::vector<wxWindow*> ticks;
         int widest = 0;
-        for (std::size_t i = 0; i < kInstallRows; ++i) {
+        for (std::size_t i = 0; i < kWizardRows; ++i) {
             ticks.push_back(MakeRow(*rows, i));
             widest = std::max(widest, ticks.back()->GetBestSize().x);
         }

@@ -147,20 +147,4 @@ TEST_F(AddExe, TakesAPathOfTheSystemsOwn) {
     EXPECT_EQ(lists.Exe_Cbo.Items.back().Key, "C:\\HOME\\games\\glquake.exe");
 }
 
-TEST(NewExeImageKeyOf, KnowsFewerProgramsThanTheNextStart) {
-    const std::vector<std::pair<const char*, const char*>> rows = {
-        {"quake.exe", "QUAKE"},       {"winquake.exe", "QUAKE"},  {"vquake.exe", "QUAKE"},
-        {"glquake.exe", "QUAKE"},     {"qwcl.exe", "QUAKEWORLD"}, {"glqwcl.exe", "QUAKEWORLD"},
-        {"quake2.exe", "QUAKE2"},     {"h2.exe", "HEXEN2"},       {"h2mp.exe", "HEXEN2"},
-        {"glh2.exe", "HEXEN2"},       {"glh2mp.exe", "HEXEN2"},   {"hwcl.exe", "HEXEN2"},
-        {"unreal.exe", "UNREAL"},     {"sin.exe", "SIN"},         {"sindemo.exe", "SIN"},
-        {"heretic2.exe", "HERETIC2"}, {"hl.exe", "QUESTION"},     {"shogo.exe", "QUESTION"},
-        {"blood2.exe", "QUESTION"},   {"glhwcl.exe", "QUESTION"}, {"other.exe", "QUESTION"},
-        {"QUAKE.EXE", "QUAKE"},
-    };
-    for (const auto& [file, image] : rows) {
-        EXPECT_EQ(NewExeImageKeyOf(file), image) << file;
-    }
-}
-
 }  // namespace lv
