@@ -1,58 +1,10 @@
 #include "foundry/half_life/convert_registry.h"
 
-#include "foundation/field_strings.h"
-#include "foundry/foundry.h"
-#include "launcher/window/launch_flow.h"
-#include "launcher/window/lv_events.h"
+#include "tests/foundry/half_life_fixture.h"
 #include "tests/foundry/script_fixture.h"
-#include "tests/support/launcher_fixture.h"
 
 namespace lv {
 namespace {
-
-constexpr TextView kPath = "C:\\HL\\valve\\lv3dhlrg.cfg";
-constexpr TextView kProfiles = "software\\valve\\half-life\\player profiles\\";
-
-class HalfLifeTest : public LauncherTest {
-  protected:
-    HalfLifeTest() { system.Disk.AddDirectory("C:\\HL\\VALVE"); }
-
-    void Select(TextView profile) {
-        system.Registry.Values["software\\valve\\half-life\\settings|selectedprofile"] = {kRegistryText, Text(profile),
-                                                                                          0};
-    }
-    /// `name` as "|chat nickname", "\kb|119", "\cvar|gamma".
-    void Hold(TextView profile, TextView name, TextView value) {
-        system.Registry.Values[Join(kProfiles, profile, name)] = {kRegistryText, Text(value), 0};
-    }
-    Text Held(TextView profile, TextView name) {
-        const auto found = system.Registry.Values.find(Join(kProfiles, profile, name));
-        return found == system.Registry.Values.end() ? Text("(none)") : found->second.Text;
-    }
-    void BeQuiet() { Save(run, "ShowMessage", "HalfLifeRegConversion", 0); }
-
-    void ExpectTold(TextView path, bool notAgain = false) {
-        user.Expect({"Half-Life Registry Conversion",
-                     Join("Lorvane has just converted your Half-Life settings from the registry\r\n"
-                          "to the following file:\r\n",
-                          path,
-                          "\r\nThis will automatically occur each time you select Half-Life in the\r\n"
-                          "Game Executable list; the previous file is destroyed.\r\n"
-                          "Half-Life stores your settings in the registry. However, it still allows\r\n"
-                          "execution of player scripts. Lorvane will manage your Half-Life settings\r\n"
-                          "through scripts only. The automatic conversion of the registry to a file\r\n"
-                          "gives you an initial changeover. ROCK!"),
-                     0, notAgain, true, "&OK"});
-    }
-    void ExpectFailure(int number) {
-        user.Expect({"Error During Save of Half-Life Registry Settings Conversion",
-                     Join("Error Number = ", std::to_string(number), "\r\nError String = ", MakeError(number).Text,
-                          number == 70 || number == 75 ? Join(": ", kPath) : Text()),
-                     0, false, true, "&OK"});
-    }
-
-    Text Script() { return system.Disk.Bytes(kPath); }
-};
 
 TEST_F(HalfLifeTest, WritesTheSelectedProfile) {
     BeQuiet();
@@ -212,82 +164,6 @@ TEST_F(HalfLifeTest, PassesOnTheRegistrysErrors) {
     EXPECT_EQ(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg").Number, 5);
     system.Registry.RefuseQueries = MakeError(57);
     EXPECT_EQ(ConvertScriptToRegistry(run, "C:\\HL\\VALVE\\my.cfg").Number, 57);
-}
-
-class ConnectFoundryTest : public HalfLifeTest {
-  protected:
-    ConnectFoundryTest() {
-        ConnectFoundry(launcher);
-        AddGames();
-    }
-};
-
-TEST_F(ConnectFoundryTest, PickingHalfLifeWritesItsScriptAndListsIt) {
-    Load();
-    Hold("player", "|chat nickname", "Gordon");
-    ExpectTold("c:\\hl\\valve\\lv3dhlrg.cfg");
-    PickExe("C:\\HL\\HL.EXE");
-    EXPECT_EQ(CountLines(Script(), "name \"Gordon\""), 1);
-    const auto& rows = window.Script_Cbo.Items;
-    ASSERT_FALSE(rows.empty());
-    EXPECT_TRUE(TextView(rows[0]).starts_with("Registry Settings "));
-    EXPECT_EQ(rows[0].substr(100), "c:\\hl\\valve\\lv3dhlrg.cfg");
-}
-
-TEST_F(ConnectFoundryTest, EachPickConvertsAnew) {
-    BeQuiet();
-    Load();
-    PickExe("C:\\HL\\HL.EXE");
-    Hold("player", "|chat nickname", "Gordon");
-    PickExe("C:\\HL\\HL.EXE");
-    EXPECT_EQ(CountLines(Script(), "name \"Gordon\""), 1);
-}
-
-TEST_F(ConnectFoundryTest, PickingAnotherGameConvertsNothing) {
-    Load();
-    PickExe("C:\\QUAKE2\\QUAKE2.EXE");
-    EXPECT_EQ(Script(), "(none)");
-    EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE2\\valve\\lv3dhlrg.cfg"), "(none)");
-}
-
-TEST_F(ConnectFoundryTest, ALaunchWithAScriptWritesItToTheRegistryBeforeTheGameStarts) {
-    BeQuiet();
-    Load();
-    PickExe("C:\\HL\\HL.EXE");
-    system.Disk.AddFile("C:\\HL\\VALVE\\life.cfg", "name \"Alyx\"\nbind w +forward\n");
-    for (std::size_t i = 0; i < window.Script_Cbo.Items.size(); ++i) {
-        if (TextView(window.Script_Cbo.Items[i]).starts_with("life.cfg")) {
-            window.Script_Cbo.ListIndex = static_cast<int>(i);
-        }
-    }
-    Click(Option::Script_Chk, 1);
-    DoIt_Cmd_Click(launcher, 0);
-    EXPECT_EQ(Held("player", "|chat nickname"), "Alyx");
-    EXPECT_EQ(Held("player", "\\kb|119"), "+forward");
-    EXPECT_EQ(system.Programs.Started.size(), 1u);
-    EXPECT_EQ(system.Disk.Bytes("C:\\HL\\VALVE\\lv_666.qs"), "exec life.cfg\r\n");
-}
-
-TEST_F(ConnectFoundryTest, ALaunchWithoutAScriptLeavesTheRegistryAlone) {
-    BeQuiet();
-    Load();
-    PickExe("C:\\HL\\HL.EXE");
-    Click(Option::Script_Chk, 0);
-    DoIt_Cmd_Click(launcher, 0);
-    EXPECT_TRUE(system.Registry.Values.empty());
-    EXPECT_EQ(system.Programs.Started.size(), 1u);
-}
-
-TEST_F(ConnectFoundryTest, ARegistryThatRefusesTheScriptStopsTheLaunch) {
-    BeQuiet();
-    Load();
-    Hold("player", "|chat nickname", "Gordon");
-    PickExe("C:\\HL\\HL.EXE");
-    Click(Option::Script_Chk, 1);
-    system.Registry.RefuseWrites = Error{5, "Access is denied."};
-    user.Expect({"Lorvane 3D", "Error Number = 5\r\nError Code = EC00080"});
-    DoIt_Cmd_Click(launcher, 0);
-    EXPECT_TRUE(system.Programs.Started.empty());
 }
 
 TEST_F(HalfLifeTest, ReplacesALinkOfTheScriptsName) {
