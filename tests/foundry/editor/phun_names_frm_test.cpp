@@ -92,7 +92,7 @@ TEST_F(PhunNames, ShowOurOwnLettersWithoutTheGamesData) {
     for (const ScriptDialect& dialect : {kQuakeDialect, kHexen2Dialect, kQuake2Dialect, kUnrealDialect, kSinDialect,
                                          kHeretic2Dialect, kHalfLifeDialect}) {
         Load(dialect, "");
-        EXPECT_EQ(names.Map.Pixels, OwnFont(dialect.GameKind).Pixels) << dialect.GameKind;
+        EXPECT_EQ(names.Map.Pixels, OwnFont(dialect.GameKind).Pixels) << static_cast<int>(dialect.GameKind);
     }
 }
 

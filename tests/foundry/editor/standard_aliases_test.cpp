@@ -44,7 +44,7 @@ TEST_F(StandardAliases, AreOfferedForQuakeAlone) {
     for (const ScriptDialect& dialect : {kHexen2Dialect, kQuake2Dialect, kUnrealDialect, kHalfLifeDialect}) {
         Open(dialect);
         FillStandardAliases(form);
-        EXPECT_TRUE(form.StdAliases_Cbo.Items.empty()) << dialect.GameKind;
+        EXPECT_TRUE(form.StdAliases_Cbo.Items.empty()) << static_cast<int>(dialect.GameKind);
     }
 }
 

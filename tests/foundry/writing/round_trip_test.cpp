@@ -176,9 +176,9 @@ TEST(RoundTrip, SetJoystickKeepsItsSetInQuake2AndSin) {
     for (const ScriptDialect& dialect : {kQuake2Dialect, kSinDialect}) {
         for (const TextView line : {"set joystick 1\n", "joystick 1\n"}) {
             const Text written = Written(ReadScript(dialect, line));
-            EXPECT_EQ(CountLines(written, "set joystick 1"), 1) << dialect.GameKind;
-            EXPECT_EQ(CountLines(written, "joystick 1"), 0) << dialect.GameKind;
-            EXPECT_EQ(ReadScript(dialect, written).JoyStick_Chk.Value, 1) << dialect.GameKind;
+            EXPECT_EQ(CountLines(written, "set joystick 1"), 1) << static_cast<int>(dialect.GameKind);
+            EXPECT_EQ(CountLines(written, "joystick 1"), 0) << static_cast<int>(dialect.GameKind);
+            EXPECT_EQ(ReadScript(dialect, written).JoyStick_Chk.Value, 1) << static_cast<int>(dialect.GameKind);
         }
     }
 }
@@ -186,9 +186,9 @@ TEST(RoundTrip, SetJoystickKeepsItsSetInQuake2AndSin) {
 TEST(RoundTrip, SetJoystickLosesItsSetInHeretic2AndTheOthers) {
     for (const ScriptDialect& dialect : {kHeretic2Dialect, kHalfLifeDialect, kQuakeDialect, kHexen2Dialect}) {
         const Text written = Written(ReadScript(dialect, "set joystick 1\n"));
-        EXPECT_EQ(CountLines(written, "joystick 1"), 1) << dialect.GameKind;
-        EXPECT_EQ(CountLines(written, "set joystick 1"), 0) << dialect.GameKind;
-        EXPECT_EQ(ReadScript(dialect, written).JoyStick_Chk.Value, 1) << dialect.GameKind;
+        EXPECT_EQ(CountLines(written, "joystick 1"), 1) << static_cast<int>(dialect.GameKind);
+        EXPECT_EQ(CountLines(written, "set joystick 1"), 0) << static_cast<int>(dialect.GameKind);
+        EXPECT_EQ(ReadScript(dialect, written).JoyStick_Chk.Value, 1) << static_cast<int>(dialect.GameKind);
     }
 }
 
@@ -246,8 +246,8 @@ TEST(RoundTrip, AHandThatWasNotChosenStaysSo) {
         const Text written = Written(ReadScript(dialect, "name a"));
         EXPECT_EQ(CountLines(written, "hand \"-1\""), 1);
         const ScriptDocument read = ReadScript(dialect, written);
-        EXPECT_EQ(read.Handed_Cbo.Items.size(), 3U) << dialect.GameKind;
-        EXPECT_EQ(Written(read), written) << dialect.GameKind;
+        EXPECT_EQ(read.Handed_Cbo.Items.size(), 3U) << static_cast<int>(dialect.GameKind);
+        EXPECT_EQ(Written(read), written) << static_cast<int>(dialect.GameKind);
     }
 }
 

@@ -24,7 +24,7 @@ TEST(SaveFilter, IsThatOfTheKind) {
         {Game::None, "cfg", "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(SaveFilter(row.GameKind, row.Extension), row.Filter) << row.GameKind;
+        EXPECT_EQ(SaveFilter(row.GameKind, row.Extension), row.Filter) << static_cast<int>(row.GameKind);
     }
 }
 
@@ -37,7 +37,7 @@ TEST(SaveFilter, TakesAThirdExtension) {
         {Game::HalfLife, "qs", "Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(SaveFilter(row.GameKind, row.Extension), row.Filter) << row.GameKind;
+        EXPECT_EQ(SaveFilter(row.GameKind, row.Extension), row.Filter) << static_cast<int>(row.GameKind);
     }
 }
 
