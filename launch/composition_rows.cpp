@@ -1,7 +1,5 @@
 #include "launch/composition_rows.h"
 
-#include <iterator>
-
 #include "foundation/field_strings.h"
 #include "foundation/padded_item.h"
 #include "launch/switch_rules.h"
@@ -205,8 +203,6 @@ constexpr CompositionRow kRows[] = {
     {Step::LaunchScript,    Every, Always,                 None, "+exec lv_666.qs ", No, No, No, {}, Time::ScriptWritten},
 };
 // clang-format on
-
-static_assert(std::size(kRows) == kCompositionRows);
 
 }  // namespace
 

@@ -64,8 +64,6 @@ struct CompositionRow {
     CompositionTime Time = CompositionTime::Composition;
 };
 
-constexpr std::size_t kCompositionRows = 46;
-
 /// All rows, in the order in which they are run.
 std::span<const CompositionRow> CompositionRows();
 
