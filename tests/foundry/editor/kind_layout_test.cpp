@@ -95,7 +95,7 @@ constexpr ListedControls kListedControls[] = {
 
 TEST_F(KindLayoutTest, EachKindHasItsPagesLegendAndRows) {
     for (const ListedKind& row : kListed) {
-        SCOPED_TRACE(row.Kind);
+        SCOPED_TRACE(NumberOf(row.Kind));
         Load(DialectOf(row.Kind));
         EXPECT_EQ(Page(4), row.Page4);
         EXPECT_EQ(Page(5), row.Page5);

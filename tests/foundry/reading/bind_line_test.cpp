@@ -34,6 +34,8 @@ TEST_F(BindLineTest, ReachesTheFixedSlotInItsOwnSpelling) {
 }
 
 TEST_F(BindLineTest, ACommandThatIsWrittenWithABlankAheadComesBackToItsSlot) {
+    constexpr Game kKinds[] = {Game::Quake, Game::Hexen2,   Game::Quake2,  Game::Unreal,
+                               Game::Sin,   Game::Heretic2, Game::HalfLife};
     int seen = 0;
     for (const Game kind : kKinds) {
         Use(kind);

@@ -16,8 +16,10 @@ namespace {
 
 constexpr TextView kScript = "C:\\GAME\\MY.CFG";
 
-Index FamilyOf(Game kind) {
-    return kind == Game::Unreal ? 4 : kind == Game::Quake || kind == Game::Hexen2 ? 1 : 3;
+Dialect FamilyOf(Game kind) {
+    return kind == Game::Unreal                          ? Dialect::Unreal
+           : kind == Game::Quake || kind == Game::Hexen2 ? Dialect::Quake
+                                                         : Dialect::Quake2;
 }
 
 ScriptDocument Read(const Text& script, ScriptDialect dialect) {

@@ -49,8 +49,8 @@ TEST(RecognitionTable, EachCommandMeansTheListedSlotInEachKind) {
     for (const auto& row : kRecognition) {
         for (std::size_t i = 0; i < kKinds.size(); ++i) {
             const SlotMatch match = SlotFromCommand(row.Command, kKinds[i]);
-            EXPECT_TRUE(match.Known) << row.Command << " in " << kKinds[i];
-            EXPECT_EQ(match.Slot, row.Slots[i]) << row.Command << " in " << kKinds[i];
+            EXPECT_TRUE(match.Known) << row.Command << " in " << NumberOf(kKinds[i]);
+            EXPECT_EQ(match.Slot, row.Slots[i]) << row.Command << " in " << NumberOf(kKinds[i]);
         }
     }
 }

@@ -220,7 +220,7 @@ TEST(SlotFromCommand, RecognisesNearlyAllThatItsOwnScriptsSay) {
             const Text& command = document.SlotCommand[slot];
             const SlotNumber read = SlotOf(LowerCase(command), kind);
             if (!command.empty() && document.Bound_Lbl[slot].Visible && read != slot) {
-                lost.emplace_back(kind, slot, read);
+                lost.emplace_back(NumberOf(kind), slot, read);
             }
         }
     }
