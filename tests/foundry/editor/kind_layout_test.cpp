@@ -122,7 +122,7 @@ TEST_F(KindLayoutTest, ThePagesOfAllKindsAreAlwaysOn) {
 
 TEST_F(KindLayoutTest, EachKindHasItsSettings) {
     for (const ListedControls& row : kListedControls) {
-        SCOPED_TRACE(row.Kind);
+        SCOPED_TRACE(NumberOf(row.Kind));
         Load(DialectOf(row.Kind));
         const ScriptDocument& document = form.Document;
         EXPECT_EQ(document.PlayerColor_Lbl[0].Visible, row.Colors);
