@@ -101,6 +101,7 @@ TEST_F(ConnectEditorTest, TheLauncherOpensTheEditorsWindow) {
     Load();
     ConnectEditor(foundry);
     int opened = 0;
+    user.Expect({.Title = "SetupFoundry Information", .Text_ = "A backup copy has been stored"});
     user.In<Fig_Frm>([&opened](Fig_Frm& form) {
         ++opened;
         Fig_Frm_Unload(form);
