@@ -120,14 +120,21 @@ class FigForm_ : public ::testing::Test {
 
     static void MoveTo(const wxPoint& to) {
         wxUIActionSimulator().MouseMove(to);
+        SettleUntil([&to] { return wxGetMousePosition() == to; }, 1000);
         Settle(60);
     }
 
-    /// Presses the mouse on the key and takes it to the row; Drop lets go.
-    static void Carry(const std::string& key, const std::string& row) {
+    /// Presses the mouse on the key, which becomes the pointer's unless it can't be bound.
+    void Grab(const std::string& key) const {
         MoveTo(MiddleOf(key));
         wxUIActionSimulator().MouseDown();
+        SettleUntil([this] { return form->Model().Drag.Icon != DragIcon::None; }, 1000);
         Settle(60);
+    }
+
+    /// Takes the key to the row; Drop lets go.
+    void Carry(const std::string& key, const std::string& row) const {
+        Grab(key);
         const wxPoint from = MiddleOf(key);
         const wxPoint to = MiddleOf(row);
         MoveTo(from + (to - from) / 2);
@@ -137,7 +144,7 @@ class FigForm_ : public ::testing::Test {
         wxUIActionSimulator().MouseUp();
         Settle();
     }
-    static void Drag(const std::string& key, const std::string& row) {
+    void Drag(const std::string& key, const std::string& row) const {
         Carry(key, row);
         Drop();
     }

@@ -143,9 +143,7 @@ TEST_F(FigKeyboard, ADragThatNearsTheEdgeScrollsTheWindow) {
         Settle(300);
         const int below = content->GetViewStart().y;
         ASSERT_GT(below, 0);
-        MoveTo(MiddleOf("Key_Lbl(5)"));
-        wxUIActionSimulator().MouseDown();
-        Settle(60);
+        Grab("Key_Lbl(5)");
         MoveTo(content->GetScreenRect().GetTopLeft() + wxPoint(300, 6));
         EXPECT_TRUE(SettleUntil([&] { return content->GetViewStart().y == 0; }, 5000));
         MoveTo(MiddleOf("Setting_Lbl(103)"));

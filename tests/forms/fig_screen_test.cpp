@@ -79,9 +79,7 @@ TEST_F(EditorOnAnyScreen, ARowBehindTheKeysTakesNoKey) {
         ShowFewRows(form);
         const wxPoint hidden = MiddleOf("Setting_Lbl(116)");
         ASSERT_GT(hidden.y, Find("Keyboard_Fra")->GetScreenRect().y);
-        MoveTo(MiddleOf("Key_Lbl(5)"));
-        wxUIActionSimulator().MouseDown();
-        Settle(60);
+        Grab("Key_Lbl(5)");
         MoveTo(hidden);
         Drop();
         EXPECT_EQ(Shown("Setting_Lbl(116)"), "");
@@ -95,9 +93,7 @@ TEST_F(EditorOnAnyScreen, TheWheelScrollsTheRowsUnderADrag) {
         TurnBindings(BindingsPage::Standard);
         ShowFewRows(form);
         const wxPoint place = MiddleOf("Setting_Lbl(102)");
-        MoveTo(MiddleOf("Key_Lbl(5)"));
-        wxUIActionSimulator().MouseDown();
-        Settle(60);
+        Grab("Key_Lbl(5)");
         MoveTo(place);
         EXPECT_TRUE(FindAs<CellLabel>("Setting_Lbl(102)")->Shown().Highlighted);
         TurnWheelDown("Key_Lbl(5)", place);

@@ -19,6 +19,8 @@ namespace lv {
 namespace {
 
 constexpr int kBetweenKeys = 20;
+constexpr int kBetweenTurns = 5;  // milliseconds
+constexpr int kLeastTurns = 8;    // however long each of them takes on a busy machine
 
 class PollingTimer : public wxTimer {
   public:
@@ -62,14 +64,15 @@ void Settle(int milliseconds) {
 
 bool SettleUntil(const std::function<bool()>& holds, int milliseconds) {
     const wxStopWatch watch;
-    while (watch.Time() < milliseconds) {
+    const int turns = std::min(kLeastTurns, milliseconds / kBetweenTurns);
+    for (int turn = 0; turn < turns || watch.Time() < milliseconds; ++turn) {
         SignOfLife();
         if (holds()) {
             return true;
         }
         wxEventLoopBase* loop = wxEventLoopBase::GetActive();
         loop->YieldFor(wxEVT_CATEGORY_ALL);
-        wxMilliSleep(5);
+        wxMilliSleep(kBetweenTurns);
     }
     return holds();
 }
