@@ -2,7 +2,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/game.h"
-#include "launch/composition_rows.h"
+#include "launch/command_line_switches.h"
 #include "launch/text_patterns.h"
 
 namespace lv {

@@ -1,7 +1,7 @@
 // launch/launch_composition.h
 //
 // What each selection and each key of the video profile adds to the command lines and the scripts of a launch.
-// The rows stand in composition_rows.cpp; here they are run.
+// The rows stand in command_line_switches.cpp; here they are run.
 
 #pragma once
 

@@ -1,8 +1,8 @@
 // launch/option_boxes.h
 //
 // The option check boxes of the main window: which there are, what each says and where it is kept, and the set of those
-// that are ticked. A new option is an enumerator here with its row in option_boxes.cpp, a row of composition_rows for
-// what it adds to a launch, and its place in the form.
+// that are ticked. A new option is an enumerator here with its row in option_boxes.cpp, a row of command_line_switches
+// for what it adds to a launch, and its place in the form.
 
 #pragma once
 

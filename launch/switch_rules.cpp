@@ -35,8 +35,8 @@ void AddGiven(Text& command, std::vector<GivenWord>& given, GivenWord word) {
     }
 }
 
-GivenWord AsItStands(Text value) {
-    return {.Written = value, .Argument = std::move(value)};
+GivenWord AsItStands(const Text& value) {
+    return {.Written = value, .Argument = value};
 }
 
 /// Behind ".EXE", or behind the executable's own name where that has another ending, with a blank before it. What

@@ -4,7 +4,7 @@
 
 #pragma once
 
-#include "launch/composition_rows.h"
+#include "launch/command_line_switches.h"
 
 namespace lv {
 

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "foundation/run.h"
-#include "video/profile_keys.h"
+#include "video/profile_settings.h"
 
 namespace lv {
 

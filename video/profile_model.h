@@ -10,7 +10,7 @@
 
 #include "foundation/controls.h"
 #include "foundation/run.h"
-#include "video/profile_keys.h"
+#include "video/profile_settings.h"
 
 namespace lv {
 

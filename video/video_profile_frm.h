@@ -12,7 +12,7 @@
 #include "foundation/controls.h"
 #include "foundation/window_services.h"
 #include "video/profile_controls.h"
-#include "video/profile_keys.h"
+#include "video/profile_settings.h"
 
 namespace lv {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <set>
 
-#include "video/profile_keys.h"
+#include "video/profile_settings.h"
 
 namespace lv {
 namespace {

@@ -1,4 +1,4 @@
-#include "launch/composition_rows.h"
+#include "launch/command_line_switches.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// launch/composition_rows.h
+// launch/command_line_switches.h
 //
 // The table of the command line composition: one row for each thing that a launch may add, in the order of addition.
 

@@ -1,4 +1,4 @@
-// video/profile_keys.h
+// video/profile_settings.h
 //
 // What a video profile is made of: the tunables with their keys, lists and defaults, the plain flags, the lists
 // behind the resolution and card choices, and the profiles that come with the program.

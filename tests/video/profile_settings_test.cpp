@@ -1,4 +1,4 @@
-#include "video/profile_keys.h"
+#include "video/profile_settings.h"
 
 #include <gtest/gtest.h>
 
