@@ -22,16 +22,20 @@ bool IsControl(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }
 
+/// Whether the sign ends the word, or the command, where it stands.
+bool EndsWord(char c, bool quoted, bool isBatch) {
+    if (c == '%' || (isBatch && IsOneOf(c, kBatchSigns))) {
+        return true;
+    }
+    return !quoted && (IsOneOf(c, kBlanks) || IsOneOf(c, kOperators) || (isBatch && IsOneOf(c, kParameterSeparators)));
+}
+
 bool WindowsReadsAsOneWord(std::string_view text, bool isBatch) {
     bool quoted = false;
     for (const char c : text) {
         if (c == '"') {
             quoted = !quoted;
-        } else if (c == '%' || (isBatch && IsOneOf(c, kBatchSigns))) {
-            return false;
-        } else if (!quoted && (IsOneOf(c, kBlanks) || IsOneOf(c, kOperators))) {
-            return false;
-        } else if (!quoted && isBatch && IsOneOf(c, kParameterSeparators)) {
+        } else if (EndsWord(c, quoted, isBatch)) {
             return false;
         }
     }

@@ -55,7 +55,8 @@ std::optional<FontMap> ReadPcxFont(TextView bytes, const Palette& palette) {
     const std::uint32_t width = Number16At(bytes, 8) + 1U;
     const std::uint32_t height = Number16At(bytes, 10) + 1U;
     const std::size_t lineBytes = Number16At(bytes, 66);
-    if (width > kWidestPicture || height > kHighestPicture || lineBytes < width || lineBytes > 2 * kWidestPicture) {
+    if (width > kWidestPicture || height > kHighestPicture || lineBytes < width ||
+        lineBytes > std::size_t{2} * kWidestPicture) {
         return std::nullopt;
     }
     TextView data = bytes.substr(kHeaderSize, bytes.size() - kHeaderSize - kPaletteSize);

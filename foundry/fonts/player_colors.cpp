@@ -7,7 +7,7 @@ namespace lv {
 namespace {
 
 constexpr std::size_t kRowSize = 256;
-constexpr std::size_t kBlockAt = kRowSize + 2 * 14 * kRowSize;  // the third block of 14 rows
+constexpr std::size_t kBlockAt = kRowSize + std::size_t{2} * 14 * kRowSize;  // the third block of 14 rows
 constexpr std::size_t kBlockSize = 14 * kRowSize;
 constexpr std::size_t kMostHexen2Colors = 10;
 constexpr std::uint8_t kNotRecolored = 255;

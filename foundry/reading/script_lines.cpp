@@ -52,7 +52,11 @@ std::size_t TextBytes(TextView bytes) {
 std::span<char> WithoutZeros(std::span<char> bytes) {
     const TextView text = WithoutHole(TextView(bytes.data(), bytes.size()));
     bytes = bytes.first(text.size());
-    return HasZeros(text) ? bytes.first(bytes.size() - std::ranges::remove(bytes, '\0').size()) : bytes;
+    if (!HasZeros(text)) {
+        return bytes;
+    }
+    const auto end = std::remove(bytes.begin(), bytes.end(), '\0');
+    return bytes.first(static_cast<std::size_t>(end - bytes.begin()));
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ class SlotArray {
         }
         return *this;
     }
-    SlotArray& operator=(SlotArray&& other) {
+    SlotArray& operator=(SlotArray&& other) noexcept {
         if (this != &other) {
             std::ranges::move(other.values_, values_.begin());
         }

@@ -49,7 +49,7 @@ void ShowFittingPicture(void*, void* cell, void* rows, void* row, void* height) 
         return;
     }
     void* picture = nullptr;
-    toolkit.GetValue(rows, row, kPictureColumn, &picture, -1);
+    toolkit.GetValue(rows, row, kPictureColumn, &picture, -1);  // NOLINT(clang-analyzer-core.*): as AreThere says
     if (picture == nullptr) {
         return;
     }
