@@ -1,5 +1,5 @@
 cmake_minimum_required(VERSION 3.25)
-# Fails when a file includes what its folder may not know: of this tree the folders that arrows.cmake names, and beside
+# Fails when a file includes what its folder may not know: of this tree the folders that allowed_includes.cmake names, and beside
 # the C++ standard library the logic nothing, a form the toolkit, a platform its system.
 #   cmake -DROOT=<source folder> -P cmake/check_includes.cmake
 
@@ -13,7 +13,7 @@ set(STANDARD
     string_view system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set utility
     valarray variant vector version)
 
-include(${CMAKE_CURRENT_LIST_DIR}/arrows.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/allowed_includes.cmake)
 
 # What stands in <> there, as a pattern, beside the standard library.
 set(NO_MORE "^$")

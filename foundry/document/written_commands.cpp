@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "foundry/tables/written_command_rows.h"
+#include "foundry/tables/bindings_page_rows.h"
 
 namespace lv {
 

@@ -1,6 +1,6 @@
 // foundry/document/written_commands.h
 //
-// What the fixed slots write and are called, from the rows of foundry/tables/written_command_rows.h.
+// What the fixed slots write and are called, from the rows of foundry/tables/bindings_page_rows.h.
 
 #pragma once
 

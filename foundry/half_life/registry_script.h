@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "foundry/half_life/registry_keys.h"
+#include "foundry/half_life/key_code_names.h"
 #include "foundry/reading/script_lines.h"
 #include "platform/clock.h"
 

@@ -1,4 +1,4 @@
-// foundry/half_life/registry_keys.h
+// foundry/half_life/key_code_names.h
 //
 // Half-Life's registry names a key by a code from 0 to 255; a script names it by a word.
 

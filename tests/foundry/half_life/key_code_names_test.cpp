@@ -1,4 +1,4 @@
-#include "foundry/half_life/registry_keys.h"
+#include "foundry/half_life/key_code_names.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// foundry/tables/written_command_rows.h
+// foundry/tables/bindings_page_rows.h
 //
 // The fixed slots, a row a slot: the command that each kind of game writes, and the caption. An empty command: the
 // kind has no such slot. These spellings are the games' own; what looks mistaken is meant so.
