@@ -143,8 +143,8 @@ Shower ListShower(const ListBox& model, wxListBox* view) {
     };
 }
 
-Shower FieldListShower(const ListBox& model, wxComboBox* view, std::shared_ptr<const bool> waiting) {
-    return [&model, view, late = *waiting, waiting = std::move(waiting), shown = std::vector<Text>()]() mutable {
+Shower FieldListShower(const ListBox& model, wxComboBox* view, const std::shared_ptr<const bool>& waiting) {
+    return [&model, view, late = *waiting, waiting, shown = std::vector<Text>()]() mutable {
         const Text text = model.Selected();
         const bool same = SameText(FromWx(view->GetValue()), text);
         if (*waiting) {

@@ -27,7 +27,7 @@ Shower ChoiceShower(const ListBox& model, wxChoice* view, const wxString& none);
 Shower ImageListShower(const ImageCombo& model, wxBitmapComboBox* view);
 Shower ListShower(const ListBox& model, wxListBox* view);
 /// A list with a field; while `waiting` is set the field has its text and the list no rows.
-Shower FieldListShower(const ListBox& model, wxComboBox* view, std::shared_ptr<const bool> waiting);
+Shower FieldListShower(const ListBox& model, wxComboBox* view, const std::shared_ptr<const bool>& waiting);
 /// `pages` are the windows of all pages, in their order.
 Shower PageShower(const TabSet& model, wxNotebook* view, std::vector<wxWindow*> pages);
 

@@ -44,6 +44,7 @@ wxWindow* MakePlayerPage(FigParts& parts, LatePages& late, wxNotebook* tabs) {
     MakeNameRow(parts, page, rows);
     wxNotebook* const options = MakeTab(page);
     std::vector<wxWindow*> pages;
+    pages.reserve(form.Document.Options_Tab.Pages.size());
     for (int which = 0; which < static_cast<int>(form.Document.Options_Tab.Pages.size()); ++which) {
         pages.push_back(late.AddLate(options, [&parts, which](wxPanel* made) { MakeOptionsPage(parts, made, which); }));
     }
@@ -59,6 +60,7 @@ wxWindow* MakeBindingsTabs(FigParts& parts, LatePages& late, wxNotebook* tabs) {
     wxPanel* const page = MakePage(late, tabs);
     wxNotebook* const bindings = MakeTab(page);
     std::vector<wxWindow*> pages;
+    pages.reserve(form.Bindings_Tab.Pages.size());
     for (int which = 0; which < static_cast<int>(form.Bindings_Tab.Pages.size()); ++which) {
         pages.push_back(late.AddLate(bindings, [&parts, which](wxPanel* made) {
             MakeBindingsPage(parts, made, static_cast<BindingsPage>(which));

@@ -46,7 +46,7 @@ class FigForm : public wxDialog {
     void LeadToFound();
     void SpeakAnew();
     bool SpeakSome();
-    void Fit();
+    void Fit() override;
     void PlaceOnScreen();
     void KeepSize();
     void Finished();

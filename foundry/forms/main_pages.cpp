@@ -120,7 +120,7 @@ NamePicture* MakeNameRow(FigParts& parts, wxWindow* page, wxSizer* rows) {
         page, "Name_Txt", form.Document.Name_Txt, [&form] { Name_Txt_Change(form); }, "Player's name");
     name->SetMinSize(wxSize(kNameLetters * page->GetTextExtent("n").x, -1));
     name->Bind(wxEVT_CHAR, [&form, name](wxKeyEvent& event) {
-        const int typed = event.GetUnicodeKey();
+        const wxChar typed = event.GetUnicodeKey();
         if (typed < ' ' || typed > 126 || event.HasModifiers()) {
             event.Skip();
             return;
@@ -196,8 +196,7 @@ void MakeFreeFormPage(FigParts& parts, wxWindow* page) {
         parts.MakeList(
             page, "Section_Cbo", form.Document.Section_Cbo, [&form] { Section_Cbo_Click(form); }, "Section of the ini"),
         wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kPageGap));
-    auto* text = new wxTextCtrl(page, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
-                                wxTE_MULTILINE | wxTE_DONTWRAP | wxHSCROLL);
+    auto* text = new wxTextCtrl(page, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE | wxTE_DONTWRAP);
     text->SetFont(wxFont(wxFontInfo(text->GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE)));
     SetSpokenName(text->GetHandle(), "Free form additions");
     text->SetName("FreeForm_Txt(0)");  // until a section is shown
