@@ -17,7 +17,7 @@ Text ProgramToStart(Files& disk, const Engine& engine, TextView program);
 
 struct EngineStart {
     bool AsRoot = false;
-    Text DataDirectory;  // on the drives; empty: not known
+    Text DataDirectory = {};  // on the drives; empty: not known
     bool DataDirectoryExists = true;
 };
 
