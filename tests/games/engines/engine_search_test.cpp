@@ -114,10 +114,9 @@ TEST(TenWays, YamagiDoesNotRunAsRootNorWithoutItsDirectory) {
     const Engine& yamagi = ShippedEngine("Yamagi Quake II");
     EXPECT_EQ(WhyNoUseToStart(yamagi, {.AsRoot = true}),
               "Yamagi Quake II does not run as root. Log in as a user of your own to play.");
-    EXPECT_EQ(
-        WhyNoUseToStart(yamagi, {.DataDirectory = "C:\\Q2", .DataDirectoryExists = false}),
-        "The game's directory is missing: C:\\Q2. Without it Yamagi Quake II ends with exit code 1, and so it does "
-        "where the directory behind -datadir is missing. Mount its disk, or choose another directory.");
+    EXPECT_EQ(WhyNoUseToStart(yamagi, {.DataDirectory = "C:\\Q2", .DataDirectoryExists = false}),
+              "The game's directory is missing: C:\\Q2. Without it Yamagi Quake II ends with exit code 1. "
+              "Mount its disk, or choose another directory.");
     EXPECT_EQ(WhyNoUseToStart(yamagi, {.DataDirectory = "C:\\Q2"}), std::nullopt);
     EXPECT_EQ(WhyNoUseToStart(ShippedEngine("QuakeSpasm"), {.AsRoot = true}), std::nullopt);
 }
