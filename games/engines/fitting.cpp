@@ -26,7 +26,7 @@ void AddSign(CommandWord& word) {
         word.Option.insert(0, "+");
     } else {
         word.Argument.insert(0, "+");
-        word.Written = word.Argument;
+        word.Written = Holds(word.Argument, Blank) ? Join(DoubleQuote, word.Argument, DoubleQuote) : word.Argument;
     }
 }
 

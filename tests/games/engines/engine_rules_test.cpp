@@ -78,7 +78,7 @@ TEST(TenWays, LinesOverTheLimitGoIntoTheScript) {
 TEST(TenWays, TheProgramsPathCountsForTheLimit) {
     ComposedCommand composed;
     composed.Command = "QUAKESPASM -nolan +map start +exec lv_666.qs ";
-    composed.ProgramPath = Text(210, 'p');  // with the arguments 252 characters: 7, 11 and 16 behind it and "-"
+    composed.ProgramPath = Text(210, 'p');
     const FittedCommand whole = FitCommandLine(ShippedEngine("QuakeSpasm"), composed);
     EXPECT_EQ(whole.ScriptHead, "");
     EXPECT_EQ(SizeOfLine(whole, composed).Characters, 210U + 34U);
