@@ -1,0 +1,132 @@
+#include "games/engines/engine_search.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "games/engines/start_rules.h"
+#include "platform/memory/memory_files.h"
+#include "tests/games/engines/shipped_engines.h"
+
+namespace lv {
+namespace {
+
+std::vector<Text> Found(const EngineSearch& search) {
+    std::vector<Text> all;
+    for (const FoundEngine& each : search.Engines) {
+        all.push_back(Join(each.Title, " = ", each.Path));
+    }
+    return all;
+}
+
+using Lines = std::vector<Text>;
+
+TEST(FindEngines, TakesTheFirstOfTwoProgramsOfOneName) {
+    MemoryFiles disk;
+    disk.AddFile("C:\\usr\\games\\quakespasm");
+    disk.AddFile("C:\\usr\\games\\ls");
+    disk.AddFile("C:\\home\\bin\\QuakeSpasm");
+    disk.AddFile("C:\\home\\bin\\vkquake.AppImage");
+    const EngineSearch search = FindEngines(disk, {"C:\\usr\\games", "C:\\home\\bin", "C:\\none"}, ShippedEngines());
+    EXPECT_EQ(Found(search),
+              (Lines{"QuakeSpasm = C:\\usr\\games\\quakespasm", "vkQuake = C:\\home\\bin\\vkquake.AppImage"}));
+    EXPECT_EQ(search.CutShort, Lines());
+}
+
+TEST(FindEngines, ListsADirectoryOnce) {
+    MemoryFiles disk;
+    disk.AddFile("C:\\games\\mvdsv");
+    FindEngines(disk, {"C:\\games", "c:\\GAMES\\", "", "C:\\games"}, ShippedEngines());
+    EXPECT_EQ(disk.Listed, Lines{"C:\\games"});
+}
+
+TEST(FindEngines, TellsProgramsOfOneEngineApart) {
+    MemoryFiles disk;
+    disk.AddFile("C:\\games\\tyr-quake");
+    disk.AddFile("C:\\games\\tyr-glquake");
+    EXPECT_EQ(
+        Found(FindEngines(disk, {"C:\\games"}, ShippedEngines())),
+        (Lines{"TyrQuake (tyr-glquake) = C:\\games\\tyr-glquake", "TyrQuake (tyr-quake) = C:\\games\\tyr-quake"}));
+}
+
+TEST(FindEngines, PassesOverDirectoriesAndDevices) {
+    MemoryFiles disk;
+    disk.AddDirectory("C:\\games\\quakespasm");
+    disk.AddDevice("C:\\games\\mvdsv");
+    EXPECT_EQ(Found(FindEngines(disk, {"C:\\games"}, ShippedEngines())), Lines());
+}
+
+TEST(FindEngines, MakesAStrangersNameFitForAList) {
+    MemoryFiles disk;
+    disk.AddFile("C:\\games\\vkquake;\n.appimage");
+    disk.AddFile("C:\\games\\vkquake");
+    const EngineSearch search = FindEngines(disk, {"C:\\games"}, ShippedEngines());
+    ASSERT_EQ(search.Engines.size(), 2U);
+    EXPECT_EQ(search.Engines[1].Title, "vkQuake (vkquake??.appimage)");
+    EXPECT_EQ(search.Engines[1].Path, "C:\\games\\vkquake;\n.appimage");
+}
+
+TEST(FindEngines, FindsTheExportsOfFlatpak) {
+    MemoryFiles disk;
+    disk.AddFile("C:\\exports\\bin\\org.fteqw.fteqw");
+    EXPECT_EQ(Found(FindEngines(disk, {"C:\\exports\\bin"}, ShippedEngines())),
+              Lines{"FTEQW = C:\\exports\\bin\\org.fteqw.fteqw"});
+}
+
+/// A directory with any number of entries.
+class LongFiles : public MemoryFiles {
+  public:
+    Result<std::vector<DirectoryEntry>> List(std::string_view) override {
+        std::vector<DirectoryEntry> entries(kMostDirectoryEntries, {"x", false, false});
+        entries.push_back({"quakespasm", false, false});
+        return entries;
+    }
+};
+
+TEST(FindEngines, SaysWhichDirectoryHasMoreEntriesThanItLooksAt) {
+    LongFiles disk;
+    const EngineSearch search = FindEngines(disk, {"C:\\games"}, ShippedEngines());
+    EXPECT_TRUE(search.Engines.empty());
+    EXPECT_EQ(search.CutShort, Lines{"C:\\games"});
+}
+
+TEST(TenWays, TheProgramBehindAWrapperIsStarted) {
+    const Engine& shipped = ShippedEngine("ezQuake");
+    EXPECT_EQ(shipped.StartedAs, "/usr/games/ezquake");
+    EXPECT_EQ(shipped.StartInstead, "/usr/lib/games/ezquake/ezquake");
+    Engine engine = shipped;
+    MemoryFiles disk;
+    disk.AddFile("C:\\usr\\games\\ezquake");
+    engine.StartedAs = disk.ToHost("C:\\usr\\games\\ezquake");
+    engine.StartInstead = disk.ToHost("C:\\usr\\lib\\ezquake");
+    EXPECT_EQ(ProgramToStart(disk, engine, "C:\\usr\\games\\ezquake"), "C:\\usr\\games\\ezquake");
+    disk.AddFile("C:\\usr\\lib\\ezquake");
+    EXPECT_EQ(LowerCase(ProgramToStart(disk, engine, "C:\\usr\\games\\ezquake")), "c:\\usr\\lib\\ezquake");
+    EXPECT_EQ(ProgramToStart(disk, engine, "C:\\other\\ezquake"), "C:\\other\\ezquake");
+}
+
+TEST(TenWays, SomeEnginesFindTheirHomeInThePasswordDatabase) {
+    EXPECT_TRUE(ShippedEngine("QuakeSpasm").HomeOfAccount);
+    EXPECT_FALSE(ShippedEngine("DarkPlaces").HomeOfAccount);
+}
+
+TEST(TenWays, YamagiDoesNotRunAsRootNorWithoutItsDirectory) {
+    const Engine& yamagi = ShippedEngine("Yamagi Quake II");
+    EXPECT_EQ(WhyNoUseToStart(yamagi, {.AsRoot = true}),
+              "Yamagi Quake II does not run as root. Log in as a user of your own to play.");
+    EXPECT_EQ(WhyNoUseToStart(yamagi, {.DataDirectory = "C:\\Q2", .DataDirectoryExists = false}),
+              "The game's directory is missing: C:\\Q2. Without it Yamagi Quake II ends with exit code 1. "
+              "Mount its disk, or choose another directory.");
+    EXPECT_EQ(WhyNoUseToStart(yamagi, {.DataDirectory = "C:\\Q2"}), std::nullopt);
+    EXPECT_EQ(WhyNoUseToStart(ShippedEngine("QuakeSpasm"), {.AsRoot = true}), std::nullopt);
+}
+
+TEST(TenWays, YamagiCannotUseTheRereleasesData) {
+    EXPECT_EQ(WhyNoUseToStart(ShippedEngine("Yamagi Quake II"), {.DataDirectory = "C:\\Quake 2\\Rerelease"}),
+              "Yamagi Quake II cannot use the data of the rerelease. Choose the directory above \"rerelease\", which "
+              "holds the classic game.");
+    EXPECT_EQ(WhyNoUseToStart(ShippedEngine("Ironwail"), {.DataDirectory = "C:\\Quake\\rerelease"}), std::nullopt);
+}
+
+}  // namespace
+}  // namespace lv

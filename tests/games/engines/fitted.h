@@ -1,0 +1,24 @@
+// tests/games/engines/fitted.h
+//
+// Command lines as the shipped engines get them.
+
+#pragma once
+
+#include <vector>
+
+#include "games/engines/engine_rules.h"
+
+namespace lv {
+
+FittedCommand Fit(TextView engine, TextView command);
+FittedCommand FitShareware(TextView engine, TextView command);
+
+/// The word as it stands in a composed command.
+GivenWord GivenAt(const Text& command, const Text& written);
+
+/// As NoteText says them.
+std::vector<Text> NotesOf(const FittedCommand& fitted);
+
+using Lines = std::vector<Text>;
+
+}  // namespace lv
