@@ -3,13 +3,15 @@
 
 # From below to above.
 set(LV_SUBSYSTEMS platform foundation games catalogs video launch gamespy launcher foundry wizard)
+set(ROOMS_games trees)
 set(ROOMS_catalogs editors)
 set(ROOMS_launcher start window menu)
 set(ROOMS_foundry tables document reading writing half_life fonts editor)
 
 set(MAY_platform platform)
 set(MAY_foundation foundation platform)
-set(MAY_games games foundation platform)
+set(MAY_games games games/trees foundation platform)
+set(MAY_games/trees ${MAY_games})
 set(MAY_catalogs catalogs ${MAY_games})
 set(MAY_catalogs/editors catalogs/editors ${MAY_catalogs})
 set(MAY_video video ${MAY_games})
