@@ -14,24 +14,20 @@ constexpr int kBelowTitle = 1;  // a game's own directory
 constexpr TextView kRerelease = "rerelease";
 
 struct PrefixPlace {
+    TextView Top;  // below the prefix's drive
     TextView Path;
     int Depth;
 };
 
-// Below a Wine prefix.
 constexpr PrefixPlace kInPrefix[] = {
-    {"\\drive_c\\GOG Games", 2},
-    {"\\drive_c\\Program Files\\GOG Galaxy\\Games", 2},
-    {"\\drive_c\\Program Files (x86)\\GOG Galaxy\\Games", 2},
-    {"\\drive_c\\Games", 2},
-    {"\\drive_c\\Program Files", 2},
-    {"\\drive_c\\Program Files (x86)", 2},
-    {"\\drive_c", 1},
+    {"GOG Games", "", 2},
+    {"Program Files", "\\GOG Galaxy\\Games", 2},
+    {"Program Files (x86)", "\\GOG Galaxy\\Games", 2},
+    {"Games", "", 2},
+    {"Program Files", "", 2},
+    {"Program Files (x86)", "", 2},
 };
-constexpr TextView kSteamInPrefix[] = {
-    "\\drive_c\\Program Files (x86)\\Steam",
-    "\\drive_c\\Program Files\\Steam",
-};
+constexpr TextView kHoldsPrograms = "Program Files";  // in the names of those that may hold Steam
 
 // Below the directory that holds the data of the user's programs.
 constexpr TextView kInData[] = {"\\OldUnreal", "\\unreal-gold"};
@@ -66,35 +62,43 @@ enum Stage { kGames, kSteam, kNoted, kPrefixes, kDrives, kNoStage };
 }  // namespace
 
 // On the drive that lies nearest: a prefix may be the drive C: itself.
-void TreeSearch::Add(Text path, int depth) {
+Text TreeSearch::Nearest(Text path) {
     Text nearest = files_.FromHost(files_.ToHost(path));
-    const bool isSaidSo = nearest.empty() || SameText(nearest, path);
-    usual_.push_back({isSaidSo ? std::move(path) : std::move(nearest), depth});
+    return nearest.empty() || SameText(nearest, path) ? path : nearest;
 }
 
 void TreeSearch::AddIfThere(Text path, int depth) {
     if (files_.DirectoryExists(path)) {
-        Add(std::move(path), depth);
+        usual_.push_back({std::move(path), depth});
     }
 }
 
 void TreeSearch::AddSteam(TextView root) {
     for (const Text& library : SteamLibraries(files_, root)) {
-        for (Text& directory : SteamGameDirectories(files_, library)) {
-            Add(std::move(directory), kBelowTitle);
+        for (Text& directory : SteamGameDirectories(files_, Nearest(library))) {
+            usual_.push_back({std::move(directory), kBelowTitle});
         }
     }
 }
 
+// A name that is not there is looked for in all of its directory, so that is read once for all names.
 void TreeSearch::AddPrefix(TextView prefix) {
-    for (const TextView steam : kSteamInPrefix) {
-        if (const Text root = Join(prefix, steam); files_.DirectoryExists(root)) {
-            AddSteam(root);
+    const Text drive = Nearest(Join(prefix, "\\drive_c"));
+    const auto tops = files_.List(drive).Value;
+    for (const DirectoryEntry& top : tops) {
+        const Text steam = Join(Below(drive, top.Name), "\\Steam");
+        if (top.IsDirectory && StartsWithText(top.Name, kHoldsPrograms) && files_.DirectoryExists(steam)) {
+            AddSteam(steam);
         }
     }
     for (const PrefixPlace& place : kInPrefix) {
-        AddIfThere(Join(prefix, place.Path), place.Depth);
+        for (const DirectoryEntry& top : tops) {
+            if (top.IsDirectory && SameText(top.Name, place.Top)) {
+                AddIfThere(Join(Below(drive, top.Name), place.Path), place.Depth);
+            }
+        }
     }
+    AddIfThere(drive, 1);
 }
 
 void TreeSearch::AddDrives() {
@@ -144,7 +148,7 @@ void TreeSearch::AddStage() {
 
 void TreeSearch::AddEach(const std::vector<Text>& directories, int depth) {
     for (const Text& directory : directories) {
-        Add(directory, depth);
+        usual_.push_back({Nearest(directory), depth});
     }
 }
 

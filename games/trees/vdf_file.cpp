@@ -37,7 +37,7 @@ class Reader {
             } else if (!key) {
                 key = std::move(token.Said);
             } else {
-                entries.push_back({*std::move(key), std::move(token.Said), {}});
+                entries.push_back({*key, std::move(token.Said), {}});
                 key.reset();
                 ++made_;
             }
