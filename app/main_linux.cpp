@@ -17,6 +17,7 @@
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_instance.h"
+#include "platform/linux/linux_known_places.h"
 #include "platform/linux/linux_processes.h"
 #include "platform/linux/sqlite_settings.h"
 #include "platform/linux/user_directories.h"
@@ -45,6 +46,7 @@ struct LinuxSystem {
     explicit LinuxSystem(std::unique_ptr<SettingsBacking> store) : Settings(std::move(store)) {
         Services.Instance = &Instance;
         Services.Windows = &Windows;
+        Services.Places = &Places;
     }
 
     static std::unique_ptr<LinuxSystem> Make() {
@@ -82,6 +84,7 @@ struct LinuxSystem {
     WxClipboard Clip;
     LinuxClock Time;
     X11Desktop Windows;
+    LinuxKnownPlaces Places{Disk};
     LinuxInstance Instance{ConfigDirectory().string()};
     std::optional<EndSignals> Signals;  // before the window is up there is nothing to keep
     std::function<void()> OnEnd;

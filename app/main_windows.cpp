@@ -13,6 +13,7 @@
 #include "platform/windows/windows_desktop.h"
 #include "platform/windows/windows_files.h"
 #include "platform/windows/windows_instance.h"
+#include "platform/windows/windows_known_places.h"
 #include "platform/windows/windows_processes.h"
 #include "platform/windows/windows_registry.h"
 
@@ -24,6 +25,7 @@ struct WindowsSystem {
     WindowsSystem() {
         Services.Instance = &Instance;
         Services.Windows = &Desk;
+        Services.Places = &Places;
     }
 
     static std::unique_ptr<WindowsSystem> Make() { return std::make_unique<WindowsSystem>(); }
@@ -48,6 +50,7 @@ struct WindowsSystem {
     WindowsClock Time;
     WindowsInstance Instance{"   Lorvane 3D"};
     WindowsDesktop Desk;
+    WindowsKnownPlaces Places{Disk};
     AccessKeys Keys;
     Platform Services{Settings, Registry, Disk, Programs, Clip, Time};
 };

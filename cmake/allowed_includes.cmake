@@ -3,15 +3,16 @@
 
 # From below to above.
 set(LV_SUBSYSTEMS platform foundation games catalogs video launch gamespy launcher foundry wizard)
-set(ROOMS_games engines)
+set(ROOMS_games engines trees)
 set(ROOMS_catalogs editors)
 set(ROOMS_launcher start window menu)
 set(ROOMS_foundry tables document reading writing half_life fonts editor)
 
 set(MAY_platform platform)
 set(MAY_foundation foundation platform)
-set(MAY_games games games/engines foundation platform)
+set(MAY_games games games/engines games/trees foundation platform)
 set(MAY_games/engines ${MAY_games})
+set(MAY_games/trees ${MAY_games})
 set(MAY_catalogs catalogs ${MAY_games})
 set(MAY_catalogs/editors catalogs/editors ${MAY_catalogs})
 set(MAY_video video ${MAY_games})
@@ -49,8 +50,9 @@ set(MAY_platform/memory platform/memory platform)
 set(MAY_platform/linux platform/linux platform/linux/starting platform)
 set(MAY_platform/linux/starting ${MAY_platform/linux})
 set(MAY_platform/windows platform/windows platform)
-set(MAY_app app platform/linux platform/windows foundation foundation/forms catalogs/forms video/forms gamespy/forms
-    launcher/start launcher/window launcher/forms foundry foundry/forms wizard wizard/forms)
+set(MAY_app app assets platform/linux platform/linux/starting platform/windows foundation foundation/forms
+    catalogs/forms video/forms gamespy/forms launcher/start launcher/window launcher/forms foundry foundry/forms wizard
+    wizard/forms)
 
 # Folders of the logic, of the toolkit, and of a system.
 set(LV_LOGIC ${LV_SUBSYSTEMS} platform/memory)

@@ -19,7 +19,7 @@ include(${CMAKE_CURRENT_LIST_DIR}/allowed_includes.cmake)
 set(NO_MORE "^$")
 set(THE_TOOLKIT "^wx/")
 set(THE_SYSTEM "^(sys/.*|xcb/.*|clocale|dirent|dlfcn|fcntl|fstream|filesystem|iconv|initguid|langinfo|oleacc|poll|pwd|shellapi|\
-signal|spawn|sqlite3|stdlib|termios|thread|unistd|windows)(\\.h)?$")
+signal|spawn|sqlite3|stdlib|termios|thread|unistd|windows)(\\.h)?$|^nlohmann/json\\.hpp$")
 
 set(faults "")
 function(check folder beyond)

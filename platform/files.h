@@ -90,6 +90,23 @@ class Files {
     /// the way.
     virtual std::string LeadsAway(std::string_view path, std::string_view tree) = 0;
 
+    /// Whether files can be made in the directory, as far as its rights say. False if there is none.
+    virtual bool CanWrite(std::string_view directory) = 0;
+
+    /// Makes `path`, spelled as it is said, read like the file `target`, which costs no room: a link, or a second name
+    /// where the system has that. Errors: 53 no such target, 76 no such directory, 75 the target is no file, `path` is
+    /// there already in whatever spelling, or the two lie on disks that know no link from one to the other, 70 no
+    /// access.
+    virtual Error Link(std::string_view target, std::string_view path) = 0;
+
+    /// Whether `path` is what Link makes of `target`.
+    virtual bool IsLinkTo(std::string_view path, std::string_view target) = 0;
+
+    /// Where a link leads that Link has made to a file below the directory `tree`, as the path below that,
+    /// "id1\pak0.pak", whether or not the file is still there. Empty for anything else, and for what does not tell:
+    /// links of other makers that get there by a road of their own, and second names.
+    virtual std::string LeadsInto(std::string_view path, std::string_view tree) = 0;
+
     virtual Error Delete(std::string_view path) = 0;
     virtual Error MakeDirectory(std::string_view path) = 0;
     virtual Error RemoveDirectory(std::string_view path) = 0;

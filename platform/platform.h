@@ -8,6 +8,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
+#include "platform/known_places.h"
 #include "platform/processes.h"
 #include "platform/settings_backing.h"
 #include "platform/single_instance.h"
@@ -24,6 +25,7 @@ struct Platform {
     Clock& Time;
     SingleInstance* Instance = nullptr;  // null: any number of programs may run
     Desktop* Windows = nullptr;          // null: there is no desktop with windows of others
+    KnownPlaces* Places = nullptr;       // null: nothing is known of where games lie
 };
 
 }  // namespace lv

@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <iterator>
 #include <system_error>
@@ -96,6 +97,22 @@ std::string LeadsAway(const HostPlace& place, const std::optional<HostPlace>& tr
     const bool stays =
         target == LinkedHostPath(place) || (sameKind && liesIn(HomeDirectory())) || (tree && liesIn(tree->Host));
     return stays ? std::string() : FromUtf8Lossy(target.string());
+}
+
+std::string LeadsInto(const HostPlace& place, const HostPlace& tree) {
+    std::error_code failed;
+    const std::string link = fs::read_symlink(place.Host, failed).string();
+    const std::string root = LinkedHostPath(tree);
+    const std::string above = root.ends_with('/') ? root : root + "/";
+    if (failed || !link.starts_with(above)) {
+        return {};
+    }
+    auto below = FromUtf8(link.substr(above.size()));
+    if (!below || below->find('\\') != std::string::npos) {
+        return {};
+    }
+    std::replace(below->begin(), below->end(), '/', '\\');
+    return *below;
 }
 
 }  // namespace lv

@@ -34,4 +34,7 @@ std::string DrivePathOf(const DriveDirectories& directories, std::string_view ho
 /// Where a link leads that is neither within `tree` nor a file of the same kind in the user's home; else nothing.
 std::string LeadsAway(const HostPlace& place, const std::optional<HostPlace>& tree);
 
+/// The path of the drives below `tree` that the link at `place` was made to; nothing for anything else.
+std::string LeadsInto(const HostPlace& place, const HostPlace& tree);
+
 }  // namespace lv

@@ -73,4 +73,22 @@ Error CopyHostFile(const HostPlace& from, const HostPlace& to, Whose whose) {
     return PutHostFile(to, whose, mode, [&](int made) { return CopyAll(file.Value->Number(), made); });
 }
 
+Error LinkHostFile(const HostPlace& file, const HostPlace& place) {
+    struct stat info {};
+    if (stat(file.Host.c_str(), &info) != 0) {
+        return ErrorOf(errno);
+    }
+    if (!S_ISREG(info.st_mode) || place.EndsInSeparator || place.Path.Parts.empty()) {
+        return MakeError(error::kPathFileAccess);
+    }
+    if (lstat(place.Host.c_str(), &info) == 0) {
+        return MakeError(error::kPathFileAccess);
+    }
+    // What is not there keeps its spelling.
+    if (symlink(LinkedHostPath(file).c_str(), place.Host.c_str()) == 0) {
+        return {};
+    }
+    return errno == ENOENT ? MakeError(error::kPathNotFound) : ErrorOf(errno);
+}
+
 }  // namespace lv

@@ -21,4 +21,8 @@ Error PutHostFile(const HostPlace& place, Whose whose, unsigned mode, const File
 /// disk than its bytes do. Errors: those of OpenHostFile and of PutHostFile, and 7 beyond kLargestWholeFile.
 Error CopyHostFile(const HostPlace& from, const HostPlace& to, Whose whose);
 
+/// A link at `place`, spelled as that says, to the file. Errors: 53 and 76 nothing there, 75 no file, or `place` is
+/// taken in whatever spelling, 70 no access.
+Error LinkHostFile(const HostPlace& file, const HostPlace& place);
+
 }  // namespace lv

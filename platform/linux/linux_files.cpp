@@ -1,5 +1,6 @@
 #include "platform/linux/linux_files.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -142,6 +143,31 @@ Error LinuxFiles::CopyFile(std::string_view from, std::string_view to, Whose who
 std::string LinuxFiles::LeadsAway(std::string_view path, std::string_view tree) {
     const auto place = Find(path);
     return place ? lv::LeadsAway(*place, Find(tree)) : std::string();
+}
+
+bool LinuxFiles::CanWrite(std::string_view directory) {
+    const auto place = Find(directory);
+    return place && IsDirectoryAt(place->Host) &&
+           faccessat(AT_FDCWD, place->Host.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+Error LinuxFiles::Link(std::string_view target, std::string_view path) {
+    const auto file = Find(target);
+    const auto place = Find(path);
+    return file && place ? LinkHostFile(*file, *place) : MakeError(error::kPathNotFound);
+}
+
+bool LinuxFiles::IsLinkTo(std::string_view path, std::string_view target) {
+    const auto place = Find(path);
+    const auto file = Find(target);
+    std::error_code failed;
+    return place && file && fs::read_symlink(place->Host, failed) == LinkedHostPath(*file) && !failed;
+}
+
+std::string LinuxFiles::LeadsInto(std::string_view path, std::string_view tree) {
+    const auto place = Find(path);
+    const auto above = Find(tree);
+    return place && above ? lv::LeadsInto(*place, *above) : std::string();
 }
 
 Error LinuxFiles::Delete(std::string_view path) {

@@ -28,6 +28,18 @@ std::filesystem::path HomeDirectory() {
     return entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "/";
 }
 
+std::filesystem::path HomePlace(std::string_view name) {
+    constexpr std::string_view kConfig = ".config/";
+    constexpr std::string_view kData = ".local/share/";
+    if (name.starts_with(kConfig)) {
+        return Base("XDG_CONFIG_HOME", ".config") / name.substr(kConfig.size());
+    }
+    if (name.starts_with(kData)) {
+        return Base("XDG_DATA_HOME", ".local/share") / name.substr(kData.size());
+    }
+    return HomeDirectory() / name;
+}
+
 std::filesystem::path ConfigDirectory() {
     return Base("XDG_CONFIG_HOME", ".config") / "lorvane3d";
 }

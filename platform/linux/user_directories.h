@@ -5,11 +5,16 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 namespace lv {
 
 /// $HOME, or what the system knows of this user.
 std::filesystem::path HomeDirectory();
+
+/// A place below the home by its usual name, "games" or ".local/share/games": what lies in ".config" or ".local/share"
+/// by default is where the environment says.
+std::filesystem::path HomePlace(std::string_view name);
 
 /// $XDG_CONFIG_HOME/lorvane3d, by default ~/.config/lorvane3d.
 std::filesystem::path ConfigDirectory();

@@ -265,6 +265,46 @@ std::string MemoryFiles::LeadsAway(std::string_view path, std::string_view tree)
     return stays ? std::string() : target;
 }
 
+bool MemoryFiles::CanWrite(std::string_view directory) {
+    return DirectoryExists(directory) && !ReadOnly.contains(Key(directory));
+}
+
+Error MemoryFiles::Link(std::string_view target, std::string_view path) {
+    const auto file = FindFile(target);
+    if (!file.Ok()) {
+        return file.Fault;
+    }
+    const std::string key = KeyOfLink(path);
+    if (!DirectoryExists(ParentOf(key))) {
+        return MakeError(error::kPathNotFound);
+    }
+    if (nodes_.contains(key)) {
+        return MakeError(error::kPathFileAccess);
+    }
+    if (ReadOnly.contains(ParentOf(key))) {
+        return MakeError(error::kPermissionDenied);
+    }
+    AddFileLink(path, target);
+    Log.push_back("link " + std::string(path));
+    return {};
+}
+
+bool MemoryFiles::IsLinkTo(std::string_view path, std::string_view target) {
+    const auto link = links_.find(KeyOfLink(path));
+    return link != links_.end() && link->second == Key(target);
+}
+
+std::string MemoryFiles::LeadsInto(std::string_view path, std::string_view tree) {
+    const auto link = links_.find(KeyOfLink(path));
+    const std::string above = Key(tree) + "\\";
+    if (link == links_.end() || !link->second.starts_with(above)) {
+        return {};
+    }
+    const auto target = nodes_.find(link->second);
+    const std::string whole = target == nodes_.end() ? link->second : target->second.Name;
+    return whole.substr(above.size());
+}
+
 Error MemoryFiles::Delete(std::string_view path) {
     if (const std::string link = KeyOfLink(path); links_.contains(link) && !nodes_[link].IsDirectory) {
         links_.erase(link);

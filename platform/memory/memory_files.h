@@ -43,6 +43,10 @@ class MemoryFiles : public Files {
     Error ReplaceOwn(std::string_view path, std::string_view bytes) override;
     Error CopyOwn(std::string_view from, std::string_view to) override;
     std::string LeadsAway(std::string_view path, std::string_view tree) override;
+    bool CanWrite(std::string_view directory) override;
+    Error Link(std::string_view target, std::string_view path) override;
+    bool IsLinkTo(std::string_view path, std::string_view target) override;
+    std::string LeadsInto(std::string_view path, std::string_view tree) override;
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;
     Error RemoveDirectory(std::string_view path) override;
@@ -62,6 +66,7 @@ class MemoryFiles : public Files {
     std::set<std::string> Private;         // by lower-case path: what its owner alone may read
     std::set<std::string> DrivesNotReady;  // "D:"
     std::set<std::string> Unreadable;      // by lower-case path: listing the directory is error 75
+    std::set<std::string> ReadOnly;        // by lower-case path: no file can be made in the directory
     std::set<std::string> RefusedDeletes;  // by lower-case path: deleting the file is error 70
     std::vector<std::string> Listed;       // each directory that was listed, in order
     std::map<std::string, Error> Refused;  // by lower-case path: Replace and Copy onto it fail with this

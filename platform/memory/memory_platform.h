@@ -11,6 +11,7 @@
 
 #include "platform/memory/memory_desktop.h"
 #include "platform/memory/memory_files.h"
+#include "platform/memory/memory_known_places.h"
 #include "platform/platform.h"
 
 namespace lv {
@@ -99,7 +100,8 @@ struct MemoryPlatform {
     MemoryClipboard Clip;
     MemoryClock Time;
     MemoryDesktop Windows;
-    Platform Services{Settings, Registry, Disk, Programs, Clip, Time, nullptr, &Windows};
+    MemoryKnownPlaces Places;
+    Platform Services{Settings, Registry, Disk, Programs, Clip, Time, nullptr, &Windows, &Places};
 };
 
 }  // namespace lv

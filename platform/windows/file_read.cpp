@@ -105,6 +105,12 @@ Result<std::string> ReadInSteps(HANDLE file) {
     return MakeTooLarge(kLargestWholeFile);
 }
 
+bool Inform(const std::wstring& path, BY_HANDLE_FILE_INFORMATION& info) {
+    const FileHandle opened(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, kSharedWithAll, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return opened.IsOpen() && GetFileInformationByHandle(opened.Get(), &info) != 0;
+}
+
 }  // namespace
 
 Result<std::unique_ptr<FileHandle>> OpenPlainFile(const std::wstring& path) {
@@ -167,10 +173,8 @@ Result<std::vector<DirectoryEntry>> ListSystemDirectory(const std::wstring& path
 }
 
 Result<std::uint64_t> IdentityOfDirectory(const std::wstring& path) {
-    const FileHandle directory(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, kSharedWithAll, nullptr, OPEN_EXISTING,
-                                           FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     BY_HANDLE_FILE_INFORMATION info{};
-    if (!directory.IsOpen() || GetFileInformationByHandle(directory.Get(), &info) == 0) {
+    if (!Inform(path, info)) {
         return ErrorOfDirectory(GetLastError());
     }
     if ((info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
@@ -179,6 +183,14 @@ Result<std::uint64_t> IdentityOfDirectory(const std::wstring& path) {
     constexpr std::uint64_t kSpread = 0x9E3779B97F4A7C15;  // odd, with its bits all over the word
     const std::uint64_t index = (static_cast<std::uint64_t>(info.nFileIndexHigh) << 32) | info.nFileIndexLow;
     return index ^ (info.dwVolumeSerialNumber * kSpread);
+}
+
+bool IsSameFile(const std::wstring& path, const std::wstring& other) {
+    BY_HANDLE_FILE_INFORMATION one{};
+    BY_HANDLE_FILE_INFORMATION two{};
+    return Inform(path, one) && Inform(other, two) && (one.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 &&
+           one.dwVolumeSerialNumber == two.dwVolumeSerialNumber && one.nFileIndexHigh == two.nFileIndexHigh &&
+           one.nFileIndexLow == two.nFileIndexLow;
 }
 
 std::wstring NameAsFound(const std::wstring& path) {

@@ -29,6 +29,9 @@ Result<std::vector<DirectoryEntry>> ListSystemDirectory(const std::wstring& path
 /// The same number by whichever path or link the directory is reached.
 Result<std::uint64_t> IdentityOfDirectory(const std::wstring& path);
 
+/// Whether both are names of one plain file.
+bool IsSameFile(const std::wstring& path, const std::wstring& other);
+
 /// The last component as the directory spells it; as given if it is not there.
 std::wstring NameAsFound(const std::wstring& path);
 

@@ -1,6 +1,7 @@
 #include "platform/windows/registry_key.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace lv {
@@ -9,6 +10,8 @@ namespace {
 
 // The class that a new key is given, as the program has always named it.
 constexpr wchar_t kNewClass[] = L"REG_SZ";
+
+constexpr std::size_t kLongestKey = 255;  // the name of one, by the system's own limit
 
 const BYTE* BytesOf(const void* data) {
     return static_cast<const BYTE*>(data);
@@ -40,6 +43,23 @@ LSTATUS RegistryKeyHandle::OpenOrMake(const std::wstring& path, REGSAM access) {
     std::wstring className = kNewClass;
     return RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, className.data(), REG_OPTION_NON_VOLATILE, access,
                            nullptr, &key_, nullptr);
+}
+
+LSTATUS RegistryKeyHandle::OpenMachine32(const std::wstring& path) {
+    Close();
+    return RegOpenKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, KEY_READ | KEY_WOW64_32KEY, &key_);
+}
+
+std::vector<std::wstring> RegistryKeyHandle::Keys(std::size_t most) const {
+    std::vector<std::wstring> names;
+    std::array<wchar_t, kLongestKey + 1> name{};
+    auto size = static_cast<DWORD>(name.size());
+    while (names.size() < most && RegEnumKeyExW(key_, static_cast<DWORD>(names.size()), name.data(), &size, nullptr,
+                                                nullptr, nullptr, nullptr) == ERROR_SUCCESS) {
+        names.emplace_back(name.data(), size);
+        size = static_cast<DWORD>(name.size());
+    }
+    return names;
 }
 
 LSTATUS RegistryKeyHandle::Query(const std::wstring& name, RawRegistryValue& value) const {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/windows/system.h"
 
@@ -30,6 +31,11 @@ class RegistryKeyHandle {
     LSTATUS Open(const std::wstring& path, REGSAM access);
     /// Opens the key, and makes it if it is not there.
     LSTATUS OpenOrMake(const std::wstring& path, REGSAM access);
+
+    /// Below HKEY_LOCAL_MACHINE, as programs of 32 bits see it; to be read alone.
+    LSTATUS OpenMachine32(const std::wstring& path);
+    /// The names of at most `most` keys in it.
+    [[nodiscard]] std::vector<std::wstring> Keys(std::size_t most) const;
 
     /// A value of a type other than text and number comes back as its type alone.
     LSTATUS Query(const std::wstring& name, RawRegistryValue& value) const;

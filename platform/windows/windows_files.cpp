@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/code_page.h"
+#include "platform/windows/file_handle.h"
 #include "platform/windows/file_read.h"
 #include "platform/windows/links.h"
 #include "platform/windows/replace_file.h"
@@ -281,6 +282,48 @@ std::string WindowsFiles::LeadsAway(std::string_view path, std::string_view tree
         }
     }
     return SayPath(WithoutPrefix(*target));
+}
+
+bool WindowsFiles::CanWrite(std::string_view directory) {
+    const Quiet quiet;
+    const auto place = Find(directory);
+    if (!place || !IsDirectoryAt(place->System)) {
+        return false;
+    }
+    const FileHandle opened(CreateFileW(place->System.c_str(), FILE_ADD_FILE,
+                                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return opened.IsOpen();
+}
+
+Error WindowsFiles::Link(std::string_view target, std::string_view path) {
+    const Quiet quiet;
+    const auto file = FindNamed(target);
+    const auto place = FindToWrite(path);
+    if (!file.Ok() || !place.Ok()) {
+        return file.Ok() ? place.Fault : file.Fault;
+    }
+    const DWORD attributes = AttributesOf(file.Value.System);
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        return ErrorOfSystem(GetLastError());
+    }
+    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return MakeError(error::kPathFileAccess);
+    }
+    if (CreateHardLinkW(place.Value.System.c_str(), file.Value.System.c_str(), nullptr) != 0) {
+        return {};
+    }
+    // The file itself is there, as was just seen.
+    const DWORD failed = GetLastError();
+    return failed == ERROR_FILE_NOT_FOUND ? MakeError(error::kPathNotFound) : ErrorOfSystem(failed);
+}
+
+bool WindowsFiles::IsLinkTo(std::string_view path, std::string_view target) {
+    const Quiet quiet;
+    const auto place = Find(path);
+    const auto file = Find(target);
+    return place && file && !SameText(PutTogether(place->Path), PutTogether(file->Path)) &&
+           IsSameFile(place->System, file->System);
 }
 
 Error WindowsFiles::Delete(std::string_view path) {

@@ -32,6 +32,12 @@ class WindowsFiles : public Files {
     Error ReplaceOwn(std::string_view path, std::string_view bytes) override;
     Error CopyOwn(std::string_view from, std::string_view to) override;
     std::string LeadsAway(std::string_view path, std::string_view tree) override;
+    bool CanWrite(std::string_view directory) override;
+    /// A hard link: both names are the file's own, and it goes with the last of them.
+    Error Link(std::string_view target, std::string_view path) override;
+    bool IsLinkTo(std::string_view path, std::string_view target) override;
+    /// Always empty: neither of a file's names is the first.
+    std::string LeadsInto(std::string_view, std::string_view) override { return {}; }
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;
     Error RemoveDirectory(std::string_view path) override;

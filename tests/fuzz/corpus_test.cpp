@@ -92,6 +92,10 @@ TEST(FuzzCorpora, HaveAScriptOfEachKind) {
     EXPECT_EQ(FirstBytes("script", 9).size(), 9U);
 }
 
+TEST(FuzzCorpora, HaveNotesOfEachFormat) {
+    EXPECT_EQ(FirstBytes("game_notes", 3).size(), 3U);
+}
+
 TEST(FuzzCorpora, HaveAFontOfEachFormat) {
     EXPECT_EQ(FirstBytes("font", 7).size(), 7U);
 }

@@ -17,12 +17,14 @@ void FuzzArchiveDirectory(TextView input);
 void FuzzBatchPlan(TextView input);
 void FuzzCatalogFields(TextView input);
 void FuzzFont(TextView input);
+void FuzzGameNotes(TextView input);
 void FuzzHalfLifeScript(TextView input);
 void FuzzIniRewriting(TextView input);
 void FuzzNames(TextView input);
 void FuzzRegFile(TextView input);
 void FuzzScript(TextView input);
 void FuzzServerText(TextView input);
+void FuzzVdf(TextView input);
 
 struct FuzzedReader {
     const char* Name;  // of its corpus, and of its own program
@@ -34,12 +36,14 @@ constexpr FuzzedReader kFuzzedReaders[] = {
     {"batch_plan", FuzzBatchPlan},
     {"catalog_fields", FuzzCatalogFields},
     {"font", FuzzFont},
+    {"game_notes", FuzzGameNotes},
     {"half_life_script", FuzzHalfLifeScript},
     {"ini_rewriting", FuzzIniRewriting},
     {"names", FuzzNames},
     {"reg_file", FuzzRegFile},
     {"script", FuzzScript},
     {"server_text", FuzzServerText},
+    {"vdf", FuzzVdf},
 };
 
 /// Ends the process, with `what` on standard error, unless it holds.

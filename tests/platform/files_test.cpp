@@ -312,4 +312,57 @@ TYPED_TEST(AnyFiles, ListPlainFilesAsNoDevices) {
     }
 }
 
+TYPED_TEST(AnyFiles, LinkAFileSpelledAsItIsSaid) {
+    EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\TREE")).Number, 0);
+    EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\OWN")).Number, 0);
+    EXPECT_EQ(this->disk_.Replace(this->On("C:\\TREE\\PAK0.PAK"), "PACK").Number, 0);
+    EXPECT_EQ(this->disk_.Link(this->On("C:\\TREE\\PAK0.PAK"), this->On("C:\\OWN\\pak0.pak")).Number, 0);
+    EXPECT_EQ(this->disk_.Read(this->On("C:\\OWN\\pak0.pak")).Value, "PACK");
+    EXPECT_TRUE(this->disk_.FileExists(this->On("C:\\OWN\\pak0.pak")));
+    const auto entries = this->disk_.List(this->On("C:\\OWN"));
+    ASSERT_EQ(entries.Value.size(), 3u);
+    EXPECT_EQ(entries.Value[2].Name, "pak0.pak");
+}
+
+TYPED_TEST(AnyFiles, TellWhatALinkLeadsTo) {
+    EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\TREE")).Number, 0);
+    EXPECT_EQ(this->disk_.Replace(this->On("C:\\TREE\\a.pak"), "a").Number, 0);
+    EXPECT_EQ(this->disk_.Replace(this->On("C:\\TREE\\b.pak"), "a").Number, 0);
+    EXPECT_EQ(this->disk_.Link(this->On("C:\\TREE\\a.pak"), this->On("C:\\link.pak")).Number, 0);
+    EXPECT_TRUE(this->disk_.IsLinkTo(this->On("C:\\link.pak"), this->On("C:\\TREE\\a.pak")));
+    EXPECT_FALSE(this->disk_.IsLinkTo(this->On("C:\\link.pak"), this->On("C:\\TREE\\b.pak")));
+    EXPECT_FALSE(this->disk_.IsLinkTo(this->On("C:\\TREE\\a.pak"), this->On("C:\\TREE\\a.pak")));
+    EXPECT_FALSE(this->disk_.IsLinkTo(this->On("C:\\none.pak"), this->On("C:\\TREE\\a.pak")));
+    EXPECT_EQ(this->disk_.LeadsInto(this->On("C:\\TREE\\a.pak"), this->On("C:\\TREE")), "");
+    EXPECT_EQ(this->disk_.LeadsInto(this->On("C:\\none.pak"), this->On("C:\\TREE")), "");
+}
+
+TYPED_TEST(AnyFiles, DeleteALinkAndLeaveItsFile) {
+    EXPECT_EQ(this->disk_.Replace(this->On("C:\\a.pak"), "a").Number, 0);
+    EXPECT_EQ(this->disk_.Link(this->On("C:\\a.pak"), this->On("C:\\b.pak")).Number, 0);
+    EXPECT_EQ(this->disk_.Delete(this->On("C:\\b.pak")).Number, 0);
+    EXPECT_EQ(this->disk_.Read(this->On("C:\\a.pak")).Value, "a");
+    EXPECT_FALSE(this->disk_.FileExists(this->On("C:\\b.pak")));
+}
+
+TYPED_TEST(AnyFiles, RefuseALinkWhereThereIsNoFileOrNoRoom) {
+    EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\DIR")).Number, 0);
+    EXPECT_EQ(this->disk_.Replace(this->On("C:\\a.pak"), "a").Number, 0);
+    EXPECT_EQ(this->disk_.Replace(this->On("C:\\b.pak"), "b").Number, 0);
+    EXPECT_EQ(this->disk_.Link(this->On("C:\\none.pak"), this->On("C:\\c.pak")).Number, 53);
+    EXPECT_EQ(this->disk_.Link(this->On("C:\\DIR"), this->On("C:\\c.pak")).Number, 75);
+    EXPECT_EQ(this->disk_.Link(this->On("C:\\a.pak"), this->On("C:\\B.PAK")).Number, 75);
+    EXPECT_EQ(this->disk_.Link(this->On("C:\\a.pak"), this->On("C:\\NONE\\c.pak")).Number, 76);
+    EXPECT_EQ(this->disk_.Read(this->On("C:\\b.pak")).Value, "b");
+}
+
+TYPED_TEST(AnyFiles, TellWhereFilesCanBeMade) {
+    EXPECT_EQ(this->disk_.MakeDirectory(this->On("C:\\DIR")).Number, 0);
+    EXPECT_EQ(this->disk_.Replace(this->On("C:\\a.pak"), "a").Number, 0);
+    EXPECT_TRUE(this->disk_.CanWrite(this->On("C:\\DIR")));
+    EXPECT_TRUE(this->disk_.CanWrite(this->On("C:\\")));
+    EXPECT_FALSE(this->disk_.CanWrite(this->On("C:\\a.pak")));
+    EXPECT_FALSE(this->disk_.CanWrite(this->On("C:\\NONE")));
+}
+
 }  // namespace lv

@@ -292,6 +292,50 @@ TEST(LinuxFiles, ListPipesSocketsAndDevicesAsSuch) {
     EXPECT_TRUE(home.Disk.FileExists("C:\\link.cfg"));
 }
 
+TEST(LinuxFiles, KnowALinkOfTheirOwnWhoseFileIsGone) {
+    Home home;
+    fs::create_directories(home.C / "tree/ID1");
+    WriteBytes(home.C / "tree/ID1/PAK0.PAK", "PACK");
+    EXPECT_EQ(home.Disk.Link("C:\\TREE\\id1\\pak0.pak", "C:\\pak0.pak").Number, 0);
+    EXPECT_TRUE(fs::is_symlink(home.C / "pak0.pak"));
+    EXPECT_EQ(home.Disk.LeadsInto("C:\\pak0.pak", "C:\\tree"), "ID1\\PAK0.PAK");
+    fs::remove(home.C / "tree/ID1/PAK0.PAK");
+    EXPECT_FALSE(home.Disk.FileExists("C:\\pak0.pak"));
+    EXPECT_EQ(home.Disk.LeadsInto("C:\\pak0.pak", "C:\\tree"), "ID1\\PAK0.PAK");
+    EXPECT_EQ(home.Disk.LeadsInto("C:\\pak0.pak", "C:\\tre"), "");
+    EXPECT_EQ(home.Disk.Link("C:\\tree", "C:\\pak0.pak").Number, 75);
+    EXPECT_EQ(home.Disk.Delete("C:\\pak0.pak").Number, 0);
+    EXPECT_FALSE(fs::is_symlink(home.C / "pak0.pak"));
+}
+
+TEST(LinuxFiles, TakeNoLinkOfTheUsersForTheirOwn) {
+    Home home;
+    fs::create_directories(home.C / "tree");
+    WriteBytes(home.C / "tree/a.pak", "PACK");
+    fs::create_symlink("tree/a.pak", home.C / "short.pak");
+    fs::create_symlink(home.C / "tree/../tree/a.pak", home.C / "round.pak");
+    EXPECT_FALSE(home.Disk.IsLinkTo("C:\\short.pak", "C:\\tree\\a.pak"));
+    EXPECT_EQ(home.Disk.LeadsInto("C:\\short.pak", "C:\\tree"), "");
+    EXPECT_FALSE(home.Disk.IsLinkTo("C:\\round.pak", "C:\\tree\\a.pak"));
+}
+
+TEST(LinuxFiles, CannotWriteWhereTheUserMayNot) {
+    Home home;
+    fs::create_directories(home.C / "tree");
+    fs::permissions(home.C / "tree", fs::perms::owner_read | fs::perms::owner_exec);
+    const pid_t child = fork();
+    if (child == 0) {
+        if (geteuid() == 0 && seteuid(65534) != 0) {
+            _exit(2);
+        }
+        _exit(home.Disk.CanWrite("C:\\tree") ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+    fs::permissions(home.C / "tree", fs::perms::owner_all);
+}
+
 TEST(LinuxFiles, ReadAndCopyNoFileOfATerabyte) {
     Home home;
     WriteBytes(home.C / "huge.ini", "[x]");

@@ -42,6 +42,18 @@ TEST(UserDirectories, LieWhereTheEnvironmentSays) {
     EXPECT_EQ(WinePrefix(), fs::path("/w"));
 }
 
+TEST(HomePlace, LiesWhereTheEnvironmentHasPutItsBase) {
+    const PlainUser user;
+    EXPECT_EQ(HomePlace("games"), fs::path("/home/me/games"));
+    EXPECT_EQ(HomePlace(".config/heroic"), fs::path("/home/me/.config/heroic"));
+    EXPECT_EQ(HomePlace(".local/share/games"), fs::path("/home/me/.local/share/games"));
+    const ScopedVariable config("XDG_CONFIG_HOME", "/c");
+    const ScopedVariable data("XDG_DATA_HOME", "/d");
+    EXPECT_EQ(HomePlace(".config/heroic"), fs::path("/c/heroic"));
+    EXPECT_EQ(HomePlace(".local/share/games"), fs::path("/d/games"));
+    EXPECT_EQ(HomePlace("games"), fs::path("/home/me/games"));
+}
+
 TEST(UserDirectories, DoNotHeedARelativePathNorAnEmptyOne) {
     const PlainUser user;
     const ScopedVariable config("XDG_CONFIG_HOME", "config");

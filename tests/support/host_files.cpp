@@ -123,6 +123,18 @@ Result<std::vector<DirectoryEntry>> HostFiles::List(std::string_view) {
 Error HostFiles::Copy(std::string_view, std::string_view) {
     return NotHere();
 }
+bool HostFiles::CanWrite(std::string_view directory) {
+    return DirectoryExists(directory);
+}
+Error HostFiles::Link(std::string_view, std::string_view) {
+    return NotHere();
+}
+bool HostFiles::IsLinkTo(std::string_view, std::string_view) {
+    return false;
+}
+std::string HostFiles::LeadsInto(std::string_view, std::string_view) {
+    return {};
+}
 Error HostFiles::Delete(std::string_view) {
     return NotHere();
 }

@@ -28,6 +28,10 @@ class HostFiles : public Files {
     Error ReplaceOwn(std::string_view path, std::string_view bytes) override { return Replace(path, bytes); }
     Error CopyOwn(std::string_view from, std::string_view to) override { return Copy(from, to); }
     std::string LeadsAway(std::string_view, std::string_view) override { return {}; }
+    bool CanWrite(std::string_view directory) override;
+    Error Link(std::string_view target, std::string_view path) override;
+    bool IsLinkTo(std::string_view path, std::string_view target) override;
+    std::string LeadsInto(std::string_view path, std::string_view tree) override;
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;
     Error RemoveDirectory(std::string_view path) override;
