@@ -47,7 +47,7 @@ set(MAY_platform/memory platform/memory platform)
 set(MAY_platform/linux platform/linux platform/linux/starting platform)
 set(MAY_platform/linux/starting ${MAY_platform/linux})
 set(MAY_platform/windows platform/windows platform)
-set(MAY_app app platform/linux platform/windows foundation foundation/forms catalogs/forms video/forms gamespy/forms
+set(MAY_app app platform/linux platform/linux/starting platform/windows foundation foundation/forms catalogs/forms video/forms gamespy/forms
     launcher/start launcher/window launcher/forms foundry foundry/forms wizard wizard/forms)
 
 # Folders of the logic, of the toolkit, and of a system.
