@@ -199,7 +199,7 @@ void GameOutput_Bar_Click(Launcher& launcher) {
     if (!output) {
         AskUser(run, "Output of the Last Game",
                 "There is no output of a game. It is kept from each launch on, where the system allows it.");
-    } else if (Trim(*output).empty()) {
+    } else if (LastLinesOf(*output, 1).empty()) {
         AskUser(run, "Output of the Last Game", "The last game has printed nothing.");
     } else {
         ShowAndOfferCopy(run, "Output of the Last Game", ShownOutput(*output), *output);

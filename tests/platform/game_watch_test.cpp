@@ -1,5 +1,6 @@
 // What the helper lorvane3d-watch keeps of games that are started for real.
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -12,6 +13,7 @@
 #include <functional>
 #include <thread>
 
+#include "platform/linux/file_descriptor.h"
 #include "platform/linux/linux_processes.h"
 #include "platform/linux/starting/game_record.h"
 #include "tests/support/game_yard.h"
@@ -23,8 +25,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::EndsWith;
-using testing::HasSubstr;
 using testing::StartsWith;
 
 bool Until(const std::function<bool()>& happened) {
@@ -50,14 +50,32 @@ mode_t ModeOf(const std::string& path) {
     return lstat(path.c_str(), &about) == 0 && S_ISREG(about.st_mode) ? about.st_mode & 07777u : 0;
 }
 
+/// Standard output for the life of the object.
+class OutputTo {
+  public:
+    explicit OutputTo(int file) : before_(dup(STDOUT_FILENO)) { dup2(file, STDOUT_FILENO); }
+    ~OutputTo() {
+        dup2(before_, STDOUT_FILENO);
+        close(before_);
+    }
+    OutputTo(const OutputTo&) = delete;
+    OutputTo& operator=(const OutputTo&) = delete;
+
+  private:
+    int before_;
+};
+
 struct WatchedYard : GameYard {
     explicit WatchedYard(const std::string& name)
         : GameYard(name), Programs(Disk, Places), Kept(GameFilesIn(Places.State)) {}
 
-    Error Start(const std::string& script, const std::string& name = "GAME") {
+    /// What it prints is passed on to `output`, to nobody without one.
+    Error Start(const std::string& script, const std::string& name = "GAME", int output = -1) {
         const auto game = AddFile("quake/" + name, "#!/bin/sh\n" + script + "\n");
         fs::permissions(game, fs::perms::owner_all);
         AddBatch("quake", {"SET TOLD=by the batch", "C:", "cd C:\\QUAKE", name + " -zone \"5 12\""});
+        const FileDescriptor nobody(open("/dev/null", O_WRONLY | O_CLOEXEC));
+        const OutputTo redirected(output >= 0 ? output : nobody.Number());
         return Programs.StartBatch("C:\\QUAKE", "lv_666.bat");
     }
 
@@ -128,9 +146,9 @@ TEST(GameWatch, KeepsTheFirstPartAndTheLastOfTwoMegabytes) {
     const std::string kept = ReadBytes(yard.Kept.Output);
     EXPECT_LE(kept.size(), 1024u * 1024u);
     EXPECT_GE(kept.size(), 512u * 1024u);
-    EXPECT_THAT(kept, StartsWith("the first line\n0123456789abcdef\n"));
-    EXPECT_THAT(kept, HasSubstr("\n... (lines are left out here) ...\n"));
-    EXPECT_THAT(kept, EndsWith("\nthe last line\n"));
+    EXPECT_TRUE(kept.starts_with("the first line\n0123456789abcdef\n"));
+    EXPECT_NE(kept.find("\n... (lines are left out here) ...\n"), std::string::npos);
+    EXPECT_TRUE(kept.ends_with("\nthe last line\n"));
     EXPECT_EQ(ModeOf(yard.Kept.Output), 0600u);
     EXPECT_FALSE(fs::exists(yard.Kept.Output + ".new"));
 }
@@ -144,7 +162,7 @@ TEST(GameWatch, ShowsBinaryOutputAsText) {
     WatchedYard yard("watch_binary");
     const GameEnd end = yard.EndOf("printf 'a\\000b\\377\\033[31mred\\007\\n'; exit 1");
     EXPECT_EQ(end.LastLines, "a?b?red?\r\n");
-    EXPECT_EQ(ReadBytes(yard.Kept.Output), std::string("a\0b\xFF\x1B[31mred\x07\n", 13));
+    EXPECT_EQ(ReadBytes(yard.Kept.Output), std::string("a\0b\xFF\x1B[31mred\x07\n", 14));
 }
 
 TEST(GameWatch, TheEndOfAGameThatForksAndLeavesIsItsFirstProgramsAndTheRestPrintsOn) {
@@ -166,8 +184,7 @@ TEST(GameWatch, GoesOnWhenTheLauncherAndItsTerminalAreGone) {
     ASSERT_EQ(pipe(ends), 0);
     const pid_t launcher = fork();
     if (launcher == 0) {
-        dup2(ends[1], STDOUT_FILENO);
-        const Error fault = yard.Start("sleep 0.5; yes words | head -c 200000; echo last; exit 7");
+        const Error fault = yard.Start("sleep 0.5; yes words | head -c 199998; echo last; exit 7", "GAME", ends[1]);
         _exit(fault ? 1 : 0);
     }
     int status = -1;
@@ -176,7 +193,7 @@ TEST(GameWatch, GoesOnWhenTheLauncherAndItsTerminalAreGone) {
     close(ends[1]);
     EXPECT_EQ(status, 0);
     EXPECT_TRUE(WaitForText(yard.Kept.End, " code 7 "));
-    EXPECT_THAT(ReadBytes(yard.Kept.Output), EndsWith("words\nlast\n"));
+    EXPECT_TRUE(ReadBytes(yard.Kept.Output).ends_with("words\nlast\n"));
     EXPECT_EQ(yard.Programs.LastOutput().value_or("").substr(0, 7), "words\r\n");
     EXPECT_FALSE(yard.Programs.EndOfLastGame()) << "another run's game";
 }
@@ -192,11 +209,7 @@ TEST(GameWatch, PassesTheOutputOn) {
     WatchedYard yard("watch_passed");
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
-    const int before = dup(STDOUT_FILENO);
-    dup2(ends[1], STDOUT_FILENO);
-    const Error fault = yard.Start("echo one; echo two >&2");
-    dup2(before, STDOUT_FILENO);
-    close(before);
+    const Error fault = yard.Start("echo one; echo two >&2", "GAME", ends[1]);
     close(ends[1]);
     EXPECT_FALSE(fault) << fault.Text;
     std::string passed;
@@ -212,11 +225,7 @@ TEST(GameWatch, AReaderThatTakesNothingHoldsNoGameUp) {
     WatchedYard yard("watch_stuck");
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
-    const int before = dup(STDOUT_FILENO);
-    dup2(ends[1], STDOUT_FILENO);
-    const Error fault = yard.Start("yes words | head -c 400000; exit 4");
-    dup2(before, STDOUT_FILENO);
-    close(before);
+    const Error fault = yard.Start("yes words | head -c 400000; exit 4", "GAME", ends[1]);
     EXPECT_FALSE(fault) << fault.Text;
     EXPECT_EQ(yard.WaitForEnd().Code, 4);
     EXPECT_EQ(ReadBytes(yard.Kept.Output).size(), 400000u);
@@ -304,7 +313,7 @@ TEST(GameWatch, LinksAtTheNamesOfItsFilesAreReplacedAndNotFollowed) {
     }
     yard.EndOf("echo the first; yes x | head -c 1500000; echo the last");
     EXPECT_EQ(ReadBytes(mine), "mine");
-    EXPECT_THAT(ReadBytes(yard.Kept.Output), EndsWith("\nthe last\n"));
+    EXPECT_TRUE(ReadBytes(yard.Kept.Output).ends_with("\nthe last\n"));
     EXPECT_EQ(ModeOf(yard.Kept.Output), 0600u);
     EXPECT_EQ(ModeOf(yard.Kept.End), 0600u);
 }

@@ -41,6 +41,7 @@ Error LastGame::Start(HostCommand command, const HostPlaces& places) {
     const Error refused = StartDetached(command);
     if (refused) {
         unlink(files.Output.c_str());
+        unlink(files.End.c_str());
     }
     watched_ = !refused && access(files.Output.c_str(), F_OK) == 0;
     return refused;
