@@ -88,8 +88,9 @@ Text Lasted(double seconds) {
                                                      : Many(whole / 3600, "hour"));
 }
 
+// In the font of messages, where wide lines wrap: in a fixed-width one their beginnings scroll out of sight.
 void ShowAndOfferCopy(Run& run, const char* title, TextView shown, TextView copied) {
-    if (AskUserFixedWidth(run, title, shown, kCloseOrCopy) != kCopy) {
+    if (AskUser(run, title, shown, kCloseOrCopy) != kCopy) {
         return;
     }
     if (const Error failed = run.System.Clip.SetText(copied)) {
