@@ -27,6 +27,7 @@
 #include "launcher/forms/lv_form.h"
 #include "launcher/forms/splash_form.h"
 #include "launcher/start/start.h"
+#include "launcher/window/game_end.h"
 #include "launcher/window/window_life.h"
 #include "video/forms/add_vid_profile_form.h"
 #include "video/forms/video_profile_form.h"
@@ -154,6 +155,12 @@ class LorvaneApp : public wxApp {
             program_->Host->AnswerKnocks();
             if (program_->TheRun.Ended) {
                 End();
+            } else if (GameEndIsDue(program_->TheLauncher)) {
+                // Not in here: this timer must go on while a dialog is up.
+                CallAfter([this] {
+                    TellGameEnd(program_->TheLauncher);
+                    program_->User.Refresh();
+                });
             }
         });
         look_.Start(kLookMilliseconds);

@@ -22,6 +22,7 @@ constexpr TextView kQuietCaptions[] = {
     "Not Cool",
     "Decline",
     "Ignore",
+    "Close",
     "Abort Launch",
     "Cool - Thanks Man!",
     "Don't Start",

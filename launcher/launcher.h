@@ -15,6 +15,13 @@
 
 namespace lv {
 
+/// The game that was launched last.
+struct GameUnderWay {
+    Text Name;            // of its program file
+    double Started = 0;   // on the platform's clock
+    double LookedAt = 0;  // for its end
+};
+
 struct Launcher {
     explicit Launcher(Run& owner) : run(owner) {}
     Launcher(const Launcher&) = delete;
@@ -61,6 +68,8 @@ struct Launcher {
 
     /// Measures the main window's form. Empty: there is none, and the size stays as it is.
     std::function<WindowMeasures()> Measure;
+
+    GameUnderWay LastGame;
 
     bool LaunchUnderWay = false;      // a launch waits for GameSpy 3D: another click does nothing
     bool ClearingGameChk = false;     // Game_Chk clears itself: its own click does nothing meanwhile

@@ -1,10 +1,12 @@
 // platform/processes.h
 //
-// Starting other programs. A started program outlives this one, and nothing waits for it.
+// Starting other programs. A started program outlives this one, and nothing waits for it. How the last game ended can
+// be asked where the system tells.
 
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +30,14 @@ struct BatchCommand {
     std::vector<GivenWord> Given;  // in the command's order; their places are counted in the batch
 };
 
+/// How a game's program ended: the one that was started, whatever it has started itself.
+struct GameEnd {
+    int Code = 0;                // that it left
+    int Signal = 0;              // of the system, that ended it; 0: none
+    double Seconds = 0;          // that it ran
+    std::string LastLines = {};  // the end of what it printed, whole lines parted by CR LF, without control characters
+};
+
 class Processes {
   public:
     virtual ~Processes() = default;
@@ -46,6 +56,16 @@ class Processes {
     /// Starts a program by its path, or by its name alone when the system finds it there. Error 75 for an argument of
     /// a batch or a DOS program that a reader would misread.
     virtual Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) = 0;
+
+    /// Whether the end of the game that StartBatch started last is still to be told. Costs nothing.
+    virtual bool WatchesGame() { return false; }
+
+    /// Once for each such game, after its end. A game that another one followed is not told of.
+    virtual std::optional<GameEnd> EndOfLastGame() { return std::nullopt; }
+
+    /// What that game has printed until now, as GameEnd has it: a megabyte at most, the first part and the last.
+    /// Nothing if none is kept; it is kept for the next run of the program too.
+    virtual std::optional<std::string> LastOutput() { return std::nullopt; }
 
     /// Shows a manual of the kind that Windows has a viewer of its own for, LV3D.hlp. Error 53 without that viewer.
     virtual Error StartHelpViewer(std::string_view) { return MakeError(error::kFileNotFound); }

@@ -80,6 +80,8 @@ enum class MenuItem : int {
     WhatsThis_Bar,
     WebSite_Bar,
     HelpAbout_Bar,
+    Tools_Bar,
+    GameOutput_Bar,
     Count,
 };
 

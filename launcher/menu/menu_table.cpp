@@ -6,6 +6,7 @@
 #include "launcher/menu/catalog_menu.h"
 #include "launcher/menu/video_profile_menu.h"
 #include "launcher/menu/window_menu.h"
+#include "launcher/window/game_end.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/window_life.h"
 
@@ -111,6 +112,9 @@ constexpr MenuRow kRows[] = {
     {WhatsThis_Bar, "WhatsThis_Bar", kNoIndex, "&What's This?", "", Help_Bar, WhatsThis_Bar_Click},
     {WebSite_Bar, "WebSite_Bar", kNoIndex, "Lorvane 3D &Web Site", "", Help_Bar, WebSite_Bar_Click},
     {HelpAbout_Bar, "HelpAbout_Bar", kNoIndex, "&About Lorvane 3D", "", Help_Bar, HelpAbout_Bar_Click},
+
+    {Tools_Bar, "Tools_Bar", kNoIndex, "&Tools", "", None, nullptr},
+    {GameOutput_Bar, "GameOutput_Bar", kNoIndex, "&Output of the Last Game...", "", Tools_Bar, GameOutput_Bar_Click},
 };
 // clang-format on
 

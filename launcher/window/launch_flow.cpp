@@ -18,6 +18,7 @@
 #include "launch/launch_files.h"
 #include "launch/missing_executable.h"
 #include "launch/name_check.h"
+#include "launcher/window/game_end.h"
 #include "launcher/window/unreal_options.h"
 #include "launcher/window/window_life.h"
 #include "video/profile_model.h"
@@ -239,6 +240,7 @@ void StartGame(Click& click) {
         ReportError(click, failed);
         return;
     }
+    NoteGameStart(click.launcher, LastPathPart(click.Selection.ExecutablePath));
     if (click.launcher.Window.Box(Option::EndOnLaunch_Chk).Value == 1) {
         Exit_Bar_Click(click.launcher);
     }

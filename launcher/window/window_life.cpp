@@ -4,13 +4,9 @@
 
 namespace lv {
 
-namespace {
-
 bool DialogIsUp(const Run& run) {
     return run.Topmost.Nesting > 0;
 }
-
-}  // namespace
 
 void ShowMainWindow(Launcher& launcher) {
     LV_Frm& window = launcher.Window;

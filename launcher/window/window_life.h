@@ -22,6 +22,9 @@ void HideForLaunch(Launcher& launcher);
 
 void ShowLorvane_Bar_Click(Launcher& launcher);
 
+/// A dialog waits for its user.
+bool DialogIsUp(const Run& run);
+
 /// The tray icon was clicked; nothing happens while a dialog is up.
 void Tray_Click(Launcher& launcher, int message);
 

@@ -6,7 +6,9 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <charconv>
 #include <climits>
 #include <csignal>
 #include <cstring>
@@ -15,6 +17,7 @@
 #include "platform/code_page.h"
 #include "platform/linux/file_descriptor.h"
 #include "platform/linux/read_once.h"
+#include "platform/linux/start_report.h"
 
 extern char** environ;  // NOLINT: POSIX leaves its declaration to the program
 
@@ -22,36 +25,33 @@ namespace lv {
 
 namespace {
 
-enum class Stage { kFork, kDirectory, kProgram };
-
-// What the child writes into the pipe when it fails; a started program closes the pipe without a word.
-struct Report {
-    Stage At = Stage::kFork;
-    int Number = 0;
-};
-
 // Everything exec takes, made before the fork: between fork and exec nothing may allocate.
 struct ExecText {
     explicit ExecText(const HostCommand& command) {
+        const HostWatch& watch = command.Watch;
+        for (const std::string* word : {&watch.Helper, &watch.Output, &watch.End, &watch.Token}) {
+            watched.push_back(const_cast<char*>(word->c_str()));
+        }
+        watched.push_back(reportTo.data());
         arguments.push_back(const_cast<char*>(command.Program.c_str()));
         for (const std::string& argument : command.Arguments) {
             arguments.push_back(const_cast<char*>(argument.c_str()));
         }
         arguments.push_back(nullptr);
+        watched.insert(watched.end(), arguments.begin(), arguments.end());
         for (const std::string& entry : command.Environment) {
             environment.push_back(const_cast<char*>(entry.c_str()));
         }
         environment.push_back(nullptr);
     }
+    ExecText(const ExecText&) = delete;
+    ExecText& operator=(const ExecText&) = delete;
+    void SetReportTo(int descriptor) { *std::to_chars(reportTo.begin(), reportTo.end() - 1, descriptor).ptr = '\0'; }
+    std::array<char, 16> reportTo = {};
     std::vector<char*> arguments;
+    std::vector<char*> watched;  // the helper's: its own, then the program's
     std::vector<char*> environment;
 };
-
-[[noreturn]] void Fail(int pipe, Stage stage, int number) {
-    const Report report{stage, number};
-    const ssize_t written = write(pipe, &report, sizeof report);  // below PIPE_BUF: whole or not at all
-    _exit(written == sizeof report ? 127 : 126);
-}
 
 void ResetSignals() {
     struct sigaction plain = {};
@@ -93,20 +93,25 @@ void OpenStandardFiles() {
 
 [[noreturn]] void Become(const HostCommand& command, const ExecText& text, int pipe) {
     if (!command.Directory.empty() && chdir(command.Directory.c_str()) != 0) {
-        Fail(pipe, Stage::kDirectory, errno);
+        FailStart(pipe, StartStage::kDirectory, errno);
     }
     OpenStandardFiles();
     CloseOthersAtExec();
     ResetSignals();
+    if (!command.Watch.Helper.empty()) {
+        fcntl(pipe, F_SETFD, 0);  // the helper hands it on
+        execve(command.Watch.Helper.c_str(), text.watched.data(), text.environment.data());
+        fcntl(pipe, F_SETFD, FD_CLOEXEC);
+    }
     execve(command.Program.c_str(), text.arguments.data(), text.environment.data());
-    Fail(pipe, Stage::kProgram, errno);
+    FailStart(pipe, StartStage::kProgram, errno);
 }
 
 [[noreturn]] void Detach(const HostCommand& command, const ExecText& text, int pipe, int watch) {
     setsid();
     const pid_t child = fork();
     if (child < 0) {
-        Fail(pipe, Stage::kFork, errno);
+        FailStart(pipe, StartStage::kFork, errno);
     }
     if (child > 0) {
         if (watch >= 0 && fork() == 0) {
@@ -123,8 +128,8 @@ void WaitFor(pid_t child) {
     }
 }
 
-std::optional<Report> ReadReport(int pipe) {
-    Report report;
+std::optional<StartReport> ReadReport(int pipe) {
+    StartReport report;
     ssize_t count = 0;
     do {
         count = read(pipe, &report, sizeof report);
@@ -132,11 +137,11 @@ std::optional<Report> ReadReport(int pipe) {
     return count == sizeof report ? std::optional(report) : std::nullopt;
 }
 
-int NumberOf(const Report& report) {
+int NumberOf(const StartReport& report) {
     switch (report.Number) {
         case ENOENT:
         case ENOTDIR:
-            return report.At == Stage::kDirectory ? error::kPathNotFound : error::kFileNotFound;
+            return report.At == StartStage::kDirectory ? error::kPathNotFound : error::kFileNotFound;
         case EACCES:
         case EPERM:
             return error::kPermissionDenied;
@@ -152,8 +157,8 @@ int NumberOf(const Report& report) {
     }
 }
 
-Error ErrorOf(const Report& report, const HostCommand& command) {
-    const std::string& about = report.At == Stage::kDirectory ? command.Directory : command.Program;
+Error ErrorOf(const StartReport& report, const HostCommand& command) {
+    const std::string& about = report.At == StartStage::kDirectory ? command.Directory : command.Program;
     Error fault = MakeError(NumberOf(report), FromUtf8Lossy(about));
     fault.Text += " (" + FromUtf8Lossy(std::strerror(report.Number)) + ")";  // NOLINT: one thread starts programs
     return fault;
@@ -162,11 +167,11 @@ Error ErrorOf(const Report& report, const HostCommand& command) {
 }  // namespace
 
 Error StartDetached(const HostCommand& command) {
-    const ExecText text(command);
+    ExecText text(command);
     const FileDescriptor watch(command.ReadOnce.empty() ? -1 : WatchForOpening(command.ReadOnce));
     int ends[2] = {-1, -1};
     if (pipe2(ends, O_CLOEXEC) != 0) {
-        return ErrorOf({Stage::kFork, errno}, command);
+        return ErrorOf({StartStage::kFork, errno}, command);
     }
     // A pipe end below 3 would be overlaid by the child's standard files.
     for (int& end : ends) {
@@ -176,15 +181,16 @@ Error StartDetached(const HostCommand& command) {
             end = moved;
         }
     }
+    text.SetReportTo(ends[1]);
     const pid_t child = fork();
     if (child == 0) {
         Detach(command, text, ends[1], watch.Number());
     }
     const int refused = errno;
     close(ends[1]);
-    std::optional<Report> report;
+    std::optional<StartReport> report;
     if (child < 0) {
-        report = Report{Stage::kFork, refused};
+        report = StartReport{StartStage::kFork, refused};
     } else {
         WaitFor(child);
         report = ReadReport(ends[0]);

@@ -16,6 +16,14 @@
 
 namespace lv {
 
+/// The program that stands between this one and the started one, keeps what that prints, and notes how it ended.
+struct HostWatch {
+    std::string Helper;  // absolute path; empty: none
+    std::string Output;  // the file for what is printed
+    std::string End;     // the file for the end
+    std::string Token;   // tells this start's end from those of others
+};
+
 /// All host text, UTF-8.
 struct HostCommand {
     std::string Program;                   // absolute path
@@ -23,6 +31,7 @@ struct HostCommand {
     std::vector<std::string> Environment;  // "NAME=value", all of it
     std::string Directory;                 // empty: this program's
     std::string ReadOnce = {};             // a file that goes once the program has read it, or could not be started
+    HostWatch Watch = {};                  // a helper that cannot be started is done without
 };
 
 /// 53 no such program, 70 not allowed, 76 no such directory, 75 no program of this machine; the text names what it was.

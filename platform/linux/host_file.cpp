@@ -10,10 +10,7 @@
 
 namespace lv {
 
-namespace {
-
-// What cannot be made, or is another's, shows when the file is written.
-void MakePrivate(const std::filesystem::path& directory) {
+void MakePrivateDirectory(const std::filesystem::path& directory) {
     std::error_code failed;
     std::filesystem::create_directories(directory.parent_path(), failed);
     if (mkdir(directory.c_str(), 0700) != 0) {
@@ -21,10 +18,8 @@ void MakePrivate(const std::filesystem::path& directory) {
     }
 }
 
-}  // namespace
-
 Error WriteHostFile(const std::filesystem::path& path, std::string_view bytes) {
-    MakePrivate(path.parent_path());
+    MakePrivateDirectory(path.parent_path());
     if (const Error refused = ReplaceOwnHostFile(path.string(), [bytes](int file) { return WriteAll(file, bytes); })) {
         return MakeError(refused.Number, FromUtf8Lossy(path.string()));
     }

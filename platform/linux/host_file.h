@@ -12,8 +12,11 @@
 
 namespace lv {
 
-/// Makes the directories above the file as needed, and the last of them private (0700). The error's text names the
-/// file.
+/// Makes the directory and those above it as needed, and itself private (0700). What cannot be made, or is another's,
+/// shows when a file is written there.
+void MakePrivateDirectory(const std::filesystem::path& directory);
+
+/// The directory is made private first. The error's text names the file.
 Error WriteHostFile(const std::filesystem::path& path, std::string_view bytes);
 
 /// Deletes the files in `directory` whose names start with `start` and that nobody has written for `days`.

@@ -85,6 +85,12 @@ HostPlaces LinuxProcesses::Places() const {
     if (places.PauseHelper.empty()) {
         places.PauseHelper = ProgramFileDirectory() / "lorvane3d-pause";
     }
+    if (places.State.empty()) {
+        places.State = StateDirectory();
+    }
+    if (places.WatchHelper.empty()) {
+        places.WatchHelper = ProgramFileDirectory() / "lorvane3d-watch";
+    }
     return places;
 }
 
@@ -194,7 +200,7 @@ LineReader LinuxProcesses::ReaderOf(std::string_view directory, std::string_view
 
 Error LinuxProcesses::StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) {
     const Result<HostCommand> command = PlanBatch(directory, name, known);
-    return command.Ok() ? StartDetached(command.Value) : command.Fault;
+    return command.Ok() ? lastGame_.Start(command.Value, Places()) : command.Fault;
 }
 
 Error LinuxProcesses::StartProgram(std::string_view program, const std::vector<std::string>& arguments) {

@@ -5,12 +5,14 @@
 // environment, directory and arguments; a Windows program by Wine in the same way; a DOS program runs in DOSBox.
 // What is started has forgotten this program: it lives on when this one ends and leaves no zombie behind.
 // No text of a batch ever reaches a shell of the host, nor a command processor but for a batch of the user's own.
-// Whether the first program on the road could be started is known on return; what it does then is not.
+// Whether the first program on the road could be started is known on return. What it prints and how it ends is kept by
+// a helper that stands between (last_game.h) and that this program asks; without that helper it stays unknown.
 
 #pragma once
 
 #include "platform/files.h"
 #include "platform/linux/starting/game_start.h"
+#include "platform/linux/starting/last_game.h"
 #include "platform/processes.h"
 
 namespace lv {
@@ -27,7 +29,11 @@ class LinuxProcesses : public Processes {
     /// `program` may also be an absolute path of the host. A name alone is searched on PATH.
     Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
 
-    /// What StartBatch would start.
+    bool WatchesGame() override { return lastGame_.IsWatched(); }
+    std::optional<GameEnd> EndOfLastGame() override { return lastGame_.TakeEnd(Places()); }
+    std::optional<std::string> LastOutput() override { return OutputOfLastGame(Places()); }
+
+    /// What StartBatch would start, but for the helper.
     Result<HostCommand> PlanBatch(std::string_view directory, std::string_view name, const BatchCommand& known = {});
     /// What StartProgram would start.
     Result<HostCommand> PlanProgram(std::string_view program, const std::vector<std::string>& arguments);
@@ -38,6 +44,7 @@ class LinuxProcesses : public Processes {
 
     Files& disk_;
     HostPlaces places_;
+    LastGame lastGame_;
 };
 
 }  // namespace lv

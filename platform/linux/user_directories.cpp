@@ -52,6 +52,10 @@ std::filesystem::path CacheDirectory() {
     return Base("XDG_CACHE_HOME", ".cache") / "lorvane3d";
 }
 
+std::filesystem::path StateDirectory() {
+    return Base("XDG_STATE_HOME", ".local/state") / "lorvane3d";
+}
+
 std::filesystem::path WinePrefix() {
     return Base("WINEPREFIX", ".wine");
 }

@@ -25,6 +25,9 @@ std::filesystem::path DataDirectory();
 /// $XDG_CACHE_HOME/lorvane3d, by default ~/.cache/lorvane3d.
 std::filesystem::path CacheDirectory();
 
+/// $XDG_STATE_HOME/lorvane3d, by default ~/.local/state/lorvane3d.
+std::filesystem::path StateDirectory();
+
 /// $WINEPREFIX, by default ~/.wine.
 std::filesystem::path WinePrefix();
 

@@ -1,6 +1,7 @@
 #include "platform/memory/memory_platform.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/code_page.h"
 
@@ -78,6 +79,14 @@ Error MemoryProcesses::StartProgram(std::string_view program, const std::vector<
     }
     Started.push_back(line);
     return {};
+}
+
+std::optional<GameEnd> MemoryProcesses::EndOfLastGame() {
+    ++LooksForEnd;
+    if (End) {
+        Watching = false;
+    }
+    return std::exchange(End, std::nullopt);
 }
 
 Error MemoryProcesses::StartHelpViewer(std::string_view path) {

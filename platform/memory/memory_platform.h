@@ -56,6 +56,10 @@ class MemoryProcesses : public Processes {
     Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) override;
     Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
 
+    bool WatchesGame() override { return Watching; }
+    std::optional<GameEnd> EndOfLastGame() override;
+    std::optional<std::string> LastOutput() override { return Output; }
+
     Error StartHelpViewer(std::string_view path) override;
 
     std::vector<std::string> Started;  // "C:\QUAKE\lv_666.bat", or the program and its arguments joined by "|"
@@ -63,6 +67,11 @@ class MemoryProcesses : public Processes {
     LineReader Reader = LineReader::kNobody;
     Error Refuse;
     bool HasHelpViewer = false;  // then it is "winhlp32.exe"
+
+    bool Watching = false;       // from the start of a game to the telling of its end, where a test sets it
+    std::optional<GameEnd> End;  // told once
+    int LooksForEnd = 0;
+    std::optional<std::string> Output;
 };
 
 class MemoryClipboard : public Clipboard {

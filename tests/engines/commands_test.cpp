@@ -34,7 +34,8 @@ struct StrangersYard {
     explicit StrangersYard(const std::string& name)
         : Root(fs::path(TestBinaryDir()) / "yards" / name),
           Disk((fs::remove_all(Root), DriveDirectories{Root / "data/drives", Root / "wine", Root / "program"})),
-          Programs(Disk, {"", Root / "cache", TestWinePrefix(), fs::path(TestBinaryDir()) / "lorvane3d-pause"}) {
+          Programs(Disk, {"", Root / "cache", TestWinePrefix(), fs::path(TestBinaryDir()) / "lorvane3d-pause",
+                          Root / "state"}) {
         Save(run, "LV-Stuff", "FirstTime", 0);
         Save(run, "LV-Stuff", "VP_Version", 1);
         Save(run, "LV-Stuff", "NVC_Version", 1);

@@ -31,7 +31,7 @@ class EngineRun : public testing::Environment {
         std::filesystem::create_directories(kHome);
         setenv("WINEDLLOVERRIDES", "mscoree,mshtml=", 1);
         setenv("SDL_AUDIODRIVER", "dummy", 1);
-        for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "WINEDEBUG"}) {
+        for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "WINEDEBUG"}) {
             unsetenv(name);
         }
         display_ = std::make_unique<VirtualDisplay>();

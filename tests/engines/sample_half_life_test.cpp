@@ -70,6 +70,7 @@ TEST(SampleHalfLife, TakesItsPlayerOutOfTheRegistryAndPutsHimBack) {
     places.Cache = sample / "cache";
     places.WinePrefix = sample / "wine";
     places.PauseHelper = fs::path(TestBinaryDir()) / "lorvane3d-pause";
+    places.State = sample / "state";
     LinuxProcesses programs(disk, places);
     MemoryClipboard clip;
     LinuxClock clock;

@@ -16,6 +16,7 @@
 #include "foundation/padded_item.h"
 #include "foundation/settings.h"
 #include "launcher/start/main_window_load.h"
+#include "launcher/window/game_end.h"
 #include "launcher/window/lv_events.h"
 #include "launcher/window/window_life.h"
 #include "platform/memory/memory_platform.h"
@@ -154,7 +155,7 @@ TEST_F(LvForm_, TheMenuBarIsTheTable) {
     }
     EXPECT_EQ(titles, (std::vector<std::string>{"&File", "&Options", "&Game Executable", "&Modification Subdirectory",
                                                 "&Memory", "&Video Profiles", "&Player Script", "&Demos", "&Server",
-                                                "&GL", "&Help"}));
+                                                "&GL", "&Help", "&Tools"}));
     std::vector<std::string> file;
     for (const wxMenuItem* item : bar->GetMenu(0)->GetMenuItems()) {
         file.push_back(item->GetItemLabel().utf8_string());
@@ -164,7 +165,7 @@ TEST_F(LvForm_, TheMenuBarIsTheTable) {
 }
 
 TEST_F(LvForm_, EachMenuOpensByItsAccessKey) {
-    const char* const keys = "FOGMVPDSH";
+    const char* const keys = "FOGMVPDSHT";
     for (const char* key = keys; *key != '\0'; ++key) {
         PassMenu(*key, std::string("menu_") + *key);
     }
@@ -194,6 +195,33 @@ TEST_F(LvForm_, AboutShowsItsCounters) {
         ClickOn(Find("ButtonBar_Cmd"));
     });
     Menu_Click(launcher, MenuItem::HelpAbout_Bar);
+}
+
+TEST_F(LvForm_, TheOutputOfTheLastGameCanBeReadAndCopied) {
+    system.Programs.Output = "one\r\n" + Text(3000, 'x') + "\r\nlast\r\n";
+    WhenModal([] {
+        Screenshot("last_output");
+        EXPECT_TRUE(FindAs<wxTextCtrl>("Question_Txt")->GetValue().EndsWith("last"));
+        ClickOn(Find("Button_Cmd(1)"));
+    });
+    Menu_Click(launcher, MenuItem::GameOutput_Bar);
+    EXPECT_EQ(system.Clip.Held, system.Programs.Output);
+}
+
+TEST_F(LvForm_, AGameThatCrashesBringsTheWindowBackAndIsToldOf) {
+    PressKey(WXK_F2);
+    EXPECT_TRUE(SettleUntil([this] { return !form->IsShownOnScreen() || form->IsIconized(); }));
+    system.Programs.Watching = true;
+    system.Programs.End = GameEnd{.Signal = 11, .Seconds = 60, .LastLines = "the last words\r\n"};
+    ASSERT_TRUE(GameEndIsDue(launcher));
+    WhenModal([this] {
+        Screenshot("game_end");
+        EXPECT_TRUE(form->IsShownOnScreen());
+        EXPECT_TRUE(FindAs<wxTextCtrl>("Question_Txt")->GetValue().Contains("the last words"));
+        ClickOn(Find("Button_Cmd(0)"));
+    });
+    TellGameEnd(launcher);
+    EXPECT_EQ(system.Clip.Held, "");
 }
 
 TEST_F(LvForm_, RenamingTheLaunchButtonShowsAtOnce) {

@@ -96,6 +96,7 @@ constexpr QuietCase kQuietCases[] = {
     {"&Leave It Alone,&Write There", 0},
     {"&Leave It,&Read It", 0},
     {"&Don't Start,&Start It", 0},
+    {"&Close,C&opy", 0},
     {"&A,&B,&C", -1},
 };
 

@@ -16,6 +16,7 @@ struct PlainUser {
     ScopedVariable Config{"XDG_CONFIG_HOME", nullptr};
     ScopedVariable Data{"XDG_DATA_HOME", nullptr};
     ScopedVariable Cache{"XDG_CACHE_HOME", nullptr};
+    ScopedVariable State{"XDG_STATE_HOME", nullptr};
     ScopedVariable Wine{"WINEPREFIX", nullptr};
 };
 
@@ -27,6 +28,7 @@ TEST(UserDirectories, LieInTheHomeByDefault) {
     EXPECT_EQ(ConfigDirectory(), fs::path("/home/me/.config/lorvane3d"));
     EXPECT_EQ(DataDirectory(), fs::path("/home/me/.local/share/lorvane3d"));
     EXPECT_EQ(CacheDirectory(), fs::path("/home/me/.cache/lorvane3d"));
+    EXPECT_EQ(StateDirectory(), fs::path("/home/me/.local/state/lorvane3d"));
     EXPECT_EQ(WinePrefix(), fs::path("/home/me/.wine"));
 }
 
@@ -35,10 +37,12 @@ TEST(UserDirectories, LieWhereTheEnvironmentSays) {
     const ScopedVariable config("XDG_CONFIG_HOME", "/c");
     const ScopedVariable data("XDG_DATA_HOME", "/d");
     const ScopedVariable cache("XDG_CACHE_HOME", "/e");
+    const ScopedVariable state("XDG_STATE_HOME", "/s");
     const ScopedVariable wine("WINEPREFIX", "/w");
     EXPECT_EQ(ConfigDirectory(), fs::path("/c/lorvane3d"));
     EXPECT_EQ(DataDirectory(), fs::path("/d/lorvane3d"));
     EXPECT_EQ(CacheDirectory(), fs::path("/e/lorvane3d"));
+    EXPECT_EQ(StateDirectory(), fs::path("/s/lorvane3d"));
     EXPECT_EQ(WinePrefix(), fs::path("/w"));
 }
 

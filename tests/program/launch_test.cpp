@@ -110,6 +110,26 @@ TEST(Launch, HidesTheWindowWithATray) {
     EXPECT_TRUE(program.IsRunning());
 }
 
+TEST(Launch, OfAGameThatFailsAtOnceBringsTheWindowBackWithItsLastLines) {
+    ProgramHome home("launch_fails");
+    home.Prepare();
+    std::ofstream(home.Quake / "QUAKE.EXE", std::ios::binary | std::ios::trunc)
+        << "#!/bin/sh\necho \"Error: no gfx.wad\"\nsleep 1\nexit 1\n";
+    ProgramRun program(home);
+    const std::string window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    PressKey("F2");
+    ASSERT_TRUE(WaitUntil([&] { return StateOf(window) == "Iconic"; }));
+    const std::string box = program.WaitForDialog("^The Game Has Ended$");
+    KeepScreenshot("game_end");
+    EXPECT_EQ(StateOf(window), "Normal");
+    EXPECT_THAT(program.TextOfBox(box), HasSubstr("Error: no gfx.wad"));
+    PressKey("Escape");
+    EXPECT_TRUE(WaitUntil([&] { return ShownWindowsOf(program.Id(), "^The Game Has Ended$").empty(); }));
+    EXPECT_EQ(ReadBytes(home.Root / "state/lorvane3d/last_game_output.txt"), "Error: no gfx.wad\n");
+    EXPECT_THAT(ZombiesOf(program.Id()), IsEmpty());
+}
+
 TEST(Launch, LeavesTheGameRunningWhenTheProgramEnds) {
     ProgramHome home("launch_outlives_f12");
     PrepareLaunch(home, "-wait 4000");

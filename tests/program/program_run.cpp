@@ -33,6 +33,7 @@ void EnterHome(const ProgramHome& home) {
     setenv("XDG_CONFIG_HOME", home.Config.c_str(), 1);
     setenv("XDG_DATA_HOME", (home.Root / "data").c_str(), 1);
     setenv("XDG_CACHE_HOME", (home.Root / "cache").c_str(), 1);
+    setenv("XDG_STATE_HOME", (home.Root / "state").c_str(), 1);
     setenv("WINEPREFIX", (home.Root / "wine").c_str(), 1);
     setenv("GDK_BACKEND", "x11", 1);
     setenv("NO_AT_BRIDGE", "1", 1);

@@ -56,6 +56,8 @@ GameYard::GameYard(const std::string& name)
     Places.Cache = Root / "cache";
     Places.WinePrefix = Root / "wine";
     Places.PauseHelper = std::filesystem::path(TestBinaryDir()) / "lorvane3d-pause";
+    Places.State = Root / "state";
+    Places.WatchHelper = std::filesystem::path(TestBinaryDir()) / "lorvane3d-watch";
 }
 
 std::filesystem::path GameYard::AddGame(const std::string& standIn, const std::string& file) {

@@ -17,10 +17,12 @@ namespace lv {
 
 /// The host's side of a start. Left empty, each is what this user's environment says.
 struct HostPlaces {
-    std::string SearchPath;             // "/usr/bin:/bin"
-    std::filesystem::path Cache;        // where files for the started programs are written
-    std::filesystem::path WinePrefix;   // the Windows that Wine keeps
-    std::filesystem::path PauseHelper;  // the program that shows the environment
+    std::string SearchPath;                  // "/usr/bin:/bin"
+    std::filesystem::path Cache;             // where files for the started programs are written
+    std::filesystem::path WinePrefix;        // the Windows that Wine keeps
+    std::filesystem::path PauseHelper;       // the program that shows the environment
+    std::filesystem::path State = {};        // where the last game's output is kept
+    std::filesystem::path WatchHelper = {};  // the program that keeps it
 };
 
 struct GameStart {

@@ -89,6 +89,8 @@ const std::vector<Written>& Table() {
         {WhatsThis_Bar, "WhatsThis_Bar", -1, "&What's This?", "", Help_Bar, true},
         {WebSite_Bar, "WebSite_Bar", -1, "Lorvane 3D &Web Site", "", Help_Bar, true},
         {HelpAbout_Bar, "HelpAbout_Bar", -1, "&About Lorvane 3D", "", Help_Bar, true},
+        {Tools_Bar, "Tools_Bar", -1, "&Tools", "", None, true},
+        {GameOutput_Bar, "GameOutput_Bar", -1, "&Output of the Last Game...", "", Tools_Bar, true},
     };
     return rows;
 }
