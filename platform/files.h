@@ -107,6 +107,11 @@ class Files {
     /// links of other makers that get there by a road of their own, and second names.
     virtual std::string LeadsInto(std::string_view path, std::string_view tree) = 0;
 
+    /// From now on the program `real` is asked for, opened and started as `path` too, unless a file lies there: a
+    /// program that lies elsewhere, as a game's directory knows it. What lists, writes, links or deletes does not know
+    /// it. An empty `real` ends that. False if this system cannot start a program in that way.
+    virtual bool StandIn(std::string_view, std::string_view) { return false; }
+
     virtual Error Delete(std::string_view path) = 0;
     virtual Error MakeDirectory(std::string_view path) = 0;
     virtual Error RemoveDirectory(std::string_view path) = 0;

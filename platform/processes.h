@@ -67,6 +67,9 @@ class Processes {
     /// Nothing if none is kept; it is kept for the next run of the program too.
     virtual std::optional<std::string> LastOutput() { return std::nullopt; }
 
+    /// Whether what is started runs with the rights of the system's administrator, as some games refuse to.
+    virtual bool RunsAsRoot() { return false; }
+
     /// Shows a manual of the kind that Windows has a viewer of its own for, LV3D.hlp. Error 53 without that viewer.
     virtual Error StartHelpViewer(std::string_view) { return MakeError(error::kFileNotFound); }
 };

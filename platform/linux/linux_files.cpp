@@ -63,8 +63,21 @@ Error LinuxFiles::ProbeDrive(std::string_view drive) {
     return ready ? Error() : MakeError(error::kDiskNotReady);
 }
 
+std::optional<HostPlace> LinuxFiles::FindFile(std::string_view path) const {
+    auto place = Find(path);
+    const std::string* const real = standIns_.Of(path);
+    struct stat info {};
+    const bool isThere = place && lstat(place->Host.c_str(), &info) == 0;
+    return real == nullptr || isThere ? place : Find(*real);
+}
+
+bool LinuxFiles::StandIn(std::string_view path, std::string_view real) {
+    standIns_.Set(path, real);
+    return true;
+}
+
 bool LinuxFiles::FileExists(std::string_view path) {
-    const auto place = Find(path);
+    const auto place = FindFile(path);
     struct stat info {};
     return place && !EndsInSeparator(path) && stat(place->Host.c_str(), &info) == 0 && S_ISREG(info.st_mode);
 }
@@ -105,7 +118,7 @@ Result<std::string> LinuxFiles::Read(std::string_view path) {
 }
 
 Result<std::unique_ptr<RandomAccessFile>> LinuxFiles::Open(std::string_view path) {
-    const auto place = Find(path);
+    const auto place = FindFile(path);
     if (!place) {
         return MakeError(error::kPathNotFound);
     }
@@ -240,7 +253,7 @@ std::string LinuxFiles::ProgramDirectory() {
 }
 
 std::string LinuxFiles::ToHost(std::string_view path) {
-    const auto place = Find(path);
+    const auto place = FindFile(path);
     return place ? LinkedHostPath(*place) : std::string();
 }
 

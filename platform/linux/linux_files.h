@@ -13,6 +13,7 @@
 #include "platform/linux/host_places.h"
 #include "platform/linux/host_write.h"
 #include "platform/linux/walkable.h"
+#include "platform/stand_ins.h"
 
 namespace lv {
 
@@ -44,6 +45,7 @@ class LinuxFiles : public Files {
     Error Link(std::string_view target, std::string_view path) override;
     bool IsLinkTo(std::string_view path, std::string_view target) override;
     std::string LeadsInto(std::string_view path, std::string_view tree) override;
+    bool StandIn(std::string_view path, std::string_view real) override;
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;
     Error RemoveDirectory(std::string_view path) override;
@@ -65,6 +67,8 @@ class LinuxFiles : public Files {
 
   private:
     [[nodiscard]] std::optional<HostPlace> Find(std::string_view path) const;
+    /// Of a file that is asked for or opened: that of the program that stands in for it, if there is one.
+    [[nodiscard]] std::optional<HostPlace> FindFile(std::string_view path) const;
     Error PutFile(std::string_view path, Whose whose, std::string_view bytes) const;
     Error CopyFile(std::string_view from, std::string_view to, Whose whose) const;
 
@@ -72,6 +76,7 @@ class LinuxFiles : public Files {
     Error drivesFault_;
     DrivePath current_;
     WalkableDevices walkable_;
+    StandIns standIns_;
 };
 
 }  // namespace lv

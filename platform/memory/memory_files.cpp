@@ -129,8 +129,18 @@ Error MemoryFiles::ProbeDrive(std::string_view drive) {
     return nodes_.contains(LowerCase(name)) ? Error() : MakeError(error::kDeviceUnavailable);
 }
 
+std::string_view MemoryFiles::Real(std::string_view path) {
+    const std::string* const real = standIns_.Of(path);
+    return real == nullptr || Find(path) != nullptr ? path : *real;
+}
+
+bool MemoryFiles::StandIn(std::string_view path, std::string_view real) {
+    standIns_.Set(path, real);
+    return KnowsStandIns;
+}
+
 bool MemoryFiles::FileExists(std::string_view path) {
-    const Node* node = Find(path);
+    const Node* node = Find(Real(path));
     return node != nullptr && !node->IsDirectory && !node->IsDevice;
 }
 
@@ -190,7 +200,7 @@ Result<std::string> MemoryFiles::Read(std::string_view path) {
 }
 
 Result<std::unique_ptr<RandomAccessFile>> MemoryFiles::Open(std::string_view path) {
-    const auto node = FindFile(path);
+    const auto node = FindFile(Real(path));
     if (!node.Ok()) {
         return node.Fault;
     }
@@ -369,7 +379,7 @@ Error MemoryFiles::ChangeDirectory(std::string_view path) {
 }
 
 std::string MemoryFiles::ToHost(std::string_view path) {
-    std::string host = "/" + Key(path);
+    std::string host = "/" + Key(Real(path));
     std::replace(host.begin(), host.end(), '\\', '/');
     return ToUtf8(host);
 }

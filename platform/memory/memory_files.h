@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/stand_ins.h"
 
 namespace lv {
 
@@ -47,6 +48,7 @@ class MemoryFiles : public Files {
     Error Link(std::string_view target, std::string_view path) override;
     bool IsLinkTo(std::string_view path, std::string_view target) override;
     std::string LeadsInto(std::string_view path, std::string_view tree) override;
+    bool StandIn(std::string_view path, std::string_view real) override;
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;
     Error RemoveDirectory(std::string_view path) override;
@@ -63,6 +65,7 @@ class MemoryFiles : public Files {
     std::string Bytes(std::string_view path);
 
     std::string Home = "C:\\HOME";
+    bool KnowsStandIns = true;
     std::set<std::string> Private;         // by lower-case path: what its owner alone may read
     std::set<std::string> DrivesNotReady;  // "D:"
     std::set<std::string> Unreadable;      // by lower-case path: listing the directory is error 75
@@ -86,9 +89,12 @@ class MemoryFiles : public Files {
     Error Put(const std::string& key, std::string_view path, std::string_view bytes);
     Result<const Node*> FindFile(std::string_view path);
     Node* Find(std::string_view path);
+    /// Of a file that is asked for or opened.
+    std::string_view Real(std::string_view path);
 
     std::map<std::string, Node> nodes_;
     std::map<std::string, std::string> links_;
+    StandIns standIns_;
     std::string current_ = "C:\\";
     std::size_t made_ = 0;
 };

@@ -369,4 +369,18 @@ TEST(LinuxFiles, TellThatThereIsNoMemoryForAStretch) {
 }
 #endif
 
+TEST(LinuxFiles, StartAProgramThatLiesElsewhereUnderItsStandInsPath) {
+    Home home;
+    fs::create_directories(home.C / "quake");
+    WriteBytes(home.Scratch / "bin/engine", "#!");
+    EXPECT_TRUE(home.Disk.StandIn("c:\\quake\\engine", OnZ(home.Scratch / "bin/engine")));
+    EXPECT_TRUE(home.Disk.FileExists("C:\\QUAKE\\ENGINE"));
+    EXPECT_EQ(home.Disk.Open("C:\\quake\\engine").Value->Read(0, 2).Value, "#!");
+    EXPECT_EQ(home.Disk.ToHost("C:\\QUAKE\\ENGINE"), (home.Scratch / "bin/engine").string());
+    EXPECT_EQ(home.Disk.Delete("C:\\quake\\engine").Number, 53);
+    EXPECT_TRUE(fs::exists(home.Scratch / "bin/engine"));
+    WriteBytes(home.C / "quake/Engine", "own");
+    EXPECT_EQ(home.Disk.Open("C:\\quake\\engine").Value->Read(0, 3).Value, "own");
+}
+
 }  // namespace lv
