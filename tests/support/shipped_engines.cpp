@@ -1,4 +1,4 @@
-#include "tests/games/engines/shipped_engines.h"
+#include "tests/support/shipped_engines.h"
 
 #include <gtest/gtest.h>
 

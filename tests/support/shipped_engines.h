@@ -1,4 +1,4 @@
-// tests/games/engines/shipped_engines.h
+// tests/support/shipped_engines.h
 //
 // The table that the program carries, for the tests of its rules.
 

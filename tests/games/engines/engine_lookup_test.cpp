@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/games/engines/shipped_engines.h"
+#include "tests/support/shipped_engines.h"
 
 namespace lv {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "foundation/field_strings.h"
 #include "tests/games/engines/fitted.h"
-#include "tests/games/engines/shipped_engines.h"
+#include "tests/support/shipped_engines.h"
 
 namespace lv {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "games/engines/start_rules.h"
 #include "platform/memory/memory_files.h"
-#include "tests/games/engines/shipped_engines.h"
+#include "tests/support/shipped_engines.h"
 
 namespace lv {
 namespace {

@@ -1,6 +1,6 @@
 #include "tests/games/engines/fitted.h"
 
-#include "tests/games/engines/shipped_engines.h"
+#include "tests/support/shipped_engines.h"
 
 namespace lv {
 

@@ -5,7 +5,7 @@
 #include <map>
 #include <vector>
 
-#include "tests/games/engines/shipped_engines.h"
+#include "tests/support/shipped_engines.h"
 
 namespace lv {
 namespace {

@@ -1,0 +1,23 @@
+#include "games/engines/playing_directory.h"
+
+#include "games/trees/linked_tree.h"
+#include "games/trees/tree_room.h"
+
+namespace lv {
+
+Result<Text> PlayingDirectory(Files& disk, const Engine& engine, TextView directory) {
+    const auto tree = TreeIn(disk, directory);
+    if (!tree) {
+        return MakeError(error::kPathNotFound, Text(directory));
+    }
+    const bool isReady = disk.CanWrite(directory) && tree->IsSpelledForToday;
+    const bool needsAutoexec = engine.SharewareNeedsAutoexec && !tree->IsFull;
+    if (tree->GameKind == Game::Unreal || IsLinkedTree(directory) || (isReady && !needsAutoexec)) {
+        return Text(directory);
+    }
+    Text links = LinkedTreeDirectory(directory);
+    const LinkedTree made = LinkTree(disk, *tree, links);
+    return made.Fault ? Result<Text>(made.Fault) : Result<Text>(std::move(links));
+}
+
+}  // namespace lv
