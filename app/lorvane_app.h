@@ -13,6 +13,7 @@
 #include <memory>
 #include <utility>
 
+#include "assets/embedded_texts.h"
 #include "catalogs/forms/entry_forms.h"
 #include "foundation/forms/help_bubble.h"
 #include "foundation/forms/wx_text.h"
@@ -48,6 +49,7 @@ struct Program {
         User.AddForms(MakeAddVidProfileForm);
         User.AddForms(MakeGameSpyForm);
         User.AddForms(MakeFoundryForms(User));
+        TheLauncher.ShippedEngines = EmbeddedEngines();
         ConnectWizard(TheLauncher);
         ConnectFoundry(TheLauncher);
         ConnectEditor(Foundry);

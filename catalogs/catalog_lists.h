@@ -6,6 +6,7 @@
 
 #include "foundation/controls.h"
 #include "foundation/run.h"
+#include "games/engines/engine_table.h"
 
 namespace lv {
 
@@ -27,6 +28,8 @@ struct CatalogLists {
     Text HiddenServers;
 
     Text MapList;  // ";"-list of the names found by the last map scan
+
+    const EngineTable* Engines = nullptr;  // null: only the games' own programs are known
 
     // The directories of which the user was told last that they hold more than a list shows.
     Text ModificationsToldOf = {};

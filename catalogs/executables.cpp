@@ -38,8 +38,21 @@ std::optional<CatalogRows> ReadExecutables(Run& run) {
     return rows;
 }
 
-ImageComboItem MakeRow(const GameRecord& game) {
-    const Text image = ImageKeyOf(LowerCase(LastPathPart(OnDisk(game.Path))));
+// An engine of today has the picture of the first game that it plays.
+Text PictureOf(const CatalogLists& lists, const Text& fileName) {
+    const Engine* const engine = lists.Engines != nullptr ? EngineOf(*lists.Engines, fileName) : nullptr;
+    if (engine != nullptr) {
+        for (const Program& program : AllPrograms()) {
+            if (Plays(*engine, program.GameKind)) {
+                return Text(program.Picture);
+            }
+        }
+    }
+    return ImageKeyOf(LowerCase(fileName));
+}
+
+ImageComboItem MakeRow(const CatalogLists& lists, const GameRecord& game) {
+    const Text image = PictureOf(lists, LastPathPart(OnDisk(game.Path)));
     return {game.Title, game.Path, image, image};
 }
 
@@ -62,7 +75,7 @@ Reading ReadOnce(Run& run, CatalogLists& lists) {
             return run.Ended ? Reading::Ended : Reading::Again;
         }
         if (keys.insert(game.Path).second) {
-            list.Items.push_back(MakeRow(game));
+            list.Items.push_back(MakeRow(lists, game));
             continue;
         }
         AskUser(run, "Duplicate Game", Join(AboutGame(game), "was listed twice. The second entry will be ignored."));

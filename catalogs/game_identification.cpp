@@ -48,6 +48,14 @@ void DropModification(Run& run, CatalogLists& lists, Game before) {
     }
 }
 
+// Which worlds an engine of today plays in.
+void TakeEngine(Run& run, const Engine& engine) {
+    run.IsQuakeWorld = run.GameKind == Game::Quake && (engine.Games & engine_game::kQuake) == 0;
+    run.IsHexenWorld = run.GameKind == Game::Hexen2 && (engine.Games & engine_game::kHexen2) == 0;
+    run.IsMissionPack = false;
+    run.UsesAccelerator = true;
+}
+
 bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const RegistryToScript& toScript) {
     run.DefaultGameDirectory = DirectoryOf(path);
     const GameFacts& facts = FactsOfDirectory(run.System.Disk, run.DefaultGameDirectory);
@@ -64,6 +72,10 @@ bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const Registry
     run.IsHexenWorld = flags.IsHexenWorld;
     run.IsMissionPack = flags.IsMissionPack;
     run.UsesAccelerator = flags.UsesAccelerator;
+    const Engine* const engine = lists.Engines != nullptr ? EngineOf(*lists.Engines, LastPathPart(path)) : nullptr;
+    if (engine != nullptr) {
+        TakeEngine(run, *engine);
+    }
     if (facts.GameKind == Game::HalfLife && toScript) {
         toScript(Join(run.DefaultGameDirectory, "\\valve\\lv3dhlrg.cfg"));
     }

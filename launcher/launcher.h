@@ -8,6 +8,7 @@
 
 #include "catalogs/catalog_lists.h"
 #include "foundation/run.h"
+#include "games/engines/engine_table.h"
 #include "launcher/menu/known_games.h"
 #include "launcher/start/splash.h"
 #include "launcher/window/lv_frm.h"
@@ -29,6 +30,8 @@ struct Launcher {
 
     Run& run;
     Splash_Frm Splash;
+    EngineTable Engines;      // of today
+    TextView ShippedEngines;  // the table that the program carries
     LV_Frm Window;
     VideoProfile_Frm VideoProfile{run};
     bool VideoProfileReopen = false;  // it comes back with the main window
@@ -46,7 +49,8 @@ struct Launcher {
                        {},
                        {},
                        {},
-                       {}};
+                       {},
+                       &Engines};
 
     /// Shows the setup wizard; true if the user went through with it. Empty: the program has none.
     std::function<bool()> ShowInstallWizard;

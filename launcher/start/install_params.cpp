@@ -22,7 +22,8 @@ InstallParams_Frm::InstallParams_Frm() {
     Hardware_Fra.Caption = "3D Hardware Support";
     Label6.Caption =
         "One of the best Lorvane 3D features is support for 3D Hardware (hence the '3D' in the name). Select your 3D "
-        "chipset if it is in the list. If you do not have a 3D card, select none.";
+        "chipset if it is in the list. If you do not have a 3D card, select none. With a graphics card of today select "
+        "Other!";
     for (const ChipsetRow& row : kChipsets) {
         VidCard_Cbo.Items.emplace_back(row.Title);
     }

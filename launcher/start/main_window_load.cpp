@@ -27,6 +27,7 @@ void LoadOptionBoxes(Launcher& launcher) {
     ApplyGameSpyRule(window);
     window.CommandLineAdditions_Txt.Text = GetSetting(run, run.AppName, kOptions, "CustomCommandLineText");
     ApplyGamePanels(window, {run.GameKind, run.ScriptFamily, run.IsQuakeWorld, run.IsHexenWorld});
+    ApplyEngine(window, SelectedEngine(launcher));
     if (run.GameKind != Game::None) {
         ApplyModification(launcher);
         ScanForMaps(run, launcher.Lists);

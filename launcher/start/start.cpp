@@ -5,6 +5,7 @@
 #include "foundation/settings.h"
 #include "launcher/menu/video_profile_menu.h"
 #include "launcher/menu/window_menu.h"
+#include "launcher/start/engine_load.h"
 #include "launcher/start/install_params.h"
 #include "launcher/start/main_window_load.h"
 #include "launcher/start/start_directories.h"
@@ -54,6 +55,7 @@ bool Prepare(Launcher& launcher) {
         return false;
     }
     OfferRemovalOfOlderInstall(run);
+    LoadEngines(launcher);
     if (run.AppDirectory.ends_with('\\')) {
         run.AppDirectory = DropRight(run.AppDirectory, 1);
     }

@@ -18,6 +18,7 @@
 #include "launch/launch_files.h"
 #include "launch/missing_executable.h"
 #include "launch/name_check.h"
+#include "launcher/window/engine_launch.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/unreal_options.h"
 #include "launcher/window/window_life.h"
@@ -44,6 +45,7 @@ struct Click {
     Text Script;  // what goes into lv_666.qs
     Text Batch;   // what goes into lv_666.bat
     Text FailureFile;
+    EngineLaunch Engine;
 };
 
 void Tell(Run& run, TextView text) {
@@ -133,6 +135,13 @@ bool WriteScript(Click& click) {
     const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
     AddCommandLineAdditions(click.Selection, click.Texts);
     click.Script = ScriptText(click.Texts, click.Game);
+    if (const Error failed = FitToEngine(click.run, click.launcher.Engines, click.Selection, click.Game, click.Texts,
+                                         click.Script, click.Engine)) {
+        ReportError(click, failed);
+    }
+    if (click.Engine.Stopped) {
+        return false;
+    }
     if (click.Script.empty() || click.Game.GameKind == Game::Unreal || !hasDirectory) {
         DeleteScript(click);
         return true;
@@ -145,15 +154,17 @@ bool WriteScript(Click& click) {
         ReportError(click, FaultAt(disk, path, failed));
         return false;
     }
-    AddScriptExec(click.Texts);
+    if (click.Engine.Its == nullptr) {
+        AddScriptExec(click.Texts);
+    }
     return true;
 }
 
 bool WriteBatch(Click& click) {
     click.Texts.LaunchStep = LaunchStep::LaunchBatch;
-    click.Batch =
-        BatchText(EnvironmentLines(click.Game, click.Profile), click.Selection.Ticked.Has(Option::ShowSet_Chk),
-                  ExeDriveOf(click.Selection), click.Game.DefaultGameDirectory, click.Texts, click.Game);
+    click.Batch = BatchText(Join(EnvironmentLines(click.Game, click.Profile), FitEnvironment(click.Engine.Fitted)),
+                            click.Selection.Ticked.Has(Option::ShowSet_Chk), ExeDriveOf(click.Selection),
+                            click.Game.DefaultGameDirectory, click.Texts, click.Game);
     if (click.Game.DefaultGameDirectory.empty()) {
         return true;
     }
@@ -173,7 +184,8 @@ bool WriteBatch(Click& click) {
 Text ViewText(const Click& click) {
     return Join("AppDir = ", click.run.AppDirectory, NewLine, NewLine, "Batch File = ", NewLine, click.Batch, NewLine,
                 NewLine, "Script File = ", NewLine,
-                click.Game.GameKind == Game::Unreal ? click.launcher.Window.ChangedIniLines : click.Script);
+                click.Game.GameKind == Game::Unreal ? click.launcher.Window.ChangedIniLines : click.Script,
+                AboutEngine(click.Engine));
 }
 
 /// Shows the files where that was asked for. True if the game is to be started.
@@ -353,6 +365,7 @@ void DoIt_Cmd_Click(Launcher& launcher, int index) {
                 ReadProfile(run),
                 SelectionOf(launcher.Window),
                 GameOf(run),
+                {},
                 {},
                 {},
                 {},

@@ -2,8 +2,10 @@
 
 #include "catalogs/game_identification.h"
 #include "catalogs/map_scan.h"
+#include "catalogs/missing_game.h"
 #include "catalogs/modifications.h"
 #include "catalogs/scripts.h"
+#include "foundation/field_strings.h"
 #include "foundation/game.h"
 #include "foundation/link_question.h"
 #include "foundation/padded_item.h"
@@ -140,6 +142,14 @@ void ApplyModification(Launcher& launcher) {
     FillScriptsCombo(run, launcher.Lists);
 }
 
+const Engine* SelectedEngine(const Launcher& launcher) {
+    const ImageCombo& list = launcher.Window.Exe_Cbo;
+    return list.HasSelection()
+               ? EngineOf(launcher.Engines,
+                          LastPathPart(OnDisk(list.Items[static_cast<std::size_t>(list.ListIndex)].Key)))
+               : nullptr;
+}
+
 void Exe_Cbo_Click(Launcher& launcher) {
     Run& run = launcher.run;
     LV_Frm& window = launcher.Window;
@@ -147,6 +157,7 @@ void Exe_Cbo_Click(Launcher& launcher) {
         return;
     }
     ApplyGamePanels(window, {run.GameKind, run.ScriptFamily, run.IsQuakeWorld, run.IsHexenWorld});
+    ApplyEngine(window, SelectedEngine(launcher));
     ApplyMissionPackRule(run, launcher.Lists);
     ShowGameControls(launcher.VideoProfile);
     Videop(launcher.VideoProfile);  // into a closed window too: a launch finds every key

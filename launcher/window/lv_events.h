@@ -29,4 +29,7 @@ void CommandLineAdditions_Txt_Change(Launcher& launcher);
 /// the scripts follow.
 void ApplyModification(Launcher& launcher);
 
+/// The engine of today that is picked; null for any other program, and for none.
+const Engine* SelectedEngine(const Launcher& launcher);
+
 }  // namespace lv

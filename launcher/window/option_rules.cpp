@@ -138,6 +138,26 @@ void ApplyGamePanels(LV_Frm& window, const PanelGame& game) {
     ApplyFamily(window, game);
 }
 
+void ApplyEngine(LV_Frm& window, const Engine* engine) {
+    CheckBox& box = window.Box(Memory_Chk);
+    box.ToolTip = OptionBoxOf(Memory_Chk).ToolTip;
+    window.Memory_Pan.ToolTip.clear();
+    if (engine == nullptr) {
+        return;
+    }
+    const auto row = std::ranges::find_if(engine->Refused, [](const RefusedSwitch& refused) {
+        return refused.Switch == "-winmem" || refused.Switch == "-*";
+    });
+    if (row == engine->Refused.end()) {
+        return;
+    }
+    box.ToolTip = Join(engine->Name, " ", row->Reason);
+    window.Memory_Pan.ToolTip = box.ToolTip;
+    window.Memory_Pan.Enabled = false;
+    window.Bar(MenuItem::Mem_Bar).Enabled = false;
+    Grey(box);
+}
+
 void ApplyGameSpyRule(LV_Frm& window) {
     window.DoIt_Cmd[1].Enabled = window.DoIt_Cmd[2].Enabled = window.Box(LaunchQspy_Chk).Value != 1;
 }

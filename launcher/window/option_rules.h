@@ -5,6 +5,7 @@
 #pragma once
 
 #include "foundation/game.h"
+#include "games/engines/engine_table.h"
 #include "launcher/window/lv_frm.h"
 
 namespace lv {
@@ -23,6 +24,10 @@ struct PanelGame {
 /// Lays the window out for the game: what is enabled, shown, cleared and greyed. Writes no keys, so what the user has
 /// ticked for other games is there again at the next start. Applying it twice changes nothing more.
 void ApplyGamePanels(LV_Frm& window, const PanelGame& game);
+
+/// Greys the memory for an engine of today that sees to its own, and says so. Null for any other program. For after
+/// ApplyGamePanels.
+void ApplyEngine(LV_Frm& window, const Engine* engine);
 
 /// The files of a GameSpy launch are not the user's to view: the buttons for them follow LaunchQspy_Chk.
 void ApplyGameSpyRule(LV_Frm& window);

@@ -28,7 +28,8 @@ TEST_F(InstallParams, OffersTheFourChipsets) {
     EXPECT_EQ(form.OK_Cmd[1].Caption, "&Cancel");
     EXPECT_EQ(form.Label6.Caption,
               "One of the best Lorvane 3D features is support for 3D Hardware (hence the '3D' in the name). Select "
-              "your 3D chipset if it is in the list. If you do not have a 3D card, select none.");
+              "your 3D chipset if it is in the list. If you do not have a 3D card, select none. With a graphics "
+              "card of today select Other!");
 }
 
 TEST_F(InstallParams, PreselectsVoodoo) {

@@ -1,0 +1,69 @@
+#include "launcher/window/engine_launch.h"
+
+#include "foundation/field_strings.h"
+#include "foundation/path_fault.h"
+#include "foundation/question_box.h"
+#include "games/engines/start_rules.h"
+#include "games/trees/tree_room.h"
+
+namespace lv {
+
+namespace {
+
+bool MayWriteAutoexec(Run& run, const Engine& engine, TextView directory, TextView path) {
+    return IsLinkedTree(directory) ||
+           AskUser(run, "Shareware Data",
+                   Join("With the data of the shareware version ", engine.Name, " runs scripts only from its file",
+                        NewLine, NewLine, TabChar, path, NewLine, NewLine,
+                        "May Lorvane 3D add the lines of this launch to it? They stand between two marks, and the next",
+                        NewLine, "launch takes them out again. Without them the game starts without the script."),
+                   "&Yes,&No") == 0;
+}
+
+Error WriteAutoexec(Run& run, const EngineLaunch& launch, TextView directory) {
+    Files& disk = run.System.Disk;
+    const Text path = Join(directory, "\\", run.BaseGameDir, "\\autoexec.cfg");
+    const Result<Text> read = disk.Read(path);
+    if (!read.Ok() && read.Fault.Number != error::kFileNotFound) {
+        return launch.Fitted.AutoexecTail.empty() ? Error() : FaultAt(disk, path, read.Fault);
+    }
+    const Text before = read.Ok() ? read.Value : Text();
+    const Text text = AutoexecWith(before, launch.Fitted.AutoexecTail);
+    if (text == before ||
+        (!launch.Fitted.AutoexecTail.empty() && !MayWriteAutoexec(run, *launch.Its, directory, path))) {
+        return {};
+    }
+    const Error failed = disk.Replace(path, text);
+    return failed ? FaultAt(disk, path, failed) : failed;
+}
+
+}  // namespace
+
+Error FitToEngine(Run& run, const EngineTable& engines, const LaunchSelection& selection, const LaunchGame& game,
+                  LaunchTexts& texts, Text& script, EngineLaunch& launch) {
+    launch.Its = EngineOfLaunch(engines, selection, game);
+    const Text& directory = game.DefaultGameDirectory;
+    if (launch.Its == nullptr || directory.empty()) {
+        return {};
+    }
+    const EngineStart start{run.System.Programs.RunsAsRoot(), directory, run.System.Disk.DirectoryExists(directory)};
+    if (const auto why = WhyNoUseToStart(*launch.Its, start)) {
+        launch.Stopped = true;
+        AskUser(run, "", *why);
+        return {};
+    }
+    launch.Fitted = FitLaunch(*launch.Its, run.System.Disk, selection, game, texts, !script.empty());
+    texts.GameCommand = launch.Fitted.Command;
+    texts.GameGiven = launch.Fitted.Given;
+    script = Join(launch.Fitted.ScriptHead, script, launch.Fitted.ScriptTail);
+    const Error failed = WriteAutoexec(run, launch, directory);
+    launch.Stopped = static_cast<bool>(failed);
+    return failed;
+}
+
+Text AboutEngine(const EngineLaunch& launch) {
+    const Text report = launch.Its != nullptr ? FitReport(*launch.Its, launch.Fitted) : Text();
+    return report.empty() ? report : Join(NewLine, NewLine, report);
+}
+
+}  // namespace lv
