@@ -51,6 +51,19 @@ Install_Frm::Install_Frm(Run& owner, const std::vector<KnownGame>& known) : Moda
     }
 }
 
+void ShowFoundGames(Install_Frm& form, const EngineTable& engines) {
+    form.Engines = engines;
+    form.Found = LookAround(form.run, form.Engines);
+    for (std::size_t i = 0; i < kWizardRows; ++i) {
+        const GameTree* const tree = form.Game_Chk[i].Enabled ? TreeOfRow(form.Found, i) : nullptr;
+        if (tree != nullptr) {
+            form.Game_Chk[i].Value = 1;
+            form.GamePath_Txt[i].Text = ProgramDirectoryOf(*tree);
+        }
+    }
+    form.Status_Lbl.Caption = FoundText(form.Found);
+}
+
 void Install_Browse_Cmd_Click(Install_Frm& form, int index) {
     const auto row = static_cast<std::size_t>(index);
     TextBox& box = form.GamePath_Txt[row];

@@ -10,12 +10,16 @@
 #include "foundation/modal_window.h"
 #include "games/places.h"
 #include "launcher/menu/known_games.h"
+#include "wizard/found_games.h"
 
 namespace lv {
 
 struct Install_Frm : ModalWindow {
     /// The games that are known already are greyed and not looked for.
     explicit Install_Frm(Run& owner, const std::vector<KnownGame>& known = {});
+
+    EngineTable Engines;  // of today; a copy, for the window is modal
+    FoundGames Found;     // by the quick look before it came up
 
     std::array<Panel, kWizardRows> GameSetup_Fra;
     std::array<Picture, kWizardRows> GameIcon_Pic;
@@ -35,6 +39,9 @@ struct Install_Frm : ModalWindow {
     bool CancelSearch = false;
     bool DialogResult = false;
 };
+
+/// Looks around, ticks and fills the rows whose games were found, but for those known already, and says what it found.
+void ShowFoundGames(Install_Frm& form, const EngineTable& engines);
 
 /// What a row shows.
 struct InstallRow {

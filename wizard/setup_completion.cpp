@@ -1,10 +1,13 @@
 #include "wizard/setup_completion.h"
 
+#include <algorithm>
+
 #include "catalogs/catalog_store.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/typed_path.h"
 #include "games/programs.h"
+#include "wizard/engine_entries.h"
 
 namespace lv {
 
@@ -15,7 +18,16 @@ bool IsNew(Run& run, const Text& list, const Text& program) {
     return FitsAField(program) && run.System.Disk.FileExists(program) && !Holds(LowerCase(list), program);
 }
 
-void AddPrograms(Run& run, std::size_t row, const Text& path, Text& list) {
+bool HasProgram(Run& run, std::size_t row, const Text& path) {
+    return std::ranges::any_of(AllPrograms(), [&](const Program& program) {
+        return program.WizardRow == row && run.System.Disk.FileExists(Join(path, "\\", program.FileName));
+    });
+}
+
+/// Of the game in that directory: its own programs, and the engines of today that play it.
+void AddPrograms(Install_Frm& form, std::size_t row, const Text& path, Text& list) {
+    Run& run = form.run;
+    const std::size_t before = list.size();
     for (const Program& program : AllPrograms()) {
         if (program.WizardRow != row || program.EntryTitle.empty()) {
             continue;
@@ -24,6 +36,15 @@ void AddPrograms(Run& run, std::size_t row, const Text& path, Text& list) {
         if (IsNew(run, list, file)) {
             list += Join(program.EntryTitle, ";", file, ";");
         }
+    }
+    const std::vector<EngineEntry> engines = EngineEntries(run, form.Engines, form.Found, row, path);
+    for (const EngineEntry& entry : engines) {
+        if (FitsAField(entry.Path) && !Holds(LowerCase(list), Join(entry.Path, ";"))) {
+            list += Join(entry.Title, ";", entry.Path, ";");
+        }
+    }
+    if (list.size() == before && engines.empty() && TreeIn(run.System.Disk, path) && !HasProgram(run, row, path)) {
+        AdviseEngine(run, form.Engines, row, path);
     }
 }
 
@@ -56,7 +77,7 @@ void Install_OK_Cmd_Click(Install_Frm& form) {
         if (!PathIsGood(form, i, path)) {
             return;
         }
-        AddPrograms(run, i, path, list);
+        AddPrograms(form, i, path, list);
         if (directory.empty() || i == wizard_row::kQuake) {
             directory = Join(path, "\\");
         }

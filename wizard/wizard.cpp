@@ -10,6 +10,7 @@ bool ShowInstallWizard(Launcher& launcher) {
 
 bool ShowInstallScan(Launcher& launcher, const std::vector<KnownGame>& known) {
     Install_Frm form(launcher.run, known);
+    ShowFoundGames(form, launcher.Engines);
     ShowModal(form);
     return form.DialogResult;
 }

@@ -86,6 +86,16 @@ void ExeAddScan_Bar_Click(Launcher& launcher) {
     }
 }
 
+void SetUpGames_Bar_Click(Launcher& launcher) {
+    if (!launcher.ShowInstallWizard) {
+        return;
+    }
+    launcher.ShowInstallWizard();
+    if (!launcher.run.Ended && LoadExes(launcher.run, launcher.Lists)) {
+        Exe_Cbo_Click(launcher);
+    }
+}
+
 void ExeEdit_Bar_Click(Launcher& launcher) {
     if (NeedsRow(launcher, launcher.Window.Exe_Cbo, kNoExecutable)) {
         ShowAddExe(launcher, EntryMode::Edit);

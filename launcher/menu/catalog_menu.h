@@ -12,6 +12,8 @@ void ExeViewAll_Bar_Click(Launcher& launcher);
 void ExeAddManual_Bar_Click(Launcher& launcher);
 /// Hands over to the setup wizard, which is told what the catalog knows already.
 void ExeAddScan_Bar_Click(Launcher& launcher);
+/// The setup, as at the first start.
+void SetUpGames_Bar_Click(Launcher& launcher);
 void ExeEdit_Bar_Click(Launcher& launcher);
 void ExeDelete_Bar_Click(Launcher& launcher);
 

@@ -115,6 +115,7 @@ constexpr MenuRow kRows[] = {
 
     {Tools_Bar, "Tools_Bar", kNoIndex, "&Tools", "", None, nullptr},
     {GameOutput_Bar, "GameOutput_Bar", kNoIndex, "&Output of the Last Game...", "", Tools_Bar, GameOutput_Bar_Click},
+    {SetUpGames_Bar, "SetUpGames_Bar", kNoIndex, "Set Up &Games...", "", Tools_Bar, SetUpGames_Bar_Click},
 };
 // clang-format on
 
