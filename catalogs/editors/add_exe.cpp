@@ -1,11 +1,16 @@
 #include "catalogs/editors/add_exe.h"
 
+#include "catalogs/editors/path_window.h"
 #include "catalogs/missing_game.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundation/typed_path.h"
+#include "games/engines/engine_seats.h"
+#include "games/engines/playing_directory.h"
+#include "games/engines/start_rules.h"
+#include "games/games.h"
 #include "games/programs.h"
 
 namespace lv {
@@ -69,6 +74,39 @@ void EnterDirectoryOf(AddExe_Frm& form, const GameRecord& game) {
     }
 }
 
+/// An engine of today that lies in no game's directory: the user is asked which game it is to play, and the record gets
+/// its seat there. False if that came to nothing; the user knows why.
+bool SeatOutsideEngine(AddExe_Frm& form, GameRecord& game) {
+    Run& run = form.run;
+    Files& disk = run.System.Disk;
+    const Text program = OnDisk(game.Path);
+    const Engine* const engine =
+        form.Lists.Engines != nullptr ? EngineOf(*form.Lists.Engines, LastPathPart(program)) : nullptr;
+    const bool isOutside = FactsOfDirectory(disk, DirectoryOf(program)).GameKind == Game::None;
+    if (engine == nullptr || !isOutside || !disk.StandIn(program, "")) {
+        return true;
+    }
+    const Text tree =
+        ChoosePath(run, run.LastBrowsed, Join("Select the directory of the game that ", engine->Name, " is to play."));
+    if (tree == kPathCancelled) {
+        return false;
+    }
+    const Result<Text> directory = PlayingDirectory(disk, *engine, tree);
+    if (!directory.Ok()) {
+        TellFault(form, "ExePath_Txt",
+                  directory.Fault.Number == error::kPathNotFound
+                      ? Join("There is no game in this directory that ", engine->Name, " could play: ", tree)
+                      : Join("The game cannot be played where it lies: ", directory.Fault.Text));
+        return false;
+    }
+    const Text seat = Join(directory.Value, "\\", LastPathPart(program));
+    if (!disk.FileExists(seat) && !SeatEngine(run, seat, ProgramToStart(disk, *engine, program))) {
+        return false;
+    }
+    game.Path = seat;
+    return true;
+}
+
 }  // namespace
 
 AddExe_Frm::AddExe_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
@@ -92,8 +130,8 @@ void AddExe_Browse_Cmd_Click(AddExe_Frm& form) {
 void AddExe_OK_Cmd_Click(AddExe_Frm& form) {
     Run& run = form.run;
     ImageCombo& list = form.Lists.Exe_Cbo;
-    const GameRecord game = {Trim(form.ExeTitle_Txt.Text), TypedPath(run, form.ExePath_Txt.Text)};
-    if (!Validate(form, game)) {
+    GameRecord game = {Trim(form.ExeTitle_Txt.Text), TypedPath(run, form.ExePath_Txt.Text)};
+    if (!Validate(form, game) || !SeatOutsideEngine(form, game)) {
         return;
     }
     if (KeyIsTaken(form, game.Path)) {

@@ -1,7 +1,9 @@
 #include "catalogs/editors/add_exe.h"
 
+#include "catalogs/editors/path_window.h"
 #include "catalogs/executables.h"
 #include "tests/catalogs/editors/editors_fixture.h"
+#include "tests/support/shipped_engines.h"
 
 namespace lv {
 
@@ -145,6 +147,66 @@ TEST_F(AddExe, TakesAPathOfTheSystemsOwn) {
     ExpectConfirmed("Mine now references C:\\HOME\\games\\glquake.exe");
     AddExe_OK_Cmd_Click(form);
     EXPECT_EQ(lists.Exe_Cbo.Items.back().Key, "C:\\HOME\\games\\glquake.exe");
+}
+
+class AddEngineOutside : public AddExe {
+  protected:
+    AddEngineOutside() {
+        lists.Engines = &ShippedEngines();
+        system.Disk.AddFile("Z:\\usr\\games\\darkplaces");
+        system.Disk.AddFile("C:\\GAMES\\quake\\id1\\pak0.pak");
+        system.Disk.AddDirectory("C:\\EMPTY");
+    }
+    void ExpectTreeAsked(TextView answer) {
+        user.In<Path_Frm>([answer](Path_Frm& shown) {
+            EXPECT_EQ(shown.Caption, "Select the directory of the game that DarkPlaces is to play.");
+            if (answer.empty()) {
+                Path_Cancel_Cmd_Click(shown);
+                return;
+            }
+            shown.Path_Lbl.Caption = answer;
+            Path_OK_Cmd_Click(shown);
+        });
+    }
+};
+
+TEST_F(AddEngineOutside, GetsASeatInTheTreeThatTheUserShows) {
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "DP", "Z:\\usr\\games\\darkplaces");
+    ExpectTreeAsked("C:\\GAMES\\quake");
+    ExpectConfirmed("DP now references C:\\GAMES\\quake\\darkplaces");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_TRUE(form.Closed);
+    EXPECT_EQ(lists.Exe_Cbo.Items.back().Key, "C:\\GAMES\\quake\\darkplaces");
+    EXPECT_EQ(run.DefaultGameDirectory, "C:\\GAMES\\quake");
+    EXPECT_TRUE(system.Disk.FileExists("C:\\GAMES\\QUAKE\\DARKPLACES"));
+}
+
+TEST_F(AddEngineOutside, ACancelLeavesTheDialogOpen) {
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "DP", "Z:\\usr\\games\\darkplaces");
+    ExpectTreeAsked("");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_FALSE(form.Closed);
+    EXPECT_EQ(lists.Exe_Cbo.Items.size(), 1u);
+}
+
+TEST_F(AddEngineOutside, ADirectoryWithoutAGameIsToldOf) {
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "DP", "Z:\\usr\\games\\darkplaces");
+    ExpectTreeAsked("C:\\EMPTY");
+    ExpectFault(form, AddExe_OK_Cmd_Click, "ExePath_Txt",
+                "There is no game in this directory that DarkPlaces could play: C:\\EMPTY");
+    EXPECT_FALSE(form.Closed);
+}
+
+TEST_F(AddEngineOutside, AnEngineInAGamesDirectoryIsTakenAsItIs) {
+    system.Disk.AddFile("C:\\GAMES\\quake\\darkplaces");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "DP", "C:\\GAMES\\quake\\darkplaces");
+    ExpectConfirmed("DP now references C:\\GAMES\\quake\\darkplaces");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_TRUE(form.Closed);
 }
 
 }  // namespace lv
