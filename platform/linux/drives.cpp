@@ -30,8 +30,8 @@ bool EntryExists(const fs::path& path) {
 }
 
 // A directory with the two links, made under a name of its own so that it can take its place in one step.
-int MakeStagedDrives(const fs::path& staged) {
-    if (mkdir(staged.c_str(), 0700) != 0 || symlink(kOwnC, (staged / "c:").c_str()) != 0 ||
+int MakeStagedDrives(const fs::path& staged, const std::string& driveC) {
+    if (mkdir(staged.c_str(), 0700) != 0 || symlink(driveC.c_str(), (staged / "c:").c_str()) != 0 ||
         symlink("/", (staged / "z:").c_str()) != 0) {
         return errno;
     }
@@ -142,12 +142,14 @@ Error MakeFirstDrives(const DriveDirectories& directories) {
         }
     }
     const fs::path home = directories.drives.parent_path();
-    fs::create_directories(home / "drive_c", failed);
+    const fs::path ofWine = directories.winePrefix / "drive_c";
+    const bool sharesWines = !directories.winePrefix.empty() && LeadsToADirectory(ofWine);
+    fs::create_directories(sharesWines ? home : home / "drive_c", failed);
     if (failed) {
         return ErrorOf(failed.value());
     }
     const fs::path staged = home / (std::string(kStage) + std::to_string(getpid()));
-    int number = MakeStagedDrives(staged);
+    int number = MakeStagedDrives(staged, sharesWines ? ofWine.string() : kOwnC);
     if (number == 0 && rename(staged.c_str(), directories.drives.c_str()) != 0) {
         number = errno;
     }

@@ -20,9 +20,9 @@ struct DriveDirectories {
     std::filesystem::path programDirectory;  // where the program and its data lie
 };
 
-/// Makes "c:", a link to the plain directory "drive_c" beside `drives`, and "z:", a link to "/", if `drives` is not
-/// there yet or empty. An existing set of drives is the user's own and stays as it is. Takes away what a start has left
-/// that was killed in here.
+/// Makes "c:", a link to the Wine prefix's drive C: where there is one and to the plain directory "drive_c" beside
+/// `drives` otherwise, and "z:", a link to "/", if `drives` is not there yet or empty. An existing set of drives is the
+/// user's own and stays as it is. Takes away what a start has left that was killed in here.
 Error MakeFirstDrives(const DriveDirectories& directories);
 
 /// Brings back what a start needs of the first drives: "drive_c" where "c:" leads to it and it is gone, "c:" where that

@@ -30,6 +30,16 @@ TEST(MakeFirstDrives, MakesCAndZ) {
     EXPECT_EQ(std::distance(fs::directory_iterator(home.Data), fs::directory_iterator()), 2);
 }
 
+TEST(MakeFirstDrives, SharesWinesDriveC) {
+    const Home home;
+    fs::create_directories(home.Scratch / "wine/drive_c");
+    EXPECT_EQ(MakeFirstDrives(home.Directories).Number, 0);
+    EXPECT_EQ(fs::canonical(home.Data / "drives/c:"), fs::canonical(home.Scratch / "wine/drive_c"));
+    EXPECT_FALSE(fs::exists(home.Data / "drive_c"));
+    EXPECT_EQ(MendDrives(home.Directories).Number, 0);
+    EXPECT_FALSE(fs::exists(home.Data / "drive_c"));
+}
+
 TEST(MakeFirstDrives, FillsAnEmptyDirectory) {
     const Home home;
     fs::create_directories(home.Data / "drives");
