@@ -322,7 +322,8 @@ Error MemoryFiles::Delete(std::string_view path) {
         Log.push_back("delete " + std::string(path));
         return {};
     }
-    if (!FileExists(path)) {
+    const Node* const node = Find(path);
+    if (node == nullptr || node->IsDirectory || node->IsDevice) {
         return MakeError(error::kFileNotFound);
     }
     if (RefusedDeletes.contains(Key(path))) {

@@ -372,9 +372,10 @@ TEST(LinuxFiles, TellThatThereIsNoMemoryForAStretch) {
 TEST(LinuxFiles, StartAProgramThatLiesElsewhereUnderItsStandInsPath) {
     Home home;
     fs::create_directories(home.C / "quake");
+    fs::create_directories(home.Scratch / "bin");
     WriteBytes(home.Scratch / "bin/engine", "#!");
     EXPECT_TRUE(home.Disk.StandIn("c:\\quake\\engine", OnZ(home.Scratch / "bin/engine")));
-    EXPECT_TRUE(home.Disk.FileExists("C:\\QUAKE\\ENGINE"));
+    ASSERT_TRUE(home.Disk.FileExists("C:\\QUAKE\\ENGINE"));
     EXPECT_EQ(home.Disk.Open("C:\\quake\\engine").Value->Read(0, 2).Value, "#!");
     EXPECT_EQ(home.Disk.ToHost("C:\\QUAKE\\ENGINE"), (home.Scratch / "bin/engine").string());
     EXPECT_EQ(home.Disk.Delete("C:\\quake\\engine").Number, 53);
