@@ -1,4 +1,5 @@
-// A first start in a home with a game of today: four presses, nothing typed, and the engine runs.
+// A first start in a home with a game and an engine of the system's: four presses, nothing typed, and the engine has
+// run the script of the launch.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,26 +9,20 @@
 #include "tests/program/program_run.h"
 #include "tests/program/screen.h"
 #include "tests/support/game_yard.h"
-#include "tests/support/test_paths.h"
 
 namespace lv {
 
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::Contains;
 using ::testing::HasSubstr;
-using ::testing::Not;
 
-/// "~/games/quake" with the data of the whole game, as far as the setup looks at them, and "~/bin/quakespasm", which is
-/// the native stand-in.
-void MakeGameOfToday(const ProgramHome& home, const fs::path& tree) {
+/// "~/games/quake", as much of it as DarkPlaces wants to begin.
+void MakeGame(const fs::path& tree) {
     fs::create_directories(tree / "id1");
     for (const char* const archive : {"pak0.pak", "pak1.pak"}) {
         std::ofstream(tree / "id1" / archive, std::ios::binary) << std::string("PACK\x0c\0\0\0\0\0\0\0", 12);
     }
-    fs::create_directories(home.Root / "bin");
-    fs::copy_file(fs::path(TestBinaryDir()) / "standins/show_native", home.Root / "bin/quakespasm");
 }
 
 /// Counts what the user does.
@@ -59,7 +54,7 @@ void GoThroughTheSetup(ProgramRun& program, Hand& hand) {
 TEST(FirstGame, IsFourPressesAway) {
     ProgramHome home("first_game");
     const fs::path tree = home.Root / "games/quake";
-    MakeGameOfToday(home, tree);
+    MakeGame(tree);
     ProgramRun program(home);
     Hand hand;
     GoThroughTheSetup(program, hand);
@@ -68,13 +63,13 @@ TEST(FirstGame, IsFourPressesAway) {
     EXPECT_TRUE(Activate(window));
     KeepScreenshot("first_game_ready");
     hand.Press("F2");
-    const std::vector<std::string> output = WaitForOutput(tree / "output.txt");
-    EXPECT_FALSE(output.empty());
-    EXPECT_THAT(LinesAfter(output, "ARGUMENT="), Not(Contains("-heapsize")));
+    const fs::path output = home.Root / "state/lorvane3d/last_game_output.txt";
+    EXPECT_TRUE(WaitUntil([&] { return ReadBytes(output).find("execing lv_666.qs") != std::string::npos; }))
+        << ReadBytes(output);
     EXPECT_EQ(hand.Presses(), 4);
-    EXPECT_THAT(home.Get("Options", "Executables"), HasSubstr("\\games\\quake\\quakespasm"));
-    EXPECT_FALSE(fs::exists(tree / "quakespasm"));
-    EXPECT_FALSE(fs::exists(home.Root / "bin/lv_666.bat"));
+    EXPECT_THAT(home.Get("Options", "Executables"), HasSubstr("DarkPlaces;"));
+    EXPECT_FALSE(fs::exists(tree / "darkplaces"));
+    EXPECT_TRUE(fs::exists(tree / "lv_666.bat"));
 }
 
 }  // namespace lv
