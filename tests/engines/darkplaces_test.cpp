@@ -41,15 +41,16 @@ class CapturedOutput {
     int before_;
 };
 
-// The process whose standard output is this file; 0 if there is none.
-pid_t ProcessWritingTo(const std::filesystem::path& file) {
+// The server that runs in this directory; 0 if there is none. What keeps its output runs there too.
+pid_t ServerIn(const std::filesystem::path& directory) {
     std::error_code failed;
     for (const auto& entry : std::filesystem::directory_iterator("/proc", failed)) {
         const std::string name = entry.path().filename().string();
         pid_t process = 0;
         const auto [end, bad] = std::from_chars(name.data(), name.data() + name.size(), process);
         if (bad == std::errc() && end == name.data() + name.size() &&
-            std::filesystem::read_symlink(entry.path() / "fd/1", failed) == file) {
+            std::filesystem::read_symlink(entry.path() / "cwd", failed) == directory &&
+            ReadBytes(entry.path() / "comm").starts_with("darkplaces")) {
             return process;
         }
     }
@@ -72,15 +73,16 @@ std::string OutputOfScript(const std::string& name, const std::string& script) {
     EXPECT_FALSE(fault) << fault.Text;
     EXPECT_TRUE(WaitForText(log, "SpawnServer: no map file named maps/start.bsp"));
     std::string output = ReadBytes(log);
-    const pid_t server = ProcessWritingTo(log);
+    const auto directory = std::filesystem::canonical(yard.Drive / "quake");
+    const pid_t server = ServerIn(directory);
     EXPECT_GT(server, 0) << "the server has ended by itself";
     if (server > 0) {
         EXPECT_EQ(kill(server, SIGTERM), 0);
     }
-    for (int i = 0; i < 500 && ProcessWritingTo(log) != 0; ++i) {
+    for (int i = 0; i < 500 && ServerIn(directory) != 0; ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-    EXPECT_EQ(ProcessWritingTo(log), 0);
+    EXPECT_EQ(ServerIn(directory), 0);
     return output;
 }
 
