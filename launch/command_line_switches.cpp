@@ -130,15 +130,15 @@ Text Q2Mode(const Composition& c) {
 }
 
 constexpr CompositionScope Every = CompositionScope::Every;
-constexpr CompositionScope Not4 = CompositionScope::NotUnreal;
+constexpr CompositionScope NotUnreal = CompositionScope::NotUnreal;
 constexpr const char* None = nullptr;
 constexpr CompositionCell No;
 
 /// A cell for the Quake II family alone, and one for all others.
-constexpr CompositionCell In3(const char* text) {
+constexpr CompositionCell ForQuake2(const char* text) {
     return {text, nullptr};
 }
-constexpr CompositionCell Not3(const char* text) {
+constexpr CompositionCell ForOthers(const char* text) {
     return {nullptr, text};
 }
 
@@ -165,29 +165,29 @@ constexpr CompositionRow kRows[] = {
     {Step::PlayerScript,    Every, Ticked<Option::NOLAN_Chk>,              None, "-nolan ",         No, No, No, {}},
     {Step::PlayerScript,    Every, Ticked<Option::NOUDP_Chk>,              None, "-noudp ",         No, No, No, {}},
     {Step::PlayerScript,    Every, ScriptIsChosen,                     None, No, No, No, No, ScriptRule},
-    {Step::PlayerScript,    Every, Ticked<Option::NOCDAUDIO_Chk>,          None, Not3("-nocdaudio "), No, No, In3("set cd_nocd 1"), {}},
+    {Step::PlayerScript,    Every, Ticked<Option::NOCDAUDIO_Chk>,          None, ForOthers("-nocdaudio "), No, No, ForQuake2("set cd_nocd 1"), {}},
     {Step::PlayerScript,    Every, GlCard, "GL_ROUND_DOWN", {"+gl_round_down % ", "+GL_ROUND_DOWN % "}, No, No, No, {}},
     {Step::DedicatedServer, Every, Ticked<Option::Dedicated_Chk>,          None, No, No, No, No, DedicatedRule},
 
-    {Step::Mouse,           Not4, Windowed, None,                No, No, "_windowed_mouse 1",   "set _windowed_mouse 1",   {}},
-    {Step::Drawing,         Not4, GlCard,   "Shadows",           In3("+set gl_shadows % "), No, Not3("r_shadows %"), No,   {}},
-    {Step::Drawing,         Not4, GlCard,   "Mirrors",           No, No, "r_mirroralpha %",     No,                        {}},
-    {Step::Drawing,         Not4, GlCard,   "WaterAlpha",        No, No, "r_wateralpha %",      No,                        {}},
-    {Step::Drawing,         Not4, GlCard,   "gl_ztrick",         No, No, "gl_ztrick %",         "set gl_ztrick %",         {}},
-    {Step::Drawing,         Not4, GlCard,   "gl_keeptjunctions", No, No, "gl_keeptjunctions %", "set gl_keeptjunctions %", {}},
-    {Step::Drawing,         Not4, GlCard,   "gl_polyblend",      No, No, "gl_polyblend %",      "set gl_polyblend %",      {}},
-    {Step::Drawing,         Not4, GlCard,   "GL_TEXTUREMODE",    No, No, "GL_TEXTUREMODE %",    "set GL_TEXTUREMODE %",    {}},
-    {Step::Drawing,         Not4, GlCard,   "GL_FINISH",         No, No, "gl_finish %",         "set gl_finish %",         {}},
-    {Step::Drawing,         Not4, GlCard,   "GL_FLASHBLEND",     No, No, "gl_flashblend %",     "set gl_flashblend %",     {}},
-    {Step::Drawing,         Not4, GlCard,   "GL_PLAYERMIP",      No, No, "gl_playermip %",      "set gl_playermip %",      {}},
-    {Step::Drawing,         Not4, GlCard,   "GL_PICMIP",         No, No, "gl_picmip %",         "set gl_picmip %",         {}},
-    {Step::Drawing,         Not4, Software, "D_MipCap",          No, No, "d_mipcap %",          "set d_mipcap %",          {}},
-    {Step::Drawing,         Not4, Chosen<Option::Demo_Chk, &S::Demo>, None, No, No, "%", "%", DemoCommand},
-    {Step::GraphicsDriver,  Not4, UsesQ2Resolution, None, No, No, No, "set sw_mode \"%\"\r\nset gl_mode \"%\"", Q2Mode},
-    {Step::GraphicsDriver,  Not4, Ticked<Option::nosound_chk>, None, In3("+set s_initsound 0 "), No, Not3("nosound 1"), No, {}},
-    {Step::GraphicsDriver,  Not4, UsesGraphicsDriver, None, No, No, No, No, GraphicsDriverRule},
+    {Step::Mouse,           NotUnreal, Windowed, None,                No, No, "_windowed_mouse 1",   "set _windowed_mouse 1",   {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "Shadows",           ForQuake2("+set gl_shadows % "), No, ForOthers("r_shadows %"), No,   {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "Mirrors",           No, No, "r_mirroralpha %",     No,                        {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "WaterAlpha",        No, No, "r_wateralpha %",      No,                        {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "gl_ztrick",         No, No, "gl_ztrick %",         "set gl_ztrick %",         {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "gl_keeptjunctions", No, No, "gl_keeptjunctions %", "set gl_keeptjunctions %", {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "gl_polyblend",      No, No, "gl_polyblend %",      "set gl_polyblend %",      {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "GL_TEXTUREMODE",    No, No, "GL_TEXTUREMODE %",    "set GL_TEXTUREMODE %",    {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "GL_FINISH",         No, No, "gl_finish %",         "set gl_finish %",         {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "GL_FLASHBLEND",     No, No, "gl_flashblend %",     "set gl_flashblend %",     {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "GL_PLAYERMIP",      No, No, "gl_playermip %",      "set gl_playermip %",      {}},
+    {Step::Drawing,         NotUnreal, GlCard,   "GL_PICMIP",         No, No, "gl_picmip %",         "set gl_picmip %",         {}},
+    {Step::Drawing,         NotUnreal, Software, "D_MipCap",          No, No, "d_mipcap %",          "set d_mipcap %",          {}},
+    {Step::Drawing,         NotUnreal, Chosen<Option::Demo_Chk, &S::Demo>, None, No, No, "%", "%", DemoCommand},
+    {Step::GraphicsDriver,  NotUnreal, UsesQ2Resolution, None, No, No, No, "set sw_mode \"%\"\r\nset gl_mode \"%\"", Q2Mode},
+    {Step::GraphicsDriver,  NotUnreal, Ticked<Option::nosound_chk>, None, ForQuake2("+set s_initsound 0 "), No, ForOthers("nosound 1"), No, {}},
+    {Step::GraphicsDriver,  NotUnreal, UsesGraphicsDriver, None, No, No, No, No, GraphicsDriverRule},
 
-    {Step::Server,          Every, Ticked<Option::Listen_Chk>, None, Not3("-listen "), No, No, In3("set deathmatch 1"), {}},
+    {Step::Server,          Every, Ticked<Option::Listen_Chk>, None, ForOthers("-listen "), No, No, ForQuake2("set deathmatch 1"), {}},
     {Step::Server,          Every, ServerIsChosen,         None, No, No, No, No, ServerRule},
     {Step::GameSpyServer,   Every, ServerFromGameSpy,      None, No, No, No, No, GameSpyServerRule},
     {Step::StartMap,        Every, OtherMap,               None, No, No, "map %", "map %", MapName},

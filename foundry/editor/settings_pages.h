@@ -37,10 +37,10 @@ std::span<const TextView> UnrealAudioCaptions();  // UnrealAudio_Cbo(0) to (17)
 std::span<const TextView> PlayerPawnCaptions();   // PlayerPawn_Cbo(0) to (12)
 std::span<const TextView> MouseBindCaptions();    // MouseBind_Cbo(0) and (1)
 
-constexpr TextView kTeamNameCaption = " Team Name";
-constexpr TextView kPasswordCaption = " Password";
-constexpr TextView kWeaponsAvailableCaption = "Unselected Weapons";
-constexpr TextView kWeaponsPriorityCaption = "Weapon Preferance Order";
+constexpr const char* kTeamNameCaption = " Team Name";
+constexpr const char* kPasswordCaption = " Password";
+constexpr const char* kWeaponsAvailableCaption = "Unselected Weapons";
+constexpr const char* kWeaponsPriorityCaption = "Weapon Preferance Order";
 
 /// Headings of the group panels.
 void PaintLabels(Fig_Frm& form);

@@ -42,8 +42,8 @@ class UnrealPageMaker {
         for (std::size_t i = 0; i < MouseBindCaptions().size(); ++i) {
             AddList(right, "MouseBind_Cbo", i, form_.Document.MouseBind_Cbo[i], MouseBindCaptions()[i]);
         }
-        AddText(left, "UnrealTeamName_Txt", " Team Name", form_.Document.UnrealTeamName_Txt, 0);
-        AddText(right, "UnrealPassword_Txt", " Password", form_.Document.UnrealPassword_Txt, 0);
+        AddText(left, "UnrealTeamName_Txt", kTeamNameCaption, form_.Document.UnrealTeamName_Txt, 0);
+        AddText(right, "UnrealPassword_Txt", kPasswordCaption, form_.Document.UnrealPassword_Txt, 0);
         End();
     }
 
@@ -73,9 +73,9 @@ class UnrealPageMaker {
             const int code = event.GetKeyCode() == WXK_UP ? kUp : kDown;
             parts.Controls.Run([&] { WeaponsPriority_Lst_KeyDown(parts.Model, code); });
         });
-        AddTitled("Unselected Weapons", MakeOpenList("WeaponsAvailable_Lst", document.WeaponsAvailable_Lst));
+        AddTitled(kWeaponsAvailableCaption, MakeOpenList("WeaponsAvailable_Lst", document.WeaponsAvailable_Lst));
         AddButtons("SelectWeapon_Cmd", form_.SelectWeapon_Cmd, SelectWeapon_Cmd_Click);
-        AddTitled("Weapon Preferance Order", priority);
+        AddTitled(kWeaponsPriorityCaption, priority);
         AddButtons("WeaponMove_Cmd", form_.WeaponMove_Cmd, WeaponMove_Cmd_Click);
         End();
     }

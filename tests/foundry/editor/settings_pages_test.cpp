@@ -146,10 +146,10 @@ TEST_F(SettingsPagesTest, TheUnrealListsAreCaptionedInOrder) {
     EXPECT_EQ(All(PlayerPawnCaptions()), All(kListedPawn));
     EXPECT_EQ(PlayerPawnCaptions().size(), form.Document.PlayerPawn_Cbo.size());
     EXPECT_EQ(All(MouseBindCaptions()), (std::vector<TextView>{"Mouse X-Axis Speed", "Mouse Y-Axis Speed"}));
-    EXPECT_EQ(kTeamNameCaption, " Team Name");
-    EXPECT_EQ(kPasswordCaption, " Password");
-    EXPECT_EQ(kWeaponsAvailableCaption, "Unselected Weapons");
-    EXPECT_EQ(kWeaponsPriorityCaption, "Weapon Preferance Order");
+    EXPECT_STREQ(kTeamNameCaption, " Team Name");
+    EXPECT_STREQ(kPasswordCaption, " Password");
+    EXPECT_STREQ(kWeaponsAvailableCaption, "Unselected Weapons");
+    EXPECT_STREQ(kWeaponsPriorityCaption, "Weapon Preferance Order");
 }
 
 TEST_F(SettingsPagesTest, TheTipsOfCrosshairAndHandAreTheirOwn) {

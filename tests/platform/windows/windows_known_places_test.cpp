@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/code_page.h"
 #include "platform/windows/registry_key.h"
 #include "this_system.h"
 
