@@ -62,7 +62,7 @@ enum Stage { kGames, kSteam, kNoted, kPrefixes, kDrives, kNoStage };
 }  // namespace
 
 // On the drive that lies nearest: a prefix may be the drive C: itself.
-Text TreeSearch::Nearest(Text path) {
+Text TreeSearch::Nearest(const Text& path) {
     Text nearest = files_.FromHost(files_.ToHost(path));
     return nearest.empty() || SameText(nearest, path) ? path : nearest;
 }

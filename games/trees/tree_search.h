@@ -53,7 +53,7 @@ class TreeSearch {
     void AddEach(const std::vector<Text>& directories, int depth);
     void AddPrefix(TextView prefix);
     void AddSteam(TextView root);
-    Text Nearest(Text path);
+    Text Nearest(const Text& path);
     void AddIfThere(Text path, int depth);
     void LookAt(const Waiting& place);
     void AddBelow(const Waiting& place, const std::vector<DirectoryEntry>& entries, bool isTree);
