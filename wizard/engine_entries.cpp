@@ -66,7 +66,7 @@ void AdviseEngine(Run& run, const EngineTable& engines, std::size_t row, TextVie
                                     advice->IsCommand ? "In a terminal," : Join(advice->Engine, " does:"), NewLine,
                                     NewLine, TabChar, advice->What, NewLine, NewLine,
                                     advice->IsCommand ? Join("installs ", advice->Engine, ", which does. ") : Text(),
-                                    "Afterwards call this setup again."),
+                                    "Afterwards press OK once more, or call the setup again (Tools, Set Up Games)."),
                                "&OK,&Copy");
     if (answer == 1) {
         (void)run.System.Clip.SetText(advice->What);

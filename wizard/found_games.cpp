@@ -57,11 +57,16 @@ bool PlaysRow(const Engine& engine, std::size_t row) {
 Text FoundText(const FoundGames& found) {
     std::vector<Text> games;
     std::vector<Text> engines;
+    std::vector<Text> unplayed;
     for (std::size_t row = 0; row < kWizardRows; ++row) {
         if (TreeOfRow(found, row) == nullptr) {
             continue;
         }
         games.emplace_back(InstallRows()[row].Name);
+        if (std::ranges::none_of(found.Engines,
+                                 [row](const FoundEngine& engine) { return PlaysRow(*engine.Its, row); })) {
+            unplayed.emplace_back(InstallRows()[row].Name);
+        }
         for (const FoundEngine& engine : found.Engines) {
             if (PlaysRow(*engine.Its, row) && std::ranges::find(engines, engine.Title) == engines.end()) {
                 engines.push_back(engine.Title);
@@ -72,6 +77,7 @@ Text FoundText(const FoundGames& found) {
         return {};
     }
     return Join("Found: ", Listed(games), ".", engines.empty() ? Text() : Join(" Plays here: ", Listed(engines), "."),
+                unplayed.empty() ? Text() : Join(" No engine here for: ", Listed(unplayed), "."),
                 " Click 'OK' to go on.");
 }
 

@@ -62,6 +62,7 @@ void ShowFoundGames(Install_Frm& form, const EngineTable& engines) {
         }
     }
     form.Status_Lbl.Caption = FoundText(form.Found);
+    form.Status_Lbl.ToolTip = form.Status_Lbl.Caption;
 }
 
 void Install_Browse_Cmd_Click(Install_Frm& form, int index) {

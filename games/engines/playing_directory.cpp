@@ -10,7 +10,8 @@ Result<Text> PlayingDirectory(Files& disk, const Engine& engine, TextView direct
     if (!tree) {
         return MakeError(error::kPathNotFound, Text(directory));
     }
-    const bool isReady = disk.CanWrite(directory) && tree->IsSpelledForToday;
+    const bool fitsTheCatalog = directory.find(';') == TextView::npos;
+    const bool isReady = fitsTheCatalog && disk.CanWrite(directory) && tree->IsSpelledForToday;
     const bool needsAutoexec = engine.SharewareNeedsAutoexec && !tree->IsFull;
     if (tree->GameKind == Game::Unreal || IsLinkedTree(directory) || (isReady && !needsAutoexec)) {
         return Text(directory);

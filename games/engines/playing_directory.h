@@ -10,8 +10,9 @@
 namespace lv {
 
 /// The tree itself, if the engine can play it there. Links are made, or brought up to date, for a tree that cannot be
-/// written, whose archives are spelled for another system, or whose shareware data keep the engine from running a
-/// script but from its own autoexec.cfg. Error 76 if there is no game in the directory; those of LinkTree.
+/// written, whose archives are spelled for another system, whose path no list could hold (";"), or whose shareware data
+/// keep the engine from running a script but from its own autoexec.cfg. Error 76 if there is no game in the directory;
+/// those of LinkTree.
 Result<Text> PlayingDirectory(Files& disk, const Engine& engine, TextView directory);
 
 }  // namespace lv

@@ -20,7 +20,17 @@ bool MayWriteAutoexec(Run& run, const Engine& engine, TextView directory, TextVi
                    "&Yes,&No") == 0;
 }
 
-Error WriteAutoexec(Run& run, const EngineLaunch& launch, TextView directory) {
+/// The user has kept autoexec.cfg as it is: what was to go there is lost to this launch.
+void NoteRefusal(FittedCommand& fitted) {
+    for (FitNote& note : fitted.Notes) {
+        if (note.Kind == FitKind::MovedToAutoexec) {
+            note.Kind = FitKind::LeftOut;
+            note.Why = "autoexec.cfg stays as it is";
+        }
+    }
+}
+
+Error WriteAutoexec(Run& run, EngineLaunch& launch, TextView directory) {
     Files& disk = run.System.Disk;
     const Text path = Join(directory, "\\", run.BaseGameDir, "\\autoexec.cfg");
     const Result<Text> read = disk.Read(path);
@@ -29,8 +39,11 @@ Error WriteAutoexec(Run& run, const EngineLaunch& launch, TextView directory) {
     }
     const Text before = read.Ok() ? read.Value : Text();
     const Text text = AutoexecWith(before, launch.Fitted.AutoexecTail);
-    if (text == before ||
-        (!launch.Fitted.AutoexecTail.empty() && !MayWriteAutoexec(run, *launch.Its, directory, path))) {
+    if (text == before) {
+        return {};
+    }
+    if (!launch.Fitted.AutoexecTail.empty() && !MayWriteAutoexec(run, *launch.Its, directory, path)) {
+        NoteRefusal(launch.Fitted);
         return {};
     }
     const Error failed = disk.Replace(path, text);
@@ -38,6 +51,18 @@ Error WriteAutoexec(Run& run, const EngineLaunch& launch, TextView directory) {
 }
 
 }  // namespace
+
+bool PlaysAGame(Run& run, const EngineTable& engines, const LaunchSelection& selection, const LaunchGame& game) {
+    const Engine* const engine = EngineOfLaunch(engines, selection, game);
+    if (engine == nullptr || game.GameKind != Game::None) {
+        return true;
+    }
+    AskUser(run, "",
+            Join(engine->Name, " lies in no game's directory, and nothing is written beside it.", NewLine, NewLine,
+                 "Delete this entry and add it anew (Game Executable, Add, Manual): you are asked then which game it "
+                 "is to play."));
+    return false;
+}
 
 Error FitToEngine(Run& run, const EngineTable& engines, const LaunchSelection& selection, const LaunchGame& game,
                   LaunchTexts& texts, Text& script, EngineLaunch& launch) {

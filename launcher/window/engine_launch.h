@@ -15,6 +15,10 @@ struct EngineLaunch {
     bool Stopped = false;  // nothing is to be started; the user was told why, or there was an error
 };
 
+/// False if the program is an engine of today that lies in no game's directory: a launch would write beside it. The
+/// user was told what to do.
+bool PlaysAGame(Run& run, const EngineTable& engines, const LaunchSelection& selection, const LaunchGame& game);
+
 /// Fits command and script to the engine, if the executable is one, and writes what must go into the engine's own
 /// autoexec.cfg: into a tree of links at once, into the user's own only if the user agrees. The error is that file's.
 Error FitToEngine(Run& run, const EngineTable& engines, const LaunchSelection& selection, const LaunchGame& game,

@@ -302,8 +302,8 @@ void LaunchThroughGameSpy(Click& click) {
 }
 
 void LaunchDirectly(Click& click) {
-    if (ExecutableIsThere(click) && NamesOfLaunchAreText(click) && Compose(click) && WriteScript(click) &&
-        WriteBatch(click) && ViewOrGoOn(click)) {
+    if (ExecutableIsThere(click) && PlaysAGame(click.run, click.launcher.Engines, click.Selection, click.Game) &&
+        NamesOfLaunchAreText(click) && Compose(click) && WriteScript(click) && WriteBatch(click) && ViewOrGoOn(click)) {
         StartGame(click);
     }
 }

@@ -183,4 +183,12 @@ TEST_F(FoundGamesTest, TheMenuCallsTheSetupAgain) {
     EXPECT_EQ(window.Exe_Cbo.Items.back().Title, "QuakeSpasm");
 }
 
+TEST_F(FoundGamesTest, AGameWithoutAnEngineIsSaidToBe) {
+    AddQuake();
+    AddEngine("quakespasm");
+    system.Disk.AddFile("C:\\HOME\\games\\hexen2\\data1\\pak0.pak");
+    EXPECT_EQ(FoundText(LookAround(run, launcher.Engines)),
+              "Found: Quake, Hexen 2. Plays here: QuakeSpasm. No engine here for: Hexen 2. Click 'OK' to go on.");
+}
+
 }  // namespace lv

@@ -56,4 +56,9 @@ TEST_F(PlayingDirectoryTest, IsNoneWithoutAGame) {
     EXPECT_EQ(Of("QuakeSpasm", "C:\\EMPTY"), "error 76");
 }
 
+TEST_F(PlayingDirectoryTest, IsOneOfLinksWhereNoListCouldHoldItsPath) {
+    AddQuake("C:\\A;B", true);
+    EXPECT_EQ(Of("DarkPlaces", "C:\\A;B"), LinkedTreeDirectory("C:\\A;B"));
+}
+
 }  // namespace lv

@@ -105,4 +105,25 @@ TEST_F(EngineLaunches, ThePictureIsThatOfTheGame) {
     EXPECT_NE(window.Exe_Cbo.Items[0].Image, "QUESTION");
 }
 
+TEST_F(EngineLaunches, ViewSaysWhatTheUserHasRefused) {
+    LoadWith(false);
+    Click(Option::Script_Chk, 1);
+    user.Expect({"Shareware Data", "autoexec.cfg", 1, false, false, "&Yes,&No"});
+    user.Expect({"Viewing Commands", "+exec lv_666.qs: left out, autoexec.cfg stays as it is", 0});
+    DoIt_Cmd_Click(launcher, 1);
+}
+
+TEST_F(EngineLaunches, AnEngineInNoGamesDirectoryIsNotStartedAndNothingIsWrittenBesideIt) {
+    AddGames();
+    launcher.Engines = ShippedEngines();
+    system.Disk.AddFile("Z:\\usr\\games\\quakespasm");
+    Save(run, kOptions, "Executables", "QuakeSpasm;Z:\\usr\\games\\quakespasm");
+    Load();
+    PickExe("Z:\\usr\\games\\quakespasm");
+    user.Expect({"Lorvane 3D", "QuakeSpasm lies in no game's directory", 0});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(system.Disk.Bytes("Z:\\usr\\games\\lv_666.bat"), "(none)");
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
 }  // namespace lv
