@@ -10,9 +10,9 @@
 
 namespace lv {
 
-constexpr std::size_t kMostKept = 1024 * 1024;  // bytes of the file
-constexpr std::size_t kFirstKept = 64 * 1024;   // of them, that stay for good
-constexpr std::size_t kLastKept = 448 * 1024;   // that stay at least, of what came last
+constexpr std::size_t kMostKept = std::size_t{1024} * 1024;  // bytes of the file
+constexpr std::size_t kFirstKept = std::size_t{64} * 1024;   // of them, that stay for good
+constexpr std::size_t kLastKept = std::size_t{448} * 1024;   // that stay at least, of what came last
 
 class KeptOutput {
   public:
