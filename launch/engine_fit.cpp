@@ -48,7 +48,9 @@ Text FitReport(const Engine& engine, const FittedCommand& fitted) {
     }
     Text report = Join("For ", engine.Name, " = ", NewLine);
     for (const FitNote& note : fitted.Notes) {
-        report += Join(NoteText(note), NewLine);
+        const Text text = NoteText(note);
+        const std::size_t reason = std::min(note.Part.size() + 1, text.size());
+        report += Join(text.substr(0, reason), NewLine, TabChar, Trim(text.substr(reason)), NewLine);
     }
     return report;
 }

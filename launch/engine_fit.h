@@ -18,7 +18,8 @@ const Engine* EngineOfLaunch(const EngineTable& engines, const LaunchSelection& 
 FittedCommand FitLaunch(const Engine& engine, Files& disk, const LaunchSelection& selection, const LaunchGame& game,
                         const LaunchTexts& texts, bool withScript);
 
-/// What was left out or changed and why, a line each, under the engine's name. Empty if nothing was.
+/// What was left out or changed and why, each with its reason in a line of its own, under the engine's name. Empty if
+/// nothing was.
 Text FitReport(const Engine& engine, const FittedCommand& fitted);
 
 /// SET lines for the engine, each ended by NewLine.

@@ -51,7 +51,7 @@ TEST(EngineFit, QuakeSpasmGetsNoHeapAndTheScript) {
     EXPECT_EQ(fitted.AutoexecTail, "");
     const Text report = FitReport(engine, fitted);
     EXPECT_TRUE(report.starts_with("For QuakeSpasm = \r\n")) << report;
-    EXPECT_NE(report.find("-heapsize 16384: left out, manages its own memory\r\n"), Text::npos) << report;
+    EXPECT_NE(report.find("-heapsize 16384:\r\n\tleft out, manages its own memory\r\n"), Text::npos) << report;
 }
 
 TEST(EngineFit, SharewareDataNeedTheEnginesAutoexec) {

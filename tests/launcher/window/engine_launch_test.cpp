@@ -109,7 +109,7 @@ TEST_F(EngineLaunches, ViewSaysWhatTheUserHasRefused) {
     LoadWith(false);
     Click(Option::Script_Chk, 1);
     user.Expect({"Shareware Data", "autoexec.cfg", 1, false, false, "&Yes,&No"});
-    user.Expect({"Viewing Commands", "+exec lv_666.qs: left out, autoexec.cfg stays as it is", 0});
+    user.Expect({"Viewing Commands", "+exec lv_666.qs:\r\n\tleft out, autoexec.cfg stays as it is", 0});
     DoIt_Cmd_Click(launcher, 1);
 }
 
