@@ -2,8 +2,6 @@
 
 #include <wx/platinfo.h>
 
-#include <memory>
-
 #include "foundation/forms/pictures.h"
 #include "launcher/window/window_life.h"
 
@@ -26,9 +24,9 @@ TrayIcon::TrayIcon(wxEvtHandler* commands, const std::function<void(int)>& click
          [click](wxTaskBarIconEvent&) { click(kTrayRightButtonUp); });
     // Not at once: "E&xit" takes the icon away, which still has its menu up. The menu will be gone by then.
     Bind(wxEVT_MENU, [commands](wxCommandEvent& event) {
-        auto picked = std::make_unique<wxCommandEvent>(wxEVT_MENU, event.GetId());
-        picked->SetEventObject(commands);
-        wxQueueEvent(commands, picked.release());
+        wxCommandEvent picked(wxEVT_MENU, event.GetId());
+        picked.SetEventObject(commands);
+        wxPostEvent(commands, picked);
     });
 }
 
