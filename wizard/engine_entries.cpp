@@ -33,9 +33,11 @@ std::vector<EngineEntry> EngineEntries(Run& run, const EngineTable& engines, con
                                        TextView path) {
     std::vector<EngineEntry> entries;
     AddThoseInside(run, engines, row, path, entries);
+    if (!run.System.Disk.StandIn("", "")) {
+        return entries;  // this system starts no program from elsewhere
+    }
     for (const FoundEngine& engine : found.Engines) {
-        const bool canStandIn = run.System.Disk.StandIn(Join(path, "\\", LastPathPart(engine.Path)), "");
-        if (!canStandIn || !PlaysRow(*engine.Its, row) || !TreeIn(run.System.Disk, path)) {
+        if (!PlaysRow(*engine.Its, row) || !TreeIn(run.System.Disk, path)) {
             continue;
         }
         const Result<Text> directory = PlayingDirectory(run.System.Disk, *engine.Its, path);

@@ -83,7 +83,7 @@ bool SeatOutsideEngine(AddExe_Frm& form, GameRecord& game) {
     const Engine* const engine =
         form.Lists.Engines != nullptr ? EngineOf(*form.Lists.Engines, LastPathPart(program)) : nullptr;
     const bool isOutside = FactsOfDirectory(disk, DirectoryOf(program)).GameKind == Game::None;
-    if (engine == nullptr || !isOutside || !disk.StandIn(program, "")) {
+    if (engine == nullptr || !isOutside || !disk.StandIn("", "")) {
         return true;
     }
     const Text tree =

@@ -16,6 +16,7 @@
 #include "platform/memory/memory_platform.h"
 #include "tests/engines/engine_run.h"
 #include "tests/support/game_yard.h"
+#include "tests/support/quiet_start.h"
 #include "tests/support/scripted_user.h"
 #include "tests/support/test_paths.h"
 
@@ -36,13 +37,7 @@ struct StrangersYard {
           Disk((fs::remove_all(Root), DriveDirectories{Root / "data/drives", Root / "wine", Root / "program"})),
           Programs(Disk, {"", Root / "cache", TestWinePrefix(), fs::path(TestBinaryDir()) / "lorvane3d-pause",
                           Root / "state"}) {
-        Save(run, "LV-Stuff", "FirstTime", 0);
-        Save(run, "LV-Stuff", "VP_Version", 1);
-        Save(run, "LV-Stuff", "NVC_Version", 1);
-        Save(run, kOptions, "VideoProfileList", "Base;Optimize for Speed;Optimize for Beauty;Default");
-        for (const char* const key : {"UseDemos", "UseMemory", "UseGames", "UseServers", "UseScripts"}) {
-            Save(run, kOptions, key, 0);
-        }
+        PrepareQuietStart(run);
     }
 
     void AddGame(const std::string& standIn, const std::string& file) const {

@@ -19,6 +19,7 @@
 #include "platform/linux/linux_processes.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/support/game_yard.h"
+#include "tests/support/quiet_start.h"
 #include "tests/support/scripted_user.h"
 #include "tests/support/shipped_engines.h"
 #include "tests/support/test_paths.h"
@@ -102,13 +103,7 @@ struct NewHome {
         launcher.Engines = ShippedEngines();
         Places.IsGames = {Disk.FromHost((Root / "home/games").string())};
         Places.IsPrograms = {Disk.FromHost("/usr/games")};
-        Save(run, "LV-Stuff", "FirstTime", 0);
-        Save(run, "LV-Stuff", "VP_Version", 1);
-        Save(run, "LV-Stuff", "NVC_Version", 1);
-        Save(run, kOptions, "VideoProfileList", "Base;Optimize for Speed;Optimize for Beauty;Default");
-        for (const char* const key : {"UseDemos", "UseMemory", "UseGames", "UseServers", "UseScripts"}) {
-            Save(run, kOptions, key, 0);
-        }
+        PrepareQuietStart(run);
     }
 
     void Put(const std::string& file, const std::string& bytes) const {
