@@ -4,15 +4,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <charconv>
 #include <chrono>
 #include <thread>
 
 #include "foundry/writing/compose_script.h"
 #include "platform/linux/linux_processes.h"
+#include "tests/engines/engine_run.h"
 #include "tests/support/game_yard.h"
 
 namespace lv {
@@ -41,22 +40,6 @@ class CapturedOutput {
     int before_;
 };
 
-// The server that runs in this directory; 0 if there is none. What keeps its output runs there too.
-pid_t ServerIn(const std::filesystem::path& directory) {
-    std::error_code failed;
-    for (const auto& entry : std::filesystem::directory_iterator("/proc", failed)) {
-        const std::string name = entry.path().filename().string();
-        pid_t process = 0;
-        const auto [end, bad] = std::from_chars(name.data(), name.data() + name.size(), process);
-        if (bad == std::errc() && end == name.data() + name.size() &&
-            std::filesystem::read_symlink(entry.path() / "cwd", failed) == directory &&
-            ReadBytes(entry.path() / "comm").starts_with("darkplaces")) {
-            return process;
-        }
-    }
-    return 0;
-}
-
 /// What the server says while it executes this as the script of a launch. Its last line is "map start", which the
 /// server has not got.
 std::string OutputOfScript(const std::string& name, const std::string& script) {
@@ -74,15 +57,17 @@ std::string OutputOfScript(const std::string& name, const std::string& script) {
     EXPECT_TRUE(WaitForText(log, "SpawnServer: no map file named maps/start.bsp"));
     std::string output = ReadBytes(log);
     const auto directory = std::filesystem::canonical(yard.Drive / "quake");
-    const pid_t server = ServerIn(directory);
-    EXPECT_GT(server, 0) << "the server has ended by itself";
-    if (server > 0) {
+    // What keeps its output works there too.
+    const std::vector<pid_t> servers = ProcessesIn(directory, "darkplaces");
+    EXPECT_EQ(servers.size(), 1u) << "the server has ended by itself";
+    for (const pid_t server : servers) {
         EXPECT_EQ(kill(server, SIGTERM), 0);
     }
-    for (int i = 0; i < 500 && ServerIn(directory) != 0; ++i) {
+    for (int i = 0; i < 500 && !ProcessesIn(directory, "darkplaces").empty(); ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-    EXPECT_EQ(ServerIn(directory), 0);
+    EXPECT_TRUE(ProcessesIn(directory, "darkplaces").empty());
+    EndAllIn(directory);
     return output;
 }
 

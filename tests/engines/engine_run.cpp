@@ -6,12 +6,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
+#include <charconv>
+#include <csignal>
 #include <cstdlib>
 #include <memory>
-#include <thread>
-#include <vector>
+#include <string>
 
+#include "tests/engines/own_streams.h"
+#include "tests/engines/time_limit.h"
+#include "tests/support/game_yard.h"
 #include "tests/support/test_paths.h"
 #include "tests/support/virtual_display.h"
 
@@ -19,7 +22,26 @@ namespace lv {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 const std::filesystem::path kHome = std::filesystem::path(TestBinaryDir()) / "engine_home";
+const std::filesystem::path kPrinted = std::filesystem::path(TestBinaryDir()) / "engine_output.txt";
+constexpr std::chrono::seconds kToolsTime{60};
+
+// -1 where the process has not ended by then.
+int WaitFor(pid_t child) {
+    const auto end = Clock::now() + kToolsTime;
+    int status = 0;
+    while (waitpid(child, &status, WNOHANG) == 0) {
+        if (Clock::now() > end) {
+            kill(child, SIGKILL);
+            waitpid(child, &status, 0);
+            return -1;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
 
 class EngineRun : public testing::Environment {
   public:
@@ -34,11 +56,15 @@ class EngineRun : public testing::Environment {
         for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME", "WINEDEBUG"}) {
             unsetenv(name);
         }
+        // A game that is left behind would hold the pipe that the caller of the tests reads to its end.
+        ASSERT_TRUE(KeepOwnStreams(kPrinted)) << "cannot write " << kPrinted;
+        WatchTime();
         display_ = std::make_unique<VirtualDisplay>();
         ASSERT_FALSE(display_->Name().empty()) << "Xvfb is needed (Debian package xvfb)";
     }
     void TearDown() override {
         EndWine();
+        EndAllIn(TestBinaryDir() + std::string("/yards"));
         display_.reset();
     }
 
@@ -74,14 +100,35 @@ int RunTool(std::initializer_list<const char*> words) {
     pid_t child = -1;
     const int failed = posix_spawnp(&child, arguments[0], &quiet, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&quiet);
-    int status = 0;
-    return failed != 0 || waitpid(child, &status, 0) != child || !WIFEXITED(status) ? -1 : WEXITSTATUS(status);
+    return failed != 0 ? -1 : WaitFor(child);
+}
+
+std::vector<pid_t> ProcessesIn(const std::filesystem::path& directory, std::string_view name) {
+    std::vector<pid_t> found;
+    std::error_code failed;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc", failed)) {
+        const std::string number = entry.path().filename().string();
+        const std::string works = std::filesystem::read_symlink(entry.path() / "cwd", failed).string() + "/";
+        pid_t process = 0;
+        std::from_chars(number.data(), number.data() + number.size(), process);
+        if (process > 0 && process != getpid() && works.starts_with(directory.string() + "/") &&
+            ReadBytes(entry.path() / "comm").starts_with(name)) {
+            found.push_back(process);
+        }
+    }
+    return found;
+}
+
+void EndAllIn(const std::filesystem::path& directory) {
+    for (const pid_t process : ProcessesIn(std::filesystem::weakly_canonical(directory))) {
+        kill(process, SIGKILL);
+    }
 }
 
 bool PressKeysUntil(const char* name, const std::filesystem::path& file) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+    const auto end = Clock::now() + std::chrono::seconds(60);
     while (!std::filesystem::exists(file)) {
-        if (std::chrono::steady_clock::now() > end) {
+        if (Clock::now() > end) {
             return false;
         }
         // Fails while the window is not there yet, and when it closes under the key.

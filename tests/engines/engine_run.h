@@ -4,10 +4,14 @@
 
 #pragma once
 
+#include <sys/types.h>
+
 #include <chrono>
 #include <filesystem>
 #include <initializer_list>
+#include <string_view>
 #include <thread>
+#include <vector>
 
 namespace lv {
 
@@ -21,7 +25,14 @@ constexpr std::chrono::milliseconds kLongEnoughForAGameThatDoesNotWait{2000};
 /// after a minute without it.
 bool PressKeysUntil(const char* name, const std::filesystem::path& file);
 
-/// Runs a program of the host and waits for it.
+/// Runs a program of the host and waits for it: its exit code, or -1 if it did not run or had to be ended after a
+/// minute.
 int RunTool(std::initializer_list<const char*> words);
+
+/// The processes that work in this directory or below it and whose name begins so.
+std::vector<pid_t> ProcessesIn(const std::filesystem::path& directory, std::string_view name = {});
+
+/// Ends all that works in this directory or below it.
+void EndAllIn(const std::filesystem::path& directory);
 
 }  // namespace lv

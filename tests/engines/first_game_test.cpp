@@ -18,6 +18,7 @@
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_processes.h"
 #include "platform/memory/memory_platform.h"
+#include "tests/engines/engine_run.h"
 #include "tests/support/game_yard.h"
 #include "tests/support/quiet_start.h"
 #include "tests/support/scripted_user.h"
@@ -106,6 +107,10 @@ struct NewHome {
         PrepareQuietStart(run);
     }
 
+    ~NewHome() { EndAllIn(Root); }
+    NewHome(const NewHome&) = delete;
+    NewHome& operator=(const NewHome&) = delete;
+
     void Put(const std::string& file, const std::string& bytes) const {
         std::ofstream(Game / "id1" / file, std::ios::binary) << bytes;
     }
@@ -133,9 +138,9 @@ struct NewHome {
         window.Box(Option::Script_Chk).Value = 1;
     }
 
-    /// All that the started game prints until that comes, or for ten seconds.
+    /// All that the started game prints until that comes, or for a minute.
     std::string OutputUntil(const std::string& awaited) {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
         std::string output;
         while (std::chrono::steady_clock::now() < end && output.find(awaited) == std::string::npos) {
             std::this_thread::sleep_for(std::chrono::milliseconds(50));

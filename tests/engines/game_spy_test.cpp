@@ -27,12 +27,12 @@ namespace {
 class XclipClipboard : public Clipboard {
   public:
     Error SetText(std::string_view text) override {
-        FILE* pipe = popen("xclip -selection clipboard -i >/dev/null 2>&1", "w");
+        FILE* pipe = popen("timeout 10 xclip -selection clipboard -i >/dev/null 2>&1", "w");
         std::fwrite(text.data(), 1, text.size(), pipe);
         return pclose(pipe) == 0 ? Error() : MakeError(error::kDeviceUnavailable);
     }
     std::string GetText() override {
-        FILE* pipe = popen("xclip -selection clipboard -o -target UTF8_STRING 2>/dev/null", "r");
+        FILE* pipe = popen("timeout 10 xclip -selection clipboard -o -target UTF8_STRING 2>/dev/null", "r");
         std::string text;
         std::array<char, 4096> part{};
         for (std::size_t count = 0; (count = std::fread(part.data(), 1, part.size(), pipe)) > 0;) {
