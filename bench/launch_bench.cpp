@@ -13,10 +13,10 @@
 #include "foundation/settings.h"
 #include "launcher/start/main_window_load.h"
 #include "launcher/window/launch_flow.h"
+#include "platform/linux/files/linux_files.h"
 #include "platform/linux/linux_clock.h"
-#include "platform/linux/linux_files.h"
 #include "platform/linux/linux_processes.h"
-#include "platform/linux/sqlite_settings.h"
+#include "platform/linux/settings/sqlite_settings.h"
 #include "platform/memory/memory_platform.h"
 #include "video/profile_model.h"
 

@@ -13,7 +13,7 @@
 
 #include "bench/limit.h"
 #include "games/trees/tree_search.h"
-#include "platform/linux/linux_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "platform/linux/linux_known_places.h"
 
 namespace {

@@ -15,7 +15,7 @@
 #include <fstream>
 #include <string>
 
-#include "platform/linux/sqlite_settings.h"
+#include "platform/linux/settings/sqlite_settings.h"
 
 namespace lv {
 

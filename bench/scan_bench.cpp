@@ -15,7 +15,7 @@
 #include "foundation/settings.h"
 #include "launcher/start/main_window_load.h"
 #include "launcher/window/lv_events.h"
-#include "platform/linux/linux_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "platform/memory/memory_platform.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/linux/sqlite_settings.h"
+#include "platform/linux/settings/sqlite_settings.h"
 
 namespace {
 

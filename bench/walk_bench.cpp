@@ -12,7 +12,7 @@
 #include <string>
 
 #include "bench/limit.h"
-#include "platform/linux/linux_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "wizard/disk_walk.h"
 
 namespace {

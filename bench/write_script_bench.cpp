@@ -9,8 +9,8 @@
 
 #include "bench/limit.h"
 #include "foundry/writing/compose_script.h"
+#include "platform/linux/files/linux_files.h"
 #include "platform/linux/linux_clock.h"
-#include "platform/linux/linux_files.h"
 
 namespace {
 

@@ -3,12 +3,14 @@
 
 # From below to above.
 set(LV_SUBSYSTEMS platform foundation games catalogs video launch gamespy launcher foundry wizard)
+set(ROOMS_platform toolkit)
 set(ROOMS_games engines trees)
 set(ROOMS_catalogs editors)
 set(ROOMS_launcher start window menu)
 set(ROOMS_foundry tables document reading writing half_life fonts editor)
 
 set(MAY_platform platform)
+set(MAY_platform/toolkit)
 set(MAY_foundation foundation platform)
 set(MAY_games games games/engines games/trees foundation platform)
 set(MAY_games/engines ${MAY_games})
@@ -36,8 +38,8 @@ set(MAY_wizard wizard ${BELOW_FOUNDRY})
 
 # What the toolkit shows: each subsystem's forms know their own subsystem and the foundation's forms.
 set(LV_FORMS foundation catalogs video gamespy launcher foundry wizard)
-set(MAY_foundation/forms foundation/forms foundation platform assets)
-set(SHARED_BY_FORMS foundation/forms foundation platform)
+set(SHARED_BY_FORMS foundation/forms foundation platform platform/toolkit)
+set(MAY_foundation/forms assets ${SHARED_BY_FORMS})
 set(MAY_catalogs/forms catalogs/forms catalogs/editors catalogs ${SHARED_BY_FORMS})
 set(MAY_video/forms video/forms video ${SHARED_BY_FORMS})
 set(MAY_gamespy/forms gamespy/forms gamespy ${SHARED_BY_FORMS})
@@ -47,10 +49,14 @@ set(MAY_wizard/forms wizard/forms wizard ${SHARED_BY_FORMS})
 
 # The systems know what they implement. The program, on top, knows its subsystems by their entrances.
 set(MAY_platform/memory platform/memory platform)
-set(MAY_platform/linux platform/linux platform/linux/starting platform)
-set(MAY_platform/linux/starting ${MAY_platform/linux})
+set(LV_LINUX platform/linux platform/linux/files platform/linux/settings platform/linux/starting)
+foreach(folder ${LV_LINUX})
+    set(MAY_${folder} platform ${LV_LINUX})
+endforeach()
+set(MAY_platform/linux/toolkit platform/linux/toolkit platform/toolkit platform)
 set(MAY_platform/windows platform/windows platform)
-set(MAY_app app assets platform/linux platform/linux/starting platform/windows foundation foundation/forms
+set(MAY_platform/windows/toolkit platform/windows/toolkit platform/toolkit ${MAY_platform/windows})
+set(MAY_app app assets ${LV_LINUX} platform/windows platform/windows/toolkit platform/toolkit foundation foundation/forms
     catalogs/forms video/forms gamespy/forms launcher/start launcher/window launcher/forms foundry foundry/forms wizard
     wizard/forms)
 
@@ -62,4 +68,5 @@ foreach(subsystem ${LV_SUBSYSTEMS})
     endforeach()
 endforeach()
 list(TRANSFORM LV_FORMS APPEND "/forms" OUTPUT_VARIABLE LV_TOOLKIT)
-set(LV_OF_A_SYSTEM platform/linux platform/linux/starting platform/windows)
+set(LV_OF_LINUX ${LV_LINUX} platform/linux/toolkit)
+set(LV_OF_WINDOWS platform/windows platform/windows/toolkit)

@@ -18,8 +18,9 @@ include(${CMAKE_CURRENT_LIST_DIR}/allowed_includes.cmake)
 # What stands in <> there, as a pattern, beside the standard library.
 set(NO_MORE "^$")
 set(THE_TOOLKIT "^wx/")
-set(THE_SYSTEM "^(sys/.*|xcb/.*|clocale|dirent|dlfcn|fcntl|fstream|filesystem|iconv|initguid|langinfo|oleacc|poll|pwd|shellapi|\
-signal|spawn|sqlite3|stdlib|termios|thread|unistd|windows)(\\.h)?$|^nlohmann/json\\.hpp$")
+set(LINUX "^(sys/.*|xcb/.*|clocale|dirent|dlfcn|fcntl|fstream|filesystem|iconv|langinfo|poll|pwd|signal|spawn|sqlite3|\
+stdlib|termios|thread|unistd)(\\.h)?$|^nlohmann/json\\.hpp$")
+set(WINDOWS "^(clocale|fstream|filesystem|initguid|oleacc|shellapi|stdlib|thread|windows)(\\.h)?$")
 
 set(faults "")
 function(check folder beyond)
@@ -52,10 +53,13 @@ endforeach()
 foreach(folder ${LV_TOOLKIT})
     check(${folder} "${THE_TOOLKIT}")
 endforeach()
-foreach(folder ${LV_OF_A_SYSTEM})
-    check(${folder} "${THE_SYSTEM}")
+foreach(folder ${LV_OF_LINUX})
+    check(${folder} "${LINUX}")
 endforeach()
-check(app "${THE_TOOLKIT}|${THE_SYSTEM}")
+foreach(folder ${LV_OF_WINDOWS})
+    check(${folder} "${WINDOWS}")
+endforeach()
+check(app "${THE_TOOLKIT}|${LINUX}|${WINDOWS}")
 
 if(faults)
     message(FATAL_ERROR "Something includes what it may not:\n${faults}")

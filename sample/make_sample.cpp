@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/linux/sqlite_settings.h"
+#include "platform/linux/settings/sqlite_settings.h"
 #include "platform/linux/wine_registry.h"
 
 namespace {

@@ -15,7 +15,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/modal_form.h"
 #include "foundation/forms/wx_text.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

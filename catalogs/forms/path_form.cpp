@@ -3,7 +3,7 @@
 #include <wx/button.h>
 
 #include "foundation/forms/wx_text.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

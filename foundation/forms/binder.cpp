@@ -6,7 +6,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/binder_lists.h"
 #include "foundation/forms/wx_text.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

@@ -6,7 +6,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/wx_text.h"
-#include "platform/long_list.h"
+#include "platform/toolkit/long_list.h"
 
 namespace lv {
 

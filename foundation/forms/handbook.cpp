@@ -14,7 +14,7 @@
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/screen_fit.h"
 #include "foundation/window_services.h"
-#include "platform/beside_dialogs.h"
+#include "platform/toolkit/beside_dialogs.h"
 
 namespace lv {
 

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-#include "platform/keyboard_place.h"
+#include "platform/toolkit/keyboard_place.h"
 
 namespace lv {
 

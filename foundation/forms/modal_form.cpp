@@ -7,8 +7,8 @@
 #include "foundation/forms/screen_fit.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
-#include "platform/label_field.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/label_field.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

@@ -7,7 +7,7 @@
 
 #include "foundation/screen_fit.h"
 #include "foundation/window_services.h"
-#include "platform/scroll_bars.h"
+#include "platform/toolkit/scroll_bars.h"
 
 namespace lv {
 

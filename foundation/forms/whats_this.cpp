@@ -7,7 +7,7 @@
 #include <string>
 
 #include "assets/embedded_texts.h"
-#include "platform/right_click.h"
+#include "platform/toolkit/right_click.h"
 
 namespace lv {
 

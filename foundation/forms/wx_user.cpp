@@ -20,8 +20,8 @@
 #include "foundation/forms/small_dialogs.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
-#include "platform/spoken_name.h"
-#include "platform/warm_up.h"
+#include "platform/toolkit/spoken_name.h"
+#include "platform/toolkit/warm_up.h"
 #include "platform/web_browser.h"
 
 namespace lv {

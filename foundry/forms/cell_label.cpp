@@ -11,8 +11,8 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/wx_text.h"
 #include "foundry/editor/phun_names_frm.h"
-#include "platform/spoken_name.h"
-#include "platform/tab_stops.h"
+#include "platform/toolkit/spoken_name.h"
+#include "platform/toolkit/tab_stops.h"
 
 namespace lv {
 

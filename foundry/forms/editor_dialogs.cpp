@@ -14,7 +14,7 @@
 #include "foundry/editor/line_dialogs.h"
 #include "foundry/editor/player_page.h"
 #include "foundry/forms/cell_label.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

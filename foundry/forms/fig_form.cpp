@@ -16,8 +16,8 @@
 #include "foundry/editor/lifecycle.h"
 #include "foundry/forms/editor_room.h"
 #include "foundry/forms/editor_tabs.h"
-#include "platform/scroll_bars.h"
-#include "platform/warm_up.h"
+#include "platform/toolkit/scroll_bars.h"
+#include "platform/toolkit/warm_up.h"
 
 namespace lv {
 

@@ -7,7 +7,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/wx_text.h"
 #include "foundry/editor/settings_pages.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

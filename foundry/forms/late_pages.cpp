@@ -7,7 +7,7 @@
 
 #include "foundation/forms/whats_this.h"
 #include "foundry/forms/scrolled_page.h"
-#include "platform/warm_up.h"
+#include "platform/toolkit/warm_up.h"
 
 namespace lv {
 

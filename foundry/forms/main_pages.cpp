@@ -17,7 +17,7 @@
 #include "foundry/editor/lifecycle.h"
 #include "foundry/editor/player_page.h"
 #include "foundry/forms/row_pages.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

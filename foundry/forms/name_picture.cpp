@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

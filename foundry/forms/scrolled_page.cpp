@@ -1,7 +1,7 @@
 #include "foundry/forms/scrolled_page.h"
 
 #include "foundation/forms/screen_fit.h"
-#include "platform/scroll_bars.h"
+#include "platform/toolkit/scroll_bars.h"
 
 namespace lv {
 

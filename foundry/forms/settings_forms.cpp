@@ -17,7 +17,7 @@
 #include "foundry/editor/player_page.h"
 #include "foundry/editor/settings_pages.h"
 #include "foundry/forms/unreal_forms.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

@@ -15,7 +15,7 @@
 #include "foundation/game.h"
 #include "foundry/editor/player_page.h"
 #include "foundry/editor/settings_pages.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

@@ -7,7 +7,7 @@
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "gamespy/game_spy_config.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

@@ -9,7 +9,7 @@
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/screen_fit.h"
 #include "foundation/forms/wx_text.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

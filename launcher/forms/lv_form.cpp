@@ -9,7 +9,7 @@
 #include "launcher/forms/main_menu.h"
 #include "launcher/window/hint.h"
 #include "launcher/window/window_life.h"
-#include "platform/menu_room.h"
+#include "platform/toolkit/menu_room.h"
 
 namespace lv {
 

@@ -18,10 +18,10 @@
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/lv_events.h"
 #include "launcher/window/window_life.h"
-#include "platform/list_height.h"
-#include "platform/list_pictures.h"
-#include "platform/scroll_bars.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/list_height.h"
+#include "platform/toolkit/list_pictures.h"
+#include "platform/toolkit/scroll_bars.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

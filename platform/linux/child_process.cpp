@@ -15,8 +15,8 @@
 #include <optional>
 
 #include "platform/code_page.h"
-#include "platform/linux/file_descriptor.h"
-#include "platform/linux/read_once.h"
+#include "platform/linux/files/file_descriptor.h"
+#include "platform/linux/files/read_once.h"
 #include "platform/linux/start_report.h"
 
 extern char** environ;  // NOLINT: POSIX leaves its declaration to the program

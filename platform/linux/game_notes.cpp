@@ -9,8 +9,8 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/known_places.h"
-#include "platform/linux/host_read.h"
-#include "platform/linux/sqlite_use.h"
+#include "platform/linux/files/host_read.h"
+#include "platform/linux/settings/sqlite_use.h"
 
 namespace lv {
 

@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "platform/code_page.h"
-#include "platform/linux/host_read.h"
+#include "platform/linux/files/host_read.h"
 #include "platform/linux/starting/dosbox_road.h"
 #include "platform/linux/starting/native_road.h"
 #include "platform/linux/starting/wine_road.h"

@@ -10,10 +10,10 @@
 #include <utility>
 
 #include "platform/code_page.h"
-#include "platform/linux/errno_error.h"
-#include "platform/linux/file_descriptor.h"
-#include "platform/linux/host_read.h"
-#include "platform/linux/replace_file.h"
+#include "platform/linux/files/errno_error.h"
+#include "platform/linux/files/file_descriptor.h"
+#include "platform/linux/files/host_read.h"
+#include "platform/linux/files/replace_file.h"
 #include "platform/linux/run_tool.h"
 #include "platform/linux/user_directories.h"
 

@@ -11,7 +11,7 @@
 #include "launcher/start/main_window_load.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/lv_events.h"
-#include "platform/linux/linux_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "platform/linux/linux_processes.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/engines/engine_run.h"

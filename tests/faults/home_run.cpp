@@ -19,9 +19,9 @@
 #include "launcher/start/start.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/window_life.h"
-#include "platform/linux/linux_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "platform/linux/linux_processes.h"
-#include "platform/linux/sqlite_settings.h"
+#include "platform/linux/settings/sqlite_settings.h"
 #include "platform/linux/wine_registry.h"
 #include "platform/memory/memory_platform.h"
 

@@ -3,7 +3,7 @@
 #include <wx/scrolwin.h>
 
 #include "foundation/forms/help_bubble.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 #include "tests/forms/fig_form_fixture.h"
 
 namespace lv {

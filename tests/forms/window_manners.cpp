@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "foundry/forms/cell_label.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 namespace lv {
 

@@ -1,4 +1,4 @@
-#include "platform/linux/drives.h"
+#include "platform/linux/files/drives.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/errno_error.h"
+#include "platform/linux/files/errno_error.h"
 
 #include <gtest/gtest.h>
 

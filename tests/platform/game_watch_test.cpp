@@ -13,7 +13,7 @@
 #include <functional>
 #include <thread>
 
-#include "platform/linux/file_descriptor.h"
+#include "platform/linux/files/file_descriptor.h"
 #include "platform/linux/linux_processes.h"
 #include "platform/linux/starting/game_record.h"
 #include "tests/support/game_yard.h"

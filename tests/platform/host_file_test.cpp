@@ -1,4 +1,4 @@
-#include "platform/linux/host_file.h"
+#include "platform/linux/files/host_file.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/host_links.h"
+#include "platform/linux/files/host_links.h"
 
 #include <gtest/gtest.h>
 

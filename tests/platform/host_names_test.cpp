@@ -1,4 +1,4 @@
-#include "platform/linux/host_names.h"
+#include "platform/linux/files/host_names.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/host_places.h"
+#include "platform/linux/files/host_places.h"
 
 #include <gtest/gtest.h>
 #include <stdlib.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/host_read.h"
+#include "platform/linux/files/host_read.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

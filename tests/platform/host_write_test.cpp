@@ -1,4 +1,4 @@
-#include "platform/linux/host_write.h"
+#include "platform/linux/files/host_write.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

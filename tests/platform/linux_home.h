@@ -4,7 +4,7 @@
 
 #pragma once
 
-#include "platform/linux/linux_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "tests/platform/scratch_directory.h"
 
 namespace lv {

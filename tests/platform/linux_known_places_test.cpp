@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "platform/linux/linux_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "tests/platform/scratch_directory.h"
 #include "tests/support/game_yard.h"
 

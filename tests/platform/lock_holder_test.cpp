@@ -1,4 +1,4 @@
-#include "platform/linux/lock_holder.h"
+#include "platform/linux/settings/lock_holder.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

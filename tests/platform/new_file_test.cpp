@@ -1,4 +1,4 @@
-#include "platform/linux/new_file.h"
+#include "platform/linux/files/new_file.h"
 
 #include <gtest/gtest.h>
 #include <sys/file.h>

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "games/trees/tree_search.h"
-#include "platform/linux/linux_files.h"
+#include "platform/linux/files/linux_files.h"
 #include "platform/linux/linux_known_places.h"
 #include "tests/platform/scratch_directory.h"
 #include "tests/support/game_yard.h"

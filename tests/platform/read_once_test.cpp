@@ -1,4 +1,4 @@
-#include "platform/linux/read_once.h"
+#include "platform/linux/files/read_once.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/replace_file.h"
+#include "platform/linux/files/replace_file.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

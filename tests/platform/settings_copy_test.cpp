@@ -1,4 +1,4 @@
-#include "platform/linux/settings_copy.h"
+#include "platform/linux/settings/settings_copy.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/settings_faults.h"
+#include "platform/linux/settings/settings_faults.h"
 
 #include <gtest/gtest.h>
 #include <sqlite3.h>

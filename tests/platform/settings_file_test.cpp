@@ -1,6 +1,6 @@
 // What a store's file is asked before a first value is read.
 
-#include "platform/linux/settings_file.h"
+#include "platform/linux/settings/settings_file.h"
 
 #include <gtest/gtest.h>
 #include <signal.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/settings_layout.h"
+#include "platform/linux/settings/settings_layout.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 
 #include <chrono>
 
-#include "platform/linux/sqlite_settings.h"
+#include "platform/linux/settings/sqlite_settings.h"
 #include "tests/platform/store_files.h"
 
 namespace lv {

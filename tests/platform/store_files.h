@@ -15,7 +15,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/linux/sqlite_settings.h"
+#include "platform/linux/settings/sqlite_settings.h"
 #include "tests/platform/scratch_directory.h"
 
 namespace lv {

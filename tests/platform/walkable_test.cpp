@@ -1,4 +1,4 @@
-#include "platform/linux/walkable.h"
+#include "platform/linux/files/walkable.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

@@ -11,7 +11,7 @@
 #include <array>
 #include <cstdlib>
 
-#include "platform/linux/sqlite_settings.h"
+#include "platform/linux/settings/sqlite_settings.h"
 #include "tests/program/screen.h"
 #include "tests/support/game_yard.h"
 #include "tests/support/test_paths.h"

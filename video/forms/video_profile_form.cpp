@@ -10,8 +10,8 @@
 #include "foundation/forms/screen_fit.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
-#include "platform/scroll_bars.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/scroll_bars.h"
+#include "platform/toolkit/spoken_name.h"
 #include "video/forms/leader_line.h"
 
 namespace lv {

@@ -10,7 +10,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/wx_text.h"
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 #include "wizard/game_search.h"
 #include "wizard/setup_completion.h"
 

@@ -4,7 +4,7 @@
 #include <cctype>
 
 #include "platform/code_page.h"
-#include "platform/linux/host_file.h"
+#include "platform/linux/files/host_file.h"
 
 namespace lv {
 

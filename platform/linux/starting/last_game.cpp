@@ -5,8 +5,8 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/linux/host_file.h"
-#include "platform/linux/host_read.h"
+#include "platform/linux/files/host_file.h"
+#include "platform/linux/files/host_read.h"
 #include "platform/linux/starting/game_record.h"
 
 namespace lv {

@@ -8,7 +8,7 @@
 #include <system_error>
 
 #include "platform/code_page.h"
-#include "platform/linux/host_file.h"
+#include "platform/linux/files/host_file.h"
 
 namespace lv {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/linux/toolkit_function.h"
+#include "platform/linux/toolkit/toolkit_function.h"
 
 namespace lv {
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
-#include "platform/linux/toolkit_function.h"
+#include "platform/linux/toolkit/toolkit_function.h"
 
 namespace lv {
 namespace {

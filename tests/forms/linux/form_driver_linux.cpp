@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <vector>
 
-#include "platform/linux/toolkit_function.h"
+#include "platform/linux/toolkit/toolkit_function.h"
 #include "tests/forms/form_driver.h"
 #include "tests/forms/form_system.h"
 #include "tests/support/test_paths.h"

@@ -1,6 +1,6 @@
 // GTK alone keeps a window as wide as its menus.
 
-#include "platform/menu_room.h"
+#include "platform/toolkit/menu_room.h"
 
 #include <gtest/gtest.h>
 #include <wx/frame.h>

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 #include "tests/forms/fig_form_fixture.h"
 #include "tests/forms/lv_form_fixture.h"
 #include "tests/forms/window_manners.h"

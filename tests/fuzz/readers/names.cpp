@@ -1,7 +1,7 @@
 // Names of files and text in code page 1252, from the host and from lists.
 
 #include "platform/code_page.h"
-#include "platform/linux/host_names.h"
+#include "platform/linux/files/host_names.h"
 #include "tests/fuzz/readers.h"
 
 namespace lv {

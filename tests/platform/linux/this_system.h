@@ -6,8 +6,8 @@
 
 #include <memory>
 
-#include "platform/linux/linux_files.h"
-#include "platform/linux/sqlite_settings.h"
+#include "platform/linux/files/linux_files.h"
+#include "platform/linux/settings/sqlite_settings.h"
 #include "platform/linux/wine_registry.h"
 #include "platform/memory/memory_platform.h"
 #include "tests/platform/scratch_directory.h"

@@ -1,4 +1,4 @@
-#include "platform/spoken_name.h"
+#include "platform/toolkit/spoken_name.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,0 @@
-#include "platform/list_height.h"
-
-namespace lv {
-
-// A list is as high as its layout says.
-void SetListHeight(void*, int) {}
-
-}  // namespace lv

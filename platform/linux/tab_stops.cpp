@@ -1,9 +1,0 @@
-#include "platform/tab_stops.h"
-
-namespace lv {
-
-bool ToolkitKeepsTabStops() {
-    return true;
-}
-
-}  // namespace lv

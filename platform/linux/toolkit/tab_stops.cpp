@@ -1,0 +1,9 @@
+#include "platform/toolkit/tab_stops.h"
+
+namespace lv {
+
+bool ToolkitKeepsTabStops() {
+    return true;
+}
+
+}  // namespace lv

@@ -1,8 +1,0 @@
-#include "platform/label_field.h"
-
-namespace lv {
-
-// Windows takes the next control in the order of Tab.
-void LeadToField(void*, void*) {}
-
-}  // namespace lv

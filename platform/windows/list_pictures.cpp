@@ -1,8 +1,0 @@
-#include "platform/list_pictures.h"
-
-namespace lv {
-
-// The layout's pixels are the screen's.
-void FitListPictures(void*, int) {}
-
-}  // namespace lv

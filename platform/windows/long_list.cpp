@@ -1,8 +1,0 @@
-#include "platform/long_list.h"
-
-namespace lv {
-
-// The system's lists scroll.
-void LetHaveManyRows(void*) {}
-
-}  // namespace lv

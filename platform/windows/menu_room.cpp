@@ -1,8 +1,0 @@
-#include "platform/menu_room.h"
-
-namespace lv {
-
-// Windows breaks a bar of menus into lines.
-void LetMenusScroll(void*, int) {}
-
-}  // namespace lv

@@ -1,8 +1,0 @@
-#include "platform/scroll_bars.h"
-
-namespace lv {
-
-// Windows' bars always do.
-void KeepScrollBarsInSight(void*) {}
-
-}  // namespace lv

@@ -1,0 +1,8 @@
+#include "platform/toolkit/scroll_bars.h"
+
+namespace lv {
+
+// Windows' bars always do.
+void KeepScrollBarsInSight(void*) {}
+
+}  // namespace lv

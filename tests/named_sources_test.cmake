@@ -1,0 +1,31 @@
+cmake_minimum_required(VERSION 3.25)
+# Each source is named in the README of its folder, or in the next one above; what a system does for a header of
+# platform/ is named there.
+#   cmake -DROOT=<source folder> -P tests/named_sources_test.cmake
+
+file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/*.h ${ROOT}/*.cpp)
+list(FILTER sources EXCLUDE REGEX "^(build|tests|sample)/")
+
+set(faults "")
+foreach(source ${sources})
+    cmake_path(GET source STEM name)
+    cmake_path(GET source PARENT_PATH folder)
+    if(folder MATCHES "^platform/(linux|windows)" AND NOT EXISTS ${ROOT}/${folder}/${name}.h)
+        continue()
+    endif()
+    set(above ${folder})
+    while(above AND NOT EXISTS ${ROOT}/${above}/README.md)
+        cmake_path(GET above PARENT_PATH above)
+    endwhile()
+    file(READ ${ROOT}/${above}/README.md text)
+    if(NOT text MATCHES "[^a-z0-9_]${name}[^a-z0-9_]")
+        string(APPEND faults "${above}/README.md does not name ${source}\n")
+    endif()
+endforeach()
+list(LENGTH sources count)
+if(count LESS 500)
+    message(FATAL_ERROR "found ${count} sources only")
+endif()
+if(faults)
+    message(FATAL_ERROR "${faults}")
+endif()
