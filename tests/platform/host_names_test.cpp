@@ -83,6 +83,77 @@ TEST(HostPathBelow, KeepsTheSpellingOfWhatIsNotThere) {
     EXPECT_EQ(HostPathBelow(root, {"QUAKE", "New", "File.CFG"}), root + "/Quake/New/File.CFG");
 }
 
+TEST(HostPathBelow, GoesBackToAnotherSpellingWhereALaterPartIsNotThere) {
+    const ScratchDirectory scratch;
+    fs::create_directories(scratch / "games/doom");
+    fs::create_directories(scratch / "Games/Quake/Id1");
+    WriteBytes(scratch / "Games/Quake/Id1/PAK0.PAK", "");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"games", "quake"}), root + "/Games/Quake");
+    EXPECT_EQ(HostPathBelow(root, {"games", "quake", "id1"}), root + "/Games/Quake/Id1");
+    EXPECT_EQ(HostPathBelow(root, {"games", "quake", "id1", "pak0.pak"}), root + "/Games/Quake/Id1/PAK0.PAK");
+    EXPECT_EQ(HostPathBelow(root, {"games", "doom"}), root + "/games/doom");
+}
+
+TEST(HostPathBelow, GoesBackMoreThanOnce) {
+    const ScratchDirectory scratch;
+    fs::create_directories(scratch / "A/B");
+    fs::create_directories(scratch / "a/B");
+    fs::create_directories(scratch / "a/b/x");
+    fs::create_directories(scratch / "A/b/c/D");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"a", "b", "c", "d"}), root + "/A/b/c/D");
+}
+
+TEST(HostPathBelow, StaysWithTheFirstSpellingWhereItFits) {
+    const ScratchDirectory scratch;
+    fs::create_directories(scratch / "games/Quake/id1");
+    fs::create_directories(scratch / "Games/quake/id1");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"games", "quake", "id1"}), root + "/games/Quake/id1");
+    EXPECT_EQ(HostPathBelow(root, {"GAMES", "quake", "id1"}), root + "/Games/quake/id1");
+}
+
+TEST(HostPathBelow, PutsANewFileIntoTheFirstDirectoryThatIsThere) {
+    const ScratchDirectory scratch;
+    fs::create_directories(scratch / "games");
+    fs::create_directories(scratch / "Games/quake");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"games", "new.cfg"}), root + "/games/new.cfg");
+    EXPECT_EQ(HostPathBelow(root, {"games", "quake", "new.cfg"}), root + "/Games/quake/new.cfg");
+}
+
+TEST(HostPathBelow, NeverTakesAFileOutOfTheOtherDirectory) {
+    const ScratchDirectory scratch;
+    fs::create_directories(scratch / "games/quake");
+    fs::create_directories(scratch / "Games/quake");
+    WriteBytes(scratch / "Games/quake/autoexec.cfg", "");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"games", "quake", "autoexec.cfg"}), root + "/games/quake/autoexec.cfg");
+}
+
+TEST(HostPathBelow, GoesBackBehindAFileThatStandsInTheWay) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "games", "");
+    fs::create_directories(scratch / "Games/quake");
+    const std::string root = scratch.Path().string();
+    EXPECT_EQ(HostPathBelow(root, {"games", "quake"}), root + "/Games/quake");
+}
+
+TEST(HostPathBelow, GivesUpWhereThereAreTooManyWays) {
+    const ScratchDirectory scratch;
+    fs::create_directory_symlink(".", scratch / "a");
+    fs::create_directory_symlink(".", scratch / "A");
+    const std::string root = scratch.Path().string();
+    Parts parts(30, "a");
+    parts.emplace_back("none");
+    std::string expected = root;
+    for (const std::string& part : parts) {
+        expected += "/" + part;
+    }
+    EXPECT_EQ(HostPathBelow(root, parts), expected);
+}
+
 TEST(HostPathBelow, FoldsAccentedLettersAndConvertsThem) {
     const ScratchDirectory scratch;
     WriteBytes(scratch / "\xC3\xA9t\xC3\xA9.cfg", "");

@@ -71,6 +71,17 @@ TEST(QuickLookOnDisk, FindsGamesInTheHomeTheSystemSteamAndThePrefix) {
                                     player.On("library/steamapps/common/Hexen 2"), "C:\\GOG Games\\Quake"}));
 }
 
+TEST(QuickLookOnDisk, FindsTreesInBothDirectoriesForGames) {
+    const Player player;
+    player.AddArchive("me/games/quake/id1/pak0.pak");
+    player.AddArchive("me/Games/quake2/baseq2/pak0.pak");
+    EXPECT_EQ(player.Look(), (Paths{player.On("me/games/quake"), player.On("me/Games/quake2")}));
+    LinuxFiles files({player.Scratch / "data/drives", player.Home / ".wine", player.Scratch / "program"});
+    const auto tree = TreeIn(files, LowerCase(player.On("me/Games/quake2")));
+    ASSERT_TRUE(tree);
+    EXPECT_EQ(tree->GameKind, Game::Quake2);
+}
+
 TEST(QuickLookOnDisk, FindsATreeOfTwoLinksOnce) {
     const Player player;
     player.AddArchive("me/games/quake/id1/pak0.pak");

@@ -29,9 +29,10 @@ bool EndsInSeparator(std::string_view path);
 /// "C:\QUAKE\ID1"; a root is "C:\".
 std::string PutTogether(const DrivePath& path);
 
-/// The host path of `parts` below `root`. Where several names differ only in case and none is as spelled, the first in
-/// byte order is taken. Parts that do not exist keep their spelling. No directory is read for a path that exists as
-/// it is spelled.
+/// The host path of `parts` below `root`. Where several names differ only in case, the one that is as spelled is taken,
+/// otherwise the first in byte order; where a directory further on is not found below that, the next of them. A file is
+/// looked for in the first directory alone that is found so: two directories are never mixed. Parts that do not exist
+/// keep their spelling. No directory is read for a path that exists as it is spelled.
 std::string HostPathBelow(const std::string& root, const std::vector<std::string>& parts);
 
 /// The entries of the host directory that are called `name` in another spelling than this, as whole paths.
