@@ -43,6 +43,13 @@ struct WalkedDirectory {
     std::vector<DirectoryEntry> Entries;
 };
 
+/// An entry of a directory of links.
+struct LinkedEntry : DirectoryEntry {
+    std::string LeadsInto;     // as Files::LeadsInto
+    bool IsGone = false;       // no directory, and what it leads to is no file now
+    bool IsElsewhere = false;  // a directory that lies elsewhere, and is here by a link
+};
+
 class Files {
   public:
     virtual ~Files() = default;
@@ -106,6 +113,9 @@ class Files {
     /// "id1\pak0.pak", whether or not the file is still there. Empty for anything else, and for what does not tell:
     /// links of other makers that get there by a road of their own, and second names.
     virtual std::string LeadsInto(std::string_view path, std::string_view tree) = 0;
+
+    /// As List, without "." and "..", with what there is to know of links to files below the directory `tree`.
+    virtual Result<std::vector<LinkedEntry>> ListLinks(std::string_view directory, std::string_view tree);
 
     /// From now on the program `real` is asked for, opened and started as `path` too, unless a file lies there: a
     /// program that lies elsewhere, as a game's directory knows it. What lists, writes, links or deletes does not know

@@ -47,17 +47,20 @@ Error MakeDirectories(Files& files, TextView path) {
 }
 
 // What stands in a directory, by name in lower case.
-using Names = std::map<Text, DirectoryEntry>;
+template <class Entry>
+using Names = std::map<Text, Entry>;
+using Wanted = Names<DirectoryEntry>;
+using Own = Names<LinkedEntry>;
 
 class Linking {
   public:
-    Linking(Files& files, const GameTree& tree, TextView own)
-        : files_(files), tree_(tree), own_(own), lowers_(tree.GameKind != Game::Unreal) {}
+    Linking(Files& files, const GameTree& tree, TextView own, const std::function<bool()>& goesOn)
+        : files_(files), tree_(tree), own_(own), lowers_(tree.GameKind != Game::Unreal), goesOn_(goesOn) {}
 
     LinkedTree Run() {
         done_.Fault = Prepare();
         if (!done_.Fault) {
-            LinkDirectories(tree_.Directory, own_, 0);
+            LinkDirectories({}, own_, 0);
         }
         return done_;
     }
@@ -87,50 +90,67 @@ class Linking {
     [[nodiscard]] Text Spelled(TextView name) const { return lowers_ ? LowerCase(name) : Text(name); }
 
     // Of two that differ by letter case alone the one that is spelled right counts.
-    [[nodiscard]] Names NamesIn(const Text& directory) const {
-        Names names;
-        for (const DirectoryEntry& entry : files_.List(directory).Value) {
-            const Text key = LowerCase(entry.Name);
+    template <class Entry>
+    [[nodiscard]] Names<Entry> ByName(std::vector<Entry> entries) const {
+        Names<Entry> names;
+        for (Entry& entry : entries) {
+            Text key = LowerCase(entry.Name);
             if (entry.Name != "." && entry.Name != ".." &&
                 (!names.contains(key) || Spelled(entry.Name) == entry.Name)) {
-                names.insert_or_assign(key, entry);
+                names.insert_or_assign(std::move(key), std::move(entry));
             }
         }
         return names;
     }
 
+    [[nodiscard]] Wanted WantedIn(const Text& below) const { return ByName(files_.List(InTree(below)).Value); }
+    [[nodiscard]] Own OwnIn(const Text& own) const { return ByName(files_.ListLinks(own, tree_.Directory).Value); }
+    [[nodiscard]] Text InTree(const Text& below) const {
+        return below.empty() ? tree_.Directory : Below(tree_.Directory, below);
+    }
+
+    // False, and noted, once the work is to end.
+    bool GoesOn() {
+        if (!wasStopped_ && goesOn_ && !goesOn_()) {
+            wasStopped_ = true;
+            done_.IsWhole = false;
+        }
+        return !done_.Fault && !wasStopped_;
+    }
+
     // At the top only directories are game directories; the files beside them belong to programs.
-    void LinkDirectories(const Text& source, const Text& own, int depth) {
-        const Names wanted = NamesIn(source);
-        Names there = NamesIn(own);
+    void LinkDirectories(const Text& below, const Text& own, int depth) {
+        const Wanted wanted = WantedIn(below);
+        Own there = OwnIn(own);
         if (depth > 0) {
             if (RemoveGone(own, there) > 0) {
-                there = NamesIn(own);
+                there = OwnIn(own);
             }
-            LinkFiles(source, own, wanted, there);
+            LinkFiles(below, own, wanted, there);
         }
         for (const auto& [key, entry] : wanted) {
-            if (done_.Fault) {
+            if (!GoesOn()) {
                 return;
             }
             if (entry.IsDirectory && !(depth == 0 && key == kRerelease)) {
-                LinkDirectory(Below(source, entry.Name), own, Spelled(entry.Name), there, depth);
+                LinkDirectory(below.empty() ? entry.Name : Below(below, entry.Name), own, Spelled(entry.Name), there,
+                              depth);
             }
         }
         for (const auto& [key, entry] : there) {
-            if (entry.IsDirectory && !wanted.contains(key) && IsOwnDirectory(own, entry.Name)) {
+            if (IsOwnDirectory(entry) && !wanted.contains(key) && GoesOn()) {
                 RemoveGoneBelow(Below(own, entry.Name), depth + 1);
             }
         }
     }
 
-    void LinkDirectory(const Text& source, const Text& above, const Text& name, const Names& there, int depth) {
+    void LinkDirectory(const Text& below, const Text& above, const Text& name, const Own& there, int depth) {
         if (depth >= kDeepestLinked || ++directories_ > kMostLinkedDirectories) {
             done_.IsWhole = false;
             return;
         }
         const auto found = there.find(LowerCase(name));
-        if (found != there.end() && !(found->second.IsDirectory && IsOwnDirectory(above, found->second.Name))) {
+        if (found != there.end() && !IsOwnDirectory(found->second)) {
             ++done_.Kept;
             return;
         }
@@ -139,40 +159,45 @@ class Linking {
             done_.Fault = files_.MakeDirectory(own);
         }
         if (!done_.Fault) {
-            LinkDirectories(source, own, depth + 1);
+            LinkDirectories(below, own, depth + 1);
         }
     }
 
-    void LinkFiles(const Text& source, const Text& own, const Names& wanted, const Names& there) {
+    void LinkFiles(const Text& below, const Text& own, const Wanted& wanted, const Own& there) {
         for (const auto& [key, entry] : wanted) {
-            if (done_.Fault || entry.IsDirectory || entry.IsDevice) {
+            if (entry.IsDirectory || entry.IsDevice) {
                 continue;
+            }
+            if (!GoesOn()) {
+                return;
             }
             if (++linked_ > kMostLinks) {
                 done_.IsWhole = false;
                 return;
             }
             const auto found = there.find(key);
-            LinkFile(Below(source, entry.Name), own, Spelled(entry.Name),
+            LinkFile(Below(below, entry.Name), own, Spelled(entry.Name),
                      found == there.end() ? nullptr : &found->second);
         }
     }
 
-    void LinkFile(const Text& target, const Text& own, const Text& name, const DirectoryEntry* there) {
+    void LinkFile(const Text& below, const Text& own, const Text& name, const LinkedEntry* there) {
         if (IsWrittenByGames(name)) {
             if (there == nullptr) {
-                done_.Fault = files_.Copy(target, Below(own, name));
+                done_.Fault = files_.Copy(InTree(below), Below(own, name));
                 done_.Copied += done_.Fault ? 0 : 1;
             }
             return;
         }
+        const Text target = InTree(below);
         if (there != nullptr) {
             const Text path = Below(own, there->Name);
-            const bool leadsThere = files_.IsLinkTo(path, target);
+            const bool isOurs = !there->LeadsInto.empty();
+            const bool leadsThere = isOurs ? there->LeadsInto == below : files_.IsLinkTo(path, target);
             if (leadsThere && there->Name == name) {
                 return;
             }
-            if (!leadsThere && !IsOurs(path)) {
+            if (!leadsThere && !isOurs) {
                 ++done_.Kept;
                 return;
             }
@@ -182,20 +207,17 @@ class Linking {
             done_.Fault = files_.Link(target, Below(own, name));
             done_.Made += done_.Fault ? 0 : 1;
         }
+        if (done_.Fault && !files_.FileExists(target)) {
+            done_.Fault = {};  // it has gone since, or is a link to what has gone
+        }
     }
 
-    [[nodiscard]] bool IsOurs(const Text& path) const { return !files_.LeadsInto(path, tree_.Directory).empty(); }
+    static bool IsOwnDirectory(const LinkedEntry& entry) { return entry.IsDirectory && !entry.IsElsewhere; }
 
-    // A directory in its own place, not by a link from elsewhere.
-    [[nodiscard]] bool IsOwnDirectory(const Text& above, TextView name) const {
-        return SameText(RealPath(files_, Below(above, name)), Below(RealPath(files_, above), name));
-    }
-
-    std::size_t RemoveGone(const Text& own, const Names& there) {
+    std::size_t RemoveGone(const Text& own, const Own& there) {
         std::size_t removed = 0;
         for (const auto& [key, entry] : there) {
-            const Text path = Below(own, entry.Name);
-            if (!entry.IsDirectory && !files_.FileExists(path) && IsOurs(path) && !files_.Delete(path)) {
+            if (entry.IsGone && !entry.LeadsInto.empty() && !files_.Delete(Below(own, entry.Name))) {
                 ++removed;
             }
         }
@@ -208,15 +230,15 @@ class Linking {
         if (depth > kDeepestLinked || ++directories_ > kMostLinkedDirectories) {
             return;
         }
-        const Names there = NamesIn(own);
+        const Own there = OwnIn(own);
         const std::size_t before = done_.Removed;
         RemoveGone(own, there);
         for (const auto& [key, entry] : there) {
-            if (entry.IsDirectory && IsOwnDirectory(own, entry.Name)) {
+            if (IsOwnDirectory(entry)) {
                 RemoveGoneBelow(Below(own, entry.Name), depth + 1);
             }
         }
-        if (done_.Removed > before && NamesIn(own).empty()) {
+        if (done_.Removed > before && OwnIn(own).empty()) {
             files_.RemoveDirectory(own);
         }
     }
@@ -225,15 +247,17 @@ class Linking {
     const GameTree& tree_;
     Text own_;
     bool lowers_;
+    const std::function<bool()>& goesOn_;
     LinkedTree done_;
     std::size_t linked_ = 0;
     std::size_t directories_ = 0;
+    bool wasStopped_ = false;
 };
 
 }  // namespace
 
-LinkedTree LinkTree(Files& files, const GameTree& tree, TextView directory) {
-    return Linking(files, tree, directory).Run();
+LinkedTree LinkTree(Files& files, const GameTree& tree, TextView directory, const std::function<bool()>& goesOn) {
+    return Linking(files, tree, directory, goesOn).Run();
 }
 
 }  // namespace lv

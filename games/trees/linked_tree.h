@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 #include "games/trees/game_tree.h"
 
@@ -21,7 +22,7 @@ struct LinkedTree {
     std::size_t Copied = 0;   // settings and saved games
     std::size_t Removed = 0;  // links to what has gone
     std::size_t Kept = 0;     // files of the user's that stand where a link would
-    bool IsWhole = true;      // false: there are more files than are linked
+    bool IsWhole = true;      // false: there are more files than are linked, or it was to end before
     Error Fault;              // what stopped it, if anything did
 };
 
@@ -29,7 +30,8 @@ struct LinkedTree {
 /// them, or brings it up to date. Settings and saved games are copied once instead: a game writes through a link. Where
 /// the game's engines look for "id1/pak0.pak" the links are in lower case. What is the user's stays as it is: files,
 /// directories, and links that lead anywhere but into the tree; a directory that is a link is not gone into. A second
-/// run changes nothing. Error 75 if one of the two directories lies in the other.
-LinkedTree LinkTree(Files& files, const GameTree& tree, TextView directory);
+/// run changes nothing. `goesOn` is asked before each file, and false ends the work; none: it is done to its end. Error
+/// 75 if one of the two directories lies in the other.
+LinkedTree LinkTree(Files& files, const GameTree& tree, TextView directory, const std::function<bool()>& goesOn = {});
 
 }  // namespace lv

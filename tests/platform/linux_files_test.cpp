@@ -308,6 +308,64 @@ TEST(LinuxFiles, KnowALinkOfTheirOwnWhoseFileIsGone) {
     EXPECT_FALSE(fs::is_symlink(home.C / "pak0.pak"));
 }
 
+TEST(LinuxFiles, KnowATreeInTheSecondOfTwoDirectoriesOfOneName) {
+    Home home;
+    fs::create_directories(home.C / "games/doom");
+    fs::create_directories(home.C / "Games/quake/id1");
+    WriteBytes(home.C / "Games/quake/id1/pak0.pak", "PACK");
+    EXPECT_TRUE(home.Disk.DirectoryExists("c:\\games\\quake"));
+    EXPECT_EQ(home.Disk.Read("c:\\games\\quake\\id1\\pak0.pak").Value, "PACK");
+    EXPECT_EQ(home.Disk.ToHost("c:\\games\\quake"), (home.C / "Games/quake").string());
+    EXPECT_EQ(home.Disk.ChangeDirectory("c:\\games\\quake").Number, 0);
+    EXPECT_EQ(home.Disk.CurrentDirectory(), "C:\\Games\\quake");
+    EXPECT_EQ(home.Disk.ReplaceOwn("c:\\games\\quake\\lv_666.bat", "new").Number, 0);
+    EXPECT_EQ(BytesOf(home.C / "Games/quake/lv_666.bat"), "new");
+    EXPECT_EQ(home.Disk.MakeDirectory("c:\\games\\quake\\mod").Number, 0);
+    EXPECT_TRUE(fs::is_directory(home.C / "Games/quake/mod"));
+}
+
+TEST(LinuxFiles, DeleteNoFileOfTheOtherOfTwoTrees) {
+    Home home;
+    fs::create_directories(home.C / "games/quake");
+    fs::create_directories(home.C / "Games/quake");
+    WriteBytes(home.C / "Games/quake/lv_666.bat", "other");
+    EXPECT_EQ(home.Disk.Delete("c:\\games\\quake\\lv_666.bat").Number, 53);
+    EXPECT_TRUE(fs::exists(home.C / "Games/quake/lv_666.bat"));
+}
+
+TEST(LinuxFiles, ListLinksWithWhereTheyLead) {
+    Home home;
+    fs::create_directories(home.C / "tree/ID1");
+    fs::create_directories(home.C / "own/sub");
+    fs::create_directories(home.C / "elsewhere");
+    WriteBytes(home.C / "tree/ID1/PAK0.PAK", "PACK");
+    WriteBytes(home.C / "tree/ID1/gone.pak", "PACK");
+    WriteBytes(home.C / "own/mine.cfg", "mine");
+    fs::create_symlink("../elsewhere", home.C / "own/away");
+    fs::create_symlink("../tree/ID1/PAK0.PAK", home.C / "own/users.pak");
+    ASSERT_EQ(home.Disk.Link("C:\\tree\\id1\\pak0.pak", "C:\\own\\pak0.pak").Number, 0);
+    ASSERT_EQ(home.Disk.Link("C:\\tree\\id1\\gone.pak", "C:\\own\\gone.pak").Number, 0);
+    fs::remove(home.C / "tree/ID1/gone.pak");
+    const std::vector<std::string> expected = {"away: directory, elsewhere",
+                                               "gone.pak: ID1\\gone.pak, gone",
+                                               "mine.cfg: ",
+                                               "pak0.pak: ID1\\PAK0.PAK",
+                                               "sub: directory",
+                                               "users.pak: "};
+    const auto told = [](const Result<std::vector<LinkedEntry>>& listed) {
+        std::vector<std::string> lines;
+        for (const LinkedEntry& entry : listed.Value) {
+            lines.push_back(entry.Name + ": " + (entry.IsDirectory ? "directory" : entry.LeadsInto) +
+                            (entry.IsElsewhere ? ", elsewhere" : "") + (entry.IsGone ? ", gone" : ""));
+        }
+        std::ranges::sort(lines);
+        return lines;
+    };
+    EXPECT_EQ(told(home.Disk.ListLinks("C:\\own", "C:\\tree")), expected);
+    EXPECT_EQ(told(home.Disk.Files::ListLinks("C:\\own", "C:\\tree")), expected);
+    EXPECT_EQ(home.Disk.ListLinks("C:\\none", "C:\\tree").Fault.Number, 76);
+}
+
 TEST(LinuxFiles, TakeNoLinkOfTheUsersForTheirOwn) {
     Home home;
     fs::create_directories(home.C / "tree");

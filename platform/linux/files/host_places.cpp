@@ -102,12 +102,21 @@ std::string LeadsAway(const HostPlace& place, const std::optional<HostPlace>& tr
 std::string LeadsInto(const HostPlace& place, const HostPlace& tree) {
     std::error_code failed;
     const std::string link = fs::read_symlink(place.Host, failed).string();
-    const std::string root = LinkedHostPath(tree);
-    const std::string above = root.ends_with('/') ? root : root + "/";
-    if (failed || !link.starts_with(above)) {
+    return failed ? std::string() : PathInside(link, LinkedHostPath(tree));
+}
+
+std::string PathInside(std::string_view hostPath, std::string_view directory) {
+    if (!hostPath.starts_with(directory)) {
         return {};
     }
-    auto below = FromUtf8(link.substr(above.size()));
+    std::string_view inside = hostPath.substr(directory.size());
+    if (!directory.ends_with('/')) {
+        if (!inside.starts_with('/')) {
+            return {};
+        }
+        inside.remove_prefix(1);
+    }
+    auto below = FromUtf8(inside);
     if (!below || below->find('\\') != std::string::npos) {
         return {};
     }

@@ -37,4 +37,8 @@ std::string LeadsAway(const HostPlace& place, const std::optional<HostPlace>& tr
 /// The path of the drives below `tree` that the link at `place` was made to; nothing for anything else.
 std::string LeadsInto(const HostPlace& place, const HostPlace& tree);
 
+/// The part of a host path that lies below the host directory, as a path of the drives; nothing if none does, or if it
+/// has no such form.
+std::string PathInside(std::string_view hostPath, std::string_view directory);
+
 }  // namespace lv

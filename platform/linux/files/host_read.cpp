@@ -4,12 +4,15 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <string_view>
 #include <utility>
 
 #include "platform/linux/files/errno_error.h"
 #include "platform/linux/files/host_names.h"
+#include "platform/linux/files/host_places.h"
 
 namespace lv {
 
@@ -89,6 +92,26 @@ DirectoryEntry EntryOf(int directory, const dirent& entry, std::string name) {
     return {std::move(name), S_ISDIR(info.st_mode), !S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode)};
 }
 
+// Gives each entry that has a name here to `take`: the directory, the entry, the name.
+Error ReadHostDirectory(const std::string& hostPath, const auto& take) {
+    const DirectoryStream open(opendir(hostPath.c_str()));
+    if (!open) {
+        return ErrorOfDirectory(errno);
+    }
+    while (true) {
+        errno = 0;
+        const dirent* entry = readdir(open.get());
+        if (entry == nullptr) {
+            return errno == 0 ? Error() : ErrorOf(errno);
+        }
+        const std::string_view hostName = entry->d_name;
+        auto name = NameFromHost(hostName);
+        if (name && hostName != "." && hostName != "..") {
+            take(dirfd(open.get()), *entry, *std::move(name));
+        }
+    }
+}
+
 constexpr std::size_t kFirstBlock = 4096;
 
 Result<std::string> ReadInSteps(int descriptor) {
@@ -157,27 +180,27 @@ Result<std::unique_ptr<RandomAccessFile>> OpenHostFileAnywhere(const std::string
 }
 
 Result<std::vector<DirectoryEntry>> ListHostDirectory(const std::string& hostPath) {
-    const DirectoryStream open(opendir(hostPath.c_str()));
-    if (!open) {
-        return ErrorOfDirectory(errno);
-    }
     std::vector<DirectoryEntry> entries = {{".", true}, {"..", true}};
-    while (true) {
-        errno = 0;
-        const dirent* entry = readdir(open.get());
-        if (entry == nullptr) {
-            break;
+    const Error failed = ReadHostDirectory(hostPath, [&](int directory, const dirent& entry, std::string name) {
+        entries.push_back(EntryOf(directory, entry, std::move(name)));
+    });
+    return failed ? Result<std::vector<DirectoryEntry>>(failed) : entries;
+}
+
+Result<std::vector<LinkedEntry>> ListHostLinks(const std::string& hostPath, const std::string& tree) {
+    std::array<char, PATH_MAX> room{};
+    std::vector<LinkedEntry> entries;
+    const Error failed = ReadHostDirectory(hostPath, [&](int directory, const dirent& entry, std::string name) {
+        const bool mayBeLink = entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN;
+        const ssize_t length = mayBeLink ? readlinkat(directory, entry.d_name, room.data(), room.size()) : -1;
+        LinkedEntry& linked = entries.emplace_back(LinkedEntry{EntryOf(directory, entry, std::move(name)), {}});
+        linked.IsElsewhere = length >= 0 && linked.IsDirectory;
+        if (length >= 0 && !linked.IsDirectory) {
+            linked.LeadsInto = PathInside({room.data(), static_cast<std::size_t>(length)}, tree);
+            linked.IsGone = faccessat(directory, entry.d_name, F_OK, 0) != 0;
         }
-        const std::string_view hostName = entry->d_name;
-        const auto name = NameFromHost(hostName);
-        if (name && hostName != "." && hostName != "..") {
-            entries.push_back(EntryOf(dirfd(open.get()), *entry, *name));
-        }
-    }
-    if (errno != 0) {
-        return ErrorOf(errno);
-    }
-    return entries;
+    });
+    return failed ? Result<std::vector<LinkedEntry>>(failed) : entries;
 }
 
 }  // namespace lv

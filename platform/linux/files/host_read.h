@@ -27,4 +27,7 @@ Result<std::unique_ptr<RandomAccessFile>> OpenHostFileAnywhere(const std::string
 /// out. A link to a directory is a directory. 76 if there is none, 75 if it may not be read.
 Result<std::vector<DirectoryEntry>> ListHostDirectory(const std::string& hostPath);
 
+/// The same without "." and "..", with where its links lead below the host directory `tree`.
+Result<std::vector<LinkedEntry>> ListHostLinks(const std::string& hostPath, const std::string& tree);
+
 }  // namespace lv

@@ -183,6 +183,12 @@ std::string LinuxFiles::LeadsInto(std::string_view path, std::string_view tree) 
     return place && above ? lv::LeadsInto(*place, *above) : std::string();
 }
 
+Result<std::vector<LinkedEntry>> LinuxFiles::ListLinks(std::string_view directory, std::string_view tree) {
+    const auto place = Find(directory);
+    const auto above = Find(tree);
+    return place && above ? ListHostLinks(place->Host, LinkedHostPath(*above)) : MakeError(error::kPathNotFound);
+}
+
 Error LinuxFiles::Delete(std::string_view path) {
     const auto place = Find(path);
     if (!place) {

@@ -45,6 +45,7 @@ class LinuxFiles : public Files {
     Error Link(std::string_view target, std::string_view path) override;
     bool IsLinkTo(std::string_view path, std::string_view target) override;
     std::string LeadsInto(std::string_view path, std::string_view tree) override;
+    Result<std::vector<LinkedEntry>> ListLinks(std::string_view directory, std::string_view tree) override;
     bool StandIn(std::string_view path, std::string_view real) override;
     Error Delete(std::string_view path) override;
     Error MakeDirectory(std::string_view path) override;

@@ -220,4 +220,24 @@ TEST(LinkTree, EndsInACircleOfLinks) {
     EXPECT_TRUE(made.Disk.FileExists("C:\\LINKED\\QUAKE\\id1\\pak0.pak"));
 }
 
+TEST(LinkTree, PassesOverALinkToWhatHasGone) {
+    OldTree made;
+    made.Disk.AddFileLink("Z:\\share\\quake\\ID1\\music.pak", "D:\\music.pak");
+    const LinkedTree done = made.Link();
+    EXPECT_EQ(done.Fault.Number, 0) << done.Fault.Text;
+    EXPECT_EQ(made.In("C:\\LINKED\\QUAKE\\id1"), (Names{"maps", "pak0.pak", "pak1.pak"}));
+}
+
+TEST(LinkTree, EndsWhereItIsNotToGoOn) {
+    OldTree made;
+    made.Disk.AddFileLink("C:\\LINKED\\QUAKE\\mod\\gone.pak", "Z:\\share\\quake\\mod\\gone.pak");
+    int asked = 0;
+    const LinkedTree done = LinkTree(made.Disk, *TreeIn(made.Disk, kTree), kOwn, [&asked] { return ++asked < 4; });
+    EXPECT_FALSE(done.IsWhole);
+    EXPECT_EQ(done.Made, 1u);
+    EXPECT_EQ(done.Removed, 0u);
+    EXPECT_EQ(asked, 4);
+    EXPECT_EQ(done.Fault.Number, 0);
+}
+
 }  // namespace lv
