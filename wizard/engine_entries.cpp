@@ -40,7 +40,7 @@ std::vector<EngineEntry> EngineEntries(Run& run, const EngineTable& engines, con
         if (!PlaysRow(*engine.Its, row) || !TreeIn(run.System.Disk, path)) {
             continue;
         }
-        const Result<Text> directory = PlayingDirectory(run.System.Disk, *engine.Its, path);
+        const Result<Text> directory = PlayingDirectory(run, *engine.Its, path);
         if (!directory.Ok()) {
             TellNoLinks(run, path, directory.Fault);
             break;

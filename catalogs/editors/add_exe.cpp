@@ -91,7 +91,7 @@ bool SeatOutsideEngine(AddExe_Frm& form, GameRecord& game) {
     if (tree == kPathCancelled) {
         return false;
     }
-    const Result<Text> directory = PlayingDirectory(disk, *engine, tree);
+    const Result<Text> directory = PlayingDirectory(run, *engine, tree);
     if (!directory.Ok()) {
         TellFault(form, "ExePath_Txt",
                   directory.Fault.Number == error::kPathNotFound

@@ -1,11 +1,12 @@
 #include "games/engines/playing_directory.h"
 
-#include "games/trees/linked_tree.h"
+#include "games/trees/link_sources.h"
 #include "games/trees/tree_room.h"
 
 namespace lv {
 
-Result<Text> PlayingDirectory(Files& disk, const Engine& engine, TextView directory) {
+Result<Text> PlayingDirectory(Run& run, const Engine& engine, TextView directory) {
+    Files& disk = run.System.Disk;
     const auto tree = TreeIn(disk, directory);
     if (!tree) {
         return MakeError(error::kPathNotFound, Text(directory));
@@ -16,8 +17,8 @@ Result<Text> PlayingDirectory(Files& disk, const Engine& engine, TextView direct
     if (tree->GameKind == Game::Unreal || IsLinkedTree(directory) || (isReady && !needsAutoexec)) {
         return Text(directory);
     }
-    Text links = LinkedTreeDirectory(directory);
-    const LinkedTree made = LinkTree(disk, *tree, links);
+    Text links = LinksOf(run, directory);
+    const LinkedTree made = MakeLinks(run, *tree, links);
     return made.Fault ? Result<Text>(made.Fault) : Result<Text>(std::move(links));
 }
 

@@ -4,8 +4,8 @@
 
 #pragma once
 
+#include "foundation/run.h"
 #include "games/engines/engine_table.h"
-#include "platform/files.h"
 
 namespace lv {
 
@@ -13,6 +13,6 @@ namespace lv {
 /// written, whose archives are spelled for another system, whose path no list could hold (";"), or whose shareware data
 /// keep the engine from running a script but from its own autoexec.cfg. Error 76 if there is no game in the directory;
 /// those of LinkTree.
-Result<Text> PlayingDirectory(Files& disk, const Engine& engine, TextView directory);
+Result<Text> PlayingDirectory(Run& run, const Engine& engine, TextView directory);
 
 }  // namespace lv

@@ -20,6 +20,7 @@
 #include "launch/name_check.h"
 #include "launcher/window/engine_launch.h"
 #include "launcher/window/game_end.h"
+#include "launcher/window/links_launch.h"
 #include "launcher/window/unreal_options.h"
 #include "launcher/window/window_life.h"
 #include "video/profile_model.h"
@@ -303,7 +304,8 @@ void LaunchThroughGameSpy(Click& click) {
 
 void LaunchDirectly(Click& click) {
     if (ExecutableIsThere(click) && PlaysAGame(click.run, click.launcher.Engines, click.Selection, click.Game) &&
-        NamesOfLaunchAreText(click) && Compose(click) && WriteScript(click) && WriteBatch(click) && ViewOrGoOn(click)) {
+        LinksAreUpToDate(click.run, click.Game.DefaultGameDirectory) && NamesOfLaunchAreText(click) && Compose(click) &&
+        WriteScript(click) && WriteBatch(click) && ViewOrGoOn(click)) {
         StartGame(click);
     }
 }

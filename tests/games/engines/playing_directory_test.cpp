@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "games/trees/link_sources.h"
 #include "games/trees/tree_room.h"
-#include "platform/memory/memory_files.h"
+#include "platform/memory/memory_platform.h"
+#include "tests/support/scripted_user.h"
 #include "tests/support/shipped_engines.h"
 
 namespace lv {
@@ -17,11 +19,14 @@ class PlayingDirectoryTest : public ::testing::Test {
         }
     }
     Text Of(TextView engine, TextView directory) {
-        const Result<Text> found = PlayingDirectory(disk, ShippedEngine(engine), directory);
+        const Result<Text> found = PlayingDirectory(run, ShippedEngine(engine), directory);
         return found.Ok() ? found.Value : Join("error ", std::to_string(found.Fault.Number));
     }
 
-    MemoryFiles disk;
+    MemoryPlatform system;
+    MemoryFiles& disk = system.Disk;
+    ScriptedUser user;
+    lv::Run run{system.Services, user};
 };
 
 TEST_F(PlayingDirectoryTest, IsTheTreeWhereItCanBeWritten) {
@@ -37,6 +42,7 @@ TEST_F(PlayingDirectoryTest, IsOneOfLinksWhereItCannot) {
     const Text links = LinkedTreeDirectory("Z:\\QUAKE");
     EXPECT_EQ(Of("DarkPlaces", "Z:\\QUAKE"), links);
     EXPECT_TRUE(disk.FileExists(links + "\\id1\\pak1.pak"));
+    EXPECT_EQ(SourceOfLinks(run, links), "Z:\\QUAKE");
 }
 
 TEST_F(PlayingDirectoryTest, IsOneOfLinksForSharewareAndAnEngineThatReadsItsAutoexecAlone) {
