@@ -78,6 +78,7 @@ EngineSearch FindEngines(Files& disk, const std::vector<Text>& directories, cons
         const bool isOneOfMany = counts[found.Its] > 1;
         found.Title = FitForList(isOneOfMany ? Join(found.Its->Name, " (", found.Title, ")") : found.Its->Name);
     }
+    std::ranges::stable_sort(search.Engines, {}, &FoundEngine::Its);
     return search;
 }
 

@@ -18,8 +18,9 @@ struct FoundEngine {
 };
 
 struct EngineSearch {
-    std::vector<FoundEngine> Engines;  // in the order of the directories, in each by name
-    std::vector<Text> CutShort;        // directories with more entries than were looked at
+    std::vector<FoundEngine>
+        Engines;                 // in the order of the table; of one engine in that of the directories, then by name
+    std::vector<Text> CutShort;  // directories with more entries than were looked at
 };
 
 constexpr std::size_t kMostDirectoryEntries = 50'000;

@@ -33,6 +33,31 @@ TEST(FindEngines, TakesTheFirstOfTwoProgramsOfOneName) {
     EXPECT_EQ(search.CutShort, Lines());
 }
 
+TEST(FindEngines, GivesThemInTheOrderOfTheTable) {
+    MemoryFiles disk;
+    disk.AddFile("C:\\home\\bin\\tyr-quake");
+    disk.AddFile("C:\\home\\bin\\vkquake-2.appimage");
+    disk.AddFile("C:\\usr\\games\\darkplaces");
+    disk.AddFile("C:\\usr\\games\\ezquake");
+    disk.AddFile("C:\\usr\\games\\quakespasm");
+    disk.AddFile("C:\\usr\\games\\vkquake");
+    EXPECT_EQ(Found(FindEngines(disk, {"C:\\home\\bin", "C:\\usr\\games"}, ShippedEngines())),
+              (Lines{"QuakeSpasm = C:\\usr\\games\\quakespasm",
+                     "vkQuake (vkquake-2.appimage) = C:\\home\\bin\\vkquake-2.appimage",
+                     "vkQuake (vkquake) = C:\\usr\\games\\vkquake", "DarkPlaces = C:\\usr\\games\\darkplaces",
+                     "ezQuake = C:\\usr\\games\\ezquake", "TyrQuake = C:\\home\\bin\\tyr-quake"}));
+}
+
+TEST(FindEngines, PutsTheUsersOwnFirst) {
+    const EngineTable table = ReadEngines("name\tprograms\tgames\nQuakeSpasm\tquakespasm\tquake\n",
+                                          "name\tprograms\tgames\nZ Quake\tzquake\tquake\n");
+    MemoryFiles disk;
+    disk.AddFile("C:\\games\\quakespasm");
+    disk.AddFile("C:\\games\\zquake");
+    EXPECT_EQ(Found(FindEngines(disk, {"C:\\games"}, table)),
+              (Lines{"Z Quake = C:\\games\\zquake", "QuakeSpasm = C:\\games\\quakespasm"}));
+}
+
 TEST(FindEngines, ListsADirectoryOnce) {
     MemoryFiles disk;
     disk.AddFile("C:\\games\\mvdsv");
