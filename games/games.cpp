@@ -18,8 +18,11 @@ constexpr GameFacts kGames[] = {
      .ScriptFamily = Dialect::Quake,
      .Name = "Quake",
      .How = TreeTest::Below,
-     .What = "\\id1",
      .BaseGameDir = "ID1",
+     .Data = {.FullWithin = {"pak1.pak"},
+              .FullBeside = {"quakeex.kpf"},
+              .MissionPacks = {"hipnotic", "rogue", "dopa", "mg1"}},
+     .WizardRow = wizard_row::kQuake,
      .ScriptFilter = "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*",
      .DemoFilter = "Quake Demonstrations (*.dem;*.qwd)|*.dem;*.qwd|All Files (*.*)|*.*",
      .ScriptExtension = ".qs"},
@@ -27,8 +30,9 @@ constexpr GameFacts kGames[] = {
      .ScriptFamily = Dialect::Quake,
      .Name = "Hexen2",
      .How = TreeTest::Below,
-     .What = "\\data1",
      .BaseGameDir = "DATA1",
+     .Data = {.FullWithin = {"pak1.pak"}, .MissionPacks = {"portals", "hw"}},
+     .WizardRow = wizard_row::kHexen2,
      .ScriptFilter = "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*",
      .DemoFilter = "Hexen Demonstrations (*.dem)|*.dem|All Files (*.*)|*.*",
      .ScriptExtension = ".hs"},
@@ -36,8 +40,9 @@ constexpr GameFacts kGames[] = {
      .ScriptFamily = Dialect::Quake2,
      .Name = "Quake2",
      .How = TreeTest::Below,
-     .What = "\\baseq2",
      .BaseGameDir = "BASEQ2",
+     .Data = {.FullWithin = {"pak1.pak"}, .FullBeside = {"q2game.kpf"}, .MissionPacks = {"xatrix", "rogue"}},
+     .WizardRow = wizard_row::kQuake2,
      .ScriptFilter = "Quake2 Scripts (*.cfg, *.q2s)|*.cfg;*.q2s|All Files (*.*)|*.*",
      .DemoFilter = kQuake2Demos,
      .ScriptExtension = ".q2s"},
@@ -47,6 +52,12 @@ constexpr GameFacts kGames[] = {
      .How = TreeTest::PathHolds,
      .What = "UNREAL\\SYSTEM",
      .BaseGameDir = "MAPS",
+     .Data = {.Directory = "system",
+              .Within = {"unreal.exe", "unrealshare.u"},
+              .NotThere = "botpack.u",
+              .Beside = "maps",
+              .AnyCase = true},
+     .WizardRow = wizard_row::kUnreal,
      .ScriptFilter = "Unreal INIs (*.ini)|*.ini|All Files (*.*)|*.*",
      .DemoFilter = "",
      .ScriptExtension = ".ini"},
@@ -56,6 +67,8 @@ constexpr GameFacts kGames[] = {
      .How = TreeTest::BaseAndHolds,
      .What = "sin",
      .BaseGameDir = "BASE",
+     .Data = {.MissionPacks = {"2015"}},
+     .WizardRow = wizard_row::kSin,
      .ScriptFilter = "SIN Scripts (*.cfg, *.sns)|*.cfg;*.sns|All Files (*.*)|*.*",
      .DemoFilter = kQuake2Demos,
      .ScriptExtension = ".sns",
@@ -67,6 +80,8 @@ constexpr GameFacts kGames[] = {
      .How = TreeTest::BaseAndHolds,
      .What = "heretic",
      .BaseGameDir = "BASE",
+     .Data = {.Within = {"htic2-*"}, .FullWithin = {"htic2-1.pak"}},
+     .WizardRow = wizard_row::kHeretic2,
      .ScriptFilter = kPlainScripts,
      .DemoFilter = kQuake2Demos,
      .ScriptExtension = ".cfg"},
@@ -74,21 +89,25 @@ constexpr GameFacts kGames[] = {
      .ScriptFamily = Dialect::Quake2,
      .Name = "Half-Life",
      .How = TreeTest::Below,
-     .What = "\\valve",
      .BaseGameDir = "VALVE",
+     .Data = {.Within = {"liblist.gam", "*.pak", "*.wad"},
+              .MissionPacks = {"gearbox", "bshift"},
+              .InPack = {"liblist.gam", "*.pak"}},
+     .WizardRow = wizard_row::kHalfLife,
      .ScriptFilter = kPlainScripts,
      .DemoFilter = kQuake2Demos,
      .ScriptExtension = ".cfg"},
 };
 
 bool IsHit(Files& files, TextView directory, const GameFacts& game) {
+    const auto hasBase = [&] { return files.DirectoryExists(Join(directory, "\\", BaseDirectoryOf(game))); };
     switch (game.How) {
         case TreeTest::Below:
-            return files.DirectoryExists(Join(directory, game.What));
+            return hasBase();
         case TreeTest::PathHolds:
             return Holds(UpperCase(directory), game.What);
         case TreeTest::BaseAndHolds:
-            return Holds(LowerCase(directory), game.What) && files.DirectoryExists(Join(directory, "\\base"));
+            return Holds(LowerCase(directory), game.What) && hasBase();
     }
     return false;
 }
@@ -97,6 +116,10 @@ bool IsHit(Files& files, TextView directory, const GameFacts& game) {
 
 std::span<const GameFacts> AllGames() {
     return kGames;
+}
+
+Text BaseDirectoryOf(const GameFacts& game) {
+    return LowerCase(game.BaseGameDir);
 }
 
 const GameFacts& FactsOf(Game game, std::span<const GameFacts> games) {

@@ -73,7 +73,7 @@ bool InUse(const SpyGames& games, const ScriptRow& row) {
 }
 
 Text ScriptPath(const SpyGames& games, const ScriptRow& row) {
-    return Join(games[row.DirectoryOf].Directory, SpySlots()[row.Slot].DataDirectory, "\\", kSpyScriptFile);
+    return Join(games[row.DirectoryOf].Directory, DataDirectoryOf(SpySlots()[row.Slot]), "\\", kSpyScriptFile);
 }
 
 /// False if a data directory is a link out of its game, and the user does not want it written to.

@@ -30,7 +30,7 @@ void FillExecutables(GameSpyConfig_Frm& form, std::size_t slot) {
     for (const ImageComboItem& item : form.Executables.Items) {
         const Text path = ReplaceSameLength(item.Key, "/", "\\");
         if (IsExecutableOf(slot, path) &&
-            form.run.System.Disk.DirectoryExists(Join(DirectoryOf(path), facts.DataDirectory))) {
+            form.run.System.Disk.DirectoryExists(Join(DirectoryOf(path), DataDirectoryOf(facts)))) {
             list.Items.push_back(MakeItem(item.Title, path));
         }
     }
@@ -44,7 +44,7 @@ std::vector<Text> ScriptRows(GameSpyConfig_Frm& form, std::size_t slot) {
     if (facts.Scripts == SpyScripts::None || !form.ExeSpy_Cbo[slot].HasSelection() || !catalog) {
         return {};
     }
-    const Text directory = LowerCase(Join(DirectoryOf(ExecutableOf(form, slot)), facts.DataDirectory));
+    const Text directory = LowerCase(Join(DirectoryOf(ExecutableOf(form, slot)), DataDirectoryOf(facts)));
     std::vector<Text> rows;
     for (std::size_t i = 0; i < catalog->Count(); ++i) {
         const Text path = Trim(catalog->Field(i, 1));

@@ -6,7 +6,7 @@
 
 #include <span>
 
-#include "foundation/text.h"
+#include "foundation/game.h"
 #include "games/places.h"
 
 namespace lv {
@@ -18,7 +18,7 @@ struct SpySlot {
     TextView Game;
     const char* CheckBox;  // nullptr: always wanted
     SpyScripts Scripts;
-    TextView DataDirectory;  // with its "\"; below the executable's. Empty: none is asked for
+    lv::Game DataOf;  // whose base directory must stand below the executable's; Game::None: none must
     TextView Batch;
     TextView Pif;
     TextView PifTemplate;
@@ -27,6 +27,9 @@ struct SpySlot {
 };
 
 std::span<const SpySlot, kSpySlots> SpySlots();
+
+/// "\ID1", below the executable's directory. Empty: none is asked for.
+Text DataDirectoryOf(const SpySlot& slot);
 
 /// Whether the path's file name is one of the slot's programs, letter case apart.
 bool IsExecutableOf(std::size_t slot, TextView path);

@@ -10,9 +10,6 @@ namespace lv {
 
 namespace {
 
-constexpr Game kGames[] = {Game::Quake, Game::Hexen2,   Game::Quake2,  Game::Unreal,
-                           Game::Sin,   Game::Heretic2, Game::HalfLife};
-
 Text Listed(const std::vector<Text>& names) {
     Text list;
     for (const Text& name : names) {
@@ -38,7 +35,7 @@ FoundGames LookAround(Run& run, const EngineTable& engines) {
 const GameTree* TreeOfRow(const FoundGames& found, std::size_t row) {
     const GameTree* first = nullptr;
     for (const GameTree& tree : found.Trees) {
-        if (WizardRowOf(tree.GameKind) != row) {
+        if (FactsOf(tree.GameKind).WizardRow != row) {
             continue;
         }
         if (tree.IsFull) {
@@ -50,8 +47,9 @@ const GameTree* TreeOfRow(const FoundGames& found, std::size_t row) {
 }
 
 bool PlaysRow(const Engine& engine, std::size_t row) {
-    return engine.Role != EngineRole::Server &&
-           std::ranges::any_of(kGames, [&](Game game) { return WizardRowOf(game) == row && Plays(engine, game); });
+    return engine.Role != EngineRole::Server && std::ranges::any_of(AllGames(), [&](const GameFacts& game) {
+               return game.WizardRow == row && Plays(engine, game.GameKind);
+           });
 }
 
 Text FoundText(const FoundGames& found) {

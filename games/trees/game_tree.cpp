@@ -1,51 +1,12 @@
 #include "games/trees/game_tree.h"
 
 #include <algorithm>
-#include <array>
-#include <span>
 
 #include "foundation/field_strings.h"
-#include "games/places.h"
 
 namespace lv {
 
 namespace {
-
-constexpr std::size_t kMostMarks = 3;
-constexpr std::size_t kMostPacks = 4;
-
-// Names and the "*.pak" of patterns, in lower case; a "*" stands at the start or at the end.
-using Marks = std::array<TextView, kMostMarks>;
-using Packs = std::array<TextView, kMostPacks>;
-
-struct TreeRow {
-    Game GameKind;
-    TextView Base;
-    Marks Within;       // one of these lies in the base directory
-    Marks FullWithin;   // one of these too if it is the full game; none: it always is
-    Marks FullBeside;   // or one of these beside the base directory
-    TextView NotThere;  // lies in the base directory of another game
-    Packs MissionPacks;
-    Marks InPack;  // one of these lies in a mission pack's directory
-    std::size_t WizardRow;
-};
-
-// In the order in which a directory is tested for a game everywhere.
-// clang-format off
-constexpr TreeRow kRows[] = {
-    // game            base      archives                             full with          or beside it       not with    mission packs                        with                     wizard's row
-    {Game::Quake,    "id1",    {"*.pak"},                         {"pak1.pak"},     {"quakeex.kpf"},   "",         {"hipnotic", "rogue", "dopa", "mg1"}, {"*.pak"},               wizard_row::kQuake},
-    {Game::Hexen2,   "data1",  {"*.pak"},                         {"pak1.pak"},     {},                "",         {"portals", "hw"},                    {"*.pak"},               wizard_row::kHexen2},
-    {Game::Quake2,   "baseq2", {"*.pak"},                         {"pak1.pak"},     {"q2game.kpf"},    "",         {"xatrix", "rogue"},                  {"*.pak"},               wizard_row::kQuake2},
-    {Game::Unreal,   "system", {"unreal.exe", "unrealshare.u"},   {},               {},                "botpack.u", {},                                  {},                      wizard_row::kUnreal},
-    {Game::Sin,      "base",   {"*.sin"},                         {},               {},                "",         {"2015"},                             {"*.sin"},               wizard_row::kSin},
-    {Game::Heretic2, "base",   {"htic2-*"},                       {"htic2-1.pak"},  {},                "",         {},                                   {},                      wizard_row::kHeretic2},
-    {Game::HalfLife, "valve",  {"liblist.gam", "*.pak", "*.wad"}, {},               {},                "",         {"gearbox", "bshift"},                {"liblist.gam", "*.pak"}, wizard_row::kHalfLife},
-};
-// clang-format on
-
-// Without these it is a directory of that name and no more.
-constexpr TextView kUnrealMaps = "maps";
 
 using Entries = std::vector<DirectoryEntry>;
 
@@ -60,12 +21,12 @@ bool Fits(TextView name, TextView mark) {
     return SameText(name, mark);
 }
 
-bool IsFileLike(const DirectoryEntry& entry, const Marks& marks) {
+bool IsFileLike(const DirectoryEntry& entry, const FileMarks& marks) {
     const auto fits = [&](TextView mark) { return !mark.empty() && Fits(entry.Name, mark); };
     return !entry.IsDirectory && !entry.IsDevice && std::ranges::any_of(marks, fits);
 }
 
-bool HasFileLike(const Entries& entries, const Marks& marks) {
+bool HasFileLike(const Entries& entries, const FileMarks& marks) {
     return std::ranges::any_of(entries, [&](const DirectoryEntry& entry) { return IsFileLike(entry, marks); });
 }
 
@@ -85,25 +46,31 @@ Text Below(TextView directory, TextView name) {
     return Join(directory, directory.ends_with('\\') ? "" : "\\", name);
 }
 
+FileMarks OrArchives(const FileMarks& marks, const GameFacts& game) {
+    return marks.front().empty() ? FileMarks{game.Archives} : marks;
+}
+
 bool IsLower(TextView name) {
     return LowerCase(name) == name;
 }
 
-bool AreArchivesLower(const Entries& within, const Marks& archives) {
+bool AreArchivesLower(const Entries& within, const FileMarks& archives) {
     return std::ranges::all_of(
         within, [&](const DirectoryEntry& entry) { return !IsFileLike(entry, archives) || IsLower(entry.Name); });
 }
 
-bool IsFull(const TreeRow& row, const Entries& beside, const Entries& within) {
-    return row.FullWithin.front().empty() || HasFileLike(within, row.FullWithin) || HasFileLike(beside, row.FullBeside);
+bool IsFull(const DataMarks& data, const Entries& beside, const Entries& within) {
+    return data.FullWithin.front().empty() || HasFileLike(within, data.FullWithin) ||
+           HasFileLike(beside, data.FullBeside);
 }
 
-std::vector<Text> MissionPacksIn(Files& files, TextView directory, const Entries& entries, const TreeRow& row) {
+std::vector<Text> MissionPacksIn(Files& files, TextView directory, const Entries& entries, const GameFacts& game) {
+    const FileMarks inPack = OrArchives(game.Data.InPack, game);
     std::vector<Text> packs;
-    for (const TextView pack : row.MissionPacks) {
+    for (const TextView pack : game.Data.MissionPacks) {
         const auto names = pack.empty() ? std::vector<Text>() : DirectoriesCalled(entries, pack);
         const auto hasArchive = [&](const Text& name) {
-            return HasFileLike(files.List(Below(directory, name)).Value, row.InPack);
+            return HasFileLike(files.List(Below(directory, name)).Value, inPack);
         };
         if (const auto found = std::ranges::find_if(names, hasArchive); found != names.end()) {
             packs.push_back(*found);
@@ -112,31 +79,34 @@ std::vector<Text> MissionPacksIn(Files& files, TextView directory, const Entries
     return packs;
 }
 
-std::optional<GameTree> TreeOf(Files& files, TextView directory, const Entries& entries, const TreeRow& row) {
-    if (row.GameKind == Game::Unreal && DirectoriesCalled(entries, kUnrealMaps).empty()) {
+std::optional<GameTree> TreeOf(Files& files, TextView directory, const Entries& entries, const GameFacts& game) {
+    const DataMarks& data = game.Data;
+    if (!data.Beside.empty() && DirectoriesCalled(entries, data.Beside).empty()) {
         return std::nullopt;
     }
-    for (const Text& base : DirectoriesCalled(entries, row.Base)) {
+    const FileMarks marks = OrArchives(data.Within, game);
+    for (const Text& base :
+         DirectoriesCalled(entries, data.Directory.empty() ? BaseDirectoryOf(game) : Text(data.Directory))) {
         const Entries within = files.List(Below(directory, base)).Value;
-        if (!HasFileLike(within, row.Within) || HasFileLike(within, {row.NotThere})) {
+        if (!HasFileLike(within, marks) || HasFileLike(within, {data.NotThere})) {
             continue;
         }
-        const bool anyCase = row.GameKind == Game::Unreal;
-        return GameTree{.GameKind = row.GameKind,
+        return GameTree{.GameKind = game.GameKind,
                         .Directory = Text(directory),
                         .BaseGameDir = base,
-                        .IsFull = IsFull(row, entries, within),
-                        .IsSpelledForToday = anyCase || (IsLower(base) && AreArchivesLower(within, row.Within)),
-                        .MissionPacks = MissionPacksIn(files, directory, entries, row)};
+                        .IsFull = IsFull(data, entries, within),
+                        .IsSpelledForToday = data.AnyCase || (IsLower(base) && AreArchivesLower(within, marks)),
+                        .MissionPacks = MissionPacksIn(files, directory, entries, game)};
     }
     return std::nullopt;
 }
 
 }  // namespace
 
-std::optional<GameTree> TreeIn(Files& files, TextView directory, const Entries& entries) {
-    for (const TreeRow& row : kRows) {
-        if (auto tree = TreeOf(files, directory, entries, row)) {
+std::optional<GameTree> TreeIn(Files& files, TextView directory, const Entries& entries,
+                               std::span<const GameFacts> games) {
+    for (const GameFacts& game : games) {
+        if (auto tree = TreeOf(files, directory, entries, game)) {
             return tree;
         }
     }
@@ -149,11 +119,6 @@ std::optional<GameTree> TreeIn(Files& files, TextView directory) {
 
 Text ProgramDirectoryOf(const GameTree& tree) {
     return tree.GameKind == Game::Unreal ? Below(tree.Directory, tree.BaseGameDir) : tree.Directory;
-}
-
-std::size_t WizardRowOf(Game game) {
-    const auto row = std::ranges::find(kRows, game, &TreeRow::GameKind);
-    return row == std::end(kRows) ? kWizardRows : row->WizardRow;
 }
 
 }  // namespace lv

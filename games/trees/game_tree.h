@@ -5,11 +5,11 @@
 
 #pragma once
 
-#include <cstddef>
 #include <optional>
+#include <span>
 #include <vector>
 
-#include "foundation/game.h"
+#include "games/games.h"
 #include "platform/files.h"
 
 namespace lv {
@@ -25,15 +25,13 @@ struct GameTree {
     std::vector<Text> MissionPacks{};  // directories beside the base directory, as they are spelled
 };
 
-/// The tree in the directory, or nothing. Of several games in one directory the first of the order in which directories
-/// are tested for games everywhere, less those whose base directory holds no archive. `entries` are the directory's.
-std::optional<GameTree> TreeIn(Files& files, TextView directory, const std::vector<DirectoryEntry>& entries);
+/// The tree in the directory, or nothing. Of several games in one directory the first of the table, less those whose
+/// base directory holds no archive. `entries` are the directory's.
+std::optional<GameTree> TreeIn(Files& files, TextView directory, const std::vector<DirectoryEntry>& entries,
+                               std::span<const GameFacts> games = AllGames());
 std::optional<GameTree> TreeIn(Files& files, TextView directory);
 
 /// Where the game's own programs lie, without a "\" at the end: what the wizard asks for.
 Text ProgramDirectoryOf(const GameTree& tree);
-
-/// The row of the wizard's window that asks for the game.
-std::size_t WizardRowOf(Game game);
 
 }  // namespace lv

@@ -6,6 +6,7 @@
 
 #include "games/games.h"
 #include "games/programs.h"
+#include "games/trees/game_tree.h"
 #include "platform/memory/memory_platform.h"
 
 namespace lv {
@@ -22,8 +23,9 @@ class AnotherGame : public ::testing::Test {
                          .ScriptFamily = Dialect::Quake2,
                          .Name = "Rubicon",
                          .How = TreeTest::Below,
-                         .What = "\\data",
                          .BaseGameDir = "DATA",
+                         .Data = {.FullWithin = {"data2.pak"}, .MissionPacks = {"more"}},
+                         .WizardRow = kItsRow,
                          .ScriptFilter = "Rubicon Scripts (*.cfg)|*.cfg",
                          .DemoFilter = "",
                          .ScriptExtension = ".cfg"});
@@ -49,6 +51,20 @@ TEST_F(AnotherGame, IsToldByItsDirectory) {
     EXPECT_EQ(facts.ScriptFamily, Dialect::Quake2);
     EXPECT_EQ(facts.BaseGameDir, "DATA");
     EXPECT_EQ(FactsOfDirectory(disk, "C:\\RUBICON").GameKind, Game::None);
+}
+
+TEST_F(AnotherGame, IsFoundByItsData) {
+    disk.AddFile("C:\\RUBICON\\Data\\data1.pak");
+    disk.AddFile("C:\\RUBICON\\More\\more.pak");
+    const auto entries = disk.List("C:\\RUBICON").Value;
+    const auto tree = TreeIn(disk, "C:\\RUBICON", entries, games);
+    ASSERT_TRUE(tree);
+    EXPECT_EQ(tree->GameKind, kRubicon);
+    EXPECT_FALSE(tree->IsFull);
+    EXPECT_EQ(tree->MissionPacks, (std::vector<Text>{"More"}));
+    EXPECT_FALSE(TreeIn(disk, "C:\\RUBICON", entries));
+    disk.AddFile("C:\\RUBICON\\Data\\data2.pak");
+    EXPECT_TRUE(TreeIn(disk, "C:\\RUBICON", entries, games)->IsFull);
 }
 
 TEST_F(AnotherGame, HasItsNameAndItsFilters) {

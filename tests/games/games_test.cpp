@@ -64,6 +64,27 @@ TEST(FactsOf, NamesAGameAsQuestionsDo) {
     EXPECT_EQ(FactsOf(Game::HalfLife).Name, "Half-Life");
 }
 
+TEST(FactsOf, KnowsTheWizardsRow) {
+    EXPECT_EQ(FactsOf(Game::Quake).WizardRow, 0U);
+    EXPECT_EQ(FactsOf(Game::Hexen2).WizardRow, 1U);
+    EXPECT_EQ(FactsOf(Game::Quake2).WizardRow, 2U);
+    EXPECT_EQ(FactsOf(Game::Unreal).WizardRow, 3U);
+    EXPECT_EQ(FactsOf(Game::Sin).WizardRow, 4U);
+    EXPECT_EQ(FactsOf(Game::Heretic2).WizardRow, 5U);
+    EXPECT_EQ(FactsOf(Game::HalfLife).WizardRow, 8U);
+    EXPECT_EQ(FactsOf(Game::None).WizardRow, kWizardRows);
+}
+
+TEST(BaseDirectoryOf, IsInLowerCase) {
+    EXPECT_EQ(BaseDirectoryOf(FactsOf(Game::Quake)), "id1");
+    EXPECT_EQ(BaseDirectoryOf(FactsOf(Game::Hexen2)), "data1");
+    EXPECT_EQ(BaseDirectoryOf(FactsOf(Game::Quake2)), "baseq2");
+    EXPECT_EQ(BaseDirectoryOf(FactsOf(Game::Unreal)), "maps");
+    EXPECT_EQ(BaseDirectoryOf(FactsOf(Game::Sin)), "base");
+    EXPECT_EQ(BaseDirectoryOf(FactsOf(Game::Heretic2)), "base");
+    EXPECT_EQ(BaseDirectoryOf(FactsOf(Game::HalfLife)), "valve");
+}
+
 TEST(FactsOf, OnlySinHasArchivesOfItsOwn) {
     for (const GameFacts& game : AllGames()) {
         const bool isSin = game.GameKind == Game::Sin;

@@ -29,7 +29,7 @@ TEST_P(SpySlotTable, HoldsThisRow) {
         EXPECT_EQ(IsExecutableOf(slot, file), !file.empty()) << file;
     }
     EXPECT_EQ(row.Scripts, written.Scripts);
-    EXPECT_EQ(row.DataDirectory, written.DataDirectory);
+    EXPECT_EQ(DataDirectoryOf(row), written.DataDirectory);
     EXPECT_EQ(row.Batch, written.Batch);
     EXPECT_EQ(row.Pif, written.Pif);
     EXPECT_EQ(row.PifTemplate, written.PifTemplate);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "games/places.h"
 #include "platform/memory/memory_platform.h"
 
 namespace lv {
@@ -117,17 +116,6 @@ TEST(GameTree, NamesItsMissionPacks) {
     EXPECT_EQ(TreeWith({"valve\\liblist.gam", "gearbox\\liblist.gam", "bshift\\pak0.pak"})->MissionPacks,
               (Names{"gearbox", "bshift"}));
     EXPECT_EQ(TreeWith({"id1\\pak0.pak", "rogue\\config.cfg"})->MissionPacks, Names());
-}
-
-TEST(GameTree, BelongsToARowOfTheWizard) {
-    EXPECT_EQ(WizardRowOf(Game::Quake), wizard_row::kQuake);
-    EXPECT_EQ(WizardRowOf(Game::Hexen2), wizard_row::kHexen2);
-    EXPECT_EQ(WizardRowOf(Game::Quake2), wizard_row::kQuake2);
-    EXPECT_EQ(WizardRowOf(Game::Unreal), wizard_row::kUnreal);
-    EXPECT_EQ(WizardRowOf(Game::Sin), wizard_row::kSin);
-    EXPECT_EQ(WizardRowOf(Game::Heretic2), wizard_row::kHeretic2);
-    EXPECT_EQ(WizardRowOf(Game::HalfLife), wizard_row::kHalfLife);
-    EXPECT_EQ(WizardRowOf(Game::None), kWizardRows);
 }
 
 }  // namespace lv
