@@ -196,6 +196,10 @@ Text DirectoryOf(TextView path) {
     return at == kNone ? Text() : Text(path.substr(0, at));
 }
 
+Text PathBelow(TextView directory, TextView name) {
+    return Join(directory, directory.ends_with('\\') ? "" : "\\", name);
+}
+
 bool Holds(TextView text, TextView find) {
     return text.find(find) != kNone;
 }

@@ -66,6 +66,9 @@ Text LastPathPart(TextView path);
 /// The path without its last part and the "\" before that.
 Text DirectoryOf(TextView path);
 
+/// The path of `name` in the directory, which may end in a "\".
+Text PathBelow(TextView directory, TextView name);
+
 /// Whether `find` occurs in `text`, case and all.
 bool Holds(TextView text, TextView find);
 

@@ -18,7 +18,7 @@ Text TypedName(const Run& run, TextView typed, TextView directory) {
 }
 
 Text NameBelow(TextView directory, TextView path) {
-    const Text above = directory.ends_with('\\') ? Text(directory) : Join(directory, "\\");
+    const Text above = PathBelow(directory, "");
     const bool below = path.size() > above.size() && SameText(path.substr(0, above.size()), above);
     return below ? Text(path.substr(above.size())) : Text();
 }

@@ -14,7 +14,7 @@ namespace {
 
 Text TargetOf(const Text& directory, const Text& name) {
     const Text whole = Holds(name, ".") ? name : Join(name, ".cfg");
-    return directory.ends_with('\\') ? Join(directory, whole) : Join(directory, "\\", whole);
+    return PathBelow(directory, whole);
 }
 
 Text PromptFor(bool exists, bool sameDirectory) {

@@ -25,10 +25,6 @@ Text RootOf(TextView drive) {
     return Join(drive.substr(0, 2), "\\");
 }
 
-Text Below(const Text& directory, TextView name) {
-    return directory.ends_with('\\') ? Join(directory, name) : Join(directory, "\\", name);
-}
-
 Text WithoutSlash(TextView path) {
     return Text(path.size() > 3 && path.ends_with('\\') ? path.substr(0, path.size() - 1) : path);
 }
@@ -47,7 +43,7 @@ int AddWayDown(Path_Frm& form, const Text& path) {
     for (std::size_t begin = 3; begin < path.size();) {
         const std::size_t end = std::min(path.find('\\', begin), path.size());
         const Text name = path.substr(begin, end - begin);
-        at = Below(at, name);
+        at = PathBelow(at, name);
         AddRow(form, name, at, level++);
         begin = end + 1;
     }
@@ -75,7 +71,7 @@ Error GoTo(Path_Frm& form, TextView wanted) {
     const int level = AddWayDown(form, path);
     form.Dir1.ListIndex = level - 1;
     for (const Text& name : SortedDirectories(listed.Value)) {
-        AddRow(form, name, Below(path, name), level);
+        AddRow(form, name, PathBelow(path, name), level);
     }
     form.Path_Lbl.Caption = path;
     form.Drive1.ListIndex = DriveRowOf(form, path);

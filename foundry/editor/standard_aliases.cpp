@@ -99,7 +99,7 @@ bool WriteStandardAliasFiles(Fig_Frm& form, std::size_t entry) {
     }
     Run& run = form.run;
     const Text directory = ScriptDirectory(run);
-    const Text path = Join(directory, directory.ends_with('\\') ? TextView() : TextView("\\"), kScrollFile);
+    const Text path = PathBelow(directory, kScrollFile);
     const Text script = NameScrollScript(form.Document.Name_Txt.Text, run.System.Time.Now());
     if (!MayPutOwnFile(run, path, GameTreeOf(run, path))) {
         return false;

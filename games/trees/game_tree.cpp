@@ -42,10 +42,6 @@ std::vector<Text> DirectoriesCalled(const Entries& entries, TextView name) {
     return found;
 }
 
-Text Below(TextView directory, TextView name) {
-    return Join(directory, directory.ends_with('\\') ? "" : "\\", name);
-}
-
 FileMarks OrArchives(const FileMarks& marks, const GameFacts& game) {
     return marks.front().empty() ? FileMarks{game.Archives} : marks;
 }
@@ -70,7 +66,7 @@ std::vector<Text> MissionPacksIn(Files& files, TextView directory, const Entries
     for (const TextView pack : game.Data.MissionPacks) {
         const auto names = pack.empty() ? std::vector<Text>() : DirectoriesCalled(entries, pack);
         const auto hasArchive = [&](const Text& name) {
-            return HasFileLike(files.List(Below(directory, name)).Value, inPack);
+            return HasFileLike(files.List(PathBelow(directory, name)).Value, inPack);
         };
         if (const auto found = std::ranges::find_if(names, hasArchive); found != names.end()) {
             packs.push_back(*found);
@@ -87,7 +83,7 @@ std::optional<GameTree> TreeOf(Files& files, TextView directory, const Entries& 
     const FileMarks marks = OrArchives(data.Within, game);
     for (const Text& base :
          DirectoriesCalled(entries, data.Directory.empty() ? BaseDirectoryOf(game) : Text(data.Directory))) {
-        const Entries within = files.List(Below(directory, base)).Value;
+        const Entries within = files.List(PathBelow(directory, base)).Value;
         if (!HasFileLike(within, marks) || HasFileLike(within, {data.NotThere})) {
             continue;
         }
@@ -118,7 +114,7 @@ std::optional<GameTree> TreeIn(Files& files, TextView directory) {
 }
 
 Text ProgramDirectoryOf(const GameTree& tree) {
-    return tree.GameKind == Game::Unreal ? Below(tree.Directory, tree.BaseGameDir) : tree.Directory;
+    return tree.GameKind == Game::Unreal ? PathBelow(tree.Directory, tree.BaseGameDir) : tree.Directory;
 }
 
 }  // namespace lv

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "foundation/field_strings.h"
 #include "games/trees/steam_games.h"
 
 namespace lv {
@@ -47,10 +48,6 @@ bool IsPassedOver(TextView name) {
            std::ranges::any_of(kPassedOver, [&](TextView each) { return SameText(each, name); });
 }
 
-Text Below(TextView directory, TextView name) {
-    return Join(directory, directory.ends_with('\\') ? "" : "\\", name);
-}
-
 bool ComesBefore(const Text& a, const Text& b) {
     const Text lowerA = LowerCase(a);
     const Text lowerB = LowerCase(b);
@@ -86,7 +83,7 @@ void TreeSearch::AddPrefix(TextView prefix) {
     const Text drive = Nearest(Join(prefix, "\\drive_c"));
     const auto tops = files_.List(drive).Value;
     for (const DirectoryEntry& top : tops) {
-        const Text steam = Join(Below(drive, top.Name), "\\Steam");
+        const Text steam = Join(PathBelow(drive, top.Name), "\\Steam");
         if (top.IsDirectory && StartsWithText(top.Name, kHoldsPrograms) && files_.DirectoryExists(steam)) {
             AddSteam(steam);
         }
@@ -94,7 +91,7 @@ void TreeSearch::AddPrefix(TextView prefix) {
     for (const PrefixPlace& place : kInPrefix) {
         for (const DirectoryEntry& top : tops) {
             if (top.IsDirectory && SameText(top.Name, place.Top)) {
-                AddIfThere(Join(Below(drive, top.Name), place.Path), place.Depth);
+                AddIfThere(Join(PathBelow(drive, top.Name), place.Path), place.Depth);
             }
         }
     }
@@ -218,7 +215,7 @@ void TreeSearch::AddBelow(const Waiting& place, const std::vector<DirectoryEntry
     }
     std::ranges::sort(names, ComesBefore);
     for (const Text& name : names) {
-        waiting_.push_back({Below(place.Path, name), std::max(place.Depth - 1, 0)});
+        waiting_.push_back({PathBelow(place.Path, name), std::max(place.Depth - 1, 0)});
     }
 }
 

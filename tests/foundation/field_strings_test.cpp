@@ -334,6 +334,13 @@ TEST(DirectoryOf, IsThePathWithoutItsLastPart) {
     EXPECT_EQ(DirectoryOf("quake.exe"), "");
 }
 
+TEST(PathBelow, HasOneBackslashBetweenDirectoryAndName) {
+    EXPECT_EQ(PathBelow("C:\\QUAKE", "id1"), "C:\\QUAKE\\id1");
+    EXPECT_EQ(PathBelow("C:\\", "QUAKE"), "C:\\QUAKE");
+    EXPECT_EQ(PathBelow("C:\\QUAKE", ""), "C:\\QUAKE\\");
+    EXPECT_EQ(PathBelow("C:\\QUAKE\\", ""), "C:\\QUAKE\\");
+}
+
 TEST(Holds, IsCaseSensitive) {
     EXPECT_TRUE(Holds("c:\\sinistar", "sin"));
     EXPECT_FALSE(Holds("c:\\sinistar", "SIN"));
