@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include "foundation/field_strings.h"
+#include "games/trees/tree_room.h"
 
 namespace lv {
 
@@ -20,32 +22,6 @@ bool IsWrittenByGames(TextView name) {
     });
 }
 
-Text Below(TextView directory, TextView name) {
-    return Join(directory, directory.ends_with('\\') ? "" : "\\", name);
-}
-
-// By the host's word, so that two ways to one directory are one.
-Text RealPath(Files& files, TextView path) {
-    Text real = files.FromHost(files.ToHost(path));
-    return real.empty() ? Text(path) : real;
-}
-
-bool LiesWithin(TextView path, TextView directory) {
-    return SameText(path, directory) || StartsWithText(path, Below(directory, ""));
-}
-
-Error MakeDirectories(Files& files, TextView path) {
-    if (files.DirectoryExists(path)) {
-        return {};
-    }
-    if (const std::size_t above = path.rfind('\\'); above != TextView::npos && above > 2) {
-        if (Error failed = MakeDirectories(files, path.substr(0, above))) {
-            return failed;
-        }
-    }
-    return files.MakeDirectory(path);
-}
-
 // What stands in a directory, by name in lower case.
 template <class Entry>
 using Names = std::map<Text, Entry>;
@@ -58,7 +34,7 @@ class Linking {
         : files_(files), tree_(tree), own_(own), lowers_(tree.GameKind != Game::Unreal), goesOn_(goesOn) {}
 
     LinkedTree Run() {
-        done_.Fault = Prepare();
+        done_.Fault = MakeLinkRoom(files_, tree_.Directory, own_);
         if (!done_.Fault) {
             LinkDirectories({}, own_, 0);
         }
@@ -66,27 +42,6 @@ class Linking {
     }
 
   private:
-    Error Prepare() {
-        if (!files_.DirectoryExists(tree_.Directory)) {
-            return MakeError(error::kPathNotFound, tree_.Directory);
-        }
-        const Text tree = RealPath(files_, tree_.Directory);
-        const Text own = RealPathToBe(own_);
-        if (LiesWithin(own, tree) || LiesWithin(tree, own)) {
-            return MakeError(error::kPathFileAccess, own_);
-        }
-        return MakeDirectories(files_, own_);
-    }
-
-    // The real path of what is there, and the names that are still to be made.
-    [[nodiscard]] Text RealPathToBe(const Text& path) const {
-        const std::size_t above = path.rfind('\\');
-        if (above == Text::npos || above <= 2 || files_.DirectoryExists(path)) {
-            return RealPath(files_, path);
-        }
-        return Below(RealPathToBe(path.substr(0, above)), path.substr(above + 1));
-    }
-
     [[nodiscard]] Text Spelled(TextView name) const { return lowers_ ? LowerCase(name) : Text(name); }
 
     // Of two that differ by letter case alone the one that is spelled right counts.
@@ -103,10 +58,9 @@ class Linking {
         return names;
     }
 
-    [[nodiscard]] Wanted WantedIn(const Text& below) const { return ByName(files_.List(InTree(below)).Value); }
     [[nodiscard]] Own OwnIn(const Text& own) const { return ByName(files_.ListLinks(own, tree_.Directory).Value); }
     [[nodiscard]] Text InTree(const Text& below) const {
-        return below.empty() ? tree_.Directory : Below(tree_.Directory, below);
+        return below.empty() ? tree_.Directory : PathBelow(tree_.Directory, below);
     }
 
     // False, and noted, once the work is to end.
@@ -120,7 +74,12 @@ class Linking {
 
     // At the top only directories are game directories; the files beside them belong to programs.
     void LinkDirectories(const Text& below, const Text& own, int depth) {
-        const Wanted wanted = WantedIn(below);
+        auto listed = files_.List(InTree(below));
+        if (!listed.Ok() && listed.Fault.Number != error::kPathNotFound) {
+            done_.IsWhole = false;  // what cannot be read has not gone
+            return;
+        }
+        const Wanted wanted = ByName(std::move(listed.Value));
         Own there = OwnIn(own);
         if (depth > 0) {
             if (RemoveGone(own, there) > 0) {
@@ -133,13 +92,13 @@ class Linking {
                 return;
             }
             if (entry.IsDirectory && !(depth == 0 && key == kRerelease)) {
-                LinkDirectory(below.empty() ? entry.Name : Below(below, entry.Name), own, Spelled(entry.Name), there,
-                              depth);
+                LinkDirectory(below.empty() ? entry.Name : PathBelow(below, entry.Name), own, Spelled(entry.Name),
+                              there, depth);
             }
         }
         for (const auto& [key, entry] : there) {
             if (IsOwnDirectory(entry) && !wanted.contains(key) && GoesOn()) {
-                RemoveGoneBelow(Below(own, entry.Name), depth + 1);
+                RemoveGoneBelow(PathBelow(own, entry.Name), depth + 1);
             }
         }
     }
@@ -154,7 +113,7 @@ class Linking {
             ++done_.Kept;
             return;
         }
-        const Text own = Below(above, found == there.end() ? name : found->second.Name);
+        const Text own = PathBelow(above, found == there.end() ? name : found->second.Name);
         if (found == there.end()) {
             done_.Fault = files_.MakeDirectory(own);
         }
@@ -176,7 +135,7 @@ class Linking {
                 return;
             }
             const auto found = there.find(key);
-            LinkFile(Below(below, entry.Name), own, Spelled(entry.Name),
+            LinkFile(PathBelow(below, entry.Name), own, Spelled(entry.Name),
                      found == there.end() ? nullptr : &found->second);
         }
     }
@@ -184,14 +143,14 @@ class Linking {
     void LinkFile(const Text& below, const Text& own, const Text& name, const LinkedEntry* there) {
         if (IsWrittenByGames(name)) {
             if (there == nullptr) {
-                done_.Fault = files_.Copy(InTree(below), Below(own, name));
+                done_.Fault = files_.Copy(InTree(below), PathBelow(own, name));
                 done_.Copied += done_.Fault ? 0 : 1;
             }
             return;
         }
         const Text target = InTree(below);
         if (there != nullptr) {
-            const Text path = Below(own, there->Name);
+            const Text path = PathBelow(own, there->Name);
             const bool isOurs = !there->LeadsInto.empty();
             const bool leadsThere = isOurs ? there->LeadsInto == below : files_.IsLinkTo(path, target);
             if (leadsThere && there->Name == name) {
@@ -204,7 +163,7 @@ class Linking {
             done_.Fault = files_.Delete(path);
         }
         if (!done_.Fault) {
-            done_.Fault = files_.Link(target, Below(own, name));
+            done_.Fault = files_.Link(target, PathBelow(own, name));
             done_.Made += done_.Fault ? 0 : 1;
         }
         if (done_.Fault && !files_.FileExists(target)) {
@@ -217,7 +176,7 @@ class Linking {
     std::size_t RemoveGone(const Text& own, const Own& there) {
         std::size_t removed = 0;
         for (const auto& [key, entry] : there) {
-            if (entry.IsGone && !entry.LeadsInto.empty() && !files_.Delete(Below(own, entry.Name))) {
+            if (entry.IsGone && !entry.LeadsInto.empty() && !files_.Delete(PathBelow(own, entry.Name))) {
                 ++removed;
             }
         }
@@ -235,7 +194,7 @@ class Linking {
         RemoveGone(own, there);
         for (const auto& [key, entry] : there) {
             if (IsOwnDirectory(entry)) {
-                RemoveGoneBelow(Below(own, entry.Name), depth + 1);
+                RemoveGoneBelow(PathBelow(own, entry.Name), depth + 1);
             }
         }
         if (done_.Removed > before && OwnIn(own).empty()) {

@@ -37,7 +37,8 @@ bool LinksAreUpToDate(Run& run, TextView directory) {
     if (!refresh.Done.IsWhole) {
         AskUserUnlessTold(run, "LinksNotWhole", "Links Not Up To Date",
                           AboutSource("Not all files could be linked of the game in", refresh.Source,
-                                      "There are too many, or their disk is slow. What is new there may be missing."));
+                                      Join("There are too many, their disk is slow, or a directory cannot be read.",
+                                           NewLine, "What is new there may be missing.")));
     }
     return true;
 }

@@ -228,6 +228,17 @@ TEST(LinkTree, PassesOverALinkToWhatHasGone) {
     EXPECT_EQ(made.In("C:\\LINKED\\QUAKE\\id1"), (Names{"maps", "pak0.pak", "pak1.pak"}));
 }
 
+TEST(LinkTree, LeavesTheLinksToADirectoryThatCannotBeRead) {
+    OldTree made;
+    made.Link();
+    ASSERT_EQ(made.Disk.Delete("Z:\\share\\quake\\hipnotic\\pak0.pak").Number, 0);
+    made.Disk.Unreadable.insert("z:\\share\\quake\\hipnotic");
+    const LinkedTree done = made.Link();
+    EXPECT_FALSE(done.IsWhole);
+    EXPECT_EQ(done.Removed, 0u);
+    EXPECT_EQ(made.In("C:\\LINKED\\QUAKE\\hipnotic"), (Names{"pak0.pak"}));
+}
+
 TEST(LinkTree, EndsWhereItIsNotToGoOn) {
     OldTree made;
     made.Disk.AddFileLink("C:\\LINKED\\QUAKE\\mod\\gone.pak", "Z:\\share\\quake\\mod\\gone.pak");

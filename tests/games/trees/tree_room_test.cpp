@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/memory/memory_files.h"
+
 namespace lv {
 
 TEST(TreeRoom, NamesADirectoryAfterTheTree) {
@@ -23,6 +25,25 @@ TEST(TreeRoom, IsKnownByItsPlace) {
 
 TEST(TreeRoom, HoldsNoSemicolonForTheCatalog) {
     EXPECT_EQ(LinkedTreeDirectory("Z:\\a;b").find(';'), Text::npos);
+}
+
+TEST(MakeLinkRoom, MakesTheDirectoryWithThoseAboveIt) {
+    MemoryFiles disk;
+    disk.AddDrive("C:");
+    disk.AddDirectory("Z:\\quake");
+    EXPECT_EQ(MakeLinkRoom(disk, "Z:\\quake", "C:\\a\\b").Number, 0);
+    EXPECT_TRUE(disk.DirectoryExists("C:\\a\\b"));
+    EXPECT_EQ(MakeLinkRoom(disk, "Z:\\quake", "C:\\a\\b").Number, 0);
+}
+
+TEST(MakeLinkRoom, RefusesOneInTheOther) {
+    MemoryFiles disk;
+    disk.AddDrive("C:");
+    disk.AddDirectory("C:\\games\\quake");
+    EXPECT_EQ(MakeLinkRoom(disk, "C:\\games\\quake", "C:\\games\\quake\\links").Number, 75);
+    EXPECT_EQ(MakeLinkRoom(disk, "C:\\games\\quake", "C:\\games").Number, 75);
+    EXPECT_FALSE(disk.DirectoryExists("C:\\games\\quake\\links"));
+    EXPECT_EQ(MakeLinkRoom(disk, "C:\\games\\none", "C:\\links").Number, 76);
 }
 
 }  // namespace lv
