@@ -120,6 +120,17 @@ TEST(LinuxFiles, KnowADirectoryAgainBehindALink) {
     EXPECT_EQ(home.Disk.ListForWalk(OnZ(home.C / "real")).Value.Identity, real.Value.Identity);
 }
 
+TEST(LinuxFiles, AreWalkedAsTheyAreSpelledAndOtherwise) {
+    Home home;
+    fs::create_directories(home.C / "Games/Quake");
+    ASSERT_TRUE(home.Disk.ListForWalk("C:\\").Ok());
+    const auto spelled = home.Disk.ListForWalk("C:\\Games\\Quake");
+    ASSERT_TRUE(spelled.Ok());
+    EXPECT_EQ(home.Disk.ListForWalk("c:\\GAMES\\quake").Value.Identity, spelled.Value.Identity);
+    EXPECT_EQ(home.Disk.ListForWalk("C:\\Games\\x\\..\\Quake").Value.Identity, spelled.Value.Identity);
+    EXPECT_EQ(home.Disk.ListForWalk("C:\\Games\\none").Fault.Number, 76);
+}
+
 TEST(LinuxFiles, AreNotWalkedInTheKernelsOwn) {
     Home home;
     for (const char* const path : {"Z:\\proc", "Z:\\sys", "Z:\\dev"}) {

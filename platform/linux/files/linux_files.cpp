@@ -93,15 +93,25 @@ Result<std::vector<DirectoryEntry>> LinuxFiles::List(std::string_view directory)
 }
 
 Result<WalkedDirectory> LinuxFiles::ListForWalk(std::string_view directory) {
-    const auto place = Find(directory);
+    std::string host = walkedDrive_.HostPathOf(directory);
     struct stat info {};
-    if (!place || stat(place->Host.c_str(), &info) != 0 || !S_ISDIR(info.st_mode)) {
+    if (host.empty() || stat(host.c_str(), &info) != 0) {
+        const auto place = Find(directory);
+        if (!place || stat(place->Host.c_str(), &info) != 0) {
+            return MakeError(error::kPathNotFound);
+        }
+        host = place->Host;
+        if (place->Path.Parts.empty()) {
+            walkedDrive_.Enter(place->Path.Letter, place->Root);
+        }
+    }
+    if (!S_ISDIR(info.st_mode)) {
         return MakeError(error::kPathNotFound);
     }
-    if (!walkable_.MayWalk(info.st_dev, place->Host)) {
+    if (!walkable_.MayWalk(info.st_dev, host)) {
         return MakeError(error::kPathFileAccess);
     }
-    auto listed = ListHostDirectory(place->Host);
+    auto listed = ListHostDirectory(host);
     if (!listed.Ok()) {
         return listed.Fault;
     }

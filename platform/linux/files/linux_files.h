@@ -13,6 +13,7 @@
 #include "platform/linux/files/host_places.h"
 #include "platform/linux/files/host_write.h"
 #include "platform/linux/files/walkable.h"
+#include "platform/linux/files/walked_drive.h"
 #include "platform/stand_ins.h"
 
 namespace lv {
@@ -77,6 +78,7 @@ class LinuxFiles : public Files {
     Error drivesFault_;
     DrivePath current_;
     WalkableDevices walkable_;
+    WalkedDrive walkedDrive_;
     StandIns standIns_;
 };
 
