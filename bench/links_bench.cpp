@@ -12,7 +12,7 @@
 
 #include "bench/limit.h"
 #include "games/trees/linked_tree.h"
-#include "platform/linux/linux_files.h"
+#include "platform/linux/files/linux_files.h"
 
 namespace {
 
