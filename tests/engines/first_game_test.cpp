@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <chrono>
 #include <fstream>
-#include <iterator>
 #include <thread>
 
 #include "foundation/settings.h"
@@ -23,6 +22,7 @@
 #include "tests/support/quiet_start.h"
 #include "tests/support/scripted_user.h"
 #include "tests/support/shipped_engines.h"
+#include "tests/support/small_quake.h"
 #include "tests/support/test_paths.h"
 #include "wizard/setup_completion.h"
 #include "wizard/wizard.h"
@@ -33,60 +33,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using ::testing::HasSubstr;
-
-struct PackedFile {
-    std::string Name;
-    std::string Bytes;
-};
-
-void AppendNumber(std::string& bytes, std::size_t number) {
-    for (int i = 0; i < 4; ++i) {
-        bytes += static_cast<char>(number >> (8 * i) & 0xFFU);
-    }
-}
-
-std::string Pak(const std::vector<PackedFile>& files) {
-    std::string data;
-    std::string directory;
-    for (const PackedFile& file : files) {
-        std::string name = file.Name;
-        name.resize(56, '\0');
-        directory += name;
-        AppendNumber(directory, 12 + data.size());
-        AppendNumber(directory, file.Bytes.size());
-        data += file.Bytes;
-    }
-    std::string pak = "PACK";
-    AppendNumber(pak, 12 + data.size());
-    AppendNumber(pak, directory.size());
-    return pak + data + directory;
-}
-
-/// What an engine takes for the mark of the registered game: it carries the picture itself, number by number, low byte
-/// first; the file has the high byte first. Empty if the engine has it no more where it was.
-std::string RegisteredMark(const fs::path& engine) {
-    std::ifstream file(engine, std::ios::binary);
-    const std::string program{std::istreambuf_iterator<char>(file), {}};
-    std::string begins(20, '\0');
-    begins += std::string("\0\x66\0\0\0\0\0\0\0\x66\0\0\0\0\x66\0", 16);
-    const std::size_t at = program.find(begins);
-    if (at == std::string::npos) {
-        return {};
-    }
-    std::string mark = program.substr(at, 256);
-    for (std::size_t i = 0; i + 1 < mark.size(); i += 2) {
-        std::swap(mark[i], mark[i + 1]);
-    }
-    return mark;
-}
-
-/// An empty picture archive, "WAD2".
-std::string NoPictures() {
-    std::string wad = "WAD2";
-    AppendNumber(wad, 0);
-    AppendNumber(wad, 12);
-    return wad;
-}
 
 /// A home with a game in "~/games/quake", and a machine with Debian's engines.
 struct NewHome {

@@ -1,6 +1,5 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -28,11 +27,7 @@ class Mounted : public ::testing::Test {
   protected:
     void SetUp() override {
         const ProgramHome home("mounts");
-        OwnProcess probe(
-            home, geteuid() == 0 ? std::vector<std::string>{"unshare", "--mount", "true"}
-                                 : std::vector<std::string>{"unshare", "--user", "--map-root-user", "--mount", "true"});
-        ASSERT_EQ(probe.WaitForEnd(), 0)
-            << "this test needs mounts of its own: run it as root, or allow user namespaces";
+        ExpectMountsOfOnesOwn(home);
     }
 };
 

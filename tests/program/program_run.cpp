@@ -76,7 +76,7 @@ std::vector<std::string> InsideMounts(const std::string& shell) {
     if (geteuid() != 0) {
         command.insert(command.end(), {"--user", "--map-root-user"});
     }
-    command.insert(command.end(), {"--mount", "sh", "-e", "-c", shell + "\nexec '" + ProgramFile().string() + "'"});
+    command.insert(command.end(), {"--mount", "sh", "-e", "-c", shell});
     return command;
 }
 
@@ -194,7 +194,8 @@ bool WaitForTrayHost() {
 
 ProgramRun::ProgramRun(const ProgramHome& home, const Environment& more) : OwnProcess(home, WithVariables(more)) {}
 
-ProgramRun::ProgramRun(const ProgramHome& home, const std::string& shell) : OwnProcess(home, InsideMounts(shell)) {}
+ProgramRun::ProgramRun(const ProgramHome& home, const std::string& shell)
+    : OwnProcess(home, InsideMounts(shell + "\nexec '" + ProgramFile().string() + "'")) {}
 
 std::string ProgramRun::HowItIs() {
     KeepScreenshot("missing_window_of_" + std::to_string(Id()));
@@ -257,6 +258,11 @@ std::optional<int> ProgramRun::EndByF12() {
 
 fs::path ProgramRun::Seen(const fs::path& path) const {
     return "/proc/" + std::to_string(Id()) + "/root" + path.string();
+}
+
+void ExpectMountsOfOnesOwn(const ProgramHome& home) {
+    OwnProcess probe(home, InsideMounts("true"));
+    ASSERT_EQ(probe.WaitForEnd(), 0) << "this test needs mounts of its own: run it as root, or allow user namespaces";
 }
 
 void ExpectAStartThatWorks(const ProgramHome& home) {

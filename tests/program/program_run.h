@@ -103,6 +103,9 @@ class ProgramRun : public OwnProcess {
     std::string HowItIs();
 };
 
+/// Fails the test where a program cannot have mounts of its own.
+void ExpectMountsOfOnesOwn(const ProgramHome& home);
+
 /// Start to window and F12 to code 0, as a test of the state that something else has left.
 void ExpectAStartThatWorks(const ProgramHome& home);
 
