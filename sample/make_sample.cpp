@@ -2,11 +2,14 @@
 //
 // Makes the sample drive: small game trees of our own data, and the settings that list them.
 //   make_sample FOLDER
-// Writes FOLDER/data (the drives) and FOLDER/config (the settings); what was there is made anew.
+//   make_sample --quake FOLDER
+// Writes FOLDER/data (the drives) and FOLDER/config (the settings); what was there is made anew. With
+// --quake only data for Quake, in FOLDER itself: as much as an engine wants to begin.
 
 #include <array>
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -15,6 +18,7 @@
 
 #include "platform/linux/settings/sqlite_settings.h"
 #include "platform/linux/wine_registry.h"
+#include "sample/small_quake.h"
 
 namespace {
 
@@ -28,31 +32,6 @@ void Write(const fs::path& file, const std::string& bytes) {
     std::ofstream(file, std::ios::binary) << bytes;
 }
 
-void AppendNumber(std::string& out, std::size_t number) {
-    for (int i = 0; i < 4; ++i) {
-        out += static_cast<char>(number >> (8 * i) & 0xFF);
-    }
-}
-
-/// An id Software PAK: "PACK", offset and length of the directory, the files, then 64 bytes for each: 56 of name,
-/// offset, length.
-std::string MakePak(const std::vector<std::pair<std::string, std::string>>& files) {
-    std::string data;
-    std::string directory;
-    for (const auto& [name, bytes] : files) {
-        std::string padded = name;
-        padded.resize(56, '\0');
-        directory += padded;
-        AppendNumber(directory, 12 + data.size());
-        AppendNumber(directory, bytes.size());
-        data += bytes;
-    }
-    std::string pak = "PACK";
-    AppendNumber(pak, 12 + data.size());
-    AppendNumber(pak, directory.size());
-    return pak + data + directory;
-}
-
 std::string Lines(const std::vector<std::string>& lines) {
     std::string text;
     for (const std::string& line : lines) {
@@ -62,7 +41,7 @@ std::string Lines(const std::vector<std::string>& lines) {
 }
 
 void MakeQuake(const fs::path& quake) {
-    Write(quake / "id1/pak0.pak", MakePak({{"maps/start.bsp", "a map in name only"},
+    Write(quake / "id1/pak0.pak", lv::Pak({{"maps/start.bsp", "a map in name only"},
                                            {"maps/e1m1.bsp", "a map in name only"},
                                            {"maps/b_shell.bsp", "a box of shells"},
                                            {"gfx/sample.txt", "made for the sample drive"}}));
@@ -77,7 +56,7 @@ void MakeQuake(const fs::path& quake) {
                                         "setup_done",
                                     }));
     Write(quake / "id1/night.cfg", Lines({"// Another script to choose.", "echo The night shift begins.", "skill 3"}));
-    Write(quake / "arena/pak0.pak", MakePak({{"maps/arena1.bsp", "a map in name only"}}));
+    Write(quake / "arena/pak0.pak", lv::Pak({{"maps/arena1.bsp", "a map in name only"}}));
     Write(quake / "arena/player.cfg", Lines({"echo Into the arena."}));
     for (const char* name : {"quake.exe", "glquake.exe"}) {
         fs::create_symlink(kQuakeEngine, quake / name);
@@ -194,8 +173,12 @@ bool WriteSettings(const fs::path& file) {
 }  // namespace
 
 int main(int count, char** arguments) {
+    if (count == 3 && std::strcmp(arguments[1], "--quake") == 0) {
+        lv::MakeSmallQuake(arguments[2]);
+        return 0;
+    }
     if (count != 2) {
-        std::fputs("usage: make_sample FOLDER\n", stderr);
+        std::fputs("usage: make_sample [--quake] FOLDER\n", stderr);
         return 2;
     }
     const fs::path sample = arguments[1];
@@ -211,7 +194,7 @@ int main(int count, char** arguments) {
     fs::create_directory_symlink("/", ours / "drives/z:");
 
     MakeQuake(drive / "QUAKE");
-    Write(drive / "QUAKE2/baseq2/pak0.pak", MakePak({{"maps/base1.bsp", "a map in name only"}}));
+    Write(drive / "QUAKE2/baseq2/pak0.pak", lv::Pak({{"maps/base1.bsp", "a map in name only"}}));
     Write(drive / "QUAKE2/baseq2/player.cfg", Lines({"echo Player of the second part.", "set name Sample"}));
     CopyProgram(standins / "show_native", drive / "QUAKE2/quake2.exe");
     MakeUnreal(drive / "UNREAL");

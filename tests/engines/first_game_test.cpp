@@ -22,7 +22,7 @@
 #include "tests/support/quiet_start.h"
 #include "tests/support/scripted_user.h"
 #include "tests/support/shipped_engines.h"
-#include "tests/support/small_quake.h"
+#include "sample/small_quake.h"
 #include "tests/support/test_paths.h"
 #include "wizard/setup_completion.h"
 #include "wizard/wizard.h"

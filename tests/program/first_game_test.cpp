@@ -9,7 +9,7 @@
 #include "tests/program/program_run.h"
 #include "tests/program/screen.h"
 #include "tests/support/game_yard.h"
-#include "tests/support/small_quake.h"
+#include "sample/small_quake.h"
 
 namespace lv {
 

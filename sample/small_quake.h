@@ -1,4 +1,4 @@
-// tests/support/small_quake.h
+// sample/small_quake.h
 //
 // Quake's data of our own making: as much as engines want to begin.
 

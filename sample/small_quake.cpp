@@ -1,4 +1,4 @@
-#include "tests/support/small_quake.h"
+#include "sample/small_quake.h"
 
 #include <fstream>
 #include <iterator>
