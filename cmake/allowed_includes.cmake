@@ -3,13 +3,14 @@
 
 # From below to above.
 set(LV_SUBSYSTEMS platform foundation games catalogs video launch gamespy launcher foundry wizard)
-set(ROOMS_platform toolkit)
+set(ROOMS_platform starting toolkit)
 set(ROOMS_games engines trees)
 set(ROOMS_catalogs editors)
 set(ROOMS_launcher start window menu)
 set(ROOMS_foundry tables document reading writing half_life fonts editor)
 
 set(MAY_platform platform)
+set(MAY_platform/starting platform/starting platform)
 set(MAY_platform/toolkit)
 set(MAY_foundation foundation platform)
 set(MAY_games games games/engines games/trees foundation platform)
@@ -51,10 +52,10 @@ set(MAY_wizard/forms wizard/forms wizard ${SHARED_BY_FORMS})
 set(MAY_platform/memory platform/memory platform)
 set(LV_LINUX platform/linux platform/linux/files platform/linux/settings platform/linux/starting)
 foreach(folder ${LV_LINUX})
-    set(MAY_${folder} platform ${LV_LINUX})
+    set(MAY_${folder} platform platform/starting ${LV_LINUX})
 endforeach()
 set(MAY_platform/linux/toolkit platform/linux/toolkit platform/toolkit platform)
-set(MAY_platform/windows platform/windows platform)
+set(MAY_platform/windows platform/windows platform/starting platform)
 set(MAY_platform/windows/toolkit platform/windows/toolkit platform/toolkit ${MAY_platform/windows})
 set(MAY_app app assets ${LV_LINUX} platform/windows platform/windows/toolkit platform/toolkit foundation foundation/forms
     catalogs/forms video/forms gamespy/forms launcher/start launcher/window launcher/forms foundry foundry/forms wizard

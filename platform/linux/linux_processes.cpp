@@ -120,31 +120,11 @@ Result<HostCommand> LinuxProcesses::ByRoad(const GameStart& start, const std::ve
 
 Result<HostCommand> LinuxProcesses::PlanBatch(std::string_view directory, std::string_view name,
                                               const BatchCommand& known) {
-    GameStart start;
-    start.Places = Places();
-    start.Environment = OwnEnvironment();
-    start.BatchPath = JoinPath(JoinPath(disk_.CurrentDirectory(), directory), name);
-    Result<std::string> text = disk_.Read(start.BatchPath);
-    if (!text.Ok()) {
-        return MakeError(text.Fault.Number, start.BatchPath);
-    }
-    start.BatchText = std::move(text.Value);
-    start.Plan = ParseBatch(start.BatchText, known.Given);
-    if (start.Plan.command.empty()) {
-        return Error{error::kInvalidCall, "There is no command in " + start.BatchPath};
-    }
-    const std::string& drive = start.Plan.drive;
-    const std::string base = drive.empty() ? JoinPath(disk_.CurrentDirectory(), directory) : drive + "\\";
-    start.Directory = start.Plan.directory.empty() ? JoinPath(disk_.CurrentDirectory(), directory)
-                                                   : JoinPath(base, start.Plan.directory);
-    if (!disk_.DirectoryExists(start.Directory)) {
-        return MakeError(error::kPathNotFound, start.Directory);
-    }
-    Result<FoundGame> game = FindGame(disk_, start.Directory, start.Plan.command, known.Program);
+    Result<BatchGame> game = ReadBatchGame(disk_, directory, name, known);
     if (!game.Ok()) {
         return game.Fault;
     }
-    start.Game = std::move(game.Value);
+    const GameStart start{std::move(game.Value), OwnEnvironment(), Places()};
     return ByRoad(start, known.Given);
 }
 

@@ -1,4 +1,4 @@
-#include "platform/linux/starting/batch_plan.h"
+#include "platform/starting/batch_plan.h"
 
 #include <gtest/gtest.h>
 
@@ -175,6 +175,13 @@ TEST(ParseBatch, LeavesOutGivenWordsThatAreNotAtTheirPlaces) {
     EXPECT_EQ(ParseBatch(kBatch, {{1000, "x y", "x y"}}).given.size(), 0u);
     EXPECT_EQ(ParseBatch(kBatch, {{1000, "", ""}}).given.size(), 0u);
     EXPECT_EQ(ParseBatch(kBatch, {{25, "x y", "x y"}, {27, "y", "y"}}).given.size(), 1u);
+}
+
+TEST(ParseBatch, TakesTheBackslashesOfANetworkForADrive) {
+    const BatchPlan plan = ParseBatch("\\\\\r\ncd \"\\\\server\\games\\quake\"\r\nGLQUAKE.EXE -a");
+    EXPECT_EQ(plan.drive, "");
+    EXPECT_EQ(plan.directory, "\\\\server\\games\\quake");
+    EXPECT_EQ(plan.command, "GLQUAKE.EXE -a");
 }
 
 }  // namespace lv

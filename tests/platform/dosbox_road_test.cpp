@@ -27,55 +27,6 @@ struct DosYard : GameYard {
 
 }  // namespace
 
-TEST(IsShortName, KnowsWhatDosAllows) {
-    for (const char* name : {"QUAKE", "quake", "ABCDEFGH.IJK", "A.B", "QUAKE_2", "Q~1", "#1", "12345678"}) {
-        EXPECT_TRUE(IsShortName(name)) << name;
-    }
-    for (const char* name :
-         {"", ".", "..", ".A", "A.", "ABCDEFGHI", "A.BCDE", "A B", "A.B.C", "A+B", "\xC9", "A[B]", "A;B"}) {
-        EXPECT_FALSE(IsShortName(name)) << name;
-    }
-}
-
-TEST(DosBoxStartUp, SaysTheBatch) {
-    BatchPlan plan;
-    plan.environment = {{"A", "1"}, {"B", "x & y"}};
-    plan.command = "QUAKE.EXE -zone 512";
-    EXPECT_EQ(DosBoxStartUp(plan, 'C', "/games/my drive", "\\QUAKE"),
-              "[autoexec]\n"
-              "@mount -u C >nul\n"
-              "@mount C \"/games/my drive\"\n"
-              "@SET A=1\n"
-              "@SET B=x & y\n"
-              "@C:\n"
-              "@cd \\QUAKE\n"
-              "@QUAKE.EXE -zone 512\n"
-              "@exit\n");
-}
-
-TEST(DosBoxStartUp, ShowsTheEnvironmentAheadOfTheGame) {
-    BatchPlan plan;
-    plan.environment = {{"A", "1"}};
-    plan.showsEnvironment = true;
-    plan.command = "QUAKE.EXE";
-    EXPECT_THAT(DosBoxStartUp(plan, 'C', "/g", "\\"), HasSubstr("@SET A=1\n@SET\n@PAUSE\n@C:\n"));
-}
-
-TEST(DosBoxStartUp, DoublesPercentSigns) {
-    BatchPlan plan;
-    plan.environment = {{"A", "50% x"}};
-    plan.command = "QUAKE.EXE %1";
-    EXPECT_EQ(DosBoxStartUp(plan, 'D', "/100%/d", "\\Q%"),
-              "[autoexec]\n"
-              "@mount -u D >nul\n"
-              "@mount D \"/100%%/d\"\n"
-              "@SET A=50%%%% x\n"
-              "@D:\n"
-              "@cd \\Q%%\n"
-              "@QUAKE.EXE %%1\n"
-              "@exit\n");
-}
-
 TEST(DosBoxRoad, MountsTheDriveOfAGameWithShortNames) {
     DosYard yard("dos_short");
     yard.AddFile("quake/quake.exe", "MZ");

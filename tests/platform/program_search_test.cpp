@@ -1,4 +1,4 @@
-#include "platform/linux/starting/program_search.h"
+#include "platform/starting/program_search.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,6 @@
 // platform/linux/starting/dosbox_road.h
 //
-// The road of a DOS program: DOSBox, told in a configuration file what the batch says. The user's own DOSBox settings
-// stay in force, the file only adds its start-up lines.
+// The road of a DOS program: DOSBox, told in a configuration file what the batch says.
 
 #pragma once
 
@@ -9,14 +8,7 @@
 
 namespace lv {
 
-/// Error 53 if DOSBox is not installed, 75 for a directory or a program that cannot be said to it, 5 if there is more
-/// to say than DOSBox takes.
+/// Error 53 if DOSBox is not installed, and those of DosBoxConfiguration.
 Result<HostCommand> DosBoxRoad(Files& disk, const GameStart& start);
-
-/// A name that DOS itself could have given: up to eight characters, perhaps a dot and up to three.
-bool IsShortName(std::string_view name);
-
-/// The [autoexec] section. `mounted` is the host directory that becomes the drive, `directory` the path on it.
-std::string DosBoxStartUp(const BatchPlan& plan, char drive, std::string_view mounted, std::string_view directory);
 
 }  // namespace lv

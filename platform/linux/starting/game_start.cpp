@@ -40,24 +40,6 @@ Result<HostCommand> AfterShowing(HostCommand command, const GameStart& start) {
     return InTerminal(std::move(command), start.Places);
 }
 
-Error MisreadWord(std::string_view word, LineReader reader) {
-    const char* const name = reader == LineReader::kNobody     ? "A command line"
-                             : reader == LineReader::kDosShell ? "DOS's shell"
-                                                               : "The command processor";
-    return {
-        error::kPathFileAccess,
-        std::string(name) + " would not read this as one word of text, and nothing was started: " + std::string(word)};
-}
-
-Error CheckGiven(const std::vector<GivenWord>& given, LineReader reader) {
-    for (const GivenWord& word : given) {
-        if (!ReadsAsOneWord(word.Written, reader)) {
-            return MisreadWord(word.Written, reader);
-        }
-    }
-    return {};
-}
-
 // xterm first: it hands the arguments on one by one and has its child inherit the environment. Not every other
 // terminal does.
 Result<HostCommand> InTerminal(HostCommand command, const HostPlaces& places) {

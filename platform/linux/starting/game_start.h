@@ -10,8 +10,7 @@
 
 #include "platform/files.h"
 #include "platform/linux/child_process.h"
-#include "platform/linux/starting/batch_plan.h"
-#include "platform/linux/starting/program_search.h"
+#include "platform/starting/batch_game.h"
 
 namespace lv {
 
@@ -25,12 +24,7 @@ struct HostPlaces {
     std::filesystem::path WatchHelper = {};  // the program that keeps it
 };
 
-struct GameStart {
-    std::string BatchText;
-    std::string BatchPath;  // on the drives
-    BatchPlan Plan;
-    std::string Directory;  // that the game runs in, on the drives, with its drive
-    FoundGame Game;
+struct GameStart : BatchGame {
     std::vector<std::string> Environment;  // this program's own
     HostPlaces Places;
 };
@@ -42,12 +36,6 @@ std::vector<std::string> BatchEnvironment(const GameStart& start);
 /// The command as it is or, if the batch shows its environment, in a terminal, behind the program that shows it and
 /// waits for a key. Errors: 53 without that program or a terminal.
 Result<HostCommand> AfterShowing(HostCommand command, const GameStart& start);
-
-/// Error 75 if the reader would take one of the words for more than that word; the text names it.
-Error CheckGiven(const std::vector<GivenWord>& given, LineReader reader);
-
-/// Of such an argument.
-Error MisreadWord(std::string_view word, LineReader reader);
 
 /// The same command inside a terminal window, where a user can read and press a key. Error 53 if there is no terminal.
 Result<HostCommand> InTerminal(HostCommand command, const HostPlaces& places);

@@ -1,6 +1,6 @@
 // The batch of a launch: its plan, and its command line's words.
 
-#include "platform/linux/starting/batch_plan.h"
+#include "platform/starting/batch_plan.h"
 
 #include <algorithm>
 

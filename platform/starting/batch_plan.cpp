@@ -1,4 +1,4 @@
-#include "platform/linux/starting/batch_plan.h"
+#include "platform/starting/batch_plan.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -6,6 +6,9 @@
 namespace lv {
 
 namespace {
+
+// The first two characters of a network's path stand where a drive would.
+constexpr std::string_view kServerDrive = "\\\\";
 
 bool IsBlank(char c) {
     return c == ' ' || c == '\t';
@@ -52,6 +55,9 @@ BatchLineKind KindOf(std::string_view line) {
     }
     if (Behind(line, "SET").find('=') != std::string_view::npos) {
         return BatchLineKind::kSet;
+    }
+    if (trimmed == kServerDrive) {
+        return BatchLineKind::kDrive;
     }
     if (trimmed.size() == 2 && trimmed[1] == ':' && Upper(trimmed[0]) >= 'A' && Upper(trimmed[0]) <= 'Z') {
         return BatchLineKind::kDrive;
@@ -163,7 +169,7 @@ BatchPlan ParseBatch(std::string_view text, const std::vector<GivenWord>& given)
         } else if (line.Kind == BatchLineKind::kShow) {
             plan.showsEnvironment = true;
         } else if (line.Kind == BatchLineKind::kDrive) {
-            plan.drive = Trim(whole);
+            plan.drive = Trim(whole) == kServerDrive ? "" : Trim(whole);
         } else if (line.Kind == BatchLineKind::kDirectory) {
             plan.directory = WithoutQuotes(Trim(Behind(whole, "CD")));
         } else if (line.Kind == BatchLineKind::kCommand && !Trim(whole).empty()) {

@@ -1,4 +1,4 @@
-// platform/linux/starting/program_kind.h
+// platform/starting/program_kind.h
 //
 // What runs a program file: told from its first bytes, and from its name where bytes say nothing.
 // Formats: ELF, DOS MZ, Windows NE and PE, the DOS extenders' LE and LX, scripts that open with "#!".

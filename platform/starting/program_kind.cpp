@@ -1,4 +1,4 @@
-#include "platform/linux/starting/program_kind.h"
+#include "platform/starting/program_kind.h"
 
 #include <cstddef>
 #include <cstdint>

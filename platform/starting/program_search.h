@@ -1,4 +1,4 @@
-// platform/linux/starting/program_search.h
+// platform/starting/program_search.h
 //
 // Finding the program that a command line names: blind to case in the game's directory, or by its path.
 
@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "platform/files.h"
-#include "platform/linux/starting/program_kind.h"
+#include "platform/starting/program_kind.h"
 
 namespace lv {
 

@@ -1,4 +1,4 @@
-// platform/linux/starting/batch_plan.h
+// platform/starting/batch_plan.h
 //
 // What a launch batch says: the environment, whether it is shown first, the directory, and the command line.
 // Text in, text out; nothing is expanded, and nothing in a line is ever taken for more than it is here.
@@ -18,7 +18,7 @@ namespace lv {
 enum class BatchLineKind {
     kSet,        // SET NAME=value
     kShow,       // SET alone, or PAUSE
-    kDrive,      // C:
+    kDrive,      // C:, or the two backslashes of a network's path
     kDirectory,  // cd C:\QUAKE
     kCommand,    // the first line that is none of these, and every line behind it or behind the cd line
     kNothing,    // an empty line ahead of the command
@@ -34,7 +34,7 @@ struct BatchPlan {
     /// In the batch's order, a later one wins. An empty value removes the variable, as it does there.
     std::vector<std::pair<std::string, std::string>> environment;
     bool showsEnvironment = false;
-    std::string drive;      // "C:", or empty
+    std::string drive;      // "C:", or empty; empty for a network's path too
     std::string directory;  // without quotes, or empty
     /// All command lines joined with one blank each, so that what a line break has cut off still reaches the game.
     std::string command;

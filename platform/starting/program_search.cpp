@@ -1,4 +1,4 @@
-#include "platform/linux/starting/program_search.h"
+#include "platform/starting/program_search.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -42,7 +42,7 @@ Error NotFound(std::string_view directory, std::string_view name) {
 }  // namespace
 
 std::string JoinPath(std::string_view directory, std::string_view name) {
-    const bool full = name.size() >= 2 && name[1] == ':';
+    const bool full = name.size() >= 2 && (name[1] == ':' || name.starts_with("\\\\"));
     if (full || directory.empty()) {
         return std::string(name);
     }
