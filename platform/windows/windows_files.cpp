@@ -371,6 +371,9 @@ Error WindowsFiles::RemoveDirectory(std::string_view path) {
 }
 
 Error WindowsFiles::ChangeDrive(std::string_view drive) {
+    if (drive.starts_with("\\\\")) {
+        return {};  // a network's path has no drive to go to; the directory says all
+    }
     if (Error failed = ProbeDrive(drive)) {
         return failed;
     }

@@ -3,9 +3,11 @@
 #include <array>
 
 #include "platform/code_page.h"
+#include "platform/starting/batch_game.h"
 #include "platform/windows/command_line.h"
+#include "platform/windows/dosbox.h"
+#include "platform/windows/started_process.h"
 #include "platform/windows/system.h"
-#include "platform/windows/system_error.h"
 #include "platform/windows/wide_text.h"
 
 namespace lv {
@@ -22,16 +24,28 @@ bool HasSeparator(std::string_view path) {
     return path.find_first_of("\\/:") != std::string_view::npos;
 }
 
-// The number of the program's own list, and the system's words.
-Error StartError(DWORD failed, const std::string& about) {
-    const bool notFound = failed == ERROR_FILE_NOT_FOUND || failed == ERROR_PATH_NOT_FOUND;
-    const int number = notFound ? error::kFileNotFound : ErrorOfSystem(failed).Number;
-    return {number, SystemText(failed) + ": " + about};
-}
-
 // As QuotedWord puts a word with a blank into quotes. Quotes in the word itself stay for the reader to stumble over.
 std::string InQuotes(const std::string& word) {
     return word.find_first_of(" \t") == std::string::npos ? word : "\"" + word + "\"";
+}
+
+bool GoesToDosBox(Files& disk, const FoundGame& game) {
+    return !RunsDosPrograms() && KindOfProgramAt(disk, game.Program.Path) == ProgramKind::kDos;
+}
+
+// The command processor cannot stand on a share. What needs nothing of it but the environment is started there.
+bool StartsByItself(Files& disk, const BatchGame& game) {
+    return !game.Plan.showsEnvironment && KindOfProgramAt(disk, game.Game.Program.Path) == ProgramKind::kWindows;
+}
+
+Error StartWithoutBatch(Files& disk, const BatchGame& game) {
+    std::vector<std::pair<std::wstring, std::wstring>> environment;
+    for (const auto& [name, value] : game.Plan.environment) {
+        environment.emplace_back(ToWide(name), ToWide(value));
+    }
+    const std::wstring program = ToWide(FromUtf8Lossy(disk.ToHost(game.Game.Program.Path)));
+    const std::wstring line = L"\"" + program + L"\" " + ToWide(game.Game.Program.Arguments);
+    return StartProcess(program, line, ToWide(game.Directory), 0, environment);
 }
 
 std::string InDirectory(const std::string& directory, std::string_view name) {
@@ -40,11 +54,15 @@ std::string InDirectory(const std::string& directory, std::string_view name) {
 
 }  // namespace
 
-LineReader WindowsProcesses::ReaderOf(std::string_view, std::string_view, std::string_view program) {
-    return IsBatchName(program) ? LineReader::kBatch : LineReader::kCommandProcessor;
+LineReader WindowsProcesses::ReaderOf(std::string_view directory, std::string_view command, std::string_view program) {
+    if (IsBatchName(program)) {
+        return LineReader::kBatch;
+    }
+    const Result<FoundGame> game = FindGame(disk_, JoinPath(disk_.CurrentDirectory(), directory), command, program);
+    return game.Ok() && GoesToDosBox(disk_, game.Value) ? LineReader::kDosShell : LineReader::kCommandProcessor;
 }
 
-Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view name, const BatchCommand&) {
+Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) {
     const std::string place = FromUtf8Lossy(disk_.ToHost(directory.empty() ? "." : directory));
     const std::string batch = InDirectory(place, name);
     if (!disk_.DirectoryExists(place)) {
@@ -53,24 +71,24 @@ Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view 
     if (!disk_.FileExists(batch)) {
         return MakeError(error::kFileNotFound, batch);
     }
-    const bool onAShare = place.starts_with("\\\\");
-    const std::wstring processor = SystemDirectory() + L"\\cmd.exe";
-    const std::wstring said = onAShare ? ToWide(batch) : L".\\" + ToWide(name);
-    // With /s it takes the outer quotes off, and those alone: a name with "&" in it stays within the inner ones.
-    std::wstring line = L"\"" + processor + L"\" /s /c \"\"" + said + L"\"\"";
-    STARTUPINFOW how{};
-    how.cb = sizeof how;
-    how.dwFlags = STARTF_USESHOWWINDOW;
-    how.wShowWindow = SW_SHOWNORMAL;
-    PROCESS_INFORMATION started{};
-    const std::wstring where = onAShare ? SystemDirectory() : ToWide(place);
-    if (CreateProcessW(processor.c_str(), line.data(), nullptr, nullptr, FALSE, CREATE_NEW_CONSOLE, nullptr,
-                       where.c_str(), &how, &started) == 0) {
-        return StartError(GetLastError(), batch);
+    // What is no launch of a game's is the command processor's, whatever it says.
+    const Result<BatchGame> game = ReadBatchGame(disk_, place, name, known);
+    if (game.Ok() && GoesToDosBox(disk_, game.Value.Game)) {
+        const Error fault = CheckGiven(known.Given, LineReader::kDosShell);
+        return fault ? fault : StartInDosBox(disk_, game.Value);
     }
-    CloseHandle(started.hThread);
-    CloseHandle(started.hProcess);
-    return {};
+    const bool onAShare = place.starts_with("\\\\");
+    if (onAShare && game.Ok() && StartsByItself(disk_, game.Value)) {
+        return StartWithoutBatch(disk_, game.Value);
+    }
+    const std::wstring system = SystemDirectory();
+    const std::wstring processor = system + L"\\cmd.exe";
+    const std::wstring said = onAShare ? ToWide(batch) : L".\\" + ToWide(name);
+    // The console is new: its code page, by which the batch is read, is nobody else's.
+    const std::wstring codePage = L"\"" + system + L"\\chcp.com\" 1252 >nul & ";
+    // With /s it takes the outer quotes off, and those alone: a name with "&" in it stays within the inner ones.
+    const std::wstring line = L"\"" + processor + L"\" /s /c \"" + codePage + L"\"" + said + L"\"\"";
+    return StartProcess(processor, line, onAShare ? system : ToWide(place), CREATE_NEW_CONSOLE);
 }
 
 Error WindowsProcesses::StartProgram(std::string_view program, const std::vector<std::string>& arguments) {

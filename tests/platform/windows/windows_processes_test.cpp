@@ -59,6 +59,15 @@ std::vector<std::string> After(const std::string& start, const std::vector<std::
     return found;
 }
 
+// Wine names what lies on no drive by such paths, and the program takes them for a network's.
+std::wstring BuildDirectoryAsAShare() {
+    std::wstring share = L"\\\\?\\unix";
+    for (const char c : TestBinaryDir()) {
+        share += c == '/' ? L'\\' : static_cast<wchar_t>(c);
+    }
+    return share;
+}
+
 }  // namespace
 
 TEST(StartBatch, StartsTheGameWithItsDirectoryArgumentsAndEnvironment) {
@@ -85,6 +94,28 @@ TEST(StartBatch, StandsInTheDirectoryWhateverItIsCalled) {
                 ElementsAre("T:\\My & (own) \xC3\xA9 games"));
 }
 
+TEST(StartBatch, ReadsTheBatchInTheCodePageItIsWrittenIn) {
+    Yard yard;
+    EXPECT_EQ(yard.Made.Disk
+                  .Replace("T:\\QUAKE\\lv_666.bat",
+                           "SET LV_A=caf\xE9 \x80\r\nGAME.EXE -basedir \"c:\\Jeux \xE9t\xE9\\Quake\"\r\n")
+                  .Number,
+              0);
+    EXPECT_EQ(yard.Programs.StartBatch("T:\\QUAKE", "lv_666.bat").Number, 0);
+    const std::vector<std::string> lines = Yard::Said();
+    EXPECT_THAT(After("ARGUMENT=", lines), ElementsAre("-basedir", "c:\\Jeux \xC3\xA9t\xC3\xA9\\Quake"));
+    EXPECT_THAT(After("LV_A=", lines), ElementsAre("caf\xC3\xA9 \xE2\x82\xAC"));
+}
+
+// A game's directory may hold anything.
+TEST(StartBatch, RunsNoProgramOfTheDirectoryAheadOfTheBatch) {
+    Yard yard;
+    yard.CopyGame("T:\\QUAKE\\chcp.exe");
+    EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\lv_666.bat", "GAME.EXE -a\r\n").Number, 0);
+    EXPECT_EQ(yard.Programs.StartBatch("T:\\QUAKE", "lv_666.bat").Number, 0);
+    EXPECT_THAT(After("ARGUMENT=", Yard::Said()), ElementsAre("-a"));
+}
+
 TEST(StartBatch, TakesTheCurrentDirectoryWithoutOne) {
     Yard yard;
     EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\lv_666.bat", "GAME.EXE\r\n").Number, 0);
@@ -93,14 +124,10 @@ TEST(StartBatch, TakesTheCurrentDirectoryWithoutOne) {
     EXPECT_THAT(After("DIRECTORY=", Yard::Said()), ElementsAre("T:\\QUAKE"));
 }
 
-// Wine names what lies on no drive by such paths, and the program takes them for a network's. What part of the name
-// would run, would run in the system's directory.
+// What part of the name would run, would run in the system's directory.
 TEST(StartBatch, RunsNoPartOfADirectorysNameOnAShare) {
     Yard yard;
-    std::wstring share = L"\\\\?\\unix";
-    for (const char c : TestBinaryDir()) {
-        share += c == '/' ? L'\\' : static_cast<wchar_t>(c);
-    }
+    std::wstring share = BuildDirectoryAsAShare();
     share += L"\\share&md lv_pwned&";
     CreateDirectoryW(share.c_str(), nullptr);
     WriteBytes(share + L"\\lv_666.bat", "exit\r\n");
@@ -111,6 +138,28 @@ TEST(StartBatch, RunsNoPartOfADirectorysNameOnAShare) {
     EXPECT_EQ(yard.Programs.StartBatch(FromWideLossy(share), "lv_666.bat").Number, 0);
     EXPECT_FALSE(WaitUntil([&] { return GetFileAttributesW(pwned.c_str()) != INVALID_FILE_ATTRIBUTES; }, 3000));
     DeleteFileW((share + L"\\lv_666.bat").c_str());
+    RemoveDirectoryW(share.c_str());
+}
+
+TEST(StartBatch, StartsAGameOnAShareInItsDirectory) {
+    Yard yard;
+    const std::wstring share = BuildDirectoryAsAShare() + L"\\share (a & b) ^c";
+    CreateDirectoryW(share.c_str(), nullptr);
+    yard.CopyGame(FromWideLossy(share) + "\\GAME.EXE");
+    DeleteFileW((share + L"\\output.txt").c_str());
+    WriteBytes(share + L"\\lv_666.bat", "SET SST_RGAMMA=1.70\r\nSET LV_A=caf\xE9\r\n\\\\\r\ncd \"" +
+                                            FromWideLossy(share) + "\"\r\nGAME.EXE -game \"a b\" +map e1m1&x");
+    EXPECT_EQ(yard.Made.Disk.ChangeDrive("\\\\?").Number, 0);
+    EXPECT_EQ(yard.Made.Disk.ChangeDirectory(FromWideLossy(share)).Number, 0);
+    EXPECT_EQ(yard.Programs.StartBatch(FromWideLossy(share), "lv_666.bat").Number, 0);
+    const std::vector<std::string> lines = Yard::Said(share + L"\\output.txt");
+    EXPECT_THAT(After("ARGUMENT=", lines), ElementsAre("-game", "a b", "+map", "e1m1&x"));
+    EXPECT_THAT(lines, Contains("SST_RGAMMA=1.70"));
+    EXPECT_THAT(lines, Contains("LV_A=caf\xC3\xA9"));
+    EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\").Number, 0);
+    for (const wchar_t* const file : {L"\\GAME.EXE", L"\\lv_666.bat", L"\\output.txt"}) {
+        DeleteFileW((share + file).c_str());
+    }
     RemoveDirectoryW(share.c_str());
 }
 
