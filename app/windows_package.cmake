@@ -22,10 +22,10 @@ add_custom_command(
     OUTPUT ${zip}
     COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage} ${shipped} ${zip}
     COMMAND ${CMAKE_COMMAND} --install ${CMAKE_BINARY_DIR} --component zip --prefix ${stage}
-    COMMAND ${CMAKE_COMMAND} -E chdir ${stage} ${CMAKE_COMMAND} -E tar c ${zip} --format=zip ${folder}
+    COMMAND ${CMAKE_COMMAND} -DFOLDER=${stage} -DZIP=${zip} -P ${CMAKE_CURRENT_SOURCE_DIR}/pack_zip.cmake
     COMMAND ${CMAKE_COMMAND} -E make_directory ${shipped}
     COMMAND ${CMAKE_COMMAND} -E chdir ${shipped} ${CMAKE_COMMAND} -E tar x ${zip}
-    DEPENDS lorvane3d ${data}
+    DEPENDS lorvane3d ${data} pack_zip.cmake
     COMMENT "Packing the Windows program"
     VERBATIM)
 add_custom_target(zip ALL DEPENDS ${zip})
