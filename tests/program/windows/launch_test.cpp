@@ -36,13 +36,6 @@ void CopyTree(const std::wstring& from, const std::wstring& to) {
     FindClose(find);
 }
 
-void ExpectALaunch(ProgramRun& program) {
-    HWND window = program.WaitForWindow();
-    ASSERT_TRUE(Activate(window));
-    PressKey(VK_F2);
-    EXPECT_THAT(LinesAfter(WindowsHome::GameSaid(), "DIRECTORY="), ElementsAre("t:\\QUAKE"));
-}
-
 }  // namespace
 
 TEST(Launch, StartsTheGameInItsDirectoryWithArgumentsAndEnvironment) {

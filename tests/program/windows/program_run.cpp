@@ -1,5 +1,6 @@
 #include "tests/program/windows/program_run.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -60,6 +61,21 @@ std::string OutputOf(std::wstring commandLine) {
         output.append(buffer.data(), got);
     }
     return output;
+}
+
+std::optional<DWORD> RunToEnd(std::wstring commandLine) {
+    STARTUPINFOW how{};
+    how.cb = sizeof how;
+    PROCESS_INFORMATION process{};
+    if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &how, &process) ==
+        0) {
+        return std::nullopt;
+    }
+    CloseHandle(process.hThread);
+    const FileHandle ended(process.hProcess);
+    DWORD code = 0;
+    const bool whole = WaitForSingleObject(process.hProcess, 60000) == WAIT_OBJECT_0;
+    return whole && GetExitCodeProcess(process.hProcess, &code) != 0 ? std::optional(code) : std::nullopt;
 }
 
 std::wstring BuiltProgram() {
@@ -202,6 +218,13 @@ void PressKey(WORD key, bool withAlt) {
         strokes.push_back(Stroke(VK_MENU, KEYEVENTF_KEYUP));
     }
     EXPECT_EQ(SendInput(static_cast<UINT>(strokes.size()), strokes.data(), sizeof(INPUT)), strokes.size());
+}
+
+void ExpectALaunch(ProgramRun& program) {
+    HWND window = program.WaitForWindow();
+    ASSERT_TRUE(Activate(window));
+    PressKey(VK_F2);
+    EXPECT_THAT(LinesAfter(WindowsHome::GameSaid(), "DIRECTORY="), ::testing::ElementsAre("t:\\QUAKE"));
 }
 
 RECT PlaceOf(HWND window) {

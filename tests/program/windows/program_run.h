@@ -22,6 +22,9 @@ constexpr const wchar_t* kPlainTitle = L"Lorvane 3D";  // the splash, and boxes 
 /// What a program of the system prints.
 std::string OutputOf(std::wstring commandLine);
 
+/// Runs it to its end: its exit code, or nothing if it is not started, or still runs after a minute.
+std::optional<DWORD> RunToEnd(std::wstring commandLine);
+
 /// The program as it was built.
 std::wstring BuiltProgram();
 
@@ -75,6 +78,9 @@ class ProgramRun {
 bool Activate(HWND window, int milliseconds = 10000);
 /// Presses a key of the system's number in whatever window is in front, with Alt if told so.
 void PressKey(WORD key, bool withAlt = false);
+
+/// Presses F2 in the main window; the game says that it has come up in its directory.
+void ExpectALaunch(ProgramRun& program);
 
 RECT PlaceOf(HWND window);
 

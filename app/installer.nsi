@@ -1,0 +1,110 @@
+; The installer: for one user, without asking for rights. CMake (windows_installer.cmake) says what goes in:
+;   FILES     the list of what is installed and removed again
+;   STAGE     the folder that it is taken from
+;   VERSION, KILOBYTES, ICON, OUTPUT
+; Silent: /S, to another place with /D=C:\Some Where (last, without quotes). The uninstaller: /S, and /settings to take
+; this user's lists and settings away as well.
+Target amd64-unicode
+SetCompressor /SOLID lzma
+SetDateSave off
+ManifestDPIAware true
+RequestExecutionLevel user
+Name "Lorvane 3D"
+OutFile "${OUTPUT}"
+InstallDir "$LOCALAPPDATA\Programs\Lorvane 3D"
+!define ENTRY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Lorvane 3D"
+!define SETTINGS "Software\VB and VBA Program Settings\Lorvane 3D"
+InstallDirRegKey HKCU "${ENTRY}" "InstallLocation"
+
+VIProductVersion "${FILE_VERSION}"
+VIAddVersionKey "ProductName" "Lorvane 3D"
+VIAddVersionKey "CompanyName" "The Lorvane 3D authors"
+VIAddVersionKey "LegalCopyright" "Copyright (c) 2026 The Lorvane 3D authors. MIT License."
+VIAddVersionKey "FileDescription" "Installs Lorvane 3D"
+VIAddVersionKey "FileVersion" "${VERSION}"
+VIAddVersionKey "ProductVersion" "${VERSION}"
+
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+!define MUI_ICON "${ICON}"
+!define MUI_UNICON "${ICON}"
+!define MUI_ABORTWARNING
+!define MUI_FINISHPAGE_RUN "$INSTDIR\lorvane3d.exe"
+!define MUI_FINISHPAGE_RUN_TEXT "Start Lorvane 3D"
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!define MUI_COMPONENTSPAGE_NODESC
+!define MUI_PAGE_HEADER_SUBTEXT "Your lists and settings are kept unless you tick them."
+!define MUI_COMPONENTSPAGE_TEXT_TOP "Games, scripts and what the launches have written into the games' directories stay."
+!insertmacro MUI_UNPAGE_COMPONENTS
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "English"
+
+; Nothing is replaced under a program that runs.
+!macro WAIT_UNTIL_CLOSED
+    ${DoWhile} ${FileExists} "$INSTDIR\lorvane3d.exe"
+        ClearErrors
+        FileOpen $0 "$INSTDIR\lorvane3d.exe" a
+        ${IfNot} ${Errors}
+            FileClose $0
+            ${ExitDo}
+        ${EndIf}
+        MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
+            "Lorvane 3D is running, or its program file cannot be written. Close it and try again." \
+            /SD IDCANCEL IDRETRY again
+        SetErrorLevel 2
+        Abort "Lorvane 3D is running; nothing was changed."
+        again:
+    ${Loop}
+!macroend
+
+Section "Lorvane 3D"
+    !insertmacro WAIT_UNTIL_CLOSED
+    SetOutPath "$INSTDIR"
+    ClearErrors
+    File /r "${STAGE}\*"
+    WriteUninstaller "$INSTDIR\uninstall.exe"
+    ${If} ${Errors}
+        SetErrorLevel 2
+        Abort "Not everything could be written to $INSTDIR."
+    ${EndIf}
+    CreateShortCut "$SMPROGRAMS\Lorvane 3D.lnk" "$INSTDIR\lorvane3d.exe" "" "" "" SW_SHOWNORMAL "" \
+        "Starts the shooters of 1996 to 1999"
+    WriteRegStr HKCU "${ENTRY}" "DisplayName" "Lorvane 3D"
+    WriteRegStr HKCU "${ENTRY}" "DisplayVersion" "${VERSION}"
+    WriteRegStr HKCU "${ENTRY}" "Publisher" "The Lorvane 3D authors"
+    WriteRegStr HKCU "${ENTRY}" "DisplayIcon" "$INSTDIR\lorvane3d.exe"
+    WriteRegStr HKCU "${ENTRY}" "InstallLocation" "$INSTDIR"
+    WriteRegStr HKCU "${ENTRY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
+    WriteRegStr HKCU "${ENTRY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+    WriteRegDWORD HKCU "${ENTRY}" "EstimatedSize" ${KILOBYTES}
+    WriteRegDWORD HKCU "${ENTRY}" "NoModify" 1
+    WriteRegDWORD HKCU "${ENTRY}" "NoRepair" 1
+SectionEnd
+
+Section "un.Lorvane 3D"
+    SectionIn RO
+    !insertmacro WAIT_UNTIL_CLOSED
+    ; What was installed and nothing else: the directory may hold the user's own files.
+    !include "${FILES}"
+    Delete "$INSTDIR\uninstall.exe"
+    SetOutPath "$TEMP"
+    RMDir "$INSTDIR"
+    Delete "$SMPROGRAMS\Lorvane 3D.lnk"
+    DeleteRegKey HKCU "${ENTRY}"
+SectionEnd
+
+Section /o "un.My lists and settings" UNSETTINGS
+    DeleteRegKey HKCU "${SETTINGS}"
+SectionEnd
+
+Function un.onInit
+    ${GetParameters} $0
+    ClearErrors
+    ${GetOptions} $0 "/settings" $1
+    ${IfNot} ${Errors}
+        SectionSetFlags ${UNSETTINGS} 1
+    ${EndIf}
+FunctionEnd
