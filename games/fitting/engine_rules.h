@@ -1,4 +1,4 @@
-// games/engines/engine_rules.h
+// games/fitting/engine_rules.h
 //
 // What a composed command line becomes for an engine: nothing that it must not get, nothing that it would cut off or
 // tear apart, its own names for what it calls otherwise. Whatever is changed is said.

@@ -1,11 +1,11 @@
-#include "games/engines/engine_rules.h"
+#include "games/fitting/engine_rules.h"
 
 #include <algorithm>
 #include <optional>
 
 #include "foundation/field_strings.h"
-#include "games/engines/command_moving.h"
-#include "games/engines/fitting.h"
+#include "games/fitting/command_moving.h"
+#include "games/fitting/switch_fitting.h"
 
 namespace lv {
 

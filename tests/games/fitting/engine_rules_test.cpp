@@ -1,11 +1,11 @@
-#include "games/engines/engine_rules.h"
+#include "games/fitting/engine_rules.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
 #include "foundation/field_strings.h"
-#include "tests/games/engines/fitted.h"
+#include "tests/games/fitting/fitted.h"
 #include "tests/support/shipped_engines.h"
 
 namespace lv {

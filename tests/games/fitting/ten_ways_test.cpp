@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/field_strings.h"
-#include "tests/games/engines/fitted.h"
+#include "tests/games/fitting/fitted.h"
 #include "tests/support/shipped_engines.h"
 
 namespace lv {
