@@ -8,7 +8,7 @@
 #include <chrono>
 #include <thread>
 
-#include "platform/linux/file_descriptor.h"
+#include "platform/linux/files/file_descriptor.h"
 #include "platform/linux/starting/game_record.h"
 #include "tests/platform/scratch_directory.h"
 #include "tests/support/game_yard.h"

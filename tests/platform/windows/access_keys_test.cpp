@@ -1,4 +1,4 @@
-#include "platform/windows/access_keys.h"
+#include "platform/windows/toolkit/access_keys.h"
 
 #include <gtest/gtest.h>
 
