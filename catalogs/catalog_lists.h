@@ -37,4 +37,11 @@ struct CatalogLists {
     Text ScriptsToldOf = {};
 };
 
+/// The selected row goes, and the first that is left is selected.
+template <class List>
+void TakeRowOut(List& list) {
+    list.Items.erase(list.Items.begin() + list.ListIndex);
+    list.ListIndex = list.Items.empty() ? -1 : 0;
+}
+
 }  // namespace lv

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/typed_path.h"
@@ -47,8 +48,7 @@ Text BrowseStart(const Run& run, TextView inBox, TextView usual) {
 }
 
 Text DialogFailureText(const Error& failed) {
-    Text text = Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text, NewLine,
-                     NewLine);
+    Text text = Join(ErrorLines(failed), NewLine, NewLine);
     if (failed.Number == kDialogOutdated) {
         text += Join("You probably need to update the file 'comdlg32.ocx'.", NewLine,
                      "Version 5.00.3714 or higher is recommended.", NewLine,

@@ -1,5 +1,6 @@
 #include "foundation/open_store.h"
 
+#include "foundation/error_lines.h"
 #include "foundation/question_box.h"
 
 namespace lv {
@@ -59,7 +60,7 @@ std::unique_ptr<SettingsBacking> OpenStore(UserInterface& user, const StoreWays&
 void TellOfDrives(UserInterface& user, const Error& failed) {
     Ask(user,
         Join("The drives of the games' paths could not be made or mended, so some games may not be found.", NewLine,
-             NewLine, "Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text),
+             NewLine, ErrorLines(failed)),
         "&OK");
 }
 

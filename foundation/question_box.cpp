@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/settings.h"
 
@@ -225,9 +226,8 @@ Index AskUserOnce(Run& run, Text& title, TextView text, TextView buttons, int de
 void TellOfGivenUpWork(Run& run, const Error& failed) noexcept {
     try {
         AskUser(run, "",
-                Join("What was under way has been given up.", NewLine, NewLine,
-                     "Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text, NewLine,
-                     NewLine, "Save your work, and close other programs before you try again."));
+                Join("What was under way has been given up.", NewLine, NewLine, ErrorLines(failed), NewLine, NewLine,
+                     "Save your work, and close other programs before you try again."));
     } catch (const std::exception&) {
         return;
     }

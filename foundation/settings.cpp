@@ -1,5 +1,6 @@
 #include "foundation/settings.h"
 
+#include "foundation/error_lines.h"
 #include "foundation/numbers.h"
 #include "foundation/question_box.h"
 
@@ -26,9 +27,7 @@ void Tell(Run& run, TextView what, TextView which, const Error& failed) {
         return;
     }
     Text title = run.AppName;
-    AskUser(run, title,
-            Join(what, NewLine, NewLine, which, which.empty() ? "" : NewLine,
-                 "Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text));
+    AskUser(run, title, Join(what, NewLine, NewLine, which, which.empty() ? "" : NewLine, ErrorLines(failed)));
 }
 
 constexpr int kNotThere = 2;  // the registry's number for a key or value that is missing

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "foundation/error_lines.h"
 #include "foundation/numbers.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
@@ -132,7 +133,7 @@ void OpenHelpFile(Run& run) {
             return;
         }
     }
-    AskUser(run, "", Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text));
+    AskUser(run, "", ErrorLines(failed));
 }
 
 void OpenWebPage(Run& run, TextView address) {

@@ -1,5 +1,6 @@
 #include "gamespy/start_game_spy.h"
 
+#include "foundation/error_lines.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "gamespy/game_spy_config.h"
@@ -27,9 +28,8 @@ bool StartProgram(Run& run) {
     }
     if (const Error failed = run.System.Programs.StartProgram(location, {})) {
         AskUser(run, "Error",
-                Join(NotLaunched(), NewLine, "Error Number = ", std::to_string(failed.Number), NewLine,
-                     "Error Code = ", ShownStep(LaunchStep::GameSpyStart), NewLine, "Error String = ", failed.Text,
-                     NewLine, "GameSpy Location = ", location));
+                Join(NotLaunched(), NewLine, ErrorLines(failed, ShownStep(LaunchStep::GameSpyStart)), NewLine,
+                     "GameSpy Location = ", location));
         return false;
     }
     return true;

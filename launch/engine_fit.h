@@ -4,7 +4,7 @@
 
 #pragma once
 
-#include "games/engines/engine_rules.h"
+#include "games/fitting/engine_rules.h"
 #include "launch/launch_composition.h"
 #include "platform/files.h"
 

@@ -2,6 +2,7 @@
 
 #include "catalogs/scripts.h"
 #include "foundation/browse.h"
+#include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/link_question.h"
 #include "foundation/padded_item.h"
@@ -88,9 +89,7 @@ bool ValidateFile(AddScript_Frm& form, const Text& path) {
         return false;
     }
     if (const Error failed = MakeScript(run, path)) {
-        TellFault(form, "ScriptPath_Txt",
-                  Join("Unable to create new file.", NewLine, "Error Number = ", std::to_string(failed.Number), NewLine,
-                       "Error String = ", failed.Text),
+        TellFault(form, "ScriptPath_Txt", Join("Unable to create new file.", NewLine, ErrorLines(failed)),
                   "Error Creating File");
         return false;
     }

@@ -55,11 +55,6 @@ void PutRow(ListBox& list, bool edit, const Text& item) {
     }
 }
 
-void TakeRowOut(ListBox& list) {
-    list.Items.erase(list.Items.begin() + list.ListIndex);
-    list.ListIndex = list.Items.empty() ? -1 : 0;
-}
-
 bool StoreEntry(AddServer_Frm& form, const ServerEntry& entry) {
     ListBox& list = form.Lists.Server_Cbo;
     Text& hidden = form.Lists.HiddenServers;

@@ -47,12 +47,6 @@ bool Confirm(Run& run, const Deletion& deletion, TextView title, TextView value)
     return true;
 }
 
-template <class List>
-void TakeRowOut(List& list) {
-    list.Items.erase(list.Items.begin() + list.ListIndex);
-    list.ListIndex = list.Items.empty() ? -1 : 0;
-}
-
 bool DeleteRow(Run& run, CatalogLists& lists, ListBox& list, const Catalog& catalog, const Deletion& deletion) {
     if (!list.HasSelection()) {
         AskUser(run, "", deletion.NoSelection);

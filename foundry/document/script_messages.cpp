@@ -4,14 +4,11 @@
 #include <utility>
 
 #include "foundation/bounded_file.h"
+#include "foundation/error_lines.h"
 #include "foundation/game.h"
 #include "foundation/question_box.h"
 
 namespace lv {
-
-Text ErrorLines(const Error& failed) {
-    return Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text);
-}
 
 std::unique_ptr<RandomAccessFile> OpenScriptFile(Run& run, TextView path) {
     return OpenScriptFile(run, path, run.GameKind == Game::Unreal ? kLargestIni : kLargestScript);

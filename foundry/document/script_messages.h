@@ -11,9 +11,6 @@
 
 namespace lv {
 
-/// Number and text of an error, as the boxes show them.
-Text ErrorLines(const Error& failed);
-
 /// The script to be read; nothing if it can't be opened, which the user was told then.
 std::unique_ptr<RandomAccessFile> OpenScriptFile(Run& run, TextView path);
 /// If it has no more than `most` bytes.

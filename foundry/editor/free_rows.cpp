@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "catalogs/editors/choose_script.h"
+#include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundry/document/bindings.h"
-#include "foundry/document/script_messages.h"
 #include "foundry/document/slot_captions.h"
 #include "foundry/editor/line_dialogs.h"
 

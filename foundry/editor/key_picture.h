@@ -10,10 +10,6 @@
 
 namespace lv {
 
-// All labels of Keyboard_Fra lie within this, in twips.
-constexpr int kKeyboardWidth = 10500;
-constexpr int kKeyboardHeight = 1850;
-
 /// All labels with their captions, places and colours, and the list of controllers, as for a kind of game none of
 /// whose keys is bound. Comes before the reader, which paints the bound ones.
 void LayOutKeys(Fig_Frm& form);

@@ -1,12 +1,12 @@
 #include "foundry/editor/standard_aliases.h"
 
 #include "catalogs/scripts.h"
+#include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/game.h"
 #include "foundation/link_question.h"
 #include "foundation/path_fault.h"
 #include "foundation/question_box.h"
-#include "foundry/document/script_messages.h"
 #include "foundry/writing/banners.h"
 #include "foundry/writing/value_text.h"
 

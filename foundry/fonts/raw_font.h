@@ -12,9 +12,6 @@
 
 namespace lv {
 
-constexpr std::size_t kQuakeFontSize = std::size_t{128} * 128;
-constexpr std::size_t kHexen2FontSize = std::size_t{256} * 128;
-
 /// 16 letters in a row, the plain ones below their golden twins.
 std::optional<FontMap> ReadQuakeFont(TextView bytes, const Palette& palette);
 

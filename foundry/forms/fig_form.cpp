@@ -128,7 +128,7 @@ void FigForm::BindEvents() {
         event.Skip();
         if (!place_.IsPut()) {
             Make([this] { return pages_.PrepareOne(); });
-        } else if (painted_ && (parts_.Controls.FillOne() || MakeOnePage() || pages_.WarmUpOne() || SpeakSome())) {
+        } else if (painted_ && (MakeSome() || pages_.WarmUpOne() || SpeakSome())) {
             event.RequestMore();
         }
     });
@@ -166,8 +166,8 @@ bool FigForm::Make(const std::function<bool()>& make) {
     return made;
 }
 
-bool FigForm::MakeOnePage() {
-    return Make([this] { return pages_.MakeOne(); });
+bool FigForm::MakeSome() {
+    return parts_.Controls.FillOne() || Make([this] { return pages_.MakeOne(); });
 }
 
 void FigForm::SpeakAnew() {
@@ -191,11 +191,6 @@ bool FigForm::SpeakSome() {
         unspoken_.pop_back();
     }
     return !unspoken_.empty();
-}
-
-void FigForm::MakeAllPages() {
-    while (MakeOnePage() || parts_.Controls.FillOne()) {
-    }
 }
 
 void FigForm::ShowState() {

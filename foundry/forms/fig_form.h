@@ -34,15 +34,15 @@ class FigForm : public wxDialog {
 
     [[nodiscard]] Fig_Frm& Model() const { return model_; }
 
-    /// Makes all pages that nobody has looked at yet.
-    void MakeAllPages();
+    /// What idle moments are for: fills one list, or makes one page that nobody has looked at yet. False if there is
+    /// none left.
+    bool MakeSome();
 
   private:
     wxSizer* MakeFindRow();
     void BindEvents();
     /// What `make` says; nothing is shown anew in between.
     bool Make(const std::function<bool()>& make);
-    bool MakeOnePage();
     void LeadToFound();
     void SpeakAnew();
     bool SpeakSome();

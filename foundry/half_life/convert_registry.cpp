@@ -4,6 +4,7 @@
 
 #include "catalogs/scripts.h"
 #include "foundation/bounded_file.h"
+#include "foundation/error_lines.h"
 #include "foundation/link_question.h"
 #include "foundation/path_fault.h"
 #include "foundation/question_box.h"

@@ -1,6 +1,7 @@
 #include "foundry/reading/open_script.h"
 
 #include "foundation/bounded_file.h"
+#include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/link_question.h"
 #include "foundation/question_box.h"

@@ -4,6 +4,7 @@
 
 #include "catalogs/scripts.h"
 #include "foundation/browse.h"
+#include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/game.h"
 #include "foundation/link_question.h"

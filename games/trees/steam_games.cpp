@@ -8,17 +8,21 @@ namespace lv {
 
 namespace {
 
+struct SteamTitle {
+    TextView AppId;
+    TextView Directory;  // below steamapps\common, where no manifest says it
+};
+
 // clang-format off
 constexpr SteamTitle kTitles[] = {
-    // app id    game            directory
-    {"2310",    Game::Quake,    "Quake"},
-    {"2320",    Game::Quake2,   "Quake 2"},
-    {"1089130", Game::Quake2,   "Quake II RTX"},
-    {"9060",    Game::Hexen2,   "Hexen 2"},
-    {"70",      Game::HalfLife, "Half-Life"},
-    {"13250",   Game::Unreal,   "Unreal Gold"},
-    {"1313",    Game::Sin,      "SiN 1"},
-    {"1313",    Game::Sin,      "SiN Gold"},
+    {"2310",    "Quake"},
+    {"2320",    "Quake 2"},
+    {"1089130", "Quake II RTX"},
+    {"9060",    "Hexen 2"},
+    {"70",      "Half-Life"},
+    {"13250",   "Unreal Gold"},
+    {"1313",    "SiN 1"},
+    {"1313",    "SiN Gold"},
 };
 // clang-format on
 
@@ -67,10 +71,6 @@ Text DirectoryNameOf(Files& files, TextView apps, const SteamTitle& title) {
 }
 
 }  // namespace
-
-std::span<const SteamTitle> AllSteamTitles() {
-    return kTitles;
-}
 
 std::vector<Text> SteamLibraries(Files& files, TextView root) {
     std::vector<Text> libraries = {Text(root)};

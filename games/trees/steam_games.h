@@ -7,24 +7,15 @@
 #pragma once
 
 #include <cstddef>
-#include <span>
 #include <vector>
 
-#include "foundation/game.h"
+#include "foundation/text.h"
 #include "platform/files.h"
 
 namespace lv {
 
 constexpr std::size_t kMostSteamLibraries = 64;
 constexpr std::size_t kMostSteamPrefixes = 1000;
-
-struct SteamTitle {
-    TextView AppId;
-    Game GameKind = Game::None;
-    TextView Directory;  // below steamapps\common, where no manifest says it
-};
-
-std::span<const SteamTitle> AllSteamTitles();
 
 /// The root itself, then those that its "libraryfolders.vdf" names, in either of its layouts and places.
 std::vector<Text> SteamLibraries(Files& files, TextView root);

@@ -164,11 +164,9 @@ bool TreeSearch::OpenNextPlace() {
 
 bool TreeSearch::Step() {
     if (listed_ >= kMostListed) {
-        wasCut_ = wasCut_ || !waiting_.empty() || !usual_.empty() || stage_ < kNoStage;
         return false;
     }
-    if (!waiting_.empty() && listedHere_ >= kMostListedInAPlace) {
-        wasCut_ = true;
+    if (listedHere_ >= kMostListedInAPlace) {
         waiting_.clear();
     }
     if (waiting_.empty() && !OpenNextPlace()) {

@@ -38,9 +38,6 @@ class TreeSearch {
     /// How many directories were listed.
     [[nodiscard]] std::size_t Listed() const { return listed_; }
 
-    /// Whether directories were left out, as there were too many.
-    [[nodiscard]] bool WasCut() const { return wasCut_; }
-
   private:
     struct Waiting {
         Text Path;
@@ -65,7 +62,6 @@ class TreeSearch {
     std::deque<Waiting> waiting_;  // of the present place, nearest first
     std::size_t listedHere_ = 0;
     std::size_t listed_ = 0;
-    bool wasCut_ = false;
     Text at_;
     std::unordered_map<std::uint64_t, int> met_;  // by identity: to what depth
     std::unordered_set<std::uint64_t> trees_;

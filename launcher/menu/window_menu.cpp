@@ -3,20 +3,13 @@
 #include "catalogs/editors/delete_entry.h"
 #include "foundation/browse.h"
 #include "foundation/dialogs.h"
+#include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 
 namespace lv {
-
-namespace {
-
-Text ErrorLines(const Error& failed) {
-    return Join("Error Number = ", std::to_string(failed.Number), NewLine, "Error String = ", failed.Text);
-}
-
-}  // namespace
 
 Text NameNice(TextView text) {
     Text name = LowerCase(Trim(text));

@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/game.h"
 #include "foundation/link_question.h"
@@ -55,9 +56,8 @@ void Tell(Run& run, TextView text) {
 
 void ReportError(Click& click, const Error& failed) {
     Run& run = click.run;
-    Text report = Join("Error Number = ", std::to_string(failed.Number), NewLine,
-                       "Error Code = ", ShownStep(click.Texts.LaunchStep), NewLine, "Error String = ", failed.Text,
-                       NewLine, "Curreny System Directory = ", run.System.Disk.CurrentDirectory(), NewLine,
+    Text report = Join(ErrorLines(failed, ShownStep(click.Texts.LaunchStep)), NewLine,
+                       "Curreny System Directory = ", run.System.Disk.CurrentDirectory(), NewLine,
                        "Default Game Directory = ", run.DefaultGameDirectory, NewLine,
                        "Current Command Line = ", click.Texts.GameCommand);
     if (!click.FailureFile.empty()) {

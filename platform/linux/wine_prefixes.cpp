@@ -5,6 +5,7 @@
 
 #include "platform/known_places.h"
 #include "platform/linux/game_notes.h"
+#include "platform/linux/files/host_read.h"
 #include "platform/linux/user_directories.h"
 
 namespace lv {
@@ -57,11 +58,6 @@ Paths InHome(const char* const (&names)[Size]) {
     return paths;
 }
 
-bool IsDirectory(const fs::path& path) {
-    std::error_code failed;
-    return fs::is_directory(path, failed);
-}
-
 // Sorted, so that two looks say the same.
 Paths EntriesOf(const fs::path& directory) {
     Paths entries;
@@ -78,7 +74,7 @@ class Prefixes {
   public:
     void Add(const fs::path& prefix) {
         std::error_code failed;
-        const fs::path real = IsDirectory(prefix / "drive_c") ? fs::canonical(prefix, failed) : fs::path();
+        const fs::path real = IsDirectoryAt(prefix / "drive_c") ? fs::canonical(prefix, failed) : fs::path();
         if (!real.empty() && !failed && found.size() < kMostKnownPlaces &&
             std::ranges::find(found, real) == found.end()) {
             found.push_back(real);
@@ -114,7 +110,7 @@ Paths FindSteamRoots() {
     for (const fs::path& root : InHome(kSteamRoots)) {
         std::error_code failed;
         const fs::path real = fs::canonical(root, failed);
-        if (!failed && IsDirectory(real) && std::ranges::find(found, real) == found.end()) {
+        if (!failed && IsDirectoryAt(real) && std::ranges::find(found, real) == found.end()) {
             found.push_back(real);
         }
     }

@@ -95,6 +95,11 @@ class FigForm_ : public ::testing::Test {
                     });
     }
 
+    /// Those that nobody has looked at yet.
+    void MakeAllPages() const {
+        while (form->MakeSome()) {
+        }
+    }
     void Turn(EditorPage page) {
         FindAs<wxNotebook>("Main_Tab")->SetSelection(static_cast<std::size_t>(page));
         Settle();

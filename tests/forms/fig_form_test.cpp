@@ -360,7 +360,7 @@ TEST_P(FigFormOfKind, EveryPageFitsTheScreen) {
     Use(GetParam(),
         GetParam().Dialect.GameKind == Game::Unreal ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
     Edit([this] {
-        form->MakeAllPages();
+        MakeAllPages();
         Settle();
         EXPECT_LE(form->GetRect().GetRight(), 1024);
         EXPECT_LE(form->GetRect().GetBottom(), 768);

@@ -109,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(Kinds, FigNames, ::testing::ValuesIn(kGames),
 TEST_P(FigNames, EveryControlIsThereAndTellsWhatItIsFor) {
     Use(GetParam(), "");
     Edit([this] {
-        form->MakeAllPages();
+        MakeAllPages();
         std::map<std::string, wxWindow*> all;
         Collect(form, all);
         for (const std::string& name : NamesOf(GetParam().Dialect.GameKind == Game::Unreal)) {

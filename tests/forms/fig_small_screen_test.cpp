@@ -103,7 +103,7 @@ TEST_P(FoundryOnAnyScreen, EveryControlOfEveryPageIsInReachOfABar) {
     Use(GetParam(),
         GetParam().Dialect.GameKind == Game::Unreal ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
     Edit([this] {
-        form->MakeAllPages();
+        MakeAllPages();
         LookAtTabs("Options_Tab");
         Turn(EditorPage::Bindings);
         LookAtTabs("Bindings_Tab");
@@ -138,7 +138,7 @@ TEST_P(FoundryOnAnyScreen, TheKeyboardBringsTheLastSettingOfAPageIntoSight) {
     const bool unreal = GetParam().Dialect.GameKind == Game::Unreal;
     Use(GetParam(), unreal ? "[Engine.Input]\nW=MoveForward\n" : "bind w +forward\n");
     Edit([this, unreal] {
-        form->MakeAllPages();
+        MakeAllPages();
         FindAs<wxNotebook>("Options_Tab")->SetSelection(1);
         Settle();
         const wxWindow* const last = Find(unreal ? "UnrealPassword_Txt" : "scr_centerspeed_Cbo");

@@ -9,7 +9,6 @@
 
 #include <chrono>
 #include <csignal>
-#include <fstream>
 #include <functional>
 #include <thread>
 
@@ -17,6 +16,7 @@
 #include "platform/linux/linux_processes.h"
 #include "platform/linux/starting/game_record.h"
 #include "tests/support/game_yard.h"
+#include "tests/support/output_to.h"
 #include "tests/support/test_paths.h"
 
 namespace lv {
@@ -25,7 +25,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::StartsWith;
 
 bool Until(const std::function<bool()>& happened) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(60);
@@ -49,21 +48,6 @@ mode_t ModeOf(const std::string& path) {
     struct stat about {};
     return lstat(path.c_str(), &about) == 0 && S_ISREG(about.st_mode) ? about.st_mode & 07777u : 0;
 }
-
-/// Standard output for the life of the object.
-class OutputTo {
-  public:
-    explicit OutputTo(int file) : before_(dup(STDOUT_FILENO)) { dup2(file, STDOUT_FILENO); }
-    ~OutputTo() {
-        dup2(before_, STDOUT_FILENO);
-        close(before_);
-    }
-    OutputTo(const OutputTo&) = delete;
-    OutputTo& operator=(const OutputTo&) = delete;
-
-  private:
-    int before_;
-};
 
 struct WatchedYard : GameYard {
     explicit WatchedYard(const std::string& name)
@@ -233,66 +217,6 @@ TEST(GameWatch, AReaderThatTakesNothingHoldsNoGameUp) {
     close(ends[1]);
 }
 
-TEST(GameWatch, WithoutTheHelperTheGameStartsAsEver) {
-    WatchedYard yard("watch_none");
-    yard.EndOf("echo of the game before");
-    HostPlaces places = yard.Places;
-    places.WatchHelper = yard.Root / "missing";
-    LinuxProcesses programs(yard.Disk, places);
-    yard.AddFile("quake/GAME", "#!/bin/sh\necho end > started.txt\n");
-    ASSERT_FALSE(programs.StartBatch("C:\\QUAKE", "lv_666.bat"));
-    EXPECT_THAT(WaitForOutput(yard.Drive / "quake/started.txt"), ElementsAre("end"));
-    EXPECT_FALSE(programs.WatchesGame());
-    EXPECT_FALSE(programs.LastOutput());
-    EXPECT_FALSE(programs.EndOfLastGame());
-}
-
-TEST(GameWatch, WithAHelperThatIsNoProgramTheGameStartsToo) {
-    WatchedYard yard("watch_broken");
-    HostPlaces places = yard.Places;
-    places.WatchHelper = yard.AddFile("broken",
-                                      "\x7F"
-                                      "ELF");
-    fs::permissions(places.WatchHelper, fs::perms::owner_all);
-    const auto game = yard.AddFile("quake/GAME", "#!/bin/sh\necho end > started.txt\n");
-    fs::permissions(game, fs::perms::owner_all);
-    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "GAME"});
-    LinuxProcesses programs(yard.Disk, places);
-    ASSERT_FALSE(programs.StartBatch("C:\\QUAKE", "lv_666.bat"));
-    EXPECT_THAT(WaitForOutput(yard.Drive / "quake/started.txt"), ElementsAre("end"));
-    EXPECT_FALSE(programs.WatchesGame());
-}
-
-TEST(GameWatch, AGameThatCannotBeStartedIsAnErrorAsEver) {
-    WatchedYard yard("watch_refused");
-    const auto game = yard.AddFile("quake/GAME", "#!/no/such/shell\n");
-    fs::permissions(game, fs::perms::owner_all);
-    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "GAME"});
-    const Error fault = yard.Programs.StartBatch("C:\\QUAKE", "lv_666.bat");
-    EXPECT_EQ(fault.Number, 53);
-    EXPECT_THAT(fault.Text, StartsWith("File not found: " + game.string()));
-    EXPECT_FALSE(yard.Programs.WatchesGame());
-    EXPECT_FALSE(yard.Programs.LastOutput());
-    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
-}
-
-TEST(GameWatch, ASecondLaunchReplacesTheOutputOfTheFirst) {
-    WatchedYard yard("watch_second");
-    yard.EndOf("echo of the first; exit 1");
-    EXPECT_EQ(yard.EndOf("echo of the second; exit 2").Code, 2);
-    EXPECT_EQ(yard.Programs.LastOutput(), "of the second\r\n");
-}
-
-TEST(GameWatch, AGameThatAnotherFollowedIsNotToldOf) {
-    WatchedYard yard("watch_followed");
-    const std::string go = (yard.Root / "go").string();
-    ASSERT_FALSE(yard.Start("until [ -e '" + go + "' ]; do sleep 0.05; done; echo of the first; exit 1", "FIRST"));
-    ASSERT_FALSE(yard.Start("echo of the second; sleep 1; exit 2", "SECOND"));
-    std::ofstream(go) << "x";
-    EXPECT_EQ(yard.WaitForEnd().Code, 2);
-    EXPECT_EQ(yard.Programs.LastOutput(), "of the second\r\n");
-}
-
 TEST(GameWatch, FilesAndDirectoryAreThisUsersAlone) {
     WatchedYard yard("watch_modes");
     const mode_t mask = umask(0);
@@ -316,15 +240,6 @@ TEST(GameWatch, LinksAtTheNamesOfItsFilesAreReplacedAndNotFollowed) {
     EXPECT_TRUE(ReadBytes(yard.Kept.Output).ends_with("\nthe last\n"));
     EXPECT_EQ(ModeOf(yard.Kept.Output), 0600u);
     EXPECT_EQ(ModeOf(yard.Kept.End), 0600u);
-}
-
-TEST(GameWatch, WhereItCanKeepNothingTheGameStartsAllTheSame) {
-    WatchedYard yard("watch_nowhere");
-    std::ofstream(yard.Places.State) << "no directory";
-    ASSERT_FALSE(yard.Start("echo said; echo end > started.txt"));
-    EXPECT_THAT(WaitForOutput(yard.Drive / "quake/started.txt"), ElementsAre("end"));
-    EXPECT_FALSE(yard.Programs.WatchesGame());
-    EXPECT_FALSE(yard.Programs.LastOutput());
 }
 
 }  // namespace lv

@@ -12,6 +12,18 @@ namespace lv {
 
 namespace fs = std::filesystem;
 
+TEST(IsDirectoryAt, FollowsLinks) {
+    const ScratchDirectory scratch;
+    WriteBytes(scratch / "file", "");
+    fs::create_symlink(scratch.Path(), scratch / "link");
+    fs::create_symlink(scratch / "none", scratch / "nowhere");
+    EXPECT_TRUE(IsDirectoryAt(scratch.Path().string()));
+    EXPECT_TRUE(IsDirectoryAt((scratch / "link").string()));
+    for (const char* const name : {"file", "none", "nowhere"}) {
+        EXPECT_FALSE(IsDirectoryAt((scratch / name).string())) << name;
+    }
+}
+
 TEST(OpenHostFile, TellsAMissingFileFromAMissingDirectory) {
     const ScratchDirectory scratch;
     EXPECT_EQ(OpenHostFile((scratch / "none").string()).Fault.Number, 53);

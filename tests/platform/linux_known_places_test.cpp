@@ -99,44 +99,13 @@ TEST(LinuxKnownPlaces, KnowWhereDataAndSettingsLie) {
     EXPECT_EQ(machine.Known.ConfigDirectory(), machine.On("home/me/.config"));
 }
 
-TEST(LinuxKnownPlaces, HaveEachOfSteamsRootsOnce) {
+TEST(LinuxKnownPlaces, SaySteamsRootsAndThePrefixesByTheDrives) {
     Machine machine;
-    for (const char* const place :
-         {"home/me/.local/share/Steam", "home/me/.steam", "home/me/.steam/debian-installation",
-          "home/me/.var/app/com.valvesoftware.Steam/.local/share/Steam",
-          "home/me/.var/app/com.valvesoftware.Steam/.steam", "home/me/.var/app/com.valvesoftware.Steam/data/Steam",
-          "home/me/snap/steam/common/.local/share/Steam", "home/me/snap/steam/common/.steam/steam"}) {
-        machine.Make(place);
-    }
-    fs::create_symlink("../.local/share/Steam", machine.HomePath / ".steam/steam");
-    fs::create_symlink("../.local/share/Steam", machine.HomePath / ".steam/root");
-    fs::create_symlink("../none", machine.HomePath / ".var/app/com.valvesoftware.Steam/.steam/steam");
-    EXPECT_EQ(
-        machine.Known.SteamRoots(),
-        machine.On(Places{"home/me/.local/share/Steam", "home/me/.steam/debian-installation",
-                          "home/me/.var/app/com.valvesoftware.Steam/.local/share/Steam",
-                          "home/me/.var/app/com.valvesoftware.Steam/data/Steam",
-                          "home/me/snap/steam/common/.local/share/Steam", "home/me/snap/steam/common/.steam/steam"}));
-}
-
-TEST(LinuxKnownPlaces, HaveThePrefixInUseBeforeThoseOfOthers) {
-    Machine machine;
-    for (const char* const prefix :
-         {"mine", "home/me/.wine", "home/me/Games/quake", "srv/lutris",
-          "home/me/Games/Heroic/Prefixes/default/Quake/pfx", "home/me/.local/share/bottles/bottles/Games",
-          "home/me/.PlayOnLinux/wineprefix/Unreal", "home/me/.local/share/Steam/steamapps/compatdata/2310/pfx"}) {
-        machine.Make(std::string(prefix) + "/drive_c");
-    }
-    machine.Make("home/me/Games/native");
-    machine.Write("home/me/.config/lutris/games/unreal-1.yml",
-                  "game:\n  prefix: " + (machine.Scratch / "srv/lutris").string() + "\n");
-    machine.Write("home/me/.config/lutris/games/gone-1.yml", "game:\n  prefix: /none/at/all\n");
-    const ScopedVariable wine("WINEPREFIX", (machine.Scratch / "mine").c_str());
+    machine.Make("home/me/.wine/drive_c");
+    machine.Make("home/me/.local/share/Steam/steamapps/compatdata/2310/pfx/drive_c");
+    EXPECT_EQ(machine.Known.SteamRoots(), machine.On(Places{"home/me/.local/share/Steam"}));
     EXPECT_EQ(machine.Known.WinePrefixes(),
-              machine.On(Places{"mine", "home/me/Games/quake", "srv/lutris",
-                                "home/me/Games/Heroic/Prefixes/default/Quake/pfx",
-                                "home/me/.local/share/bottles/bottles/Games", "home/me/.PlayOnLinux/wineprefix/Unreal",
-                                "home/me/.local/share/Steam/steamapps/compatdata/2310/pfx"}));
+              machine.On(Places{"home/me/.wine", "home/me/.local/share/Steam/steamapps/compatdata/2310/pfx"}));
 }
 
 TEST(LinuxKnownPlaces, HaveOfTheNotedGamesThoseThatAreThere) {

@@ -14,6 +14,7 @@
 
 #include "platform/code_page.h"
 #include "platform/linux/files/errno_error.h"
+#include "platform/linux/files/host_read.h"
 
 namespace lv {
 
@@ -36,11 +37,6 @@ int MakeStagedDrives(const fs::path& staged, const std::string& driveC) {
         return errno;
     }
     return 0;
-}
-
-bool LeadsToADirectory(const fs::path& path) {
-    struct stat info {};
-    return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
 bool LeadsToWhatIsNotThere(const fs::path& path) {
@@ -82,7 +78,7 @@ int MakeLink(const char* target, const fs::path& entry) {
 
 int MendC(const DriveDirectories& directories) {
     const fs::path entry = directories.drives / "c:";
-    if (!EntryExists(entry) || LeadsToADirectory(entry)) {
+    if (!EntryExists(entry) || IsDirectoryAt(entry)) {
         return 0;
     }
     std::error_code failed;
@@ -99,7 +95,7 @@ int MendC(const DriveDirectories& directories) {
 
 int MendZ(const DriveDirectories& directories) {
     const auto found = DriveEntry(directories, 'z');
-    if (found && LeadsToADirectory(*found)) {
+    if (found && IsDirectoryAt(*found)) {
         return 0;
     }
     const fs::path entry = directories.drives / "z:";
@@ -143,7 +139,7 @@ Error MakeFirstDrives(const DriveDirectories& directories) {
     }
     const fs::path home = directories.drives.parent_path();
     const fs::path ofWine = directories.winePrefix / "drive_c";
-    const bool sharesWines = !directories.winePrefix.empty() && LeadsToADirectory(ofWine);
+    const bool sharesWines = !directories.winePrefix.empty() && IsDirectoryAt(ofWine);
     fs::create_directories(sharesWines ? home : home / "drive_c", failed);
     if (failed) {
         return ErrorOf(failed.value());

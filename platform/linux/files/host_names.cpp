@@ -6,6 +6,7 @@
 
 #include "platform/code_page.h"
 #include "platform/linux/files/file_descriptor.h"
+#include "platform/linux/files/host_read.h"
 
 namespace lv {
 
@@ -27,11 +28,6 @@ bool IsLetter(char c) {
 bool NameExists(const std::string& hostPath) {
     struct stat info {};
     return lstat(hostPath.c_str(), &info) == 0;
-}
-
-bool IsDirectoryAt(const std::string& hostPath) {
-    struct stat info {};
-    return stat(hostPath.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
 }
 
 // Tells most names from it at their first letter, so that few are converted.

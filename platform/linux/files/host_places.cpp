@@ -1,7 +1,5 @@
 #include "platform/linux/files/host_places.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
@@ -10,20 +8,12 @@
 
 #include "platform/code_page.h"
 #include "platform/linux/files/host_links.h"
+#include "platform/linux/files/host_read.h"
 #include "platform/linux/user_directories.h"
 
 namespace lv {
 
-namespace {
-
 namespace fs = std::filesystem;
-
-bool IsDirectoryAt(const std::string& hostPath) {
-    struct stat info {};
-    return stat(hostPath.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
-}
-
-}  // namespace
 
 std::optional<HostPlace> FindPlace(const DriveDirectories& directories, std::string_view path,
                                    const DrivePath& current) {

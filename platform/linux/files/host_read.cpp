@@ -57,11 +57,6 @@ class HostFile : public RandomAccessFile {
     std::uint64_t size_;
 };
 
-bool IsDirectoryAt(const std::string& path) {
-    struct stat info {};
-    return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
-}
-
 Error ErrorOfFile(int number, const std::string& path) {
     const std::string directory = path.substr(0, path.rfind('/') + 1);
     return number == ENOENT && !IsDirectoryAt(directory) ? MakeError(error::kPathNotFound) : ErrorOf(number);
@@ -138,6 +133,11 @@ Result<std::string> ReadInSteps(int descriptor) {
 }
 
 }  // namespace
+
+bool IsDirectoryAt(const std::string& hostPath) {
+    struct stat info {};
+    return stat(hostPath.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
 
 Result<std::unique_ptr<FileDescriptor>> OpenHostFile(const std::string& hostPath) {
     struct stat info {};

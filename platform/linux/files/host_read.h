@@ -14,6 +14,9 @@
 
 namespace lv {
 
+/// Whether a directory is there. Links are followed.
+bool IsDirectoryAt(const std::string& hostPath);
+
 /// 53 no such file, 76 no such directory, 75 a directory, a pipe or a device, 70 no access.
 Result<std::unique_ptr<FileDescriptor>> OpenHostFile(const std::string& hostPath);
 

@@ -18,11 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsDirectoryAt(const std::string& hostPath) {
-    struct stat info {};
-    return stat(hostPath.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
-}
-
 std::string DirectoryOf(const std::string& hostPath) {
     return hostPath.substr(0, hostPath.rfind('/') + 1);
 }

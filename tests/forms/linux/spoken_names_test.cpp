@@ -41,7 +41,7 @@ class SpokenSettings : public FigForm_ {
 TEST_F(SpokenSettings, AreCalledByTheirCaptionsAndNotByTheirToolTips) {
     Use(kGames[1], "bind w +forward\n");
     Edit([this] {
-        form->MakeAllPages();
+        MakeAllPages();
         form->ShowState();
         EXPECT_EQ(Spoken("fov_Cbo"), "Field Of View");
         EXPECT_EQ(Spoken("Crosshair_Cbo"), "Crosshair");
@@ -71,7 +71,7 @@ TEST_F(SpokenSettings, ColorsHaveTheirNamesBeforeTheKeyboardComes) {
 TEST_F(SpokenSettings, OfUnrealAreCalledSoTooWithTheListsOfWeapons) {
     Use(kGames[4], "[Engine.Input]\nW=MoveForward\n");
     Edit([this] {
-        form->MakeAllPages();
+        MakeAllPages();
         form->ShowState();
         EXPECT_EQ(Spoken("PlayerPawn_Cbo(0)"), "Dodge Click Time");
         EXPECT_EQ(Spoken("WeaponsAvailable_Lst"), "Unselected Weapons");

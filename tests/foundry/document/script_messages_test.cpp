@@ -20,10 +20,6 @@ class ScriptMessages : public ::testing::Test {
     lv::Run run{system.Services, user};
 };
 
-TEST_F(ScriptMessages, ShowAnErrorsNumberAndText) {
-    EXPECT_EQ(ErrorLines({61, "Disk full"}), "Error Number = 61\r\nError String = Disk full");
-}
-
 TEST_F(ScriptMessages, CallTheEditorByTheScriptWithTheOtherSlash) {
     EXPECT_EQ(EditorCaption("c:\\quake\\id1\\my.cfg"), "Setup Foundry - [c:/quake/id1/my.cfg]");
     EXPECT_EQ(EditorCaption(""), "Setup Foundry - []");

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "games/engines/start_rules.h"
 #include "platform/memory/memory_files.h"
 #include "tests/support/shipped_engines.h"
 
@@ -113,44 +112,6 @@ TEST(FindEngines, SaysWhichDirectoryHasMoreEntriesThanItLooksAt) {
     const EngineSearch search = FindEngines(disk, {"C:\\games"}, ShippedEngines());
     EXPECT_TRUE(search.Engines.empty());
     EXPECT_EQ(search.CutShort, Lines{"C:\\games"});
-}
-
-TEST(TenWays, TheProgramBehindAWrapperIsStarted) {
-    const Engine& shipped = ShippedEngine("ezQuake");
-    EXPECT_EQ(shipped.StartedAs, "/usr/games/ezquake");
-    EXPECT_EQ(shipped.StartInstead, "/usr/lib/games/ezquake/ezquake");
-    Engine engine = shipped;
-    MemoryFiles disk;
-    disk.AddFile("C:\\usr\\games\\ezquake");
-    engine.StartedAs = disk.ToHost("C:\\usr\\games\\ezquake");
-    engine.StartInstead = disk.ToHost("C:\\usr\\lib\\ezquake");
-    EXPECT_EQ(ProgramToStart(disk, engine, "C:\\usr\\games\\ezquake"), "C:\\usr\\games\\ezquake");
-    disk.AddFile("C:\\usr\\lib\\ezquake");
-    EXPECT_EQ(LowerCase(ProgramToStart(disk, engine, "C:\\usr\\games\\ezquake")), "c:\\usr\\lib\\ezquake");
-    EXPECT_EQ(ProgramToStart(disk, engine, "C:\\other\\ezquake"), "C:\\other\\ezquake");
-}
-
-TEST(TenWays, SomeEnginesFindTheirHomeInThePasswordDatabase) {
-    EXPECT_TRUE(ShippedEngine("QuakeSpasm").HomeOfAccount);
-    EXPECT_FALSE(ShippedEngine("DarkPlaces").HomeOfAccount);
-}
-
-TEST(TenWays, YamagiDoesNotRunAsRootNorWithoutItsDirectory) {
-    const Engine& yamagi = ShippedEngine("Yamagi Quake II");
-    EXPECT_EQ(WhyNoUseToStart(yamagi, {.AsRoot = true}),
-              "Yamagi Quake II does not run as root. Log in as a user of your own to play.");
-    EXPECT_EQ(WhyNoUseToStart(yamagi, {.DataDirectory = "C:\\Q2", .DataDirectoryExists = false}),
-              "The game's directory is missing: C:\\Q2. Without it Yamagi Quake II ends with exit code 1. "
-              "Mount its disk, or choose another directory.");
-    EXPECT_EQ(WhyNoUseToStart(yamagi, {.DataDirectory = "C:\\Q2"}), std::nullopt);
-    EXPECT_EQ(WhyNoUseToStart(ShippedEngine("QuakeSpasm"), {.AsRoot = true}), std::nullopt);
-}
-
-TEST(TenWays, YamagiCannotUseTheRereleasesData) {
-    EXPECT_EQ(WhyNoUseToStart(ShippedEngine("Yamagi Quake II"), {.DataDirectory = "C:\\Quake 2\\Rerelease"}),
-              "Yamagi Quake II cannot use the data of the rerelease. Choose the directory above \"rerelease\", which "
-              "holds the classic game.");
-    EXPECT_EQ(WhyNoUseToStart(ShippedEngine("Ironwail"), {.DataDirectory = "C:\\Quake\\rerelease"}), std::nullopt);
 }
 
 }  // namespace

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <tuple>
-
 #include "platform/memory/memory_platform.h"
 
 namespace lv {
@@ -32,20 +30,36 @@ constexpr const char* kOldLayout = R"("LibraryFolders"
 
 }  // namespace
 
-TEST(SteamTitles, AreTheGamesOfTheTable) {
-    using Row = std::tuple<TextView, Game, TextView>;
-    std::vector<Row> rows;
-    for (const SteamTitle& title : AllSteamTitles()) {
-        rows.emplace_back(title.AppId, title.GameKind, title.Directory);
+TEST(SteamGames, AreThoseOfTheTableInItsOrder) {
+    struct Title {
+        const char* AppId;
+        const char* Directory;
+    };
+    // clang-format off
+    constexpr Title kTitles[] = {
+        {"2310",    "Quake"},
+        {"2320",    "Quake 2"},
+        {"1089130", "Quake II RTX"},
+        {"9060",    "Hexen 2"},
+        {"70",      "Half-Life"},
+        {"13250",   "Unreal Gold"},
+        {"1313",    "SiN 1"},
+        {"1313",    "SiN Gold"},
+    };
+    // clang-format on
+    const Text common = "C:\\STEAM\\steamapps\\common\\";
+    MemoryFiles byName;
+    Paths all;
+    for (const Title& title : kTitles) {
+        all.push_back(Join(common, title.Directory));
+        byName.AddDirectory(all.back());
+        MemoryFiles byManifest;
+        byManifest.AddFile(Join("C:\\STEAM\\steamapps\\appmanifest_", title.AppId, ".acf"),
+                           R"("AppState" { "installdir" "Elsewhere" })");
+        byManifest.AddDirectory(Join(common, "Elsewhere"));
+        EXPECT_EQ(SteamGameDirectories(byManifest, kRoot), Paths{Join(common, "Elsewhere")}) << title.AppId;
     }
-    EXPECT_EQ(rows, (std::vector<Row>{{"2310", Game::Quake, "Quake"},
-                                      {"2320", Game::Quake2, "Quake 2"},
-                                      {"1089130", Game::Quake2, "Quake II RTX"},
-                                      {"9060", Game::Hexen2, "Hexen 2"},
-                                      {"70", Game::HalfLife, "Half-Life"},
-                                      {"13250", Game::Unreal, "Unreal Gold"},
-                                      {"1313", Game::Sin, "SiN 1"},
-                                      {"1313", Game::Sin, "SiN Gold"}}));
+    EXPECT_EQ(SteamGameDirectories(byName, kRoot), all);
 }
 
 TEST(SteamLibraries, AreNamedInEitherLayoutAndEitherPlace) {

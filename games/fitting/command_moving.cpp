@@ -1,10 +1,10 @@
-#include "games/engines/command_moving.h"
+#include "games/fitting/command_moving.h"
 
 #include <algorithm>
 #include <optional>
 
 #include "foundation/field_strings.h"
-#include "games/engines/command_tearing.h"
+#include "games/fitting/command_tearing.h"
 
 namespace lv {
 

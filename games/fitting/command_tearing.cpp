@@ -1,4 +1,4 @@
-#include "games/engines/command_tearing.h"
+#include "games/fitting/command_tearing.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
-// games/engines/command_moving.h
+// games/fitting/command_moving.h
 //
 // Commands that go out of the command line into a script: the launch's own, or the engine's autoexec.cfg.
 
 #pragma once
 
-#include "games/engines/fitting.h"
+#include "games/fitting/switch_fitting.h"
 
 namespace lv {
 

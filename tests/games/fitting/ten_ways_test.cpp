@@ -1,10 +1,10 @@
-// The ten ways in which today's engines break a launch; engine_search_test.cpp has those that are no matter of the
-// command line.
+// The ten ways in which today's engines break a launch; start_rules_test.cpp, beside the table of engines, has those
+// that are no matter of the command line.
 
 #include <gtest/gtest.h>
 
 #include "foundation/field_strings.h"
-#include "tests/games/engines/fitted.h"
+#include "tests/games/fitting/fitted.h"
 #include "tests/support/shipped_engines.h"
 
 namespace lv {
@@ -39,10 +39,10 @@ TEST(TenWays, LinesOverTheLimitGoIntoTheScript) {
 TEST(TenWays, TheProgramsPathCountsForTheLimit) {
     ComposedCommand composed;
     composed.Command = "QUAKESPASM -nolan +map start +exec lv_666.qs ";
-    composed.ProgramPath = Text(210, 'p');
+    composed.ProgramPath = Text(255 - 34, 'p');
     const FittedCommand whole = FitCommandLine(ShippedEngine("QuakeSpasm"), composed);
+    EXPECT_EQ(whole.Command, composed.Command);
     EXPECT_EQ(whole.ScriptHead, "");
-    EXPECT_EQ(SizeOfLine(whole, composed).Characters, 210U + 34U);
     composed.ProgramPath = Text(222, 'p');
     const FittedCommand shorter = FitCommandLine(ShippedEngine("QuakeSpasm"), composed);
     EXPECT_EQ(shorter.Command, "QUAKESPASM -nolan +exec lv_666.qs ");
@@ -140,6 +140,11 @@ TEST(TenWays, EnginesWithoutOptionsGetTheirDirectoryByAVariable) {
         EXPECT_EQ(fitted.Given[0].Argument, "/srv/my games/quake2");
         EXPECT_EQ(NotesOf(fitted).at(1), "-nolan: left out, takes it for text of its console");
     }
+}
+
+TEST(TenWays, SomeEnginesFindTheirHomeInThePasswordDatabase) {
+    EXPECT_TRUE(ShippedEngine("QuakeSpasm").HomeOfAccount);
+    EXPECT_FALSE(ShippedEngine("DarkPlaces").HomeOfAccount);
 }
 
 }  // namespace

@@ -1,15 +1,22 @@
-#include "games/engines/engine_rules.h"
+#include "games/fitting/engine_rules.h"
 
 #include <algorithm>
 #include <optional>
 
 #include "foundation/field_strings.h"
-#include "games/engines/command_moving.h"
-#include "games/engines/fitting.h"
+#include "games/fitting/command_moving.h"
+#include "games/fitting/switch_fitting.h"
 
 namespace lv {
 
 namespace {
+
+/// What counts against the engine's longest line: the program, and a blank and the argument for each argument, in
+/// UTF-8.
+struct LineSize {
+    std::size_t Characters = 0;
+    std::size_t Arguments = 0;
+};
 
 LineSize SizeOf(TextView program, const std::vector<CommandPart>& parts) {
     LineSize size{ToUtf8(program).size(), 1};
@@ -111,17 +118,6 @@ Text NoteText(const FitNote& note) {
     constexpr TextView kWords[] = {
         "left out", "written in another way", "added", "moved to the script", "moved to autoexec.cfg", "left as it is"};
     return Join(note.Part, ": ", kWords[static_cast<std::size_t>(note.Kind)], ", ", note.Why);
-}
-
-LineSize SizeOfLine(const FittedCommand& fitted, const ComposedCommand& composed) {
-    ComposedCommand line = composed;
-    line.Command = fitted.Command;
-    line.PrefixLength = Trim(PrefixOf(composed)).size();
-    std::vector<GivenWord> given = fitted.Given;
-    for (GivenWord& word : given) {
-        word.At -= line.PrefixLength;
-    }
-    return SizeOf(ProgramOfLine(line), PartsOfCommand(TextView(line.Command).substr(line.PrefixLength), given));
 }
 
 }  // namespace lv

@@ -1,4 +1,4 @@
-// games/engines/command_parts.h
+// games/fitting/command_parts.h
 //
 // A composed command line as its parts: each switch with its arguments. The other way round too.
 

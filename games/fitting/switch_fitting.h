@@ -1,4 +1,4 @@
-// games/engines/fitting.h
+// games/fitting/switch_fitting.h
 //
 // A command line on its way to an engine, and the steps that concern its switches one by one.
 
@@ -6,8 +6,8 @@
 
 #include <vector>
 
-#include "games/engines/command_parts.h"
-#include "games/engines/engine_rules.h"
+#include "games/fitting/command_parts.h"
+#include "games/fitting/engine_rules.h"
 
 namespace lv {
 

@@ -1,4 +1,4 @@
-// tests/games/engines/fitted.h
+// tests/games/fitting/fitted.h
 //
 // Command lines as the shipped engines get them.
 
@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "games/engines/engine_rules.h"
+#include "games/fitting/engine_rules.h"
 
 namespace lv {
 

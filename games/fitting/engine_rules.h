@@ -1,4 +1,4 @@
-// games/engines/engine_rules.h
+// games/fitting/engine_rules.h
 //
 // What a composed command line becomes for an engine: nothing that it must not get, nothing that it would cut off or
 // tear apart, its own names for what it calls otherwise. Whatever is changed is said.
@@ -58,13 +58,5 @@ FittedCommand FitCommandLine(const Engine& engine, const ComposedCommand& compos
 
 /// "-heapsize 16384: left out, manages its own memory".
 Text NoteText(const FitNote& note);
-
-/// What counts against the engine's longest line: the program, and a blank and the argument for each argument, in
-/// UTF-8.
-struct LineSize {
-    std::size_t Characters = 0;
-    std::size_t Arguments = 0;
-};
-LineSize SizeOfLine(const FittedCommand& fitted, const ComposedCommand& composed);
 
 }  // namespace lv

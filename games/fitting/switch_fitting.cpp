@@ -1,11 +1,11 @@
-#include "games/engines/fitting.h"
+#include "games/fitting/switch_fitting.h"
 
 #include <algorithm>
 #include <iterator>
 #include <span>
 
 #include "foundation/field_strings.h"
-#include "games/engines/command_tearing.h"
+#include "games/fitting/command_tearing.h"
 
 namespace lv {
 

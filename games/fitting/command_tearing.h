@@ -1,4 +1,4 @@
-// games/engines/command_tearing.h
+// games/fitting/command_tearing.h
 //
 // Commands that an engine would not read out of its command line as they stand there.
 
@@ -6,8 +6,8 @@
 
 #include <optional>
 
-#include "games/engines/command_parts.h"
 #include "games/engines/engine_table.h"
+#include "games/fitting/command_parts.h"
 
 namespace lv {
 

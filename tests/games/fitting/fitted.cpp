@@ -1,4 +1,4 @@
-#include "tests/games/engines/fitted.h"
+#include "tests/games/fitting/fitted.h"
 
 #include "tests/support/shipped_engines.h"
 

@@ -1,4 +1,4 @@
-#include "games/engines/command_parts.h"
+#include "games/fitting/command_parts.h"
 
 #include <algorithm>
 
