@@ -6,10 +6,10 @@
 
 #include <fstream>
 
+#include "sample/small_quake.h"
 #include "tests/program/program_run.h"
 #include "tests/program/screen.h"
 #include "tests/support/game_yard.h"
-#include "sample/small_quake.h"
 
 namespace lv {
 

@@ -13,7 +13,7 @@ TEST_F(EngineEntriesTest, EachEngineIsAnEntryWithItsSeatInTheTree) {
     AddEngine("quakespasm");
     EXPECT_TRUE(SetUpFoundGames());
     EXPECT_EQ(Executables(),
-              "DarkPlaces;c:\\home\\games\\quake\\darkplaces;QuakeSpasm;c:\\home\\games\\quake\\quakespasm");
+              "QuakeSpasm;c:\\home\\games\\quake\\quakespasm;DarkPlaces;c:\\home\\games\\quake\\darkplaces");
     EXPECT_TRUE(system.Disk.FileExists("C:\\HOME\\games\\quake\\quakespasm"));
     EXPECT_EQ(system.Disk.ToHost("C:\\HOME\\games\\quake\\quakespasm"),
               system.Disk.ToHost("Z:\\usr\\games\\quakespasm"));
