@@ -2,6 +2,7 @@
 
 #include "catalogs/editors/path_window.h"
 #include "catalogs/missing_game.h"
+#include "catalogs/unused_seats.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
@@ -145,6 +146,7 @@ void AddExe_OK_Cmd_Click(AddExe_Frm& form) {
         list = before;  // the value is too long: the user was told
         return;
     }
+    LeaveUnusedSeats(run);  // an edited entry has left its own
     if (form.Mode == EntryMode::Add) {
         Save(run, kOptions, "ExecutablesPos", list.ListIndex);
     }

@@ -2,6 +2,7 @@
 
 #include "catalogs/editors/path_window.h"
 #include "catalogs/executables.h"
+#include "games/engines/engine_seats.h"
 #include "tests/catalogs/editors/editors_fixture.h"
 #include "tests/support/shipped_engines.h"
 
@@ -207,6 +208,16 @@ TEST_F(AddEngineOutside, AnEngineInAGamesDirectoryIsTakenAsItIs) {
     ExpectConfirmed("DP now references C:\\GAMES\\quake\\darkplaces");
     AddExe_OK_Cmd_Click(form);
     EXPECT_TRUE(form.Closed);
+}
+
+TEST_F(AddEngineOutside, AnEntryThatIsEditedLeavesItsSeat) {
+    SeatEngine(run, "c:\\games\\quake\\darkplaces", "Z:\\usr\\games\\darkplaces");
+    lists.Exe_Cbo.Items = {{"DP", "c:\\games\\quake\\darkplaces", "", ""}};
+    AddExe_Frm form(run, lists, EntryMode::Edit);
+    Fill(form, "Own", "C:\\QUAKE\\GLQUAKE.EXE");
+    ExpectConfirmed("Own now references C:\\QUAKE\\GLQUAKE.EXE");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(Stored("Seats", "Engines"), "");
 }
 
 }  // namespace lv
