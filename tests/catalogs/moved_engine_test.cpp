@@ -13,7 +13,6 @@ class MovedEngine : public CatalogsTest {
   protected:
     MovedEngine() {
         lists.Engines = &ShippedEngines();
-        system.Services.Places = &system.Places;
         system.Disk.AddFile("C:\\QUAKE\\ID1\\pak0.pak");
         system.Disk.AddFile("C:\\QUAKE\\quake.exe");
         SeatEngine(run, kSeat, "Z:\\usr\\games\\quakespasm");
