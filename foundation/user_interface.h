@@ -22,6 +22,7 @@ struct QuestionBox_Frm;
 struct FileRequest {
     Text Title;
     Text Filter;            // "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"
+    int FilterIndex = 0;    // of these, the one that comes up
     Text InitialDirectory;  // a drive path
     Text FileName;
     bool ForSaving = false;
