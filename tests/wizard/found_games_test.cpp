@@ -1,30 +1,8 @@
 #include "wizard/found_games.h"
 
-#include "foundation/field_strings.h"
-
-#include "tests/support/shipped_engines.h"
-#include "tests/wizard/wizard_fixture.h"
-#include "wizard/setup_completion.h"
-#include "wizard/wizard.h"
+#include "tests/wizard/found_games_fixture.h"
 
 namespace lv {
-
-class FoundGamesTest : public WizardTest {
-  protected:
-    FoundGamesTest() {
-        launcher.Engines = ShippedEngines();
-        system.Places.IsGames = {"C:\\HOME\\games"};
-        system.Places.IsPrograms = {"Z:\\usr\\games"};
-    }
-    void AddQuake(bool isFull = true) {
-        system.Disk.AddFile("C:\\HOME\\games\\quake\\id1\\pak0.pak");
-        if (isFull) {
-            system.Disk.AddFile("C:\\HOME\\games\\quake\\id1\\pak1.pak");
-        }
-    }
-    void AddEngine(TextView name) { system.Disk.AddFile(Join("Z:\\usr\\games\\", name)); }
-    Text Executables() { return Stored(kOptions, "Executables"); }
-};
 
 TEST_F(FoundGamesTest, FillTheirRowsBeforeTheFirstClick) {
     AddQuake();
@@ -72,96 +50,6 @@ TEST_F(FoundGamesTest, ServersPlayNothing) {
     AddQuake();
     AddEngine("darkplaces-dedicated");
     EXPECT_TRUE(LookAround(run, launcher.Engines).Engines.empty());
-}
-
-TEST_F(FoundGamesTest, EachEngineIsAnEntryWithItsSeatInTheTree) {
-    AddQuake();
-    AddEngine("darkplaces");
-    AddEngine("quakespasm");
-    user.In<Install_Frm>([](Install_Frm& form) { Install_OK_Cmd_Click(form); });
-    EXPECT_TRUE(ShowInstallWizard(launcher));
-    EXPECT_EQ(Executables(),
-              "DarkPlaces;c:\\home\\games\\quake\\darkplaces;QuakeSpasm;c:\\home\\games\\quake\\quakespasm");
-    EXPECT_TRUE(system.Disk.FileExists("C:\\HOME\\games\\quake\\quakespasm"));
-    EXPECT_EQ(system.Disk.ToHost("C:\\HOME\\games\\quake\\quakespasm"),
-              system.Disk.ToHost("Z:\\usr\\games\\quakespasm"));
-}
-
-TEST_F(FoundGamesTest, TheOriginalProgramsStandAheadOfTheEngines) {
-    AddQuake();
-    AddEngine("quakespasm");
-    system.Disk.AddFile("C:\\HOME\\games\\quake\\quake.exe");
-    user.In<Install_Frm>([](Install_Frm& form) { Install_OK_Cmd_Click(form); });
-    ShowInstallWizard(launcher);
-    EXPECT_EQ(Executables(), "Quake;c:\\home\\games\\quake\\quake.exe;QuakeSpasm;c:\\home\\games\\quake\\quakespasm");
-}
-
-TEST_F(FoundGamesTest, ASecondRunAddsNothing) {
-    AddQuake();
-    AddEngine("quakespasm");
-    for (int i = 0; i < 2; ++i) {
-        user.In<Install_Frm>([](Install_Frm& form) { Install_OK_Cmd_Click(form); });
-        ShowInstallWizard(launcher);
-    }
-    EXPECT_EQ(Executables(), "QuakeSpasm;c:\\home\\games\\quake\\quakespasm");
-}
-
-TEST_F(FoundGamesTest, AnEngineInTheTreeIsAPlainEntry) {
-    AddQuake();
-    system.Disk.AddFile("C:\\HOME\\games\\quake\\quakespasm");
-    user.In<Install_Frm>([](Install_Frm& form) { Install_OK_Cmd_Click(form); });
-    ShowInstallWizard(launcher);
-    EXPECT_EQ(Executables(), "QuakeSpasm;c:\\home\\games\\quake\\quakespasm");
-    EXPECT_EQ(Stored("Engines", "Seats"), "(none)");
-}
-
-TEST_F(FoundGamesTest, AnEngineWhoseNameBeginsAnothersIsNotPassedOver) {
-    AddQuake();
-    AddEngine("darkplaces-sdl");
-    AddEngine("darkplaces");
-    user.In<Install_Frm>([](Install_Frm& form) { Install_OK_Cmd_Click(form); });
-    ShowInstallWizard(launcher);
-    EXPECT_NE(Executables().find("quake\\darkplaces-sdl"), Text::npos) << Executables();
-    EXPECT_TRUE(Join(Executables(), ";").find("quake\\darkplaces;") != Text::npos) << Executables();
-}
-
-TEST_F(FoundGamesTest, ATreeThatCannotBeWrittenIsPlayedThroughLinks) {
-    system.Places.IsGames = {"Z:\\usr\\share\\games"};
-    system.Disk.AddFile("Z:\\usr\\share\\games\\quake\\id1\\pak0.pak");
-    system.Disk.AddFile("Z:\\usr\\share\\games\\quake\\id1\\pak1.pak");
-    system.Disk.AddDrive("C:");
-    system.Disk.ReadOnly.insert("z:\\usr\\share\\games\\quake");
-    AddEngine("quakespasm");
-    user.In<Install_Frm>([](Install_Frm& form) { Install_OK_Cmd_Click(form); });
-    ShowInstallWizard(launcher);
-    const Text entry = Executables();
-    EXPECT_TRUE(entry.starts_with("QuakeSpasm;c:\\lorvane3d\\quake-")) << entry;
-    const Text directory = DirectoryOf(entry.substr(entry.find(';') + 1));
-    EXPECT_TRUE(system.Disk.FileExists(directory + "\\id1\\pak0.pak"));
-    EXPECT_TRUE(system.Disk.FileExists(entry.substr(entry.find(';') + 1)));
-}
-
-TEST_F(FoundGamesTest, SharewareIsPlayedThroughLinksByAnEngineThatReadsItsAutoexecAlone) {
-    AddQuake(false);
-    AddEngine("darkplaces");
-    AddEngine("quakespasm");
-    user.In<Install_Frm>([](Install_Frm& form) { Install_OK_Cmd_Click(form); });
-    ShowInstallWizard(launcher);
-    EXPECT_NE(Executables().find("DarkPlaces;c:\\home\\games\\quake\\darkplaces"), Text::npos) << Executables();
-    EXPECT_NE(Executables().find("QuakeSpasm;c:\\lorvane3d\\quake-"), Text::npos) << Executables();
-}
-
-TEST_F(FoundGamesTest, WithoutAnEngineThePackageIsNamedAndCopied) {
-    AddQuake();
-    user.Expect({"Nothing Here to Play It With", "apt install quakespasm", 1, false, false, "&OK,&Copy"});
-    ExpectTold("No supported executables were found\r\nin the selected directories.");
-    user.In<Install_Frm>([](Install_Frm& form) {
-        Install_OK_Cmd_Click(form);
-        EXPECT_FALSE(form.Closed);
-        Install_Cancel_Cmd_Click(form);
-    });
-    ShowInstallWizard(launcher);
-    EXPECT_EQ(system.Clip.Held, "apt install quakespasm");
 }
 
 TEST_F(FoundGamesTest, WithoutAPackageThePageIsNamed) {
