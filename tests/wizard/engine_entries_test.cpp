@@ -128,9 +128,9 @@ TEST_F(EngineEntriesTest, WhereLinksCannotBeMadeTheReasonIsToldOnce) {
     AddEngine("darkplaces");
     system.Disk.ReadOnly.insert("c:\\home\\games\\quake");
     system.Disk.AddFile("C:\\lorvane3d");  // in the way of the directory
-    ExpectTold(
-        "This game cannot be played where it lies:\r\n\r\n\tC:\\HOME\\games\\quake\r\n\r\n"
-        "and links to it could not be made in c:\\lorvane3d\\quake-");
+    user.Expect({"Lorvane 3D",
+                 "This game cannot be played where it lies:\r\n\r\n\tC:\\HOME\\games\\quake\r\n\r\n"
+                 "and links to it could not be made in c:\\lorvane3d\\quake-"});
     EXPECT_TRUE(
         EngineEntries(run, launcher.Engines, LookAround(run, launcher.Engines), kQuake, "C:\\HOME\\games\\quake")
             .empty());
