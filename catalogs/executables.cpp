@@ -57,8 +57,8 @@ ImageComboItem MakeRow(const CatalogLists& lists, const GameRecord& game) {
 }
 
 // What became of a missing file: its row is wanted all the same, or the catalog has changed under the reader.
-MissingGame Resolve(Run& run, const GameRecord& game) {
-    return run.System.Disk.FileExists(OnDisk(game.Path)) ? MissingGame::Ignored : AskForMissingGame(run, game);
+MissingGame Resolve(Run& run, const EngineTable* engines, const GameRecord& game) {
+    return run.System.Disk.FileExists(OnDisk(game.Path)) ? MissingGame::Ignored : AskForMissingGame(run, engines, game);
 }
 
 Reading ReadOnce(Run& run, CatalogLists& lists) {
@@ -71,7 +71,7 @@ Reading ReadOnce(Run& run, CatalogLists& lists) {
     std::unordered_set<Text> keys;
     for (std::size_t i = 0; i < rows->Count(); ++i) {
         const GameRecord game = {rows->Field(i, 0), rows->Field(i, 1)};
-        if (Resolve(run, game) == MissingGame::ReadAgain) {
+        if (Resolve(run, lists.Engines, game) == MissingGame::ReadAgain) {
             return run.Ended ? Reading::Ended : Reading::Again;
         }
         if (keys.insert(game.Path).second) {

@@ -3,9 +3,13 @@
 #include <algorithm>
 
 #include "catalogs/catalog_store.h"
+#include "catalogs/moved_engine.h"
+#include "catalogs/unused_seats.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
+#include "games/engines/engine_seats.h"
+#include "games/games.h"
 
 namespace lv {
 
@@ -71,6 +75,12 @@ void Forget(Run& run, const GameRecord& game) {
     } else {
         ForgetDirectory(run, directory);
     }
+    LeaveUnusedSeats(run);
+}
+
+bool IsTheNewPlace(Run& run, TextView candidate) {
+    return AskUser(run, "Lookie Here...", Join(candidate, NewLine, "Is this the new location?"),
+                   "&Yep - that's it!,&No way") == 0;
 }
 
 // The same path on another drive, if the user says that it is the one.
@@ -80,11 +90,7 @@ Text FindOnOtherDrives(Run& run, TextView path) {
             continue;
         }
         const Text candidate = Join(drive.substr(0, 2), DropLeft(path, 2));
-        if (!run.System.Disk.FileExists(candidate)) {
-            continue;
-        }
-        if (AskUser(run, "Lookie Here...", Join(candidate, NewLine, "Is this the new location?"),
-                    "&Yep - that's it!,&No way") == 0) {
+        if (run.System.Disk.FileExists(candidate) && IsTheNewPlace(run, candidate)) {
             return candidate;
         }
     }
@@ -97,12 +103,7 @@ Text ChooseNewPlace(Run& run, TextView path) {
     return BrowseForFile(run, filter, BrowseStart(run, path)).value_or("");
 }
 
-void Relocate(Run& run, const GameRecord& game) {
-    const Text path = OnDisk(game.Path);
-    Text place = FindOnOtherDrives(run, path);
-    if (place.empty()) {
-        place = ChooseNewPlace(run, path);
-    }
+void MoveGame(Run& run, TextView path, TextView place) {
     const Text from = DirectoryWithSlash(path);
     const Text to = DirectoryWithSlash(place);
     if (from.empty() || to.empty()) {
@@ -110,6 +111,53 @@ void Relocate(Run& run, const GameRecord& game) {
     }
     StoreCatalog(run, kExecutables.Key, MovePaths(CatalogValue(run, kExecutables), from, to));
     StoreCatalog(run, kScripts.Key, MovePaths(CatalogValue(run, kScripts), from, to));
+}
+
+// A program of that name where this system keeps its programs, if the user says that it is the one.
+Text FindAmongPrograms(Run& run, TextView program) {
+    if (run.System.Places == nullptr) {
+        return {};
+    }
+    for (const Text& directory : run.System.Places->Programs()) {
+        const Text candidate = Join(directory, directory.ends_with('\\') ? "" : "\\", LastPathPart(program));
+        if (!SameText(candidate, program) && run.System.Disk.FileExists(candidate) && IsTheNewPlace(run, candidate)) {
+            return candidate;
+        }
+    }
+    return {};
+}
+
+// The engine `program` that had the seat is elsewhere now, or it has gone with the game's directory.
+void RelocateEngine(Run& run, const EngineTable* engines, const Text& seat, const Text& program) {
+    Files& disk = run.System.Disk;
+    Text place = FindAmongPrograms(run, program);
+    if (place.empty()) {
+        place = ChooseNewPlace(run, program);
+    }
+    if (place.empty()) {
+        return;
+    }
+    const bool movedWithTheGame =
+        !disk.DirectoryExists(DirectoryOf(seat)) && FactsOfDirectory(disk, DirectoryOf(place)).GameKind != Game::None;
+    if (movedWithTheGame) {
+        MoveGame(run, seat, place);
+        LeaveUnusedSeats(run);
+    } else {
+        SeatAnew(run, engines, seat, place);
+    }
+}
+
+void Relocate(Run& run, const EngineTable* engines, const GameRecord& game) {
+    const Text path = OnDisk(game.Path);
+    if (const Text program = ProgramOfSeat(run, path); !program.empty()) {
+        RelocateEngine(run, engines, path, program);
+        return;
+    }
+    Text place = FindOnOtherDrives(run, path);
+    if (place.empty()) {
+        place = ChooseNewPlace(run, path);
+    }
+    MoveGame(run, path, place);
 }
 
 }  // namespace
@@ -122,13 +170,16 @@ Text AboutGame(const GameRecord& game) {
     return Join(game.Title, TwoBlanks, game.Path, NewLine, "This Game -->", NewLine);
 }
 
-MissingGame AskForMissingGame(Run& run, const GameRecord& game) {
-    const Index answer = AskUser(run, "Game Not Found...", Join(AboutGame(game), "was not found."),
-                                 "I &deleted this Game,I &moved this Game, I&gnore");
+MissingGame AskForMissingGame(Run& run, const EngineTable* engines, const GameRecord& game) {
+    const Text engine = AboutGoneEngine(run, engines, OnDisk(game.Path));
+    const Index answer =
+        AskUser(run, "Game Not Found...",
+                Join(AboutGame(game), "was not found.", engine.empty() ? Text() : Join(NewLine, NewLine, engine)),
+                "I &deleted this Game,I &moved this Game, I&gnore");
     if (answer == kDeleted) {
         Forget(run, game);
     } else if (answer == kMoved) {
-        Relocate(run, game);
+        Relocate(run, engines, game);
     } else {
         return MissingGame::Ignored;
     }

@@ -70,9 +70,10 @@ Result<std::optional<Text>> AskForFile(Run& run, const FileRequest& request) {
     return chosen;
 }
 
-std::optional<Text> BrowseForFile(Run& run, TextView filter, TextView directory) {
+std::optional<Text> BrowseForFile(Run& run, TextView filter, TextView directory, int filterIndex) {
     FileRequest request;
     request.Filter = filter;
+    request.FilterIndex = filterIndex;
     request.InitialDirectory = directory;
     const Result<std::optional<Text>> chosen = AskForFile(run, request);
     if (chosen.Ok()) {
@@ -82,6 +83,11 @@ std::optional<Text> BrowseForFile(Run& run, TextView filter, TextView directory)
         AskUser(run, "A Windows Related Error Occured", DialogFailureText(chosen.Fault));
     }
     return std::nullopt;
+}
+
+std::optional<Text> BrowseForProgram(Run& run, TextView filter, TextView directory) {
+    const bool haveNoEnding = run.System.Disk.StandIn("", "");
+    return BrowseForFile(run, filter, directory, haveNoEnding ? CountDelimiters(filter, "|") / 2 : 0);
 }
 
 }  // namespace lv

@@ -29,6 +29,9 @@ Text BrowseStart(const Run& run, TextView inBox, TextView usual = "");
 Result<std::optional<Text>> AskForFile(Run& run, const FileRequest& request);
 
 /// The chosen path; nothing if the user cancelled or the dialog failed, which the user was told then.
-std::optional<Text> BrowseForFile(Run& run, TextView filter, TextView directory);
+std::optional<Text> BrowseForFile(Run& run, TextView filter, TextView directory, int filterIndex = 0);
+
+/// The same for a program. Where the system's own have no ending the filter's last choice, all files, comes up.
+std::optional<Text> BrowseForProgram(Run& run, TextView filter, TextView directory);
 
 }  // namespace lv

@@ -67,12 +67,13 @@ std::vector<TextView> LinesOf(TextView text) {
     return lines;
 }
 
-Measure MeasureText(const std::vector<TextView>& lines, UserInterface& user) {
+/// In the font that the text is shown in.
+Measure MeasureText(const std::vector<TextView>& lines, bool fixedWidth, UserInterface& user) {
     Measure measured;
     for (const TextView line : lines) {
-        measured.Width = std::max(measured.Width, user.TextWidth(line));
+        measured.Width = std::max(measured.Width, fixedWidth ? user.FixedTextWidth(line) : user.TextWidth(line));
     }
-    measured.Height = static_cast<int>(lines.size()) * user.TextHeight();
+    measured.Height = static_cast<int>(lines.size()) * (fixedWidth ? user.FixedTextHeight() : user.TextHeight());
     return measured;
 }
 
@@ -179,7 +180,7 @@ void LayOutQuestionBox(QuestionBox_Frm& box, UserInterface& user) {
     const int buttons = static_cast<int>(box.Button_Cmd.size());
     const int row = buttons * layout.ButtonWidth + (buttons - 1) * layout.Gap;
     const std::vector<TextView> lines = LinesOf(box.Question_Txt.Text);
-    const Measure text = MeasureText(lines, user);
+    const Measure text = MeasureText(lines, box.FixedWidth, user);
     const ScreenSize screen = user.Screen();
     const int widest = static_cast<int>(screen.Width * kMostOfScreen);
     const int highest = static_cast<int>(screen.Height * kMostOfScreen);

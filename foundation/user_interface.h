@@ -22,6 +22,7 @@ struct QuestionBox_Frm;
 struct FileRequest {
     Text Title;
     Text Filter;            // "Quake Scripts (*.cfg, *.qs)|*.cfg;*.qs|All Files (*.*)|*.*"
+    int FilterIndex = 0;    // of these, the one that comes up
     Text InitialDirectory;  // a drive path
     Text FileName;
     bool ForSaving = false;
@@ -55,6 +56,10 @@ class UserInterface {
     /// Width of a line of text in the windows' font, in pixels.
     virtual int TextWidth(TextView line) = 0;
     virtual int TextHeight() = 0;
+
+    /// The same in the fixed-width font that files are shown in. Tabs reach as far as a text field takes them.
+    virtual int FixedTextWidth(TextView line) { return TextWidth(line); }
+    virtual int FixedTextHeight() { return TextHeight(); }
     virtual ScreenSize Screen() = 0;
 
     // Modal windows. Each returns when its struct says that it is closed. A user interface without the window leaves

@@ -1,21 +1,26 @@
 #include "wizard/engine_entries.h"
 
+#include <algorithm>
+
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "games/engines/engine_seats.h"
 #include "games/engines/playing_directory.h"
 #include "games/engines/start_rules.h"
 #include "games/trees/tree_room.h"
-#include "wizard/install_frm.h"
+#include "wizard/entry_list.h"
 
 namespace lv {
 
 namespace {
 
-void AddThoseInside(Run& run, const EngineTable& engines, std::size_t row, TextView path,
+/// Which engines are wanted for a row.
+using Wanted = bool (*)(const Engine& engine, std::size_t row);
+
+void AddThoseInside(Run& run, const EngineTable& engines, std::size_t row, TextView path, Wanted wanted,
                     std::vector<EngineEntry>& entries) {
     for (const FoundEngine& engine : FindEngines(run.System.Disk, {Text(path)}, engines).Engines) {
-        if (PlaysRow(*engine.Its, row)) {
+        if (wanted(*engine.Its, row)) {
             entries.push_back({engine.Title, LowerCase(engine.Path)});
         }
     }
@@ -27,17 +32,15 @@ void TellNoLinks(Run& run, TextView path, const Error& fault) {
                  "and links to it could not be made in ", LinkedTreeDirectory(path), ".", NewLine, fault.Text));
 }
 
-}  // namespace
-
-std::vector<EngineEntry> EngineEntries(Run& run, const EngineTable& engines, const FoundGames& found, std::size_t row,
-                                       TextView path) {
+std::vector<EngineEntry> EntriesOf(Run& run, const EngineTable& engines, const FoundGames& found, std::size_t row,
+                                   TextView path, Wanted wanted) {
     std::vector<EngineEntry> entries;
-    AddThoseInside(run, engines, row, path, entries);
+    AddThoseInside(run, engines, row, path, wanted, entries);
     if (!run.System.Disk.StandIn("", "")) {
         return entries;  // this system starts no program from elsewhere
     }
     for (const FoundEngine& engine : found.Engines) {
-        if (!PlaysRow(*engine.Its, row) || !TreeIn(run.System.Disk, path)) {
+        if (!wanted(*engine.Its, row) || !TakesDataOf(*engine.Its, path) || !TreeIn(run.System.Disk, path)) {
             continue;
         }
         const Result<Text> directory = PlayingDirectory(run, *engine.Its, path);
@@ -57,22 +60,35 @@ std::vector<EngineEntry> EngineEntries(Run& run, const EngineTable& engines, con
     return entries;
 }
 
-void AdviseEngine(Run& run, const EngineTable& engines, std::size_t row, TextView path) {
-    const auto advice = AdviceFor(engines, row);
-    if (!advice) {
-        return;
+}  // namespace
+
+std::vector<EngineEntry> EngineEntries(Run& run, const EngineTable& engines, const FoundGames& found, std::size_t row,
+                                       TextView path) {
+    return EntriesOf(run, engines, found, row, path, PlaysRow);
+}
+
+std::vector<EngineEntry> ServerEntries(Run& run, const EngineTable& engines, const FoundGames& found, std::size_t row,
+                                       TextView path) {
+    std::vector<EngineEntry> entries = EntriesOf(run, engines, found, row, path, ServesRow);
+    for (EngineEntry& entry : entries) {
+        entry.Title += Holds(LowerCase(entry.Title), "server") ? "" : " server";
     }
-    const int answer = AskUser(run, "Nothing Here to Play It With",
-                               Join(InstallRows()[row].Name, " lies in", NewLine, NewLine, TabChar, path, NewLine,
-                                    NewLine, "but there is no program here that plays it. ",
-                                    advice->IsCommand ? "In a terminal," : Join(advice->Engine, " does:"), NewLine,
-                                    NewLine, TabChar, advice->What, NewLine, NewLine,
-                                    advice->IsCommand ? Join("installs ", advice->Engine, ", which does. ") : Text(),
-                                    "Afterwards press OK once more, or call the setup again (Tools, Set Up Games)."),
-                               "&OK,&Copy");
-    if (answer == 1) {
-        (void)run.System.Clip.SetText(advice->What);
+    return entries;
+}
+
+bool HasNewEngine(Run& run, const EngineTable& engines, const FoundGames& found, std::size_t row, TextView path,
+                  TextView list) {
+    std::vector<EngineEntry> inside;
+    AddThoseInside(run, engines, row, path, PlaysRow, inside);
+    if (std::ranges::any_of(inside, [list](const EngineEntry& entry) { return !IsListed(list, entry.Path); })) {
+        return true;
     }
+    return run.System.Disk.StandIn("", "") && std::ranges::any_of(found.Engines, [&](const FoundEngine& engine) {
+               const Text name = LowerCase(Join("\\", LastPathPart(engine.Path)));
+               return PlaysRow(*engine.Its, row) && TakesDataOf(*engine.Its, path) &&
+                      !IsListed(list, LowerCase(Join(path, name))) &&
+                      !IsListed(list, Join(LinkedTreeDirectory(path), name));
+           });
 }
 
 }  // namespace lv

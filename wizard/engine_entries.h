@@ -19,8 +19,13 @@ struct EngineEntry {
 std::vector<EngineEntry> EngineEntries(Run& run, const EngineTable& engines, const FoundGames& found, std::size_t row,
                                        TextView path);
 
-/// Tells what to install for a game without any program to play it, and offers that to be copied. Nothing is told where
-/// nothing is known.
-void AdviseEngine(Run& run, const EngineTable& engines, std::size_t row, TextView path);
+/// The same of the servers that are here for the tree's game. They are no use to one who wants to play, and belong
+/// behind what plays it.
+std::vector<EngineEntry> ServerEntries(Run& run, const EngineTable& engines, const FoundGames& found, std::size_t row,
+                                       TextView path);
+
+/// Whether an engine that is here and plays the tree in `path` has no entry for it in the ";"-list. Makes nothing.
+bool HasNewEngine(Run& run, const EngineTable& engines, const FoundGames& found, std::size_t row, TextView path,
+                  TextView list);
 
 }  // namespace lv

@@ -18,6 +18,12 @@ Text Listed(const std::vector<Text>& names) {
     return list;
 }
 
+bool IsForRow(const Engine& engine, std::size_t row) {
+    return std::ranges::any_of(AllGames(), [&](const GameFacts& game) {
+        return game.WizardRow == row && Plays(engine, game.GameKind);
+    });
+}
+
 }  // namespace
 
 FoundGames LookAround(Run& run, const EngineTable& engines) {
@@ -27,29 +33,38 @@ FoundGames LookAround(Run& run, const EngineTable& engines) {
         return found;
     }
     found.Trees = QuickLook(run.System.Disk, places);
-    found.Engines = FindEngines(run.System.Disk, places->Programs(), engines).Engines;
-    std::erase_if(found.Engines, [](const FoundEngine& engine) { return engine.Its->Role == EngineRole::Server; });
+    found.Engines = EnginesHere(run, engines);
     return found;
 }
 
-const GameTree* TreeOfRow(const FoundGames& found, std::size_t row) {
-    const GameTree* first = nullptr;
+std::vector<FoundEngine> EnginesHere(Run& run, const EngineTable& engines) {
+    KnownPlaces* const places = run.System.Places;
+    return places == nullptr ? std::vector<FoundEngine>()
+                             : FindEngines(run.System.Disk, places->Programs(), engines).Engines;
+}
+
+std::vector<const GameTree*> TreesOfRow(const FoundGames& found, std::size_t row) {
+    std::vector<const GameTree*> trees;
     for (const GameTree& tree : found.Trees) {
-        if (FactsOf(tree.GameKind).WizardRow != row) {
-            continue;
+        if (FactsOf(tree.GameKind).WizardRow == row) {
+            trees.push_back(&tree);
         }
-        if (tree.IsFull) {
-            return &tree;
-        }
-        first = first == nullptr ? &tree : first;
     }
-    return first;
+    return trees;
+}
+
+const GameTree* TreeOfRow(const FoundGames& found, std::size_t row) {
+    const std::vector<const GameTree*> trees = TreesOfRow(found, row);
+    const auto full = std::ranges::find_if(trees, &GameTree::IsFull);
+    return full != trees.end() ? *full : trees.empty() ? nullptr : trees.front();
 }
 
 bool PlaysRow(const Engine& engine, std::size_t row) {
-    return engine.Role != EngineRole::Server && std::ranges::any_of(AllGames(), [&](const GameFacts& game) {
-               return game.WizardRow == row && Plays(engine, game.GameKind);
-           });
+    return engine.Role != EngineRole::Server && IsForRow(engine, row);
+}
+
+bool ServesRow(const Engine& engine, std::size_t row) {
+    return engine.Role == EngineRole::Server && IsForRow(engine, row);
 }
 
 Text FoundText(const FoundGames& found) {
@@ -57,10 +72,12 @@ Text FoundText(const FoundGames& found) {
     std::vector<Text> engines;
     std::vector<Text> unplayed;
     for (std::size_t row = 0; row < kWizardRows; ++row) {
-        if (TreeOfRow(found, row) == nullptr) {
+        const std::size_t places = TreesOfRow(found, row).size();
+        if (places == 0) {
             continue;
         }
-        games.emplace_back(InstallRows()[row].Name);
+        games.push_back(
+            Join(InstallRows()[row].Name, places == 1 ? Text() : Join(" (", std::to_string(places), " places)")));
         if (std::ranges::none_of(found.Engines,
                                  [row](const FoundEngine& engine) { return PlaysRow(*engine.Its, row); })) {
             unplayed.emplace_back(InstallRows()[row].Name);
@@ -77,6 +94,14 @@ Text FoundText(const FoundGames& found) {
     return Join("Found: ", Listed(games), ".", engines.empty() ? Text() : Join(" Plays here: ", Listed(engines), "."),
                 unplayed.empty() ? Text() : Join(" No engine here for: ", Listed(unplayed), "."),
                 " Click 'OK' to go on.");
+}
+
+Text SearchText(const std::vector<Text>& found, const std::vector<Text>& missing) {
+    if (found.empty()) {
+        return Join("Nothing found of: ", Listed(missing), ". Click 'Browse' to show where a game lies.");
+    }
+    return Join(std::to_string(found.size()), found.size() == 1 ? " game found: " : " games found: ", Listed(found),
+                ".", missing.empty() ? Text() : Join(" Not found: ", Listed(missing), "."), " Click 'OK' to go on.");
 }
 
 std::optional<EngineAdvice> AdviceFor(const EngineTable& engines, std::size_t row) {

@@ -17,11 +17,17 @@ namespace lv {
 
 struct FoundGames {
     std::vector<GameTree> Trees;       // in the order in which they are offered
-    std::vector<FoundEngine> Engines;  // outside of the trees
+    std::vector<FoundEngine> Engines;  // outside of the trees; servers too
 };
 
 /// Takes under a second. Nothing where the system knows no usual places.
 FoundGames LookAround(Run& run, const EngineTable& engines);
+
+/// The engines alone, for one that has been installed since.
+std::vector<FoundEngine> EnginesHere(Run& run, const EngineTable& engines);
+
+/// All trees of the wizard's row.
+std::vector<const GameTree*> TreesOfRow(const FoundGames& found, std::size_t row);
 
 /// The first whole tree of the wizard's row, or the first at all; null without one.
 const GameTree* TreeOfRow(const FoundGames& found, std::size_t row);
@@ -29,8 +35,14 @@ const GameTree* TreeOfRow(const FoundGames& found, std::size_t row);
 /// Whether the engine lets its user play a game of the row.
 bool PlaysRow(const Engine& engine, std::size_t row);
 
-/// What was found, for people: "Found: Quake, Quake 2. Here to play them: QuakeSpasm, ezQuake." and how to go on.
+/// Whether the engine is a server of a game of the row, and nothing else.
+bool ServesRow(const Engine& engine, std::size_t row);
+
+/// What was found, for people: "Found: Quake, Quake 2 (2 places). Plays here: QuakeSpasm, ezQuake." and how to go on.
 Text FoundText(const FoundGames& found);
+
+/// What a search for the ticked games has found, for people: names of games, and of those that it has not.
+Text SearchText(const std::vector<Text>& found, const std::vector<Text>& missing);
 
 /// What to install for a row that nothing here plays.
 struct EngineAdvice {

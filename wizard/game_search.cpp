@@ -172,7 +172,8 @@ class Pulse {
     double due_ = -std::numeric_limits<double>::infinity();  // the first time is at once
 };
 
-void WalkDisks(Install_Frm& form, Rows open) {
+/// Gives the rows that stay open.
+Rows WalkDisks(Install_Frm& form, Rows open) {
     Files& disk = form.run.System.Disk;
     DiskWalk walk(disk);
     Pulse pulse(form);
@@ -183,17 +184,29 @@ void WalkDisks(Install_Frm& form, Rows open) {
         walk.Enter(drive);
         while (const auto step = walk.Next()) {
             if (!pulse.GoOn(step->Path)) {
-                return;
+                return open;
             }
             const bool ignored = form.ZipMagic_Chk.Value == 1 && Holds(UpperCase(step->Path), ".ZIP");
             if (!ignored) {
                 TakeHits(form, *step, open);
             }
             if (!Any(open)) {
-                return;
+                return open;
             }
         }
     }
+    return open;
+}
+
+void TellFound(Install_Frm& form, const Rows& ticked, const Rows& open) {
+    std::vector<Text> found;
+    std::vector<Text> missing;
+    for (std::size_t i = 0; i < kWizardRows; ++i) {
+        if (ticked[i]) {
+            (open[i] ? missing : found).emplace_back(InstallRows()[i].Name);
+        }
+    }
+    ShowFound(form, SearchText(found, missing));
 }
 
 }  // namespace
@@ -210,13 +223,14 @@ void Install_AutoSearch_Cmd_Click(Install_Frm& form) {
     }
     form.Hourglass = true;
     form.run.User.Refresh();
-    const Rows open = SearchUsualPlaces(form, ticked);
+    Rows open = SearchUsualPlaces(form, ticked);
     if (Any(open) && WantsWalk(form.run, open)) {
         SetSearching(form, true);
-        WalkDisks(form, open);
+        open = WalkDisks(form, open);
         SetSearching(form, false);
     }
     form.Status_Lbl.Caption = "Search Complete:";
+    TellFound(form, ticked, open);
     form.Hourglass = false;
 }
 

@@ -58,11 +58,16 @@ void ShowFoundGames(Install_Frm& form, const EngineTable& engines) {
         const GameTree* const tree = form.Game_Chk[i].Enabled ? TreeOfRow(form.Found, i) : nullptr;
         if (tree != nullptr) {
             form.Game_Chk[i].Value = 1;
-            form.GamePath_Txt[i].Text = ProgramDirectoryOf(*tree);
+            form.FoundPaths[i] = ProgramDirectoryOf(*tree);
+            form.GamePath_Txt[i].Text = form.FoundPaths[i];
         }
     }
-    form.Status_Lbl.Caption = FoundText(form.Found);
-    form.Status_Lbl.ToolTip = form.Status_Lbl.Caption;
+    ShowFound(form, FoundText(form.Found));
+}
+
+void ShowFound(Install_Frm& form, TextView text) {
+    form.Found_Lbl.Caption = text;
+    form.Found_Lbl.ToolTip = text;  // the line may be longer than the window is wide
 }
 
 void Install_Browse_Cmd_Click(Install_Frm& form, int index) {

@@ -18,8 +18,9 @@ struct Install_Frm : ModalWindow {
     /// The games that are known already are greyed and not looked for.
     explicit Install_Frm(Run& owner, const std::vector<KnownGame>& known = {});
 
-    EngineTable Engines;  // of today; a copy, for the window is modal
-    FoundGames Found;     // by the quick look before it came up
+    EngineTable Engines;                       // of today; a copy, for the window is modal
+    FoundGames Found;                          // by the quick look before it came up
+    std::array<Text, kWizardRows> FoundPaths;  // that it has filled in
 
     std::array<Panel, kWizardRows> GameSetup_Fra;
     std::array<Picture, kWizardRows> GameIcon_Pic;
@@ -31,6 +32,7 @@ struct Install_Frm : ModalWindow {
     CommandButton AutoSearch_Cmd;
     CheckBox ZipMagic_Chk;
     Label Status_Lbl;
+    Label Found_Lbl;  // what the quick look has found, and later the search
     CommandButton OK_Cmd;
     CommandButton Cancel_Cmd;
 
@@ -42,6 +44,9 @@ struct Install_Frm : ModalWindow {
 
 /// Looks around, ticks and fills the rows whose games were found, but for those known already, and says what it found.
 void ShowFoundGames(Install_Frm& form, const EngineTable& engines);
+
+/// Says so in the window.
+void ShowFound(Install_Frm& form, TextView text);
 
 /// What a row shows.
 struct InstallRow {

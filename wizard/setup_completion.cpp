@@ -7,16 +7,14 @@
 #include "foundation/question_box.h"
 #include "foundation/typed_path.h"
 #include "games/programs.h"
+#include "wizard/engine_advice.h"
 #include "wizard/engine_entries.h"
+#include "wizard/entry_list.h"
+#include "wizard/further_trees.h"
 
 namespace lv {
 
 namespace {
-
-// A path that cannot stand in the list would take all entries behind it with it.
-bool IsNew(Run& run, const Text& list, const Text& program) {
-    return FitsAField(program) && run.System.Disk.FileExists(program) && !Holds(LowerCase(list), program);
-}
 
 bool HasProgram(Run& run, std::size_t row, const Text& path) {
     return std::ranges::any_of(AllPrograms(), [&](const Program& program) {
@@ -24,27 +22,62 @@ bool HasProgram(Run& run, std::size_t row, const Text& path) {
     });
 }
 
-/// Of the game in that directory: its own programs, and the engines of today that play it.
-void AddPrograms(Install_Frm& form, std::size_t row, const Text& path, Text& list) {
-    Run& run = form.run;
-    const std::size_t before = list.size();
+/// The entries under work.
+struct Setup {
+    Install_Frm& Form;
+    Text List;
+};
+
+void AddEntry(Setup& setup, TextView title, const Text& path, const Text& tree) {
+    setup.List += Join(TitleOfEntry(setup.List, title, tree, TreesBeside(setup.Form, tree)), ";", path, ";");
+}
+
+/// The game's own programs in the directory. Those of a row have their own names always.
+void AddPrograms(Setup& setup, std::size_t row, const Text& tree, bool isRow) {
+    const Text path = LowerCase(tree);
     for (const Program& program : AllPrograms()) {
-        if (program.WizardRow != row || program.EntryTitle.empty()) {
+        const Text file = Join(path, "\\", program.FileName);
+        if (program.WizardRow != row || program.EntryTitle.empty() || !IsNewProgram(setup.Form.run, setup.List, file)) {
             continue;
         }
-        const Text file = Join(path, "\\", program.FileName);
-        if (IsNew(run, list, file)) {
-            list += Join(program.EntryTitle, ";", file, ";");
+        if (isRow) {
+            setup.List += Join(program.EntryTitle, ";", file, ";");
+        } else {
+            AddEntry(setup, program.EntryTitle, file, tree);
         }
     }
-    const std::vector<EngineEntry> engines = EngineEntries(run, form.Engines, form.Found, row, path);
-    for (const EngineEntry& entry : engines) {
-        if (FitsAField(entry.Path) && !Holds(LowerCase(list), Join(entry.Path, ";"))) {
-            list += Join(entry.Title, ";", entry.Path, ";");
+}
+
+void AddEngines(Setup& setup, const std::vector<EngineEntry>& entries, const Text& tree) {
+    for (const EngineEntry& entry : entries) {
+        if (FitsAField(entry.Path) && !IsListed(setup.List, entry.Path)) {
+            AddEntry(setup, entry.Title, entry.Path, tree);
         }
     }
-    if (list.size() == before && engines.empty() && TreeIn(run.System.Disk, path) && !HasProgram(run, row, path)) {
-        AdviseEngine(run, form.Engines, row, path);
+}
+
+/// Of the game in that directory: its own programs, the engines of today that play it and, where anything does, the
+/// servers. True if anything does.
+bool AddTree(Setup& setup, std::size_t row, const Text& tree, bool isRow) {
+    Install_Frm& form = setup.Form;
+    const Text path = LowerCase(tree);
+    AddPrograms(setup, row, tree, isRow);
+    const std::vector<EngineEntry> engines = EngineEntries(form.run, form.Engines, form.Found, row, path);
+    AddEngines(setup, engines, tree);
+    if (engines.empty() && !HasProgram(form.run, row, path)) {
+        return false;
+    }
+    AddEngines(setup, ServerEntries(form.run, form.Engines, form.Found, row, path), tree);
+    return true;
+}
+
+void AddFurtherTrees(Setup& setup) {
+    const std::vector<FurtherTree> trees = FurtherTrees(setup.Form, setup.List);
+    if (!WantsFurtherTrees(setup.Form.run, trees)) {
+        return;
+    }
+    for (const FurtherTree& tree : trees) {
+        AddTree(setup, tree.Row, tree.Path, false);
     }
 }
 
@@ -64,24 +97,33 @@ bool PathIsGood(Install_Frm& form, std::size_t row, const Text& path) {
 
 void Install_OK_Cmd_Click(Install_Frm& form) {
     Run& run = form.run;
-    Text list = Trim(CatalogValue(run, kExecutables));
+    form.Found.Engines = EnginesHere(run, form.Engines);  // one may have been installed meanwhile
+    Setup setup{form, Trim(CatalogValue(run, kExecutables))};
+    Text& list = setup.List;
     if (!list.empty()) {
         list += ';';
     }
     Text directory = run.DefaultGameDirectory;
+    std::vector<SetUpTree> trees;
     for (std::size_t i = 0; i < kWizardRows; ++i) {
         if (form.Game_Chk[i].Value != 1) {
             continue;
         }
-        const Text path = LowerCase(TypedPath(run, form.GamePath_Txt[i].Text));
+        const Text typed = TypedPath(run, form.GamePath_Txt[i].Text);
+        const Text path = LowerCase(typed);
         if (!PathIsGood(form, i, path)) {
             return;
         }
-        AddPrograms(form, i, path, list);
+        const bool isPlayed = AddTree(setup, i, typed, true);
+        if (TreeIn(run.System.Disk, path)) {
+            trees.push_back({i, path, isPlayed, form.GamePath_Txt[i].Text != form.FoundPaths[i]});
+        }
         if (directory.empty() || i == wizard_row::kQuake) {
             directory = Join(path, "\\");
         }
     }
+    AddFurtherTrees(setup);
+    AdviseOnce(run, form.Engines, trees, list.size() < 2);
     if (list.size() < 2) {
         AskUser(run, "", Join("No supported executables were found", NewLine, "in the selected directories."));
         return;

@@ -2,6 +2,7 @@
 
 #include "catalogs/editors/path_window.h"
 #include "catalogs/missing_game.h"
+#include "catalogs/unused_seats.h"
 #include "foundation/browse.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
@@ -12,6 +13,7 @@
 #include "games/engines/start_rules.h"
 #include "games/games.h"
 #include "games/programs.h"
+#include "games/trees/tree_search.h"
 
 namespace lv {
 
@@ -74,6 +76,37 @@ void EnterDirectoryOf(AddExe_Frm& form, const GameRecord& game) {
     }
 }
 
+/// Where the choice of a tree begins: at a game that the engine plays, the present one before all others; else where
+/// games lie.
+Text TreeToBeginWith(Run& run, const Engine& engine) {
+    if (Plays(engine, run.GameKind) && run.System.Disk.DirectoryExists(run.DefaultGameDirectory)) {
+        return run.DefaultGameDirectory;
+    }
+    for (const GameTree& tree : QuickLook(run.System.Disk, run.System.Places)) {
+        if (Plays(engine, tree.GameKind)) {
+            return tree.Directory;
+        }
+    }
+    const std::vector<Text> places = run.System.Places != nullptr ? run.System.Places->Games() : std::vector<Text>();
+    return places.empty() ? run.System.Disk.UserHome() : places.front();
+}
+
+/// The tree that the engine is to play; "CANCEL" if the user wants none.
+Text AskForTree(Run& run, const Engine& engine) {
+    const Index answer = AskUser(run, "Which Game?",
+                                 Join(engine.Name, " lies in no game's directory.", NewLine, NewLine,
+                                      "Choose the directory of the game that it is to play: the one that holds the "
+                                      "game's data, as",
+                                      NewLine, "\"quake\" holds \"id1\"."),
+                                 "C&hoose,&Cancel");
+    return answer == 0 ? ChoosePath(run, TreeToBeginWith(run, engine), "Select Game Path") : Text(kPathCancelled);
+}
+
+bool IsPlayedBy(const Engine& engine, Files& disk, TextView directory) {
+    const auto tree = TreeIn(disk, directory);
+    return tree && Plays(engine, tree->GameKind);
+}
+
 /// An engine of today that lies in no game's directory: the user is asked which game it is to play, and the record gets
 /// its seat there. False if that came to nothing; the user knows why.
 bool SeatOutsideEngine(AddExe_Frm& form, GameRecord& game) {
@@ -86,17 +119,18 @@ bool SeatOutsideEngine(AddExe_Frm& form, GameRecord& game) {
     if (engine == nullptr || !isOutside || !disk.StandIn("", "")) {
         return true;
     }
-    const Text tree =
-        ChoosePath(run, run.LastBrowsed, Join("Select the directory of the game that ", engine->Name, " is to play."));
+    const Text tree = AskForTree(run, *engine);
     if (tree == kPathCancelled) {
+        return false;
+    }
+    if (!IsPlayedBy(*engine, disk, tree)) {
+        TellFault(form, "ExePath_Txt",
+                  Join("There is no game in this directory that ", engine->Name, " could play: ", tree));
         return false;
     }
     const Result<Text> directory = PlayingDirectory(run, *engine, tree);
     if (!directory.Ok()) {
-        TellFault(form, "ExePath_Txt",
-                  directory.Fault.Number == error::kPathNotFound
-                      ? Join("There is no game in this directory that ", engine->Name, " could play: ", tree)
-                      : Join("The game cannot be played where it lies: ", directory.Fault.Text));
+        TellFault(form, "ExePath_Txt", Join("The game cannot be played where it lies: ", directory.Fault.Text));
         return false;
     }
     const Text seat = Join(directory.Value, "\\", LastPathPart(program));
@@ -122,7 +156,7 @@ AddExe_Frm::AddExe_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
 }
 
 void AddExe_Browse_Cmd_Click(AddExe_Frm& form) {
-    if (auto path = BrowseForFile(form.run, kExecutableFilter, BrowseStart(form.run, form.ExePath_Txt.Text))) {
+    if (auto path = BrowseForProgram(form.run, kExecutableFilter, BrowseStart(form.run, form.ExePath_Txt.Text))) {
         form.ExePath_Txt.Text = *std::move(path);
     }
 }
@@ -145,6 +179,7 @@ void AddExe_OK_Cmd_Click(AddExe_Frm& form) {
         list = before;  // the value is too long: the user was told
         return;
     }
+    LeaveUnusedSeats(run);  // an edited entry has left its own
     if (form.Mode == EntryMode::Add) {
         Save(run, kOptions, "ExecutablesPos", list.ListIndex);
     }

@@ -1,6 +1,7 @@
 #include "catalogs/editors/delete_entry.h"
 
 #include "catalogs/catalog_store.h"
+#include "catalogs/unused_seats.h"
 #include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 
@@ -82,6 +83,7 @@ bool DeleteExecutable(Run& run, CatalogLists& lists) {
     }
     TakeRowOut(list);
     SaveCatalog(run, lists, kExecutables.Key, list);
+    LeaveUnusedSeats(run);
     return true;
 }
 

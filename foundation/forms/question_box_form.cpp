@@ -3,6 +3,7 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/platinfo.h>
+#include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/textctrl.h>
@@ -34,6 +35,11 @@ wxString IconName(int index) {
 }
 
 }  // namespace
+
+wxFont FixedWidthFont() {
+    const int points = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetPointSize();
+    return wxFont(wxFontInfo(points).Family(wxFONTFAMILY_TELETYPE));
+}
 
 QuestionBoxForm::QuestionBoxForm(wxWindow* owner, QuestionBox_Frm& box)
     : wxDialog(owner, wxID_ANY, ToWx(box.Caption), wxDefaultPosition, wxDefaultSize, wxCAPTION), box_(box) {
@@ -109,7 +115,7 @@ wxSizer* QuestionBoxForm::MakeMessage() {
     SetSpokenName(text_->GetHandle(), "Message");
     text_->SetBackgroundColour(GetBackgroundColour());
     if (box_.FixedWidth) {
-        text_->SetFont(wxFont(wxFontInfo(GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE)));
+        text_->SetFont(FixedWidthFont());
     }
     text_->SetMinSize(size);
     row->Add(text_, wxSizerFlags(1).Expand());

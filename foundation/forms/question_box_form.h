@@ -5,6 +5,7 @@
 #pragma once
 
 #include <wx/dialog.h>
+#include <wx/font.h>
 
 #include <vector>
 
@@ -15,6 +16,9 @@ class wxCheckBox;
 class wxTextCtrl;
 
 namespace lv {
+
+/// That files are shown in.
+wxFont FixedWidthFont();
 
 class QuestionBoxForm : public wxDialog {
   public:

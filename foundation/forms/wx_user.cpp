@@ -30,6 +30,7 @@ namespace {
 
 constexpr std::size_t kMostWidths = 4000;
 constexpr std::size_t kMostKept = 200;  // letters of a line
+constexpr std::size_t kTabStop = 8;  // letters
 
 constexpr long kLongestPump = 100;   // milliseconds
 constexpr long kLongestWait = 1000;  // milliseconds; another program may keep the keyboard
@@ -37,10 +38,10 @@ constexpr unsigned long kBetweenLooks = 5;
 
 }  // namespace
 
-/// One measure for all windows: the toolkit's own font, on a bitmap of no size that matters. Kept, for making one costs
-/// more than a thousand measurements.
+/// One measure for all windows, on a bitmap of no size that matters. Kept, for making one costs more than a thousand
+/// measurements.
 struct WxUser::Ruler {
-    Ruler() : Canvas(Bitmap) { Canvas.SetFont(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT)); }
+    explicit Ruler(const wxFont& font) : Canvas(Bitmap) { Canvas.SetFont(font); }
 
     wxBitmap Bitmap{1, 1};
     wxMemoryDC Canvas;
@@ -50,9 +51,16 @@ WxUser::WxUser(Files& files) : files_(files) {}
 
 WxUser::Ruler& WxUser::TheRuler() {
     if (!ruler_) {
-        ruler_ = std::make_unique<Ruler>();
+        ruler_ = std::make_unique<Ruler>(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT));
     }
     return *ruler_;
+}
+
+WxUser::Ruler& WxUser::TheFixedRuler() {
+    if (!fixedRuler_) {
+        fixedRuler_ = std::make_unique<Ruler>(FixedWidthFont());
+    }
+    return *fixedRuler_;
 }
 
 WxUser::~WxUser() = default;
@@ -110,6 +118,7 @@ Result<std::optional<Text>> WxUser::ChooseFile(const FileRequest& request) {
     const wxString usual = request.ForSaving ? "Save As" : "Open";
     wxFileDialog dialog(Owner(), request.Title.empty() ? usual : ToWx(request.Title), wxString::FromUTF8(directory),
                         ToWx(request.FileName), ToWx(request.Filter), style);
+    dialog.SetFilterIndex(request.FilterIndex);
     if (dialog.ShowModal() != wxID_OK) {
         return std::optional<Text>();
     }
@@ -177,6 +186,18 @@ int WxUser::TextWidth(TextView line) {
 
 int WxUser::TextHeight() {
     return TheRuler().Canvas.GetTextExtent("Wg").GetHeight();
+}
+
+int WxUser::FixedTextWidth(TextView line) {
+    Text text;
+    for (const char sign : line) {
+        text.append(sign == '\t' ? kTabStop - text.size() % kTabStop : 1, sign == '\t' ? ' ' : sign);
+    }
+    return TheFixedRuler().Canvas.GetTextExtent(ToWx(text)).GetWidth();
+}
+
+int WxUser::FixedTextHeight() {
+    return TheFixedRuler().Canvas.GetTextExtent("Wg").GetHeight();
 }
 
 ScreenSize WxUser::Screen() {

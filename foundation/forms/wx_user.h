@@ -51,6 +51,8 @@ class WxUser : public UserInterface {
     void EndProgram() override;
     int TextWidth(TextView line) override;
     int TextHeight() override;
+    int FixedTextWidth(TextView line) override;
+    int FixedTextHeight() override;
     ScreenSize Screen() override;
 
     void ShowAbout(About_Frm& about) override;
@@ -68,6 +70,7 @@ class WxUser : public UserInterface {
   private:
     struct Ruler;
     Ruler& TheRuler();
+    Ruler& TheFixedRuler();
     [[nodiscard]] wxWindow* Owner() const;
     std::unique_ptr<wxDialog> FormOf(ModalWindow& window);
 
@@ -83,6 +86,7 @@ class WxUser : public UserInterface {
     Handbook handbook_;
     std::unique_ptr<HelpKey> helpKey_;
     std::unique_ptr<Ruler> ruler_;
+    std::unique_ptr<Ruler> fixedRuler_;
     std::unordered_map<Text, int> widths_;  // of what was measured
 };
 

@@ -18,7 +18,9 @@ constexpr std::size_t kLongestTitle = 100;
 Text FitForList(TextView name) {
     Text title(name.substr(0, kLongestTitle));
     std::ranges::replace_if(
-        title, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F' || c == ';' || c == '"'; }, '?');
+        title,
+        [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F' || c == ';' || c == ',' || c == '"'; },
+        '?');
     return title;
 }
 

@@ -7,7 +7,10 @@
 
 #pragma once
 
+#include <vector>
+
 #include "foundation/run.h"
+#include "games/engines/engine_table.h"
 
 namespace lv {
 
@@ -17,5 +20,15 @@ void RestoreEngineSeats(Run& run);
 /// Keeps the seat and puts it in force. False if this system knows no stand-ins, a ";" in a path keeps it from being
 /// kept, or saving failed; the user was told of that.
 bool SeatEngine(Run& run, TextView seat, TextView program);
+
+/// The program that the seat is kept for; empty for any other path.
+Text ProgramOfSeat(Run& run, TextView seat);
+
+/// Gives up all seats but these, in any letter case.
+void KeepSeatsOnly(Run& run, const std::vector<Text>& seats);
+
+/// What is told beside a seat's path when its program has gone: the engine, the program as the host names it, and what
+/// brings it back. Empty for any other path. `engines` may be null.
+Text AboutGoneEngine(Run& run, const EngineTable* engines, TextView seat);
 
 }  // namespace lv

@@ -19,6 +19,10 @@ Text ProgramToStart(Files& disk, const Engine& engine, TextView program) {
     return !instead.empty() && disk.FileExists(instead) ? instead : Text(program);
 }
 
+bool TakesDataOf(const Engine& engine, TextView directory) {
+    return !engine.RefusesRerelease || !SameText(LastPathPart(directory), kRerelease);
+}
+
 std::optional<Text> WhyNoUseToStart(const Engine& engine, const EngineStart& start) {
     if (start.AsRoot && engine.RefusesRoot) {
         return Join(engine.Name, " does not run as root. Log in as a user of your own to play.");
@@ -29,7 +33,7 @@ std::optional<Text> WhyNoUseToStart(const Engine& engine, const EngineStart& sta
         return Join("The game's directory is missing: ", start.DataDirectory, ".", does,
                     " Mount its disk, or choose another directory.");
     }
-    if (engine.RefusesRerelease && SameText(LastPathPart(start.DataDirectory), kRerelease)) {
+    if (!TakesDataOf(engine, start.DataDirectory)) {
         return Join(engine.Name, " cannot use the data of the rerelease. Choose the directory above \"", kRerelease,
                     "\", which holds the classic game.");
     }

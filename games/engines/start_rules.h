@@ -15,6 +15,9 @@ namespace lv {
 /// switches of its own stands before it. Paths on the drives.
 Text ProgramToStart(Files& disk, const Engine& engine, TextView program);
 
+/// Whether the engine can use the data of the game in the directory.
+bool TakesDataOf(const Engine& engine, TextView directory);
+
 struct EngineStart {
     bool AsRoot = false;
     Text DataDirectory = {};  // on the drives; empty: not known

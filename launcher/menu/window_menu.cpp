@@ -76,7 +76,7 @@ void SetupFoundry_Bar_Click(Launcher& launcher) {
 void ScriptEditorChangeDefault_Bar_Click(Launcher& launcher) {
     Run& run = launcher.run;
     const Text start = BrowseStart(run, GetSetting(run, run.AppName, kOptions, "ScriptEditor"));
-    if (const auto editor = BrowseForFile(run, "Executables (*.exe)|*.exe|All Files (*.*)|*.*", start)) {
+    if (const auto editor = BrowseForProgram(run, "Executables (*.exe)|*.exe|All Files (*.*)|*.*", start)) {
         Save(run, kOptions, "ScriptEditor", TextView(*editor));
     }
 }

@@ -11,6 +11,7 @@
 #include "foundation/path_fault.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "games/engines/engine_seats.h"
 #include "gamespy/configure.h"
 #include "gamespy/game_spy_fetch.h"
 #include "gamespy/spy_names.h"
@@ -81,7 +82,9 @@ bool ExecutableIsThere(Click& click) {
     if (click.Selection.Ticked.Has(Option::LaunchQspy_Chk) || run.System.Disk.FileExists(path)) {
         return true;
     }
-    Tell(run, MissingExecutableText(path, "4) Windows incorrectly reported that the file is missing."));
+    const Text engine = AboutGoneEngine(run, &click.launcher.Engines, path);
+    Tell(run, Join(MissingExecutableText(path, "4) Windows incorrectly reported that the file is missing."),
+                   engine.empty() ? Text() : Join(NewLine, engine)));
     return false;
 }
 

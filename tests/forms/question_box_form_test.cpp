@@ -105,6 +105,19 @@ TEST_F(QuestionBoxForm_, ALongTextStaysOnTheScreen) {
     Ask("Viewing Commands", text, "&Cool - Thanks Man!,P&lace in Clipboard,Launch Me!");
 }
 
+TEST_F(QuestionBoxForm_, AFileIsShownAsWideAsItsLongestLine) {
+    const Text line = "iiiiiiiii.ill -illi +fill lilliliillii.ffif;tilt iiii ftll " + Text(30, 'l');
+    WhenModal([&] {
+        auto* text = FindAs<wxTextCtrl>("Question_Txt");
+        wxCoord width = 0;
+        text->GetTextExtent(ToWx(line + line.substr(0, 10)), &width, nullptr);
+        EXPECT_GE(text->GetClientSize().x, width);
+        Screenshot("question_box_file");
+        ClickOn(Find("Button_Cmd(0)"));
+    });
+    AskUserFixedWidth(run, "Viewing Commands", Join("short\r\n", line, line.substr(0, 10), "\r\nSET\tX"), "&OK");
+}
+
 TEST_F(QuestionBoxForm_, DontShowAgainIsHandedBack) {
     WhenModal([] {
         ClickOn(Find("NotAgain_Chk"));

@@ -13,6 +13,18 @@ TEST_F(Browsing, GivesTheDialogItsFilterAndDirectory) {
     EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "C:\\QUAKE");
 }
 
+TEST_F(Browsing, ForAProgramWithoutAnEndingShowsAllFilesFirst) {
+    user.FileAnswers = {std::optional<Text>(), std::optional<Text>(), std::optional<Text>()};
+    BrowseForProgram(run, "Programs|*.exe|Batches|*.bat|All Files|*.*", "C:\\");
+    EXPECT_EQ(user.FileRequests.at(0).FilterIndex, 2);
+    EXPECT_EQ(user.FileRequests.at(0).Filter, "Programs|*.exe|Batches|*.bat|All Files|*.*");
+    system.Disk.KnowsStandIns = false;
+    BrowseForProgram(run, "Programs|*.exe|All Files|*.*", "C:\\");
+    EXPECT_EQ(user.FileRequests.at(1).FilterIndex, 0);
+    BrowseForFile(run, "Scripts|*.cfg", "C:\\");
+    EXPECT_EQ(user.FileRequests.at(2).FilterIndex, 0);
+}
+
 TEST_F(Browsing, BeginsAtThePathInTheBoxAsFarAsItIsThere) {
     for (const char* directory : {"C:\\QUAKE\\ID1", "C:\\LAST", "C:\\USUAL", "C:\\HOME\\games"}) {
         system.Disk.AddDirectory(directory);

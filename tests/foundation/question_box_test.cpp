@@ -291,6 +291,15 @@ TEST_F(QuestionBoxTest, AFilesTextKeepsItsLines) {
     EXPECT_TRUE(box.Layout.ScrollsAcross);
 }
 
+TEST_F(QuestionBoxTest, AFilesTextIsMeasuredInTheFontThatItIsShownIn) {
+    QuestionBox_Frm box = MakeQuestionBox("T", Text(70, 'x') + "\r\n\r\nend", "&OK", 0, 0);
+    box.FixedWidth = true;
+    LayOutQuestionBox(box, user);
+    EXPECT_EQ(box.Layout.TextWidth, 700);
+    EXPECT_EQ(box.Layout.TextHeight, 54);
+    EXPECT_EQ(box.Layout.ButtonHeight, 32) << "the buttons' font is the windows'";
+}
+
 TEST_F(QuestionBoxTest, ATextOfExactlyTheLimitDoesNotScroll) {
     QuestionBox_Frm box = MakeQuestionBox("T", Text(100, 'x'), "&OK", 0, 0);
     LayOutQuestionBox(box, user);

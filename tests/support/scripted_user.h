@@ -65,6 +65,8 @@ class ScriptedUser : public UserInterface {
     void EndProgram() override { ProgramEnded = true; }
     int TextWidth(TextView line) override { return static_cast<int>(line.size()) * 8; }
     int TextHeight() override { return 16; }
+    int FixedTextWidth(TextView line) override { return static_cast<int>(line.size()) * 10; }
+    int FixedTextHeight() override { return 18; }
     ScreenSize Screen() override { return ScreenIs; }
 
     // What the user does in each dialog that is to come; a dialog without one fails the test.

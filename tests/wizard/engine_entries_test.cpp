@@ -1,6 +1,7 @@
 #include "wizard/engine_entries.h"
 
 #include "foundation/field_strings.h"
+#include "games/trees/tree_room.h"
 #include "tests/wizard/found_games_fixture.h"
 
 namespace lv {
@@ -134,6 +135,77 @@ TEST_F(EngineEntriesTest, WhereLinksCannotBeMadeTheReasonIsToldOnce) {
     EXPECT_TRUE(
         EngineEntries(run, launcher.Engines, LookAround(run, launcher.Engines), kQuake, "C:\\HOME\\games\\quake")
             .empty());
+}
+
+TEST_F(EngineEntriesTest, ServersStandBehindWhatPlaysTheGame) {
+    AddQuake();
+    AddEngine("mvdsv");
+    AddEngine("darkplaces-server");
+    AddEngine("quakespasm");
+    SetUpFoundGames();
+    const Text list = Executables();
+    EXPECT_TRUE(list.starts_with("QuakeSpasm;c:\\home\\games\\quake\\quakespasm;")) << list;
+    EXPECT_NE(list.find(";DarkPlaces server;c:\\home\\games\\quake\\darkplaces-server"), Text::npos) << list;
+    EXPECT_NE(list.find(";mvdsv server;c:\\home\\games\\quake\\mvdsv"), Text::npos) << list;
+}
+
+TEST_F(EngineEntriesTest, AServerAloneMakesNoGameOfATree) {
+    AddQuake();
+    AddEngine("mvdsv");
+    user.Expect({"Nothing Here to Play It With", "apt install quakespasm"});
+    ExpectTold("No supported executables were found\r\nin the selected directories.");
+    EXPECT_FALSE(SetUpFoundGames());
+    EXPECT_EQ(Stored("Engines", "Seats"), "(none)");
+}
+
+TEST_F(EngineEntriesTest, ServersStandBesideTheOriginalProgramsToo) {
+    AddQuake();
+    AddEngine("mvdsv");
+    system.Disk.AddFile("C:\\HOME\\games\\quake\\quake.exe");
+    SetUpFoundGames();
+    EXPECT_EQ(Executables(), "Quake;c:\\home\\games\\quake\\quake.exe;mvdsv server;c:\\home\\games\\quake\\mvdsv");
+}
+
+TEST_F(EngineEntriesTest, AnEngineGetsNoDataThatItCannotUse) {
+    system.Disk.AddFile("C:\\HOME\\games\\quake2\\rerelease\\baseq2\\pak0.pak");
+    system.Disk.AddFile("C:\\HOME\\games\\quake2\\rerelease\\baseq2\\pak1.pak");
+    AddEngine("yquake2");
+    AddEngine("q2pro");
+    const auto entries = EngineEntries(run, launcher.Engines, LookAround(run, launcher.Engines), kQuake2,
+                                       "C:\\HOME\\games\\quake2\\rerelease");
+    ASSERT_EQ(entries.size(), 1u);
+    EXPECT_EQ(entries[0].Title, "Q2PRO");
+}
+
+TEST_F(EngineEntriesTest, AnEngineThatIsInstalledMeanwhileIsFoundByTheNextOK) {
+    AddQuake();
+    user.Expect({"Nothing Here to Play It With", "apt install quakespasm"});
+    ExpectTold("No supported executables were found\r\nin the selected directories.");
+    user.In<Install_Frm>([&](Install_Frm& form) {
+        Install_OK_Cmd_Click(form);
+        AddEngine("quakespasm");
+        Install_OK_Cmd_Click(form);
+        EXPECT_TRUE(form.Closed);
+    });
+    EXPECT_TRUE(ShowInstallWizard(launcher));
+    EXPECT_EQ(Executables(), "QuakeSpasm;c:\\home\\games\\quake\\quakespasm");
+}
+
+TEST_F(EngineEntriesTest, AnEngineIsNewUntilItHasAnEntryForTheTree) {
+    AddQuake();
+    AddEngine("quakespasm");
+    AddEngine("mvdsv");
+    const FoundGames found = LookAround(run, launcher.Engines);
+    const auto isNew = [&](TextView list) {
+        return HasNewEngine(run, launcher.Engines, found, kQuake, "C:\\HOME\\games\\quake", list);
+    };
+    EXPECT_TRUE(isNew(""));
+    EXPECT_TRUE(isNew("QuakeSpasm;c:\\games\\quake\\quakespasm"));
+    EXPECT_FALSE(isNew("Mine;C:\\Home\\games\\quake\\quakespasm"));
+    EXPECT_FALSE(isNew(Join("Mine;", LinkedTreeDirectory("c:\\home\\games\\quake"), "\\quakespasm")));
+    system.Disk.AddFile("C:\\HOME\\games\\quake\\vkquake");
+    EXPECT_TRUE(isNew("Mine;c:\\home\\games\\quake\\quakespasm"));
+    EXPECT_EQ(Stored("Engines", "Seats"), "(none)");
 }
 
 }  // namespace lv

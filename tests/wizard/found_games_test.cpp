@@ -11,7 +11,7 @@ TEST_F(FoundGamesTest, FillTheirRowsBeforeTheFirstClick) {
         EXPECT_EQ(form.Game_Chk[kQuake].Value, 1);
         EXPECT_EQ(form.GamePath_Txt[kQuake].Text, "C:\\HOME\\games\\quake");
         EXPECT_EQ(form.Game_Chk[kHexen2].Value, 0);
-        EXPECT_EQ(form.Status_Lbl.Caption, "Found: Quake. Plays here: QuakeSpasm. Click 'OK' to go on.");
+        EXPECT_EQ(form.Found_Lbl.Caption, "Found: Quake. Plays here: QuakeSpasm. Click 'OK' to go on.");
         Install_Cancel_Cmd_Click(form);
     });
     ShowInstallWizard(launcher);
@@ -22,6 +22,7 @@ TEST_F(FoundGamesTest, NothingIsFilledInWhereNothingIsFound) {
         EXPECT_EQ(form.Game_Chk[kQuake].Value, 0);
         EXPECT_EQ(form.GamePath_Txt[kQuake].Text, "");
         EXPECT_EQ(form.Status_Lbl.Caption, "");
+        EXPECT_EQ(form.Found_Lbl.Caption, "");
         Install_Cancel_Cmd_Click(form);
     });
     ShowInstallWizard(launcher);
@@ -49,7 +50,12 @@ TEST_F(FoundGamesTest, TheWholeGameCountsAheadOfItsShareware) {
 TEST_F(FoundGamesTest, ServersPlayNothing) {
     AddQuake();
     AddEngine("darkplaces-dedicated");
-    EXPECT_TRUE(LookAround(run, launcher.Engines).Engines.empty());
+    const FoundGames found = LookAround(run, launcher.Engines);
+    ASSERT_EQ(found.Engines.size(), 1u);
+    EXPECT_FALSE(PlaysRow(*found.Engines[0].Its, kQuake));
+    EXPECT_TRUE(ServesRow(*found.Engines[0].Its, kQuake));
+    EXPECT_FALSE(ServesRow(*found.Engines[0].Its, kHexen2));
+    EXPECT_EQ(FoundText(found), "Found: Quake. No engine here for: Quake. Click 'OK' to go on.");
 }
 
 TEST_F(FoundGamesTest, WithoutAPackageThePageIsNamed) {
@@ -69,6 +75,31 @@ TEST_F(FoundGamesTest, TheMenuCallsTheSetupAgain) {
     user.In<Install_Frm>([](Install_Frm& form) { Install_OK_Cmd_Click(form); });
     Menu_Click(launcher, MenuItem::SetUpGames_Bar);
     EXPECT_EQ(window.Exe_Cbo.Items.back().Title, "QuakeSpasm");
+}
+
+TEST_F(FoundGamesTest, APlayerServesNothing) {
+    AddEngine("quakespasm");
+    const FoundGames found = LookAround(run, launcher.Engines);
+    ASSERT_EQ(found.Engines.size(), 1u);
+    EXPECT_FALSE(ServesRow(*found.Engines[0].Its, kQuake));
+}
+
+TEST_F(FoundGamesTest, AGameInSeveralPlacesIsCounted) {
+    AddQuake();
+    AddEngine("quakespasm");
+    system.Disk.AddFile("C:\\HOME\\games\\q\\id1\\pak0.pak");
+    const FoundGames found = LookAround(run, launcher.Engines);
+    EXPECT_EQ(TreesOfRow(found, kQuake).size(), 2u);
+    EXPECT_TRUE(TreesOfRow(found, kHexen2).empty());
+    EXPECT_EQ(FoundText(found), "Found: Quake (2 places). Plays here: QuakeSpasm. Click 'OK' to go on.");
+}
+
+TEST(SearchText, CountsAndNamesWhatWasFound) {
+    EXPECT_EQ(SearchText({"Quake"}, {}), "1 game found: Quake. Click 'OK' to go on.");
+    EXPECT_EQ(SearchText({"Quake", "Blood 2"}, {"Sin", "Shogo"}),
+              "2 games found: Quake, Blood 2. Not found: Sin, Shogo. Click 'OK' to go on.");
+    EXPECT_EQ(SearchText({}, {"Sin", "Shogo"}),
+              "Nothing found of: Sin, Shogo. Click 'Browse' to show where a game lies.");
 }
 
 TEST_F(FoundGamesTest, AGameWithoutAnEngineIsSaidToBe) {

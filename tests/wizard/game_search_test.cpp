@@ -74,6 +74,7 @@ TEST_F(GameSearch, EveryUsualPlaceIsLookedAt) {
         Install_AutoSearch_Cmd_Click(form);
         EXPECT_EQ(form.GamePath_Txt[place.Game].Text, directory.substr(0, directory.size() - 1));
         EXPECT_EQ(form.Status_Lbl.Caption, "Search Complete:");
+        EXPECT_TRUE(form.Found_Lbl.Caption.starts_with("1 game found: ")) << form.Found_Lbl.Caption;
     }
 }
 
@@ -307,6 +308,28 @@ TEST_F(GameSearch, AKnownGameIsNotLookedFor) {
     ExpectWalkOffer("Sin", 0);
     Install_AutoSearch_Cmd_Click(form);
     EXPECT_EQ(form.GamePath_Txt[kQuake].Text, "D:\\MINE");
+}
+
+TEST_F(GameSearch, TellsWhatTheUsualPlacesAndTheDisksHaveGiven) {
+    system.Disk.AddFile("C:\\QUAKE\\QUAKE.EXE");
+    system.Disk.AddFile("C:\\OLD\\SIN\\SIN.EXE");
+    Install_Frm form(run);
+    Tick(form, kQuake);
+    Tick(form, kSin);
+    Tick(form, kBlood2);
+    ExpectWalkOffer("Sin, Blood 2", 0);
+    Install_AutoSearch_Cmd_Click(form);
+    EXPECT_EQ(form.Status_Lbl.Caption, "Search Complete:");
+    EXPECT_EQ(form.Found_Lbl.Caption, "2 games found: Quake, Sin. Not found: Blood 2. Click 'OK' to go on.");
+    EXPECT_EQ(form.Found_Lbl.ToolTip, form.Found_Lbl.Caption);
+}
+
+TEST_F(GameSearch, TellsWhatARefusedWalkLeavesOpen) {
+    Install_Frm form(run);
+    Tick(form, kSin);
+    ExpectWalkOffer("Sin", 1);
+    Install_AutoSearch_Cmd_Click(form);
+    EXPECT_EQ(form.Found_Lbl.Caption, "Nothing found of: Sin. Click 'Browse' to show where a game lies.");
 }
 
 }  // namespace lv

@@ -118,6 +118,10 @@ class InstallForm : public ModalForm {
                                         wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_MIDDLE);
         Controls.Bind("Status_Lbl", form_.Status_Lbl, status);
         AddWide(status);
+        auto* found = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                       wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+        Controls.Bind("Found_Lbl", form_.Found_Lbl, found);
+        AddWide(found);
     }
 
     Install_Frm& form_;

@@ -2,6 +2,7 @@
 
 #include "catalogs/editors/path_window.h"
 #include "catalogs/executables.h"
+#include "games/engines/engine_seats.h"
 #include "tests/catalogs/editors/editors_fixture.h"
 #include "tests/support/shipped_engines.h"
 
@@ -132,12 +133,21 @@ TEST_F(AddExe, BrowsesForPrograms) {
     AddExe_Browse_Cmd_Click(form);
     EXPECT_EQ(form.ExePath_Txt.Text, "C:\\HL\\HL.EXE");
     EXPECT_EQ(user.FileRequests.at(0).Filter, "Quake Executables (*.exe, *.bat)|*.exe;*.bat|All Files (*.*)|*.*");
+    EXPECT_EQ(user.FileRequests.at(0).FilterIndex, 1) << "programs of the system have no ending";
     EXPECT_EQ(user.FileRequests.at(0).InitialDirectory, "C:\\HOME");
     system.Disk.AddDirectory("C:\\HL");
     user.FileAnswers.push_back(std::optional<Text>());
     AddExe_Browse_Cmd_Click(form);
     EXPECT_EQ(form.ExePath_Txt.Text, "C:\\HL\\HL.EXE");
     EXPECT_EQ(user.FileRequests.at(1).InitialDirectory, "C:\\HL");
+}
+
+TEST_F(AddExe, ShowsProgramsByTheirEndingWhereTheyHaveOne) {
+    system.Disk.KnowsStandIns = false;
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    user.FileAnswers.push_back(std::optional<Text>());
+    AddExe_Browse_Cmd_Click(form);
+    EXPECT_EQ(user.FileRequests.at(0).FilterIndex, 0);
 }
 
 TEST_F(AddExe, TakesAPathOfTheSystemsOwn) {
@@ -156,10 +166,18 @@ class AddEngineOutside : public AddExe {
         system.Disk.AddFile("Z:\\usr\\games\\darkplaces");
         system.Disk.AddFile("C:\\GAMES\\quake\\id1\\pak0.pak");
         system.Disk.AddDirectory("C:\\EMPTY");
+        system.Disk.AddDirectory("C:\\HOME");
+        run.LastBrowsed = "Z:\\usr\\games";
     }
-    void ExpectTreeAsked(TextView answer) {
-        user.In<Path_Frm>([answer](Path_Frm& shown) {
-            EXPECT_EQ(shown.Caption, "Select the directory of the game that DarkPlaces is to play.");
+    void ExpectTreeQuestion(int answer) {
+        user.Expect(
+            {"Which Game?", "DarkPlaces lies in no game's directory.", answer, false, false, "C&hoose,&Cancel"});
+    }
+    void ExpectTreeAsked(TextView answer, TextView beginning = "C:\\HOME") {
+        ExpectTreeQuestion(0);
+        user.In<Path_Frm>([answer, beginning](Path_Frm& shown) {
+            EXPECT_EQ(shown.Caption, "Select Game Path");
+            EXPECT_EQ(shown.Path_Lbl.Caption, beginning);
             if (answer.empty()) {
                 Path_Cancel_Cmd_Click(shown);
                 return;
@@ -191,6 +209,54 @@ TEST_F(AddEngineOutside, ACancelLeavesTheDialogOpen) {
     EXPECT_EQ(lists.Exe_Cbo.Items.size(), 1u);
 }
 
+TEST_F(AddEngineOutside, NoChoiceOfATreeLeavesTheDialogOpen) {
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "DP", "Z:\\usr\\games\\darkplaces");
+    ExpectTreeQuestion(1);
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_FALSE(form.Closed);
+    EXPECT_EQ(lists.Exe_Cbo.Items.size(), 1u);
+}
+
+TEST_F(AddEngineOutside, TheChoiceBeginsAtThePresentGameIfTheEnginePlaysIt) {
+    BeInQuake();
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "DP", "Z:\\usr\\games\\darkplaces");
+    ExpectTreeAsked("", "c:\\quake");
+    AddExe_OK_Cmd_Click(form);
+}
+
+TEST_F(AddEngineOutside, TheChoiceBeginsAtAFoundGameThatTheEnginePlays) {
+    BeInQuake();
+    run.GameKind = Game::Hexen2;
+    system.Places.IsGames = {"C:\\GAMES"};
+    system.Disk.AddFile("C:\\GAMES\\hexen2\\data1\\pak0.pak");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "DP", "Z:\\usr\\games\\darkplaces");
+    ExpectTreeAsked("", "C:\\GAMES\\quake");
+    AddExe_OK_Cmd_Click(form);
+}
+
+TEST_F(AddEngineOutside, TheChoiceBeginsWhereGamesLieIfThereIsNone) {
+    system.Disk.Delete("C:\\GAMES\\quake\\id1\\pak0.pak");
+    system.Disk.AddDirectory("C:\\HOME\\games");
+    system.Places.IsGames = {"C:\\HOME\\games", "C:\\EMPTY"};
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "DP", "Z:\\usr\\games\\darkplaces");
+    ExpectTreeAsked("", "C:\\HOME\\games");
+    AddExe_OK_Cmd_Click(form);
+}
+
+TEST_F(AddEngineOutside, AGameThatTheEngineDoesNotPlayIsToldOf) {
+    system.Disk.AddFile("C:\\GAMES\\hexen2\\data1\\pak0.pak");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "DP", "Z:\\usr\\games\\darkplaces");
+    ExpectTreeAsked("C:\\GAMES\\hexen2");
+    ExpectFault(form, AddExe_OK_Cmd_Click, "ExePath_Txt",
+                "There is no game in this directory that DarkPlaces could play: C:\\GAMES\\hexen2");
+    EXPECT_EQ(Stored("Seats", "Engines"), "(none)");
+}
+
 TEST_F(AddEngineOutside, ADirectoryWithoutAGameIsToldOf) {
     AddExe_Frm form(run, lists, EntryMode::Add);
     Fill(form, "DP", "Z:\\usr\\games\\darkplaces");
@@ -207,6 +273,16 @@ TEST_F(AddEngineOutside, AnEngineInAGamesDirectoryIsTakenAsItIs) {
     ExpectConfirmed("DP now references C:\\GAMES\\quake\\darkplaces");
     AddExe_OK_Cmd_Click(form);
     EXPECT_TRUE(form.Closed);
+}
+
+TEST_F(AddEngineOutside, AnEntryThatIsEditedLeavesItsSeat) {
+    SeatEngine(run, "c:\\games\\quake\\darkplaces", "Z:\\usr\\games\\darkplaces");
+    lists.Exe_Cbo.Items = {{"DP", "c:\\games\\quake\\darkplaces", "", ""}};
+    AddExe_Frm form(run, lists, EntryMode::Edit);
+    Fill(form, "Own", "C:\\QUAKE\\GLQUAKE.EXE");
+    ExpectConfirmed("Own now references C:\\QUAKE\\GLQUAKE.EXE");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(Stored("Seats", "Engines"), "");
 }
 
 }  // namespace lv

@@ -1,5 +1,6 @@
 #include "catalogs/editors/delete_entry.h"
 
+#include "games/engines/engine_seats.h"
 #include "tests/catalogs/editors/editors_fixture.h"
 
 namespace lv {
@@ -49,6 +50,18 @@ TEST_F(DeleteEntry, AnExecutableIsRemovedFromTheList) {
     EXPECT_EQ(Rows(lists.Exe_Cbo), (TextList{"Quake|C:\\Q.EXE"}));
     EXPECT_EQ(lists.Exe_Cbo.ListIndex, 0);
     EXPECT_EQ(Stored("Executables"), "Quake;C:\\Q.EXE");
+}
+
+TEST_F(DeleteEntry, AnExecutablesSeatGoesWithIt) {
+    system.Disk.AddFile("Z:\\usr\\games\\engine");
+    SeatEngine(run, "c:\\quake\\engine", "Z:\\usr\\games\\engine");
+    SeatEngine(run, "c:\\quake\\other", "Z:\\usr\\games\\engine");
+    lists.Exe_Cbo.Items = {{"One", "c:\\quake\\engine", "", ""}, {"Two", "c:\\quake\\other", "", ""}};
+    lists.Exe_Cbo.ListIndex = 0;
+    user.Expect({"Confirm Deletion", "", 0});
+    user.Expect({"Lorvane 3D", "", 0});
+    EXPECT_TRUE(DeleteExecutable(run, lists));
+    EXPECT_EQ(Stored("Seats", "Engines"), "c:\\quake\\other;Z:\\usr\\games\\engine");
 }
 
 TEST_F(DeleteEntry, ACancelKeepsTheRow) {

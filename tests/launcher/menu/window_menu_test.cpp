@@ -104,6 +104,7 @@ TEST_F(WindowMenu, ADefaultEditorIsChosen) {
     user.FileAnswers.push_back(std::optional<Text>("C:\\TOOLS\\EDIT.EXE"));
     ScriptEditorChangeDefault_Bar_Click(launcher);
     EXPECT_EQ(user.FileRequests.back().Filter, "Executables (*.exe)|*.exe|All Files (*.*)|*.*");
+    EXPECT_EQ(user.FileRequests.back().FilterIndex, 1);
     EXPECT_FALSE(user.FileRequests.back().ForSaving);
     EXPECT_EQ(Stored(kOptions, "ScriptEditor"), "C:\\TOOLS\\EDIT.EXE");
 }

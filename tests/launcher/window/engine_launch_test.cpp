@@ -126,4 +126,15 @@ TEST_F(EngineLaunches, AnEngineInNoGamesDirectoryIsNotStartedAndNothingIsWritten
     EXPECT_TRUE(system.Programs.Started.empty());
 }
 
+TEST_F(EngineLaunches, AGoneEngineIsNamedWithItsProgram) {
+    LoadWith(true);
+    system.Disk.Delete("Z:\\usr\\games\\quakespasm");
+    user.Expect({"Lorvane 3D",
+                 "4) Windows incorrectly reported that the file is missing.\r\n\r\n"
+                 "QuakeSpasm plays this game from elsewhere, and its program is not there any more:\r\n\r\n"
+                 "\t/z:/usr/games/quakespasm\r\n\r\nIn a terminal, \"apt install quakespasm\" installs it."});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
 }  // namespace lv

@@ -1,0 +1,72 @@
+#include "wizard/engine_advice.h"
+
+#include <algorithm>
+
+#include "catalogs/catalog_store.h"
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+#include "foundation/settings.h"
+#include "wizard/install_frm.h"
+
+namespace lv {
+
+namespace {
+
+constexpr TextView kSection = "Engines";
+constexpr TextView kAdvised = "Advised";  // a ";"-list of directories, those told of last at its end
+constexpr std::size_t kMostAdvised = 30;
+
+std::vector<Text> ToldOf(Run& run) {
+    std::vector<Text> told = SplitFields(GetSetting(run, run.AppName, kSection, kAdvised));
+    std::erase_if(told, [](const Text& path) { return path.empty(); });
+    return told;
+}
+
+void KeepToldOf(Run& run, const std::vector<Text>& told) {
+    Text list;
+    for (std::size_t i = told.size() - std::min(kMostAdvised, told.size()); i < told.size(); ++i) {
+        AppendRecord(list, told[i]);
+    }
+    if (list != GetSetting(run, run.AppName, kSection, kAdvised)) {
+        Save(run, kSection, kAdvised, list);
+    }
+}
+
+}  // namespace
+
+void AdviseOnce(Run& run, const EngineTable& engines, const std::vector<SetUpTree>& trees, bool all) {
+    std::vector<Text> told = ToldOf(run);
+    for (const SetUpTree& tree : trees) {
+        const bool wasTold = std::erase(told, tree.Path) != 0;
+        if (tree.IsPlayed) {
+            continue;
+        }
+        if (all || tree.IsAskedFor || !wasTold) {
+            AdviseEngine(run, engines, tree.Row, tree.Path);
+        }
+        if (FitsAField(tree.Path)) {
+            told.push_back(tree.Path);
+        }
+    }
+    KeepToldOf(run, told);
+}
+
+void AdviseEngine(Run& run, const EngineTable& engines, std::size_t row, TextView path) {
+    const auto advice = AdviceFor(engines, row);
+    if (!advice) {
+        return;
+    }
+    const int answer = AskUser(run, "Nothing Here to Play It With",
+                               Join(InstallRows()[row].Name, " lies in", NewLine, NewLine, TabChar, path, NewLine,
+                                    NewLine, "but there is no program here that plays it. ",
+                                    advice->IsCommand ? "In a terminal," : Join(advice->Engine, " does:"), NewLine,
+                                    NewLine, TabChar, advice->What, NewLine, NewLine,
+                                    advice->IsCommand ? Join("installs ", advice->Engine, ", which does. ") : Text(),
+                                    "Afterwards press OK once more, or call the setup again (Tools, Set Up Games)."),
+                               "&OK,&Copy");
+    if (answer == 1) {
+        (void)run.System.Clip.SetText(advice->What);
+    }
+}
+
+}  // namespace lv
