@@ -8,7 +8,7 @@ set(zip ${CMAKE_BINARY_DIR}/lorvane3d-${PROJECT_VERSION}-windows.zip)
 install(TARGETS lorvane3d DESTINATION "${folder}" COMPONENT zip)
 install(FILES ${CMAKE_SOURCE_DIR}/assets/lv_666.hid ${CMAKE_SOURCE_DIR}/assets/lv_666_q2.hid DESTINATION "${folder}"
     COMPONENT zip)
-install(FILES ${pages} DESTINATION "${folder}/handbook" COMPONENT zip)
+install(DIRECTORY ${pages}/ DESTINATION "${folder}/handbook" COMPONENT zip)
 install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION "${folder}" RENAME LICENSE.txt COMPONENT zip)
 # The licences of what is linked in, as Debian's packages bring them.
 foreach(package libwxgtk3.2-dev libpng16-16 libz-mingw-w64-dev mingw-w64-common g++-mingw-w64-x86-64-posix)
@@ -16,7 +16,7 @@ foreach(package libwxgtk3.2-dev libpng16-16 libz-mingw-w64-dev mingw-w64-common 
         COMPONENT zip)
 endforeach()
 
-set(data ${pages} ${CMAKE_SOURCE_DIR}/assets/lv_666.hid ${CMAKE_SOURCE_DIR}/assets/lv_666_q2.hid
+set(data ${pages}/handbook.hhp ${CMAKE_SOURCE_DIR}/assets/lv_666.hid ${CMAKE_SOURCE_DIR}/assets/lv_666_q2.hid
     ${CMAKE_SOURCE_DIR}/LICENSE)
 add_custom_command(
     OUTPUT ${zip}

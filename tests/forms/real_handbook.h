@@ -1,6 +1,6 @@
 // tests/forms/real_handbook.h
 //
-// The handbook as it lies in the source, and its window.
+// The handbook as it lies beside the program, and its window.
 
 #pragma once
 
@@ -16,7 +16,7 @@ namespace lv {
 
 /// The program's directory is where the handbook really lies.
 struct BookFiles : MemoryFiles {
-    std::string ToHost(std::string_view) override { return TestSourceDir() + "/docs/handbook/handbook.hhp"; }
+    std::string ToHost(std::string_view) override { return TestBinaryDir() + "/handbook/handbook.hhp"; }
 };
 
 /// Null while it is closed.
