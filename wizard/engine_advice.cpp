@@ -52,7 +52,8 @@ void AdviseOnce(Run& run, const EngineTable& engines, const std::vector<SetUpTre
 }
 
 void AdviseEngine(Run& run, const EngineTable& engines, std::size_t row, TextView path) {
-    const auto advice = AdviceFor(engines, row);
+    // A system whose engines play from the game's directory alone is Windows, which has no packages.
+    const auto advice = AdviceFor(engines, row, run.System.Disk.StandIn("", ""));
     if (!advice) {
         return;
     }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "games/programs.h"
 #include "games/trees/tree_search.h"
 #include "wizard/install_frm.h"
 
@@ -19,9 +20,8 @@ Text Listed(const std::vector<Text>& names) {
 }
 
 bool IsForRow(const Engine& engine, std::size_t row) {
-    return std::ranges::any_of(AllGames(), [&](const GameFacts& game) {
-        return game.WizardRow == row && Plays(engine, game.GameKind);
-    });
+    return std::ranges::any_of(
+        AllGames(), [&](const GameFacts& game) { return game.WizardRow == row && Plays(engine, game.GameKind); });
 }
 
 }  // namespace
@@ -34,13 +34,31 @@ FoundGames LookAround(Run& run, const EngineTable& engines) {
     }
     found.Trees = QuickLook(run.System.Disk, places);
     found.Engines = EnginesHere(run, engines);
+    for (const GameTree& tree : found.Trees) {
+        if (HoldsItsProgram(run.System.Disk, engines, tree)) {
+            found.Playable.push_back(FactsOf(tree.GameKind).WizardRow);
+        }
+    }
     return found;
 }
 
 std::vector<FoundEngine> EnginesHere(Run& run, const EngineTable& engines) {
     KnownPlaces* const places = run.System.Places;
-    return places == nullptr ? std::vector<FoundEngine>()
-                             : FindEngines(run.System.Disk, places->Programs(), engines).Engines;
+    return places == nullptr || !run.System.Disk.StandIn("", "")
+               ? std::vector<FoundEngine>()
+               : FindEngines(run.System.Disk, places->Programs(), engines).Engines;
+}
+
+bool HoldsItsProgram(Files& disk, const EngineTable& engines, const GameTree& tree) {
+    const Text directory = ProgramDirectoryOf(tree);
+    const auto isHere = [&](const Program& program) {
+        return program.GameKind == tree.GameKind && disk.FileExists(Join(directory, "\\", program.FileName));
+    };
+    const auto plays = [&](const FoundEngine& engine) {
+        return engine.Its->Role != EngineRole::Server && Plays(*engine.Its, tree.GameKind);
+    };
+    return std::ranges::any_of(AllPrograms(), isHere) ||
+           std::ranges::any_of(FindEngines(disk, {directory}, engines).Engines, plays);
 }
 
 std::vector<const GameTree*> TreesOfRow(const FoundGames& found, std::size_t row) {
@@ -78,7 +96,8 @@ Text FoundText(const FoundGames& found) {
         }
         games.push_back(
             Join(InstallRows()[row].Name, places == 1 ? Text() : Join(" (", std::to_string(places), " places)")));
-        if (std::ranges::none_of(found.Engines,
+        if (std::ranges::find(found.Playable, row) == found.Playable.end() &&
+            std::ranges::none_of(found.Engines,
                                  [row](const FoundEngine& engine) { return PlaysRow(*engine.Its, row); })) {
             unplayed.emplace_back(InstallRows()[row].Name);
         }
@@ -104,13 +123,13 @@ Text SearchText(const std::vector<Text>& found, const std::vector<Text>& missing
                 ".", missing.empty() ? Text() : Join(" Not found: ", Listed(missing), "."), " Click 'OK' to go on.");
 }
 
-std::optional<EngineAdvice> AdviceFor(const EngineTable& engines, std::size_t row) {
+std::optional<EngineAdvice> AdviceFor(const EngineTable& engines, std::size_t row, bool packages) {
     const Engine* page = nullptr;
     for (const Engine& engine : engines.Engines) {
         if (!PlaysRow(engine, row)) {
             continue;
         }
-        if (!engine.DebianPackage.empty()) {
+        if (packages && !engine.DebianPackage.empty()) {
             return EngineAdvice{Join("apt install ", engine.DebianPackage), true, engine.Name};
         }
         if (page == nullptr && !engine.HomePage.empty()) {

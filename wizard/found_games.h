@@ -16,18 +16,22 @@
 namespace lv {
 
 struct FoundGames {
-    std::vector<GameTree> Trees;       // in the order in which they are offered
-    std::vector<FoundEngine> Engines;  // outside of the trees; servers too
+    std::vector<GameTree> Trees;        // in the order in which they are offered
+    std::vector<FoundEngine> Engines;   // outside of the trees; servers too
+    std::vector<std::size_t> Playable;  // rows of the wizard with a program in the game's own directory
 };
 
 /// Takes under a second. Nothing where the system knows no usual places.
 FoundGames LookAround(Run& run, const EngineTable& engines);
 
-/// The engines alone, for one that has been installed since.
+/// The engines alone, for one that has been installed since. None where an engine plays only from the game's directory.
 std::vector<FoundEngine> EnginesHere(Run& run, const EngineTable& engines);
 
 /// All trees of the wizard's row.
 std::vector<const GameTree*> TreesOfRow(const FoundGames& found, std::size_t row);
+
+/// Whether a program that plays the game, an original one or an engine of today, lies in the tree.
+bool HoldsItsProgram(Files& disk, const EngineTable& engines, const GameTree& tree);
 
 /// The first whole tree of the wizard's row, or the first at all; null without one.
 const GameTree* TreeOfRow(const FoundGames& found, std::size_t row);
@@ -50,6 +54,7 @@ struct EngineAdvice {
     bool IsCommand = false;
     Text Engine;
 };
-std::optional<EngineAdvice> AdviceFor(const EngineTable& engines, std::size_t row);
+/// `packages`: whether the system gets programs by Debian's packages.
+std::optional<EngineAdvice> AdviceFor(const EngineTable& engines, std::size_t row, bool packages = true);
 
 }  // namespace lv

@@ -92,8 +92,8 @@ Result<std::string> DosBoxConfiguration(const BatchGame& game, const HostPathOf&
     char drive = UpperCase(game.Directory[0]);
     std::string directory = game.Directory.substr(2);
     std::string mounted = hostPathOf(game.Directory.substr(0, 2) + "\\");
-    // Z: is DOSBox's own, and a whole disk is no place to let a DOS program loose in.
-    const bool whole = drive == 'Z' || IsWholeDisk(mounted);
+    // Z: is DOSBox's own, a share has no letter, and a whole disk is no place to let a DOS program loose in.
+    const bool whole = drive == 'Z' || drive == '\\' || IsWholeDisk(mounted);
     if (whole || !HasShortNames(directory)) {
         drive = whole ? 'C' : drive;
         mounted = hostPathOf(game.Directory);

@@ -86,6 +86,12 @@ TEST(DosBoxConfiguration, MountsTheDirectoryWhereTheDriveIsAWholeDisk) {
               "@exit\n");
 }
 
+TEST(DosBoxConfiguration, MountsTheDirectoryOfAShare) {
+    const auto text = DosBoxConfiguration(GameIn("\\\\server\\games\\QUAKE", "QUAKE.EXE"), Itself);
+    ASSERT_TRUE(text.Ok()) << text.Fault.Text;
+    EXPECT_THAT(text.Value, HasSubstr("@mount C \"\\\\server\\games\\QUAKE\"\n@C:\n@cd \\\n"));
+}
+
 TEST(DosBoxConfiguration, MountsADriveThatIsADirectory) {
     const auto text = DosBoxConfiguration(GameIn("D:\\GAMES\\QUAKE", "QUAKE.EXE"), [](std::string_view path) {
         return "/home/zoe/" + std::string(path.substr(0, 1));

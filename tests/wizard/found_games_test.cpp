@@ -58,6 +58,26 @@ TEST_F(FoundGamesTest, ServersPlayNothing) {
     EXPECT_EQ(FoundText(found), "Found: Quake. No engine here for: Quake. Click 'OK' to go on.");
 }
 
+TEST_F(FoundGamesTest, AProgramInTheGamesOwnDirectoryPlaysIt) {
+    for (const char* const program : {"glquake.exe", "quakespasm"}) {
+        AddQuake();
+        system.Disk.AddFile(Join("C:\\HOME\\games\\quake\\", program));
+        EXPECT_EQ(FoundText(LookAround(run, launcher.Engines)), "Found: Quake. Click 'OK' to go on.") << program;
+        (void)system.Disk.Delete(Join("C:\\HOME\\games\\quake\\", program));
+    }
+    system.Disk.AddFile("C:\\HOME\\games\\quake\\darkplaces-dedicated");
+    EXPECT_EQ(FoundText(LookAround(run, launcher.Engines)),
+              "Found: Quake. No engine here for: Quake. Click 'OK' to go on.");
+}
+
+TEST_F(FoundGamesTest, WithoutPackagesThePageIsNamed) {
+    const auto advice = AdviceFor(launcher.Engines, kQuake, false);
+    ASSERT_TRUE(advice);
+    EXPECT_FALSE(advice->IsCommand);
+    EXPECT_EQ(advice->Engine, "QuakeSpasm");
+    EXPECT_TRUE(advice->What.starts_with("http")) << advice->What;
+}
+
 TEST_F(FoundGamesTest, WithoutAPackageThePageIsNamed) {
     const auto advice = AdviceFor(launcher.Engines, kHexen2);
     ASSERT_TRUE(advice);
