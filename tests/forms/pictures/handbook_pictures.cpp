@@ -13,6 +13,7 @@
 #include "launcher/menu/video_profile_menu.h"
 #include "launcher/start/install_params.h"
 #include "tests/forms/fig_form_fixture.h"
+#include "tests/support/shipped_engines.h"
 #include "video/forms/add_vid_profile_form.h"
 #include "video/forms/video_profile_form.h"
 #include "wizard/forms/install_form.h"
@@ -127,11 +128,16 @@ TEST_F(HandbookPictures, TheFirstStart) {
     InstallParams_Load(run, card);
     PictureNext("card", "InstallParams_Frm");
     first.ShowInstallParams(card);
+    for (const char* file :
+         {"Z:\\home\\zoe\\games\\quake\\id1\\pak0.pak", "Z:\\home\\zoe\\games\\quake\\id1\\pak1.pak",
+          "Z:\\home\\zoe\\games\\quake2\\baseq2\\pak0.pak", "Z:\\home\\zoe\\games\\quake2\\baseq2\\pak1.pak",
+          "Z:\\usr\\games\\quakespasm", "Z:\\usr\\games\\ezquake", "Z:\\usr\\games\\yquake2"}) {
+        system.Disk.AddFile(file);
+    }
+    system.Places.IsGames = {"Z:\\home\\zoe\\games"};
+    system.Places.IsPrograms = {"Z:\\usr\\games"};
+    launcher.Engines = ShippedEngines();
     WhenModal([] {
-        FindAs<wxTextCtrl>("GamePath_Txt(0)")->SetValue("C:\\QUAKE");
-        FindAs<wxTextCtrl>("GamePath_Txt(2)")->SetValue("C:\\QUAKE2");
-        ClickOn(Find("Game_Chk(0)"));
-        ClickOn(Find("Game_Chk(2)"));
         Picture("setup", Find("Install_Frm"));
         DoAndAnswer([] { ClickOn(Find("Browse_Cmd(0)")); },
                     [] {
