@@ -30,7 +30,7 @@ namespace {
 
 constexpr std::size_t kMostWidths = 4000;
 constexpr std::size_t kMostKept = 200;  // letters of a line
-constexpr std::size_t kTabStop = 8;  // letters
+constexpr std::size_t kTabStop = 8;     // letters
 
 constexpr long kLongestPump = 100;   // milliseconds
 constexpr long kLongestWait = 1000;  // milliseconds; another program may keep the keyboard
