@@ -29,17 +29,9 @@ bool NeedsRow(Launcher& launcher, const List& list, const char* message) {
     return true;
 }
 
-// The change of game to one that may be new.
-void EnterGame(Launcher& launcher) {
-    Exe_Cbo_Click(launcher);
-    if (!launcher.run.Ended) {
-        PickFirstModification(launcher);
-    }
-}
-
 void ShowAddExe(Launcher& launcher, EntryMode mode) {
     AddExe_Frm form(launcher.run, launcher.Lists, mode);
-    form.ChangeGame = [&launcher] { EnterGame(launcher); };
+    form.ChangeGame = [&launcher] { Exe_Cbo_Click(launcher); };
     ShowModal(form);
 }
 
@@ -90,7 +82,7 @@ void ExeAddScan_Bar_Click(Launcher& launcher) {
     }
     launcher.ShowInstallScan(*known);
     if (!launcher.run.Ended && LoadExes(launcher.run, launcher.Lists)) {
-        EnterGame(launcher);
+        Exe_Cbo_Click(launcher);
     }
 }
 
@@ -100,7 +92,7 @@ void SetUpGames_Bar_Click(Launcher& launcher) {
     }
     launcher.ShowInstallWizard();
     if (!launcher.run.Ended && LoadExes(launcher.run, launcher.Lists)) {
-        EnterGame(launcher);
+        Exe_Cbo_Click(launcher);
     }
 }
 

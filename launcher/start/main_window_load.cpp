@@ -45,7 +45,6 @@ bool LV_Frm_Load(Launcher& launcher) {
         return false;
     }
     LoadOptionBoxes(launcher);
-    PickFirstModification(launcher);
     window.ButtonBar_Cmd[0].ToolTip = kLaunchToolTip;
     if (run.Ended || !FixScriptRegistries(run)) {
         return false;

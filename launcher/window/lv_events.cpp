@@ -1,6 +1,5 @@
 #include "launcher/window/lv_events.h"
 
-#include "catalogs/catalog_store.h"
 #include "catalogs/game_identification.h"
 #include "catalogs/map_scan.h"
 #include "catalogs/missing_game.h"
@@ -170,13 +169,6 @@ void Exe_Cbo_Click(Launcher& launcher) {
         ApplyModification(launcher);
     }
     ScanForMaps(run, launcher.Lists);
-}
-
-void PickFirstModification(Launcher& launcher) {
-    ListBox& list = launcher.Window.Game_Cbo;
-    if (!list.Items.empty() && !list.HasSelection()) {
-        list.ListIndex = RepairedPosition(launcher.run, "GamesPos", 0, list.Items.size());
-    }
 }
 
 void Game_Cbo_Click(Launcher& launcher) {

@@ -18,10 +18,6 @@ void SetOption(Launcher& launcher, Option option, int value);
 /// The change of game: runs on a pick, also of the same row.
 void Exe_Cbo_Click(Launcher& launcher);
 
-/// The lists of a game that was met for the first time come up with none of its modifications picked, as they are found
-/// only then: the first one is, and stays unticked. For after a game has come into the list.
-void PickFirstModification(Launcher& launcher);
-
 void Game_Cbo_Click(Launcher& launcher);
 void Script_Cbo_Click(Launcher& launcher);
 void Mem_Cbo_Click(Launcher& launcher);

@@ -109,20 +109,6 @@ TEST_F(CatalogMenu, AScanHandsOverWhatIsKnownAndReadsTheListAgain) {
     EXPECT_EQ(run.DefaultGameDirectory, "c:\\sin");
 }
 
-TEST_F(CatalogMenu, AGameThatTheSetupHasAddedShowsItsFirstModificationUnticked) {
-    system.Disk.AddFile("C:\\NEW\\QUAKE.EXE");
-    system.Disk.AddDirectory("C:\\NEW\\ID1");
-    system.Disk.AddFile("C:\\NEW\\arena\\pak0.pak");
-    Save(run, kOptions, "Games", "");
-    launcher.ShowInstallWizard = [&] {
-        Save(run, kOptions, "Executables", "Quake;C:\\NEW\\QUAKE.EXE");
-        return true;
-    };
-    Click(MenuItem::SetUpGames_Bar);
-    EXPECT_EQ(window.Game_Cbo.ListIndex, 0);
-    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 0);
-}
-
 TEST_F(CatalogMenu, AGameIsAdded) {
     system.Disk.AddDirectory("C:\\QUAKE\\NEW");
     user.In<AddGame_Frm>([&](AddGame_Frm& form) {

@@ -51,18 +51,6 @@ TEST_F(MainWindowLoad, CentresTheMeasuredWindow) {
     EXPECT_EQ(window.Placement.Top, 200 * 15);
 }
 
-TEST_F(MainWindowLoad, OfAGameThatIsNewShowsItsFirstModificationUnticked) {
-    AddGames();
-    Save(run, kOptions, "Games", "");
-    Save(run, kOptions, "UseGames", 1);
-    Load();
-    ASSERT_TRUE(window.Game_Cbo.HasSelection());
-    EXPECT_EQ(window.Game_Cbo.ListIndex, 0);
-    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 0);
-    EXPECT_EQ(run.CurrentGameDir, run.BaseGameDir);
-    EXPECT_EQ(Stored(kOptions, "UseGames"), "1");
-}
-
 TEST_F(MainWindowLoad, AddsTheTrayIcon) {
     AddGames();
     Load();
