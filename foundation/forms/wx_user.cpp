@@ -118,7 +118,9 @@ Result<std::optional<Text>> WxUser::ChooseFile(const FileRequest& request) {
     const wxString usual = request.ForSaving ? "Save As" : "Open";
     wxFileDialog dialog(Owner(), request.Title.empty() ? usual : ToWx(request.Title), wxString::FromUTF8(directory),
                         ToWx(request.FileName), ToWx(request.Filter), style);
-    dialog.SetFilterIndex(request.FilterIndex);
+    if (request.FilterIndex > 0) {
+        dialog.SetFilterIndex(request.FilterIndex);
+    }
     if (dialog.ShowModal() != wxID_OK) {
         return std::optional<Text>();
     }
