@@ -6,6 +6,7 @@
 #include "catalogs/missing_game.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
+#include "games/engines/engine_lookup.h"
 #include "games/programs.h"
 
 namespace lv {
@@ -39,8 +40,8 @@ std::optional<CatalogRows> ReadExecutables(Run& run) {
 }
 
 // An engine of today has the picture of the first game that it plays.
-Text PictureOf(const CatalogLists& lists, const Text& fileName) {
-    const Engine* const engine = lists.Engines != nullptr ? EngineOf(*lists.Engines, fileName) : nullptr;
+Text PictureOf(const EngineLookup& engines, const Text& fileName) {
+    const Engine* const engine = engines.Of(fileName);
     if (engine != nullptr) {
         for (const Program& program : AllPrograms()) {
             if (Plays(*engine, program.GameKind)) {
@@ -51,8 +52,8 @@ Text PictureOf(const CatalogLists& lists, const Text& fileName) {
     return ImageKeyOf(LowerCase(fileName));
 }
 
-ImageComboItem MakeRow(const CatalogLists& lists, const GameRecord& game) {
-    const Text image = PictureOf(lists, LastPathPart(OnDisk(game.Path)));
+ImageComboItem MakeRow(const EngineLookup& engines, const GameRecord& game) {
+    const Text image = PictureOf(engines, LastPathPart(OnDisk(game.Path)));
     return {game.Title, game.Path, image, image};
 }
 
@@ -68,6 +69,8 @@ Reading ReadOnce(Run& run, CatalogLists& lists) {
     if (!rows) {
         return Reading::Ended;
     }
+    const EngineTable none;
+    const EngineLookup engines(lists.Engines != nullptr ? *lists.Engines : none);
     std::unordered_set<Text> keys;
     for (std::size_t i = 0; i < rows->Count(); ++i) {
         const GameRecord game = {rows->Field(i, 0), rows->Field(i, 1)};
@@ -75,7 +78,7 @@ Reading ReadOnce(Run& run, CatalogLists& lists) {
             return run.Ended ? Reading::Ended : Reading::Again;
         }
         if (keys.insert(game.Path).second) {
-            list.Items.push_back(MakeRow(lists, game));
+            list.Items.push_back(MakeRow(engines, game));
             continue;
         }
         AskUser(run, "Duplicate Game", Join(AboutGame(game), "was listed twice. The second entry will be ignored."));
