@@ -49,6 +49,16 @@ std::string Pictures() {
     return wad + data + directory;
 }
 
+/// The last script of a start. A program's output stays in its own memory until there are some thousand bytes of it,
+/// and an engine that then waits for its player says no more.
+std::string Chatter() {
+    std::string script;
+    for (int i = 0; i < 200; ++i) {
+        script += "echo " + std::string(60, '.') + "\n";
+    }
+    return script;
+}
+
 void Put(const fs::path& file, const std::string& bytes) {
     std::ofstream(file, std::ios::binary) << bytes;
 }
@@ -95,12 +105,14 @@ std::string RegisteredMark(const fs::path& engine) {
 
 void MakeSmallQuake(const fs::path& tree) {
     fs::create_directories(tree / "id1");
-    Put(tree / "id1/pak0.pak", Pak({{"gfx.wad", Pictures()},
-                                    {"gfx/palette.lmp", std::string(768, '\x40')},
-                                    {"gfx/colormap.lmp", std::string(std::size_t{64} * 256 + 1, '\0')},
-                                    {"gfx/conback.lmp", Picture()},
-                                    {"quake.rc", "exec default.cfg\nexec config.cfg\nexec autoexec.cfg\nstuffcmds\n"},
-                                    {"default.cfg", "echo the game's own\n"}}));
+    Put(tree / "id1/pak0.pak",
+        Pak({{"gfx.wad", Pictures()},
+             {"gfx/palette.lmp", std::string(768, '\x40')},
+             {"gfx/colormap.lmp", std::string(std::size_t{64} * 256 + 1, '\0')},
+             {"gfx/conback.lmp", Picture()},
+             {"quake.rc", "exec default.cfg\nexec config.cfg\nexec autoexec.cfg\nstuffcmds\nexec last.cfg\n"},
+             {"default.cfg", "echo the game's own\n"},
+             {"last.cfg", Chatter()}}));
     Put(tree / "id1/pak1.pak", Pak({{"gfx/pop.lmp", RegisteredMark(kEngine)}}));
 }
 
