@@ -2,32 +2,13 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 
 #include "catalogs/pak_directory.h"
+#include "foundation/stored_numbers.h"
 
 namespace lv {
 
 namespace {
-
-struct ArchiveKind {
-    TextView Magic;
-    std::size_t NameSize;
-    std::size_t EntrySize;
-};
-
-constexpr ArchiveKind kArchiveKinds[] = {
-    {"PACK", 56, 64},
-    {"SPAK", 120, 128},
-};
-
-std::uint64_t NumberAt(TextView bytes, std::size_t at) {
-    std::uint64_t number = 0;
-    for (std::size_t i = 4; i-- > 0;) {
-        number = number * 256 + static_cast<unsigned char>(bytes[at + i]);
-    }
-    return number;
-}
 
 bool IsComponent(TextView part) {
     constexpr TextView kNever = "\\\"*:<>?|";
@@ -50,25 +31,24 @@ bool IsFileName(TextView name) {
 
 std::vector<Text> ArchiveEntryNames(RandomAccessFile& archive) {
     const Text head = archive.Read(0, kPakHeaderSize).Value;
-    const auto* const kind = std::ranges::find_if(
-        kArchiveKinds, [&](const ArchiveKind& each) { return ReadPakHeader(head, each.Magic).has_value(); });
-    if (kind == std::end(kArchiveKinds)) {
+    const PakFormat* const format = FormatOfPak(head);
+    if (format == nullptr) {
         return {};
     }
-    const auto header = ReadPakHeader(head, kind->Magic);
+    const auto header = ReadPakHeader(head, format->Magic);
     if (header->Offset >= archive.Size()) {
         return {};
     }
     const std::uint64_t length = std::min<std::uint64_t>(header->Length, archive.Size() - header->Offset);
-    const auto count = std::min<std::size_t>(static_cast<std::size_t>(length) / kind->EntrySize, kMostArchiveEntries);
-    const Text directory = archive.Read(header->Offset, count * kind->EntrySize).Value;
+    const auto count = std::min<std::size_t>(static_cast<std::size_t>(length) / format->EntrySize, kMostArchiveEntries);
+    const Text directory = archive.Read(header->Offset, count * format->EntrySize).Value;
 
     std::vector<Text> names;
-    for (std::size_t at = 0; at + kind->EntrySize <= directory.size(); at += kind->EntrySize) {
-        const TextView entry = TextView(directory).substr(at, kind->EntrySize);
-        const TextView field = entry.substr(0, kind->NameSize);
-        const TextView name = field.substr(0, field.find('\0'));
-        const std::uint64_t end = NumberAt(entry, kind->NameSize) + NumberAt(entry, kind->NameSize + 4);
+    for (std::size_t at = 0; at + format->EntrySize <= directory.size(); at += format->EntrySize) {
+        const TextView entry = TextView(directory).substr(at, format->EntrySize);
+        const TextView name = NameAt(entry, 0, format->NameSize);
+        const PakPlace place = PlaceOfEntry(entry, *format);
+        const std::uint64_t end = std::uint64_t{place.Offset} + place.Length;
         if (end <= archive.Size() && IsFileName(name)) {
             names.emplace_back(name);
         }

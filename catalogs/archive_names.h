@@ -1,7 +1,6 @@
 // catalogs/archive_names.h
 //
-// The names of what lies in an archive: id Software's PAK ("PACK": entries of 64 bytes, 56 of them the name) or Sin's
-// ("SPAK": 128 and 120). Behind a name stand 4 bytes offset and 4 bytes length of its file, little-endian.
+// The names of what lies in an archive: id Software's PAK or Sin's.
 
 #pragma once
 

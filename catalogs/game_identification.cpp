@@ -77,7 +77,7 @@ bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const Registry
         TakeEngine(run, *engine);
     }
     if (facts.GameKind == Game::HalfLife && toScript) {
-        toScript(Join(run.DefaultGameDirectory, "\\valve\\lv3dhlrg.cfg"));
+        toScript(Join(run.DefaultGameDirectory, "\\", BaseDirectoryOf(facts), "\\lv3dhlrg.cfg"));
     }
     return !run.Ended && FillGamesCombo(run, lists) && FillScriptsCombo(run, lists) && FillServerCombo(run, lists);
 }

@@ -1,6 +1,7 @@
 #include "catalogs/modifications.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "catalogs/catalog_store.h"
 #include "catalogs/list_room.h"
@@ -35,10 +36,13 @@ constexpr TitleRow kTitles[] = {
     {"FORTRESS", kAnyGame, "Team Fortress"},
 };
 
-// Two titles that stand for a directory of the same name in the other game.
+// The title of a directory that has another title in this game.
 bool IsOfTheOtherGame(TextView title, Game gameKind) {
-    return (title == "Dissolution of Eternity" && gameKind == Game::Quake2) ||
-           (title == "Ground Zero" && gameKind == Game::Quake);
+    const auto* const row = std::ranges::find_if(kTitles, [&](const TitleRow& each) { return each.Title == title; });
+    return row != std::end(kTitles) && std::ranges::any_of(kTitles, [&](const TitleRow& other) {
+               return other.Directory == row->Directory && other.GameKind != row->GameKind &&
+                      other.GameKind == gameKind;
+           });
 }
 
 // Half-Life's own directories that hold no game.

@@ -1,20 +1,14 @@
 #include "catalogs/pak_directory.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "catalogs/catalog_store.h"
+#include "foundation/stored_numbers.h"
 
 namespace lv {
 
 namespace {
-
-std::uint32_t NumberAt(TextView bytes, std::size_t at) {
-    std::uint32_t number = 0;
-    for (std::size_t i = 4; i-- > 0;) {
-        number = number * 256 + static_cast<unsigned char>(bytes[at + i]);
-    }
-    return number;
-}
 
 constexpr std::size_t kBlock = 1024 * kPakEntrySize;
 
@@ -32,7 +26,17 @@ std::optional<PakHeader> ReadPakHeader(TextView header, TextView magic) {
     if (header.size() < kPakHeaderSize || !header.starts_with(magic)) {
         return std::nullopt;
     }
-    return PakHeader{NumberAt(header, 4), NumberAt(header, 8)};
+    return PakHeader{Number32At(header, 4), Number32At(header, 8)};
+}
+
+const PakFormat* FormatOfPak(TextView header) {
+    const auto* const format = std::ranges::find_if(
+        kPakFormats, [&](const PakFormat& each) { return ReadPakHeader(header, each.Magic).has_value(); });
+    return format == std::end(kPakFormats) ? nullptr : format;
+}
+
+PakPlace PlaceOfEntry(TextView entry, const PakFormat& format) {
+    return {Number32At(entry, format.NameSize), Number32At(entry, format.NameSize + 4)};
 }
 
 std::uint32_t PakEntryCount(std::uint32_t length) {

@@ -1,8 +1,8 @@
 // catalogs/pak_directory.h
 //
-// The directory of an archive in id Software's PAK format, read for map names: 4 bytes magic ("PACK", Sin's "SPAK"),
-// 4 bytes offset and 4 bytes length of the directory, little-endian; the directory is an array of 64-byte entries.
-// An entry is taken as text, whatever its fields. The same stride serves a Sin archive, on purpose.
+// The directory of an archive in id Software's PAK format: 4 bytes magic ("PACK", Sin's "SPAK"), 4 bytes offset and
+// 4 bytes length of the directory, little-endian; the directory is an array of entries. Read for map names an entry is
+// 64 bytes of text, whatever its fields. The same stride serves a Sin archive, on purpose.
 
 #pragma once
 
@@ -27,6 +27,28 @@ struct PakHeader {
     std::uint32_t Length = 0;
 };
 std::optional<PakHeader> ReadPakHeader(TextView header, TextView magic);
+
+/// Behind the name of an entry stand 4 bytes offset and 4 bytes length of its file, little-endian.
+struct PakFormat {
+    TextView Magic;
+    std::size_t NameSize;
+    std::size_t EntrySize;
+};
+
+constexpr PakFormat kPakFormats[] = {
+    {"PACK", 56, kPakEntrySize},
+    {"SPAK", 120, 128},
+};
+
+/// That of the header; none if it is short or its magic another.
+const PakFormat* FormatOfPak(TextView header);
+
+/// Where the file of a whole entry lies, as the entry has it.
+struct PakPlace {
+    std::uint32_t Offset = 0;
+    std::uint32_t Length = 0;
+};
+PakPlace PlaceOfEntry(TextView entry, const PakFormat& format);
 
 /// How many entries the length stands for: rounded to the nearest whole number, a half to the even one.
 std::uint32_t PakEntryCount(std::uint32_t length);

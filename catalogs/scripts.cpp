@@ -45,7 +45,7 @@ Scripts CollectScripts(Run& run, const CatalogRows& stored, TextView directory) 
             scripts.All.push_back({stored.Field(i, 0), std::move(path)});
         }
     }
-    for (const Text& found : ListFiles(run.System.Disk, directory, run.GameKind == Game::Unreal ? "*.ini" : "*.cfg")) {
+    for (const Text& found : ListFiles(run.System.Disk, directory, Join("*", ScriptEnding(run)))) {
         Text name = LowerCase(found);
         Text path = Join(directory, "\\", name);
         if (IsHelperFile(name) || !FitsAField(path) || !paths.insert(path).second) {
@@ -65,9 +65,7 @@ int RememberedRow(Run& run, const ListBox& list) {
     if (list.Items.empty()) {
         return -1;
     }
-    const TextView usual = run.GameKind == Game::Unreal ? "\\unreal.ini" : "\\config.cfg";
-    const Text wanted =
-        GetSetting(run, run.AppName, "DefaultScript", DefaultScriptKey(run), Join(ScriptDirectory(run), usual));
+    const Text wanted = GetSetting(run, run.AppName, "DefaultScript", DefaultScriptKey(run), GamesOwnScript(run));
     return FindItemValue(list.Items, wanted).value_or(0);
 }
 
@@ -76,6 +74,14 @@ int RememberedRow(Run& run, const ListBox& list) {
 Text ScriptDirectory(const Run& run) {
     return run.GameKind == Game::Unreal ? run.DefaultGameDirectory
                                         : Join(run.DefaultGameDirectory, "\\", run.CurrentGameDir);
+}
+
+TextView ScriptEnding(const Run& run) {
+    return run.GameKind == Game::Unreal ? ".ini" : ".cfg";
+}
+
+Text GamesOwnScript(const Run& run) {
+    return Join(ScriptDirectory(run), run.GameKind == Game::Unreal ? "\\unreal.ini" : "\\config.cfg");
 }
 
 Text DefaultScriptKey(const Run& run) {

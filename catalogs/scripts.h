@@ -11,6 +11,12 @@ namespace lv {
 /// Where the current game's scripts lie: the data directory in use, for Unreal the executable's own.
 Text ScriptDirectory(const Run& run);
 
+/// What the names of the current game's scripts end in, with its point.
+TextView ScriptEnding(const Run& run);
+
+/// The file there that the game keeps its own settings in.
+Text GamesOwnScript(const Run& run);
+
 /// The key in section "DefaultScript" under which the current data directory remembers its script; Unreal's too, though
 /// its scripts lie elsewhere.
 Text DefaultScriptKey(const Run& run);

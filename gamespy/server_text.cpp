@@ -14,6 +14,17 @@ constexpr std::size_t kMostSteps = 10000;
 constexpr std::size_t kOctetLength = 3;
 constexpr std::size_t kPortLength = 5;
 
+/// Of the list in GameSpy's window, as one line of it is copied.
+struct Column {
+    std::size_t At;
+    std::size_t Length;
+};
+
+constexpr Column kHostColumn = {8, 15};
+constexpr Column kPortColumn = {24, kPortLength};
+constexpr Column kTitleColumn = {30, kLongestServerTitle};
+constexpr std::size_t kColumnsWidth = 50;
+
 bool IsBlank(char c) {
     return static_cast<unsigned char>(c) <= ' ' || c == '\x7F';
 }
@@ -74,10 +85,10 @@ CapturedServer ReadAddress(TextView line) {
     return {"", Text(line.substr(0, colon)), Text(behind.substr(0, std::min(behind.find(' '), behind.size())))};
 }
 
-/// Columns of fixed width.
 CapturedServer ReadColumns(TextView line) {
-    const Text columns = PadToWidth(line, 50);
-    return {Trim(columns.substr(30, kLongestServerTitle)), Trim(columns.substr(8, 15)), Trim(columns.substr(24, 5))};
+    const Text columns = PadToWidth(line, kColumnsWidth);
+    const auto at = [&](const Column& column) { return Trim(columns.substr(column.At, column.Length)); };
+    return {at(kTitleColumn), at(kHostColumn), at(kPortColumn)};
 }
 
 Text WithSingleBlanks(TextView line) {

@@ -2,6 +2,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/padded_item.h"
+#include "launch/launch_files.h"
 #include "launch/switch_rules.h"
 
 namespace lv {
@@ -128,6 +129,9 @@ Text ResolutionPayload(const Composition& c) {
 Text Q2Mode(const Composition& c) {
     return std::to_string(c.Profile.Q2_ResolutionsPos);
 }
+Text ScriptName(const Composition&) {
+    return Text(kLaunchScriptFile);
+}
 
 constexpr CompositionScope Every = CompositionScope::Every;
 constexpr CompositionScope NotUnreal = CompositionScope::NotUnreal;
@@ -200,7 +204,7 @@ constexpr CompositionRow kRows[] = {
         "timedemo 1\r\n"
         "demomap demo1.dm2", {}},
     {Step::LaunchScript,    Every, Ticked<Option::CommandLineAdditions_Chk>, None, No, No, No, No, AdditionsRule, Time::BeforeScript},
-    {Step::LaunchScript,    Every, Always,                 None, "+exec lv_666.qs ", No, No, No, {}, Time::ScriptWritten},
+    {Step::LaunchScript,    Every, Always,                 None, "+exec % ",         No, No, No, ScriptName, Time::ScriptWritten},
 };
 // clang-format on
 

@@ -64,7 +64,7 @@ Text AlreadyExists(TextView path) {
 // A copy of the game's own script, or an empty file if there is none.
 Error MakeScript(const Run& run, const Text& path) {
     Files& disk = run.System.Disk;
-    const Text pattern = Join(ScriptDirectory(run), run.GameKind == Game::Unreal ? "\\unreal.ini" : "\\config.cfg");
+    const Text pattern = GamesOwnScript(run);
     return disk.FileExists(pattern) ? disk.Copy(pattern, path) : disk.Replace(path, "");
 }
 
@@ -128,7 +128,7 @@ AddScript_Frm::AddScript_Frm(Run& owner, CatalogLists& lists, EntryMode mode)
 Text WholeScriptPath(const Run& run, TextView typed) {
     Text name(typed);
     if (!Holds(name, ".")) {
-        name += run.GameKind == Game::Unreal ? ".ini" : ".cfg";
+        name += ScriptEnding(run);
     }
     const Text directory = ScriptDirectory(run);
     if (Holds(LowerCase(name), LowerCase(directory)) || Holds(name, ":")) {

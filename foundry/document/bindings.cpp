@@ -38,7 +38,7 @@ Text WithoutKey(const Text& keyList, TextView key) {
             kept.append(other).append(kBetweenKeys);
         }
     });
-    return Trim(kept.size() > 2 ? DropRight(kept, 2) : kept);
+    return Trim(DropRight(kept, kBetweenKeys.size()));
 }
 
 void Paint(const ScriptDocument& document, ScriptView& view, KeyIndex key, Color color) {

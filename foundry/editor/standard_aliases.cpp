@@ -22,13 +22,13 @@ constexpr TextView kScrollFile = "nsrl_666.qs";
 struct StandardAlias {
     TextView Title;
     TextView Name;
-    TextView Body;
+    TextView Body;  // "%" stands for kScrollFile
 };
 
 // clang-format off
 constexpr StandardAlias kStandardAliases[] = {
     {" 1. Rocket Jump", "rl_jump_1", "cl_pitchspeed 32000;+lookdown;impulse 7;wait;wait;wait;wait;wait;wait;wait;wait;wait;wait;+jump;wait;wait;wait;+attack;wait;wait;wait;-lookdown;-attack;cl_pitchspeed "},
-    {" 2. Name Scroll", "n_scroll_1", "exec nsrl_666.qs;exec nsrl_666.qs;exec nsrl_666.qs;exec nsrl_666.qs"},
+    {" 2. Name Scroll", "n_scroll_1", "exec %;exec %;exec %;exec %"},
 };
 // clang-format on
 
@@ -87,7 +87,7 @@ Text StandardAliasBody(const ScriptDocument& document, std::size_t entry) {
     }
     const TextView body = kStandardAliases[entry].Body;
     if (entry == kNameScroll) {
-        return Text(body);
+        return ReplaceText(body, "%", kScrollFile);
     }
     const ListBox& pitchSpeed = document.cl_pitchspeed_Cbo;
     return Join(body, pitchSpeed.HasSelection() ? ValueText(pitchSpeed, document.Dialect) : Text(kUsualPitchSpeed));

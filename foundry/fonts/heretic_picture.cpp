@@ -1,7 +1,7 @@
 #include "foundry/fonts/heretic_picture.h"
 
+#include "foundation/stored_numbers.h"
 #include "foundry/fonts/letter_sheet.h"
-#include "foundry/fonts/stored_numbers.h"
 
 namespace lv {
 

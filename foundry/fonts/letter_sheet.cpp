@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "foundry/fonts/stored_numbers.h"
+#include "foundation/stored_numbers.h"
 
 namespace lv {
 

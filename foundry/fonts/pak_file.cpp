@@ -1,22 +1,11 @@
 #include "foundry/fonts/pak_file.h"
 
 #include "catalogs/pak_directory.h"
-#include "foundry/fonts/stored_numbers.h"
+#include "foundation/stored_numbers.h"
 
 namespace lv {
 
 namespace {
-
-struct PakFormat {
-    TextView Magic;
-    std::size_t EntrySize;
-    std::size_t NameField;  // place and length of the file follow
-};
-
-constexpr PakFormat kFormats[] = {
-    {"PACK", 64, 56},
-    {"SPAK", 128, 120},
-};
 
 /// All of the stretch, or nothing.
 std::optional<Text> ReadWhole(RandomAccessFile& archive, std::uint64_t at, std::size_t length) {
@@ -32,7 +21,7 @@ std::optional<Text> ReadWhole(RandomAccessFile& archive, std::uint64_t at, std::
 
 std::optional<TextView> FindEntry(TextView directory, const PakFormat& format, TextView name) {
     for (std::size_t at = 0; LiesWithin(at, format.EntrySize, directory.size()); at += format.EntrySize) {
-        if (SameText(NameAt(directory, at, format.NameField), name)) {
+        if (SameText(NameAt(directory, at, format.NameSize), name)) {
             return directory.substr(at, format.EntrySize);
         }
     }
@@ -49,20 +38,17 @@ std::optional<Text> ReadEntry(RandomAccessFile& archive, const PakFormat& format
     if (!entry) {
         return std::nullopt;
     }
-    const std::uint32_t length = Number32At(*entry, format.NameField + 4);
-    return length > most ? std::nullopt : ReadWhole(archive, Number32At(*entry, format.NameField), length);
+    const PakPlace place = PlaceOfEntry(*entry, format);
+    return place.Length > most ? std::nullopt : ReadWhole(archive, place.Offset, place.Length);
 }
 
 }  // namespace
 
 std::optional<Text> ReadFromPak(RandomAccessFile& archive, TextView name, std::uint32_t most) {
     const Text start = archive.Read(0, kPakHeaderSize).Value;
-    for (const PakFormat& format : kFormats) {
-        if (const auto header = ReadPakHeader(start, format.Magic)) {
-            return ReadEntry(archive, format, *header, name, most);
-        }
-    }
-    return std::nullopt;
+    const PakFormat* const format = FormatOfPak(start);
+    return format == nullptr ? std::nullopt
+                             : ReadEntry(archive, *format, *ReadPakHeader(start, format->Magic), name, most);
 }
 
 }  // namespace lv

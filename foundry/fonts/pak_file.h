@@ -1,8 +1,6 @@
 // foundry/fonts/pak_file.h
 //
-// A file out of an archive in id Software's PAK format, or in Sin's of the magic "SPAK". Both have a header of 12
-// bytes; a directory entry is 64 or 128 bytes long and ends with the file's place and length. Nothing in them is
-// compressed.
+// A file out of an archive in id Software's PAK format, or in Sin's. Nothing in them is compressed.
 
 #pragma once
 

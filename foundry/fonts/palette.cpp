@@ -1,6 +1,6 @@
 #include "foundry/fonts/palette.h"
 
-#include "foundry/fonts/stored_numbers.h"
+#include "foundation/stored_numbers.h"
 
 namespace lv {
 

@@ -1,14 +1,18 @@
 #include "foundry/fonts/player_colors.h"
 
-#include "foundry/fonts/stored_numbers.h"
+#include "foundation/stored_numbers.h"
 
 namespace lv {
 
 namespace {
 
-constexpr std::size_t kRowSize = 256;
-constexpr std::size_t kBlockAt = kRowSize + std::size_t{2} * 14 * kRowSize;  // the third block of 14 rows
-constexpr std::size_t kBlockSize = 14 * kRowSize;
+constexpr std::size_t kColorsInARow = 16;  // of the palette
+constexpr std::size_t kShownOfARow = 8;
+
+constexpr std::size_t kRowSize = 256;  // of the table: an index for each of the palette
+constexpr std::size_t kRowsOfABlock = 14;
+constexpr std::size_t kBlockAt = kRowSize + 2 * kRowsOfABlock * kRowSize;  // the third block
+constexpr std::size_t kBlockSize = kRowsOfABlock * kRowSize;
 constexpr std::size_t kMostHexen2Colors = 10;
 constexpr std::uint8_t kNotRecolored = 255;
 
@@ -22,7 +26,7 @@ Color ColorOf(const PaletteColor& color) {
 PlayerColorList QuakeColors(const Palette& palette) {
     PlayerColorList colors{};
     for (std::size_t row = 0; row < colors.size(); ++row) {
-        colors[row] = ColorOf(palette[row * 16 + 8]);
+        colors[row] = ColorOf(palette[row * kColorsInARow + kShownOfARow]);
     }
     return colors;
 }

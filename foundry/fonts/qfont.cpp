@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "foundation/stored_numbers.h"
 #include "foundry/fonts/letter_sheet.h"
-#include "foundry/fonts/stored_numbers.h"
 
 namespace lv {
 

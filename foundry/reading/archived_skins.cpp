@@ -9,6 +9,7 @@
 #include "catalogs/wildcard.h"
 #include "foundation/field_strings.h"
 #include "foundation/game.h"
+#include "foundry/tables/skin_files.h"
 #include "games/games.h"
 
 namespace lv {
@@ -67,7 +68,7 @@ bool IsSkinOfArchive(TextView file, Game gameKind) {
     if (file.find('/') != TextView::npos || !IsModelSkin(file)) {
         return false;
     }
-    return MatchesWildcard(file, "*.pcx") ||
+    return MatchesWildcard(file, kSkinPattern) ||
            (gameKind == Game::Heretic2 && MatchesWildcard(file, "*.m8") && HoldsNone(LowerCase(file), kNoTextures));
 }
 
@@ -100,7 +101,7 @@ std::vector<Text> ArchivedSkins(Files& disk, TextView directory, TextView model,
 std::vector<Text> ArchivedQuakeWorldSkins(Files& disk, TextView directory) {
     NameSet skins;
     VisitEntries(disk, directory, Game::Quake, kSkins, [&](TextView name) {
-        if (name.find('/') == TextView::npos && MatchesWildcard(name, "*.pcx")) {
+        if (name.find('/') == TextView::npos && MatchesWildcard(name, kSkinPattern)) {
             skins.Add(name);
         }
     });

@@ -11,6 +11,7 @@
 #include "foundry/reading/free_form.h"
 #include "foundry/reading/joined_line.h"
 #include "foundry/reading/script_keywords.h"
+#include "foundry/tables/skin_files.h"
 
 namespace lv {
 
@@ -248,8 +249,9 @@ void SecondPass::ChooseSkin(const std::function<void()>& modelChosen) {
     ScriptDocument& document = context_.Document;
     const TextView skin = *context_.Skin;
     if (document.Dialect.ScriptFamily != Dialect::Quake2) {
-        const bool hasEnding = skin.size() >= 4 && SameText(skin.substr(skin.size() - 4), ".pcx");
-        const int row = RowOf(document.Skin_Fil, hasEnding ? Text(skin) : Join(skin, ".pcx"));
+        const bool hasEnding =
+            skin.size() >= kSkinEnding.size() && SameText(skin.substr(skin.size() - kSkinEnding.size()), kSkinEnding);
+        const int row = RowOf(document.Skin_Fil, hasEnding ? Text(skin) : Join(skin, kSkinEnding));
         document.Skin_Fil.ListIndex = row >= 0 ? row : document.Skin_Fil.ListIndex;
         return;
     }

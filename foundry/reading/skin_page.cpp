@@ -9,6 +9,7 @@
 #include "foundation/game.h"
 #include "foundation/question_box.h"
 #include "foundry/reading/archived_skins.h"
+#include "foundry/tables/skin_files.h"
 
 namespace lv {
 
@@ -65,7 +66,7 @@ void FillQuakeWorldSkins(Run& run, ScriptDocument& document) {
     FileListBox& list = document.Skin_Fil;
     const Text game = Join(run.DefaultGameDirectory, "\\qw");
     const Text skins = Join(game, "\\skins");
-    list.Pattern = "*.pcx";
+    list.Pattern = kSkinPattern;
     if (run.System.Disk.DirectoryExists(skins)) {
         list.Path = skins;
         list.Items = ListFiles(run.System.Disk, skins, list.Pattern);
@@ -101,8 +102,9 @@ void Sex_Cbo_Click(Run& run, ScriptDocument& document) {
     const Text model = document.Sex_Cbo.Selected();
     const Text directory = Join(game, kPlayers, model);
     for (const DirectoryEntry& entry : Entries(run, "skins", directory)) {
-        if (!entry.IsDirectory && !entry.IsDevice && MatchesWildcard(entry.Name, "*.pcx") && IsModelSkin(entry.Name)) {
-            document.Skin_Cbo.Items.push_back(DropRight(entry.Name, 4));
+        if (!entry.IsDirectory && !entry.IsDevice && MatchesWildcard(entry.Name, kSkinPattern) &&
+            IsModelSkin(entry.Name)) {
+            document.Skin_Cbo.Items.push_back(DropRight(entry.Name, kSkinEnding.size()));
         }
     }
     Merge(document.Skin_Cbo.Items, ArchivedSkins(run.System.Disk, game, model, document.Dialect.GameKind));

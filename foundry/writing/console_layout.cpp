@@ -7,6 +7,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/game.h"
 #include "foundation/numbers.h"
+#include "foundry/tables/skin_files.h"
 #include "foundry/writing/banners.h"
 #include "foundry/writing/value_text.h"
 
@@ -87,6 +88,9 @@ constexpr KeyIndex kFirstKeypadKey = 82;
 constexpr KeyIndex kLastKeypadKey = 95;
 
 constexpr int kFirstWholeColor = 256;
+constexpr std::size_t kColorNumberLength = 3;  // "015 -White"
+
+constexpr TextView kTwoSigns = "--";  // a pitch that was negative, inverted
 
 /// One script on its way.
 struct Writing {
@@ -152,8 +156,8 @@ void AddSkinFile(Writing& w) {
     const ListBox& files = w.Document.Skin_Fil;
     if (w.Document.Dialect.IsQuakeWorld && files.HasSelection()) {
         Text name = files.Selected();
-        if (LowerCase(name).ends_with(".pcx")) {
-            name = DropRight(name, 4);
+        if (LowerCase(name).ends_with(kSkinEnding)) {
+            name = DropRight(name, kSkinEnding.size());
         }
         AddLine(w.Script, "skin ", name);
     }
@@ -212,7 +216,7 @@ void AddCrosshair(Writing& w) {
         // It is the crosshair's row that decides, kept on purpose: a row that far down was added from a script.
         const Text whole = color.Selected();
         AddLine(w.Script, w.Prefix, "crosshaircolor ",
-                crosshair.ListIndex >= kFirstWholeColor ? whole : whole.substr(0, 3));
+                crosshair.ListIndex >= kFirstWholeColor ? whole : whole.substr(0, kColorNumberLength));
     }
 }
 
@@ -226,8 +230,8 @@ void AddPitch(Writing& w) {
     if (inverted) {
         pitch = Join("-", pitch);
     }
-    if (pitch.starts_with("--")) {
-        pitch = DropLeft(pitch, 2);
+    if (pitch.starts_with(kTwoSigns)) {
+        pitch = DropLeft(pitch, kTwoSigns.size());
     }
     AddLine(w.Script, w.Prefix, "m_pitch ", pitch);
 }

@@ -11,6 +11,7 @@
 #include "foundation/padded_item.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "games/games.h"
 #include "launcher/window/option_rules.h"
 
 namespace lv {
@@ -57,7 +58,7 @@ void Bench_Chk_Click(Launcher& launcher) {
     if (launcher.Window.Box(Option::Bench_Chk).Value != 1 || run.GameKind != Game::HalfLife) {
         return;
     }
-    const Text demo = Join(run.DefaultGameDirectory, "\\valve\\1.dem");
+    const Text demo = Join(run.DefaultGameDirectory, "\\", BaseDirectoryOf(FactsOf(Game::HalfLife)), "\\1.dem");
     if (!run.System.Disk.FileExists(demo)) {
         AskUserUnlessTold(run, "HL_TimeDemo_2", "Half-Life TimeDemo Warning",
                           Join("Half-Life does not ship a demo file to run a timedemo.", NewLine, NewLine,

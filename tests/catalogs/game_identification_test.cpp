@@ -88,6 +88,16 @@ TEST_F(IdentifyTest, AllThreeListsAreFilled) {
     EXPECT_EQ(Rows(lists.Server_Cbo), (TextList{"Home|127.0.0.1;27015;9;"}));
 }
 
+TEST_F(IdentifyTest, HalfLifesSettingsGoToAScriptInItsDataDirectory) {
+    TextList written;
+    lists.Exe_Cbo.Items = {{"Game", "C:\\HL\\hl.exe", "", ""}, {"Game", "C:\\QUAKE\\quake.exe", "", ""}};
+    for (const int row : {0, 1}) {
+        lists.Exe_Cbo.ListIndex = row;
+        EXPECT_TRUE(IdentifyGame(run, lists, [&](TextView path) { written.emplace_back(path); }));
+    }
+    EXPECT_EQ(written, (TextList{"c:\\hl\\valve\\lv3dhlrg.cfg"}));
+}
+
 TEST_F(IdentifyTest, AnUnknownTreeEmptiesTheListsAndKeepsTheFamily) {
     system.Disk.AddFile("C:\\QUAKE2\\BASEQ2\\config.cfg");
     Store("NetServers", "Two;10.0.0.2;27910;3;");

@@ -82,6 +82,15 @@ TEST_F(ModificationsTest, DissolutionOfEternityIsNotShownInQuakeTwo) {
     EXPECT_EQ(lists.HiddenGames, "Dissolution of Eternity;-game rogue");
 }
 
+TEST_F(ModificationsTest, AThirdGameShowsBothTitlesOfTheDirectory) {
+    run.GameKind = Game::Hexen2;
+    system.Disk.AddDirectory("C:\\QUAKE\\ROGUE");
+    Store("Games", "Ground Zero;-game rogue;Dissolution of Eternity;-game rogue");
+    FillGamesCombo(run, lists);
+    EXPECT_EQ(Rows(lists.Game_Cbo), (TextList{"Ground Zero|-game rogue", "Dissolution of Eternity|-game rogue"}));
+    EXPECT_EQ(lists.HiddenGames, "");
+}
+
 TEST_F(ModificationsTest, ThePositionIsCutAndSaved) {
     system.Disk.AddDirectory("C:\\QUAKE\\CTF");
     Store("Games", "Capture;-game ctf");

@@ -1,5 +1,6 @@
 #include "catalogs/pak_directory.h"
 
+#include <iterator>
 #include <random>
 
 #include "tests/catalogs/catalogs_fixture.h"
@@ -141,6 +142,32 @@ TEST(PakMapNames, EndWhereAReadFails) {
     };
     Failing file(PakFile(TextList(20'000, "maps/a.bsp")));
     EXPECT_EQ(PakMapNames(file, "PACK").size(), 2048U);
+}
+
+TEST(PakFormats, AreIdSoftwaresAndSins) {
+    ASSERT_EQ(std::size(kPakFormats), 2U);
+    EXPECT_EQ(kPakFormats[0].Magic, "PACK");
+    EXPECT_EQ(kPakFormats[0].NameSize, 56U);
+    EXPECT_EQ(kPakFormats[0].EntrySize, 64U);
+    EXPECT_EQ(kPakFormats[1].Magic, "SPAK");
+    EXPECT_EQ(kPakFormats[1].NameSize, 120U);
+    EXPECT_EQ(kPakFormats[1].EntrySize, 128U);
+}
+
+TEST(FormatOfPak, IsToldByTheMagicOfAWholeHeader) {
+    EXPECT_EQ(FormatOfPak(PakFile({"a"})), &kPakFormats[0]);
+    EXPECT_EQ(FormatOfPak(SinFile({"a"})), &kPakFormats[1]);
+    EXPECT_EQ(FormatOfPak(PakFile({"a"}, "KCAP")), nullptr);
+    EXPECT_EQ(FormatOfPak(PakFile({"a"}).substr(0, 11)), nullptr);
+    EXPECT_EQ(FormatOfPak(""), nullptr);
+}
+
+TEST(PlaceOfEntry, StandsBehindTheNameOfEachFormat) {
+    const Text numbers = LittleEndian(0xF1020304) + LittleEndian(0x8000000A);
+    EXPECT_EQ(PlaceOfEntry(Text(56, 'x') + numbers, kPakFormats[0]).Offset, 0xF1020304U);
+    EXPECT_EQ(PlaceOfEntry(Text(56, 'x') + numbers, kPakFormats[0]).Length, 0x8000000AU);
+    EXPECT_EQ(PlaceOfEntry(Text(120, 'x') + numbers, kPakFormats[1]).Offset, 0xF1020304U);
+    EXPECT_EQ(PlaceOfEntry(Text(120, 'x') + numbers, kPakFormats[1]).Length, 0x8000000AU);
 }
 
 TEST(PakEntryCount, IsRoundedToAWholeNumber) {

@@ -26,6 +26,19 @@ TEST_F(ScriptsTest, LieInTheDataDirectoryInUse) {
     EXPECT_EQ(DefaultScriptKey(run), "c:\\quake\\ctf");
 }
 
+TEST_F(ScriptsTest, EndInCfgAndTheGamesOwnIsItsConfig) {
+    BeInQuake();
+    run.CurrentGameDir = "ctf";
+    EXPECT_EQ(ScriptEnding(run), ".cfg");
+    EXPECT_EQ(GamesOwnScript(run), "c:\\quake\\ctf\\config.cfg");
+}
+
+TEST_F(ScriptsTest, OfUnrealEndInIniAndItsOwnIsUnrealIni) {
+    BeInUnreal();
+    EXPECT_EQ(ScriptEnding(run), ".ini");
+    EXPECT_EQ(GamesOwnScript(run), "c:\\unreal\\system\\unreal.ini");
+}
+
 TEST_F(ScriptsTest, OfUnrealLieBesideTheExecutable) {
     BeInUnreal();
     EXPECT_EQ(ScriptDirectory(run), "c:\\unreal\\system");

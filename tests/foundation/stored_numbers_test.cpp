@@ -1,4 +1,4 @@
-#include "foundry/fonts/stored_numbers.h"
+#include "foundation/stored_numbers.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// foundry/fonts/stored_numbers.h
+// foundation/stored_numbers.h
 //
 // Little-endian numbers of a stranger's file. What would lie outside of the bytes is 0.
 
