@@ -4,8 +4,8 @@
 #include <system_error>
 
 #include "platform/known_places.h"
-#include "platform/linux/game_notes.h"
 #include "platform/linux/files/host_read.h"
+#include "platform/linux/game_notes.h"
 #include "platform/linux/user_directories.h"
 
 namespace lv {
