@@ -35,7 +35,7 @@ struct PakFormat {
     std::size_t EntrySize;
 };
 
-constexpr PakFormat kPakFormats[] = {
+inline constexpr PakFormat kPakFormats[] = {
     {"PACK", 56, kPakEntrySize},
     {"SPAK", 120, 128},
 };
