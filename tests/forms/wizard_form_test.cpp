@@ -2,6 +2,7 @@
 #include <wx/checkbox.h>
 #include <wx/display.h>
 #include <wx/listbox.h>
+#include <wx/stattext.h>
 #include <wx/textctrl.h>
 
 #include <cstdlib>
@@ -51,6 +52,21 @@ TEST_F(WizardForm, FindsATickedGameAndListsItsPrograms) {
     EXPECT_TRUE(ShowInstallWizard(launcher));
     EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "Executables"),
               "Quake;c:\\quake\\quake.exe;GL Quake;c:\\quake\\glquake.exe");
+}
+
+TEST_F(WizardForm, WhatWasFoundIsSaidInFullOverTwoLines) {
+    const Text found = "Found: Quake, Quake 2. Plays here: QuakeSpasm, ezQuake, Yamagi Quake II. Click 'OK' to go on.";
+    Install_Frm form(run);
+    form.Found_Lbl.Caption = found;
+    WhenModal([&] {
+        auto* const label = FindAs<wxStaticText>("Found_Lbl");
+        EXPECT_EQ(label->GetLabel().utf8_string(), found);
+        EXPECT_EQ(label->wxStaticText::GetLabel().Freq('\n'), 1u);
+        EXPECT_EQ(label->wxStaticText::GetLabel().Find(wxString::FromUTF8("\u2026")), wxNOT_FOUND);
+        EXPECT_GE(label->GetSize().y, label->GetTextExtent("X").y * 2);
+        PressKey(WXK_ESCAPE);
+    });
+    ShowModal(form);
 }
 
 TEST_F(WizardForm, EachGameStandsInItsFrameWithAnArrowToItsPath) {

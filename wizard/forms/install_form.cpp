@@ -9,6 +9,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/wrapped_label.h"
 #include "foundation/forms/wx_text.h"
 #include "platform/toolkit/spoken_name.h"
 #include "wizard/game_search.h"
@@ -21,6 +22,7 @@ namespace {
 constexpr int kGap = 6;
 constexpr int kRowGap = 2;
 constexpr int kTextWidth = 560;  // at 100 %
+constexpr int kFoundLines = 2;
 
 class InstallForm : public ModalForm {
   public:
@@ -118,8 +120,7 @@ class InstallForm : public ModalForm {
                                         wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_MIDDLE);
         Controls.Bind("Status_Lbl", form_.Status_Lbl, status);
         AddWide(status);
-        auto* found = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
-                                       wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+        auto* found = new WrappedLabel(this, kFoundLines);
         Controls.Bind("Found_Lbl", form_.Found_Lbl, found);
         AddWide(found);
     }
