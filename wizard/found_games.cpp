@@ -1,7 +1,7 @@
 #include "wizard/found_games.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 #include "games/programs.h"
 #include "games/trees/tree_search.h"
@@ -32,7 +32,11 @@ FoundGames LookAround(Run& run, const EngineTable& engines) {
     if (places == nullptr) {
         return found;
     }
+    found.HasLooked = true;
     found.Trees = QuickLook(run.System.Disk, places);
+    std::erase_if(found.Trees, [](const GameTree& tree) {
+        return std::ranges::any_of(tree.Directory, [](char c) { return static_cast<unsigned char>(c) < 0x20; });
+    });
     found.Engines = EnginesHere(run, engines);
     for (const GameTree& tree : found.Trees) {
         if (HoldsItsProgram(run.System.Disk, engines, tree)) {
@@ -108,7 +112,11 @@ Text FoundText(const FoundGames& found) {
         }
     }
     if (games.empty()) {
-        return {};
+        std::ranges::transform(found.Engines, std::back_inserter(engines), &FoundEngine::Title);
+        return !found.HasLooked ? Text()
+                                : Join("No game found in the usual places.",
+                                       engines.empty() ? Text() : Join(" Here to play with: ", Listed(engines), "."),
+                                       " Tick yours, and press 'Browse' or 'Do An Auto-Search'.");
     }
     return Join("Found: ", Listed(games), ".", engines.empty() ? Text() : Join(" Plays here: ", Listed(engines), "."),
                 unplayed.empty() ? Text() : Join(" No engine here for: ", Listed(unplayed), "."),

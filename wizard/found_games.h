@@ -16,6 +16,7 @@
 namespace lv {
 
 struct FoundGames {
+    bool HasLooked = false;             // the system knows usual places
     std::vector<GameTree> Trees;        // in the order in which they are offered
     std::vector<FoundEngine> Engines;   // outside of the trees; servers too
     std::vector<std::size_t> Playable;  // rows of the wizard with a program in the game's own directory

@@ -63,7 +63,10 @@ std::vector<FurtherTree> FurtherTrees(Install_Frm& form, TextView list) {
         }
         for (const GameTree* tree : TreesOfRow(form.Found, row)) {
             const Text path = ProgramDirectoryOf(*tree);
-            if (!IsLinkedTree(path) && !IsNamed(form, path) && HasNews(form, row, path, list)) {
+            // Of two that differ by letter case alone the list can hold one.
+            const auto isThisOne = [&](const FurtherTree& other) { return SameText(other.Path, path); };
+            if (!IsLinkedTree(path) && std::ranges::none_of(trees, isThisOne) && !IsNamed(form, path) &&
+                HasNews(form, row, path, list)) {
                 trees.push_back({row, path});
             }
         }

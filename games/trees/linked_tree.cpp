@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <span>
 #include <utility>
 
 #include "foundation/field_strings.h"
@@ -16,8 +17,11 @@ constexpr TextView kRerelease = "rerelease";  // a tree of its own
 // What games write over, and so would through a link.
 constexpr TextView kWritten[] = {".cfg", ".ini", ".qs", ".hs", ".q2s", ".sns", ".sav", ".gip", ".ssv", ".sv2", ".usa"};
 
-bool IsWrittenByGames(TextView name) {
-    return std::ranges::any_of(kWritten, [&](TextView end) {
+// What a directory of the game holds at least one of: archives, a program of the game's, maps.
+constexpr TextView kOfGames[] = {".pak", ".pk3", ".pkz", ".sin", ".dat", ".bsp", ".u", ".unr", ".utx", ".uax", ".umx"};
+
+bool EndsInOneOf(TextView name, std::span<const TextView> endings) {
+    return std::ranges::any_of(endings, [&](TextView end) {
         return name.size() > end.size() && SameText(name.substr(name.size() - end.size()), end);
     });
 }
@@ -25,7 +29,7 @@ bool IsWrittenByGames(TextView name) {
 // What stands in a directory, by name in lower case.
 template <class Entry>
 using Names = std::map<Text, Entry>;
-using Wanted = Names<DirectoryEntry>;
+using Wanted = Names<LinkedEntry>;
 using Own = Names<LinkedEntry>;
 
 class Linking {
@@ -74,7 +78,7 @@ class Linking {
 
     // At the top only directories are game directories; the files beside them belong to programs.
     void LinkDirectories(const Text& below, const Text& own, int depth) {
-        auto listed = files_.List(InTree(below));
+        auto listed = files_.ListLinks(InTree(below), tree_.Directory);
         if (!listed.Ok() && listed.Fault.Number != error::kPathNotFound) {
             done_.IsWhole = false;  // what cannot be read has not gone
             return;
@@ -91,7 +95,7 @@ class Linking {
             if (!GoesOn()) {
                 return;
             }
-            if (entry.IsDirectory && !(depth == 0 && key == kRerelease)) {
+            if (entry.IsDirectory && !(depth == 0 && key == kRerelease) && IsPartOfTheTree(entry, depth)) {
                 LinkDirectory(below.empty() ? entry.Name : PathBelow(below, entry.Name), own, Spelled(entry.Name),
                               there, depth);
             }
@@ -101,6 +105,18 @@ class Linking {
                 RemoveGoneBelow(PathBelow(own, entry.Name), depth + 1);
             }
         }
+    }
+
+    // A directory that lies elsewhere may lead anywhere, to the whole disk or back up: only as one of the game's own
+    // does it count.
+    bool IsPartOfTheTree(const LinkedEntry& directory, int depth) {
+        if (!directory.IsElsewhere) {
+            return true;
+        }
+        const auto listed = depth == 0 ? files_.List(InTree(directory.Name)) : MakeError(error::kPathNotFound);
+        return listed.Ok() && std::ranges::any_of(listed.Value, [](const DirectoryEntry& entry) {
+                   return !entry.IsDirectory && EndsInOneOf(entry.Name, kOfGames);
+               });
     }
 
     void LinkDirectory(const Text& below, const Text& above, const Text& name, const Own& there, int depth) {
@@ -141,7 +157,7 @@ class Linking {
     }
 
     void LinkFile(const Text& below, const Text& own, const Text& name, const LinkedEntry* there) {
-        if (IsWrittenByGames(name)) {
+        if (EndsInOneOf(name, kWritten)) {
             if (there == nullptr) {
                 done_.Fault = files_.Copy(InTree(below), PathBelow(own, name));
                 done_.Copied += done_.Fault ? 0 : 1;

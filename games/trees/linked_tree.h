@@ -29,9 +29,10 @@ struct LinkedTree {
 /// Makes `directory`, with those above it, hold a link for each file of the tree's game directories and what is below
 /// them, or brings it up to date. Settings and saved games are copied once instead: a game writes through a link. Where
 /// the game's engines look for "id1/pak0.pak" the links are in lower case. What is the user's stays as it is: files,
-/// directories, and links that lead anywhere but into the tree; a directory that is a link is not gone into. A second
-/// run changes nothing. `goesOn` is asked before each file, and false ends the work; none: it is done to its end. Error
-/// 75 if one of the two directories lies in the other.
+/// directories, and links that lead anywhere but into the tree; a directory that is a link is not gone into. Of
+/// the tree's directories that are links only those count that stand at its top and hold data of a game. A second run
+/// changes nothing. `goesOn` is asked before each file, and false ends the work; none: it is done to its end. Error 75
+/// if one of the two directories lies in the other.
 LinkedTree LinkTree(Files& files, const GameTree& tree, TextView directory, const std::function<bool()>& goesOn = {});
 
 }  // namespace lv

@@ -1,5 +1,7 @@
 #include "launcher/start/engine_load.h"
 
+#include <algorithm>
+
 #include "foundation/bounded_file.h"
 #include "foundation/question_box.h"
 #include "games/engines/engine_seats.h"
@@ -15,10 +17,17 @@ Text PathOfUsersTable(Run& run) {
     return directory.empty() ? Text() : Join(directory, "\\lorvane3d\\engines.tsv");
 }
 
+// The table is the user's, and may be anything.
+Text Printable(Text text) {
+    std::ranges::replace_if(
+        text, [](char c) { return (static_cast<unsigned char>(c) < 0x20 && c != '\t') || c == 0x7F; }, '?');
+    return text;
+}
+
 void TellFaults(Run& run, const Text& path, const std::vector<Text>& faults) {
     Text list;
     for (std::size_t i = 0; i < faults.size() && i < kMostShown; ++i) {
-        list += Join(TabChar, faults[i], NewLine);
+        list += Join(TabChar, Printable(faults[i]), NewLine);
     }
     if (faults.size() > kMostShown) {
         list += Join(TabChar, "and ", std::to_string(faults.size() - kMostShown), " more", NewLine);

@@ -131,7 +131,8 @@ Error MemoryFiles::ProbeDrive(std::string_view drive) {
 
 std::string_view MemoryFiles::Real(std::string_view path) {
     const std::string* const real = standIns_.Of(path);
-    return real == nullptr || Find(path) != nullptr ? path : *real;
+    const Node* const node = real == nullptr ? nullptr : Find(path);
+    return real == nullptr || (node != nullptr && !node->IsDirectory) ? path : *real;
 }
 
 bool MemoryFiles::StandIn(std::string_view path, std::string_view real) {

@@ -449,6 +449,9 @@ TEST(LinuxFiles, StartAProgramThatLiesElsewhereUnderItsStandInsPath) {
     EXPECT_EQ(home.Disk.ToHost("C:\\QUAKE\\ENGINE"), (home.Scratch / "bin/engine").string());
     EXPECT_EQ(home.Disk.Delete("C:\\quake\\engine").Number, 53);
     EXPECT_TRUE(fs::exists(home.Scratch / "bin/engine"));
+    fs::create_directories(home.C / "quake/engine");  // some make one where they play
+    EXPECT_EQ(home.Disk.Open("C:\\quake\\engine").Value->Read(0, 2).Value, "#!");
+    fs::remove(home.C / "quake/engine");
     WriteBytes(home.C / "quake/Engine", "own");
     EXPECT_EQ(home.Disk.Open("C:\\quake\\engine").Value->Read(0, 3).Value, "own");
 }

@@ -36,6 +36,17 @@ TEST(StandIns, AreAskedForAndOpenedButNeverDeletedOrWritten) {
     EXPECT_EQ(disk.Bytes("C:\\BIN\\engine"), "a program");
 }
 
+// ezQuake makes a directory of its own name where it plays.
+TEST(StandIns, ADirectoryOfTheNameIsNoProgram) {
+    MemoryFiles disk;
+    disk.AddFile("C:\\BIN\\engine", "real");
+    disk.AddDirectory("C:\\QUAKE\\engine");
+    EXPECT_TRUE(disk.StandIn("C:\\QUAKE\\engine", "C:\\BIN\\engine"));
+    EXPECT_TRUE(disk.FileExists("C:\\QUAKE\\engine"));
+    EXPECT_TRUE(disk.DirectoryExists("C:\\QUAKE\\engine"));
+    EXPECT_EQ(disk.Open("C:\\QUAKE\\engine").Value->Read(0, 20).Value, "real");
+}
+
 TEST(StandIns, AFileThatIsThereCountsAheadOfOne) {
     MemoryFiles disk;
     disk.AddFile("C:\\QUAKE\\engine", "the tree's own");

@@ -22,10 +22,25 @@ TEST_F(FoundGamesTest, NothingIsFilledInWhereNothingIsFound) {
         EXPECT_EQ(form.Game_Chk[kQuake].Value, 0);
         EXPECT_EQ(form.GamePath_Txt[kQuake].Text, "");
         EXPECT_EQ(form.Status_Lbl.Caption, "");
-        EXPECT_EQ(form.Found_Lbl.Caption, "");
+        EXPECT_EQ(form.Found_Lbl.Caption,
+                  "No game found in the usual places. Tick yours, and press 'Browse' or 'Do An Auto-Search'.");
         Install_Cancel_Cmd_Click(form);
     });
     ShowInstallWizard(launcher);
+}
+
+TEST_F(FoundGamesTest, WhatCouldPlayIsNamedWithoutAGameToo) {
+    AddEngine("quakespasm");
+    AddEngine("mvdsv");
+    EXPECT_EQ(
+        FoundText(LookAround(run, launcher.Engines)),
+        "No game found in the usual places. Here to play with: QuakeSpasm, mvdsv. Tick yours, and press 'Browse' or "
+        "'Do An Auto-Search'.");
+}
+
+TEST_F(FoundGamesTest, ADirectoryWithALineEndInItsNameIsPassedOver) {
+    system.Disk.AddFile("C:\\HOME\\games\\new\nline\\id1\\pak0.pak");
+    EXPECT_TRUE(LookAround(run, launcher.Engines).Trees.empty());
 }
 
 TEST_F(FoundGamesTest, AKnownRowStaysAsItIs) {

@@ -33,6 +33,19 @@ TEST_F(FurtherTreesTest, AreEnteredUnderTitlesThatDiffer) {
     EXPECT_EQ(run.DefaultGameDirectory, "c:\\home\\games\\quake\\");
 }
 
+TEST_F(FurtherTreesTest, OfTwoThatDifferByLetterCaseAloneOneIsOffered) {
+    Install_Frm form(run);
+    form.Engines = launcher.Engines;
+    form.Found = LookAround(run, launcher.Engines);
+    ASSERT_EQ(form.Found.Trees.size(), 2u);
+    GameTree other = form.Found.Trees[1];
+    other.Directory = "D:\\steamapps\\COMMON\\quake";
+    form.Found.Trees.push_back(other);
+    form.Game_Chk[kQuake].Value = 1;
+    form.GamePath_Txt[kQuake].Text = "C:\\HOME\\games\\quake";
+    EXPECT_EQ(FurtherTrees(form, "").size(), 1u);
+}
+
 TEST_F(FurtherTreesTest, AreLeftOutIfTheUserWantsNone) {
     ExpectOffer(kSteam, 1);
     EXPECT_TRUE(SetUpFoundGames());

@@ -62,7 +62,8 @@ std::optional<HostPlace> LinuxFiles::FindFile(std::string_view path) const {
     auto place = Find(path);
     const std::string* const real = standIns_.Of(path);
     struct stat info {};
-    const bool isThere = place && lstat(place->Host.c_str(), &info) == 0;
+    // A program may make a directory of its own name where it plays.
+    const bool isThere = place && lstat(place->Host.c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
     return real == nullptr || isThere ? place : Find(*real);
 }
 

@@ -117,6 +117,22 @@ TEST(LinkTree, DoesNotGoIntoADirectoryThatIsALink) {
     EXPECT_EQ(made.In("D:\\mine"), (Names{"a.cfg"}));
 }
 
+TEST(LinkTree, FollowsNoLinkOutOfTheTreeButToAGameDirectory) {
+    OldTree made;
+    made.Disk.AddFile("Z:\\home\\letter.txt");
+    made.Disk.AddFile("Z:\\home\\deep\\pak0.pak");
+    made.Disk.AddLink("Z:\\share\\quake\\self", "Z:\\home");
+    made.Disk.AddLink("Z:\\share\\quake\\circle", "Z:\\share\\quake");
+    made.Disk.AddLink("Z:\\share\\quake\\ID1\\circle", "Z:\\share\\quake\\ID1");
+    made.Disk.AddFile("Z:\\elsewhere\\rogue\\PAK0.PAK", "PACKR");
+    made.Disk.AddLink("Z:\\share\\quake\\rogue", "Z:\\elsewhere\\rogue");
+    const LinkedTree done = made.Link();
+    EXPECT_TRUE(done.IsWhole);
+    EXPECT_EQ(made.In(Text(kOwn)), (Names{"hipnotic", "id1", "rogue"}));
+    EXPECT_EQ(made.In("C:\\LINKED\\QUAKE\\id1"), (Names{"maps", "pak0.pak", "pak1.pak"}));
+    EXPECT_EQ(made.In("C:\\LINKED\\QUAKE\\rogue"), (Names{"pak0.pak"}));
+}
+
 TEST(LinkTree, BringsALinkUpToDate) {
     OldTree made;
     made.Disk.AddFileLink("C:\\LINKED\\QUAKE\\id1\\pak0.pak", "Z:\\share\\quake\\hipnotic\\pak0.pak");
@@ -211,13 +227,14 @@ TEST(LinkTree, StopsAtTheFirstErrorAndTellsIt) {
     EXPECT_EQ(done.Fault.Number, 70);
 }
 
-TEST(LinkTree, EndsInACircleOfLinks) {
+TEST(LinkTree, GoesIntoNoCircleOfLinks) {
     OldTree made;
     made.Disk.AddLink("Z:\\share\\quake\\ID1\\round", "Z:\\share\\quake\\ID1");
     const LinkedTree done = made.Link();
-    EXPECT_FALSE(done.IsWhole);
+    EXPECT_TRUE(done.IsWhole);
     EXPECT_EQ(done.Fault.Number, 0);
     EXPECT_TRUE(made.Disk.FileExists("C:\\LINKED\\QUAKE\\id1\\pak0.pak"));
+    EXPECT_FALSE(made.Disk.DirectoryExists("C:\\LINKED\\QUAKE\\id1\\round"));
 }
 
 TEST(LinkTree, PassesOverALinkToWhatHasGone) {

@@ -34,6 +34,12 @@ TEST_F(EngineLoad, TellsWhatIsWrongWithTheUsersRowsAndTakesTheRest) {
     EXPECT_NE(EngineOf(launcher.Engines, "good"), nullptr);
 }
 
+TEST_F(EngineLoad, WhatNoBoxCanShowOfATableIsShownAsQuestionMarks) {
+    system.Disk.AddFile(kUsers, {"name\tprograms\tgames\nBad\tbad\tqa\0k\1e\n", 35});
+    user.Expect({"Table of Engines", "line 2: no such game: qa?k?e", 0});
+    LoadEngines(launcher);
+}
+
 TEST_F(EngineLoad, ATableThatIsTooLargeIsToldAndLeftOut) {
     system.Disk.AddSparseFile(kUsers, "name", 1U << 30U);
     user.Expect({"Table of Engines", "engines.tsv", 0});
