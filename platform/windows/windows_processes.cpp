@@ -1,5 +1,6 @@
 #include "platform/windows/windows_processes.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/code_page.h"
@@ -33,7 +34,12 @@ bool GoesToDosBox(Files& disk, const FoundGame& game) {
     return !RunsDosPrograms() && KindOfProgramAt(disk, game.Program.Path) == ProgramKind::kDos;
 }
 
-// The command processor cannot stand on a share. What needs nothing of it but the environment is started there.
+bool BeyondAscii(std::string_view text) {
+    return std::ranges::any_of(text, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+}
+
+// The command processor cannot stand on a share, and Wine's reads no batch in the code page of its console. What needs
+// nothing of it but the environment does without.
 bool StartsByItself(Files& disk, const BatchGame& game) {
     return !game.Plan.showsEnvironment && KindOfProgramAt(disk, game.Game.Program.Path) == ProgramKind::kWindows;
 }
@@ -45,7 +51,7 @@ Error StartWithoutBatch(Files& disk, const BatchGame& game) {
     }
     const std::wstring program = ToWide(FromUtf8Lossy(disk.ToHost(game.Game.Program.Path)));
     const std::wstring line = L"\"" + program + L"\" " + ToWide(game.Game.Program.Arguments);
-    return StartProcess(program, line, ToWide(game.Directory), 0, environment);
+    return StartProcess(program, line, ToWide(game.Directory), CREATE_NEW_CONSOLE, environment);
 }
 
 std::string InDirectory(const std::string& directory, std::string_view name) {
@@ -78,8 +84,12 @@ Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view 
         return fault ? fault : StartInDosBox(disk_, game.Value);
     }
     const bool onAShare = place.starts_with("\\\\");
-    if (onAShare && game.Ok() && StartsByItself(disk_, game.Value)) {
-        return StartWithoutBatch(disk_, game.Value);
+    if (game.Ok() && (onAShare || BeyondAscii(game.Value.BatchText)) && StartsByItself(disk_, game.Value)) {
+        const Error fault = StartWithoutBatch(disk_, game.Value);
+        // What wants an administrator's rights is asked about by the command processor.
+        if (!fault || onAShare) {
+            return fault;
+        }
     }
     const std::wstring system = SystemDirectory();
     const std::wstring processor = system + L"\\cmd.exe";
