@@ -38,7 +38,10 @@ std::wstring BlockWith(const Variables& more) {
     }
     std::wstring block;
     for (const auto& [name, value] : all) {
-        block += name + L"=" + value + L'\0';
+        block += name;
+        block += L'=';
+        block += value;
+        block += L'\0';
     }
     return block + L'\0';
 }
