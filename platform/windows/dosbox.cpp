@@ -11,6 +11,7 @@
 #include "platform/windows/started_process.h"
 #include "platform/windows/system.h"
 #include "platform/windows/system_error.h"
+#include "platform/windows/variable.h"
 #include "platform/windows/wide_text.h"
 
 namespace lv {
@@ -21,12 +22,6 @@ constexpr const wchar_t* kPrograms[] = {L"dosbox.exe", L"dosbox-x.exe", L"dosbox
 // Each installs into a directory that begins so, with or without its version behind it.
 constexpr const wchar_t* kDirectories[] = {L"DOSBox*", L"DOSBox-X*", L"DOSBox Staging*"};
 constexpr const wchar_t* kVariables[] = {L"ProgramFiles", L"ProgramFiles(x86)", L"ProgramW6432", L"LOCALAPPDATA"};
-
-std::wstring Variable(const wchar_t* name) {
-    std::wstring value(GetEnvironmentVariableW(name, nullptr, 0), L'\0');
-    value.resize(GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size())));
-    return value;
-}
 
 bool IsFile(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());

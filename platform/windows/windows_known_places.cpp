@@ -4,6 +4,7 @@
 
 #include "platform/code_page.h"
 #include "platform/windows/registry_key.h"
+#include "platform/windows/variable.h"
 #include "platform/windows/wide_text.h"
 
 namespace lv {
@@ -17,12 +18,6 @@ constexpr const wchar_t* kOnADrive[] = {L"Games", L"GOG Games"};
 // Below a directory for programs.
 constexpr const wchar_t* kBelowPrograms[] = {L"\\GOG Galaxy\\Games", L""};
 constexpr const wchar_t* kProgramVariables[] = {L"ProgramFiles", L"ProgramFiles(x86)"};
-
-std::wstring Variable(const wchar_t* name) {
-    std::wstring value(GetEnvironmentVariableW(name, nullptr, 0), L'\0');
-    value.resize(GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size())));
-    return value;
-}
 
 // Each may stand in quotes.
 Directories PartsOfPath(std::wstring path) {
