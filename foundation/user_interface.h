@@ -14,7 +14,6 @@
 namespace lv {
 
 struct About_Frm;
-struct ConfirmExit_Frm;
 struct InstallParams_Frm;
 struct ModalWindow;
 struct QuestionBox_Frm;
@@ -66,9 +65,8 @@ class UserInterface {
     // the struct as it is, which is a cancel.
     virtual void ShowInstallParams(InstallParams_Frm&) {}
     virtual void ShowAbout(About_Frm&) {}
-    virtual void ShowConfirmExit(ConfirmExit_Frm&) {}
 
-    /// Any window of the ModalWindow family, told by its type: one door for all that came after the three above.
+    /// Any window of the ModalWindow family, told by its type: one door for all that came after the two above.
     virtual void ShowModal(ModalWindow&) {}
 
     /// Makes what ShowModal will show of the window, out of sight, where there is time ahead of it. One at a time.

@@ -15,9 +15,9 @@
 #include <wx/toplevel.h>
 #include <wx/utils.h>
 
+#include "foundation/forms/about_form.h"
 #include "foundation/forms/modal_form.h"
 #include "foundation/forms/question_box_form.h"
-#include "foundation/forms/small_dialogs.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "platform/toolkit/spoken_name.h"
@@ -209,10 +209,6 @@ ScreenSize WxUser::Screen() {
 
 void WxUser::ShowAbout(About_Frm& about) {
     ShowAboutForm(Owner(), about);
-}
-
-void WxUser::ShowConfirmExit(ConfirmExit_Frm& confirm) {
-    ShowConfirmExitForm(Owner(), confirm);
 }
 
 std::optional<Text> WxUser::InputBox(TextView title, TextView prompt, TextView offered) {

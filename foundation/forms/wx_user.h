@@ -56,7 +56,6 @@ class WxUser : public UserInterface {
     ScreenSize Screen() override;
 
     void ShowAbout(About_Frm& about) override;
-    void ShowConfirmExit(ConfirmExit_Frm& confirm) override;
     std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered) override;
     Error OpenHelp(TextView path, const HelpPlace& place) override;
     Error OpenUrl(TextView address) override;

@@ -3,12 +3,12 @@
 #include <iterator>
 #include <limits>
 
-#include "foundation/dialogs.h"
 #include "foundation/numbers.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "foundry/editor/aliases_page.h"
 #include "foundry/editor/bindings_page.h"
+#include "foundry/editor/confirm_exit.h"
 #include "foundry/editor/controllers.h"
 #include "foundry/editor/key_picture.h"
 #include "foundry/editor/kind_layout.h"
@@ -27,9 +27,6 @@ constexpr int kFiveMinutes = 4;  // the row of "5"
 // Of View_Cmd.
 constexpr int kSave = 6;
 constexpr int kSaveAs = 7;
-
-/// What ConfirmExit returns.
-enum ExitAnswer { kExit, kStay, kSaveAndExit, kSaveAndStay };
 
 void Place(Fig_Frm& form) {
     if (form.Measure) {
@@ -78,12 +75,12 @@ bool MayLeaveChanges(Fig_Frm& form) {
     if (form.Document.ScriptClean) {
         return true;
     }
-    const int answer = ConfirmExit(form.run);
+    const ExitAnswer answer = ConfirmExit(form.run);
     // ExitOnSave_Chk has no say here: what was answered decides on the window.
-    if (answer == kSaveAndExit || answer == kSaveAndStay) {
+    if (answer == ExitAnswer::SaveAndExit || answer == ExitAnswer::SaveAndStay) {
         SaveDocument(form, SaveName::Same);
     }
-    return answer == kExit || answer == kSaveAndExit || form.run.Ended;
+    return answer == ExitAnswer::Exit || answer == ExitAnswer::SaveAndExit || form.run.Ended;
 }
 
 bool AutoSaveIsDue(const Fig_Frm& form) {

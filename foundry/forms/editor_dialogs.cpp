@@ -11,6 +11,7 @@
 #include "foundation/forms/screen_fit.h"
 #include "foundation/forms/wx_text.h"
 #include "foundry/editor/alias_frm.h"
+#include "foundry/editor/confirm_exit.h"
 #include "foundry/editor/line_dialogs.h"
 #include "foundry/editor/player_page.h"
 #include "foundry/forms/cell_label.h"
@@ -78,6 +79,32 @@ Form MakeAlias(wxWindow* owner, Alias_Frm& alias) {
     form->Finish(form->MakeButton("OK_Cmd", alias.OK_Cmd, [&alias] { Alias_OK_Cmd_Click(alias); }),
                  form->MakeButton("Cancel_Cmd", alias.Cancel_Cmd, [&alias] { Alias_Cancel_Cmd_Click(alias); }));
     form->FindWindow("AliasName_Txt")->SetFocus();
+    return form;
+}
+
+Form MakeConfirmExit(wxWindow* owner, ConfirmExit_Frm& confirm) {
+    auto form = std::make_unique<ModalForm>(owner, confirm, [&confirm] { ConfirmExit_No_Cmd_Click(confirm); });
+    const auto addLine = [&](const char* name, Label& line) {
+        auto* row = new wxBoxSizer(wxVERTICAL);
+        row->Add(form->MakeLabel(form.get(), name, line), wxSizerFlags().Center());
+        form->AddWide(row);
+    };
+    addLine("Label1", confirm.Label1);
+    addLine("Label2", confirm.Label2);
+    auto* save = new wxCheckBox(form.get(), wxID_ANY, ToWx(confirm.SaveNow_Chk.Caption));
+    form->Controls.Bind("SaveNow_Chk", confirm.SaveNow_Chk, save, [] {});
+    auto* row = new wxBoxSizer(wxVERTICAL);
+    row->Add(save, wxSizerFlags().Center());
+    form->AddWide(row);
+    // No button is the default: Enter must not decide on unsaved work.
+    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
+    buttons->AddStretchSpacer();
+    buttons->Add(form->MakeButton("Yes_Cmd", confirm.Yes_Cmd, [&confirm] { ConfirmExit_Yes_Cmd_Click(confirm); }));
+    buttons->Add(form->MakeButton("No_Cmd", confirm.No_Cmd, [&confirm] { ConfirmExit_No_Cmd_Click(confirm); }),
+                 wxSizerFlags().Border(wxLEFT | wxBOTTOM, 2 * kGap));
+    buttons->AddStretchSpacer();
+    form->AddWide(buttons);
+    form->Arrange();
     return form;
 }
 
@@ -149,6 +176,9 @@ std::unique_ptr<wxDialog> MakeEditorDialog(wxWindow* owner, ModalWindow& window)
     }
     if (auto* alias = dynamic_cast<Alias_Frm*>(&window)) {
         return MakeAlias(owner, *alias);
+    }
+    if (auto* confirm = dynamic_cast<ConfirmExit_Frm*>(&window)) {
+        return MakeConfirmExit(owner, *confirm);
     }
     if (auto* colors = dynamic_cast<Color_Frm*>(&window)) {
         return std::make_unique<ColorForm>(owner, *colors);

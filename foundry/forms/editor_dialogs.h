@@ -1,6 +1,6 @@
 // foundry/forms/editor_dialogs.h
 //
-// The dialogs over the editor: alias, message, extra binding, color, name.
+// The dialogs over the editor: alias, message, extra binding, color, name, the question before it closes.
 
 #pragma once
 

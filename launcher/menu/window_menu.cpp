@@ -1,8 +1,8 @@
 #include "launcher/menu/window_menu.h"
 
 #include "catalogs/editors/delete_entry.h"
+#include "foundation/about_box.h"
 #include "foundation/browse.h"
-#include "foundation/dialogs.h"
 #include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/padded_item.h"

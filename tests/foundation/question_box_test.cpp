@@ -321,5 +321,17 @@ TEST_F(QuestionBoxTest, LeavesTheWordOutThatThereIsNoMemoryFor) {
     EXPECT_EQ(run.Topmost.Nesting, 0);
 }
 
+TEST_F(QuestionBoxTest, TheViewBoxHasAFixedWidthFont) {
+    user.Expect({"Viewing", "SET X=1", 1, false, true, "&OK,&Not OK"});
+    EXPECT_EQ(AskUserFixedWidth(run, "Viewing", "SET X=1", "&OK,&Not OK"), 1);
+    EXPECT_TRUE(user.Asked.back().FixedWidth);
+}
+
+TEST_F(QuestionBoxTest, OtherBoxesHaveNone) {
+    user.Expect({"Lorvane 3D", "Hello"});
+    AskUser(run, "", "Hello");
+    EXPECT_FALSE(user.Asked.back().FixedWidth);
+}
+
 }  // namespace
 }  // namespace lv

@@ -11,7 +11,7 @@
 #include <optional>
 #include <vector>
 
-#include "foundation/dialogs.h"
+#include "foundation/about_box.h"
 #include "foundation/modal_window.h"
 #include "foundation/question_box.h"
 #include "launcher/start/install_params.h"
@@ -72,7 +72,6 @@ class ScriptedUser : public UserInterface {
     // What the user does in each dialog that is to come; a dialog without one fails the test.
     std::deque<std::function<void(InstallParams_Frm&)>> InInstallParams;
     std::deque<std::function<void(About_Frm&)>> InAbout;
-    std::deque<std::function<void(ConfirmExit_Frm&)>> InConfirmExit;
     std::deque<std::optional<Text>> InputAnswers;
     std::vector<Text> Inputs;   // "title|prompt"
     std::vector<Text> Offered;  // what stood in each
@@ -98,7 +97,6 @@ class ScriptedUser : public UserInterface {
 
     void ShowInstallParams(InstallParams_Frm& form) override { Act(InInstallParams, form, "InstallParams_Frm"); }
     void ShowAbout(About_Frm& form) override { Act(InAbout, form, "About_Frm"); }
-    void ShowConfirmExit(ConfirmExit_Frm& form) override { Act(InConfirmExit, form, "ConfirmExit_Frm"); }
     void ShowModal(ModalWindow& window) override { Act(modal_, window, window.Name.c_str()); }
     std::optional<Text> InputBox(TextView title, TextView prompt, TextView offered) override;
     Error OpenHelp(TextView path, const HelpPlace& place) override;

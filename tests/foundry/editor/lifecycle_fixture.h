@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "foundry/editor/confirm_exit.h"
 #include "foundry/editor/lifecycle.h"
 #include "tests/foundry/editor/fig_fixture.h"
 
@@ -35,7 +36,7 @@ class Lifecycle : public FigTest {
         }
     }
     void Answer(bool yes, bool saveNow) {
-        user.InConfirmExit.push_back([=](ConfirmExit_Frm& box) {
+        user.In<ConfirmExit_Frm>([=](ConfirmExit_Frm& box) {
             box.SaveNow_Chk.Value = saveNow ? 1 : 0;
             yes ? ConfirmExit_Yes_Cmd_Click(box) : ConfirmExit_No_Cmd_Click(box);
         });

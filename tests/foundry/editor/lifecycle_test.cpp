@@ -234,7 +234,7 @@ TEST_F(Lifecycle, ClosingKeepsTheWindowsPlace) {
 TEST_F(Lifecycle, YesClosesWithoutSaving) {
     OpenAndLoad();
     Change();
-    user.InConfirmExit.push_back([](ConfirmExit_Frm& box) {
+    user.In<ConfirmExit_Frm>([](ConfirmExit_Frm& box) {
         EXPECT_EQ(box.Caption, "Confirm Exit");
         EXPECT_EQ(box.Label1.Caption, "Changes have not been saved.");
         EXPECT_EQ(box.Label2.Caption, "Exit Anyway?");

@@ -1,33 +1,8 @@
-#include "foundation/dialogs.h"
+#include "foundation/about_box.h"
 
 #include "foundation/settings.h"
 
 namespace lv {
-
-ConfirmExit_Frm::ConfirmExit_Frm() {
-    Label1.Caption = "Changes have not been saved.";
-    Label2.Caption = "Exit Anyway?";
-    SaveNow_Chk.Caption = "Save Script Now";
-    Yes_Cmd.Caption = "&Yes";
-    No_Cmd.Caption = "&No";
-}
-
-void ConfirmExit_Yes_Cmd_Click(ConfirmExit_Frm& form) {
-    form.DialogResult = form.SaveNow_Chk.Value == 1 ? 2 : 0;
-    form.Closed = true;
-}
-
-void ConfirmExit_No_Cmd_Click(ConfirmExit_Frm& form) {
-    form.DialogResult = form.SaveNow_Chk.Value == 1 ? 3 : 1;
-    form.Closed = true;
-}
-
-int ConfirmExit(Run& run) {
-    ConfirmExit_Frm form;
-    const TopmostSuspension dialog(run);
-    run.User.ShowConfirmExit(form);
-    return form.DialogResult;
-}
 
 About_Frm MakeAbout(Run& run) {
     About_Frm form;

@@ -1,17 +1,15 @@
-// foundation/forms/small_dialogs.h
+// foundation/forms/about_form.h
 //
-// Shows About_Frm and ConfirmExit_Frm.
+// Shows About_Frm.
 
 #pragma once
 
 #include <wx/dialog.h>
 
-#include "foundation/dialogs.h"
+#include "foundation/about_box.h"
 
 namespace lv {
 
 /// Modal; returns when the struct says that it is closed.
 void ShowAboutForm(wxWindow* owner, About_Frm& about);
-void ShowConfirmExitForm(wxWindow* owner, ConfirmExit_Frm& confirm);
-
 }  // namespace lv

@@ -1,7 +1,6 @@
-#include "foundation/forms/small_dialogs.h"
+#include "foundation/forms/about_form.h"
 
 #include <wx/button.h>
-#include <wx/checkbox.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
@@ -63,30 +62,6 @@ void ShowAboutForm(wxWindow* owner, About_Frm& about) {
     StayOnScreen(dialog);
     dialog.ShowModal();
     about.Closed = true;
-}
-
-void ShowConfirmExitForm(wxWindow* owner, ConfirmExit_Frm& confirm) {
-    wxDialog dialog(owner, wxID_ANY, ToWx(confirm.Caption));
-    dialog.SetName("ConfirmExit_Frm");
-    auto* rows = new wxBoxSizer(wxVERTICAL);
-    rows->AddSpacer(kGap);
-    AddLine(&dialog, rows, "Label1", confirm.Label1);
-    AddLine(&dialog, rows, "Label2", confirm.Label2);
-    auto* save = new wxCheckBox(&dialog, wxID_ANY, ToWx(confirm.SaveNow_Chk.Caption));
-    save->SetName("SaveNow_Chk");
-    save->Bind(wxEVT_CHECKBOX, [&confirm](wxCommandEvent& event) { confirm.SaveNow_Chk.Value = event.GetInt(); });
-    rows->Add(save, wxSizerFlags().Center().Border(wxLEFT | wxRIGHT | wxBOTTOM, kGap));
-    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-    wxButton* yes = MakeButton(&dialog, "Yes_Cmd", confirm.Yes_Cmd, [&confirm] { ConfirmExit_Yes_Cmd_Click(confirm); });
-    wxButton* no = MakeButton(&dialog, "No_Cmd", confirm.No_Cmd, [&confirm] { ConfirmExit_No_Cmd_Click(confirm); });
-    buttons->Add(yes, wxSizerFlags().Border(wxRIGHT, kGap));
-    buttons->Add(no);
-    rows->Add(buttons, wxSizerFlags().Center().Border(wxLEFT | wxRIGHT | wxBOTTOM, kGap));
-    dialog.SetEscapeId(no->GetId());
-    FitOnScreen(dialog, rows);
-    dialog.CentreOnParent();
-    StayOnScreen(dialog);
-    dialog.ShowModal();
 }
 
 }  // namespace lv
