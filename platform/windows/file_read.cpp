@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/file_bytes.h"
 #include "platform/windows/system_error.h"
 #include "platform/windows/wide_text.h"
 
@@ -33,77 +34,33 @@ class FindHandle {
     HANDLE handle_;
 };
 
+Result<std::size_t> BytesRead(HANDLE file, char* room, std::size_t most, OVERLAPPED* place) {
+    DWORD got = 0;
+    if (ReadFile(file, room, static_cast<DWORD>(std::min<std::size_t>(most, kMostAtOnce)), &got, place) == 0 &&
+        GetLastError() != ERROR_HANDLE_EOF) {
+        return ErrorOfSystem(GetLastError());
+    }
+    return std::size_t{got};
+}
+
 class SystemFile : public RandomAccessFile {
   public:
     SystemFile(std::unique_ptr<FileHandle> file, std::uint64_t size) : file_(std::move(file)), size_(size) {}
     [[nodiscard]] std::uint64_t Size() const override { return size_; }
 
     Result<std::string> Read(std::uint64_t offset, std::size_t count) override {
-        if (offset >= size_) {
-            return std::string();
-        }
-        try {
-            return ReadAt(offset, static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)));
-        } catch (const std::exception& thrown) {
-            return ErrorOfException(thrown);
-        }
-    }
-
-  private:
-    Result<std::string> ReadAt(std::uint64_t offset, std::size_t count) {
-        std::string bytes(count, '\0');
-        std::size_t done = 0;
-        while (done < bytes.size()) {
-            const std::uint64_t at = offset + done;
+        return ReadRange(size_, offset, count, [this](char* room, std::size_t most, std::uint64_t at) {
             OVERLAPPED place{};
             place.Offset = static_cast<DWORD>(at);
             place.OffsetHigh = static_cast<DWORD>(at >> 32);
-            const auto most = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, kMostAtOnce));
-            DWORD got = 0;
-            if (ReadFile(file_->Get(), bytes.data() + done, most, &got, &place) == 0) {
-                if (GetLastError() == ERROR_HANDLE_EOF) {
-                    break;
-                }
-                return ErrorOfSystem(GetLastError());
-            }
-            if (got == 0) {
-                break;
-            }
-            done += got;
-        }
-        bytes.resize(done);
-        return bytes;
+            return BytesRead(file_->Get(), room, most, &place);
+        });
     }
 
+  private:
     std::unique_ptr<FileHandle> file_;
     std::uint64_t size_;
 };
-
-constexpr std::size_t kFirstBlock = 4096;
-
-Result<std::string> ReadInSteps(HANDLE file) {
-    LARGE_INTEGER told{};
-    const bool sized = GetFileSizeEx(file, &told) != 0 && told.QuadPart > 0;
-    const auto size = sized ? static_cast<std::uint64_t>(told.QuadPart) : 0;
-    std::string bytes;
-    std::size_t done = 0;
-    while (size <= kLargestWholeFile && done <= kLargestWholeFile) {
-        if (done == bytes.size()) {
-            bytes.resize(done == 0 && sized ? static_cast<std::size_t>(size) + 1 : done + std::max(done, kFirstBlock));
-        }
-        const auto most = static_cast<DWORD>(std::min<std::size_t>(bytes.size() - done, kMostAtOnce));
-        DWORD got = 0;
-        if (ReadFile(file, bytes.data() + done, most, &got, nullptr) == 0) {
-            return ErrorOfSystem(GetLastError());
-        }
-        if (got == 0) {
-            bytes.resize(done);
-            return bytes;
-        }
-        done += got;
-    }
-    return MakeTooLarge(kLargestWholeFile);
-}
 
 bool Inform(const std::wstring& path, BY_HANDLE_FILE_INFORMATION& info) {
     const FileHandle opened(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, kSharedWithAll, nullptr, OPEN_EXISTING,
@@ -130,11 +87,11 @@ Result<std::unique_ptr<FileHandle>> OpenPlainFile(const std::wstring& path) {
 }
 
 Result<std::string> ReadToEnd(HANDLE file) {
-    try {
-        return ReadInSteps(file);
-    } catch (const std::exception& thrown) {
-        return ErrorOfException(thrown);
-    }
+    LARGE_INTEGER told{};
+    const bool sized = GetFileSizeEx(file, &told) != 0 && told.QuadPart > 0;
+    return ReadWhole(
+        sized ? static_cast<std::uint64_t>(told.QuadPart) : 0,
+        [file](char* room, std::size_t most, std::uint64_t) { return BytesRead(file, room, most, nullptr); });
 }
 
 Result<std::unique_ptr<RandomAccessFile>> OpenPlainFileAnywhere(const std::wstring& path) {

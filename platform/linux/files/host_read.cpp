@@ -3,13 +3,13 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
 #include <string_view>
 #include <utility>
 
+#include "platform/file_bytes.h"
 #include "platform/linux/files/errno_error.h"
 #include "platform/linux/files/host_names.h"
 #include "platform/linux/files/host_places.h"
@@ -18,41 +18,31 @@ namespace lv {
 
 namespace {
 
+/// What the call gave, made again after a signal.
+Result<std::size_t> BytesRead(const auto& call) {
+    while (true) {
+        const ssize_t got = call();
+        if (got >= 0) {
+            return static_cast<std::size_t>(got);
+        }
+        if (errno != EINTR) {
+            return ErrorOf(errno);
+        }
+    }
+}
+
 class HostFile : public RandomAccessFile {
   public:
     HostFile(std::unique_ptr<FileDescriptor> file, std::uint64_t size) : file_(std::move(file)), size_(size) {}
     [[nodiscard]] std::uint64_t Size() const override { return size_; }
 
     Result<std::string> Read(std::uint64_t offset, std::size_t count) override {
-        if (offset >= size_) {
-            return std::string();
-        }
-        try {
-            return ReadAt(offset, static_cast<std::size_t>(std::min<std::uint64_t>(count, size_ - offset)));
-        } catch (const std::exception& thrown) {
-            return ErrorOfException(thrown);
-        }
+        return ReadRange(size_, offset, count, [this](char* room, std::size_t most, std::uint64_t at) {
+            return BytesRead([&] { return pread(file_->Number(), room, most, static_cast<off_t>(at)); });
+        });
     }
 
   private:
-    Result<std::string> ReadAt(std::uint64_t offset, std::size_t count) {
-        std::string bytes(count, '\0');
-        std::size_t done = 0;
-        while (done < bytes.size()) {
-            const ssize_t got =
-                pread(file_->Number(), bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
-            if (got < 0 && errno != EINTR) {
-                return ErrorOf(errno);
-            }
-            if (got == 0) {
-                break;
-            }
-            done += got < 0 ? 0 : static_cast<std::size_t>(got);
-        }
-        bytes.resize(done);
-        return bytes;
-    }
-
     std::unique_ptr<FileDescriptor> file_;
     std::uint64_t size_;
 };
@@ -107,31 +97,6 @@ Error ReadHostDirectory(const std::string& hostPath, const auto& take) {
     }
 }
 
-constexpr std::size_t kFirstBlock = 4096;
-
-Result<std::string> ReadInSteps(int descriptor) {
-    struct stat info {};
-    const bool sized = fstat(descriptor, &info) == 0 && info.st_size > 0;
-    const auto size = sized ? static_cast<std::uint64_t>(info.st_size) : 0;
-    std::string bytes;
-    std::size_t done = 0;
-    while (size <= kLargestWholeFile && done <= kLargestWholeFile) {
-        if (done == bytes.size()) {
-            bytes.resize(done == 0 && sized ? static_cast<std::size_t>(size) + 1 : done + std::max(done, kFirstBlock));
-        }
-        const ssize_t got = read(descriptor, bytes.data() + done, bytes.size() - done);
-        if (got < 0 && errno != EINTR) {
-            return ErrorOf(errno);
-        }
-        if (got == 0) {
-            bytes.resize(done);
-            return bytes;
-        }
-        done += got < 0 ? 0 : static_cast<std::size_t>(got);
-    }
-    return MakeTooLarge(kLargestWholeFile);
-}
-
 }  // namespace
 
 bool IsDirectoryAt(const std::string& hostPath) {
@@ -159,11 +124,12 @@ Result<std::unique_ptr<FileDescriptor>> OpenHostFile(const std::string& hostPath
 }
 
 Result<std::string> ReadToEnd(int descriptor) {
-    try {
-        return ReadInSteps(descriptor);
-    } catch (const std::exception& thrown) {
-        return ErrorOfException(thrown);
-    }
+    struct stat info {};
+    const bool sized = fstat(descriptor, &info) == 0 && info.st_size > 0;
+    return ReadWhole(sized ? static_cast<std::uint64_t>(info.st_size) : 0,
+                     [descriptor](char* room, std::size_t most, std::uint64_t) {
+                         return BytesRead([&] { return read(descriptor, room, most); });
+                     });
 }
 
 Result<std::unique_ptr<RandomAccessFile>> OpenHostFileAnywhere(const std::string& hostPath) {
