@@ -1,5 +1,8 @@
 #include "catalogs/editors/add_exe.h"
 
+#include <algorithm>
+#include <array>
+
 #include "catalogs/editors/path_window.h"
 #include "catalogs/missing_game.h"
 #include "catalogs/unused_seats.h"
@@ -91,15 +94,29 @@ Text TreeToBeginWith(Run& run, const Engine& engine) {
     return places.empty() ? run.System.Disk.UserHome() : places.front();
 }
 
-/// The tree that the engine is to play; "CANCEL" if the user wants none.
-Text AskForTree(Run& run, const Engine& engine) {
-    const Index answer = AskUser(run, "Which Game?",
-                                 Join(engine.Name, " lies in no game's directory.", NewLine, NewLine,
-                                      "Choose the directory of the game that it is to play: the one that holds the "
-                                      "game's data, as",
-                                      NewLine, "\"quake\" holds \"id1\"."),
-                                 "C&hoose,&Cancel");
-    return answer == 0 ? ChoosePath(run, TreeToBeginWith(run, engine), "Select Game Path") : Text(kPathCancelled);
+constexpr TextView kAsItIs = "";
+
+/// The tree that the engine is to play; "CANCEL" if the user wants none. A program that may be no engine at all can be
+/// taken as it is.
+Text AskForTree(Run& run, const Engine& engine, bool isKnown) {
+    const Index answer =
+        AskUser(run, "Which Game?",
+                Join(engine.Name, " lies in no game's directory.", NewLine, NewLine,
+                     "Choose the directory of the game that it is to play: the one that holds the game's data, as",
+                     NewLine, "\"quake\" holds \"id1\".",
+                     isKnown ? Text() : Join(NewLine, NewLine, "Added as it is, it starts where it lies.")),
+                isKnown ? "C&hoose,&Cancel" : "C&hoose,&As It Is,&Cancel");
+    if (answer == 0) {
+        return ChoosePath(run, TreeToBeginWith(run, engine), "Select Game Path");
+    }
+    return Text(!isKnown && answer == 1 ? kAsItIs : kPathCancelled);
+}
+
+// One of Windows' or DOS' plays from its own directory.
+bool IsHostsOwn(TextView program) {
+    return std::ranges::none_of(std::array<TextView, 4>{".exe", ".com", ".bat", ".cmd"}, [&](TextView ending) {
+        return program.size() > ending.size() && SameText(program.substr(program.size() - ending.size()), ending);
+    });
 }
 
 bool IsPlayedBy(const Engine& engine, Files& disk, TextView directory) {
@@ -107,21 +124,25 @@ bool IsPlayedBy(const Engine& engine, Files& disk, TextView directory) {
     return tree && Plays(engine, tree->GameKind);
 }
 
-/// An engine of today that lies in no game's directory: the user is asked which game it is to play, and the record gets
-/// its seat there. False if that came to nothing; the user knows why.
+/// An engine of today, or any program of the host's, that lies in no game's directory: the user is asked which game it
+/// is to play, and the record gets its seat there. False if that came to nothing; the user knows why.
 bool SeatOutsideEngine(AddExe_Frm& form, GameRecord& game) {
     Run& run = form.run;
     Files& disk = run.System.Disk;
     const Text program = OnDisk(game.Path);
-    const Engine* const engine =
+    const Engine* const known =
         form.Lists.Engines != nullptr ? EngineOf(*form.Lists.Engines, LastPathPart(program)) : nullptr;
     const bool isOutside = FactsOfDirectory(disk, DirectoryOf(program)).GameKind == Game::None;
-    if (engine == nullptr || !isOutside || !disk.StandIn("", "")) {
+    if ((known == nullptr && !IsHostsOwn(program)) || !isOutside || !disk.StandIn("", "")) {
         return true;
     }
-    const Text tree = AskForTree(run, *engine);
-    if (tree == kPathCancelled) {
-        return false;
+    Engine unknown;
+    unknown.Name = LastPathPart(program);
+    unknown.Games = kAllEngineGames;
+    const Engine* const engine = known != nullptr ? known : &unknown;
+    const Text tree = AskForTree(run, *engine, known != nullptr);
+    if (tree == kPathCancelled || tree == kAsItIs) {
+        return tree == kAsItIs;
     }
     if (!IsPlayedBy(*engine, disk, tree)) {
         TellFault(form, "ExePath_Txt",

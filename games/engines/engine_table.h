@@ -117,6 +117,7 @@ const Engine* EngineOf(const EngineTable& table, TextView programFileName);
 
 /// What the game's catalog entries may be played by: Quake's by those of QuakeWorld too.
 unsigned EngineGamesOf(Game game);
+constexpr unsigned kAllEngineGames = ~0U;
 inline bool Plays(const Engine& engine, Game game) {
     return (engine.Games & EngineGamesOf(game)) != 0;
 }

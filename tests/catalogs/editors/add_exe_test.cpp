@@ -173,6 +173,10 @@ class AddEngineOutside : public AddExe {
         user.Expect(
             {"Which Game?", "DarkPlaces lies in no game's directory.", answer, false, false, "C&hoose,&Cancel"});
     }
+    void ExpectUnknownAsked(int answer, TextView name = "my-engine") {
+        user.Expect({"Which Game?", Join(name, " lies in no game's directory."), answer, false, false,
+                     "C&hoose,&As It Is,&Cancel"});
+    }
     void ExpectTreeAsked(TextView answer, TextView beginning = "C:\\HOME") {
         ExpectTreeQuestion(0);
         user.In<Path_Frm>([answer, beginning](Path_Frm& shown) {
@@ -264,6 +268,52 @@ TEST_F(AddEngineOutside, ADirectoryWithoutAGameIsToldOf) {
     ExpectFault(form, AddExe_OK_Cmd_Click, "ExePath_Txt",
                 "There is no game in this directory that DarkPlaces could play: C:\\EMPTY");
     EXPECT_FALSE(form.Closed);
+}
+
+TEST_F(AddEngineOutside, AProgramThatNoTableKnowsGetsASeatToo) {
+    system.Disk.AddFile("Z:\\opt\\mine\\my-engine");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Mine", "Z:\\opt\\mine\\my-engine");
+    ExpectUnknownAsked(0);
+    user.In<Path_Frm>([](Path_Frm& shown) {
+        shown.Path_Lbl.Caption = "C:\\GAMES\\quake";
+        Path_OK_Cmd_Click(shown);
+    });
+    ExpectConfirmed("Mine now references C:\\GAMES\\quake\\my-engine");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(ProgramOfSeat(run, "C:\\GAMES\\quake\\my-engine"), "Z:\\opt\\mine\\my-engine");
+}
+
+TEST_F(AddEngineOutside, AProgramThatNoTableKnowsMayBeAddedAsItIs) {
+    system.Disk.AddFile("Z:\\home\\me\\bin\\start-quake");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Mine", "Z:\\home\\me\\bin\\start-quake");
+    ExpectUnknownAsked(1, "start-quake");
+    ExpectConfirmed("Mine now references Z:\\home\\me\\bin\\start-quake");
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_EQ(lists.Exe_Cbo.Items.back().Key, "Z:\\home\\me\\bin\\start-quake");
+    EXPECT_EQ(Stored("Seats", "Engines"), "(none)");
+}
+
+TEST_F(AddEngineOutside, TheQuestionOfAProgramThatNoTableKnowsCanBeCancelled) {
+    system.Disk.AddFile("Z:\\opt\\mine\\my-engine");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Mine", "Z:\\opt\\mine\\my-engine");
+    ExpectUnknownAsked(2);
+    AddExe_OK_Cmd_Click(form);
+    EXPECT_FALSE(form.Closed);
+    EXPECT_EQ(lists.Exe_Cbo.Items.size(), 1u);
+}
+
+TEST_F(AddEngineOutside, AProgramOfWindowsOrDosIsAskedForNoGame) {
+    for (const char* const program : {"Z:\\opt\\old\\my.exe", "Z:\\opt\\old\\GAME.COM", "Z:\\opt\\old\\go.bat"}) {
+        system.Disk.AddFile(program);
+        AddExe_Frm form(run, lists, EntryMode::Add);
+        Fill(form, LastPathPart(program), program);
+        ExpectConfirmed(Join(LastPathPart(program), " now references ", program));
+        AddExe_OK_Cmd_Click(form);
+        EXPECT_TRUE(form.Closed) << program;
+    }
 }
 
 TEST_F(AddEngineOutside, AnEngineInAGamesDirectoryIsTakenAsItIs) {
