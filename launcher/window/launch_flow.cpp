@@ -299,8 +299,9 @@ void LaunchThroughGameSpy(Click& click) {
     GameSpyConfig_Frm form(click.run, click.launcher.Window.Exe_Cbo);
     GameSpyConfig_Load(form);
     ShowModal(form);
-    if (form.DialogResult != 0 && ExecutableIsThere(click) && SpyNamesAreText(form, click.Selection, click.Game) &&
-        Compose(click)) {
+    if (form.DialogResult != 0 && ExecutableIsThere(click) &&
+        LinksAreUpToDate(click.run, click.Game.DefaultGameDirectory) &&
+        SpyNamesAreText(form, click.Selection, click.Game) && Compose(click)) {
         ConfigureInstead(click, form);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "games/engines/engine_seats.h"
 #include "games/engines/playing_directory.h"
+#include "gamespy/game_spy_config.h"
 #include "launcher/window/launch_flow.h"
 #include "tests/support/launcher_fixture.h"
 #include "tests/support/shipped_engines.h"
@@ -57,6 +58,15 @@ TEST_F(LinksLaunch, SayThatTheGameIsNotThereAndStayAsTheyAre) {
     EXPECT_TRUE(HasLink("id1\\pak1.pak"));
     EXPECT_FALSE(IsThere("lv_666.bat"));
     EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+TEST_F(LinksLaunch, FollowTheGameForGameSpyToo) {
+    TakeDiskOut();
+    window.Box(Option::LaunchQspy_Chk).Value = 1;
+    user.In<GameSpyConfig_Frm>([](GameSpyConfig_Frm& form) { form.DialogResult = 1; });
+    user.Expect({"Game Not There", Join("\r\n\r\n\t", kTree, "\r\n\r\nand there is no game now.")});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_FALSE(IsThere("lv_666.bat"));
 }
 
 TEST_F(LinksLaunch, AskWhetherToGoOnWhereTheyCannotFollow) {
