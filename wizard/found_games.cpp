@@ -19,6 +19,12 @@ Text Listed(const std::vector<Text>& names) {
     return list;
 }
 
+Text CrowdedText(const FoundGames& found) {
+    return found.Crowded.empty() ? Text()
+                                 : Join(" ", Listed(found.Crowded),
+                                        " holds too much for a quick look: 'Do An Auto-Search' looks through it all.");
+}
+
 bool IsForRow(const Engine& engine, std::size_t row) {
     return std::ranges::any_of(
         AllGames(), [&](const GameFacts& game) { return game.WizardRow == row && Plays(engine, game.GameKind); });
@@ -33,7 +39,7 @@ FoundGames LookAround(Run& run, const EngineTable& engines) {
         return found;
     }
     found.HasLooked = true;
-    found.Trees = QuickLook(run.System.Disk, places);
+    found.Trees = QuickLook(run.System.Disk, places, &found.Crowded);
     std::erase_if(found.Trees, [](const GameTree& tree) {
         return std::ranges::any_of(tree.Directory, [](char c) { return static_cast<unsigned char>(c) < 0x20; });
     });
@@ -116,10 +122,10 @@ Text FoundText(const FoundGames& found) {
         return !found.HasLooked ? Text()
                                 : Join("No game found in the usual places.",
                                        engines.empty() ? Text() : Join(" Here to play with: ", Listed(engines), "."),
-                                       " Tick yours, and press 'Browse' or 'Do An Auto-Search'.");
+                                       CrowdedText(found), " Tick yours, and press 'Browse' or 'Do An Auto-Search'.");
     }
     return Join("Found: ", Listed(games), ".", engines.empty() ? Text() : Join(" Plays here: ", Listed(engines), "."),
-                unplayed.empty() ? Text() : Join(" No engine here for: ", Listed(unplayed), "."),
+                unplayed.empty() ? Text() : Join(" No engine here for: ", Listed(unplayed), "."), CrowdedText(found),
                 " Click 'OK' to go on.");
 }
 

@@ -19,6 +19,7 @@ struct FoundGames {
     bool HasLooked = false;             // the system knows usual places
     std::vector<GameTree> Trees;        // in the order in which they are offered
     std::vector<FoundEngine> Engines;   // outside of the trees; servers too
+    std::vector<Text> Crowded;          // usual places that hold more than was looked through
     std::vector<std::size_t> Playable;  // rows of the wizard with a program in the game's own directory
 };
 

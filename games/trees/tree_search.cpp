@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "foundation/field_strings.h"
+#include "games/games.h"
 #include "games/trees/steam_games.h"
 
 namespace lv {
@@ -48,7 +49,17 @@ bool IsPassedOver(TextView name) {
            std::ranges::any_of(kPassedOver, [&](TextView each) { return SameText(each, name); });
 }
 
+// By the first word of a game's name: "quake-full", "Hexen II".
+bool IsCalledLikeAGame(TextView name) {
+    return std::ranges::any_of(AllGames(), [&](const GameFacts& game) {
+        return StartsWithText(name, game.Name.substr(0, game.Name.find(' ')));
+    });
+}
+
 bool ComesBefore(const Text& a, const Text& b) {
+    if (const bool first = IsCalledLikeAGame(a); first != IsCalledLikeAGame(b)) {
+        return first;
+    }
     const Text lowerA = LowerCase(a);
     const Text lowerB = LowerCase(b);
     return lowerA != lowerB ? lowerA < lowerB : a < b;
@@ -156,18 +167,26 @@ bool TreeSearch::OpenNextPlace() {
     if (usual_.empty()) {
         return false;
     }
+    place_ = usual_.front().Path;
     waiting_.push_back(std::move(usual_.front()));
     usual_.pop_front();
     listedHere_ = 0;
     return true;
 }
 
+void TreeSearch::LeavePlace() {
+    if (!waiting_.empty()) {
+        crowded_.push_back(place_);
+        waiting_.clear();
+    }
+}
+
 bool TreeSearch::Step() {
+    if (listed_ >= kMostListed || listedHere_ >= kMostListedInAPlace) {
+        LeavePlace();
+    }
     if (listed_ >= kMostListed) {
         return false;
-    }
-    if (listedHere_ >= kMostListedInAPlace) {
-        waiting_.clear();
     }
     if (waiting_.empty() && !OpenNextPlace()) {
         return false;
@@ -217,9 +236,12 @@ void TreeSearch::AddBelow(const Waiting& place, const std::vector<DirectoryEntry
     }
 }
 
-std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places) {
+std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places, std::vector<Text>* crowded) {
     TreeSearch search(files, places);
     while (search.Step()) {
+    }
+    if (crowded != nullptr) {
+        *crowded = search.Crowded();
     }
     return search.Found();
 }

@@ -35,6 +35,9 @@ class TreeSearch {
     /// launchers have noted down, Wine's prefixes, the drives. Each tree once.
     [[nodiscard]] const std::vector<GameTree>& Found() const { return found_; }
 
+    /// The places that hold more than was looked through.
+    [[nodiscard]] const std::vector<Text>& Crowded() const { return crowded_; }
+
     /// How many directories were listed.
     [[nodiscard]] std::size_t Listed() const { return listed_; }
 
@@ -44,6 +47,7 @@ class TreeSearch {
         int Depth = 0;  // how many levels below it are still looked at
     };
     bool OpenNextPlace();
+    void LeavePlace();
     void AddStage();
     void AddDrives();
     void AddPrefixes();
@@ -59,16 +63,18 @@ class TreeSearch {
     KnownPlaces* places_;
     int stage_ = 0;
     std::deque<Waiting> usual_;    // places still to come
-    std::deque<Waiting> waiting_;  // of the present place, nearest first
+    Text place_;                   // the present one
+    std::deque<Waiting> waiting_;  // of that, nearest first, and those that are called like a game ahead of others
     std::size_t listedHere_ = 0;
     std::size_t listed_ = 0;
     Text at_;
     std::unordered_map<std::uint64_t, int> met_;  // by identity: to what depth
     std::unordered_set<std::uint64_t> trees_;
     std::vector<GameTree> found_;
+    std::vector<Text> crowded_;
 };
 
 /// All of it at once.
-std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places);
+std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places, std::vector<Text>* crowded = nullptr);
 
 }  // namespace lv

@@ -38,6 +38,17 @@ TEST_F(FoundGamesTest, WhatCouldPlayIsNamedWithoutAGameToo) {
         "'Do An Auto-Search'.");
 }
 
+TEST_F(FoundGamesTest, ACrowdedPlaceIsTold) {
+    AddQuake();
+    for (int i = 0; i < 1000; ++i) {
+        system.Disk.AddDirectory(Join("C:\\HOME\\games\\a", std::to_string(i)));
+    }
+    AddEngine("quakespasm");
+    EXPECT_EQ(FoundText(LookAround(run, launcher.Engines)),
+              "Found: Quake. Plays here: QuakeSpasm. C:\\HOME\\games holds too much for a quick look: 'Do An "
+              "Auto-Search' looks through it all. Click 'OK' to go on.");
+}
+
 TEST_F(FoundGamesTest, ADirectoryWithALineEndInItsNameIsPassedOver) {
     system.Disk.AddFile("C:\\HOME\\games\\new\nline\\id1\\pak0.pak");
     EXPECT_TRUE(LookAround(run, launcher.Engines).Trees.empty());

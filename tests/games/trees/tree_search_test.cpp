@@ -62,6 +62,33 @@ TEST(QuickLook, DoesNotLookElsewhere) {
     EXPECT_EQ(std::ranges::count(system.Disk.Listed, "C:\\HOME\\Documents"), 0);
 }
 
+TEST(QuickLook, LooksAtDirectoriesThatAreCalledLikeAGameFirst) {
+    MemoryPlatform system;
+    system.Places.IsGames = {"C:\\HOME\\games"};
+    for (int i = 0; i < 1000; ++i) {
+        system.Disk.AddDirectory(Join("C:\\HOME\\games\\a", std::to_string(i)));
+    }
+    system.Disk.AddFile("C:\\HOME\\games\\Quake (full)\\id1\\pak0.pak");
+    system.Disk.AddFile("C:\\HOME\\games\\hexen2\\data1\\pak0.pak");
+    system.Disk.AddFile("C:\\HOME\\games\\zzz\\id1\\pak0.pak");
+    TreeSearch search(system.Disk, &system.Places);
+    while (search.Step()) {
+    }
+    EXPECT_EQ(PathsOf(search.Found()), (Paths{"C:\\HOME\\games\\hexen2", "C:\\HOME\\games\\Quake (full)"}));
+    EXPECT_EQ(search.Crowded(), (Paths{"C:\\HOME\\games"}));
+}
+
+TEST(QuickLook, TellsOfNoPlaceThatItHasLookedThrough) {
+    MemoryPlatform system;
+    system.Places.IsGames = {"C:\\HOME\\games"};
+    for (std::size_t i = 1; i < kMostListedInAPlace; ++i) {
+        system.Disk.AddDirectory(Join("C:\\HOME\\games\\a", std::to_string(i)));
+    }
+    Paths crowded = {"?"};
+    QuickLook(system.Disk, &system.Places, &crowded);
+    EXPECT_EQ(crowded, Paths());
+}
+
 TEST(QuickLook, FindsInTheOrderOfThePlaces) {
     MemoryPlatform system;
     system.Places.IsGames = {"C:\\HOME\\games", "Z:\\usr\\share\\games"};
