@@ -2,7 +2,7 @@
 # one library of each subsystem that links what its folders may know, and nothing else.
 
 # From below to above.
-set(LV_SUBSYSTEMS platform foundation games catalogs video launch gamespy launcher foundry wizard)
+set(LV_SUBSYSTEMS platform foundation games console catalogs video launch gamespy launcher foundry wizard)
 set(ROOMS_platform starting toolkit)
 set(ROOMS_games engines fitting trees)
 set(ROOMS_catalogs editors)
@@ -18,6 +18,7 @@ set(MAY_games/trees games/trees ${MAY_games})
 set(MAY_games/engines games/engines ${MAY_games/trees})
 set(MAY_games/fitting games/fitting games/engines ${MAY_games})
 set(ALL_OF_GAMES games games/engines games/fitting games/trees foundation platform)
+set(MAY_console console ${ALL_OF_GAMES})
 set(MAY_catalogs catalogs ${ALL_OF_GAMES})
 set(MAY_catalogs/editors catalogs/editors ${MAY_catalogs})
 set(MAY_video video ${ALL_OF_GAMES})
