@@ -83,7 +83,7 @@ constexpr ListLine kViewLists[] = {
     {"cl_bobup", &ScriptSettings::cl_bobup_Cbo},
 };
 
-// The keypad, which only the newer games tell from the main keys.
+// The keypad.
 constexpr KeyIndex kFirstKeypadKey = 82;
 constexpr KeyIndex kLastKeypadKey = 95;
 
@@ -305,8 +305,7 @@ void AddBindings(Writing& w) {
     const KeyStyle style = StyleOfFamily(w.Document.Dialect.ScriptFamily);
     for (KeyIndex key = 0; key < kKeyCount; ++key) {
         const Text& command = w.Document.KeyBinding[static_cast<std::size_t>(key)];
-        const bool isKeypad = key >= kFirstKeypadKey && key <= kLastKeypadKey;
-        if (command.empty() || (isKeypad && !w.IsNew)) {
+        if (command.empty() || !IsWrittenKey(key, w.Document.Dialect.ScriptFamily)) {
             continue;
         }
         const WrittenKey name = KeyName(key, style);
@@ -343,6 +342,10 @@ void RaiseWeaponName(Text& script) {
 }
 
 }  // namespace
+
+bool IsWrittenKey(KeyIndex key, Dialect family) {
+    return key < kFirstKeypadKey || key > kLastKeypadKey || family == Dialect::Quake2;
+}
 
 Text ConsoleScript(const ScriptDocument& document, const LocalTime& date) {
     const Game kind = document.Dialect.GameKind;

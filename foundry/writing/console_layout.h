@@ -9,6 +9,9 @@
 
 namespace lv {
 
+/// Whether a binding of the key is written: only the newer games tell the keypad from the main keys.
+bool IsWrittenKey(KeyIndex key, Dialect family);
+
 /// A list without a selection has no line.
 Text ConsoleScript(const ScriptDocument& document, const LocalTime& date);
 
