@@ -1,0 +1,86 @@
+#include "foundry/losses/loss_words.h"
+
+namespace lv {
+
+namespace {
+
+Text Quoted(TextView text) {
+    return Join(DoubleQuote, text, DoubleQuote);
+}
+
+TextView NameOfKind(EffectKind kind) {
+    switch (kind) {
+        case EffectKind::Bind:
+            return "The key ";
+        case EffectKind::Alias:
+            return "The alias ";
+        default:
+            return "The setting ";
+    }
+}
+
+/// What is free, or gone: no key has commands, no alias a body.
+TextView NothingOf(EffectKind kind) {
+    return kind == EffectKind::Bind ? "free" : "removed";
+}
+
+bool IsOfAll(const ScriptDifference& difference) {
+    return difference.Identity == "unbindall" || difference.Identity == "unaliasall";
+}
+
+Text LostWords(const ScriptDifference& difference) {
+    const Text name = Join(NameOfKind(difference.What), difference.Name);
+    if (!difference.Before.IsSet) {
+        return Join(name, " is no longer ", NothingOf(difference.What), ".");
+    }
+    return difference.What == EffectKind::Bind ? Join(name, " loses ", Quoted(difference.Before.Value), ".")
+                                               : Join(name, " is lost: ", Quoted(difference.Before.Value), ".");
+}
+
+Text ChangedWords(const ScriptDifference& difference) {
+    const Text was = difference.Before.IsSet ? Quoted(difference.Before.Value) : Text(NothingOf(difference.What));
+    return Join(NameOfKind(difference.What), difference.Name, " gets ", Quoted(difference.After.Value), " and was ",
+                was, ".");
+}
+
+Text AddedWords(const ScriptDifference& difference) {
+    const Text name = Join(NameOfKind(difference.What), difference.Name);
+    return difference.After.IsSet
+               ? Join(name, " gets ", Quoted(difference.After.Value), ", and the file leaves it alone.")
+               : Join(name, " is ", NothingOf(difference.What), ", and the file leaves it alone.");
+}
+
+Text ActionWords(const ScriptDifference& difference) {
+    switch (difference.Kind) {
+        case DifferenceKind::Moved:
+            return Join(Quoted(difference.Before.Value),
+                        " runs in another place: what it sets and what the script sets "
+                        "override each other the other way round.");
+        case DifferenceKind::Added:
+            return Join(Quoted(difference.After.Value), " is run, and the file does not run it.");
+        default:
+            return Join(Quoted(difference.Before.Value), " is lost.");
+    }
+}
+
+}  // namespace
+
+Text WordsOf(const ScriptDifference& difference) {
+    if (IsOfAll(difference)) {
+        return difference.Kind == DifferenceKind::Added ? Join(Quoted(difference.Name), " is run.")
+                                                        : Join(Quoted(difference.Name), " is lost.");
+    }
+    if (difference.What == EffectKind::Action) {
+        return ActionWords(difference);
+    }
+    switch (difference.Kind) {
+        case DifferenceKind::Lost:
+            return LostWords(difference);
+        case DifferenceKind::Added:
+            return AddedWords(difference);
+        default:
+            return ChangedWords(difference);
+    }
+}
+
+}  // namespace lv

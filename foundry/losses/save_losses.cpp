@@ -1,0 +1,80 @@
+#include "foundry/losses/save_losses.h"
+
+#include <algorithm>
+
+#include "foundry/losses/loss_reasons.h"
+#include "foundry/losses/loss_words.h"
+
+namespace lv {
+
+namespace {
+
+constexpr TextView kOwnSection = "[lorvane 3d] ";
+
+/// The lines that the game shows when it runs a script of this program, of whatever version.
+bool IsBannerEcho(TextView action) {
+    constexpr TextView kEchoes[] = {"echo |========================|", "echo |........................|"};
+    constexpr TextView kStarts[] = {"echo |==setup", "echo |..setup"};
+    return std::ranges::any_of(kEchoes, [action](TextView each) { return SameText(action, each); }) ||
+           std::ranges::any_of(kStarts, [action](TextView each) { return StartsWithText(action, each); });
+}
+
+bool IsOfThisProgram(const ScriptDifference& difference) {
+    return difference.What == EffectKind::Action
+               ? IsBannerEcho(difference.Before.Line > 0 ? difference.Before.Value : difference.After.Value)
+               : difference.Identity.starts_with(kOwnSection);
+}
+
+Text TooLongWords(const ScriptEffects& file, const ScriptEffects& written) {
+    if (file.TooLong || !written.TooLong) {
+        return {};
+    }
+    const ConsoleRules& rules = RulesOf(written.Of);
+    return Join("The script gets longer than the ", std::to_string(rules.Buffer), " bytes that ", rules.Name,
+                " takes at once: the game would run none of it.");
+}
+
+}  // namespace
+
+Console ConsoleOfDialect(const ScriptDialect& dialect) {
+    return ConsoleOf(dialect.GameKind, dialect.IsQuakeWorld);
+}
+
+EffectNames EditedNames(TextView unedited, TextView written, Console console) {
+    EffectNames names;
+    for (const ScriptDifference& each : CompareScripts(EffectsOf(unedited, console), EffectsOf(written, console))) {
+        names.emplace(each.What, each.Identity);
+    }
+    return names;
+}
+
+SaveReport ReportSave(const SaveTexts& texts, const EffectNames& edited, const ScriptDialect& dialect,
+                      Console console) {
+    const ScriptEffects file = EffectsOf(texts.File, console);
+    const ScriptEffects written = EffectsOf(texts.Written, console);
+    const LossReasons reasons(texts.File, file, written, dialect);
+    SaveReport report;
+    report.TooLong = TooLongWords(file, written);
+    for (ScriptDifference& difference : CompareScripts(file, written)) {
+        if (IsOfThisProgram(difference)) {
+            continue;
+        }
+        SaveLoss loss;
+        loss.ByUser = edited.contains({difference.What, difference.Identity});
+        loss.Words = WordsOf(difference);
+        loss.Reason = loss.ByUser ? Text("You have changed it.") : reasons.ReasonOf(difference);
+        loss.Difference = std::move(difference);
+        report.Losses.push_back(std::move(loss));
+    }
+    std::stable_partition(report.Losses.begin(), report.Losses.end(),
+                          [](const SaveLoss& loss) { return loss.Difference.Kind != DifferenceKind::Added; });
+    return report;
+}
+
+bool LosesSomething(const SaveReport& report) {
+    return std::ranges::any_of(report.Losses, [](const SaveLoss& loss) {
+        return !loss.ByUser && loss.Difference.Kind != DifferenceKind::Added;
+    });
+}
+
+}  // namespace lv

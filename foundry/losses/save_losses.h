@@ -1,0 +1,48 @@
+// foundry/losses/save_losses.h
+//
+// What a save of a script would lose or change for the game that runs it, in plain words.
+
+#pragma once
+
+#include <set>
+#include <utility>
+#include <vector>
+
+#include "console/script_comparison.h"
+#include "foundry/document/script_document.h"
+
+namespace lv {
+
+struct SaveTexts {
+    TextView File;     // as it stands on the disk
+    TextView Written;  // what the save would put there
+};
+
+/// What a script sets, by kind and the identity of its name.
+using EffectNames = std::set<std::pair<EffectKind, Text>>;
+
+/// What the user has changed in the editor: the written text beside the one that a save would have written right after
+/// opening. All else that differs from the file has come from reading and writing.
+EffectNames EditedNames(TextView unedited, TextView written, Console console);
+
+struct SaveLoss {
+    ScriptDifference Difference;
+    bool ByUser = false;  // they have changed it in the editor
+    Text Words;           // "The key ESCAPE loses \"togglemenu\"."
+    Text Reason;          // "Setup Foundry has no key ESCAPE."
+};
+
+struct SaveReport {
+    std::vector<SaveLoss> Losses;  // lost, changed and moved ones first, then those that are added
+    Text TooLong;                  // where the game would run nothing of the written script, for it is too long
+};
+
+/// The console that scripts of this dialect are written for, unless it is known which engine runs them.
+Console ConsoleOfDialect(const ScriptDialect& dialect);
+
+SaveReport ReportSave(const SaveTexts& texts, const EffectNames& edited, const ScriptDialect& dialect, Console console);
+
+/// Whether something would be lost, changed or moved that the user has not changed themselves.
+bool LosesSomething(const SaveReport& report);
+
+}  // namespace lv

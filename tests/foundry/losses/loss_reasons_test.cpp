@@ -1,0 +1,109 @@
+#include "foundry/losses/loss_reasons.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/foundry/losses/save_rounds.h"
+
+namespace lv {
+namespace {
+
+struct ReasonCase {
+    const char* About;
+    ScriptDialect Dialect;
+    Text File;
+    Text Losses;
+};
+
+Text ManyBinds(int count) {
+    constexpr TextView kKeys = "abcdefghijklmnopqrstuvwxyz0123456789";
+    Text script;
+    for (int i = 0; i < count; ++i) {
+        script +=
+            Join("bind ", kKeys.substr(static_cast<std::size_t>(i), 1), " \"toggle r_", std::to_string(i), "\"\n");
+    }
+    return script;
+}
+
+const ReasonCase kCases[] = {
+    {"key", kQuakeDialect, "bind ESCAPE \"togglemenu\"",
+     "The key ESCAPE loses \"togglemenu\". (Setup Foundry has no key ESCAPE.)"},
+    {"keypad", kHexen2Dialect, "bind KP_HOME \"+attack\"",
+     "The key KP_HOME loses \"+attack\". (Setup Foundry writes no keys of the keypad for this game.)"},
+    {"words", kQuake2Dialect, "bind a say hello",
+     "The key a gets \"say\" and was \"say hello\". (It has several words without quotes, and Setup Foundry reads the "
+     "first of them.)"},
+    {"own command", kQuakeDialect, "bind a \"slot1\"",
+     "The key a gets \"impulse 1\" and was \"slot1\". (Setup Foundry writes its own command for this function: "
+     "\"impulse 1\".)"},
+    {"another game's", kHexen2Dialect, "bind a \"impulse 8\"",
+     "The key a loses \"impulse 8\". (To Setup Foundry \"impulse 8\" is a command of another game.)"},
+    {"extras", kQuakeDialect, ManyBinds(25),
+     "The key y loses \"toggle r_24\". (Setup Foundry has room for 24 other commands, and the script has more.)"},
+    {"comment in a binding", kQuakeDialect, "bind a \"say http://x\"",
+     "The key a gets \"say http:\" and was \"say http://x\". (Setup Foundry ends a line at //, in quotes too.)"},
+    {"comment in an alias", kQuakeDialect, "alias x \"say http://x\"",
+     "The alias x gets \"say http:\" and was \"say http://x\". (Setup Foundry ends a line at //, in quotes too.)"},
+    {"comment in a setting", kQuakeDialect, "gl_x \"a//b\"",
+     "The setting gl_x gets \"a\" and was \"a//b\". (Setup Foundry ends a line at //, in quotes too.)"},
+    {"comment in an action", kQuakeDialect, "echo \"a//b\"",
+     "\"echo a//b\" is lost. (Setup Foundry ends a line at //, in quotes too.)"},
+    {"order", kQuakeDialect, "unbind a\nbind a \"impulse 99\"",
+     "The key a loses \"impulse 99\". (\"unbind a\" is written behind the bindings, and runs behind them.)"},
+    {"empty alias", kQuakeDialect, "alias zoom \"\"",
+     "The alias zoom is lost: \"\". (Setup Foundry keeps no alias without commands.)"},
+    {"alias again", kQuakeDialect, "alias zoom a\nalias zoom b",
+     "The alias zoom gets \"a\" and was \"b\". (The script defines it more than once; Setup Foundry keeps the first "
+     "one, a game the last.)"},
+    {"alias's words", kQuakeDialect, "alias hi say hello",
+     "The alias hi gets \"say\" and was \"say hello\". (It has several words without quotes, and Setup Foundry reads "
+     "the first of them.)"},
+    {"letter case", kQuakeDialect, "alias hi \"say Hello\"",
+     "The alias hi gets \"say hello\" and was \"say Hello\". (Setup Foundry writes aliases in small letters.)"},
+    {"second command", kQuakeDialect, "fov 90; alias hi \"say hello\"",
+     "The alias hi is lost: \"say hello\". (It is not the first command of its line, and Setup Foundry reads no "
+     "others.)"},
+    {"setting's letter case", kQuakeDialect, "Fov 90",
+     "The setting Fov is lost: \"90\". (Setup Foundry writes the names of settings in small letters.)"},
+    {"setting's place", kQuakeDialect, "sv_aim 0.9",
+     "The setting sv_aim is lost: \"0.9\". (Setup Foundry has a place of its own for it, and writes that in another "
+     "way.)"},
+    {"setting's value", kQuakeDialect, "joystick 2",
+     "The setting joystick gets \"0\" and was \"2\". (Setup Foundry keeps such a value otherwise.)"},
+    {"set", kQuakeDialect, "set fov 90",
+     "\"set fov 90\" is lost. (Setup Foundry has a place of its own for fov, and writes that in another way.)"},
+    {"head", kQuakeDialect, "[x] y",
+     "The setting [x] is lost: \"y\". (Setup Foundry takes a line that begins with [ for the head of a section.)"},
+    {"empty lines", kQuakeDialect, Join("echo a", Text(102, '\n'), "bind a \"impulse 99\""),
+     "The key a loses \"impulse 99\". (It stands behind more than a hundred empty lines, where Setup Foundry takes a "
+     "script to end.)"},
+    {"called alias", kQuakeDialect, "alias b \"bind x q\"\nb\nbind x \"impulse 99\"",
+     "The key x gets \"q\" and was \"impulse 99\". (\"b\" is written behind the bindings, and runs behind them.)"},
+    {"script that is run", kQuakeDialect, "exec base.cfg\nbind a \"impulse 99\"",
+     "\"exec base.cfg\" runs in another place: what it sets and what the script sets override each other the other way "
+     "round. (Setup Foundry writes settings, aliases and bindings ahead of all other lines.)"},
+    {"escape", kHalfLifeDialect, "bind \\ \"impulse 99\"",
+     "The key \\ loses \"impulse 99\". (Setup Foundry writes the key in quotes, and there the \\ belongs to the quote "
+     "behind it.)"},
+    {"ini's key", kUnrealDialect,
+     "[Engine.Input]\nEscape=Fire\nMouseX=Axis aMouseX Speed=6.0\nMouseY=Axis aMouseY Speed=6.0",
+     "The key Escape gets \"ShowMenu\" and was \"Fire\". (Setup Foundry always writes its own command for this key.)"},
+    {"ini's setting", kUnrealDialect, "[x]\nGamma=0.5",
+     "The setting [x] gamma is lost: \"0.5\". (Setup Foundry has a place of its own for it, and writes that in another "
+     "way.)"},
+};
+
+}  // namespace
+
+TEST(LossReasons, AreThoseOfTheTablesAndRules) {
+    for (const ReasonCase& each : kCases) {
+        EXPECT_EQ(LossesOf(each.Dialect, each.File), each.Losses) << each.About;
+    }
+}
+
+TEST(LossReasons, SayWhatIsAlwaysWritten) {
+    const SaveReport report = ReportOf(kQuakeDialect, "echo a");
+    ASSERT_FALSE(report.Losses.empty());
+    EXPECT_EQ(report.Losses.front().Reason, "Setup Foundry writes it into each script.");
+}
+
+}  // namespace lv
