@@ -1,10 +1,10 @@
 #include "foundry/editor/rescued_edits.h"
 
-#include <cstdint>
 #include <exception>
 
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
+#include "foundry/document/script_mark.h"
 #include "foundry/editor/aliases_page.h"
 #include "foundry/editor/kind_layout.h"
 #include "foundry/reading/open_script.h"
@@ -18,24 +18,8 @@ constexpr TextView kRescueName = "SetupFoundry_Rescue_";
 constexpr const char* kTitle = "Setup Foundry";
 constexpr int kTakeUp = 0;
 
-/// The same for all spellings of a path (FNV-1a, 64 bit, in hexadecimal).
-Text MarkOf(TextView script) {
-    constexpr char kDigits[] = "0123456789abcdef";
-    constexpr int kBits = 64;
-    constexpr int kBitsOfDigit = 4;
-    std::uint64_t hash = 0xcbf29ce484222325U;
-    for (const char letter : LowerCase(script)) {
-        hash = (hash ^ static_cast<unsigned char>(letter)) * 0x100000001b3U;
-    }
-    Text mark;
-    for (int shift = kBits - kBitsOfDigit; shift >= 0; shift -= kBitsOfDigit) {
-        mark += kDigits[(hash >> static_cast<unsigned>(shift)) & 0xfU];
-    }
-    return mark;
-}
-
 Text NameOf(TextView script) {
-    return Join(kRescueName, MarkOf(script), ".txt");
+    return Join(kRescueName, ScriptMark(script), ".txt");
 }
 
 /// Where the script's directory takes none. Several users may share it.

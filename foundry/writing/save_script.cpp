@@ -12,6 +12,7 @@
 #include "foundry/document/bindings.h"
 #include "foundry/document/script_backup.h"
 #include "foundry/document/script_messages.h"
+#include "foundry/versions/script_versions.h"
 #include "foundry/writing/compose_script.h"
 #include "foundry/writing/save_filters.h"
 
@@ -109,6 +110,20 @@ bool HasBackup(Run& run, ScriptDocument& document, const Text& path) {
     return true;
 }
 
+/// What the save replaces is kept. A save by itself asks nothing: it would ask again each time.
+bool KeepsWhatItReplaces(Run& run, const Text& path, bool quiet) {
+    const Error failed = KeepVersion(run, path);
+    if (!failed || quiet) {
+        return true;
+    }
+    const Index answer =
+        AskUser(run, kTitle,
+                Join("What the file holds now could not be kept as a version, to be brought back later:", NewLine,
+                     NewLine, ErrorLines(failed)),
+                "&Save Anyway,&Cancel");
+    return answer == 0 || SayNotSaved(run);
+}
+
 Error Put(Run& run, const ScriptDocument& document, const Text& path) {
     try {
         return run.System.Disk.Replace(path, ComposeScript(document, run.System.Time.Now()));
@@ -147,7 +162,8 @@ bool SaveScript(Run& run, CatalogLists& lists, ScriptDocument& document, ScriptV
             return false;
         }
     }
-    if (!MayFollowLink(run, document, path) || !HasBackup(run, document, path) || !Write(run, document, path)) {
+    if (!MayFollowLink(run, document, path) || !HasBackup(run, document, path) ||
+        !KeepsWhatItReplaces(run, path, manner.Quiet) || !Write(run, document, path)) {
         return false;
     }
     FreeEmptyBindings(document, view);

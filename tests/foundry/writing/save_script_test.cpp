@@ -3,6 +3,7 @@
 #include <new>
 
 #include "foundry/reading/bind_line.h"
+#include "foundry/versions/script_versions.h"
 #include "tests/foundry/script_fixture.h"
 #include "tests/foundry/watching_view.h"
 #include "tests/support/launcher_fixture.h"
@@ -166,8 +167,32 @@ TEST_F(SaveScriptTest, AFailureUnderANewNameLeavesTheOldName) {
 TEST_F(SaveScriptTest, TouchesTheFileInOneStepOnly) {
     system.Disk.Log.clear();
     EXPECT_TRUE(Save({SaveName::Same, true, false}));
-    const std::vector<std::string> log = {"replace C:\\QUAKE\\ID1\\MY.CFG"};
+    const std::vector<std::string> log = {Join("replace ", VersionFilePathOf(run, kPath)),
+                                          "replace C:\\QUAKE\\ID1\\MY.CFG"};
     EXPECT_EQ(system.Disk.Log, log);
+}
+
+TEST_F(SaveScriptTest, KeepsWhatItReplacesAsAVersion) {
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    const std::vector<ScriptVersion> versions = VersionsOf(run, kPath);
+    ASSERT_EQ(versions.size(), 1u);
+    EXPECT_EQ(versions[0].Text, "the old script");
+}
+
+TEST_F(SaveScriptTest, WithoutAVersionGoesOnOnlyIfTheUserWantsIt) {
+    system.Disk.Refused[LowerCase(VersionFilePathOf(run, kPath))] = MakeError(error::kDiskFull);
+    for (const int answer : {1, 0}) {
+        user.Expect({"Setup Foundry", "What the file holds now could not be kept as a version", answer, false, false,
+                     "&Save Anyway,&Cancel"});
+        answer == 0 ? ExpectSuccess() : ExpectNotSaved();
+        EXPECT_EQ(Save(), answer == 0);
+        EXPECT_EQ(system.Disk.Bytes(kPath) == "the old script", answer == 1);
+    }
+}
+
+TEST_F(SaveScriptTest, ByItselfAsksNothingForWantOfAVersion) {
+    system.Disk.Refused[LowerCase(VersionFilePathOf(run, kPath))] = MakeError(error::kDiskFull);
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
 }
 
 TEST_F(SaveScriptTest, UnderANewNameAsksInTheGamesDirectory) {

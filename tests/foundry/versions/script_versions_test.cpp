@@ -1,0 +1,131 @@
+#include "foundry/versions/script_versions.h"
+
+#include <gtest/gtest.h>
+
+#include "foundation/field_strings.h"
+#include "platform/memory/memory_platform.h"
+#include "tests/support/scripted_user.h"
+
+namespace lv {
+
+namespace {
+
+constexpr TextView kScript = "C:\\GAME\\ID1\\my.cfg";
+
+class ScriptVersions : public ::testing::Test {
+  protected:
+    ScriptVersions() { system.Places.IsData = "C:\\HOME\\share"; }
+    void Put(TextView text) { system.Disk.AddFile(kScript, text); }
+    void SaveOver(TextView text) {
+        ASSERT_EQ(KeepVersion(run, kScript).Number, 0);
+        Put(text);
+    }
+    std::vector<Text> Texts(TextView script = kScript) {
+        std::vector<Text> texts;
+        for (const ScriptVersion& version : VersionsOf(run, script)) {
+            texts.push_back(version.Text);
+        }
+        return texts;
+    }
+    Text FilePath() { return VersionFilePathOf(run, kScript); }
+
+    MemoryPlatform system;
+    ScriptedUser user;
+    lv::Run run{system.Services, user};
+};
+
+}  // namespace
+
+TEST_F(ScriptVersions, AreWhatSavesHaveReplacedNewestFirst) {
+    Put("one");
+    SaveOver("two");
+    SaveOver("three");
+    EXPECT_EQ(Texts(), (std::vector<Text>{"two", "one"}));
+    EXPECT_EQ(Texts("c:\\game\\id1\\MY.CFG"), (std::vector<Text>{"two", "one"}));
+    EXPECT_EQ(Texts("C:\\GAME\\ID1\\other.cfg"), std::vector<Text>());
+}
+
+TEST_F(ScriptVersions, AScriptThatIsNotThereLeavesNone) {
+    EXPECT_EQ(KeepVersion(run, kScript).Number, 0);
+    EXPECT_FALSE(system.Disk.FileExists(FilePath()));
+}
+
+TEST_F(ScriptVersions, LieInTheDirectoryForData) {
+    EXPECT_EQ(FilePath(), "C:\\HOME\\share\\lorvane3d\\versions\\6984774b21144a50.txt");
+}
+
+TEST_F(ScriptVersions, LieBesideTheProgramWhereThereIsNoSuchDirectory) {
+    system.Places.IsData.clear();
+    run.AppDirectory = "C:\\LORVANE";
+    EXPECT_TRUE(FilePath().starts_with("C:\\LORVANE\\versions\\")) << FilePath();
+}
+
+TEST_F(ScriptVersions, TheSameTextIsKeptOnceAsTheNewest) {
+    Put("one");
+    SaveOver("one");
+    SaveOver("two");
+    SaveOver("one");
+    SaveOver("three");
+    EXPECT_EQ(Texts(), (std::vector<Text>{"one", "two"}));
+}
+
+TEST_F(ScriptVersions, TheOldestOfMoreThanFiftyGoes) {
+    for (int i = 0; i <= 60; ++i) {
+        Put(std::to_string(i));
+        ASSERT_EQ(KeepVersion(run, kScript).Number, 0);
+    }
+    const std::vector<Text> texts = Texts();
+    EXPECT_EQ(texts.size(), 50u);
+    EXPECT_EQ(texts.front(), "60");
+    EXPECT_EQ(texts.back(), "11");
+}
+
+TEST_F(ScriptVersions, AreForTheirOwnerAlone) {
+    Put("one");
+    SaveOver("two");
+    EXPECT_TRUE(system.Disk.Private.contains(LowerCase(FilePath())));
+}
+
+TEST_F(ScriptVersions, OneThatIsBroughtBackLeavesWhatItReplaces) {
+    Put("one");
+    SaveOver("two");
+    ASSERT_EQ(BringBack(run, kScript, VersionsOf(run, kScript)[0]).Number, 0);
+    EXPECT_EQ(system.Disk.Bytes(kScript), "one");
+    EXPECT_EQ(Texts(), (std::vector<Text>{"two", "one"}));
+}
+
+TEST_F(ScriptVersions, ADamagedFileIsKeptAsideAndWhatIsIntactOfItGoesOn) {
+    Put("one");
+    SaveOver("two");
+    SaveOver("three");
+    Text bytes = system.Disk.Bytes(FilePath());
+    bytes.resize(bytes.size() - 3);
+    system.Disk.AddFile(FilePath(), bytes);
+    SaveOver("four");
+    EXPECT_EQ(Texts(), (std::vector<Text>{"three", "two"}));
+    EXPECT_EQ(system.Disk.Bytes(Join(FilePath(), ".damaged")), bytes);
+}
+
+TEST_F(ScriptVersions, AScriptThatIsTooLargeIsAnError) {
+    Put(Text(kLargestVersion + 1, 'x'));
+    EXPECT_EQ(KeepVersion(run, kScript).Number, error::kOutOfMemory);
+}
+
+TEST_F(ScriptVersions, ADiskThatTakesNothingIsAnErrorAndChangesNothing) {
+    Put("one");
+    SaveOver("two");
+    system.Disk.Refused[LowerCase(FilePath())] = MakeError(error::kDiskFull);
+    EXPECT_EQ(KeepVersion(run, kScript).Number, error::kDiskFull);
+    EXPECT_EQ(BringBack(run, kScript, {{}, "zero"}).Number, error::kDiskFull);
+    EXPECT_EQ(system.Disk.Bytes(kScript), "two");
+}
+
+TEST_F(ScriptVersions, TogetherTakeNoMoreThanTheirBound) {
+    for (int i = 0; i < 12; ++i) {
+        Put(Text(kLargestVersion, static_cast<char>('a' + i)));
+        ASSERT_EQ(KeepVersion(run, kScript).Number, 0);
+    }
+    EXPECT_EQ(Texts().size(), kMostVersionBytes / kLargestVersion);
+}
+
+}  // namespace lv
