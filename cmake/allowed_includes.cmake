@@ -7,7 +7,7 @@ set(ROOMS_platform starting toolkit)
 set(ROOMS_games engines fitting trees)
 set(ROOMS_catalogs editors)
 set(ROOMS_launcher start window menu)
-set(ROOMS_foundry tables document versions reading writing half_life losses fonts editor)
+set(ROOMS_foundry tables document versions reading writing half_life losses fonts look editor)
 
 set(MAY_platform platform)
 set(MAY_platform/starting platform/starting platform)
@@ -37,7 +37,8 @@ set(MAY_foundry/writing foundry/writing foundry/versions foundry/document foundr
 set(MAY_foundry/half_life foundry/half_life ${MAY_foundry/writing} foundry/reading)
 set(MAY_foundry/losses foundry/losses console ${MAY_foundry/writing} foundry/reading)
 set(MAY_foundry/fonts foundry/fonts foundry/tables ${MAY_catalogs})
-set(MAY_foundry/editor foundry/editor foundry/fonts foundry/losses console ${MAY_foundry/half_life})
+set(MAY_foundry/look foundry/look foundry/losses foundry/versions console ${MAY_foundry/writing} foundry/reading)
+set(MAY_foundry/editor foundry/editor foundry/look foundry/losses foundry/versions console foundry/fonts ${MAY_foundry/half_life})
 set(MAY_foundry foundry ${MAY_foundry/editor})
 set(MAY_wizard wizard launcher launcher/start launcher/window launcher/menu catalogs/editors ${MAY_catalogs})
 
@@ -49,7 +50,7 @@ set(MAY_catalogs/forms catalogs/forms catalogs/editors catalogs ${SHARED_BY_FORM
 set(MAY_video/forms video/forms video ${SHARED_BY_FORMS})
 set(MAY_gamespy/forms gamespy/forms gamespy ${SHARED_BY_FORMS})
 set(MAY_launcher/forms launcher/forms launcher launcher/start launcher/window launcher/menu ${SHARED_BY_FORMS})
-set(MAY_foundry/forms foundry/forms foundry/editor foundry/tables ${SHARED_BY_FORMS})
+set(MAY_foundry/forms foundry/forms foundry/editor foundry/look foundry/tables ${SHARED_BY_FORMS})
 set(MAY_wizard/forms wizard/forms wizard ${SHARED_BY_FORMS})
 
 # The systems know what they implement. The program, on top, knows its subsystems by their entrances.

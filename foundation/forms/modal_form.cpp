@@ -18,8 +18,8 @@ constexpr int kGap = 8;
 
 }  // namespace
 
-ModalForm::ModalForm(wxWindow* owner, ModalWindow& model, std::function<void()> cancel)
-    : wxDialog(owner, wxID_ANY, ToWx(model.Caption), wxDefaultPosition, wxDefaultSize, wxDEFAULT_DIALOG_STYLE),
+ModalForm::ModalForm(wxWindow* owner, ModalWindow& model, std::function<void()> cancel, long style)
+    : wxDialog(owner, wxID_ANY, ToWx(model.Caption), wxDefaultPosition, wxDefaultSize, style),
       Controls([this] { AfterHandler(); }),
       model_(model),
       cancel_(std::move(cancel)),

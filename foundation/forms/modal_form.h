@@ -19,7 +19,7 @@ namespace lv {
 class ModalForm : public wxDialog {
   public:
     /// `cancel` runs for the close box and Escape.
-    ModalForm(wxWindow* owner, ModalWindow& model, std::function<void()> cancel);
+    ModalForm(wxWindow* owner, ModalWindow& model, std::function<void()> cancel, long style = wxDEFAULT_DIALOG_STYLE);
 
     /// A dialog's row: the label, the field, and what stands behind it.
     void AddField(Label& label, const char* labelName, wxWindow* field, wxWindow* behind = nullptr);

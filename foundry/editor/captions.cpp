@@ -77,6 +77,8 @@ constexpr ButtonText kButtons[] = {
     {&F::SelectNoSkin_Cmd,       "&Don't Specify a Skin",            "Click here to clear any skin selection."},
     {&F::ViewCustomLetters_Cmd,  "&Edit Name With Custom Letters",   "Use those cool custom letters!"},
     {&F::UnloadSF_Cmd,           "E&xit",                            "Exit without a question; what was not saved is lost"},
+    {&F::ShowChanges_Cmd,        "Show &Changes...",                 "What a save would change now, for the game and in the file"},
+    {&F::Versions_Cmd,           "Versio&ns...",                     "What earlier saves have replaced, to be looked at and brought back"},
     {&F::FindNext_Cmd,           "F&ind Next",                       "Go on to the next place that has the text"},
     {&F::Undo_Cmd,               "Und&o",                            "Take the last change back [Ctrl+Z]"},
     {&F::Redo_Cmd,               "&Redo",                            "Make the change again that was taken back last [Ctrl+Y]"},

@@ -13,6 +13,7 @@
 #include "foundry/editor/key_picture.h"
 #include "foundry/editor/kind_layout.h"
 #include "foundry/editor/rescued_edits.h"
+#include "foundry/editor/script_looks.h"
 #include "foundry/editor/settings_pages.h"
 #include "foundry/writing/save_script.h"
 
@@ -53,7 +54,11 @@ void ReadSettings(Fig_Frm& form) {
     }
 }
 
-void SaveDocument(Fig_Frm& form, SaveName name) {
+/// False if the user, having seen what the save would change, wants none.
+bool SaveDocument(Fig_Frm& form, SaveName name) {
+    if (!MaySaveChanges(form)) {
+        return false;
+    }
     const SaveManner manner = {.Name = name, .Quiet = form.AutoSaveRunning};
     const Text opened = form.Document.CurrentScriptPath;
     if (SaveScript(form.run, form.Lists, form.Document, form, manner)) {
@@ -61,6 +66,7 @@ void SaveDocument(Fig_Frm& form, SaveName name) {
         form.Caption = form.Document.Caption;
         NoteSaved(form);
     }
+    return true;
 }
 
 // A save ends the program where the catalog of scripts turns out to be damaged. The window goes with it.
@@ -77,8 +83,9 @@ bool MayLeaveChanges(Fig_Frm& form) {
     }
     const ExitAnswer answer = ConfirmExit(form.run);
     // ExitOnSave_Chk has no say here: what was answered decides on the window.
-    if (answer == ExitAnswer::SaveAndExit || answer == ExitAnswer::SaveAndStay) {
-        SaveDocument(form, SaveName::Same);
+    if ((answer == ExitAnswer::SaveAndExit || answer == ExitAnswer::SaveAndStay) &&
+        !SaveDocument(form, SaveName::Same)) {
+        return form.run.Ended;
     }
     return answer == ExitAnswer::Exit || answer == ExitAnswer::SaveAndExit || form.run.Ended;
 }
@@ -160,8 +167,8 @@ void View_Cmd_Click(Fig_Frm& form, int index) {
     if (index != kSave && index != kSaveAs) {
         return;
     }
-    SaveDocument(form, index == kSave ? SaveName::Same : SaveName::AskForIt);
-    UnloadAfterSave(form, form.ExitOnSave_Chk.Value == 1);
+    const bool went = SaveDocument(form, index == kSave ? SaveName::Same : SaveName::AskForIt);
+    UnloadAfterSave(form, went && form.ExitOnSave_Chk.Value == 1);
 }
 
 void UnloadSF_Cmd_Click(Fig_Frm& form) {

@@ -2,6 +2,7 @@
 
 #include "foundry/forms/editor_dialogs.h"
 #include "foundry/forms/fig_form.h"
+#include "foundry/forms/look_dialogs.h"
 #include "foundry/forms/phun_names_form.h"
 
 namespace lv {
@@ -16,7 +17,8 @@ WxUser::FormMaker MakeFoundryForms(WxUser& user) {
         if (names != nullptr && over != nullptr) {
             return std::make_unique<PhunNamesForm>(owner, over->Model(), [over] { over->ShowState(); });
         }
-        return MakeEditorDialog(owner, window);
+        auto dialog = MakeEditorDialog(owner, window);
+        return dialog ? std::move(dialog) : MakeLookDialog(owner, window);
     };
 }
 

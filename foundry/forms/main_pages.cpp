@@ -16,6 +16,7 @@
 #include "foundry/editor/aliases_page.h"
 #include "foundry/editor/lifecycle.h"
 #include "foundry/editor/player_page.h"
+#include "foundry/editor/script_looks.h"
 #include "foundry/forms/row_pages.h"
 #include "platform/toolkit/spoken_name.h"
 
@@ -99,6 +100,18 @@ wxSizer* MakeSaveNow(FigParts& parts, wxWindow* page) {
     frame.Add(row);
     frame.Add(
         parts.MakeCheck(frame.Box, "ExitOnSave_Chk", form.ExitOnSave_Chk, [&form] { ExitOnSave_Chk_Click(form); }));
+    return frame.Frame;
+}
+
+wxSizer* MakeLook(FigParts& parts, wxWindow* page) {
+    Fig_Frm& form = parts.Model;
+    FrameMaker frame(parts, page, "Look Into This Script");
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(
+        parts.MakeButton(frame.Box, "ShowChanges_Cmd", form.ShowChanges_Cmd, [&form] { ShowChanges_Cmd_Click(form); }));
+    row->Add(parts.MakeButton(frame.Box, "Versions_Cmd", form.Versions_Cmd, [&form] { Versions_Cmd_Click(form); }),
+             wxSizerFlags().Border(wxLEFT, kPageGap));
+    frame.Add(row);
     return frame.Frame;
 }
 
@@ -235,7 +248,8 @@ void MakeFreeFormPage(FigParts& parts, wxWindow* page) {
 
 void MakeSavePage(FigParts& parts, wxWindow* page) {
     auto* frames = new wxBoxSizer(wxVERTICAL);
-    for (wxSizer* frame : {MakeAutoSave(parts, page), MakeSaveNow(parts, page), MakeExit(parts, page)}) {
+    for (wxSizer* frame :
+         {MakeAutoSave(parts, page), MakeSaveNow(parts, page), MakeExit(parts, page), MakeLook(parts, page)}) {
         frames->Add(frame, wxSizerFlags().Expand().Border(wxALL, kPageGap));
     }
     auto* rows = new wxBoxSizer(wxVERTICAL);

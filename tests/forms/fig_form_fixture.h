@@ -4,6 +4,8 @@
 
 #pragma once
 
+#include <wx/timer.h>
+
 #include <gtest/gtest.h>
 #include <wx/uiaction.h>
 
@@ -46,6 +48,22 @@ constexpr KindOfGame kGames[] = {
     {kHalfLifeDialect,   "half_life",  "C:\\SIERRA\\HALF-LIFE\\HL.EXE",     "C:\\SIERRA\\HALF-LIFE\\VALVE\\my.cfg"},
 };
 // clang-format on
+
+/// Presses the first button of the question box that comes up.
+class AnswersBoxes : public wxTimer {
+  public:
+    AnswersBoxes() { Start(100); }
+    void Notify() override {
+        wxWindow* const button = wxWindow::FindWindowByName("Button_Cmd(0)");
+        if (button != nullptr && button->IsShownOnScreen() && ++seen_ == 3) {
+            Stop();
+            ClickOn(button);
+        }
+    }
+
+  private:
+    int seen_ = 0;
+};
 
 class FigForm_ : public ::testing::Test {
   protected:

@@ -386,22 +386,6 @@ TEST_P(FigFormOfKind, EveryPageFitsTheScreen) {
     });
 }
 
-/// Presses the first button of each question box that comes up.
-class AnswersBoxes : public wxTimer {
-  public:
-    AnswersBoxes() { Start(100); }
-    void Notify() override {
-        wxWindow* const button = wxWindow::FindWindowByName("Button_Cmd(0)");
-        if (button != nullptr && button->IsShownOnScreen() && ++seen_ == 3) {
-            Stop();
-            ClickOn(button);
-        }
-    }
-
-  private:
-    int seen_ = 0;
-};
-
 class FigFormClosing : public FigForm_ {
   protected:
     /// Closes with an unsaved change and answers; whether the window is still there.

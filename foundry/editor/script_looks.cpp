@@ -1,0 +1,102 @@
+#include "foundry/editor/script_looks.h"
+
+#include <optional>
+
+#include "foundation/bounded_file.h"
+#include "foundation/question_box.h"
+#include "foundry/editor/aliases_page.h"
+#include "foundry/editor/kind_layout.h"
+#include "foundry/look/changes_frm.h"
+#include "foundry/look/versions_frm.h"
+#include "foundry/losses/kept_lines.h"
+#include "foundry/reading/open_script.h"
+#include "foundry/reading/scratch_script.h"
+#include "foundry/writing/compose_script.h"
+
+namespace lv {
+
+namespace {
+
+void ReadAgain(Fig_Frm& form) {
+    const Text script = form.Document.CurrentScriptPath;
+    NoteEdit(form);  // what was edited before is a change of its own
+    if (!OpenScript(form.run, form.Document, form, script) || form.run.Ended) {
+        return;
+    }
+    ApplyGameKind(form);
+    FillAliasList(form);
+    form.Document.ScriptClean = true;
+    NoteSaved(form);
+}
+
+/// What a save would make of the file.
+struct SaveLook {
+    Text File;
+    Text Written;
+    LocalTime Date;
+    Console Its{};
+    EffectNames Edited;
+    SaveReport Report;
+};
+
+/// Nothing for a file that is not there, or that takes long to read.
+std::optional<SaveLook> LookAtSave(Fig_Frm& form) {
+    Run& run = form.run;
+    const ScriptDocument& document = form.Document;
+    Result<Text> file = ReadBounded(run.System.Disk, document.CurrentScriptPath, kLargeScript);
+    if (!file.Ok()) {
+        return std::nullopt;
+    }
+    SaveLook look;
+    look.File = std::move(file.Value);
+    look.Date = run.System.Time.Now();
+    look.Its = ConsoleOfDialect(document.Dialect);
+    look.Written = ComposeScript(document, look.Date);
+    const ScriptDocument unedited = ReadScratch(run, document.Dialect, document.CurrentScriptPath, look.File);
+    look.Edited = EditedNames(ComposeScript(unedited, look.Date), look.Written, look.Its);
+    look.Report = ReportSave({look.File, look.Written}, look.Edited, document.Dialect, look.Its);
+    return look;
+}
+
+void Keep(Fig_Frm& form, const SaveLook& look) {
+    if (KeepLosses(form.Document, look.File, look.Edited, look.Date, look.Its)) {
+        Edited(form);
+        NoteEdit(form);
+    }
+}
+
+}  // namespace
+
+void ShowChanges_Cmd_Click(Fig_Frm& form) {
+    const auto look = LookAtSave(form);
+    if (!look) {
+        AskUser(form.run, "Setup Foundry", "There is no file yet that could be compared with what is saved.");
+        return;
+    }
+    Changes_Frm changes(form.run, look->Report, {look->File, look->Written}, ChangesTime::Looking);
+    ShowModal(changes);
+    if (changes.Answer == ChangesAnswer::Keep) {
+        Keep(form, *look);
+    }
+}
+
+bool MaySaveChanges(Fig_Frm& form) {
+    const auto look = LookAtSave(form);
+    if (!look || !LosesSomething(look->Report)) {
+        return true;
+    }
+    Changes_Frm changes(form.run, look->Report, {look->File, look->Written}, ChangesTime::Saving);
+    ShowModal(changes);
+    if (changes.Answer == ChangesAnswer::Keep) {
+        Keep(form, *look);
+    }
+    return changes.Answer != ChangesAnswer::Leave && !form.run.Ended;
+}
+
+void Versions_Cmd_Click(Fig_Frm& form) {
+    if (ShowVersions(form.run, form.Document.CurrentScriptPath) && !form.run.Ended) {
+        ReadAgain(form);
+    }
+}
+
+}  // namespace lv

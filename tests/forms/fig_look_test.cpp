@@ -1,0 +1,122 @@
+#include <gmock/gmock.h>
+#include <wx/listbox.h>
+#include <wx/listctrl.h>
+
+#include "foundry/versions/script_versions.h"
+#include "tests/forms/fig_form_fixture.h"
+
+namespace lv {
+
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+class FigLooks : public FigForm_ {
+  protected:
+    Text File() { return system.Disk.Bytes(path); }
+
+    /// Saves by the button of the page; `answer` is the button that is pressed in the window that comes up.
+    void SaveAndPress(const char* answer, const std::string& picture) {
+        Turn(EditorPage::SaveAndExit);
+        const AnswersBoxes saved;
+        DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); },
+                    [&] {
+                        ASSERT_NE(Find("Changes_Frm"), nullptr);
+                        if (!picture.empty()) {
+                            Screenshot(picture);
+                        }
+                        ClickOn(Find(answer));
+                    });
+        Settle();
+    }
+};
+
+constexpr TextView kLosing = "bind ESCAPE togglemenu\nbind x +attack\nalias empty \"\"\nbind F13 \"say hello\"\n";
+
+}  // namespace
+
+TEST_F(FigLooks, ASaveThatLosesSomethingShowsItAndCanBeCancelled) {
+    Use(kGames[0], kLosing);
+    const Text before = File();
+    Edit([&] {
+        SaveAndPress("Close_Cmd", "foundry_changes");
+        EXPECT_EQ(File(), before);
+    });
+}
+
+TEST_F(FigLooks, EnterKeepsWhatWouldBeLost) {
+    Use(kGames[0], kLosing);
+    Edit([&] {
+        Turn(EditorPage::SaveAndExit);
+        const AnswersBoxes saved;
+        DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); },
+                    [&] {
+                        EXPECT_TRUE(HasKeyboard(Find("Keep_Cmd")));
+                        PressKey(WXK_RETURN);
+                    });
+        Settle();
+        EXPECT_THAT(File(), HasSubstr("bind ESCAPE togglemenu"));
+        EXPECT_THAT(File(), HasSubstr("+attack"));
+    });
+}
+
+TEST_F(FigLooks, SaveAnywayLosesIt) {
+    Use(kGames[0], kLosing);
+    Edit([&] {
+        SaveAndPress("Save_Cmd", "");
+        EXPECT_THAT(File(), Not(HasSubstr("togglemenu")));
+    });
+}
+
+TEST_F(FigLooks, ARowOfTheListLeadsToItsLine) {
+    Use(kGames[0], kLosing);
+    Edit([&] {
+        Turn(EditorPage::SaveAndExit);
+        DoAndAnswer([] { ClickOn(Find("ShowChanges_Cmd")); },
+                    [&] {
+                        auto* losses = FindAs<wxListBox>("Losses_Lst");
+                        auto* lines = FindAs<wxListCtrl>("Difference_Lst");
+                        ASSERT_GT(losses->GetCount(), 1u);
+                        EXPECT_THAT(FromWx(losses->GetString(0)), HasSubstr("ESCAPE"));
+                        EXPECT_THAT(FromWx(losses->GetString(1)), HasSubstr("empty"));
+                        losses->SetFocus();
+                        PressKey(WXK_DOWN);
+                        Settle();
+                        const long row = lines->GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED);
+                        ASSERT_GE(row, 0);
+                        EXPECT_THAT(FromWx(lines->GetItemText(row, 1)), HasSubstr("empty"));
+                        PressKey(WXK_ESCAPE);
+                    });
+        EXPECT_TRUE(form->Model().Document.ScriptClean);
+    });
+}
+
+TEST_F(FigLooks, AnOlderVersionIsBroughtBackAndUndone) {
+    Use(kGames[0], "bind x +attack\n");
+    const Text first = File();
+    Edit([&] {
+        TurnBindings(BindingsPage::Standard);
+        Drag("Key_Lbl(5)", "Setting_Lbl(112)");
+        Turn(EditorPage::SaveAndExit);
+        {
+            const AnswersBoxes saved;
+            ClickOn(Find("View_Cmd(6)"));
+            Settle();
+        }
+        const Text second = File();
+        EXPECT_NE(second, first);
+        DoAndAnswer([] { ClickOn(Find("Versions_Cmd")); },
+                    [&] {
+                        Screenshot("foundry_versions");
+                        EXPECT_EQ(FindAs<wxListBox>("Versions_Lst")->GetCount(), 1u);
+                        ClickOn(Find("BringBack_Cmd"));
+                    });
+        EXPECT_EQ(File(), first);
+        EXPECT_TRUE(form->Model().Document.ScriptClean);
+        ASSERT_EQ(VersionsOf(run, path).size(), 2u);
+        EXPECT_EQ(VersionsOf(run, path).front().Text, second);
+    });
+}
+
+}  // namespace lv

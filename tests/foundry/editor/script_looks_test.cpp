@@ -1,0 +1,163 @@
+#include "foundry/editor/script_looks.h"
+
+#include "foundry/document/bindings.h"
+#include "foundry/look/changes_frm.h"
+#include "foundry/look/versions_frm.h"
+#include "tests/foundry/editor/lifecycle_fixture.h"
+
+namespace lv {
+
+class ScriptLooks : public Lifecycle {
+  protected:
+    void BringBackFirst() {
+        user.In<Versions_Frm>([](Versions_Frm& versions) { Versions_BringBack_Cmd_Click(versions); });
+        Versions_Cmd_Click(form);
+    }
+};
+
+TEST_F(ScriptLooks, AVersionThatIsBroughtBackIsEditedThen) {
+    OpenAndLoad(kQuakeDialect, "bind x +attack\nalias mine \"impulse 7\"\n");
+    Change();
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    ASSERT_EQ(form.Document.Name_Txt.Text, "Me");
+    BringBackFirst();
+    EXPECT_NE(form.Document.Name_Txt.Text, "Me");
+    EXPECT_TRUE(form.Document.ScriptClean);
+    EXPECT_EQ(Command(KeyFromName("x")), "+attack");
+    ASSERT_EQ(form.Alias_Lst.Items.size(), 1u);
+    EXPECT_FALSE(IsWritten("name \"Me\""));
+}
+
+TEST_F(ScriptLooks, ThatCanBeUndone) {
+    OpenAndLoad();
+    Change();
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    BringBackFirst();
+    Undo_Cmd_Click(form);
+    EXPECT_EQ(form.Document.Name_Txt.Text, "Me");
+    EXPECT_FALSE(form.Document.ScriptClean);
+}
+
+TEST_F(ScriptLooks, WithoutAVersionTheScriptStays) {
+    OpenAndLoad(kQuakeDialect, "bind x +attack\n");
+    Change();
+    user.Expect({"Setup Foundry", "There is no older version of this script yet."});
+    Versions_Cmd_Click(form);
+    EXPECT_EQ(form.Document.Name_Txt.Text, "Me");
+    EXPECT_FALSE(form.Document.ScriptClean);
+}
+
+class SaveLooks : public Lifecycle {
+  protected:
+    /// A script that this program has not written, with a bind that the editor cannot hold.
+    void OpenForeign() {
+        run.GameKind = Game::Quake;
+        run.ScriptFamily = Dialect::Quake;
+        run.DefaultGameDirectory = "C:\\GAME";
+        run.BaseGameDir = "ID1";
+        run.CurrentGameDir = "ID1";
+        SwitchMessageOff("BackupScript");
+        system.Disk.AddFile(Text(kEditedScript), "bind ESCAPE togglemenu\r\nbind x +attack\r\n");
+        ASSERT_TRUE(OpenScript(run, form.Document, form, kEditedScript));
+        Fig_Frm_Load(form);
+        system.Disk.Log.clear();  // of the copy of a foreign script
+    }
+    void SwitchMessageOff(TextView message) { Save(run, "ShowMessage", message, "0"); }
+    void AnswerLook(void (*click)(Changes_Frm&)) { user.In<Changes_Frm>(click); }
+};
+
+TEST_F(SaveLooks, ASaveThatWouldLoseSomethingIsShownFirst) {
+    OpenForeign();
+    user.In<Changes_Frm>([](Changes_Frm& changes) {
+        EXPECT_EQ(changes.Losses_Lbl.Caption,
+                  "For the game this save loses or changes 1 thing that you have not changed yourself. 'Keep These' "
+                  "saves it too:");
+        ASSERT_FALSE(changes.Losses_Lst.Items.empty());
+        EXPECT_EQ(changes.Losses_Lst.Items[0], "The key ESCAPE loses \"togglemenu\". Setup Foundry has no key ESCAPE.");
+        Changes_Close_Cmd_Click(changes);
+    });
+    View_Cmd_Click(form, 6);
+    EXPECT_EQ(Saves(), 0);
+    EXPECT_FALSE(form.Closed);
+}
+
+TEST_F(SaveLooks, WhatIsKeptIsSavedToTheLetterAndNothingIsLostThen) {
+    OpenForeign();
+    AnswerLook(Changes_Keep_Cmd_Click);
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    EXPECT_TRUE(system.Disk.Bytes(kEditedScript).find("bind ESCAPE togglemenu") != Text::npos);
+    Change();
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);  // no window: nothing is lost
+    EXPECT_EQ(Saves(), 2);
+}
+
+TEST_F(SaveLooks, SaveAnywaySavesAsItAlwaysDid) {
+    OpenForeign();
+    AnswerLook(Changes_Save_Cmd_Click);
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    EXPECT_EQ(Saves(), 1);
+    EXPECT_EQ(system.Disk.Bytes(kEditedScript).find("togglemenu"), Text::npos);
+}
+
+TEST_F(SaveLooks, AScriptWithoutLossesIsSavedWithoutAWord) {
+    OpenAndLoad(kQuakeDialect, "bind x +attack\n");
+    Change();
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    EXPECT_EQ(Saves(), 1);
+}
+
+TEST_F(SaveLooks, WhatTheUserChangesIsNoLoss) {
+    OpenAndLoad(kQuakeDialect, "bind x +attack\nbind y +jump\n");
+    UnbindKey(form.Document, form, KeyFromName("y"));
+    Edited(form);
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    EXPECT_EQ(Saves(), 1);
+}
+
+TEST_F(SaveLooks, ACancelledSaveNeitherClosesNorLosesTheEdits) {
+    OpenForeign();
+    Change();
+    form.ExitOnSave_Chk.Value = 1;
+    AnswerLook(Changes_Close_Cmd_Click);
+    View_Cmd_Click(form, 6);
+    EXPECT_FALSE(form.Closed);
+    Answer(true, true);
+    AnswerLook(Changes_Close_Cmd_Click);
+    EXPECT_FALSE(Fig_Frm_Unload(form));
+    EXPECT_FALSE(form.Closed);
+    EXPECT_FALSE(form.Document.ScriptClean);
+    EXPECT_EQ(Saves(), 0);
+}
+
+TEST_F(SaveLooks, AnAutoSaveAsksToo) {
+    OpenForeign();
+    Change();
+    form.AutoSaveEnable_Chk.Value = 1;
+    form.Minutes_Cbo.ListIndex = 0;
+    AnswerLook(Changes_Keep_Cmd_Click);
+    Minutes(1);
+    EXPECT_EQ(Saves(), 1);
+    EXPECT_TRUE(system.Disk.Bytes(kEditedScript).find("togglemenu") != Text::npos);
+}
+
+TEST_F(SaveLooks, LookingChangesNothingButWhatIsKept) {
+    OpenForeign();
+    AnswerLook(Changes_Close_Cmd_Click);
+    ShowChanges_Cmd_Click(form);
+    EXPECT_TRUE(form.Document.ScriptClean);
+    AnswerLook(Changes_Keep_Cmd_Click);
+    ShowChanges_Cmd_Click(form);
+    EXPECT_FALSE(form.Document.ScriptClean);
+    EXPECT_NE(form.Document.Sections[0].Text.find("togglemenu"), Text::npos);
+    Undo_Cmd_Click(form);
+    EXPECT_EQ(form.Document.Sections[0].Text.find("togglemenu"), Text::npos);
+}
+
+}  // namespace lv
