@@ -129,6 +129,10 @@ Error WindowsProcesses::StartProgram(std::string_view program, const std::vector
     return ShellExecuteExW(&how) != 0 ? Error() : StartError(GetLastError(), std::string(program));
 }
 
+bool WindowsProcesses::HasRunnerFor(std::string_view program) {
+    return RunsDosPrograms() || KindOfProgramAt(disk_, program) != ProgramKind::kDos || !FindDosBox().empty();
+}
+
 Error WindowsProcesses::StartHelpViewer(std::string_view path) {
     return StartProgram("winhlp32.exe", {std::string(path)});
 }

@@ -27,6 +27,8 @@ class WindowsProcesses : public Processes {
     /// A document is opened by the program that the user has for it.
     Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
 
+    bool HasRunnerFor(std::string_view program) override;
+
     /// "winhlp32.exe", wherever the system finds it.
     Error StartHelpViewer(std::string_view path) override;
 
