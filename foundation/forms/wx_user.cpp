@@ -124,11 +124,9 @@ Result<std::optional<Text>> WxUser::ChooseFile(const FileRequest& request) {
     if (dialog.ShowModal() != wxID_OK) {
         return std::optional<Text>();
     }
-    const Text path = files_.FromHost(dialog.GetPath().utf8_string());
-    if (path.empty()) {
-        return MakeError(error::kPathNotFound, "this file lies on none of the drives");
-    }
-    return std::optional<Text>(path);
+    const std::string chosen = dialog.GetPath().utf8_string();
+    const Text path = files_.FromHost(chosen);
+    return path.empty() ? Result<std::optional<Text>>(files_.WhyNotFromHost(chosen)) : std::optional<Text>(path);
 }
 
 void WxUser::OnRefresh(const void* owner, std::function<void()> show) {
