@@ -27,6 +27,8 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 !include MUI2.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
+!include Win\COM.nsh
+!include Win\Propkey.nsh
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
 !define MUI_ABORTWARNING
@@ -60,6 +62,32 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
     ${Loop}
 !macroend
 
+; The shortcut's name for the task bar, that of platform/windows/task_bar.h: pinned, it stands for the windows too.
+!macro NAME_FOR_TASK_BAR SHORTCUT
+    !insertmacro ComHlpr_CreateInProcInstance ${CLSID_ShellLink} ${IID_IShellLink} r0 ""
+    ${If} $0 P<> 0
+        ${IUnknown::QueryInterface} $0 '("${IID_IPersistFile}",.r1)'
+        ${If} $1 P<> 0
+            ${IPersistFile::Load} $1 '("${SHORTCUT}", ${STGM_READWRITE})'
+            ${IUnknown::QueryInterface} $0 '("${IID_IPropertyStore}",.r2)'
+            ${If} $2 P<> 0
+                System::Call 'oleaut32::SysAllocString(w "Lorvane.Lorvane3D")p.r3'
+                System::Call '*${SYSSTRUCT_PROPERTYKEY}(${PKEY_AppUserModel_ID})p.r4'
+                System::Call '*(&i2 ${VT_LPWSTR},&i6,p r3,p)p.r5'
+                ${IPropertyStore::SetValue} $2 '($4,$5)'
+                System::Call 'oleaut32::SysFreeString(p r3)'
+                System::Free $4
+                System::Free $5
+                ${IPropertyStore::Commit} $2 ""
+                ${IUnknown::Release} $2 ""
+                ${IPersistFile::Save} $1 '("${SHORTCUT}",1)'
+            ${EndIf}
+            ${IUnknown::Release} $1 ""
+        ${EndIf}
+        ${IUnknown::Release} $0 ""
+    ${EndIf}
+!macroend
+
 Section "Lorvane 3D"
     !insertmacro WAIT_UNTIL_CLOSED
     SetOutPath "$INSTDIR"
@@ -72,6 +100,7 @@ Section "Lorvane 3D"
     ${EndIf}
     CreateShortCut "$SMPROGRAMS\Lorvane 3D.lnk" "$INSTDIR\lorvane3d.exe" "" "" "" SW_SHOWNORMAL "" \
         "Starts the shooters of 1996 to 1999"
+    !insertmacro NAME_FOR_TASK_BAR "$SMPROGRAMS\Lorvane 3D.lnk"
     WriteRegStr HKCU "${ENTRY}" "DisplayName" "Lorvane 3D"
     WriteRegStr HKCU "${ENTRY}" "DisplayVersion" "${VERSION}"
     WriteRegStr HKCU "${ENTRY}" "Publisher" "The Lorvane 3D authors"

@@ -8,6 +8,7 @@
 #include "foundation/forms/wx_clipboard.h"
 #include "launcher/window/window_life.h"
 #include "platform/windows/registry_settings.h"
+#include "platform/windows/task_bar.h"
 #include "platform/windows/toolkit/access_keys.h"
 #include "platform/windows/windows_clock.h"
 #include "platform/windows/windows_desktop.h"
@@ -57,6 +58,14 @@ struct WindowsSystem {
 
 }  // namespace
 
+class WindowsApp : public LorvaneApp<WindowsSystem> {
+  public:
+    bool OnInit() override {
+        (void)TakeTaskBarName();
+        return LorvaneApp::OnInit();
+    }
+};
+
 }  // namespace lv
 
-wxIMPLEMENT_APP(lv::LorvaneApp<lv::WindowsSystem>);
+wxIMPLEMENT_APP(lv::WindowsApp);

@@ -65,7 +65,8 @@ class Files {
     virtual bool DirectoryExists(std::string_view path) = 0;
 
     /// All entries in the file system's order, "." and ".." first. Names that have no code page 1252 form are left
-    /// out. Error 76 if there is no such directory, 75 if it may not be read.
+    /// out, or there by another name that the disk keeps for them. Error 76 if there is no such directory, 75 if it may
+    /// not be read.
     virtual Result<std::vector<DirectoryEntry>> List(std::string_view directory) = 0;
 
     /// As List, for a walk over a whole disk. Error 75 also for what such a walk has no business in: file systems that
@@ -142,6 +143,11 @@ class Files {
     /// Empty if no drive holds it.
     virtual std::string ToHost(std::string_view path) = 0;
     virtual std::string FromHost(std::string_view hostPath) = 0;
+
+    /// Why FromHost has nothing for a path that there could be, in words for the user.
+    virtual Error WhyNotFromHost(std::string_view) {
+        return {error::kPathNotFound, "this file lies on none of the drives"};
+    }
 
     /// The user's own directory, a path on the drives. Empty if no drive holds it.
     virtual std::string UserHome() = 0;

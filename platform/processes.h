@@ -57,6 +57,10 @@ class Processes {
     /// a batch or a DOS program that a reader would misread.
     virtual Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) = 0;
 
+    /// Whether what runs such a program is here: Wine, DOSBox, the system itself. A look at the file's first bytes;
+    /// true for a file that they do not tell of, too.
+    virtual bool HasRunnerFor(std::string_view) { return true; }
+
     /// Whether the end of the game that StartBatch started last is still to be told. Costs nothing.
     virtual bool WatchesGame() { return false; }
 

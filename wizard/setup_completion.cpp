@@ -10,6 +10,7 @@
 #include "wizard/engine_advice.h"
 #include "wizard/engine_entries.h"
 #include "wizard/entry_list.h"
+#include "wizard/first_pick.h"
 #include "wizard/further_trees.h"
 
 namespace lv {
@@ -100,7 +101,8 @@ void Install_OK_Cmd_Click(Install_Frm& form) {
     form.Found.Engines = EnginesHere(run, form.Engines);  // one may have been installed meanwhile
     Setup setup{form, Trim(CatalogValue(run, kExecutables))};
     Text& list = setup.List;
-    if (!list.empty()) {
+    const bool isFirst = list.empty();
+    if (!isFirst) {
         list += ';';
     }
     Text directory = run.DefaultGameDirectory;
@@ -133,6 +135,9 @@ void Install_OK_Cmd_Click(Install_Frm& form) {
     }
     if (!StoreCatalog(run, kExecutables.Key, list)) {
         return;
+    }
+    if (isFirst) {
+        PickWhatStarts(run, form.Engines, list);
     }
     run.DefaultGameDirectory = directory;
     form.DialogResult = true;

@@ -1,5 +1,7 @@
 #include "foundation/forms/binder_lists.h"
 
+#include <wx/platinfo.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -65,6 +67,13 @@ void ShowRows(const std::vector<Text>& items, std::vector<Text>& shown, View* vi
         view->Append(rows);
     }
     shown = items;
+}
+
+// A tab shows no access key; whoever takes keys for the window sees to them. On Windows an "&" would be one all the
+// same.
+wxString TabText(TextView caption) {
+    const wxString text = wxControl::RemoveMnemonics(ToWx(Trim(caption)));
+    return wxPlatformInfo::Get().GetPortId() == wxPORT_MSW ? wxControl::EscapeMnemonics(text) : text;
 }
 
 }  // namespace
@@ -182,9 +191,7 @@ Shower PageShower(const TabSet& model, wxNotebook* view, std::vector<wxWindow*> 
             shown = visible;
         }
         for (std::size_t tab = 0; tab < visible.size(); ++tab) {
-            // A tab shows no access key; whoever takes keys for the window sees to them.
-            const wxString caption =
-                wxControl::RemoveMnemonics(ToWx(Trim(model[static_cast<std::size_t>(visible[tab])].Caption)));
+            const wxString caption = TabText(model[static_cast<std::size_t>(visible[tab])].Caption);
             if (view->GetPageText(tab) != caption) {
                 view->SetPageText(tab, caption);
             }

@@ -12,6 +12,7 @@
 
 #include "foundation/forms/help_key.h"
 #include "foundation/forms/pictures.h"
+#include "foundation/forms/readable_ink.h"
 #include "foundation/forms/screen_fit.h"
 #include "foundation/window_services.h"
 #include "platform/toolkit/beside_dialogs.h"
@@ -32,7 +33,7 @@ class ThemedBody : public wxHtmlWinTagHandler {
         const wxColour paper = wxSystemSettings::GetColour(wxSYS_COLOUR_WINDOW);
         m_WParser->SetActualColor(text);
         m_WParser->GetContainer()->InsertCell(new wxHtmlColourCell(text));
-        m_WParser->SetLinkColor(wxSystemSettings::GetColour(wxSYS_COLOUR_HOTLIGHT));
+        m_WParser->SetLinkColor(ReadableInk(wxSystemSettings::GetColour(wxSYS_COLOUR_HOTLIGHT), paper));
         m_WParser->GetContainer()->InsertCell(new wxHtmlColourCell(paper, wxHTML_CLR_BACKGROUND));
         if (wxHtmlWindowInterface* window = m_WParser->GetWindowInterface()) {
             window->SetHTMLBackgroundColour(paper);

@@ -15,6 +15,8 @@
 #include <wx/toplevel.h>
 #include <wx/utils.h>
 
+#include <cmath>
+
 #include "foundation/forms/about_form.h"
 #include "foundation/forms/modal_form.h"
 #include "foundation/forms/question_box_form.h"
@@ -36,29 +38,54 @@ constexpr long kLongestPump = 100;   // milliseconds
 constexpr long kLongestWait = 1000;  // milliseconds; another program may keep the keyboard
 constexpr unsigned long kBetweenLooks = 5;
 
+constexpr int kLongInDip = 1000;
+constexpr double kSameScale = 0.01;
+
+// Of the toolkit's pixels: 1 where it scales everything by itself, as GTK does. Without a window, that of the first
+// screen.
+double ScaleOf(const wxWindow* window) {
+    return static_cast<double>(wxWindow::FromDIP(kLongInDip, window)) / kLongInDip;
+}
+
 }  // namespace
 
-/// One measure for all windows, on a bitmap of no size that matters. Kept, for making one costs more than a thousand
-/// measurements.
+/// One measure for all windows of one scale, on a bitmap of no size that matters. Kept, for making one costs more than
+/// a thousand measurements.
 struct WxUser::Ruler {
-    explicit Ruler(const wxFont& font) : Canvas(Bitmap) { Canvas.SetFont(font); }
+    Ruler(const wxFont& font, double scale) : Bitmap(BitmapOf(scale)), Canvas(Bitmap) { Canvas.SetFont(font); }
 
-    wxBitmap Bitmap{1, 1};
+    // A font is as large on it as its scale says.
+    static wxBitmap BitmapOf(double scale) {
+        wxBitmap bitmap;
+        bitmap.CreateWithDIPSize(wxSize(1, 1), scale);
+        return bitmap;
+    }
+
+    wxBitmap Bitmap;
     wxMemoryDC Canvas;
 };
 
 WxUser::WxUser(Files& files) : files_(files) {}
 
-WxUser::Ruler& WxUser::TheRuler() {
-    if (!ruler_) {
-        ruler_ = std::make_unique<Ruler>(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT));
+void WxUser::FitRulers() {
+    const double scale = ScaleOf(Owner());
+    if (!ruler_ || std::abs(scale - rulerScale_) > kSameScale) {
+        rulerScale_ = scale;
+        widths_.clear();
+        ruler_ = std::make_unique<Ruler>(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT), scale);
+        fixedRuler_ = nullptr;
     }
+}
+
+WxUser::Ruler& WxUser::TheRuler() {
+    FitRulers();
     return *ruler_;
 }
 
 WxUser::Ruler& WxUser::TheFixedRuler() {
+    FitRulers();
     if (!fixedRuler_) {
-        fixedRuler_ = std::make_unique<Ruler>(FixedWidthFont());
+        fixedRuler_ = std::make_unique<Ruler>(FixedWidthFont(), rulerScale_);
     }
     return *fixedRuler_;
 }
@@ -124,11 +151,9 @@ Result<std::optional<Text>> WxUser::ChooseFile(const FileRequest& request) {
     if (dialog.ShowModal() != wxID_OK) {
         return std::optional<Text>();
     }
-    const Text path = files_.FromHost(dialog.GetPath().utf8_string());
-    if (path.empty()) {
-        return MakeError(error::kPathNotFound, "this file lies on none of the drives");
-    }
-    return std::optional<Text>(path);
+    const std::string chosen = dialog.GetPath().utf8_string();
+    const Text path = files_.FromHost(chosen);
+    return path.empty() ? Result<std::optional<Text>>(files_.WhyNotFromHost(chosen)) : std::optional<Text>(path);
 }
 
 void WxUser::OnRefresh(const void* owner, std::function<void()> show) {
@@ -172,6 +197,7 @@ void WxUser::EndProgram() {
 }
 
 int WxUser::TextWidth(TextView line) {
+    FitRulers();
     Text text(line);
     if (const auto known = widths_.find(text); known != widths_.end()) {
         return known->second;

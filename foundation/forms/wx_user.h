@@ -68,6 +68,7 @@ class WxUser : public UserInterface {
 
   private:
     struct Ruler;
+    void FitRulers();  // to the scale of the window that asks
     Ruler& TheRuler();
     Ruler& TheFixedRuler();
     [[nodiscard]] wxWindow* Owner() const;
@@ -84,6 +85,7 @@ class WxUser : public UserInterface {
     std::function<void(TextView)> popUp_;
     Handbook handbook_;
     std::unique_ptr<HelpKey> helpKey_;
+    double rulerScale_ = 1;
     std::unique_ptr<Ruler> ruler_;
     std::unique_ptr<Ruler> fixedRuler_;
     std::unordered_map<Text, int> widths_;  // of what was measured

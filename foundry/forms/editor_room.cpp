@@ -33,6 +33,7 @@ void FitToScreen(const EditorRoom& room) {
     wxSize screen = wxDisplay(on).GetClientArea().GetSize();
     const int below = room.Hint.GetBestSize().y + kPageGap / 2;
     screen.y -= room.Window.FromDIP(kFrameRoom) + below;
+    screen.x -= std::max(0, room.Window.GetSize().x - room.Window.GetClientSize().x);
     const int bar = wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, &room.Content);
     const int height = EditorTabsHeight(&room.Tabs, room.Parts, kPageRows);
     room.Tabs.SetMinSize(wxSize(-1, height));

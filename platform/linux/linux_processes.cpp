@@ -183,6 +183,20 @@ Error LinuxProcesses::StartBatch(std::string_view directory, std::string_view na
     return command.Ok() ? lastGame_.Start(command.Value, Places()) : command.Fault;
 }
 
+bool LinuxProcesses::HasRunnerFor(std::string_view program) {
+    switch (KindOfProgramAt(disk_, program)) {
+        case ProgramKind::kWindows:
+        case ProgramKind::kBatch:
+            return !FindOnPath(Places().SearchPath, "wine").empty();
+        case ProgramKind::kDos:
+            return !FindOnPath(Places().SearchPath, "dosbox").empty();
+        case ProgramKind::kNative:
+        case ProgramKind::kUnknown:
+            break;
+    }
+    return true;
+}
+
 Error LinuxProcesses::StartProgram(std::string_view program, const std::vector<std::string>& arguments) {
     const Result<HostCommand> command = PlanProgram(program, arguments);
     return command.Ok() ? StartDetached(command.Value) : command.Fault;

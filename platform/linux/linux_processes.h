@@ -26,6 +26,7 @@ class LinuxProcesses : public Processes {
     using Processes::StartBatch;
     LineReader ReaderOf(std::string_view directory, std::string_view command, std::string_view program) override;
     Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) override;
+    bool HasRunnerFor(std::string_view program) override;
     /// `program` may also be an absolute path of the host. A name alone is searched on PATH.
     bool RunsAsRoot() override { return geteuid() == 0; }
     Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;

@@ -7,6 +7,8 @@
 
 #include <map>
 #include <optional>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "platform/memory/memory_desktop.h"
@@ -58,6 +60,7 @@ class MemoryProcesses : public Processes {
 
     bool WatchesGame() override { return Watching; }
     std::optional<GameEnd> EndOfLastGame() override;
+    bool HasRunnerFor(std::string_view program) override { return !WithoutRunner.contains(std::string(program)); }
     std::optional<std::string> LastOutput() override { return Output; }
 
     Error StartHelpViewer(std::string_view path) override;
@@ -66,7 +69,8 @@ class MemoryProcesses : public Processes {
     BatchCommand Known;                // of the last batch
     LineReader Reader = LineReader::kNobody;
     Error Refuse;
-    bool HasHelpViewer = false;  // then it is "winhlp32.exe"
+    std::set<std::string> WithoutRunner;  // programs, as they are asked for
+    bool HasHelpViewer = false;           // then it is "winhlp32.exe"
 
     bool Watching = false;       // from the start of a game to the telling of its end, where a test sets it
     std::optional<GameEnd> End;  // told once

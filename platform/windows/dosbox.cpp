@@ -7,7 +7,7 @@
 #include "platform/code_page.h"
 #include "platform/starting/dosbox_start_up.h"
 #include "platform/windows/command_line.h"
-#include "platform/windows/full_path.h"
+#include "platform/windows/said_path.h"
 #include "platform/windows/started_process.h"
 #include "platform/windows/system.h"
 #include "platform/windows/system_error.h"

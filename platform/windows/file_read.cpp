@@ -1,9 +1,11 @@
 #include "platform/windows/file_read.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "platform/file_bytes.h"
+#include "platform/windows/find_handle.h"
 #include "platform/windows/system_error.h"
 #include "platform/windows/wide_text.h"
 
@@ -13,26 +15,6 @@ namespace {
 
 constexpr DWORD kSharedWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr DWORD kMostAtOnce = 1u << 30;
-
-class FindHandle {
-  public:
-    FindHandle(const std::wstring& pattern, WIN32_FIND_DATAW& first)
-        : handle_(FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &first, FindExSearchNameMatch, nullptr,
-                                   FIND_FIRST_EX_LARGE_FETCH)) {}
-    ~FindHandle() {
-        if (IsOpen()) {
-            FindClose(handle_);
-        }
-    }
-    FindHandle(const FindHandle&) = delete;
-    FindHandle& operator=(const FindHandle&) = delete;
-
-    [[nodiscard]] bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
-    bool Next(WIN32_FIND_DATAW& next) { return FindNextFileW(handle_, &next) != 0; }
-
-  private:
-    HANDLE handle_;
-};
 
 Result<std::size_t> BytesRead(HANDLE file, char* room, std::size_t most, OVERLAPPED* place) {
     DWORD got = 0;
@@ -66,6 +48,42 @@ bool Inform(const std::wstring& path, BY_HANDLE_FILE_INFORMATION& info) {
     const FileHandle opened(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, kSharedWithAll, nullptr, OPEN_EXISTING,
                                         FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     return opened.IsOpen() && GetFileInformationByHandle(opened.Get(), &info) != 0;
+}
+
+struct Listing {
+    std::vector<DirectoryEntry> Entries = {{".", true}, {"..", true}};
+    bool LeftOut = false;  // a name without a form in the code page, and without a short one that was asked for
+};
+
+std::optional<std::string> NameOf(const WIN32_FIND_DATAW& found) {
+    auto name = FromWide(static_cast<const wchar_t*>(found.cFileName));
+    if (!name) {
+        name = FromWide(static_cast<const wchar_t*>(found.cAlternateFileName));
+    }
+    return name && !name->empty() ? name : std::nullopt;
+}
+
+Result<Listing> ListNames(const std::wstring& path, FINDEX_INFO_LEVELS level) {
+    WIN32_FIND_DATAW found{};
+    FindHandle find(path.ends_with(L'\\') ? path + L"*" : path + L"\\*", found, level);
+    Listing listing;
+    if (!find.IsOpen()) {
+        const DWORD failed = GetLastError();
+        const DWORD attributes = GetFileAttributesW(path.c_str());
+        const bool isDirectory = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        // An empty drive has not even the two.
+        return failed == ERROR_FILE_NOT_FOUND && isDirectory ? Result(std::move(listing)) : ErrorOfDirectory(failed);
+    }
+    do {
+        const auto name = NameOf(found);
+        if (!name) {
+            listing.LeftOut = true;
+        } else if (*name != "." && *name != "..") {
+            listing.Entries.push_back({*name, (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
+        }
+    } while (find.Next(found));
+    const DWORD failed = GetLastError();
+    return failed == ERROR_NO_MORE_FILES ? Result(std::move(listing)) : ErrorOfSystem(failed);
 }
 
 }  // namespace
@@ -108,25 +126,12 @@ Result<std::unique_ptr<RandomAccessFile>> OpenPlainFileAnywhere(const std::wstri
 }
 
 Result<std::vector<DirectoryEntry>> ListSystemDirectory(const std::wstring& path) {
-    WIN32_FIND_DATAW found{};
-    FindHandle find(path.ends_with(L'\\') ? path + L"*" : path + L"\\*", found);
-    std::vector<DirectoryEntry> entries = {{".", true}, {"..", true}};
-    if (!find.IsOpen()) {
-        const DWORD failed = GetLastError();
-        const DWORD attributes = GetFileAttributesW(path.c_str());
-        const bool isDirectory = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        // An empty drive has not even the two.
-        return failed == ERROR_FILE_NOT_FOUND && isDirectory ? Result(std::move(entries)) : ErrorOfDirectory(failed);
+    auto listed = ListNames(path, FindExInfoBasic);
+    // Only what has a name that cannot be said is worth the time that short names cost.
+    if (listed.Ok() && listed.Value.LeftOut) {
+        listed = ListNames(path, FindExInfoStandard);
     }
-    do {
-        const std::wstring_view systemName = found.cFileName;
-        const auto name = FromWide(systemName);
-        if (name && systemName != L"." && systemName != L"..") {
-            entries.push_back({*name, (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
-        }
-    } while (find.Next(found));
-    const DWORD failed = GetLastError();
-    return failed == ERROR_NO_MORE_FILES ? Result(std::move(entries)) : ErrorOfSystem(failed);
+    return listed.Ok() ? Result(std::move(listed.Value.Entries)) : listed.Fault;
 }
 
 Result<std::uint64_t> IdentityOfDirectory(const std::wstring& path) {
@@ -156,7 +161,7 @@ std::wstring NameAsFound(const std::wstring& path) {
         return name;
     }
     WIN32_FIND_DATAW found{};
-    const FindHandle find(path, found);
+    const FindHandle find(path, found, FindExInfoBasic);
     return find.IsOpen() ? std::wstring(found.cFileName) : name;
 }
 

@@ -23,7 +23,8 @@ Result<std::string> ReadToEnd(HANDLE file);
 
 Result<std::unique_ptr<RandomAccessFile>> OpenPlainFileAnywhere(const std::wstring& path);
 
-/// "." and ".." first, also at a drive's root, which has none of its own. Error 76 or 75.
+/// "." and ".." first, also at a drive's root, which has none of its own. A name that has no code page 1252 form is
+/// there by the short name that the disk keeps beside it, and left out without one. Error 76 or 75.
 Result<std::vector<DirectoryEntry>> ListSystemDirectory(const std::wstring& path);
 
 /// The same number by whichever path or link the directory is reached.

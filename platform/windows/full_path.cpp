@@ -41,12 +41,6 @@ bool IsDevicePath(std::string_view root) {
     return root.starts_with("\\\\?\\") || root.starts_with("\\\\.\\");
 }
 
-std::wstring ShortNames(const std::wstring& systemPath) {
-    std::wstring names(GetShortPathNameW(systemPath.c_str(), nullptr, 0), L'\0');
-    names.resize(GetShortPathNameW(systemPath.c_str(), names.data(), static_cast<DWORD>(names.size())));
-    return names;
-}
-
 }  // namespace
 
 std::optional<FullPath> TakeApart(std::string_view path, const FullPath& current) {
@@ -100,18 +94,6 @@ std::wstring SystemPath(const FullPath& path) {
         return wide;
     }
     return path.Root.ends_with(':') ? L"\\\\?\\" + wide : L"\\\\?\\UNC\\" + wide.substr(2);
-}
-
-std::optional<std::string> PathInCodePage(const std::wstring& systemPath) {
-    if (auto said = FromWide(systemPath)) {
-        return said;
-    }
-    auto byShortNames = FromWide(ShortNames(systemPath));
-    return byShortNames && !byShortNames->empty() ? byShortNames : std::nullopt;
-}
-
-std::string SayPath(const std::wstring& systemPath) {
-    return PathInCodePage(systemPath).value_or(FromWideLossy(systemPath));
 }
 
 }  // namespace lv

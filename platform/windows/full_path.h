@@ -32,10 +32,4 @@ bool HasPlainNames(const FullPath& path);
 /// The path as the system's calls take it. One longer than those allow goes round the limit by the prefix "\\?\".
 std::wstring SystemPath(const FullPath& path);
 
-/// The path in code page 1252, by its short names if the long ones have no form there; nothing if neither have one.
-std::optional<std::string> PathInCodePage(const std::wstring& systemPath);
-
-/// As PathInCodePage, with "?" for what has no form.
-std::string SayPath(const std::wstring& systemPath);
-
 }  // namespace lv

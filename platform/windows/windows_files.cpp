@@ -1,6 +1,8 @@
 #include "platform/windows/windows_files.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/code_page.h"
 #include "platform/windows/file_handle.h"
@@ -14,6 +16,9 @@
 namespace lv {
 
 namespace {
+
+// No server has such a name.
+constexpr const char* kProgramRoot = "\\\\?\\lorvane3d";
 
 // While this lives the system asks nobody to insert a disk: a drive that is not ready is an error.
 class Quiet {
@@ -120,13 +125,43 @@ std::wstring WithoutPrefix(std::wstring path) {
     return path.starts_with(L"\\\\?\\") && path.size() > 5 && path[5] == L':' ? path.substr(4) : path;
 }
 
+// Of a file. A drive's root keeps its "\".
+std::wstring DirectoryOf(const std::wstring& file) {
+    const std::wstring directory = file.substr(0, file.rfind(L'\\'));
+    return directory.ends_with(L':') ? directory + L"\\" : directory;
+}
+
+std::optional<std::wstring> WideOfHost(std::string_view hostPath) {
+    auto wide = WideFromUtf8(hostPath);
+    if (!wide || wide->empty() || hostPath.find('\0') != std::string_view::npos) {
+        return std::nullopt;
+    }
+    std::replace(wide->begin(), wide->end(), L'/', L'\\');
+    return WithoutPrefix(*std::move(wide));
+}
+
 }  // namespace
 
-WindowsFiles::WindowsFiles() : current_{"C:", {}} {
-    auto started = TakeApart(SayPath(WithoutPrefix(OwnCurrentDirectory())), current_);
+WindowsFiles::WindowsFiles() : WindowsFiles(DirectoryOf(WithoutPrefix(OwnProgramFile())), ShortName) {}
+
+WindowsFiles::WindowsFiles(std::wstring programDirectory, ShortNames names)
+    : program_(std::move(programDirectory)), names_(names), current_{"C:", {}} {
+    const auto said = PathInCodePage(WithoutPrefix(OwnCurrentDirectory()), names_);
+    auto started = said ? TakeApart(*said, current_) : std::nullopt;
     if (started && IsDirectoryAt(SystemPath(*started))) {
         current_ = *std::move(started);
     }
+}
+
+std::wstring WindowsFiles::System(const FullPath& path) const {
+    if (path.Root != kProgramRoot) {
+        return SystemPath(path);
+    }
+    std::wstring whole = program_;
+    for (const std::string& part : path.Parts) {
+        whole += L"\\" + ToWide(part);
+    }
+    return whole;
 }
 
 std::optional<WindowsFiles::Place> WindowsFiles::Find(std::string_view path) const {
@@ -134,7 +169,7 @@ std::optional<WindowsFiles::Place> WindowsFiles::Find(std::string_view path) con
     if (!taken) {
         return std::nullopt;
     }
-    std::wstring system = SystemPath(*taken);
+    std::wstring system = System(*taken);
     return Place{*std::move(taken), std::move(system)};
 }
 
@@ -392,36 +427,39 @@ Error WindowsFiles::ChangeDirectory(std::string_view path) {
     FullPath found = {place->Path.Root, {}};
     for (const std::string& part : place->Path.Parts) {
         found.Parts.push_back(part);
-        found.Parts.back() = FromWide(NameAsFound(SystemPath(found))).value_or(part);
+        found.Parts.back() = FromWide(NameAsFound(System(found))).value_or(part);
     }
     current_ = std::move(found);
     return {};
 }
 
 std::string WindowsFiles::ProgramDirectory() {
-    const std::wstring file = WithoutPrefix(OwnProgramFile());
-    const std::wstring directory = file.substr(0, file.rfind(L'\\'));
-    return SayPath(directory.ends_with(L':') ? directory + L"\\" : directory);
+    return PathInCodePage(program_, names_).value_or(kProgramRoot);
 }
 
 std::string WindowsFiles::ToHost(std::string_view path) {
     const auto taken = TakeApart(path, current_);
-    return taken ? ToUtf8(PutTogether(*taken)) : std::string();
+    if (!taken) {
+        return {};
+    }
+    return taken->Root == kProgramRoot ? Utf8FromWide(System(*taken)).value_or("") : ToUtf8(PutTogether(*taken));
 }
 
 std::string WindowsFiles::FromHost(std::string_view hostPath) {
-    const auto wide = WideFromUtf8(hostPath);
-    if (!wide || wide->empty() || hostPath.find('\0') != std::string_view::npos) {
-        return {};
-    }
-    const auto said = PathInCodePage(WithoutPrefix(*wide));
+    const auto wide = WideOfHost(hostPath);
+    const auto said = wide ? PathInCodePage(*wide, names_) : std::nullopt;
     const bool isWhole = said && said->size() > 2 && ((*said)[1] == ':' || said->starts_with("\\\\"));
     const auto taken = isWhole ? TakeApart(*said, current_) : std::nullopt;
     return taken ? PutTogether(*taken) : std::string();
 }
 
+Error WindowsFiles::WhyNotFromHost(std::string_view hostPath) {
+    const auto wide = WideOfHost(hostPath);
+    return !wide || PathInCodePage(*wide, names_) ? Files::WhyNotFromHost(hostPath) : WhyNotSaid(*wide, names_);
+}
+
 std::string WindowsFiles::UserHome() {
-    return PathInCodePage(HomeDirectory()).value_or("");
+    return PathInCodePage(HomeDirectory(), names_).value_or("");
 }
 
 }  // namespace lv

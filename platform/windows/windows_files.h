@@ -9,6 +9,7 @@
 
 #include "platform/files.h"
 #include "platform/windows/full_path.h"
+#include "platform/windows/said_path.h"
 
 namespace lv {
 
@@ -17,6 +18,8 @@ namespace lv {
 class WindowsFiles : public Files {
   public:
     WindowsFiles();
+    /// The same for a program in that directory, on disks with these short names.
+    WindowsFiles(std::wstring programDirectory, ShortNames names);
 
     std::vector<std::string> Drives() override;
     Error ProbeDrive(std::string_view drive) override;
@@ -44,13 +47,15 @@ class WindowsFiles : public Files {
     std::string CurrentDirectory() override { return PutTogether(current_); }
     Error ChangeDrive(std::string_view drive) override;
     Error ChangeDirectory(std::string_view path) override;
+    /// If it cannot be said, by a name that is only known here: "\\\\?\\lorvane3d".
     std::string ProgramDirectory() override;
 
     /// The whole path; nothing is looked up.
     std::string ToHost(std::string_view path) override;
 
-    /// By its short names if the long ones have no code page 1252 form; empty if neither has.
+    /// With short names for those that have no code page 1252 form; empty if one has none.
     std::string FromHost(std::string_view hostPath) override;
+    Error WhyNotFromHost(std::string_view hostPath) override;
     std::string UserHome() override;
 
   private:
@@ -58,10 +63,13 @@ class WindowsFiles : public Files {
         FullPath Path;
         std::wstring System;
     };
+    [[nodiscard]] std::wstring System(const FullPath& path) const;
     [[nodiscard]] std::optional<Place> Find(std::string_view path) const;
     [[nodiscard]] Result<Place> FindNamed(std::string_view path) const;
     [[nodiscard]] Result<Place> FindToWrite(std::string_view path) const;
 
+    std::wstring program_;  // the directory, without the prefix of long paths
+    ShortNames names_;
     FullPath current_;
 };
 

@@ -38,8 +38,8 @@ bool BeyondAscii(std::string_view text) {
     return std::ranges::any_of(text, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
 }
 
-// The command processor cannot stand on a share, and Wine's reads no batch in the code page of its console. What needs
-// nothing of it but the environment does without.
+// Wine's command processor reads no batch in the code page of its console, and none stands on a share by itself. What
+// needs nothing of it but the environment does without.
 bool StartsByItself(Files& disk, const BatchGame& game) {
     return !game.Plan.showsEnvironment && KindOfProgramAt(disk, game.Game.Program.Path) == ProgramKind::kWindows;
 }
@@ -52,6 +52,24 @@ Error StartWithoutBatch(Files& disk, const BatchGame& game) {
     const std::wstring program = ToWide(FromUtf8Lossy(disk.ToHost(game.Game.Program.Path)));
     const std::wstring line = L"\"" + program + L"\" " + ToWide(game.Game.Program.Arguments);
     return StartProcess(program, line, ToWide(game.Directory), CREATE_NEW_CONSOLE, environment);
+}
+
+// The batch in a console of its own: that is new, so that its code page, by which the batch is read, is nobody else's.
+// On a share the command processor stands only behind a letter, which pushd gives it and popd takes away; the path
+// comes as a variable, for within a line its "%" would be read. /s takes the outer quotes off, and those alone: what
+// stands in the inner ones is a name with whatever signs it has.
+Error StartBatchFile(const std::string& place, std::string_view name) {
+    const std::wstring system = SystemDirectory();
+    const std::wstring processor = system + L"\\cmd.exe";
+    const std::wstring codePage = L"\"" + system + L"\\chcp.com\" 1252 >nul & ";
+    const std::wstring batch = L"\".\\" + ToWide(name) + L"\"";
+    if (!place.starts_with("\\\\")) {
+        return StartProcess(processor, L"\"" + processor + L"\" /s /c \"" + codePage + batch + L"\"", ToWide(place),
+                            CREATE_NEW_CONSOLE);
+    }
+    const std::wstring there = L"pushd \"%LV_PLACE%\" && (set LV_PLACE=& " + batch + L" & popd) || pause";
+    return StartProcess(processor, L"\"" + processor + L"\" /e:on /v:off /s /c \"" + codePage + there + L"\"", system,
+                        CREATE_NEW_CONSOLE, {{L"LV_PLACE", ToWide(place)}});
 }
 
 std::string InDirectory(const std::string& directory, std::string_view name) {
@@ -71,6 +89,9 @@ LineReader WindowsProcesses::ReaderOf(std::string_view directory, std::string_vi
 Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) {
     const std::string place = FromUtf8Lossy(disk_.ToHost(directory.empty() ? "." : directory));
     const std::string batch = InDirectory(place, name);
+    if (place.find('"') != std::string::npos) {
+        return MakeError(error::kBadFileName, place);
+    }
     if (!disk_.DirectoryExists(place)) {
         return MakeError(error::kPathNotFound, place);
     }
@@ -91,14 +112,7 @@ Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view 
             return fault;
         }
     }
-    const std::wstring system = SystemDirectory();
-    const std::wstring processor = system + L"\\cmd.exe";
-    const std::wstring said = onAShare ? ToWide(batch) : L".\\" + ToWide(name);
-    // The console is new: its code page, by which the batch is read, is nobody else's.
-    const std::wstring codePage = L"\"" + system + L"\\chcp.com\" 1252 >nul & ";
-    // With /s it takes the outer quotes off, and those alone: a name with "&" in it stays within the inner ones.
-    const std::wstring line = L"\"" + processor + L"\" /s /c \"" + codePage + L"\"" + said + L"\"\"";
-    return StartProcess(processor, line, onAShare ? system : ToWide(place), CREATE_NEW_CONSOLE);
+    return StartBatchFile(place, name);
 }
 
 Error WindowsProcesses::StartProgram(std::string_view program, const std::vector<std::string>& arguments) {
@@ -127,6 +141,10 @@ Error WindowsProcesses::StartProgram(std::string_view program, const std::vector
         return MakeError(error::kFileNotFound);
     }
     return ShellExecuteExW(&how) != 0 ? Error() : StartError(GetLastError(), std::string(program));
+}
+
+bool WindowsProcesses::HasRunnerFor(std::string_view program) {
+    return RunsDosPrograms() || KindOfProgramAt(disk_, program) != ProgramKind::kDos || !FindDosBox().empty();
 }
 
 Error WindowsProcesses::StartHelpViewer(std::string_view path) {

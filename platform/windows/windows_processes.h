@@ -19,13 +19,15 @@ class WindowsProcesses : public Processes {
     LineReader ReaderOf(std::string_view directory, std::string_view command, std::string_view program) override;
 
     /// The command processor of the system carries the batch out, in a console of its own that reads code page 1252; a
-    /// DOS program that this Windows cannot start is given to DOSBox instead. On a share of the network,
-    /// where it cannot stand, it starts in a directory of the system's. It reads the batch by itself, so that what is
+    /// DOS program that this Windows cannot start is given to DOSBox instead. A share of
+    /// the network has a letter while the batch runs, by pushd. It reads the batch by itself, so that what is
     /// known of the command has no use here: who writes the batch asks ReaderOf first.
     Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) override;
 
     /// A document is opened by the program that the user has for it.
     Error StartProgram(std::string_view program, const std::vector<std::string>& arguments) override;
+
+    bool HasRunnerFor(std::string_view program) override;
 
     /// "winhlp32.exe", wherever the system finds it.
     Error StartHelpViewer(std::string_view path) override;

@@ -5,6 +5,7 @@
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
 #include <wx/listbox.h>
+#include <wx/platinfo.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
@@ -34,6 +35,14 @@ wxPoint TabCalled(const wxNotebook* tabs, const wxString& caption) {
     }
     EXPECT_GE(left, 0) << "no tab " << caption;
     return tabs->ClientToScreen(wxPoint((left + right) / 2, kTabMiddle));
+}
+
+TEST_F(FigForm_, ATabShowsItsAmpersandAndNoAccessKey) {
+    Use(kQuake, "bind w +forward\n");
+    Edit([] {
+        const bool readsKeys = wxPlatformInfo::Get().GetPortId() == wxPORT_MSW;
+        EXPECT_EQ(FindAs<wxNotebook>("Main_Tab")->GetPageText(4), readsKeys ? "Save && Exit" : "Save & Exit");
+    });
 }
 
 TEST_F(FigForm_, F3OpensTheSelectedScript) {

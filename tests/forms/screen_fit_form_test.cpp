@@ -181,6 +181,22 @@ TEST_F(OnAnyScreen, TheWindowOfGameSpyIsSeenWhole) {
     ShowModal(form);
 }
 
+TEST_F(OnAnyScreen, AMessageAndItsButtonsHaveRoomForTheirTexts) {
+    WhenModal([this] {
+        for (const char* const name : {"Button_Cmd(0)", "Button_Cmd(1)"}) {
+            const wxWindow* const button = Find(name);
+            EXPECT_GT(button->GetClientSize().x, button->GetTextExtent(button->GetLabel()).x) << name;
+        }
+        const wxWindow* const text = Find("Question_Txt");
+        EXPECT_GT(text->GetClientSize().x, text->GetTextExtent("3D Hardware Chipset: Voodoo").x);
+        EXPECT_NEAR(user.TextWidth("Chipset"), text->GetTextExtent("Chipset").x, 2);
+        EXPECT_NEAR(user.TextHeight(), text->GetTextExtent("Wg").y, 2);
+        Screenshot("message_on_its_screen");
+        PressKey(WXK_RETURN);
+    });
+    EXPECT_EQ(AskUser(run, "Verify", "3D Hardware Chipset: Voodoo", "&Accept,&Decline"), 0);
+}
+
 TEST_F(OnAnyScreen, ALongMessageShowsItsButtons) {
     Text text;
     for (int i = 0; i < 200; ++i) {

@@ -43,6 +43,30 @@ std::string WindowsProgram() {
 
 }  // namespace
 
+TEST(HasRunnerFor, LooksForWhatTheProgramNeeds) {
+    GameYard yard("has_runner_for");
+    yard.AddGame("show_native", "quake/native");
+    yard.AddFile("quake/windows.exe", WindowsProgram());
+    yard.AddFile("quake/dos.exe", "MZ");
+    yard.AddFile("quake/go.bat", "@echo off\r\n");
+    yard.AddFile("quake/empty.exe", "");
+    LinuxProcesses bare(yard.Disk, [&yard] {
+        HostPlaces places = yard.Places;
+        places.SearchPath = EmptyPath(yard);
+        return places;
+    }());
+    EXPECT_TRUE(bare.HasRunnerFor("C:\\QUAKE\\NATIVE"));
+    EXPECT_FALSE(bare.HasRunnerFor("C:\\QUAKE\\WINDOWS.EXE"));
+    EXPECT_FALSE(bare.HasRunnerFor("C:\\QUAKE\\DOS.EXE"));
+    EXPECT_FALSE(bare.HasRunnerFor("C:\\QUAKE\\GO.BAT"));
+    EXPECT_TRUE(bare.HasRunnerFor("C:\\QUAKE\\EMPTY.EXE"));
+    EXPECT_TRUE(bare.HasRunnerFor("C:\\QUAKE\\NONE.EXE"));
+    HostPlaces withDosBox = yard.Places;
+    withDosBox.SearchPath = PathWith(yard, {"dosbox"});
+    EXPECT_TRUE(LinuxProcesses(yard.Disk, withDosBox).HasRunnerFor("C:\\QUAKE\\DOS.EXE"));
+    EXPECT_FALSE(LinuxProcesses(yard.Disk, withDosBox).HasRunnerFor("C:\\QUAKE\\WINDOWS.EXE"));
+}
+
 TEST(ReaderOf, IsNobodyButForBatchesAndDosPrograms) {
     GameYard yard("reader_of");
     yard.AddGame("show_native", "quake/native");

@@ -75,6 +75,29 @@ TEST_F(SetupCompletion, ProgramsOfOneGameComeInOrder) {
     EXPECT_EQ(run.DefaultGameDirectory, "c:\\quake\\");
 }
 
+TEST_F(SetupCompletion, OfANewListAnEntryThatStartsIsPicked) {
+    system.Disk.AddFile("C:\\QUAKE\\QUAKE.EXE");
+    system.Disk.AddFile("C:\\QUAKE\\GLQUAKE.EXE");
+    system.Disk.AddFile("C:\\QUAKE\\WINQUAKE.EXE");
+    system.Programs.WithoutRunner = {"c:\\quake\\quake.exe"};
+    Install_Frm form(run);
+    Choose(form, kQuake, "C:\\QUAKE");
+    Install_OK_Cmd_Click(form);
+    EXPECT_EQ(Executables(),
+              "Quake;c:\\quake\\quake.exe;GL Quake;c:\\quake\\glquake.exe;WinQuake;c:\\quake\\winquake.exe");
+    EXPECT_EQ(Stored(kOptions, "ExecutablesPos"), "1");
+}
+
+TEST_F(SetupCompletion, OfAListThatWasThereThePickStays) {
+    Save(run, kOptions, "Executables", "Quake;c:\\quake\\quake.exe");
+    system.Disk.AddFile("C:\\SIN\\SIN.EXE");
+    system.Programs.WithoutRunner = {"c:\\quake\\quake.exe"};
+    Install_Frm form(run);
+    Choose(form, kSin, "C:\\SIN");
+    Install_OK_Cmd_Click(form);
+    EXPECT_EQ(Stored(kOptions, "ExecutablesPos"), "(none)");
+}
+
 TEST_F(SetupCompletion, NewEntriesAddToWhatIsThere) {
     Save(run, kOptions, "Executables", " Old;C:\\OLD\\OLD.EXE ");
     system.Disk.AddFile("C:\\SIN\\SIN.EXE");

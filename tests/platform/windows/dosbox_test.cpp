@@ -39,6 +39,10 @@ struct DosYard {
     ScopedVariable Installed{L"ProgramFiles", L"T:\\PROGRAMS"};
 };
 
+std::string WindowsHeader() {
+    return "MZ" + std::string(0x3A, '\0') + std::string("\x40\0\0\0PE\0\0", 8);
+}
+
 std::string Told() {
     std::array<wchar_t, MAX_PATH + 1> directory{};
     GetTempPathW(static_cast<DWORD>(directory.size()), directory.data());
@@ -67,6 +71,15 @@ TEST(DosBox, IsLookedForWhereProgramsAreInstalled) {
     EXPECT_EQ(yard.Made.Disk.MakeDirectory("T:\\PROGRAMS\\DOSBox-0.74-3").Number, 0);
     yard.Install("T:\\PROGRAMS\\DOSBox-0.74-3\\dosbox.exe");
     EXPECT_EQ(FindDosBox(), L"T:\\PROGRAMS\\DOSBox-0.74-3\\dosbox.exe");
+}
+
+TEST(DosBox, IsWhatADosProgramNeedsToStart) {
+    DosYard yard;
+    EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\GLQUAKE.EXE", WindowsHeader()).Number, 0);
+    EXPECT_FALSE(yard.Programs.HasRunnerFor("T:\\QUAKE\\QUAKE.EXE"));
+    EXPECT_TRUE(yard.Programs.HasRunnerFor("T:\\QUAKE\\GLQUAKE.EXE"));
+    yard.Install("T:\\TOOLS\\dosbox.exe");
+    EXPECT_TRUE(yard.Programs.HasRunnerFor("T:\\QUAKE\\QUAKE.EXE"));
 }
 
 TEST(DosBox, MissingIsSaidWithWhatHelps) {

@@ -68,9 +68,4 @@ TEST(SystemPath, KeepsRoomForAShortNameBehindADirectory) {
     EXPECT_EQ(System("C:\\" + std::string(244, 'x')), L"\\\\?\\C:\\" + std::wstring(244, L'x'));
 }
 
-TEST(SayPath, AsksForWhatHasNoFormInTheCodePage) {
-    EXPECT_EQ(SayPath(L"C:\\\u20AC"), "C:\\\x80");
-    EXPECT_EQ(SayPath(L"Q:\\not there \u65E5"), "Q:\\not there ?");
-}
-
 }  // namespace lv

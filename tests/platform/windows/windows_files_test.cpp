@@ -22,6 +22,11 @@ Names NamesOf(const std::vector<DirectoryEntry>& entries) {
     return names;
 }
 
+// As a disk that keeps none.
+std::wstring NoShortName(const std::wstring&) {
+    return {};
+}
+
 // Keeps a file open, as the program does that made it.
 class HeldOpen {
   public:
@@ -56,12 +61,28 @@ TEST(WindowsFiles, KnowTheSystemsDrives) {
     EXPECT_TRUE(std::is_sorted(drives.begin(), drives.end()));
 }
 
-TEST(WindowsFiles, LeaveNamesOutOfListingsThatCannotBeSaid) {
+TEST(WindowsFiles, ListNamesThatCannotBeSaidByTheirShortOnes) {
     SystemDisk made;
     WriteBytes(L"T:\\a.pak", "");
-    WriteBytes(L"T:\\\u65E5\u672C", "");
+    WriteBytes(L"T:\\\u65E5\u672C.cfg", "found");
     WriteBytes(L"T:\\\u00E9\u20AC", "");
-    EXPECT_EQ(NamesOf(made.Disk.List("T:\\").Value), (Names{"..\\", ".\\", "a.pak", "\xE9\x80"}));
+    const Names names = NamesOf(made.Disk.List("T:\\").Value);
+    ASSERT_EQ(names.size(), 5u);
+    EXPECT_TRUE(std::ranges::includes(names, Names{"..\\", ".\\", "a.pak", "\xE9\x80"}));
+    const auto shortName =
+        std::ranges::find_if(names, [](const std::string& name) { return name.find('~') != std::string::npos; });
+    ASSERT_NE(shortName, names.end());
+    EXPECT_EQ(made.Disk.Read("T:\\" + *shortName).Value, "found");
+}
+
+TEST(WindowsFiles, ReplaceAFileByItsShortNameAndKeepTheLong) {
+    SystemDisk made;
+    WriteBytes(L"T:\\\u65E5\u672C.cfg", "old");
+    const std::string path = made.Disk.FromHost("T:\\\xE6\x97\xA5\xE6\x9C\xAC.cfg");
+    EXPECT_EQ(made.Disk.Replace(path, "new").Number, 0);
+    EXPECT_EQ(BytesOf(L"T:\\\u65E5\u672C.cfg"), "new");
+    EXPECT_EQ(made.Disk.ReplaceOwn(made.Disk.FromHost("T:\\\xE6\x97\xA5\xE6\x9C\xAC.cfg"), "own").Number, 0);
+    EXPECT_EQ(BytesOf(L"T:\\\u65E5\u672C.cfg"), "own");
 }
 
 TEST(WindowsFiles, WriteNamesInCodePage1252) {
@@ -178,6 +199,20 @@ TEST(WindowsFiles, KnowWhereTheProgramLies) {
     EXPECT_TRUE(made.Disk.FileExists(program + "\\lv_platform_tests.exe")) << program;
 }
 
+TEST(WindowsFiles, ReadWhatLiesBesideAProgramThatCannotBeSaid) {
+    SystemDisk made;
+    CreateDirectoryW(L"T:\\\u65E5", nullptr);
+    WriteBytes(L"T:\\\u65E5\\lv_666.hid", "beside");
+    WindowsFiles disk(L"T:\\\u65E5", NoShortName);
+    const std::string program = disk.ProgramDirectory();
+    EXPECT_EQ(program, "\\\\?\\lorvane3d");
+    EXPECT_EQ(disk.Read(program + "\\lv_666.hid").Value, "beside");
+    EXPECT_TRUE(disk.DirectoryExists(program));
+    EXPECT_EQ(disk.ToHost(program + "\\lv_666.hid"), "T:\\\xE6\x97\xA5\\lv_666.hid");
+    EXPECT_EQ(disk.Copy(program + "\\lv_666.hid", "T:\\copy").Number, 0);
+    EXPECT_EQ(BytesOf(L"T:\\copy"), "beside");
+}
+
 TEST(WindowsFiles, KnowTheUsersHomeAndTakeTypedPathsAsTheyAre) {
     SystemDisk made;
     EXPECT_TRUE(made.Disk.DirectoryExists(made.Disk.UserHome())) << made.Disk.UserHome();
@@ -192,6 +227,17 @@ TEST(WindowsFiles, TellAPathThatNoDriveCanSay) {
     EXPECT_EQ(made.Disk.FromHost("relative"), "");
     EXPECT_EQ(made.Disk.FromHost(""), "");
     EXPECT_EQ(made.Disk.FromHost("\xFF"), "");
+}
+
+TEST(WindowsFiles, TellWhyAPathCannotBeSaid) {
+    SystemDisk made;
+    WriteBytes(L"T:\\\u65E5.cfg", "");
+    EXPECT_NE(made.Disk.FromHost("T:\\\xE6\x97\xA5.cfg"), "");
+    EXPECT_EQ(WindowsFiles(L"C:\\", NoShortName).WhyNotFromHost("T:/\xE6\x97\xA5.cfg").Text,
+              "These games can't read the letters that stand as ? here: T:\\?.cfg. Drive T: keeps no short name, like "
+              "GAMES~1, to stand for them. Rename the file or the directory; or let the drive keep short names (as an "
+              "administrator: fsutil 8dot3name set T: 0), and then rename it to something else and back.");
+    EXPECT_EQ(made.Disk.WhyNotFromHost("").Text, "this file lies on none of the drives");
 }
 
 TEST(WindowsFiles, RemoveWhatEndedWritersHaveLeft) {

@@ -18,6 +18,7 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::MatchesRegex;
 
 // A game directory T:\QUAKE whose game says where and how it was started.
 struct Yard {
@@ -168,6 +169,24 @@ TEST(StartBatch, StartsAGameOnAShareInItsDirectory) {
     EXPECT_THAT(lines, Contains("LV_A=caf\xC3\xA9"));
     DeleteFileW(saidUnderWine.c_str());
     EXPECT_EQ(yard.Made.Disk.ChangeDirectory("T:\\").Number, 0);
+}
+
+// A batch of the user's own needs a directory that the command processor can stand in.
+TEST(StartBatch, RunsABatchOfTheUsersOnAShareInItsDirectory) {
+    Yard yard;
+    std::array<wchar_t, 200> share{};
+    ASSERT_NE(GetEnvironmentVariableW(L"LV_TEST_SHARE", share.data(), static_cast<DWORD>(share.size())), 0u);
+    const std::string place = FromWideLossy(share.data()) + "\\share (a & b) ^c 100%";
+    ASSERT_EQ(yard.Made.Disk.MakeDirectory(place).Number, 0);
+    yard.CopyGame(place + "\\GAME.EXE");
+    WriteBytes(ToWide(place) + L"\\GO.BAT",
+               "@echo off\r\necho %1>said.txt\r\ncd>>said.txt\r\necho [%LV_PLACE%]>>said.txt\r\n");
+    WriteBytes(ToWide(place) + L"\\lv_666.bat", "\\\\\r\ncd \"" + place + "\"\r\nGO.BAT first");
+    EXPECT_EQ(yard.Programs.StartBatch(place, "lv_666.bat").Number, 0);
+    const std::wstring said = L"T:\\share (a & b) ^c 100%\\said.txt";
+    EXPECT_TRUE(WaitUntil([&] { return BytesOf(said).ends_with("]\r\n"); }));
+    // Windows stands there behind a letter, Wine without one.
+    EXPECT_THAT(BytesOf(said), MatchesRegex("first\r\n.+\\\\share .a & b. .c 100%\r\n..\r\n"));
 }
 
 TEST(StartBatch, SaysWhatIsMissing) {

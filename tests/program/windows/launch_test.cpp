@@ -85,6 +85,17 @@ TEST(Shipped, RunsFromADirectoryOfAnyName) {
     EXPECT_EQ(BytesOf(L"T:\\QUAKE\\lv_666.pif").size(), 517u);
 }
 
+TEST(Shipped, RunsFromADirectoryBeyondTheCodePage) {
+    WindowsHome home;
+    home.Prepare();
+    const std::wstring place = L"T:\\\u0438\u0433\u0440\u044B \u65E5\u672C";
+    CopyTree(Unpacked(), place);
+    ProgramRun program(place + L"\\lorvane3d.exe", L"C:\\");
+    ExpectALaunch(program);
+    EXPECT_TRUE(WaitUntil([&] { return BytesOf(L"T:\\QUAKE\\lv_666.pif") == BytesOf(place + L"\\lv_666.hid"); }));
+    EXPECT_EQ(BytesOf(L"T:\\QUAKE\\lv_666.pif").size(), 517u);
+}
+
 // Wine names what lies on no drive by such paths; the program takes them for a network's.
 TEST(Shipped, RunsFromAPathWithoutADriveUnderWine) {
     WindowsHome home;

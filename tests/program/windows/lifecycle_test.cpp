@@ -125,6 +125,30 @@ TEST(FirstRun, FindsTheGameByItsSearchAndF2LaunchesIt) {
     EXPECT_FALSE(WindowsHome::GameSaid().empty());
 }
 
+TEST(FirstRun, FindsAGameInADirectoryBeyondTheCodePageAndF2LaunchesIt) {
+    WindowsHome home;
+    home.MakeGame();
+    const std::wstring games = L"T:\\Games\\\u0438\u0433\u0440\u044B";
+    ASSERT_NE(CreateDirectoryW(L"T:\\Games", nullptr), 0);
+    ASSERT_NE(CreateDirectoryW(games.c_str(), nullptr), 0);
+    WriteBytes(L"T:\\QUAKE\\ID1\\PAK0.PAK", "PACK");
+    ASSERT_NE(MoveFileW(L"T:\\QUAKE", (games + L"\\QUAKE").c_str()), 0);
+    ProgramRun program;
+    ASSERT_TRUE(Activate(program.WaitForWindow(kSetupTitle)));
+    PressKey(VK_RETURN);
+    ASSERT_TRUE(Activate(program.WaitForWindow(L"Verify Setup Information")));
+    PressKey(VK_RETURN);
+    ASSERT_TRUE(WaitUntil([&] { return program.ShownWindow(L"Verify Setup Information") == nullptr; }));
+    ASSERT_TRUE(program.ActivateShown(kSetupTitle));
+    Sleep(300);
+    PressKey('O', true);  // "&OK": the look around has ticked Quake
+    ASSERT_TRUE(Activate(program.WaitForWindow()));
+    EXPECT_THAT(home.Get("Options", "Executables"), ::testing::ContainsRegex("t:.games..+~.+.quake.quake.exe"));
+    PressKey(VK_F2);
+    EXPECT_THAT(LinesAfter(WindowsHome::GameSaid(games + L"\\QUAKE"), "DIRECTORY="),
+                ::testing::ElementsAre(::testing::ContainsRegex("~.*QUAKE")));
+}
+
 TEST(FirstRun, StaysAFirstRunWhenItIsCancelled) {
     WindowsHome home;
     ProgramRun program;

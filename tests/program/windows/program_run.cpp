@@ -106,8 +106,8 @@ std::string WindowsHome::Get(const std::string& section, const std::string& key)
     return store_.Read(kApplication, section, key).value_or("(none)");
 }
 
-std::vector<std::string> WindowsHome::GameSaid() {
-    const wchar_t* file = L"T:\\QUAKE\\output.txt";
+std::vector<std::string> WindowsHome::GameSaid(const std::wstring& directory) {
+    const std::wstring file = directory + L"\\output.txt";
     EXPECT_TRUE(WaitUntil([&] { return BytesOf(file).ends_with("end\n"); })) << "the game said nothing";
     std::vector<std::string> lines;
     std::string line;

@@ -39,7 +39,7 @@ class WindowsHome {
     /// "(none)" if it is not stored.
     std::string Get(const std::string& section, const std::string& key);
     /// The lines that the game says of itself, once all are there.
-    static std::vector<std::string> GameSaid();
+    static std::vector<std::string> GameSaid(const std::wstring& directory = L"T:\\QUAKE");
 
   private:
     TestDrive drive_;
