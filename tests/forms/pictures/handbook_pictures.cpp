@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "catalogs/editors/path_window.h"
+#include "foundry/versions/script_versions.h"
 #include "gamespy/forms/game_spy_form.h"
 #include "gamespy/game_spy_config.h"
 #include "launcher/forms/launcher_user.h"
@@ -26,6 +27,7 @@ constexpr const char* kScript = R"(name "Ranger"
 sensitivity "4"
 fov "100"
 crosshair "1"
+bind ESCAPE "togglemenu"
 bind w "+forward"
 bind s "+back"
 bind a "+moveleft"
@@ -188,6 +190,10 @@ TEST_F(HandbookPictures, SetupFoundryAndItsDialogs) {
         Turn(EditorPage::Aliases);
         Picture("foundry_aliases", form);
         dialog("AddCustomAlias_Cmd", "alias", "AliasName_Txt", "rocketjump");
+        ASSERT_EQ(KeepVersion(run, path).Number, 0);
+        Turn(EditorPage::SaveAndExit);
+        dialog("ShowChanges_Cmd", "foundry_changes", "", "");
+        dialog("Versions_Cmd", "foundry_versions", "", "");
         form->Model().Document.ScriptClean = false;
         WhenModal([] {
             Picture("confirm_exit", wxGetTopLevelParent(Find("Yes_Cmd")));
