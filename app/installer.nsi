@@ -1,10 +1,10 @@
 ; The installer: for one user, without asking for rights. CMake (windows_installer.cmake) says what goes in:
 ;   FILES     the list of what is installed and removed again
 ;   STAGE     the folder that it is taken from
-;   VERSION, KILOBYTES, ICON, OUTPUT
+;   VERSION, KILOBYTES, ICON, OUTPUT, and TARGET, the machine
 ; Silent: /S, to another place with /D=C:\Some Where (last, without quotes). The uninstaller: /S, and /settings to take
 ; this user's lists and settings away as well.
-Target amd64-unicode
+Target ${TARGET}
 SetCompressor /SOLID lzma
 SetDateSave off
 ManifestDPIAware true

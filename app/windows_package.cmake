@@ -1,9 +1,13 @@
 # What is handed out: lorvane3d-<version>-windows.zip, one folder with the program and its data. Target `zip` makes it,
 # and unpacks it to shipped/, where the tests take the program from.
 set(folder "Lorvane 3D")
+set(edition "")
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    set(edition 32)
+endif()
 set(stage ${CMAKE_CURRENT_BINARY_DIR}/stage)
 set(shipped ${CMAKE_BINARY_DIR}/shipped)
-set(zip ${CMAKE_BINARY_DIR}/lorvane3d-${PROJECT_VERSION}-windows.zip)
+set(zip ${CMAKE_BINARY_DIR}/lorvane3d-${PROJECT_VERSION}-windows${edition}.zip)
 
 install(TARGETS lorvane3d DESTINATION "${folder}" COMPONENT zip)
 install(FILES ${CMAKE_SOURCE_DIR}/assets/lv_666.hid ${CMAKE_SOURCE_DIR}/assets/lv_666_q2.hid DESTINATION "${folder}"
@@ -11,7 +15,8 @@ install(FILES ${CMAKE_SOURCE_DIR}/assets/lv_666.hid ${CMAKE_SOURCE_DIR}/assets/l
 install(DIRECTORY ${pages}/ DESTINATION "${folder}/handbook" COMPONENT zip)
 install(FILES ${CMAKE_SOURCE_DIR}/LICENSE DESTINATION "${folder}" RENAME LICENSE.txt COMPONENT zip)
 # The licences of what is linked in, as Debian's packages bring them.
-foreach(package libwxgtk3.2-dev libpng16-16 libz-mingw-w64-dev mingw-w64-common g++-mingw-w64-x86-64-posix)
+string(REPLACE _ - processor ${CMAKE_SYSTEM_PROCESSOR})
+foreach(package libwxgtk3.2-dev libpng16-16 libz-mingw-w64-dev mingw-w64-common g++-mingw-w64-${processor}-posix)
     install(FILES /usr/share/doc/${package}/copyright DESTINATION "${folder}/licences" RENAME ${package}.txt
         COMPONENT zip)
 endforeach()

@@ -1,16 +1,18 @@
-# The Windows program, 64 bit, cross-built by MinGW-w64 on the libraries of scripts/windows_libraries. Everything is
-# linked statically: one file to ship.
+# The Windows program, 64 bit unless windows32_toolchain.cmake says otherwise, cross-built by MinGW-w64 on the libraries
+# of scripts/windows_libraries. Everything is linked statically: one file to ship.
 set(CMAKE_SYSTEM_NAME Windows)
-set(CMAKE_SYSTEM_PROCESSOR x86_64)
+if(NOT CMAKE_SYSTEM_PROCESSOR)
+    set(CMAKE_SYSTEM_PROCESSOR x86_64)
+endif()
 
-set(host x86_64-w64-mingw32)
+set(host ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)
 set(CMAKE_C_COMPILER ${host}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${host}-g++-posix)
 set(CMAKE_RC_COMPILER ${host}-windres)
 
 get_filename_component(root ${CMAKE_CURRENT_LIST_DIR}/.. ABSOLUTE)
 # What the libraries say of themselves holds their real place.
-get_filename_component(libraries ${root}/build/windows_libraries REALPATH)
+get_filename_component(libraries ${root}/build/windows${bits}_libraries REALPATH)
 set(CMAKE_FIND_ROOT_PATH ${libraries} /usr/${host})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
