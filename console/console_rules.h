@@ -54,6 +54,13 @@ enum class Capitals {
     Small,    // "A" is "a"
 };
 
+/// Aliases whose names differ in letter case alone: a call in any case runs one of them.
+enum class AliasCases {
+    NewestRuns,  // the one that was made last
+    FirstRuns,   // the first one by the bytes of its name, capitals ahead of small letters
+    AreOne,
+};
+
 /// The commands that make, mark and remove what a script sets, a bit each.
 namespace has {
 constexpr unsigned kSet = 1;
@@ -82,6 +89,7 @@ struct ConsoleRules {
     bool OddQuoteDrops = false;     // a command with a quote that does not close is dropped
     BindWords Bind = BindWords::One;
     Capitals Letters = Capitals::OwnKeys;
+    AliasCases Cases = AliasCases::NewestRuns;
     bool BareAliasEmpties = true;  // "alias NAME" stores an empty one, otherwise it prints
     bool OldPlayer = false;        // "name" and "color" are commands that set _cl_name and _cl_color
     unsigned Has = 0;
