@@ -24,6 +24,7 @@ void FuzzNames(TextView input);
 void FuzzRegFile(TextView input);
 void FuzzScript(TextView input);
 void FuzzServerText(TextView input);
+void FuzzTwoScripts(TextView input);
 void FuzzVdf(TextView input);
 
 struct FuzzedReader {
@@ -43,6 +44,7 @@ constexpr FuzzedReader kFuzzedReaders[] = {
     {"reg_file", FuzzRegFile},
     {"script", FuzzScript},
     {"server_text", FuzzServerText},
+    {"two_scripts", FuzzTwoScripts},
     {"vdf", FuzzVdf},
 };
 
