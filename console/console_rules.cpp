@@ -18,8 +18,8 @@ constexpr unsigned kNone = 0;
 constexpr unsigned kUnaliases = has::kUnalias | has::kUnaliasAll;
 constexpr unsigned kAllSets = has::kSet | has::kSeta | has::kSetu;
 
-// Sin's and FTE's rows are those of the originals where nobody has looked, and the limits of the words of Ironwail and
-// DarkPlaces are what was measured or assumed.
+// Sin's and FTE's rows are those of the originals where nobody has looked, and the limits of the words of Ironwail,
+// QuakeSpasm and DarkPlaces are what was measured or assumed.
 // clang-format off
 constexpr ConsoleRules kConsoles[] = {
     // console             name          line  words word  buffer  alias long      comment      own words    controls high   escape return odd    bind    letters  cases       bare   player commands
@@ -37,6 +37,7 @@ constexpr ConsoleRules kConsoles[] = {
     {Console::Q2Pro,      "Q2PRO",       1023, 256,  1023,      0, 31,   Dropped,  kSplits,     "",          true,    false, false, false, true,  Joined, OwnKeys, NewestRuns, true,   false, kAllSets | has::kUnalias},
     {Console::HalfLife,   "Half-Life",   2046,  80, 32767,  32768, 31,   Dropped,  kAfterBlank, "",          true,    false, true,  false, false, Joined, OwnKeys, FirstRuns,  true,   false, has::kSet | has::kUnalias},
     {Console::Unreal,     "Unreal",          0,  0,     0,      0,  0,   Cut,      kUnquoted,   "",          false,   false, false, true,  false, Joined, Small,   AreOne,     true,   false, kNone},
+    {Console::QuakeSpasm, "QuakeSpasm",  1023,  80,  1023, 262144, 31,   Cut,      kSplits,     "",          true,    false, false, false, false, One,    OwnKeys, NewestRuns, true,   true,  kUnaliases},
 };
 // clang-format on
 

@@ -19,13 +19,14 @@ enum class Console {
     Heretic2,
     Sin,
     EzQuake,
-    Ironwail,  // and the others of QuakeSpasm's line
+    Ironwail,  // and the others that descend from QuakeSpasm
     DarkPlaces,
     Fte,
     Yamagi,
     Q2Pro,
     HalfLife,  // as Xash3D reads it
     Unreal,    // no console's script but an ini
+    QuakeSpasm,
 };
 
 /// What becomes of a line that is longer than the console's.

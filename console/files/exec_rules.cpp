@@ -31,6 +31,7 @@ constexpr ExecRules kRules[] = {
     {Console::Q2Pro,       false, "pak%.pak",     kToNine,    "*.pak;*.pkz",                 false, "",                  WhenMissing,  false, false, false, false},
     {Console::HalfLife,    true,  "",             kNoNumbers, "*.pak;*.pk3",                 false, "",                  WithoutPoint, true,  true,  true, true},
     {Console::Unreal,      true,  "",             kNoNumbers, "",                            false, "",                  kPlain,       false, false, true, false},
+    {Console::QuakeSpasm,  false, "pak%.pak",     kUntilGap,  "",                            true,  "",                  kPlain,       true,  false, true, true},
 };
 
 constexpr EngineFiles kEngineFiles[] = {

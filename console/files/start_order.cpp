@@ -51,6 +51,7 @@ constexpr StartStep kSteps[] = {
     {Console::EzQuake,    CommandLine},
 
     {Console::Ironwail,   Rc,           "quake.rc",             kQuakeRc},
+    {Console::QuakeSpasm, Rc,           "quake.rc",             kQuakeRc},
     {Console::DarkPlaces, RcOrElse,     "quake.rc",             kQuakeRc},
     {Console::Fte,        NearRcOrElse, "quake.rc;hexen.rc",    kQuakeRc},
     {Console::Fte,        Script,       "frontend.cfg",         "",        kMayLack},

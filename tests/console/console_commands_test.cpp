@@ -49,6 +49,7 @@ TEST(CommandReader, RunsWhatFollowsASemicolonInACommentWhereTheConsoleDoes) {
     EXPECT_EQ(CommandsOf(script, Console::Quake), "1:1 fov|90 & 1:17 echo|x");
     EXPECT_EQ(CommandsOf(script, Console::Quake2), "1:1 fov|90 & 1:17 echo|x");
     EXPECT_EQ(CommandsOf(script, Console::EzQuake), "1:1 fov|90");
+    EXPECT_EQ(CommandsOf(script, Console::QuakeSpasm), "1:1 fov|90 & 1:17 echo|x");
     EXPECT_EQ(CommandsOf(script, Console::Ironwail), "1:1 fov|90");
     EXPECT_EQ(CommandsOf(script, Console::DarkPlaces), "1:1 fov|90");
     EXPECT_EQ(CommandsOf(script, Console::HalfLife), "1:1 fov|90");

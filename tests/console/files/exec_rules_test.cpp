@@ -31,6 +31,7 @@ TEST(ExecRules, AreThoseOfEachConsole) {
         {Console::Sin, false, "pak%.sin:to 9", "", ExecEnding::None, false, false},
         {Console::EzQuake, false, "pak%.pak:until gap *.pk3", "ezquake;qw", ExecEnding::WithoutPoint, kOneWord, kEnds},
         {Console::Ironwail, false, "pak%.pak:until gap", "", ExecEnding::None, kOneWord, kEnds},
+        {Console::QuakeSpasm, false, "pak%.pak:until gap", "", ExecEnding::None, kOneWord, kEnds},
         {Console::DarkPlaces, kLooseFirst, ":none *.pak;*.pk3", "", ExecEnding::None, false, kEnds},
         {Console::Fte, false, "pak%.pak:until gap *.pk3", "qw;fte", ExecEnding::WhenMissing, false, kEnds},
         {Console::Yamagi, false, "pak%.pak:to 9 *.pak;*.pk2;*.pk3;*.pkz;*.zip", "", ExecEnding::None, false, false},
@@ -66,7 +67,7 @@ TEST(ExecRules, SayWhoseArchivesMindLetterCase) {
         patterns += rules.Patterns ? name : "";
         unsure += rules.IsSure ? "" : name;
     }
-    EXPECT_EQ(exact, "Quake;QuakeWorld;Hexen II;ezQuake;Ironwail;FTE;");
+    EXPECT_EQ(exact, "Quake;QuakeWorld;Hexen II;ezQuake;Ironwail;QuakeSpasm;FTE;");
     EXPECT_EQ(patterns, "DarkPlaces;Half-Life;");
     EXPECT_EQ(unsure, "Sin;FTE;Yamagi;Q2PRO;Unreal;");
 }

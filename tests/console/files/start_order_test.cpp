@@ -34,6 +34,7 @@ TEST(StartOrder, IsThatOfEachConsole) {
     EXPECT_EQ(Listed(Console::EzQuake),
               "exec not the game's default.cfg?, loose configs/config.cfg?, early sets, exec autoexec.cfg?, commands");
     EXPECT_EQ(Listed(Console::Ironwail), "rc quake.rc");
+    EXPECT_EQ(Listed(Console::QuakeSpasm), "rc quake.rc");
     EXPECT_EQ(Listed(Console::DarkPlaces), "rc or else quake.rc");
     EXPECT_EQ(Listed(Console::Fte), "near rc or else quake.rc;hexen.rc, exec frontend.cfg?");
     EXPECT_EQ(Listed(Console::Yamagi),
@@ -48,8 +49,8 @@ TEST(StartOrder, IsThatOfEachConsole) {
 
 TEST(StartOrder, KnowsWhatEachRcSaysThatIsNotThere) {
     constexpr TextView kQuake = "exec default.cfg\nexec config.cfg\nexec autoexec.cfg\nstuffcmds\n";
-    for (const Console console :
-         {Console::Quake, Console::QuakeWorld, Console::Ironwail, Console::DarkPlaces, Console::Fte}) {
+    for (const Console console : {Console::Quake, Console::QuakeWorld, Console::Ironwail, Console::QuakeSpasm,
+                                  Console::DarkPlaces, Console::Fte}) {
         EXPECT_EQ(StartStepsOf(console).at(0).Otherwise, kQuake);
     }
     EXPECT_EQ(StartStepsOf(Console::Hexen2).at(0).Otherwise,
