@@ -2,10 +2,11 @@
 # one library of each subsystem that links what its folders may know, and nothing else.
 
 # From below to above.
-set(LV_SUBSYSTEMS platform foundation games console catalogs video launch gamespy launcher foundry wizard)
+set(LV_SUBSYSTEMS platform foundation games catalogs console video launch gamespy launcher foundry wizard)
 set(ROOMS_platform starting toolkit)
 set(ROOMS_games engines fitting trees)
 set(ROOMS_catalogs editors)
+set(ROOMS_console files checks)
 set(ROOMS_launcher start window menu)
 set(ROOMS_foundry tables document versions reading writing half_life losses fonts look editor)
 
@@ -18,9 +19,11 @@ set(MAY_games/trees games/trees ${MAY_games})
 set(MAY_games/engines games/engines ${MAY_games/trees})
 set(MAY_games/fitting games/fitting games/engines ${MAY_games})
 set(ALL_OF_GAMES games games/engines games/fitting games/trees foundation platform)
-set(MAY_console console ${ALL_OF_GAMES})
 set(MAY_catalogs catalogs ${ALL_OF_GAMES})
 set(MAY_catalogs/editors catalogs/editors ${MAY_catalogs})
+set(MAY_console console ${ALL_OF_GAMES})
+set(MAY_console/files console/files catalogs ${MAY_console})
+set(MAY_console/checks console/checks ${MAY_console/files})
 set(MAY_video video ${ALL_OF_GAMES})
 set(MAY_launch launch video ${MAY_catalogs})
 set(MAY_gamespy gamespy catalogs/editors ${MAY_launch})

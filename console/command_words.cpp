@@ -100,7 +100,30 @@ constexpr std::array kSettings = std::to_array<TextView>({
 });
 static_assert(std::ranges::is_sorted(kSettings));
 
+/// As tried with DarkPlaces; of the other consoles nobody has made a list.
+constexpr std::array kNotInDarkPlaces = std::to_array<TextView>({
+    "_cl_playerclass",
+    "_snd_mixahead",
+    "cd_nocd",
+    "cl_run",
+    "crosshaircolor",
+    "gamma",
+    "hand",
+    "joystick",
+    "s_mixahead",
+    "s_volume",
+    "s_wavonly",
+    "scr_centerspeed",
+    "scr_conspeed",
+    "vid_mode",
+});
+static_assert(std::ranges::is_sorted(kNotInDarkPlaces));
+
 }  // namespace
+
+bool LacksSetting(Console console, TextView word) {
+    return console == Console::DarkPlaces && std::ranges::binary_search(kNotInDarkPlaces, word);
+}
 
 WordUse UseOfWord(TextView word) {
     if (word.starts_with('+') || word.starts_with('-')) {

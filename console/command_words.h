@@ -4,7 +4,7 @@
 
 #pragma once
 
-#include "foundation/text.h"
+#include "console/console_rules.h"
 
 namespace lv {
 
@@ -16,6 +16,10 @@ enum class WordUse {
 
 /// In any letter case. What begins with "+" or "-" is a command.
 WordUse UseOfWord(TextView word);
+
+/// Whether the console is known to lack this one of the settings: to it the word is no command and no setting, unless
+/// the script makes a setting of the name by "set".
+bool LacksSetting(Console console, TextView word);
 
 /// Whether it runs another script: what that sets nobody knows who has not read it.
 bool RunsScript(TextView word);

@@ -93,6 +93,9 @@ bool CommandReader::Next(ConsoleCommand& command) {
         const Stretch stretch = FindEnd();
         MoveBehind(stretch);
         TextView words = text_.substr(begin, stretch.Comment - begin);
+        command.Length = words.size();
+        command.HasOddQuote = stretch.OddQuote;
+        command.IsBehindComment = commentLine_ == line;
         if (rules_.Line > 0 && words.size() > rules_.Line) {
             if (rules_.Long == LongLine::Dropped) {
                 continue;
@@ -102,7 +105,9 @@ bool CommandReader::Next(ConsoleCommand& command) {
         if (stretch.OddQuote && rules_.OddQuoteDrops) {
             continue;
         }
-        TakeWords(words, command);
+        if (TakeWords(words, command)) {
+            commentLine_ = line;
+        }
         if (!command.Words.empty()) {
             command.Line = line;
             command.Column = static_cast<std::size_t>(command.Whole.data() - text_.data()) - lineBegin + 1;
@@ -110,6 +115,31 @@ bool CommandReader::Next(ConsoleCommand& command) {
         }
     }
     return false;
+}
+
+TextView CommandReader::TakeLine() {
+    const std::size_t begin = at_;
+    const std::size_t end = text_.find('\n', at_);
+    at_ = end == TextView::npos ? text_.size() : end + 1;
+    if (end != TextView::npos) {
+        ++line_;
+        lineBegin_ = at_;
+    }
+    return text_.substr(begin, at_ - begin);
+}
+
+TextView UnendedCommand(TextView text, const ConsoleRules& rules) {
+    text = text.substr(0, text.find('\0'));
+    CommandReader reader(text.substr(text.rfind('\n') + 1), rules);
+    while (reader.at_ < reader.text_.size()) {
+        const std::size_t begin = reader.at_;
+        const CommandReader::Stretch stretch = reader.FindEnd();
+        if (stretch.End == reader.text_.size()) {
+            return reader.text_.substr(begin);
+        }
+        reader.MoveBehind(stretch);
+    }
+    return {};
 }
 
 TextView CommandReader::Shortened(TextView word) const {
@@ -139,15 +169,17 @@ TextView CommandReader::TakeQuoted(TextView line, std::size_t& at) {
     return word;
 }
 
-void CommandReader::TakeWords(TextView line, ConsoleCommand& command) {
+bool CommandReader::TakeWords(TextView line, ConsoleCommand& command) {
     command.Words.clear();
+    bool hasComment = false;
     std::size_t first = 0;
     std::size_t last = 0;
     for (std::size_t at = 0;;) {
         while (at < line.size() && IsBlank(line[at])) {
             ++at;
         }
-        if (at >= line.size() || BeginsWithComment(line, at)) {
+        hasComment = at < line.size() && BeginsWithComment(line, at);
+        if (at >= line.size() || hasComment) {
             break;
         }
         const std::size_t begin = at;
@@ -173,6 +205,7 @@ void CommandReader::TakeWords(TextView line, ConsoleCommand& command) {
         --end;
     }
     command.Raw = line.substr(first, end - first);
+    return hasComment;
 }
 
 }  // namespace lv

@@ -12,12 +12,18 @@
 namespace lv {
 
 struct ConsoleCommand {
-    std::vector<TextView> Words;  // without their quotes; none for a command of blanks or of a comment alone
-    TextView Whole;               // from its first word to its last one, as written
-    TextView Raw;                 // and on to its end, with a comment: what "say" says
-    std::size_t Line = 0;         // from 1, where it begins
-    std::size_t Column = 0;       // from 1
+    std::vector<TextView> Words;   // without their quotes; none for a command of blanks or of a comment alone
+    TextView Whole;                // from its first word to its last one, as written
+    TextView Raw;                  // and on to its end, with a comment: what "say" says
+    std::size_t Line = 0;          // from 1, where it begins
+    std::size_t Column = 0;        // from 1
+    std::size_t Length = 0;        // in bytes, as the console counts them against its longest line
+    bool IsBehindComment = false;  // a comment stands before it in its line, and has not kept it from being run
+    bool HasOddQuote = false;      // one that does not close
 };
+
+/// What stands behind the last end of a command: the end of a script whose last line has none.
+TextView UnendedCommand(TextView text, const ConsoleRules& rules);
 
 /// Commands in their order. Views into the text, which ends at a byte 0 as it does for the games.
 class CommandReader {
@@ -28,7 +34,14 @@ class CommandReader {
     /// The next command that has words. What it gives stays as long as the reader; false behind the last one.
     bool Next(ConsoleCommand& command);
 
+    /// The rest of the line that it stands in, with its end, if it has one; it stands behind that then.
+    TextView TakeLine();
+
+    [[nodiscard]] bool IsAtEnd() const { return at_ >= text_.size(); }
+
   private:
+    friend TextView UnendedCommand(TextView text, const ConsoleRules& rules);
+
     struct Stretch {
         std::size_t End = 0;      // of the command, without what ends it
         std::size_t Comment = 0;  // where what is commented out begins, End without one
@@ -37,7 +50,8 @@ class CommandReader {
 
     [[nodiscard]] Stretch FindEnd() const;
     void MoveBehind(const Stretch& stretch);
-    void TakeWords(TextView line, ConsoleCommand& command);
+    /// Whether a comment ends them.
+    bool TakeWords(TextView line, ConsoleCommand& command);
     TextView TakeQuoted(TextView line, std::size_t& at);
     [[nodiscard]] bool IsBlank(char c) const;
     [[nodiscard]] bool BeginsComment(std::size_t at, std::size_t begin, bool inQuotes) const;
@@ -49,6 +63,7 @@ class CommandReader {
     std::size_t at_ = 0;
     std::size_t line_ = 1;
     std::size_t lineBegin_ = 0;
+    std::size_t commentLine_ = 0;  // the last one with a comment
     std::deque<Text> unescaped_;
 };
 

@@ -7,6 +7,7 @@ namespace {
 using enum LongLine;
 using enum BindWords;
 using enum Capitals;
+using enum AliasCases;
 
 constexpr CommentRule kSplits = CommentRule::Splits;
 constexpr CommentRule kAfterBlank = CommentRule::AfterBlank;
@@ -17,25 +18,26 @@ constexpr unsigned kNone = 0;
 constexpr unsigned kUnaliases = has::kUnalias | has::kUnaliasAll;
 constexpr unsigned kAllSets = has::kSet | has::kSeta | has::kSetu;
 
-// Sin's and FTE's rows are those of the originals where nobody has looked, and the limits of the words of Ironwail and
-// DarkPlaces are what was measured or assumed.
+// Sin's and FTE's rows are those of the originals where nobody has looked, and the limits of the words of Ironwail,
+// QuakeSpasm and DarkPlaces are what was measured or assumed.
 // clang-format off
 constexpr ConsoleRules kConsoles[] = {
-    // console             name          line  words word  buffer  alias long      comment      own words    controls high   escape return odd    bind    letters  bare   player commands
-    {Console::Quake,      "Quake",       1024,  80,  1024,   8192, 31,   Overruns, kSplits,     "{}()':",    true,    true,  false, false, false, One,    OwnKeys, true,   true,  kNone},
-    {Console::QuakeWorld, "QuakeWorld",  1024,  80,  1024,   8192, 31,   Overruns, kSplits,     "",          true,    true,  false, false, false, One,    OwnKeys, true,   false, kNone},
-    {Console::Hexen2,     "Hexen II",    1023,  80,  1024,   8192, 31,   Cut,      kSplits,     "",          true,    false, false, false, false, One,    OwnKeys, true,   true,  kUnaliases},
-    {Console::Quake2,     "Quake II",    1024,  80,   127,   8192, 31,   Overruns, kSplits,     "",          true,    true,  false, false, true,  Joined, OwnKeys, true,   false, has::kSet},
-    {Console::Heretic2,   "Heretic II",  1024,  80,   127,   8192, 31,   Overruns, kSplits,     "",          true,    true,  false, false, true,  Joined, OwnKeys, true,   false, has::kSet},
-    {Console::Sin,        "Sin",         1024,  80,   127,   8192, 31,   Overruns, kSplits,     "",          true,    true,  false, false, true,  Joined, OwnKeys, true,   false, has::kSet},
-    {Console::EzQuake,    "ezQuake",     1023,  80,  1023, 262144, 31,   Cut,      kUnquoted,   "",          false,   false, false, false, false, Joined, Small,   false, false, has::kSet | kUnaliases},
-    {Console::Ironwail,   "Ironwail",    1023,  80,  1023, 262144, 31,   Cut,      kAnywhere,   "",          true,    false, false, false, false, One,    OwnKeys, true,   true,  kUnaliases},
-    {Console::DarkPlaces, "DarkPlaces", 16383,  80, 16383, 655360, 31,   Dropped,  kAfterBlank, "",          false,   false, true,  true,  false, One,    Small,   true,   true,  has::kSet | has::kSeta | kUnaliases},
-    {Console::Fte,        "FTE",             0, 80,     0,      0, 31,   Cut,      kUnquoted,   "",          false,   false, false, false, false, Joined, Small,   true,   false, has::kSet | has::kSeta | kUnaliases},
-    {Console::Yamagi,     "Yamagi",      1023,  80,  1023,  32768, 31,   Cut,      kSplits,     "",          true,    false, false, false, true,  Joined, OwnKeys, true,   false, has::kSet},
-    {Console::Q2Pro,      "Q2PRO",       1023, 256,  1023,      0, 31,   Dropped,  kSplits,     "",          true,    false, false, false, true,  Joined, OwnKeys, true,   false, kAllSets | has::kUnalias},
-    {Console::HalfLife,   "Half-Life",   2046,  80, 32767,  32768, 31,   Dropped,  kAfterBlank, "",          true,    false, true,  false, false, Joined, OwnKeys, true,   false, has::kSet | has::kUnalias},
-    {Console::Unreal,     "Unreal",          0,  0,     0,      0,  0,   Cut,      kUnquoted,   "",          false,   false, false, true,  false, Joined, Small,   true,   false, kNone},
+    // console             name          line  words word  buffer  alias long      comment      own words    controls high   escape return odd    bind    letters  cases       bare   player commands
+    {Console::Quake,      "Quake",       1024,  80,  1024,   8192, 31,   Overruns, kSplits,     "{}()':",    true,    true,  false, false, false, One,    OwnKeys, NewestRuns, true,   true,  kNone},
+    {Console::QuakeWorld, "QuakeWorld",  1024,  80,  1024,   8192, 31,   Overruns, kSplits,     "",          true,    true,  false, false, false, One,    OwnKeys, NewestRuns, true,   false, kNone},
+    {Console::Hexen2,     "Hexen II",    1023,  80,  1024,   8192, 31,   Cut,      kSplits,     "",          true,    false, false, false, false, One,    OwnKeys, NewestRuns, true,   true,  kUnaliases},
+    {Console::Quake2,     "Quake II",    1024,  80,   127,   8192, 31,   Overruns, kSplits,     "",          true,    true,  false, false, true,  Joined, OwnKeys, NewestRuns, true,   false, has::kSet},
+    {Console::Heretic2,   "Heretic II",  1024,  80,   127,   8192, 31,   Overruns, kSplits,     "",          true,    true,  false, false, true,  Joined, OwnKeys, NewestRuns, true,   false, has::kSet},
+    {Console::Sin,        "Sin",         1024,  80,   127,   8192, 31,   Overruns, kSplits,     "",          true,    true,  false, false, true,  Joined, OwnKeys, NewestRuns, true,   false, has::kSet},
+    {Console::EzQuake,    "ezQuake",     1023,  80,  1023, 262144, 31,   Cut,      kUnquoted,   "",          false,   false, false, false, false, Joined, Small,   AreOne,     false, false, has::kSet | kUnaliases},
+    {Console::Ironwail,   "Ironwail",    1023,  80,  1023, 262144, 31,   Cut,      kAnywhere,   "",          true,    false, false, false, false, One,    OwnKeys, NewestRuns, true,   true,  kUnaliases},
+    {Console::DarkPlaces, "DarkPlaces", 16383,  80, 16383, 655360, 31,   Dropped,  kAfterBlank, "",          false,   false, true,  true,  false, One,    Small,   FirstRuns,  true,   true,  has::kSet | has::kSeta | kUnaliases},
+    {Console::Fte,        "FTE",             0, 80,     0,      0, 31,   Cut,      kUnquoted,   "",          false,   false, false, false, false, Joined, Small,   AreOne,     true,   false, has::kSet | has::kSeta | kUnaliases},
+    {Console::Yamagi,     "Yamagi",      1023,  80,  1023,  32768, 31,   Cut,      kSplits,     "",          true,    false, false, false, true,  Joined, OwnKeys, NewestRuns, true,   false, has::kSet},
+    {Console::Q2Pro,      "Q2PRO",       1023, 256,  1023,      0, 31,   Dropped,  kSplits,     "",          true,    false, false, false, true,  Joined, OwnKeys, NewestRuns, true,   false, kAllSets | has::kUnalias},
+    {Console::HalfLife,   "Half-Life",   2046,  80, 32767,  32768, 31,   Dropped,  kAfterBlank, "",          true,    false, true,  false, false, Joined, OwnKeys, FirstRuns,  true,   false, has::kSet | has::kUnalias},
+    {Console::Unreal,     "Unreal",          0,  0,     0,      0,  0,   Cut,      kUnquoted,   "",          false,   false, false, true,  false, Joined, Small,   AreOne,     true,   false, kNone},
+    {Console::QuakeSpasm, "QuakeSpasm",  1023,  80,  1023, 262144, 31,   Cut,      kSplits,     "",          true,    false, false, false, false, One,    OwnKeys, NewestRuns, true,   true,  kUnaliases},
 };
 // clang-format on
 

@@ -19,13 +19,14 @@ enum class Console {
     Heretic2,
     Sin,
     EzQuake,
-    Ironwail,  // and the others of QuakeSpasm's line
+    Ironwail,  // and the others that descend from QuakeSpasm
     DarkPlaces,
     Fte,
     Yamagi,
     Q2Pro,
     HalfLife,  // as Xash3D reads it
     Unreal,    // no console's script but an ini
+    QuakeSpasm,
 };
 
 /// What becomes of a line that is longer than the console's.
@@ -52,6 +53,13 @@ enum class BindWords {
 enum class Capitals {
     OwnKeys,  // "A" is a key that no keyboard sends
     Small,    // "A" is "a"
+};
+
+/// Aliases whose names differ in letter case alone: a call in any case runs one of them.
+enum class AliasCases {
+    NewestRuns,  // the one that was made last
+    FirstRuns,   // the first one by the bytes of its name, capitals ahead of small letters
+    AreOne,
 };
 
 /// The commands that make, mark and remove what a script sets, a bit each.
@@ -82,6 +90,7 @@ struct ConsoleRules {
     bool OddQuoteDrops = false;     // a command with a quote that does not close is dropped
     BindWords Bind = BindWords::One;
     Capitals Letters = Capitals::OwnKeys;
+    AliasCases Cases = AliasCases::NewestRuns;
     bool BareAliasEmpties = true;  // "alias NAME" stores an empty one, otherwise it prints
     bool OldPlayer = false;        // "name" and "color" are commands that set _cl_name and _cl_color
     unsigned Has = 0;

@@ -1,6 +1,7 @@
 #include "console/console_script.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 #include "console/command_words.h"
@@ -21,6 +22,11 @@ std::int32_t PlayerColor(std::int32_t number) {
 
 Text ColorPair(std::int32_t top, std::int32_t bottom) {
     return Join(std::to_string(PlayerColor(top)), Blank, std::to_string(PlayerColor(bottom)));
+}
+
+/// Names that are commands where the settings behind them have others.
+bool IsPlayersCommand(TextView name) {
+    return SameText(name, "name") || SameText(name, "color") || SameText(name, "rate");
 }
 
 Text Joined(const std::vector<TextView>& words, std::size_t first) {
@@ -52,6 +58,7 @@ class ScriptRun {
     void TakeUnbind(const Words& words);
     void TakeAlias(const Words& words);
     void TakeUnaliases(const Words& words);
+    void PutAlias(Effect effect);
     void TakeColor(const Words& words);
     void Set(TextView name, Text value);
     void SetOldPlayer(TextView lowerName, TextView name, Text value);
@@ -61,7 +68,8 @@ class ScriptRun {
 
     const ConsoleRules& rules_;
     ScriptEffects effects_;
-    ConsoleCommand command_;  // of the script itself
+    ConsoleCommand command_;                                   // of the script itself
+    std::unordered_map<Text, std::vector<Effect>> spellings_;  // of each alias, in the order in which they were made
     bool inAlias_ = false;
     std::size_t turn_ = 0;
     std::size_t aliasBytes_ = 0;
@@ -105,7 +113,8 @@ void ScriptRun::Execute(const ConsoleCommand& command, int depth) {
     if (RunAlias(first, depth)) {
         return;
     }
-    const bool isSetting = words.size() > 1 && (use == WordUse::Setting || words.size() == 2);
+    const bool isSetting = words.size() > 1 && (use == WordUse::Setting || words.size() == 2) &&
+                           (!LacksSetting(rules_.Id, first) || effects_.Settings.Find(Text(first)) != nullptr);
     if (!isSetting) {
         TakeAction(command);
     } else if (rules_.OldPlayer && SameText(first, "name")) {
@@ -130,6 +139,7 @@ bool ScriptRun::TakeBindOrAlias(const Words& words, TextView first) {
         TakeUnaliases(words);
     } else if (SameText(first, "unaliasall") && (rules_.Has & has::kUnaliasAll) != 0) {
         effects_.Aliases.Clear();
+        spellings_.clear();
         effects_.UnaliasesAll = true;
         effects_.Unaliasall = MakeEffect(EffectKind::Alias, first, {});
     } else {
@@ -145,7 +155,8 @@ bool ScriptRun::TakeSetCommand(const Words& words, TextView first) {
                        ((SameText(first, "setu") || SameText(first, "sets")) && (rules_.Has & has::kSetu) != 0);
     if (isSet) {
         // A fourth word says who else is told.
-        if (words.size() == 3 || words.size() == 4) {
+        const bool isCommand = rules_.OldPlayer && IsPlayersCommand(words[1]);
+        if ((words.size() == 3 || words.size() == 4) && !isCommand) {
             Set(words[1], Text(words[2]));
         }
         return true;
@@ -185,14 +196,38 @@ void ScriptRun::TakeAlias(const Words& words) {
     if (words.size() < 2 || words[1].size() > rules_.AliasName || (isBare && !rules_.BareAliasEmpties)) {
         return;
     }
-    effects_.Aliases.Put(LowerCase(words[1]), MakeEffect(EffectKind::Alias, words[1], Joined(words, 2)));
+    PutAlias(MakeEffect(EffectKind::Alias, words[1], Joined(words, 2)));
 }
 
 void ScriptRun::TakeUnaliases(const Words& words) {
     for (std::size_t i = 1; i < words.size(); ++i) {
         Effect effect = MakeEffect(EffectKind::Alias, words[i], {});
         effect.IsSet = false;
-        effects_.Aliases.Put(LowerCase(words[i]), std::move(effect));
+        PutAlias(std::move(effect));
+    }
+}
+
+/// In the table stands the one that a call runs.
+void ScriptRun::PutAlias(Effect effect) {
+    const Text identity = LowerCase(effect.Name);
+    std::vector<Effect>& spellings = spellings_[identity];
+    const bool areOne = rules_.Cases == AliasCases::AreOne;
+    const auto known =
+        std::ranges::find_if(spellings, [&](const Effect& each) { return areOne || each.Name == effect.Name; });
+    const bool isGone = !effect.IsSet;
+    if (known == spellings.end()) {
+        spellings.push_back(std::move(effect));
+    } else {
+        *known = std::move(effect);
+    }
+    const Effect* runs = nullptr;
+    for (const Effect& each : spellings) {
+        const bool isAhead = runs == nullptr || rules_.Cases != AliasCases::FirstRuns || each.Name < runs->Name;
+        runs = each.IsSet && isAhead ? &each : runs;
+    }
+    effects_.Aliases.Put(identity, runs != nullptr ? *runs : spellings.back());
+    if (isGone) {
+        std::erase_if(spellings, [](const Effect& each) { return !each.IsSet; });
     }
 }
 

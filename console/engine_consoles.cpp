@@ -14,7 +14,8 @@ struct EngineConsole {
 
 /// The first that fits.
 constexpr EngineConsole kEngineConsoles[] = {
-    {"QuakeSpasm", Console::Ironwail},
+    {"QuakeSpasm-Spiked", Console::Ironwail},
+    {"QuakeSpasm", Console::QuakeSpasm},
     {"vkQuake", Console::Ironwail},
     {"Ironwail", Console::Ironwail},
     {"DarkPlaces", Console::DarkPlaces},

@@ -46,7 +46,8 @@ using enum Console;
 
 constexpr ConsoleSet kEvery = NotIn();
 constexpr ConsoleSet kQuake2s = In(Quake2, Sin, Yamagi, Q2Pro, HalfLife);
-constexpr ConsoleSet kKeypad = kQuake2s | In(Hexen2, EzQuake, Ironwail, DarkPlaces, Fte);  // in Quake II's spelling
+constexpr ConsoleSet kKeypad =
+    kQuake2s | In(Hexen2, EzQuake, Ironwail, QuakeSpasm, DarkPlaces, Fte);  // in Quake II's spelling
 constexpr ConsoleSet kKeypadHeretic2 = kKeypad | In(Heretic2);
 constexpr ConsoleSet kKeypadDigits = In(EzQuake, DarkPlaces, Fte);
 constexpr ConsoleSet kSides = In(EzQuake, Fte, Q2Pro);  // tells the left from the right one
@@ -94,7 +95,7 @@ constexpr KeyNameRow kKeyNames[] = {
     {"KP_SLASH",      kKeypadHeretic2},
     {"KP_MINUS",      kKeypadHeretic2},
     {"KP_PLUS",       kKeypadHeretic2},
-    {"KP_STAR",       In(Hexen2, EzQuake, Ironwail, Yamagi)},
+    {"KP_STAR",       In(Hexen2, EzQuake, Ironwail, QuakeSpasm, Yamagi)},
     {"KP_NUMLOCK",    In(Hexen2, Ironwail, Yamagi, Heretic2)},
     {"KP_MULTIPLY",   In(EzQuake, DarkPlaces, Q2Pro, Fte)},
     {"KP_DIVIDE",     In(EzQuake, DarkPlaces, Fte)},
@@ -128,7 +129,7 @@ constexpr KeyNameRow kKeyNames[] = {
     {"POPUPMENU",     In(EzQuake)},
     {"MENU",          In(EzQuake, Fte, Yamagi, Q2Pro)},
     {"APP",           In(Fte)},
-    {"COMMAND",       In(Hexen2, EzQuake, Ironwail, Yamagi)},
+    {"COMMAND",       In(Hexen2, EzQuake, Ironwail, QuakeSpasm, Yamagi)},
     {"COMPOSE",       In(Yamagi)},
     {"MODE",          In(Yamagi)},
     {"HELP",          In(Yamagi)},
@@ -149,8 +150,8 @@ constexpr KeyNameRow kKeyNames[] = {
     {"JOYPOVLT",      In(EzQuake)},
     {"MWHEELLEFT",    In(Fte, Q2Pro)},
     {"MWHEELRIGHT",   In(Fte, Q2Pro)},
-    {"TILDE",         In(Ironwail, DarkPlaces, Fte)},
-    {"BACKQUOTE",     In(Ironwail, DarkPlaces, Fte)},
+    {"TILDE",         In(Ironwail, QuakeSpasm, DarkPlaces, Fte)},
+    {"BACKQUOTE",     In(Ironwail, QuakeSpasm, DarkPlaces, Fte)},
     {"QUOTE",         In(DarkPlaces, Yamagi)},
     {"QUOTES",        In(Fte)},
     {"DOUBLEQUOTE",   In(Yamagi)},
@@ -165,20 +166,20 @@ constexpr KeyNameRow kKeyNames[] = {
     {"JOY_RIGHT",     In(DarkPlaces)},
     {"JOY_START",     In(Ironwail)},
     {"JOY_BACK",      In(Ironwail)},
-    {"LTHUMB",        In(Ironwail)},
-    {"RTHUMB",        In(Ironwail)},
-    {"LSHOULDER",     In(Ironwail)},
-    {"RSHOULDER",     In(Ironwail)},
+    {"LTHUMB",        In(Ironwail, QuakeSpasm)},
+    {"RTHUMB",        In(Ironwail, QuakeSpasm)},
+    {"LSHOULDER",     In(Ironwail, QuakeSpasm)},
+    {"RSHOULDER",     In(Ironwail, QuakeSpasm)},
     {"DPAD_UP",       In(Ironwail)},
     {"DPAD_DOWN",     In(Ironwail)},
     {"DPAD_LEFT",     In(Ironwail)},
     {"DPAD_RIGHT",    In(Ironwail)},
-    {"ABUTTON",       In(Ironwail)},
-    {"BBUTTON",       In(Ironwail)},
-    {"XBUTTON",       In(Ironwail)},
-    {"YBUTTON",       In(Ironwail)},
-    {"LTRIGGER",      In(Ironwail)},
-    {"RTRIGGER",      In(Ironwail)},
+    {"ABUTTON",       In(Ironwail, QuakeSpasm)},
+    {"BBUTTON",       In(Ironwail, QuakeSpasm)},
+    {"XBUTTON",       In(Ironwail, QuakeSpasm)},
+    {"YBUTTON",       In(Ironwail, QuakeSpasm)},
+    {"LTRIGGER",      In(Ironwail, QuakeSpasm)},
+    {"RTRIGGER",      In(Ironwail, QuakeSpasm)},
     {"TOUCHPAD",      In(Ironwail)},
 };
 
@@ -186,7 +187,7 @@ constexpr KeyRunRow kKeyRuns[] = {
     {"F",             1, 12,  kEvery},
     {"F",             13, 15, In(EzQuake, Yamagi)},
     {"MOUSE",         1, 3,   kEvery},
-    {"MOUSE",         4, 5,   In(Hexen2, EzQuake, Ironwail, DarkPlaces, Fte, Yamagi, Q2Pro, HalfLife)},
+    {"MOUSE",         4, 5,   In(Hexen2, EzQuake, Ironwail, QuakeSpasm, DarkPlaces, Fte, Yamagi, Q2Pro, HalfLife)},
     {"MOUSE",         6, 8,   In(EzQuake, DarkPlaces, Fte, Q2Pro)},
     {"MOUSE",         9, 10,  In(DarkPlaces, Fte)},
     {"MOUSE",         11, 16, In(DarkPlaces)},

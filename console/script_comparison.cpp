@@ -58,6 +58,11 @@ bool SameCommand(const ConsoleCommand& a, const ConsoleCommand& b) {
     return SameText(a.Raw.substr(0, length), b.Raw.substr(0, length)) && a.Raw.substr(length) == b.Raw.substr(length);
 }
 
+/// Behind "+attack" a game puts the key's number, and behind "+attack;" it is a command of its own.
+bool EndsOpen(TextView commands) {
+    return TrimmedView(commands).ends_with(';');
+}
+
 class Comparison {
   public:
     Comparison(const ScriptEffects& before, const ScriptEffects& after) : before_(before), after_(after) {}
@@ -160,6 +165,9 @@ bool SameCommands(TextView a, TextView b, Console console) {
     }
     if (console == Console::Unreal) {
         return SameText(a, b) || SameIniCommand(a, b);
+    }
+    if (EndsOpen(a) != EndsOpen(b)) {
+        return false;
     }
     CommandReader first(a, RulesOf(console));
     CommandReader second(b, RulesOf(console));

@@ -11,10 +11,6 @@
 
 namespace lv {
 
-/// The largest directory that is read, in bytes and in entries.
-constexpr std::uint32_t kLargestPakDirectory = 4U << 20U;
-constexpr std::uint32_t kMostPakEntries = 65536;
-
 /// The content of the first entry of that name ("gfx/palette.lmp"), case-blind. Nothing if there is none, if it or the
 /// directory lies outside of the archive, or if it is longer than `most` bytes.
 std::optional<Text> ReadFromPak(RandomAccessFile& archive, TextView name, std::uint32_t most);

@@ -24,6 +24,13 @@ TEST(CommandWords, OfEnginesAndModificationsAreNotKnown) {
     }
 }
 
+TEST(LacksSetting, HoldsForThoseThatTheEngineHasNot) {
+    EXPECT_TRUE(LacksSetting(Console::DarkPlaces, "joystick"));
+    EXPECT_TRUE(LacksSetting(Console::DarkPlaces, "vid_mode"));
+    EXPECT_FALSE(LacksSetting(Console::DarkPlaces, "sensitivity"));
+    EXPECT_FALSE(LacksSetting(Console::Quake, "joystick"));
+}
+
 TEST(RunsScript, HoldsForThoseThatExecuteAFile) {
     EXPECT_TRUE(RunsScript("Exec"));
     EXPECT_TRUE(RunsScript("cfg_load"));

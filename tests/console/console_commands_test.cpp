@@ -49,6 +49,7 @@ TEST(CommandReader, RunsWhatFollowsASemicolonInACommentWhereTheConsoleDoes) {
     EXPECT_EQ(CommandsOf(script, Console::Quake), "1:1 fov|90 & 1:17 echo|x");
     EXPECT_EQ(CommandsOf(script, Console::Quake2), "1:1 fov|90 & 1:17 echo|x");
     EXPECT_EQ(CommandsOf(script, Console::EzQuake), "1:1 fov|90");
+    EXPECT_EQ(CommandsOf(script, Console::QuakeSpasm), "1:1 fov|90 & 1:17 echo|x");
     EXPECT_EQ(CommandsOf(script, Console::Ironwail), "1:1 fov|90");
     EXPECT_EQ(CommandsOf(script, Console::DarkPlaces), "1:1 fov|90");
     EXPECT_EQ(CommandsOf(script, Console::HalfLife), "1:1 fov|90");
@@ -132,6 +133,48 @@ TEST(CommandReader, GivesTheCommandAsItIsWritten) {
     EXPECT_EQ(command.Whole, "bind \"a\"   \"+attack\"");
     EXPECT_EQ(command.Raw, "bind \"a\"   \"+attack\"   // fire");
     EXPECT_FALSE(reader.Next(command));
+}
+
+TEST(CommandReader, SaysWhatIsOddAboutACommand) {
+    CommandReader reader("a // b; c\nd \"e\n \tf", RulesOf(Console::Quake));
+    ConsoleCommand command;
+    ASSERT_TRUE(reader.Next(command));
+    EXPECT_FALSE(command.IsBehindComment);
+    EXPECT_EQ(command.Length, 6U);
+    ASSERT_TRUE(reader.Next(command));
+    EXPECT_TRUE(command.IsBehindComment);
+    EXPECT_FALSE(command.HasOddQuote);
+    ASSERT_TRUE(reader.Next(command));
+    EXPECT_FALSE(command.IsBehindComment);
+    EXPECT_TRUE(command.HasOddQuote);
+    ASSERT_TRUE(reader.Next(command));
+    EXPECT_FALSE(command.HasOddQuote);
+    EXPECT_EQ(command.Length, 3U);
+}
+
+TEST(CommandReader, GivesTheRestOfItsLine) {
+    CommandReader reader("a; b\nc\nd", RulesOf(Console::Quake));
+    ConsoleCommand command;
+    ASSERT_TRUE(reader.Next(command));
+    EXPECT_EQ(reader.TakeLine(), " b\n");
+    ASSERT_TRUE(reader.Next(command));
+    EXPECT_EQ(command.Whole, "c");
+    EXPECT_EQ(command.Line, 2U);
+    EXPECT_FALSE(reader.IsAtEnd());
+    EXPECT_EQ(reader.TakeLine(), "d");
+    EXPECT_TRUE(reader.IsAtEnd());
+    EXPECT_EQ(reader.TakeLine(), "");
+}
+
+TEST(UnendedCommand, IsWhatNothingEnds) {
+    const auto unended = [](TextView text) { return UnendedCommand(text, RulesOf(Console::Quake)); };
+    EXPECT_EQ(unended("a\nb\n"), "");
+    EXPECT_EQ(unended("a\nb c"), "b c");
+    EXPECT_EQ(unended("a\nb; c \"d; e\"; f // g"), " f // g");
+    EXPECT_EQ(unended("a;"), "");
+    EXPECT_EQ(unended(Text("a\nb\0c\n", 6)), "b");
+    EXPECT_EQ(unended(""), "");
+    EXPECT_EQ(UnendedCommand("a // b; c", RulesOf(Console::EzQuake)), "a // b; c");
 }
 
 }  // namespace lv

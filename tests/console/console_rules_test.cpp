@@ -25,6 +25,7 @@ constexpr LimitRow kLimits[] = {
     {Console::Sin, "Sin", 1024, 80, 127, 8192, 31},
     {Console::EzQuake, "ezQuake", 1023, 80, 1023, 262144, 31},
     {Console::Ironwail, "Ironwail", 1023, 80, 1023, 262144, 31},
+    {Console::QuakeSpasm, "QuakeSpasm", 1023, 80, 1023, 262144, 31},
     {Console::DarkPlaces, "DarkPlaces", 16383, 80, 16383, 655360, 31},
     {Console::Fte, "FTE", 0, 80, 0, 0, 31},
     {Console::Yamagi, "Yamagi", 1023, 80, 1023, 32768, 31},
@@ -50,7 +51,7 @@ constexpr CommandRow kCommands[] = {
     {Console::EzQuake, true, true, false, true, false},   {Console::Ironwail, false, false, false, true, true},
     {Console::DarkPlaces, false, true, true, true, true}, {Console::Fte, true, true, true, true, false},
     {Console::Yamagi, true, true, false, false, false},   {Console::Q2Pro, true, true, true, true, false},
-    {Console::HalfLife, true, true, false, true, false},
+    {Console::HalfLife, true, true, false, true, false},  {Console::QuakeSpasm, false, false, false, true, true},
 };
 
 }  // namespace
@@ -83,8 +84,8 @@ TEST(ConsoleRules, SayWhatTheirCommandsTake) {
 }
 
 TEST(ConsoleRules, TellWhereASemicolonInACommentSplits) {
-    for (const Console console :
-         {Console::Quake, Console::QuakeWorld, Console::Hexen2, Console::Quake2, Console::Yamagi, Console::Q2Pro}) {
+    for (const Console console : {Console::Quake, Console::QuakeWorld, Console::Hexen2, Console::Quake2,
+                                  Console::Yamagi, Console::Q2Pro, Console::QuakeSpasm}) {
         EXPECT_EQ(RulesOf(console).Comment, CommentRule::Splits) << RulesOf(console).Name;
     }
     EXPECT_EQ(RulesOf(Console::EzQuake).Comment, CommentRule::Unquoted);

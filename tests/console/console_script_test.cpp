@@ -23,12 +23,12 @@ Text SettingsOf(TextView script, Console console) {
 
 TEST(ConsoleEffects, KeepTheLastOfEachName) {
     const ScriptEffects effects =
-        ConsoleEffects("bind a 1\nfov 90\nalias x y\nBind \"a\" 2\nfov 100\nalias X z\n", Console::Quake);
+        ConsoleEffects("bind a 1\nfov 90\nalias x y\nBind \"a\" 2\nfov 100\nalias x z\n", Console::Quake);
     EXPECT_EQ(Listed(effects.Binds), "a=2");
     EXPECT_EQ(effects.Binds.All().at(0).Line, 4U);
     EXPECT_EQ(effects.Binds.All().at(0).Source, "Bind \"a\" 2");
     EXPECT_EQ(Listed(effects.Settings), "fov=100");
-    EXPECT_EQ(Listed(effects.Aliases), "X=z");
+    EXPECT_EQ(Listed(effects.Aliases), "x=z");
 }
 
 TEST(ConsoleEffects, RefuseAKeyThatTheConsoleLacks) {
@@ -59,6 +59,20 @@ TEST(ConsoleEffects, JoinTheWordsOfAnAlias) {
     EXPECT_EQ(AliasesOf(Join("alias ", Text(31, 'x'), " y"), Console::Quake), Join(Text(31, 'x'), "=y"));
 }
 
+TEST(ConsoleEffects, RunOneOfTheAliasesThatDifferInLetterCase) {
+    const TextView script = "alias zoom 1\nalias Zoom 2\nalias zoom 3";
+    EXPECT_EQ(AliasesOf(script, Console::Quake), "Zoom=2");
+    EXPECT_EQ(AliasesOf("alias Zoom 1\nalias zoom 2", Console::Quake), "zoom=2");
+    EXPECT_EQ(AliasesOf("alias Zoom 1\nalias zoom 2", Console::DarkPlaces), "Zoom=1");
+    EXPECT_EQ(AliasesOf("alias Zoom 1\nalias zoom 2\nunalias Zoom", Console::DarkPlaces), "zoom=2");
+    EXPECT_EQ(AliasesOf(script, Console::EzQuake), "zoom=3");
+}
+
+TEST(ConsoleEffects, TakeNoSettingThatTheConsoleLacks) {
+    EXPECT_EQ(SettingsOf("joystick 1", Console::DarkPlaces), "");
+    EXPECT_EQ(SettingsOf("set joystick 1\njoystick 0", Console::DarkPlaces), "joystick=0");
+}
+
 TEST(ConsoleEffects, RemoveAliasesWhereTheConsoleCan) {
     EXPECT_EQ(AliasesOf("alias x y\nunalias x", Console::DarkPlaces), "x-");
     EXPECT_EQ(AliasesOf("alias x y\nunaliasall\nalias z w", Console::DarkPlaces), "z=w");
@@ -79,6 +93,7 @@ TEST(ConsoleEffects, TakeThePlayersNameAndColoursByEitherName) {
     EXPECT_EQ(SettingsOf("color 4", Console::Quake), "color=4 4");
     EXPECT_EQ(SettingsOf("color 4 15", Console::QuakeWorld), "topcolor=4, bottomcolor=13");
     EXPECT_EQ(SettingsOf("playerclass 2\n_cl_playerclass 3", Console::Hexen2), "_cl_playerclass=3");
+    EXPECT_EQ(SettingsOf("set name Joe\nset color 4", Console::DarkPlaces), "");
     EXPECT_EQ(SettingsOf("setinfo pmodel 33", Console::QuakeWorld), "setinfo pmodel=33");
 }
 

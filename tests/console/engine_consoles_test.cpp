@@ -15,7 +15,8 @@ struct EngineCase {
 };
 
 constexpr EngineCase kCases[] = {
-    {"quakespasm", Game::Quake, false, Console::Ironwail},
+    {"quakespasm", Game::Quake, false, Console::QuakeSpasm},
+    {"quakespasm-spiked", Game::Quake, false, Console::Ironwail},
     {"vkquake", Game::Quake, false, Console::Ironwail},
     {"ironwail", Game::Quake, false, Console::Ironwail},
     {"darkplaces", Game::Quake, false, Console::DarkPlaces},

@@ -13,7 +13,7 @@ using Consoles = std::initializer_list<Console>;
 constexpr Console kWithKeys[] = {Console::Quake,      Console::QuakeWorld, Console::Hexen2,  Console::Quake2,
                                  Console::Heretic2,   Console::Sin,        Console::EzQuake, Console::Ironwail,
                                  Console::DarkPlaces, Console::Fte,        Console::Yamagi,  Console::Q2Pro,
-                                 Console::HalfLife};
+                                 Console::HalfLife,   Console::QuakeSpasm};
 
 struct KeyCase {
     const char* Name;
@@ -24,22 +24,24 @@ struct KeyCase {
 const KeyCase kKeys[] = {
     {"KP_UPARROW",
      {Console::Hexen2, Console::Quake2, Console::Sin, Console::EzQuake, Console::Ironwail, Console::DarkPlaces,
-      Console::Fte, Console::Yamagi, Console::Q2Pro, Console::HalfLife}},
+      Console::Fte, Console::Yamagi, Console::Q2Pro, Console::HalfLife, Console::QuakeSpasm}},
     {"KP_UP", {Console::Heretic2}},
-    {"KP_STAR", {Console::Hexen2, Console::EzQuake, Console::Ironwail, Console::Yamagi}},
+    {"KP_STAR", {Console::Hexen2, Console::EzQuake, Console::Ironwail, Console::QuakeSpasm, Console::Yamagi}},
+    {"ABUTTON", {Console::Ironwail, Console::QuakeSpasm}},
+    {"DPAD_UP", {Console::Ironwail}},
     {"KP_NUMLOCK", {Console::Hexen2, Console::Heretic2, Console::Ironwail, Console::Yamagi}},
     {"KP_7", {Console::EzQuake, Console::DarkPlaces, Console::Fte}},
     {"MOUSE5",
      {Console::Hexen2, Console::EzQuake, Console::Ironwail, Console::DarkPlaces, Console::Fte, Console::Yamagi,
-      Console::Q2Pro, Console::HalfLife}},
+      Console::Q2Pro, Console::HalfLife, Console::QuakeSpasm}},
     {"MOUSE16", {Console::DarkPlaces}},
     {"F13", {Console::EzQuake, Console::Yamagi}},
     {"JOY1",
      {Console::Quake, Console::QuakeWorld, Console::Hexen2, Console::Quake2, Console::Heretic2, Console::Sin,
-      Console::EzQuake, Console::DarkPlaces, Console::Fte}},
+      Console::EzQuake, Console::DarkPlaces, Console::Fte, Console::QuakeSpasm}},
     {"AUX32",
      {Console::Quake, Console::QuakeWorld, Console::Hexen2, Console::Quake2, Console::Heretic2, Console::Sin,
-      Console::DarkPlaces, Console::HalfLife}},
+      Console::DarkPlaces, Console::HalfLife, Console::QuakeSpasm}},
     {"AUX33", {}},
     {"AUX01", {}},
     {"AUX", {}},

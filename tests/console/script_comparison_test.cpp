@@ -56,7 +56,8 @@ TEST(CompareScripts, ReadsAnInisNumbersAndTruths) {
 TEST(SameCommands, AreToldByTheConsole) {
     EXPECT_FALSE(SameCommands("say http://a", "say http:", Console::Quake));
     EXPECT_FALSE(SameCommands("use Blaster", "use blaster", Console::Quake2));
-    EXPECT_TRUE(SameCommands("USE Blaster;", "use Blaster", Console::Quake2));
+    EXPECT_TRUE(SameCommands(" USE Blaster", "use Blaster ", Console::Quake2));
+    EXPECT_FALSE(SameCommands("+attack;", "+attack", Console::Quake2));
     EXPECT_FALSE(SameCommands("Fov 90", "fov 90", Console::Quake));
     EXPECT_FALSE(SameCommands("say a\"b", "say c\"b", Console::Quake2));
     EXPECT_FALSE(SameCommands("", "say c", Console::Quake2));

@@ -88,6 +88,10 @@ std::filesystem::path TestWinePrefix() {
 }
 
 int RunTool(std::initializer_list<const char*> words) {
+    return RunTool(words, "/dev/null");
+}
+
+int RunTool(std::initializer_list<const char*> words, const std::filesystem::path& output) {
     std::vector<char*> arguments;
     for (const char* word : words) {
         arguments.push_back(const_cast<char*>(word));
@@ -95,8 +99,8 @@ int RunTool(std::initializer_list<const char*> words) {
     arguments.push_back(nullptr);
     posix_spawn_file_actions_t quiet;
     posix_spawn_file_actions_init(&quiet);
-    posix_spawn_file_actions_addopen(&quiet, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&quiet, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&quiet, STDOUT_FILENO, output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    posix_spawn_file_actions_adddup2(&quiet, STDOUT_FILENO, STDERR_FILENO);
     pid_t child = -1;
     const int failed = posix_spawnp(&child, arguments[0], &quiet, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&quiet);

@@ -28,6 +28,8 @@ bool PressKeysUntil(const char* name, const std::filesystem::path& file);
 /// Runs a program of the host and waits for it: its exit code, or -1 if it did not run or had to be ended after a
 /// minute.
 int RunTool(std::initializer_list<const char*> words);
+/// The same, with what it prints in the file.
+int RunTool(std::initializer_list<const char*> words, const std::filesystem::path& output);
 
 /// The processes that work in this directory or below it and whose name begins so.
 std::vector<pid_t> ProcessesIn(const std::filesystem::path& directory, std::string_view name = {});

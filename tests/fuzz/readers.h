@@ -23,7 +23,10 @@ void FuzzIniRewriting(TextView input);
 void FuzzNames(TextView input);
 void FuzzRegFile(TextView input);
 void FuzzScript(TextView input);
+void FuzzScriptCheck(TextView input);
 void FuzzServerText(TextView input);
+void FuzzStartRun(TextView input);
+void FuzzTwoScripts(TextView input);
 void FuzzVdf(TextView input);
 
 struct FuzzedReader {
@@ -42,7 +45,10 @@ constexpr FuzzedReader kFuzzedReaders[] = {
     {"names", FuzzNames},
     {"reg_file", FuzzRegFile},
     {"script", FuzzScript},
+    {"script_check", FuzzScriptCheck},
     {"server_text", FuzzServerText},
+    {"start_run", FuzzStartRun},
+    {"two_scripts", FuzzTwoScripts},
     {"vdf", FuzzVdf},
 };
 

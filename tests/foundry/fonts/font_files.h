@@ -16,21 +16,10 @@
 #include "foundation/text.h"
 #include "foundry/fonts/font_map.h"
 #include "foundry/fonts/palette.h"
+#include "tests/catalogs/packed_files.h"
+#include "tests/support/damage.h"
 
 namespace lv {
-
-inline Text Bytes16(std::uint32_t number) {
-    return {static_cast<char>(number & 0xFF), static_cast<char>(number >> 8U & 0xFF)};
-}
-
-inline Text Bytes32(std::uint32_t number) {
-    return Bytes16(number & 0xFFFF) + Bytes16(number >> 16U);
-}
-
-inline Text Field(Text name, std::size_t width) {
-    name.resize(width, '\0');
-    return name;
-}
 
 inline Text Zeros(std::size_t count) {
     return Text(count, '\0');
@@ -123,24 +112,6 @@ inline Text QfontLump(std::uint32_t width, std::uint32_t rowHeight, std::uint32_
            Bytes16(static_cast<std::uint32_t>(colors)) + PaletteBytes();
 }
 
-struct Packed {
-    Text Name;
-    Text Content;
-};
-
-inline Text PackedFiles(const std::vector<Packed>& files, const Text& magic = "PACK") {
-    const std::size_t field = magic == "SPAK" ? 120 : 56;
-    Text data;
-    Text directory;
-    for (const Packed& file : files) {
-        directory += Field(file.Name, field) + Bytes32(static_cast<std::uint32_t>(12 + data.size())) +
-                     Bytes32(static_cast<std::uint32_t>(file.Content.size()));
-        data += file.Content;
-    }
-    return magic + Bytes32(static_cast<std::uint32_t>(12 + data.size())) +
-           Bytes32(static_cast<std::uint32_t>(directory.size())) + data + directory;
-}
-
 /// Red, green, blue, opacity.
 using Pixel = std::array<int, 4>;
 
@@ -156,24 +127,6 @@ inline bool IsEmpty(const FontMap& map, int code) {
         }
     }
     return true;
-}
-
-/// Runs `read` on every beginning of the bytes, and on them with each byte changed, but of the `plain` ones at the end
-/// (pixels, colours) only with some. The bytes lie in memory alone, so that a sanitizer sees a read beside them.
-template <class Read>
-void ForEachDamage(const Text& bytes, std::size_t plain, Read read) {
-    for (std::size_t length = 0; length < bytes.size(); ++length) {
-        const std::vector<char> cut(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length));
-        read(TextView(cut.data(), cut.size()));
-    }
-    const std::size_t told = bytes.size() - plain;
-    for (std::size_t at = 0; at < bytes.size(); at += at < told ? 1 : 97) {
-        for (const int change : {0x01, 0x80, 0xFF}) {
-            std::vector<char> changed(bytes.begin(), bytes.end());
-            changed[at] = static_cast<char>(changed[at] ^ change);
-            read(TextView(changed.data(), changed.size()));
-        }
-    }
 }
 
 /// What a reader of fonts owes for any bytes: a whole map, or none.

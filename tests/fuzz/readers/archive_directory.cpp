@@ -1,5 +1,6 @@
-// An archive: the names in its directory, and its maps.
+// An archive: the names in its directory, its maps, and its files.
 
+#include "catalogs/archive_entries.h"
 #include "catalogs/archive_names.h"
 #include "catalogs/pak_directory.h"
 #include "tests/fuzz/readers.h"
@@ -17,6 +18,12 @@ void FuzzArchiveDirectory(TextView input) {
         MustHold(name.find_first_of(TextView("\0\n\r\\:", 5)) == Text::npos, "a name is one that a file can have");
         MustHold(name != ".." && !name.starts_with("../") && name.find("/../") == Text::npos,
                  "no name leads out of its directory");
+    }
+    std::size_t files = 0;
+    for (const ArchiveEntry& entry : ReadArchiveEntries(archive).value_or(std::vector<ArchiveEntry>())) {
+        constexpr std::uint32_t kMost = 4096;
+        const auto file = files++ < 100 ? ReadArchiveEntry(archive, entry, kMost) : std::nullopt;
+        MustHold(!file || file->size() <= kMost, "a file is no longer than wanted");
     }
     for (const TextView magic : {"PACK", "SPAK"}) {
         for (const Text& map : PakMapNames(archive, magic)) {

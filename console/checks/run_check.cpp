@@ -1,0 +1,85 @@
+#include "console/checks/run_check.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lv {
+
+namespace {
+
+struct FateRow {
+    ScriptFate Fate;
+    FindingKind Kind;
+};
+
+constexpr FateRow kFates[] = {
+    {ScriptFate::Missing, FindingKind::MissingScript},
+    {ScriptFate::Loop, FindingKind::ScriptLoop},
+    {ScriptFate::Refused, FindingKind::ManyExecWords},
+    {ScriptFate::Unread, FindingKind::UnreadScript},
+};
+
+bool IsPlayers(const RunScript& script) {
+    return !script.Path.empty() && script.Inner.empty();
+}
+
+/// The rc of a game runs what most players lack.
+bool IsRc(const RunScript& script) {
+    return LowerCase(script.Name).ends_with(".rc");
+}
+
+/// Another of its name may lie in a directory that is searched ahead.
+std::optional<FoundScript> FindThat(ScriptFinder& finder, const RunScript& script, std::size_t levels) {
+    for (std::size_t level = 0; level < levels; ++level) {
+        auto found = finder.Find(script.Name, Lookup::LooseFiles, level);
+        if (found && SameText(found->Path, script.Path)) {
+            return found;
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::vector<Finding> CheckRun(const StartRun& run, Console console) {
+    std::vector<Finding> findings;
+    for (const RunScript& script : run.Scripts) {
+        const auto* const row = std::ranges::find(kFates, script.Fate, &FateRow::Fate);
+        if (row == std::end(kFates) || script.By == kNoScript || findings.size() >= kMostFindings) {
+            continue;
+        }
+        const RunScript& by = run.Scripts[script.By];
+        if (IsPlayers(by) && !IsRc(by)) {
+            findings.push_back(MakeFinding(row->Kind, by.Path, script.ByLine, script.Name, {}, RulesOf(console).Name));
+        }
+    }
+    return findings;
+}
+
+std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& request) {
+    const StartRun run = RunStart(disk, request);
+    const Console console = request.Played.Of;
+    std::unordered_set<Text> names;
+    for (const SetThing& thing : run.Set.All()) {
+        names.insert(LowerCase(thing.Identity));
+    }
+    const std::size_t levels = GameDirectories(request.Played).size();
+    ScriptFinder finder(disk, run.Places, ExecRulesOf(console), request.Given);
+    std::vector<Finding> findings = CheckRun(run, console);
+    std::unordered_set<Text> seen;
+    for (const RunScript& script : run.Scripts) {
+        if (!IsPlayers(script) || !seen.insert(LowerCase(script.Path)).second) {
+            continue;
+        }
+        const auto found = FindThat(finder, script, levels);
+        if (found && !found->IsUnread) {
+            std::ranges::move(CheckScript({script.Path, found->Content, console, &names, {}}),
+                              std::back_inserter(findings));
+        }
+    }
+    std::ranges::stable_sort(findings, {}, [](const Finding& each) { return std::pair(each.File, each.Line); });
+    findings.resize(std::min(findings.size(), kMostFindings));
+    return findings;
+}
+
+}  // namespace lv

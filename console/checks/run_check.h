@@ -1,0 +1,19 @@
+// console/checks/run_check.h
+//
+// A script checked as what it is in its game: one of those that are run at the start.
+
+#pragma once
+
+#include "console/checks/script_check.h"
+#include "console/files/start_run.h"
+
+namespace lv {
+
+/// What the run itself shows, of scripts that are files of the player's: what they execute that is not there, is being
+/// run already, is too long. `run` is of that console.
+std::vector<Finding> CheckRun(const StartRun& run, Console console);
+
+/// Each file of the run that lies in no archive, checked with what all of them define; and CheckRun.
+std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& request);
+
+}  // namespace lv

@@ -1,0 +1,60 @@
+#include "console/checks/run_check.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/console/files/listed_run.h"
+
+namespace lv {
+namespace {
+
+struct CheckedDisk : GameDisk {
+    CheckedDisk() {
+        AddPak("ID1\\pak0.pak", {{"quake.rc", "exec default.cfg\nexec config.cfg\nexec autoexec.cfg\n"},
+                                 {"default.cfg", "exec gone.cfg\nbind NOKEY x\nalias known wait\n"}});
+    }
+    Text Report() { return FindingReport(CheckScriptsOf(Disk, Request)); }
+};
+
+}  // namespace
+
+TEST(CheckRun, TellsOfTheScriptsThatThePlayersExecute) {
+    CheckedDisk game;
+    game.Add("ID1\\config.cfg", "exec a.cfg\nexec gone.cfg\n");
+    game.Add("ID1\\a.cfg", "\n\nexec config.cfg\nexec b.cfg c.cfg\n");
+    EXPECT_EQ(FindingReport(CheckRun(game.Run(), Console::Quake)),
+              "C:\\QUAKE\\id1\\a.cfg:3: The script config.cfg is being run already: this goes round without end.\n"
+              "C:\\QUAKE\\id1\\a.cfg:4: Behind exec stands more than one name: Quake does not run b.cfg.\n"
+              "C:\\QUAKE\\id1\\config.cfg:2: The script gone.cfg is not there.\n");
+}
+
+TEST(CheckScriptsOf, ChecksEachFileWithWhatAllDefine) {
+    CheckedDisk game;
+    game.Add("ID1\\config.cfg", "known\nmine\nexec my.cfg\nexec my.cfg\n");
+    game.Add("ID1\\my.cfg", "alias mine wait\nbind NOKEY known\nnobody\n");
+    EXPECT_EQ(game.Report(),
+              "C:\\QUAKE\\id1\\my.cfg:2: Quake has no key NOKEY.\n"
+              "C:\\QUAKE\\id1\\my.cfg:3: nobody is no command, setting or alias that is known: perhaps one of a "
+              "modification.\n");
+}
+
+TEST(CheckScriptsOf, TellsTwoScriptsOfOneNameApart) {
+    CheckedDisk game;
+    game.Request.Played = {
+        .Of = Console::Q2Pro, .GameKind = Game::Quake2, .Directory = "C:\\QUAKE", .Modification = "CTF"};
+    game.Add("BASEQ2\\autoexec.cfg", "bind NOKEY wait\n");
+    game.Add("CTF\\autoexec.cfg", "\nbind NOKEY wait\n");
+    EXPECT_EQ(game.Report(),
+              "C:\\QUAKE\\CTF\\autoexec.cfg:2: Q2PRO has no key NOKEY.\n"
+              "C:\\QUAKE\\baseq2\\autoexec.cfg:1: Q2PRO has no key NOKEY.\n");
+}
+
+TEST(CheckScriptsOf, ChecksGivenTexts) {
+    CheckedDisk game;
+    game.Request.Given = {{"C:\\QUAKE\\ID1\\autoexec.cfg", "exec autoexec.cfg\nbind NOKEY wait\n"}};
+    EXPECT_EQ(
+        game.Report(),
+        "C:\\QUAKE\\id1\\autoexec.cfg:1: The script autoexec.cfg is being run already: this goes round without end.\n"
+        "C:\\QUAKE\\id1\\autoexec.cfg:2: Quake has no key NOKEY.\n");
+}
+
+}  // namespace lv
