@@ -40,8 +40,8 @@ set(MAY_foundry/writing foundry/writing foundry/versions foundry/document foundr
 set(MAY_foundry/half_life foundry/half_life ${MAY_foundry/writing} foundry/reading)
 set(MAY_foundry/losses foundry/losses console ${MAY_foundry/writing} foundry/reading)
 set(MAY_foundry/fonts foundry/fonts foundry/tables ${MAY_catalogs})
-set(MAY_foundry/look foundry/look foundry/losses foundry/versions console ${MAY_foundry/writing} foundry/reading)
-set(MAY_foundry/editor foundry/editor foundry/look foundry/losses foundry/versions console foundry/fonts ${MAY_foundry/half_life})
+set(MAY_foundry/look foundry/look foundry/losses foundry/versions console/files console/checks console ${MAY_foundry/writing} foundry/reading)
+set(MAY_foundry/editor foundry/editor foundry/look foundry/losses foundry/versions console/files console/checks console foundry/fonts ${MAY_foundry/half_life})
 set(MAY_foundry foundry ${MAY_foundry/editor})
 set(MAY_wizard wizard launcher launcher/start launcher/window launcher/menu catalogs/editors ${MAY_catalogs})
 

@@ -121,7 +121,7 @@ struct Fig_Frm : ModalWindow, ScriptView {
     std::array<CommandButton, 8> View_Cmd;  // 6 and 7 are in use
     CheckBox ExitOnSave_Chk;
     CommandButton UnloadSF_Cmd;
-    CommandButton ShowChanges_Cmd, Versions_Cmd;
+    CommandButton ShowChanges_Cmd, Versions_Cmd, FileOrder_Cmd, AliasGraph_Cmd, ScriptCheck_Cmd;
     bool Save_Tmr_Enabled = false;
     Index MinutesSinceAutoSave = 0;
     bool AutoSaveRunning = false;

@@ -2,11 +2,17 @@
 
 #include <optional>
 
+#include "console/checks/named_bodies.h"
+#include "console/engine_consoles.h"
 #include "foundation/bounded_file.h"
+#include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundry/editor/aliases_page.h"
 #include "foundry/editor/kind_layout.h"
+#include "foundry/look/alias_graph_frm.h"
 #include "foundry/look/changes_frm.h"
+#include "foundry/look/file_order_frm.h"
+#include "foundry/look/script_check_frm.h"
 #include "foundry/look/versions_frm.h"
 #include "foundry/losses/kept_lines.h"
 #include "foundry/reading/open_script.h"
@@ -65,6 +71,44 @@ void Keep(Fig_Frm& form, const SaveLook& look) {
     }
 }
 
+const Engine* EngineInUse(const Fig_Frm& form) {
+    const ImageCombo& executables = form.Lists.Exe_Cbo;
+    return form.Lists.Engines != nullptr && executables.HasSelection()
+               ? EngineOf(*form.Lists.Engines,
+                          LastPathPart(executables.Items[static_cast<std::size_t>(executables.ListIndex)].Key))
+               : nullptr;
+}
+
+/// The file where it is not edited, and else what a save would write.
+Text TextNow(Fig_Frm& form) {
+    if (form.Document.ScriptClean) {
+        const Result<Text> file = ReadBounded(form.run.System.Disk, form.Document.CurrentScriptPath, kLargeScript);
+        if (file.Ok()) {
+            return file.Value;
+        }
+    }
+    return ComposeScript(form.Document, form.run.System.Time.Now());
+}
+
+/// The start of the game that is picked, with this script.
+StartRequest StartOf(Fig_Frm& form) {
+    const Run& run = form.run;
+    const ScriptDialect& dialect = form.Document.Dialect;
+    const Engine* const engine = EngineInUse(form);
+    StartRequest request;
+    request.Played.Of = engine != nullptr ? ConsoleOfEngine(*engine, dialect.GameKind, dialect.IsQuakeWorld)
+                                          : ConsoleOfDialect(dialect);
+    request.Played.GameKind = dialect.GameKind;
+    request.Played.Directory = run.DefaultGameDirectory;
+    request.Played.Base = run.BaseGameDir;
+    request.Played.Modification = SameText(run.CurrentGameDir, run.BaseGameDir) ? Text() : run.CurrentGameDir;
+    request.Played.Engine = engine != nullptr ? engine->Name : Text();
+    request.Played.UserHome = run.System.Disk.UserHome();
+    request.Commands = {Join("exec ", LastPathPart(form.Document.CurrentScriptPath))};
+    request.Given = {{form.Document.CurrentScriptPath, TextNow(form)}};
+    return request;
+}
+
 }  // namespace
 
 void ShowChanges_Cmd_Click(Fig_Frm& form) {
@@ -91,6 +135,23 @@ bool MaySaveChanges(Fig_Frm& form) {
         Keep(form, *look);
     }
     return changes.Answer != ChangesAnswer::Leave && !form.run.Ended;
+}
+
+void FileOrder_Cmd_Click(Fig_Frm& form) {
+    FileOrder_Frm order(form.run, StartOf(form));
+    ShowModal(order);
+}
+
+void AliasGraph_Cmd_Click(Fig_Frm& form) {
+    const StartRequest request = StartOf(form);
+    const std::vector<NamedBody> bodies = NamedBodiesOf(request.Given.front().Content, request.Played.Of);
+    AliasGraph_Frm graph(form.run, bodies, request.Played.Of);
+    ShowModal(graph);
+}
+
+void ScriptCheck_Cmd_Click(Fig_Frm& form) {
+    ScriptCheck_Frm check(form.run, StartOf(form));
+    ShowModal(check);
 }
 
 void Versions_Cmd_Click(Fig_Frm& form) {

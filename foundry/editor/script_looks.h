@@ -15,6 +15,11 @@ void ShowChanges_Cmd_Click(Fig_Frm& form);
 /// that where they want it. False if nothing is to be saved.
 bool MaySaveChanges(Fig_Frm& form);
 
+/// Which scripts the game executes with this one, as it is edited now, and which of them wins.
+void FileOrder_Cmd_Click(Fig_Frm& form);
+void AliasGraph_Cmd_Click(Fig_Frm& form);
+void ScriptCheck_Cmd_Click(Fig_Frm& form);
+
 /// The older versions of the script. One that was brought back is edited then; that is one change, which can be undone.
 void Versions_Cmd_Click(Fig_Frm& form);
 

@@ -1,13 +1,19 @@
 #include "foundry/forms/look_dialogs.h"
 
 #include <wx/button.h>
+#include <wx/choice.h>
 #include <wx/listbox.h>
 #include <wx/stattext.h>
+#include <wx/textctrl.h>
 
 #include "foundation/forms/modal_form.h"
 #include "foundation/forms/wx_text.h"
 #include "foundry/forms/difference_view.h"
+#include "foundry/look/alias_graph_frm.h"
 #include "foundry/look/changes_frm.h"
+#include "foundry/look/file_order_frm.h"
+#include "foundry/look/script_check_frm.h"
+#include "foundry/look/script_text_frm.h"
 #include "foundry/look/versions_frm.h"
 #include "platform/toolkit/spoken_name.h"
 
@@ -27,11 +33,17 @@ class LookForm : public ModalForm {
         : ModalForm(owner, window, std::move(cancel), kLookStyle) {}
 
     wxListBox* AddList(const char* name, ListBox& model, TextView spoken, const std::function<void()>& click) {
-        auto* list = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kWidth, kListHeight)), 0, nullptr,
-                                   wxLB_HSCROLL);
-        Controls.Bind(name, model, list, click);
-        SetSpokenName(list->GetHandle(), ToUtf8(spoken));
+        wxListBox* const list = MakeRows(name, model, spoken, click, kListHeight);
         AddWide(list);
+        return list;
+    }
+
+    /// One that takes all the height there is.
+    wxListBox* AddTallList(const char* name, ListBox& model, TextView spoken, const std::function<void()>& click) {
+        wxListBox* const list = MakeRows(name, model, spoken, click, kRowsHeight);
+        auto* row = new wxBoxSizer(wxVERTICAL);
+        row->Add(list, wxSizerFlags(1).Expand());
+        AddWide(row, 1);
         return list;
     }
 
@@ -60,7 +72,83 @@ class LookForm : public ModalForm {
         AddWide(row);
         Arrange();
     }
+
+  private:
+    wxListBox* MakeRows(const char* name, ListBox& model, TextView spoken, const std::function<void()>& click,
+                        int height) {
+        auto* list =
+            new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kWidth, height)), 0, nullptr, wxLB_HSCROLL);
+        Controls.Bind(name, model, list, click);
+        SetSpokenName(list->GetHandle(), ToUtf8(spoken));
+        return list;
+    }
 };
+
+std::unique_ptr<wxDialog> MakeFileOrder(wxWindow* owner, FileOrder_Frm& order) {
+    auto form = std::make_unique<LookForm>(owner, order, [&order] { FileOrder_Close_Cmd_Click(order); });
+    form->AddWide(form->MakeLabel(form.get(), "Files_Lbl", order.Files_Lbl));
+    form->AddList("Files_Lst", order.Files_Lst, order.Files_Lbl.Caption,
+                  [&order] { FileOrder_Files_Lst_Click(order); });
+    auto* find = new wxTextCtrl(form.get(), wxID_ANY);
+    form->Controls.Bind("Wanted_Txt", order.Wanted_Txt, find, [&order] { FileOrder_Wanted_Txt_Change(order); });
+    form->AddField(order.Wanted_Lbl, "Wanted_Lbl", find);
+    form->AddList("Set_Lst", order.Set_Lst, "What is set, and by whom last",
+                  [&order] { FileOrder_Set_Lst_Click(order); });
+    form->AddWide(form->MakeLabel(form.get(), "Setters_Lbl", order.Setters_Lbl));
+    form->AddList("Setters_Lst", order.Setters_Lst, "Who sets it", [&order] { FileOrder_Setters_Lst_Click(order); });
+    form->AddButtons({form->MakeButton("Show_Cmd", order.Show_Cmd, [&order] { FileOrder_Show_Cmd_Click(order); }),
+                      form->MakeButton("Close_Cmd", order.Close_Cmd, [&order] { FileOrder_Close_Cmd_Click(order); })});
+    return form;
+}
+
+std::unique_ptr<wxDialog> MakeAliasGraph(wxWindow* owner, AliasGraph_Frm& graph) {
+    auto form = std::make_unique<LookForm>(owner, graph, [&graph] { AliasGraph_Close_Cmd_Click(graph); });
+    auto* way = new wxChoice(form.get(), wxID_ANY);
+    form->Controls.Bind("Way_Cbo", graph.Way_Cbo, way, [&graph] { AliasGraph_Way_Cbo_Click(graph); });
+    form->AddField(graph.Way_Lbl, "Way_Lbl", way);
+    form->AddWide(form->MakeLabel(form.get(), "Tree_Lbl", graph.Tree_Lbl));
+    wxListBox* const tree = form->AddTallList("Tree_Lst", graph.Tree_Lst, "Aliases and keys",
+                                              [&graph] { AliasGraph_Tree_Lst_Click(graph); });
+    Binder& controls = form->Controls;
+    tree->Bind(wxEVT_KEY_DOWN, [&graph, &controls](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_RIGHT) {
+            controls.Run([&graph] { AliasGraph_OpenRow(graph); });
+        } else if (event.GetKeyCode() == WXK_LEFT) {
+            controls.Run([&graph] { AliasGraph_CloseRow(graph); });
+        } else {
+            event.Skip();
+        }
+    });
+    tree->Bind(wxEVT_LISTBOX_DCLICK,
+               [&graph, &controls](wxCommandEvent&) { controls.Run([&graph] { AliasGraph_Open_Cmd_Click(graph); }); });
+    form->AddButtons({form->MakeButton("Open_Cmd", graph.Open_Cmd, [&graph] { AliasGraph_Open_Cmd_Click(graph); }),
+                      form->MakeButton("Close_Cmd", graph.Close_Cmd, [&graph] { AliasGraph_Close_Cmd_Click(graph); })});
+    return form;
+}
+
+std::unique_ptr<wxDialog> MakeScriptCheck(wxWindow* owner, ScriptCheck_Frm& check) {
+    auto form = std::make_unique<LookForm>(owner, check, [&check] { ScriptCheck_Close_Cmd_Click(check); });
+    form->AddWide(form->MakeLabel(form.get(), "Findings_Lbl", check.Findings_Lbl));
+    form->AddTallList("Findings_Lst", check.Findings_Lst, "Findings",
+                      [&check] { ScriptCheck_Findings_Lst_Click(check); });
+    form->AddButtons(
+        {form->MakeButton("Show_Cmd", check.Show_Cmd, [&check] { ScriptCheck_Show_Cmd_Click(check); }),
+         form->MakeButton("Close_Cmd", check.Close_Cmd, [&check] { ScriptCheck_Close_Cmd_Click(check); })});
+    return form;
+}
+
+std::unique_ptr<wxDialog> MakeScriptText(wxWindow* owner, ScriptText_Frm& script) {
+    auto form = std::make_unique<LookForm>(owner, script, [&script] { ScriptText_Close_Cmd_Click(script); });
+    form->AddWide(form->MakeLabel(form.get(), "Place_Lbl", script.Place_Lbl));
+    wxListBox* const lines = form->AddTallList("Lines_Lst", script.Lines_Lst, "The script", [] {});
+    lines->SetFont(wxFontInfo(lines->GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE));
+    form->AddButtons(
+        {form->MakeButton("Close_Cmd", script.Close_Cmd, [&script] { ScriptText_Close_Cmd_Click(script); })});
+    if (script.Lines_Lst.HasSelection()) {
+        lines->EnsureVisible(script.Lines_Lst.ListIndex);
+    }
+    return form;
+}
 
 std::unique_ptr<wxDialog> MakeChanges(wxWindow* owner, Changes_Frm& changes) {
     auto form = std::make_unique<LookForm>(owner, changes, [&changes] { Changes_Close_Cmd_Click(changes); });
@@ -98,6 +186,18 @@ std::unique_ptr<wxDialog> MakeVersions(wxWindow* owner, Versions_Frm& versions) 
 std::unique_ptr<wxDialog> MakeLookDialog(wxWindow* owner, ModalWindow& window) {
     if (auto* changes = dynamic_cast<Changes_Frm*>(&window)) {
         return MakeChanges(owner, *changes);
+    }
+    if (auto* order = dynamic_cast<FileOrder_Frm*>(&window)) {
+        return MakeFileOrder(owner, *order);
+    }
+    if (auto* graph = dynamic_cast<AliasGraph_Frm*>(&window)) {
+        return MakeAliasGraph(owner, *graph);
+    }
+    if (auto* check = dynamic_cast<ScriptCheck_Frm*>(&window)) {
+        return MakeScriptCheck(owner, *check);
+    }
+    if (auto* script = dynamic_cast<ScriptText_Frm*>(&window)) {
+        return MakeScriptText(owner, *script);
     }
     if (auto* versions = dynamic_cast<Versions_Frm*>(&window)) {
         return MakeVersions(owner, *versions);

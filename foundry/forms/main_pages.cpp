@@ -112,6 +112,15 @@ wxSizer* MakeLook(FigParts& parts, wxWindow* page) {
     row->Add(parts.MakeButton(frame.Box, "Versions_Cmd", form.Versions_Cmd, [&form] { Versions_Cmd_Click(form); }),
              wxSizerFlags().Border(wxLEFT, kPageGap));
     frame.Add(row);
+    auto* more = new wxBoxSizer(wxHORIZONTAL);
+    more->Add(parts.MakeButton(frame.Box, "FileOrder_Cmd", form.FileOrder_Cmd, [&form] { FileOrder_Cmd_Click(form); }));
+    more->Add(
+        parts.MakeButton(frame.Box, "AliasGraph_Cmd", form.AliasGraph_Cmd, [&form] { AliasGraph_Cmd_Click(form); }),
+        wxSizerFlags().Border(wxLEFT, kPageGap));
+    more->Add(
+        parts.MakeButton(frame.Box, "ScriptCheck_Cmd", form.ScriptCheck_Cmd, [&form] { ScriptCheck_Cmd_Click(form); }),
+        wxSizerFlags().Border(wxLEFT, kPageGap));
+    frame.Add(more);
     return frame.Frame;
 }
 

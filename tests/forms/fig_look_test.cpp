@@ -119,4 +119,73 @@ TEST_F(FigLooks, AnOlderVersionIsBroughtBackAndUndone) {
     });
 }
 
+TEST_F(FigLooks, WhichFileWinsIsFoundByTypingAndShownAtItsLine) {
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\autoexec.cfg", "echo a\nbind x +jump\n");
+    Use(kGames[0], "bind x +attack\n");
+    run.DefaultGameDirectory = "C:\\QUAKE";
+    run.BaseGameDir = "ID1";
+    run.CurrentGameDir = "ID1";
+    Edit([&] {
+        Turn(EditorPage::SaveAndExit);
+        Screenshot("foundry_save_page");
+        DoAndAnswer([] { ClickOn(Find("FileOrder_Cmd")); },
+                    [&] {
+                        EXPECT_TRUE(HasKeyboard(Find("Wanted_Txt")));
+                        TypeText("x");
+                        auto* setters = FindAs<wxListBox>("Setters_Lst");
+                        ASSERT_EQ(setters->GetCount(), 2u);
+                        EXPECT_EQ(FromWx(setters->GetString(0)), "autoexec.cfg, line 2   bind x +jump");
+                        Screenshot("foundry_file_order");
+                        setters->SetFocus();
+                        PressKey(WXK_UP);
+                        DoAndAnswer([] { ClickOn(Find("Show_Cmd")); },
+                                    [] {
+                                        Screenshot("foundry_script_text");
+                                        EXPECT_EQ(FindAs<wxListBox>("Lines_Lst")->GetSelection(), 1);
+                                        PressKey(WXK_ESCAPE);
+                                    });
+                        PressKey(WXK_ESCAPE);
+                    });
+    });
+}
+
+TEST_F(FigLooks, TheAliasGraphIsWalkedByTheArrowKeys) {
+    Use(kGames[0], "alias shoot \"aim\"\nalias aim \"shoot\"\nbind x shoot\n");
+    Edit([&] {
+        Turn(EditorPage::SaveAndExit);
+        DoAndAnswer([] { ClickOn(Find("AliasGraph_Cmd")); },
+                    [&] {
+                        auto* tree = FindAs<wxListBox>("Tree_Lst");
+                        EXPECT_TRUE(HasKeyboard(tree));
+                        ASSERT_EQ(tree->GetCount(), 3u);
+                        PressKey(WXK_RIGHT);
+                        PressKey(WXK_DOWN);
+                        PressKey(WXK_RIGHT);
+                        Screenshot("foundry_alias_graph");
+                        EXPECT_EQ(tree->GetCount(), 5u);
+                        PressKey(WXK_LEFT);
+                        EXPECT_EQ(tree->GetCount(), 4u);
+                        PressKey(WXK_ESCAPE);
+                    });
+    });
+}
+
+TEST_F(FigLooks, TheCheckListsWhatItFinds) {
+    Use(kGames[0], "bind x +attack\nalias a \"a\"\n");
+    run.DefaultGameDirectory = "C:\\QUAKE";
+    run.BaseGameDir = "ID1";
+    run.CurrentGameDir = "ID1";
+    Edit([&] {
+        Turn(EditorPage::SaveAndExit);
+        DoAndAnswer([] { ClickOn(Find("ScriptCheck_Cmd")); },
+                    [&] {
+                        Screenshot("foundry_script_check");
+                        auto* findings = FindAs<wxListBox>("Findings_Lst");
+                        ASSERT_GE(findings->GetCount(), 1u);
+                        EXPECT_THAT(FromWx(findings->GetString(0)), HasSubstr("my.cfg:3: "));
+                        PressKey(WXK_ESCAPE);
+                    });
+    });
+}
+
 }  // namespace lv
