@@ -47,7 +47,7 @@ struct WalkedDirectory {
 struct LinkedEntry : DirectoryEntry {
     std::string LeadsInto;     // as Files::LeadsInto
     bool IsGone = false;       // no directory, and what it leads to is no file now
-    bool IsElsewhere = false;  // a directory that lies elsewhere, and is here by a link
+    bool IsElsewhere = false;  // lies elsewhere, and is here by a link
 };
 
 class Files {

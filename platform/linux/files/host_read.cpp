@@ -160,7 +160,7 @@ Result<std::vector<LinkedEntry>> ListHostLinks(const std::string& hostPath, cons
         const bool mayBeLink = entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN;
         const ssize_t length = mayBeLink ? readlinkat(directory, entry.d_name, room.data(), room.size()) : -1;
         LinkedEntry& linked = entries.emplace_back(LinkedEntry{EntryOf(directory, entry, std::move(name)), {}});
-        linked.IsElsewhere = length >= 0 && linked.IsDirectory;
+        linked.IsElsewhere = length >= 0;
         if (length >= 0 && !linked.IsDirectory) {
             linked.LeadsInto = PathInside({room.data(), static_cast<std::size_t>(length)}, tree);
             linked.IsGone = faccessat(directory, entry.d_name, F_OK, 0) != 0;
