@@ -57,9 +57,6 @@ bool IsCalledLikeAGame(TextView name) {
 }
 
 bool ComesBefore(const Text& a, const Text& b) {
-    if (const bool first = IsCalledLikeAGame(a); first != IsCalledLikeAGame(b)) {
-        return first;
-    }
     const Text lowerA = LowerCase(a);
     const Text lowerB = LowerCase(b);
     return lowerA != lowerB ? lowerA < lowerB : a < b;
@@ -175,8 +172,9 @@ bool TreeSearch::OpenNextPlace() {
 }
 
 void TreeSearch::LeavePlace() {
-    if (!waiting_.empty()) {
+    if (!likely_.empty() || !waiting_.empty()) {
         crowded_.push_back(place_);
+        likely_.clear();
         waiting_.clear();
     }
 }
@@ -188,11 +186,12 @@ bool TreeSearch::Step() {
     if (listed_ >= kMostListed) {
         return false;
     }
-    if (waiting_.empty() && !OpenNextPlace()) {
+    if (likely_.empty() && waiting_.empty() && !OpenNextPlace()) {
         return false;
     }
-    const Waiting next = std::move(waiting_.front());
-    waiting_.pop_front();
+    std::deque<Waiting>& queue = likely_.empty() ? waiting_ : likely_;
+    const Waiting next = std::move(queue.front());
+    queue.pop_front();
     LookAt(next);
     return true;
 }
@@ -232,7 +231,8 @@ void TreeSearch::AddBelow(const Waiting& place, const std::vector<DirectoryEntry
     }
     std::ranges::sort(names, ComesBefore);
     for (const Text& name : names) {
-        waiting_.push_back({PathBelow(place.Path, name), std::max(place.Depth - 1, 0)});
+        (IsCalledLikeAGame(name) ? likely_ : waiting_)
+            .push_back({PathBelow(place.Path, name), std::max(place.Depth - 1, 0)});
     }
 }
 

@@ -17,8 +17,8 @@
 
 namespace lv {
 
-constexpr std::size_t kMostListed = 5000;         // directories in one look
-constexpr std::size_t kMostListedInAPlace = 800;  // of one place, for those behind it to have their turn
+constexpr std::size_t kMostListed = 5000;          // directories in one look
+constexpr std::size_t kMostListedInAPlace = 2500;  // of one place, for those behind it to have their turn
 
 class TreeSearch {
   public:
@@ -64,7 +64,8 @@ class TreeSearch {
     int stage_ = 0;
     std::deque<Waiting> usual_;    // places still to come
     Text place_;                   // the present one
-    std::deque<Waiting> waiting_;  // of that, nearest first, and those that are called like a game ahead of others
+    std::deque<Waiting> likely_;   // of that, nearest first: those that are called like a game
+    std::deque<Waiting> waiting_;  // and those that are not, which come behind all of these
     std::size_t listedHere_ = 0;
     std::size_t listed_ = 0;
     Text at_;

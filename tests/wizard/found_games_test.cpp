@@ -40,7 +40,7 @@ TEST_F(FoundGamesTest, WhatCouldPlayIsNamedWithoutAGameToo) {
 
 TEST_F(FoundGamesTest, ACrowdedPlaceIsTold) {
     AddQuake();
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         system.Disk.AddDirectory(Join("C:\\HOME\\games\\a", std::to_string(i)));
     }
     AddEngine("quakespasm");
