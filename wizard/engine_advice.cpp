@@ -63,6 +63,9 @@ void AdviseEngine(Run& run, const EngineTable& engines, std::size_t row, TextVie
                                     advice->IsCommand ? "In a terminal," : Join(advice->Engine, " does:"), NewLine,
                                     NewLine, TabChar, advice->What, NewLine, NewLine,
                                     advice->IsCommand ? Join("installs ", advice->Engine, ", which does. ") : Text(),
+                                    advice->Part.empty() ? Text()
+                                                         : Join("It is in Debian's \"", advice->Part,
+                                                                "\", which must stand among apt's sources. "),
                                     "Afterwards press OK once more, or call the setup again (Tools, Set Up Games)."),
                                "&OK,&Copy");
     if (answer == 1) {

@@ -144,13 +144,13 @@ std::optional<EngineAdvice> AdviceFor(const EngineTable& engines, std::size_t ro
             continue;
         }
         if (packages && !engine.DebianPackage.empty()) {
-            return EngineAdvice{Join("apt install ", engine.DebianPackage), true, engine.Name};
+            return EngineAdvice{Join("apt install ", engine.DebianPackage), true, engine.Name, engine.DebianPart};
         }
         if (page == nullptr && !engine.HomePage.empty()) {
             page = &engine;
         }
     }
-    return page == nullptr ? std::nullopt : std::optional(EngineAdvice{page->HomePage, false, page->Name});
+    return page == nullptr ? std::nullopt : std::optional(EngineAdvice{page->HomePage, false, page->Name, {}});
 }
 
 }  // namespace lv

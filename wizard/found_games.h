@@ -55,6 +55,7 @@ struct EngineAdvice {
     Text What;  // "apt install quakespasm", or a page of the web
     bool IsCommand = false;
     Text Engine;
+    Text Part;  // of Debian that has to be among the sources of packages; empty: the one that always is
 };
 /// `packages`: whether the system gets programs by Debian's packages.
 std::optional<EngineAdvice> AdviceFor(const EngineTable& engines, std::size_t row, bool packages = true);

@@ -79,6 +79,16 @@ TEST_F(EngineAdviceTest, IsRememberedOfThirtyTrees) {
     EXPECT_TRUE(Advised().ends_with(";c:\\tree39")) << Advised();
 }
 
+TEST_F(EngineAdviceTest, SaysInWhichPartOfDebianAPackageIs) {
+    user.Expect(
+        {"Nothing Here to Play It With",
+         "In a terminal,\r\n\r\n\tapt install yamagi-quake2\r\n\r\ninstalls Yamagi Quake II, which does. It is in "
+         "Debian's \"contrib\", which must stand among apt's sources. Afterwards",
+         1, false, false, "&OK,&Copy"});
+    AdviseEngine(run, launcher.Engines, kQuake2, "c:\\q2");
+    EXPECT_EQ(system.Clip.Held, "apt install yamagi-quake2");
+}
+
 TEST_F(EngineAdviceTest, APathThatNoListKeepsIsToldOfEachTime) {
     for (int i = 0; i < 2; ++i) {
         ExpectAdvice("c:\\a;b");
