@@ -41,6 +41,8 @@ class RandomAccessFile {
 struct WalkedDirectory {
     std::uint64_t Identity = 0;  // the same by whichever path or link the directory is reached
     std::vector<DirectoryEntry> Entries;
+    std::size_t Nameless =
+        0;  // directories left out, as code page 1252 cannot say their names; hidden ones don't count
 };
 
 /// An entry of a directory of links.

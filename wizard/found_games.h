@@ -20,6 +20,7 @@ struct FoundGames {
     std::vector<GameTree> Trees;        // in the order in which they are offered
     std::vector<FoundEngine> Engines;   // outside of the trees; servers too
     std::vector<Text> Crowded;          // usual places that hold more than was looked through
+    std::size_t Nameless = 0;           // directories there with names that no game could open
     std::vector<std::size_t> Playable;  // rows of the wizard with a program in the game's own directory
 };
 

@@ -210,6 +210,7 @@ void TreeSearch::LookAt(const Waiting& place) {
         return;
     }
     met->second = place.Depth;
+    nameless_ += isNew ? listed.Value.Nameless : 0;
     auto tree = trees_.contains(identity) ? std::nullopt : TreeIn(files_, place.Path, listed.Value.Entries);
     if (tree) {
         trees_.insert(identity);
@@ -236,12 +237,9 @@ void TreeSearch::AddBelow(const Waiting& place, const std::vector<DirectoryEntry
     }
 }
 
-std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places, std::vector<Text>* crowded) {
+std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places) {
     TreeSearch search(files, places);
     while (search.Step()) {
-    }
-    if (crowded != nullptr) {
-        *crowded = search.Crowded();
     }
     return search.Found();
 }

@@ -38,6 +38,9 @@ class TreeSearch {
     /// The places that hold more than was looked through.
     [[nodiscard]] const std::vector<Text>& Crowded() const { return crowded_; }
 
+    /// How many directories there have names that code page 1252 cannot say: no game could open them.
+    [[nodiscard]] std::size_t Nameless() const { return nameless_; }
+
     /// How many directories were listed.
     [[nodiscard]] std::size_t Listed() const { return listed_; }
 
@@ -73,9 +76,10 @@ class TreeSearch {
     std::unordered_set<std::uint64_t> trees_;
     std::vector<GameTree> found_;
     std::vector<Text> crowded_;
+    std::size_t nameless_ = 0;
 };
 
 /// All of it at once.
-std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places, std::vector<Text>* crowded = nullptr);
+std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places);
 
 }  // namespace lv

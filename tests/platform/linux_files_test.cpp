@@ -110,6 +110,17 @@ TEST(LinuxFiles, ListInTheFileSystemsOrder) {
     EXPECT_EQ(names, expected);
 }
 
+TEST(LinuxFiles, CountsDirectoriesThatHaveNoNameHere) {
+    Home home;
+    for (const char* const name : {"\xD0\x9A\xD0\xB2", "\xD0\xB0", ".\xD0\xB0", "plain"}) {
+        fs::create_directories(home.C / "games" / name);
+    }
+    WriteBytes(home.C / "games" / "\xD0\xB2", "a file");
+    const auto listed = home.Disk.ListForWalk("C:\\games");
+    EXPECT_EQ(listed.Value.Nameless, 2u);
+    EXPECT_EQ(home.Disk.ListForWalk("C:\\games\\plain").Value.Nameless, 0u);
+}
+
 TEST(LinuxFiles, KnowADirectoryAgainBehindALink) {
     Home home;
     fs::create_directory(home.C / "real");

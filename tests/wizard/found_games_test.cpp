@@ -49,6 +49,21 @@ TEST_F(FoundGamesTest, ACrowdedPlaceIsTold) {
               "Auto-Search' looks through it all. Click 'OK' to go on.");
 }
 
+TEST_F(FoundGamesTest, DirectoriesWhoseNamesNoGameCouldOpenAreTold) {
+    system.Disk.AddDirectory("C:\\HOME\\games");
+    system.Disk.Nameless["c:\\home\\games"] = 1;
+    EXPECT_EQ(FoundText(LookAround(run, launcher.Engines)),
+              "No game found in the usual places. 1 directory has a name that the games could not open: rename it with "
+              "Western letters if there is a game in it. Tick yours, and press 'Browse' or 'Do An Auto-Search'.");
+    AddQuake();
+    system.Disk.Nameless["c:\\home\\games\\quake"] = 1;
+    AddEngine("quakespasm");
+    EXPECT_EQ(
+        FoundText(LookAround(run, launcher.Engines)),
+        "Found: Quake. Plays here: QuakeSpasm. 2 directories have names that the games could not open: rename them "
+        "with Western letters if there is a game in them. Click 'OK' to go on.");
+}
+
 TEST_F(FoundGamesTest, ADirectoryWithALineEndInItsNameIsPassedOver) {
     system.Disk.AddFile("C:\\HOME\\games\\new\nline\\id1\\pak0.pak");
     EXPECT_TRUE(LookAround(run, launcher.Engines).Trees.empty());

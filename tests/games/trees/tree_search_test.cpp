@@ -90,15 +90,27 @@ TEST(QuickLook, LooksAtThemAheadOfAllOthersOnEachLevel) {
     EXPECT_EQ(LookedFor(system), (Paths{"C:\\HOME\\games\\zz\\quake"}));
 }
 
+TEST(QuickLook, CountsDirectoriesWhoseNamesNoGameCouldOpenOnce) {
+    MemoryPlatform system;
+    system.Places.IsGames = {"C:\\HOME\\games", "C:\\HOME\\games"};
+    system.Disk.AddDirectory("C:\\HOME\\games\\quake");
+    system.Disk.Nameless = {{"c:\\home\\games", 2}, {"c:\\home\\games\\quake", 1}, {"c:\\home", 8}};
+    TreeSearch search(system.Disk, &system.Places);
+    while (search.Step()) {
+    }
+    EXPECT_EQ(search.Nameless(), 3u);
+}
+
 TEST(QuickLook, TellsOfNoPlaceThatItHasLookedThrough) {
     MemoryPlatform system;
     system.Places.IsGames = {"C:\\HOME\\games"};
     for (std::size_t i = 1; i < kMostListedInAPlace; ++i) {
         system.Disk.AddDirectory(Join("C:\\HOME\\games\\a", std::to_string(i)));
     }
-    Paths crowded = {"?"};
-    QuickLook(system.Disk, &system.Places, &crowded);
-    EXPECT_EQ(crowded, Paths());
+    TreeSearch search(system.Disk, &system.Places);
+    while (search.Step()) {
+    }
+    EXPECT_EQ(search.Crowded(), Paths());
 }
 
 TEST(QuickLook, FindsInTheOrderOfThePlaces) {
