@@ -8,6 +8,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/signalfd.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -114,12 +115,12 @@ class Watch {
 
     void Run() {
         while (reading_ || !ended_) {
-            pollfd events[] = {{reading_ ? channels_.Read : -1, POLLIN, 0}, {ended_ ? -1 : channels_.Ended, POLLIN, 0}};
+            pollfd events[] = {{reading_ ? channels_.Read : -1, POLLIN, 0}, {channels_.Ended, POLLIN, 0}};
             if (poll(events, 2, -1) < 0 && errno != EINTR) {
                 return;
             }
             TakePiece();
-            if (!ended_ && HasEnded()) {
+            if (HasEnded()) {
                 for (int i = 0; i < kPiecesAtEnd && TakePiece(); ++i) {
                 }
                 NoteEnd();
@@ -145,12 +146,22 @@ class Watch {
         return false;
     }
 
+    // True once. What the program has left behind is this one's to wait for.
     bool HasEnded() {
         signalfd_siginfo told;
         while (read(channels_.Ended, &told, sizeof told) > 0) {
         }
-        ended_ = waitpid(program_, &status_, WNOHANG) == program_;
-        return ended_;
+        const bool hadEnded = ended_;
+        int status = 0;
+        pid_t child = 0;
+        while ((child = waitpid(-1, &status, WNOHANG)) > 0) {
+            if (child == program_) {
+                status_ = status;
+                ended_ = true;
+            }
+        }
+        othersRun_ = child == 0;
+        return ended_ && !hadEnded;
     }
 
     void NoteEnd() {
@@ -161,6 +172,7 @@ class Watch {
         end.Code = WIFEXITED(status_) ? WEXITSTATUS(status_) : 0;
         end.Signal = WIFSIGNALED(status_) ? WTERMSIG(status_) : 0;
         end.Seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - started_).count();
+        end.OthersRun = othersRun_;
         PutInPlace(order_.End, GameEndRecord(order_.Token, end));
     }
 
@@ -172,6 +184,7 @@ class Watch {
     PassedOutput passed_;
     bool reading_ = true;
     bool ended_ = false;
+    bool othersRun_ = false;
     int status_ = 0;
 };
 
@@ -193,6 +206,7 @@ int main(int count, char** arguments) {
         return 2;
     }
     fcntl(order->ReportTo, F_SETFD, FD_CLOEXEC);
+    prctl(PR_SET_CHILD_SUBREAPER, 1);  // what the program leaves behind becomes a child of this one
     const lv::Channels channels = lv::OpenChannels(*order);
     lv::KeptOutput output(order->Output);  // whoever learns that the program could be started finds it there
     const pid_t program = lv::StartProgram(*order, channels);

@@ -28,9 +28,8 @@ Result<std::vector<LinkedEntry>> Files::ListLinks(std::string_view directory, st
         }
         const std::string path = above + entry.Name;
         LinkedEntry& linked = entries.emplace_back(LinkedEntry{entry, {}, false, false});
-        if (entry.IsDirectory) {
-            linked.IsElsewhere = !SameText(FromHost(ToHost(path)), real + entry.Name);
-        } else {
+        linked.IsElsewhere = !SameText(FromHost(ToHost(path)), real + entry.Name);
+        if (!entry.IsDirectory) {
             linked.LeadsInto = LeadsInto(path, tree);
             linked.IsGone = !entry.IsDevice && !FileExists(path);
         }

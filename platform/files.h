@@ -41,13 +41,15 @@ class RandomAccessFile {
 struct WalkedDirectory {
     std::uint64_t Identity = 0;  // the same by whichever path or link the directory is reached
     std::vector<DirectoryEntry> Entries;
+    std::size_t Nameless =
+        0;  // directories left out, as code page 1252 cannot say their names; hidden ones don't count
 };
 
 /// An entry of a directory of links.
 struct LinkedEntry : DirectoryEntry {
     std::string LeadsInto;     // as Files::LeadsInto
     bool IsGone = false;       // no directory, and what it leads to is no file now
-    bool IsElsewhere = false;  // a directory that lies elsewhere, and is here by a link
+    bool IsElsewhere = false;  // lies elsewhere, and is here by a link
 };
 
 class Files {

@@ -32,9 +32,10 @@ struct BatchCommand {
 
 /// How a game's program ended: the one that was started, whatever it has started itself.
 struct GameEnd {
-    int Code = 0;                // that it left
-    int Signal = 0;              // of the system, that ended it; 0: none
-    double Seconds = 0;          // that it ran
+    int Code = 0;            // that it left
+    int Signal = 0;          // of the system, that ended it; 0: none
+    double Seconds = 0;      // that it ran
+    bool OthersRun = false;  // programs that it has started went on, as behind a wrapper that hands over to the game
     std::string LastLines = {};  // the end of what it printed, whole lines parted by CR LF, without control characters
 };
 

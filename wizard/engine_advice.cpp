@@ -6,6 +6,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "games/programs.h"
 #include "wizard/install_frm.h"
 
 namespace lv {
@@ -32,6 +33,16 @@ void KeepToldOf(Run& run, const std::vector<Text>& told) {
     }
 }
 
+/// For a game that no engine of today plays.
+void AskForOwnProgram(Run& run, std::size_t row, TextView path) {
+    const Text name = InstallRows()[row].Name;
+    AskUser(run, "Nothing Here to Play It With",
+            Join(name, " lies in", NewLine, NewLine, TabChar, path, NewLine, NewLine, "but its program ",
+                 SearchedProgram(row), " does not, and no engine of today plays ", name, ".",
+                 run.System.Disk.StandIn("", "") ? " That program runs through Wine." : "",
+                 " Put it there, or press Browse in the row of ", name, " and show the directory that it lies in."));
+}
+
 }  // namespace
 
 void AdviseOnce(Run& run, const EngineTable& engines, const std::vector<SetUpTree>& trees, bool all) {
@@ -55,6 +66,7 @@ void AdviseEngine(Run& run, const EngineTable& engines, std::size_t row, TextVie
     // A system whose engines play from the game's directory alone is Windows, which has no packages.
     const auto advice = AdviceFor(engines, row, run.System.Disk.StandIn("", ""));
     if (!advice) {
+        AskForOwnProgram(run, row, path);
         return;
     }
     const int answer = AskUser(run, "Nothing Here to Play It With",
@@ -63,6 +75,9 @@ void AdviseEngine(Run& run, const EngineTable& engines, std::size_t row, TextVie
                                     advice->IsCommand ? "In a terminal," : Join(advice->Engine, " does:"), NewLine,
                                     NewLine, TabChar, advice->What, NewLine, NewLine,
                                     advice->IsCommand ? Join("installs ", advice->Engine, ", which does. ") : Text(),
+                                    advice->Part.empty() ? Text()
+                                                         : Join("It is in Debian's \"", advice->Part,
+                                                                "\", which must stand among apt's sources. "),
                                     "Afterwards press OK once more, or call the setup again (Tools, Set Up Games)."),
                                "&OK,&Copy");
     if (answer == 1) {

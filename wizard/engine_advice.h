@@ -20,8 +20,8 @@ struct SetUpTree {
 /// every one. A tree that has a program now counts as one that was never told of.
 void AdviseOnce(Run& run, const EngineTable& engines, const std::vector<SetUpTree>& trees, bool all);
 
-/// Tells what to install for a game without any program to play it, and offers that to be copied. Nothing is told where
-/// nothing is known.
+/// Tells what to install for a game without any program to play it, and offers that to be copied. Of a game that no
+/// engine plays it asks for the game's own program.
 void AdviseEngine(Run& run, const EngineTable& engines, std::size_t row, TextView path);
 
 }  // namespace lv

@@ -25,6 +25,15 @@ Text CrowdedText(const FoundGames& found) {
                                         " holds too much for a quick look: 'Do An Auto-Search' looks through it all.");
 }
 
+Text NamelessText(const FoundGames& found) {
+    const bool one = found.Nameless == 1;
+    return found.Nameless == 0
+               ? Text()
+               : Join(" ", std::to_string(found.Nameless), one ? " directory has a name" : " directories have names",
+                      " that the games could not open: rename ", one ? "it" : "them",
+                      " with Western letters if there is a game in ", one ? "it." : "them.");
+}
+
 bool IsForRow(const Engine& engine, std::size_t row) {
     return std::ranges::any_of(
         AllGames(), [&](const GameFacts& game) { return game.WizardRow == row && Plays(engine, game.GameKind); });
@@ -39,7 +48,12 @@ FoundGames LookAround(Run& run, const EngineTable& engines) {
         return found;
     }
     found.HasLooked = true;
-    found.Trees = QuickLook(run.System.Disk, places, &found.Crowded);
+    TreeSearch search(run.System.Disk, places);
+    while (search.Step()) {
+    }
+    found.Trees = search.Found();
+    found.Crowded = search.Crowded();
+    found.Nameless = search.Nameless();
     std::erase_if(found.Trees, [](const GameTree& tree) {
         return std::ranges::any_of(tree.Directory, [](char c) { return static_cast<unsigned char>(c) < 0x20; });
     });
@@ -122,11 +136,12 @@ Text FoundText(const FoundGames& found) {
         return !found.HasLooked ? Text()
                                 : Join("No game found in the usual places.",
                                        engines.empty() ? Text() : Join(" Here to play with: ", Listed(engines), "."),
-                                       CrowdedText(found), " Tick yours, and press 'Browse' or 'Do An Auto-Search'.");
+                                       CrowdedText(found), NamelessText(found),
+                                       " Tick yours, and press 'Browse' or 'Do An Auto-Search'.");
     }
     return Join("Found: ", Listed(games), ".", engines.empty() ? Text() : Join(" Plays here: ", Listed(engines), "."),
                 unplayed.empty() ? Text() : Join(" No engine here for: ", Listed(unplayed), "."), CrowdedText(found),
-                " Click 'OK' to go on.");
+                NamelessText(found), " Click 'OK' to go on.");
 }
 
 Text SearchText(const std::vector<Text>& found, const std::vector<Text>& missing) {
@@ -144,13 +159,13 @@ std::optional<EngineAdvice> AdviceFor(const EngineTable& engines, std::size_t ro
             continue;
         }
         if (packages && !engine.DebianPackage.empty()) {
-            return EngineAdvice{Join("apt install ", engine.DebianPackage), true, engine.Name};
+            return EngineAdvice{Join("apt install ", engine.DebianPackage), true, engine.Name, engine.DebianPart};
         }
         if (page == nullptr && !engine.HomePage.empty()) {
             page = &engine;
         }
     }
-    return page == nullptr ? std::nullopt : std::optional(EngineAdvice{page->HomePage, false, page->Name});
+    return page == nullptr ? std::nullopt : std::optional(EngineAdvice{page->HomePage, false, page->Name, {}});
 }
 
 }  // namespace lv

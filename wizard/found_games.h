@@ -20,6 +20,7 @@ struct FoundGames {
     std::vector<GameTree> Trees;        // in the order in which they are offered
     std::vector<FoundEngine> Engines;   // outside of the trees; servers too
     std::vector<Text> Crowded;          // usual places that hold more than was looked through
+    std::size_t Nameless = 0;           // directories there with names that no game could open
     std::vector<std::size_t> Playable;  // rows of the wizard with a program in the game's own directory
 };
 
@@ -55,6 +56,7 @@ struct EngineAdvice {
     Text What;  // "apt install quakespasm", or a page of the web
     bool IsCommand = false;
     Text Engine;
+    Text Part;  // of Debian that has to be among the sources of packages; empty: the one that always is
 };
 /// `packages`: whether the system gets programs by Debian's packages.
 std::optional<EngineAdvice> AdviceFor(const EngineTable& engines, std::size_t row, bool packages = true);

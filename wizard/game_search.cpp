@@ -7,6 +7,7 @@
 #include "foundation/question_box.h"
 #include "games/programs.h"
 #include "wizard/disk_walk.h"
+#include "wizard/searched_trees.h"
 
 namespace lv {
 
@@ -173,7 +174,7 @@ class Pulse {
 };
 
 /// Gives the rows that stay open.
-Rows WalkDisks(Install_Frm& form, Rows open) {
+Rows WalkDisks(Install_Frm& form, Rows open, SearchedTrees& trees) {
     Files& disk = form.run.System.Disk;
     DiskWalk walk(disk);
     Pulse pulse(form);
@@ -189,6 +190,7 @@ Rows WalkDisks(Install_Frm& form, Rows open) {
             const bool ignored = form.ZipMagic_Chk.Value == 1 && Holds(UpperCase(step->Path), ".ZIP");
             if (!ignored) {
                 TakeHits(form, *step, open);
+                trees.Take(disk, *step);
             }
             if (!Any(open)) {
                 return open;
@@ -224,11 +226,13 @@ void Install_AutoSearch_Cmd_Click(Install_Frm& form) {
     form.Hourglass = true;
     form.run.User.Refresh();
     Rows open = SearchUsualPlaces(form, ticked);
+    SearchedTrees trees;
     if (Any(open) && WantsWalk(form.run, open)) {
         SetSearching(form, true);
-        open = WalkDisks(form, open);
+        open = WalkDisks(form, open, trees);
         SetSearching(form, false);
     }
+    trees.Fill(form, open);
     form.Status_Lbl.Caption = "Search Complete:";
     TellFound(form, ticked, open);
     form.Hourglass = false;

@@ -58,7 +58,7 @@ void AddEngines(Setup& setup, const std::vector<EngineEntry>& entries, const Tex
 }
 
 /// Of the game in that directory: its own programs, the engines of today that play it and, where anything does, the
-/// servers. True if anything does.
+/// servers. True if anything does, or would if the tree could be prepared for it: the user was told why it could not.
 bool AddTree(Setup& setup, std::size_t row, const Text& tree, bool isRow) {
     Install_Frm& form = setup.Form;
     const Text path = LowerCase(tree);
@@ -66,7 +66,7 @@ bool AddTree(Setup& setup, std::size_t row, const Text& tree, bool isRow) {
     const std::vector<EngineEntry> engines = EngineEntries(form.run, form.Engines, form.Found, row, path);
     AddEngines(setup, engines, tree);
     if (engines.empty() && !HasProgram(form.run, row, path)) {
-        return false;
+        return HasNewEngine(form.run, form.Engines, form.Found, row, path, "");
     }
     AddEngines(setup, ServerEntries(form.run, form.Engines, form.Found, row, path), tree);
     return true;

@@ -142,6 +142,13 @@ Fault TakeRerelease(TextView cell, Engine& engine) {
     return TakeCellWord(cell, kWords, "way with a rerelease", engine.RefusesRerelease);
 }
 
+Fault TakePackage(TextView cell, Engine& engine) {
+    const std::size_t part = cell.find('/');
+    engine.DebianPart = part == TextView::npos ? TextView() : cell.substr(0, part);
+    engine.DebianPackage = part == TextView::npos ? cell : cell.substr(part + 1);
+    return {};
+}
+
 template <Text Engine::*Member>
 Fault TakeText(TextView cell, Engine& engine) {
     engine.*Member = cell;
@@ -168,7 +175,7 @@ constexpr EngineColumn kColumns[] = {
     {"starts", TakeStarts},
     {"nodata", TakeText<&Engine::WithoutData>},
     {"rerelease", TakeRerelease},
-    {"debian", TakeText<&Engine::DebianPackage>},
+    {"debian", TakePackage},
     {"page", TakeText<&Engine::HomePage>},
     {"known", TakeText<&Engine::Known>},
 };

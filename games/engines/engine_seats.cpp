@@ -44,7 +44,8 @@ Text OnHost(Run& run, const Text& path) {
 
 Text HowToGet(const Engine& engine) {
     if (!engine.DebianPackage.empty()) {
-        return Join("In a terminal, \"apt install ", engine.DebianPackage, "\" installs it.");
+        return Join("In a terminal, \"apt install ", engine.DebianPackage, "\" installs it",
+                    engine.DebianPart.empty() ? Text() : Join(", from Debian's ", engine.DebianPart), ".");
     }
     return engine.HomePage.empty() ? Text() : Join("It is to be had from ", engine.HomePage);
 }

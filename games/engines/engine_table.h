@@ -92,6 +92,7 @@ struct Engine {
     Text StartInstead;              // but this one
     Text WithoutData;               // what it does without the game's data, in words
     Text DebianPackage;
+    Text DebianPart;  // of Debian that the package is in; empty: main
     Text HomePage;
     Text Known;  // what the row rests on: "tried", "source", "not tried"
 };

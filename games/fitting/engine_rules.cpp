@@ -12,18 +12,22 @@ namespace lv {
 namespace {
 
 /// What counts against the engine's longest line: the program, and a blank and the argument for each argument, in
-/// UTF-8.
+/// UTF-8. Options behind the last command are seen however long the line is.
 struct LineSize {
     std::size_t Characters = 0;
     std::size_t Arguments = 0;
 };
 
 LineSize SizeOf(TextView program, const std::vector<CommandPart>& parts) {
-    LineSize size{ToUtf8(program).size(), 1};
+    LineSize size{0, 1};
+    std::size_t characters = ToUtf8(program).size();
     for (const CommandPart& part : parts) {
         for (const CommandWord& word : part.Words) {
-            size.Characters += 1 + ToUtf8(word.Whole()).size();
+            characters += 1 + ToUtf8(word.Whole()).size();
             ++size.Arguments;
+        }
+        if (part.Kind == PartKind::Command) {
+            size.Characters = characters;
         }
     }
     return size;
@@ -39,6 +43,16 @@ Text ProgramOfLine(const ComposedCommand& composed) {
     return composed.ProgramPath.empty() ? Trim(PrefixOf(composed)) : composed.ProgramPath;
 }
 
+bool HasTooManyArguments(const Fitting& fitting) {
+    const std::size_t most = fitting.Its.MostArguments;
+    return most != 0 && SizeOf(ProgramOfLine(fitting.Composed), fitting.Parts).Arguments > most;
+}
+
+void LeaveOutLast(Fitting& fitting, TextView why) {
+    fitting.Note(FitKind::LeftOut, fitting.Parts.back(), why);
+    fitting.Parts.pop_back();
+}
+
 /// Why the line is too long; nothing if it is not.
 std::optional<Text> WhyTooLong(const Fitting& fitting) {
     const LineSize size = SizeOf(ProgramOfLine(fitting.Composed), fitting.Parts);
@@ -46,26 +60,44 @@ std::optional<Text> WhyTooLong(const Fitting& fitting) {
     if (its.LongestLine != 0 && size.Characters > its.LongestLine) {
         return Join("it reads no more than ", std::to_string(its.LongestLine), " characters of its command line");
     }
-    if (its.MostArguments != 0 && size.Arguments > its.MostArguments) {
+    if (HasTooManyArguments(fitting)) {
         return Join("it reads no more than ", std::to_string(its.MostArguments - 1), " arguments");
     }
     return {};
 }
 
-/// First what the script can say goes there, then autoexec.cfg runs the script, and at last switches are left out.
+/// True if the script has come to stand ahead of all else. A word that stood there would become one of its arguments.
+bool PutScriptAhead(Fitting& fitting, std::vector<CommandPart>::iterator script, TextView why) {
+    std::vector<CommandPart>& parts = fitting.Parts;
+    if (script == parts.begin() || parts.front().Kind != PartKind::Option) {
+        return false;
+    }
+    fitting.Note(FitKind::Changed, *script, Join(why, ", so it stands ahead of all else"));
+    std::rotate(parts.begin(), script, script + 1);
+    return true;
+}
+
+/// First what the script can say goes there, then the script comes ahead of the switches. Only where that does not do
+/// autoexec.cfg runs it, and at last switches are left out.
 void Shorten(Fitting& fitting) {
     while (const std::optional<Text> why = WhyTooLong(fitting)) {
         const auto is = [&](auto test) {
             return std::ranges::find_if(fitting.Parts, [&](const CommandPart& part) { return test(fitting, part); });
         };
-        if (is(IsMovable) != fitting.Parts.end()) {
+        const auto none = fitting.Parts.end();
+        if (is(IsMovable) != none) {
             MoveAllCommands(fitting, *why);
-        } else if (const auto script = is(ExecutesScript); script != fitting.Parts.end()) {
+            continue;
+        }
+        const auto script = is(ExecutesScript);
+        if (script != none && PutScriptAhead(fitting, script, *why)) {
+            continue;
+        }
+        if (script != none && !(script == fitting.Parts.begin() && HasTooManyArguments(fitting))) {
             MoveToAutoexec(fitting, *script, *why);
             fitting.Parts.erase(script);
         } else if (!fitting.Parts.empty()) {
-            fitting.Note(FitKind::LeftOut, fitting.Parts.back(), *why);
-            fitting.Parts.pop_back();
+            LeaveOutLast(fitting, *why);
         } else {
             return;
         }
@@ -102,6 +134,7 @@ FittedCommand FitCommandLine(const Engine& engine, const ComposedCommand& compos
     TellDataDirectory(fitting);
     NoteHeldCommands(fitting);
     if (composed.IsShareware && engine.SharewareNeedsAutoexec) {
+        fitting.Fitted.ForShareware = true;
         FitShareware(fitting);
     } else {
         MoveTorn(fitting);

@@ -46,6 +46,7 @@ struct FittedCommand {
     Text ScriptHead;    // lines for the script, ahead of its own, each ended by NewLine
     Text ScriptTail;    // behind its own
     Text AutoexecTail;  // lines for autoexec.cfg in the game's base directory, without which the script does not run
+    bool ForShareware = false;  // that is so as the engine runs no command with the game's shareware data
     std::vector<std::pair<Text, Text>> Environment;
     bool StartInDataDirectory = false;  // that is how the engine finds the data
     std::vector<FitNote> Notes;         // in the order of the rules

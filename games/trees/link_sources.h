@@ -1,7 +1,8 @@
 // games/trees/link_sources.h
 //
 // Of which tree each directory of links is made, and what a launch does with that. The settings keep it: section
-// "LinkedTrees", a value for each directory of links, called as that is, with the path of the tree.
+// "LinkedTrees", a value for each directory of links, called as that is, with the path of the tree. Section
+// "LinksLeftOut" keeps under the same names which files the user was told of.
 
 #pragma once
 
@@ -19,7 +20,8 @@ Text LinksOf(Run& run, TextView tree);
 /// The path of the tree that the links were made of; empty if that is not known.
 Text SourceOfLinks(Run& run, TextView links);
 
-/// Makes the links of this tree, in `links`, and keeps in the settings that they are of it.
+/// Makes the links of this tree, in `links`, and keeps in the settings that they are of it. Files that are left out are
+/// told of by name, once as long as they are the same.
 LinkedTree MakeLinks(Run& run, const GameTree& tree, TextView links);
 
 struct LinkRefresh {
@@ -28,7 +30,7 @@ struct LinkRefresh {
     LinkedTree Done;
 };
 
-/// Brings a directory of links up to date with its tree.
+/// Brings a directory of links up to date with its tree. Files that are left out are told of as above.
 LinkRefresh RefreshLinks(Run& run, TextView links);
 
 }  // namespace lv

@@ -151,19 +151,31 @@ class Linking {
                 return;
             }
             const auto found = there.find(key);
-            LinkFile(PathBelow(below, entry.Name), own, Spelled(entry.Name),
-                     found == there.end() ? nullptr : &found->second);
+            const LinkedEntry* const already = found == there.end() ? nullptr : &found->second;
+            const Text name = Spelled(entry.Name);
+            if (!EndsInOneOf(name, kWritten)) {
+                LinkFile(PathBelow(below, entry.Name), own, name, already);
+            } else if (already == nullptr) {
+                CopyFile(PathBelow(below, entry.Name), PathBelow(own, name), entry);
+            }
+        }
+    }
+
+    void CopyFile(const Text& below, const Text& to, const LinkedEntry& entry) {
+        const Text from = InTree(below);
+        const Error failed = entry.IsElsewhere ? MakeError(error::kPathFileAccess) : files_.Copy(from, to);
+        if (!failed) {
+            ++done_.Copied;
+        } else if (entry.IsElsewhere || failed.Number == error::kOutOfMemory || !files_.Open(from).Ok()) {
+            if (files_.FileExists(from)) {
+                done_.LeftOut.push_back(below);
+            }
+        } else {
+            done_.Fault = failed;  // not of this file, but of the place for all of them
         }
     }
 
     void LinkFile(const Text& below, const Text& own, const Text& name, const LinkedEntry* there) {
-        if (EndsInOneOf(name, kWritten)) {
-            if (there == nullptr) {
-                done_.Fault = files_.Copy(InTree(below), PathBelow(own, name));
-                done_.Copied += done_.Fault ? 0 : 1;
-            }
-            return;
-        }
         const Text target = InTree(below);
         if (there != nullptr) {
             const Text path = PathBelow(own, there->Name);

@@ -57,9 +57,6 @@ bool IsCalledLikeAGame(TextView name) {
 }
 
 bool ComesBefore(const Text& a, const Text& b) {
-    if (const bool first = IsCalledLikeAGame(a); first != IsCalledLikeAGame(b)) {
-        return first;
-    }
     const Text lowerA = LowerCase(a);
     const Text lowerB = LowerCase(b);
     return lowerA != lowerB ? lowerA < lowerB : a < b;
@@ -175,8 +172,9 @@ bool TreeSearch::OpenNextPlace() {
 }
 
 void TreeSearch::LeavePlace() {
-    if (!waiting_.empty()) {
+    if (!likely_.empty() || !waiting_.empty()) {
         crowded_.push_back(place_);
+        likely_.clear();
         waiting_.clear();
     }
 }
@@ -188,11 +186,12 @@ bool TreeSearch::Step() {
     if (listed_ >= kMostListed) {
         return false;
     }
-    if (waiting_.empty() && !OpenNextPlace()) {
+    if (likely_.empty() && waiting_.empty() && !OpenNextPlace()) {
         return false;
     }
-    const Waiting next = std::move(waiting_.front());
-    waiting_.pop_front();
+    std::deque<Waiting>& queue = likely_.empty() ? waiting_ : likely_;
+    const Waiting next = std::move(queue.front());
+    queue.pop_front();
     LookAt(next);
     return true;
 }
@@ -211,6 +210,7 @@ void TreeSearch::LookAt(const Waiting& place) {
         return;
     }
     met->second = place.Depth;
+    nameless_ += isNew ? listed.Value.Nameless : 0;
     auto tree = trees_.contains(identity) ? std::nullopt : TreeIn(files_, place.Path, listed.Value.Entries);
     if (tree) {
         trees_.insert(identity);
@@ -232,16 +232,14 @@ void TreeSearch::AddBelow(const Waiting& place, const std::vector<DirectoryEntry
     }
     std::ranges::sort(names, ComesBefore);
     for (const Text& name : names) {
-        waiting_.push_back({PathBelow(place.Path, name), std::max(place.Depth - 1, 0)});
+        (IsCalledLikeAGame(name) ? likely_ : waiting_)
+            .push_back({PathBelow(place.Path, name), std::max(place.Depth - 1, 0)});
     }
 }
 
-std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places, std::vector<Text>* crowded) {
+std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places) {
     TreeSearch search(files, places);
     while (search.Step()) {
-    }
-    if (crowded != nullptr) {
-        *crowded = search.Crowded();
     }
     return search.Found();
 }

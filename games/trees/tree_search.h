@@ -17,8 +17,8 @@
 
 namespace lv {
 
-constexpr std::size_t kMostListed = 5000;         // directories in one look
-constexpr std::size_t kMostListedInAPlace = 800;  // of one place, for those behind it to have their turn
+constexpr std::size_t kMostListed = 5000;          // directories in one look
+constexpr std::size_t kMostListedInAPlace = 2500;  // of one place, for those behind it to have their turn
 
 class TreeSearch {
   public:
@@ -37,6 +37,9 @@ class TreeSearch {
 
     /// The places that hold more than was looked through.
     [[nodiscard]] const std::vector<Text>& Crowded() const { return crowded_; }
+
+    /// How many directories there have names that code page 1252 cannot say: no game could open them.
+    [[nodiscard]] std::size_t Nameless() const { return nameless_; }
 
     /// How many directories were listed.
     [[nodiscard]] std::size_t Listed() const { return listed_; }
@@ -64,7 +67,8 @@ class TreeSearch {
     int stage_ = 0;
     std::deque<Waiting> usual_;    // places still to come
     Text place_;                   // the present one
-    std::deque<Waiting> waiting_;  // of that, nearest first, and those that are called like a game ahead of others
+    std::deque<Waiting> likely_;   // of that, nearest first: those that are called like a game
+    std::deque<Waiting> waiting_;  // and those that are not, which come behind all of these
     std::size_t listedHere_ = 0;
     std::size_t listed_ = 0;
     Text at_;
@@ -72,9 +76,10 @@ class TreeSearch {
     std::unordered_set<std::uint64_t> trees_;
     std::vector<GameTree> found_;
     std::vector<Text> crowded_;
+    std::size_t nameless_ = 0;
 };
 
 /// All of it at once.
-std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places, std::vector<Text>* crowded = nullptr);
+std::vector<GameTree> QuickLook(Files& files, KnownPlaces* places);
 
 }  // namespace lv

@@ -1,5 +1,7 @@
 #include "launcher/window/engine_launch.h"
 
+#include <algorithm>
+
 #include "foundation/field_strings.h"
 #include "foundation/path_fault.h"
 #include "foundation/question_box.h"
@@ -10,11 +12,21 @@ namespace lv {
 
 namespace {
 
-bool MayWriteAutoexec(Run& run, const Engine& engine, TextView directory, TextView path) {
+/// Why the script has to be run from autoexec.cfg.
+Text WhyByAutoexec(const FittedCommand& fitted) {
+    const auto moved = std::ranges::find(fitted.Notes, FitKind::MovedToAutoexec, &FitNote::Kind);
+    return moved == fitted.Notes.end() ? Text() : moved->Why;
+}
+
+bool MayWriteAutoexec(Run& run, const EngineLaunch& launch, TextView directory, TextView path) {
+    const Text& name = launch.Its->Name;
+    const bool isShareware = launch.Fitted.ForShareware;
     return IsLinkedTree(directory) ||
-           AskUser(run, "Shareware Data",
-                   Join("With the data of the shareware version ", engine.Name, " runs scripts only from its file",
-                        NewLine, NewLine, TabChar, path, NewLine, NewLine,
+           AskUser(run, isShareware ? "Shareware Data" : "Command Line Too Short",
+                   Join(isShareware ? Join("With the data of the shareware version ", name, " runs scripts only")
+                                    : Join(name, " cannot be told to run the script by its command line (",
+                                           WhyByAutoexec(launch.Fitted), "), but", NewLine, "it runs it"),
+                        " from its file", NewLine, NewLine, TabChar, path, NewLine, NewLine,
                         "May Lorvane 3D add the lines of this launch to it? They stand between two marks, and the next",
                         NewLine, "launch takes them out again. Without them the game starts without the script."),
                    "&Yes,&No") == 0;
@@ -42,11 +54,11 @@ Error WriteAutoexec(Run& run, EngineLaunch& launch, TextView directory) {
     if (text == before) {
         return {};
     }
-    if (!launch.Fitted.AutoexecTail.empty() && !MayWriteAutoexec(run, *launch.Its, directory, path)) {
+    if (!launch.Fitted.AutoexecTail.empty() && !MayWriteAutoexec(run, launch, directory, path)) {
         NoteRefusal(launch.Fitted);
         return {};
     }
-    const Error failed = disk.Replace(path, text);
+    const Error failed = text.empty() ? disk.Delete(path) : disk.Replace(path, text);  // it had no line but ours
     return failed ? FaultAt(disk, path, failed) : failed;
 }
 

@@ -105,15 +105,22 @@ int SignalOf(const GameEnd& end) {
     return end.Signal == 0 && row != nullptr && row->IsCrash ? row->Signal : end.Signal;
 }
 
-bool IsFailure(const GameEnd& end) {
+bool IsToldOf(const GameEnd& end) {
     if (const int signal = SignalOf(end)) {
         return std::ranges::find(kWishes, signal) == std::end(kWishes);
     }
-    return end.Seconds < kQuickEnd && (end.Code != 0 || SpeaksOfAnError(end.LastLines));
+    return end.Seconds < kQuickEnd && !(end.OthersRun && IsInOrder(end));
+}
+
+bool IsInOrder(const GameEnd& end) {
+    return SignalOf(end) == 0 && end.Code == 0 && !SpeaksOfAnError(end.LastLines);
 }
 
 Text EndInWords(const GameEnd& end) {
     const int signal = SignalOf(end);
+    if (IsInOrder(end)) {
+        return Join("ended ", Lasted(end.Seconds), ", and in order");
+    }
     if (signal == 0) {
         return Join("ended ", Lasted(end.Seconds), " with code ", std::to_string(end.Code));
     }
@@ -136,9 +143,12 @@ Text GameEndText(TextView name, const GameEnd& end) {
     const Text last = ShownOutput(LastLinesOf(end.LastLines, kLastLines));
     const Text said = last.empty() ? Text("It printed nothing.") : Join("Its last lines:", NewLine, NewLine, last);
     const TextView advice =
-        last.empty() ? "Start it once in a terminal, or look at its options with View."
-                     : "Mostly they name a file that is missing or an option that the game can't use: put that right "
-                       "and launch again. All of it is under Tools, Output of the Last Game.";
+        IsInOrder(end)
+            ? "If you have left it yourself, all is well. If not, its last lines mostly say what it wanted; all "
+              "that it printed is under Tools, Output of the Last Game."
+        : last.empty() ? "Start it once in a terminal, or look at its options with View."
+                       : "Mostly they name a file that is missing or an option that the game can't use: put that right "
+                         "and launch again. All of it is under Tools, Output of the Last Game.";
     return Join(name, " ", EndInWords(end), ".", NewLine, NewLine, said, NewLine, NewLine, advice);
 }
 
@@ -185,7 +195,7 @@ void TellGameEnd(Launcher& launcher) {
         return;
     }
     const auto end = run.System.Programs.EndOfLastGame();
-    if (!end || !IsFailure(*end)) {
+    if (!end || !IsToldOf(*end)) {
         return;
     }
     ShowMainWindow(launcher);

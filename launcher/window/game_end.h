@@ -1,7 +1,8 @@
 // launcher/window/game_end.h
 //
-// The game's last words: a game that failed brings the main window back and is told of; any other end is the user's own
-// affair and leaves the window where it is. What the last game printed can be looked at in any case.
+// The game's last words: a game that failed, or ended right after its start, brings the main window back and is told
+// of; any other end is the user's own affair and leaves the window where it is. What the last game printed can be
+// looked at in any case.
 
 #pragma once
 
@@ -10,7 +11,7 @@
 
 namespace lv {
 
-/// Seconds within which an end with a code is a failure; later the game was played.
+/// Seconds within which an end is told of whatever its code; later the game was played.
 constexpr double kQuickEnd = 5;
 
 /// The signal that ended the game: its own or, where a script or a sandbox stood around it and left "128 and the
@@ -18,10 +19,15 @@ constexpr double kQuickEnd = 5;
 int SignalOf(const GameEnd& end);
 
 /// Whether the user is told: it ended by a signal that no one sends to have a program end in order, or within
-/// kQuickEnd seconds, with a code other than 0 or with one of its last lines beginning as an error.
-bool IsFailure(const GameEnd& end);
+/// kQuickEnd seconds. One that ended in order counts only when nothing of it runs any more: many a wrapper ends with
+/// code 0 while its game comes up.
+bool IsToldOf(const GameEnd& end);
 
-/// "ended after 2 seconds with code 1", "was ended after 1 minute by signal 11, a crash".
+/// Whether it ended in order, with code 0 and without a word of an error.
+bool IsInOrder(const GameEnd& end);
+
+/// "ended after 2 seconds with code 1", "ended at once, and in order", "was ended after 1 minute by signal 11, a
+/// crash".
 Text EndInWords(const GameEnd& end);
 
 /// The last `most` lines that are not empty.
@@ -41,7 +47,7 @@ void NoteGameStart(Launcher& launcher, TextView name);
 /// game. To be called a few times a second, and costs nothing.
 bool GameEndIsDue(Launcher& launcher);
 
-/// Looks, and tells of a failure. Waits while a dialog is up or a launch under way.
+/// Looks, and tells of an end that is to be told of. Waits while a dialog is up or a launch under way.
 void TellGameEnd(Launcher& launcher);
 
 void GameOutput_Bar_Click(Launcher& launcher);

@@ -178,7 +178,9 @@ Result<WalkedDirectory> MemoryFiles::ListForWalk(std::string_view directory) {
     if (!listed.Ok()) {
         return listed.Fault;
     }
-    return WalkedDirectory{std::hash<std::string>()(Key(directory)), std::move(listed.Value)};
+    const auto nameless = Nameless.find(Key(directory));
+    return WalkedDirectory{std::hash<std::string>()(Key(directory)), std::move(listed.Value),
+                           nameless == Nameless.end() ? 0 : nameless->second};
 }
 
 Result<const MemoryFiles::Node*> MemoryFiles::FindFile(std::string_view path) {

@@ -66,14 +66,15 @@ class MemoryFiles : public Files {
 
     std::string Home = "C:\\HOME";
     bool KnowsStandIns = true;
-    std::set<std::string> Private;         // by lower-case path: what its owner alone may read
-    std::set<std::string> DrivesNotReady;  // "D:"
-    std::set<std::string> Unreadable;      // by lower-case path: listing the directory is error 75
-    std::set<std::string> ReadOnly;        // by lower-case path: no file can be made in the directory
-    std::set<std::string> RefusedDeletes;  // by lower-case path: deleting the file is error 70
-    std::vector<std::string> Listed;       // each directory that was listed, in order
-    std::map<std::string, Error> Refused;  // by lower-case path: Replace and Copy onto it fail with this
-    std::vector<std::string> Log;          // "replace C:\...", "delete C:\...", "copy A -> B", in order
+    std::set<std::string> Private;                // by lower-case path: what its owner alone may read
+    std::set<std::string> DrivesNotReady;         // "D:"
+    std::set<std::string> Unreadable;             // by lower-case path: listing the directory is error 75
+    std::map<std::string, std::size_t> Nameless;  // by lower-case path: directories that a walk leaves out there
+    std::set<std::string> ReadOnly;               // by lower-case path: no file can be made in the directory
+    std::set<std::string> RefusedDeletes;         // by lower-case path: deleting the file is error 70
+    std::vector<std::string> Listed;              // each directory that was listed, in order
+    std::map<std::string, Error> Refused;         // by lower-case path: Replace and Copy onto it fail with this
+    std::vector<std::string> Log;                 // "replace C:\...", "delete C:\...", "copy A -> B", in order
 
   private:
     struct Node {

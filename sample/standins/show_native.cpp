@@ -2,7 +2,7 @@
 //
 // Stands in for a Linux game: shows the directory it was started in, its arguments and its environment, each on a line
 // of its own, and writes the same to output.txt in that directory. The last line is "end".
-// "-wait MILLISECONDS" among the arguments waits first.
+// "-wait MILLISECONDS" among the arguments waits first; the variable STAND_IN_STAYS says for how many more it stays.
 
 #include <unistd.h>
 
@@ -37,5 +37,10 @@ int main(int count, char** arguments) {
         return 1;
     }
     const bool written = std::fputs(text.c_str(), file) >= 0;
-    return std::fclose(file) == 0 && written ? 0 : 1;
+    const bool closed = std::fclose(file) == 0;
+    if (const char* const stay = std::getenv("STAND_IN_STAYS")) {
+        std::fflush(stdout);
+        std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(stay)));
+    }
+    return closed && written ? 0 : 1;
 }

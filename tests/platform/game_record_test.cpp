@@ -7,11 +7,14 @@ namespace lv {
 TEST(GameEndRecord, IsReadBack) {
     EXPECT_EQ(GameEndRecord("12-34", {.Code = 1, .Seconds = 2.5}), "12-34 code 1 2500\n");
     EXPECT_EQ(GameEndRecord("12-34", {.Signal = 11, .Seconds = 0}), "12-34 signal 11 0\n");
+    EXPECT_EQ(GameEndRecord("12-34", {.Code = 0, .Seconds = 1, .OthersRun = true}), "12-34 code 0 1000 others\n");
+    EXPECT_TRUE(ReadGameEnd("12-34 code 0 1000 others\n", "12-34").value_or(GameEnd{}).OthersRun);
     const auto code = ReadGameEnd("12-34 code 1 2500\n", "12-34");
     ASSERT_TRUE(code);
     EXPECT_EQ(code->Code, 1);
     EXPECT_EQ(code->Signal, 0);
     EXPECT_EQ(code->Seconds, 2.5);
+    EXPECT_FALSE(code->OthersRun);
     const auto signal = ReadGameEnd("12-34 signal 11 0\n", "12-34");
     ASSERT_TRUE(signal);
     EXPECT_EQ(signal->Code, 0);
@@ -20,8 +23,9 @@ TEST(GameEndRecord, IsReadBack) {
 
 TEST(ReadGameEnd, TakesNoRecordOfAnotherStartAndNoDamagedOne) {
     EXPECT_TRUE(ReadGameEnd("1 code 0 0\n", "1"));
-    for (const char* record : {"", "\n", "2 code 0 0\n", "1 code 0 0", "1 code 0\n", "1 code x 0\n", "1 end 0 0\n",
-                               "1 code 0 0 0\n", "1 code -1 0\n", "1 code 99999999999 0\n", "1  code 0 0\n"}) {
+    for (const char* record :
+         {"", "\n", "2 code 0 0\n", "1 code 0 0", "1 code 0\n", "1 code x 0\n", "1 end 0 0\n", "1 code 0 0 0\n",
+          "1 code 0 0 other\n", " others\n", "1 code -1 0\n", "1 code 99999999999 0\n", "1  code 0 0\n"}) {
         EXPECT_FALSE(ReadGameEnd(record, "1")) << record;
     }
 }

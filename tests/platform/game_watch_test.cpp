@@ -106,6 +106,15 @@ TEST(GameWatch, TellsCodeZero) {
     EXPECT_EQ(yard.Programs.LastOutput(), "");
 }
 
+TEST(GameWatch, TellsWhetherOthersRunOn) {
+    WatchedYard yard("watch_others");
+    EXPECT_FALSE(yard.EndOf("true; sleep 0.1; exit 0").OthersRun);
+    EXPECT_TRUE(yard.EndOf("sleep 3 & exit 0").OthersRun);
+    const GameEnd apart = yard.EndOf("setsid sh -c 'sleep 3 & exit 0' < /dev/null > /dev/null 2>&1; exit 0");
+    EXPECT_TRUE(apart.OthersRun);
+    EXPECT_EQ(apart.Code, 0);
+}
+
 TEST(GameWatch, TellsTheSignal) {
     WatchedYard yard("watch_signal");
     const GameEnd end = yard.EndOf("echo last words; kill -SEGV $$");

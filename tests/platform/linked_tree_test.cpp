@@ -45,6 +45,17 @@ TEST(LinkedTreeOnDisk, ReadsUnderTheNamesThatTodaysEnginesLookFor) {
     EXPECT_EQ(fs::read_symlink(made.Linked("id1/pak0.pak")), made.Tree / "Id1/PAK0.PAK");
 }
 
+TEST(LinkedTreeOnDisk, FollowsNoSettingsFileThatIsALink) {
+    Shared made;
+    WriteBytes(made.Own.Scratch / "secret", "root");
+    WriteBytes(made.Tree / "Id1/own.cfg", "bind x quit");
+    fs::create_symlink(made.Own.Scratch / "secret", made.Tree / "Id1/config.cfg");
+    const LinkedTree done = made.Link();
+    EXPECT_EQ(done.LeftOut, (std::vector<Text>{"Id1\\config.cfg"}));
+    EXPECT_FALSE(fs::exists(made.Linked("id1/config.cfg")));
+    EXPECT_EQ(BytesOf(made.Linked("id1/own.cfg")), "bind x quit");
+}
+
 TEST(LinkedTreeOnDisk, StaysAsItIsAtASecondRun) {
     Shared made;
     made.Link();

@@ -37,6 +37,7 @@ void EnterHome(const ProgramHome& home) {
     setenv("WINEPREFIX", (home.Root / "wine").c_str(), 1);
     setenv("GDK_BACKEND", "x11", 1);
     setenv("NO_AT_BRIDGE", "1", 1);
+    setenv("STAND_IN_STAYS", "6000", 1);  // longer than what the program takes for a game that has failed
     if (chdir(home.Root.c_str()) != 0) {
         _exit(126);
     }

@@ -72,11 +72,34 @@ TEST_F(EngineAdviceTest, IsGivenAnewWhenTheEngineHasGoneAgain) {
 TEST_F(EngineAdviceTest, IsRememberedOfThirtyTrees) {
     std::vector<SetUpTree> trees;
     for (int i = 0; i < 40; ++i) {
-        trees.push_back({kShogo, Join("c:\\tree", std::to_string(i))});
+        trees.push_back({kSin, Join("c:\\tree", std::to_string(i))});
+        user.Expect({"Nothing Here to Play It With", trees.back().Path});
     }
     AdviseOnce(run, launcher.Engines, trees, false);
     EXPECT_TRUE(Advised().starts_with("c:\\tree10;")) << Advised();
     EXPECT_TRUE(Advised().ends_with(";c:\\tree39")) << Advised();
+}
+
+TEST_F(EngineAdviceTest, AsksForTheProgramOfAGameThatNoEnginePlays) {
+    user.Expect({"Nothing Here to Play It With",
+                 "Sin lies in\r\n\r\n\tc:\\home\\games\\sin\r\n\r\nbut its program sin.exe does not, and no engine of "
+                 "today plays Sin. That program runs through Wine. Put it there, or press Browse in the row of Sin and "
+                 "show the directory that it lies in.",
+                 0, false, true, "&OK"});
+    AdviseEngine(run, launcher.Engines, kSin, "c:\\home\\games\\sin");
+    system.Disk.KnowsStandIns = false;
+    user.Expect({"Nothing Here to Play It With", "no engine of today plays Sin. Put it there"});
+    AdviseEngine(run, launcher.Engines, kSin, "c:\\home\\games\\sin");
+}
+
+TEST_F(EngineAdviceTest, SaysInWhichPartOfDebianAPackageIs) {
+    user.Expect(
+        {"Nothing Here to Play It With",
+         "In a terminal,\r\n\r\n\tapt install yamagi-quake2\r\n\r\ninstalls Yamagi Quake II, which does. It is in "
+         "Debian's \"contrib\", which must stand among apt's sources. Afterwards",
+         1, false, false, "&OK,&Copy"});
+    AdviseEngine(run, launcher.Engines, kQuake2, "c:\\q2");
+    EXPECT_EQ(system.Clip.Held, "apt install yamagi-quake2");
 }
 
 TEST_F(EngineAdviceTest, APathThatNoListKeepsIsToldOfEachTime) {

@@ -137,6 +137,29 @@ TEST_F(EngineEntriesTest, WhereLinksCannotBeMadeTheReasonIsToldOnce) {
             .empty());
 }
 
+TEST_F(EngineEntriesTest, NothingIsToBeInstalledWhereOnlyTheLinksAreMissing) {
+    AddQuake();
+    AddEngine("quakespasm");
+    system.Disk.ReadOnly.insert("c:\\home\\games\\quake");
+    system.Disk.AddFile("C:\\lorvane3d");  // in the way of the directory
+    user.Expect({"Lorvane 3D", "This game cannot be played where it lies:"});
+    ExpectTold("No supported executables were found\r\nin the selected directories.");
+    EXPECT_FALSE(SetUpFoundGames());
+    EXPECT_EQ(Stored("Engines", "Advised"), "(none)");
+}
+
+TEST_F(EngineEntriesTest, ASettingsFileThatCannotBeReadIsToldOfOnceAndAllElseIsPlayed) {
+    AddQuake();
+    AddEngine("quakespasm");
+    AddEngine("darkplaces");
+    AddEngine("mvdsv");
+    system.Disk.AddSparseFile("C:\\HOME\\games\\quake\\id1\\config.cfg", "x", kLargestWholeFile + 1);
+    system.Disk.ReadOnly.insert("c:\\home\\games\\quake");
+    user.Expect({"Settings Left Out", "\tid1\\config.cfg\r\n"});
+    EXPECT_TRUE(SetUpFoundGames());
+    EXPECT_TRUE(Executables().starts_with("QuakeSpasm;c:\\lorvane3d\\quake-")) << Executables();
+}
+
 TEST_F(EngineEntriesTest, ServersStandBehindWhatPlaysTheGame) {
     AddQuake();
     AddEngine("mvdsv");

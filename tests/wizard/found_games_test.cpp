@@ -40,13 +40,28 @@ TEST_F(FoundGamesTest, WhatCouldPlayIsNamedWithoutAGameToo) {
 
 TEST_F(FoundGamesTest, ACrowdedPlaceIsTold) {
     AddQuake();
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         system.Disk.AddDirectory(Join("C:\\HOME\\games\\a", std::to_string(i)));
     }
     AddEngine("quakespasm");
     EXPECT_EQ(FoundText(LookAround(run, launcher.Engines)),
               "Found: Quake. Plays here: QuakeSpasm. C:\\HOME\\games holds too much for a quick look: 'Do An "
               "Auto-Search' looks through it all. Click 'OK' to go on.");
+}
+
+TEST_F(FoundGamesTest, DirectoriesWhoseNamesNoGameCouldOpenAreTold) {
+    system.Disk.AddDirectory("C:\\HOME\\games");
+    system.Disk.Nameless["c:\\home\\games"] = 1;
+    EXPECT_EQ(FoundText(LookAround(run, launcher.Engines)),
+              "No game found in the usual places. 1 directory has a name that the games could not open: rename it with "
+              "Western letters if there is a game in it. Tick yours, and press 'Browse' or 'Do An Auto-Search'.");
+    AddQuake();
+    system.Disk.Nameless["c:\\home\\games\\quake"] = 1;
+    AddEngine("quakespasm");
+    EXPECT_EQ(
+        FoundText(LookAround(run, launcher.Engines)),
+        "Found: Quake. Plays here: QuakeSpasm. 2 directories have names that the games could not open: rename them "
+        "with Western letters if there is a game in them. Click 'OK' to go on.");
 }
 
 TEST_F(FoundGamesTest, ADirectoryWithALineEndInItsNameIsPassedOver) {

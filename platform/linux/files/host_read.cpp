@@ -77,8 +77,8 @@ DirectoryEntry EntryOf(int directory, const dirent& entry, std::string name) {
     return {std::move(name), S_ISDIR(info.st_mode), !S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode)};
 }
 
-// Gives each entry that has a name here to `take`: the directory, the entry, the name.
-Error ReadHostDirectory(const std::string& hostPath, const auto& take) {
+// Gives each entry that has a name here to `take`: the directory, the entry, the name; the others to `passOver`.
+Error ReadHostDirectory(const std::string& hostPath, const auto& take, const auto& passOver) {
     const DirectoryStream open(opendir(hostPath.c_str()));
     if (!open) {
         return ErrorOfDirectory(errno);
@@ -93,6 +93,8 @@ Error ReadHostDirectory(const std::string& hostPath, const auto& take) {
         auto name = NameFromHost(hostName);
         if (name && hostName != "." && hostName != "..") {
             take(dirfd(open.get()), *entry, *std::move(name));
+        } else if (!name) {
+            passOver(*entry);
         }
     }
 }
@@ -145,27 +147,37 @@ Result<std::unique_ptr<RandomAccessFile>> OpenHostFileAnywhere(const std::string
         std::make_unique<HostFile>(std::move(file.Value), static_cast<std::uint64_t>(info.st_size)));
 }
 
-Result<std::vector<DirectoryEntry>> ListHostDirectory(const std::string& hostPath) {
+Result<std::vector<DirectoryEntry>> ListHostDirectory(const std::string& hostPath, std::size_t* nameless) {
     std::vector<DirectoryEntry> entries = {{".", true}, {"..", true}};
-    const Error failed = ReadHostDirectory(hostPath, [&](int directory, const dirent& entry, std::string name) {
-        entries.push_back(EntryOf(directory, entry, std::move(name)));
-    });
+    std::size_t passedOver = 0;
+    const Error failed = ReadHostDirectory(
+        hostPath,
+        [&](int directory, const dirent& entry, std::string name) {
+            entries.push_back(EntryOf(directory, entry, std::move(name)));
+        },
+        [&](const dirent& entry) { passedOver += entry.d_type == DT_DIR && entry.d_name[0] != '.' ? 1 : 0; });
+    if (nameless != nullptr) {
+        *nameless = passedOver;
+    }
     return failed ? Result<std::vector<DirectoryEntry>>(failed) : entries;
 }
 
 Result<std::vector<LinkedEntry>> ListHostLinks(const std::string& hostPath, const std::string& tree) {
     std::array<char, PATH_MAX> room{};
     std::vector<LinkedEntry> entries;
-    const Error failed = ReadHostDirectory(hostPath, [&](int directory, const dirent& entry, std::string name) {
-        const bool mayBeLink = entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN;
-        const ssize_t length = mayBeLink ? readlinkat(directory, entry.d_name, room.data(), room.size()) : -1;
-        LinkedEntry& linked = entries.emplace_back(LinkedEntry{EntryOf(directory, entry, std::move(name)), {}});
-        linked.IsElsewhere = length >= 0 && linked.IsDirectory;
-        if (length >= 0 && !linked.IsDirectory) {
-            linked.LeadsInto = PathInside({room.data(), static_cast<std::size_t>(length)}, tree);
-            linked.IsGone = faccessat(directory, entry.d_name, F_OK, 0) != 0;
-        }
-    });
+    const Error failed = ReadHostDirectory(
+        hostPath,
+        [&](int directory, const dirent& entry, std::string name) {
+            const bool mayBeLink = entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN;
+            const ssize_t length = mayBeLink ? readlinkat(directory, entry.d_name, room.data(), room.size()) : -1;
+            LinkedEntry& linked = entries.emplace_back(LinkedEntry{EntryOf(directory, entry, std::move(name)), {}});
+            linked.IsElsewhere = length >= 0;
+            if (length >= 0 && !linked.IsDirectory) {
+                linked.LeadsInto = PathInside({room.data(), static_cast<std::size_t>(length)}, tree);
+                linked.IsGone = faccessat(directory, entry.d_name, F_OK, 0) != 0;
+            }
+        },
+        [](const dirent&) {});
     return failed ? Result<std::vector<LinkedEntry>>(failed) : entries;
 }
 

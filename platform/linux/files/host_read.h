@@ -28,7 +28,8 @@ Result<std::unique_ptr<RandomAccessFile>> OpenHostFileAnywhere(const std::string
 
 /// "." and ".." first, then the entries in the file system's order; those without a name in code page 1252 are left
 /// out. A link to a directory is a directory. 76 if there is none, 75 if it may not be read.
-Result<std::vector<DirectoryEntry>> ListHostDirectory(const std::string& hostPath);
+/// `nameless` takes how many directories were left out so; hidden ones don't count.
+Result<std::vector<DirectoryEntry>> ListHostDirectory(const std::string& hostPath, std::size_t* nameless = nullptr);
 
 /// The same without "." and "..", with where its links lead below the host directory `tree`.
 Result<std::vector<LinkedEntry>> ListHostLinks(const std::string& hostPath, const std::string& tree);

@@ -107,11 +107,12 @@ Result<WalkedDirectory> LinuxFiles::ListForWalk(std::string_view directory) {
     if (!walkable_.MayWalk(info.st_dev, host)) {
         return MakeError(error::kPathFileAccess);
     }
-    auto listed = ListHostDirectory(host);
+    std::size_t nameless = 0;
+    auto listed = ListHostDirectory(host, &nameless);
     if (!listed.Ok()) {
         return listed.Fault;
     }
-    return WalkedDirectory{IdentityOf(info.st_dev, info.st_ino), std::move(listed.Value)};
+    return WalkedDirectory{IdentityOf(info.st_dev, info.st_ino), std::move(listed.Value), nameless};
 }
 
 Result<std::string> LinuxFiles::Read(std::string_view path) {

@@ -9,6 +9,7 @@ namespace lv {
 
 namespace {
 
+constexpr std::string_view kOthers = " others";
 constexpr char kEscape = '\x1B';
 
 // The next word of the record; empty at its end.
@@ -50,14 +51,20 @@ GameFiles GameFilesIn(const std::filesystem::path& directory) {
 std::string GameEndRecord(std::string_view token, const GameEnd& end) {
     const bool bySignal = end.Signal != 0;
     return std::string(token) + (bySignal ? " signal " : " code ") + std::to_string(bySignal ? end.Signal : end.Code) +
-           " " + std::to_string(std::llround(end.Seconds * 1000)) + "\n";
+           " " + std::to_string(std::llround(end.Seconds * 1000)) + std::string(end.OthersRun ? kOthers : "") + "\n";
 }
 
 std::optional<GameEnd> ReadGameEnd(std::string_view record, std::string_view token) {
-    if (!record.ends_with('\n') || TakeWord(record) != token) {
+    if (!record.ends_with('\n')) {
         return std::nullopt;
     }
+    record.remove_suffix(1);
     GameEnd end;
+    end.OthersRun = record.ends_with(kOthers);
+    record.remove_suffix(end.OthersRun ? kOthers.size() : 0);
+    if (TakeWord(record) != token) {
+        return std::nullopt;
+    }
     const std::string_view kind = TakeWord(record);
     long long milliseconds = 0;
     if ((kind != "code" && kind != "signal") || !Takes(TakeWord(record), kind == "code" ? end.Code : end.Signal) ||

@@ -22,7 +22,8 @@ struct GameFiles {
 GameFiles GameFilesIn(const std::filesystem::path& directory);
 
 /// One line: the start that it belongs to, how the game ended, and the milliseconds that it ran. A code as
-/// "1234-5678 code 1 2500", a signal as "1234-5678 signal 11 2500". LastLines is no part of it.
+/// "1234-5678 code 1 2500", a signal as "1234-5678 signal 11 2500", with " others" behind where others run on.
+/// LastLines is no part of it.
 std::string GameEndRecord(std::string_view token, const GameEnd& end);
 
 /// Nothing if it is the record of another start, or none at all.

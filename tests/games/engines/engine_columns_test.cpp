@@ -182,6 +182,9 @@ TEST(EngineColumns, TakeTextsAsTheyAre) {
     EXPECT_EQ(Taken("name", "Hammer of Thyrion").Name, "Hammer of Thyrion");
     EXPECT_EQ(Taken("nodata", "ends with exit code 1").WithoutData, "ends with exit code 1");
     EXPECT_EQ(Taken("debian", "quakespasm").DebianPackage, "quakespasm");
+    EXPECT_EQ(Taken("debian", "quakespasm").DebianPart, "");
+    EXPECT_EQ(Taken("debian", "contrib/yamagi-quake2").DebianPackage, "yamagi-quake2");
+    EXPECT_EQ(Taken("debian", "contrib/yamagi-quake2").DebianPart, "contrib");
     EXPECT_EQ(Taken("page", "https://example.org").HomePage, "https://example.org");
     EXPECT_EQ(Taken("known", "tried").Known, "tried");
 }

@@ -28,6 +28,14 @@ TEST(SwitchFitting, WritesSwitchesAsTheEngineKnowsThem) {
               Lines{"-width 640: written in another way, it knows it as +vid_width %"});
 }
 
+TEST(SwitchFitting, WritesMissionPacksAsSwitchesWhereTheEngineWantsThat) {
+    for (const Text pack : {"hipnotic", "rogue", "quoth"}) {
+        EXPECT_EQ(Fit("TyrQuake", Join("TYR-QUAKE -game ", pack, " +exec lv_666.qs ")).Command,
+                  Join("TYR-QUAKE -", pack, " +exec lv_666.qs "));
+    }
+    EXPECT_EQ(Fit("TyrQuake", "TYR-QUAKE -game ctf ").Command, "TYR-QUAKE -game ctf ");
+}
+
 TEST(SwitchFitting, WritesSetAsAVariableWhereItIsUnknown) {
     EXPECT_EQ(Fit("QuakeSpasm", "QUAKESPASM +set r_shadows 1 ").Command, "QUAKESPASM +r_shadows 1 ");
     EXPECT_EQ(Fit("vkQuake", "VKQUAKE +set r_shadows 1 ").Command, "VKQUAKE +set r_shadows 1 ");

@@ -47,10 +47,18 @@ TEST(TenWays, TheProgramsPathCountsForTheLimit) {
     const FittedCommand shorter = FitCommandLine(ShippedEngine("QuakeSpasm"), composed);
     EXPECT_EQ(shorter.Command, "QUAKESPASM -nolan +exec lv_666.qs ");
     EXPECT_EQ(shorter.ScriptHead, "map start\r\n");
-    composed.ProgramPath = Text(245, 'p');
+    composed.ProgramPath = Text(239, 'p');
+    const FittedCommand scriptAhead = FitCommandLine(ShippedEngine("QuakeSpasm"), composed);
+    EXPECT_EQ(scriptAhead.Command, "QUAKESPASM +exec lv_666.qs -nolan ");
+    EXPECT_EQ(scriptAhead.AutoexecTail, "");
+    EXPECT_EQ(NotesOf(scriptAhead).back(),
+              "+exec lv_666.qs: written in another way, it reads no more than 255 characters of its command line, so "
+              "it stands ahead of all else");
+    composed.ProgramPath = Text(240, 'p');
     const FittedCommand shortest = FitCommandLine(ShippedEngine("QuakeSpasm"), composed);
     EXPECT_EQ(shortest.Command, "QUAKESPASM -nolan ");
     EXPECT_EQ(shortest.AutoexecTail, "exec lv_666.qs\r\n");
+    EXPECT_FALSE(shortest.ForShareware);
 }
 
 TEST(TenWays, NoMoreThanFiftyArguments) {
@@ -62,6 +70,30 @@ TEST(TenWays, NoMoreThanFiftyArguments) {
     EXPECT_EQ(fitted.Command, "QUAKESPASM +exec lv_666.qs ");
     EXPECT_EQ(fitted.Notes.front().Why, "it reads no more than 49 arguments");
     EXPECT_EQ(Fit("DarkPlaces", command + " ").ScriptHead, "");
+}
+
+TEST(TenWays, OptionsBeyondTheFiftyGoBeforeTheScriptDoes) {
+    Text command = "QUAKESPASM";
+    for (int i = 10; i < 60; ++i) {
+        command += Join(" -a", std::to_string(i));
+    }
+    const FittedCommand fitted = Fit("QuakeSpasm", command + " +exec lv_666.qs ");
+    EXPECT_TRUE(fitted.Command.starts_with("QUAKESPASM +exec lv_666.qs -a10 -a11 ")) << fitted.Command;
+    EXPECT_TRUE(fitted.Command.ends_with(" -a56 ")) << fitted.Command;
+    EXPECT_EQ(fitted.AutoexecTail, "");
+    EXPECT_EQ(NotesOf(fitted).back(), "-a57: left out, it reads no more than 49 arguments");
+}
+
+TEST(TenWays, OptionsAreSeenHoweverLongTheLineIs) {
+    const Text command = Join("QUAKESPASM -game ", Text(250, 'x'), " ");
+    EXPECT_EQ(Fit("QuakeSpasm", command).Command, command);
+    EXPECT_EQ(NotesOf(Fit("QuakeSpasm", command)), Lines());
+}
+
+TEST(TenWays, AWordAheadOfTheOptionsIsMadeNoArgumentOfTheScript) {
+    const FittedCommand fitted = Fit("QuakeSpasm", Join("QUAKESPASM ", Text(250, 'x'), " +exec lv_666.qs "));
+    EXPECT_EQ(fitted.Command, Join("QUAKESPASM ", Text(250, 'x'), " "));
+    EXPECT_EQ(fitted.AutoexecTail, "exec lv_666.qs\r\n");
 }
 
 struct TornCase {

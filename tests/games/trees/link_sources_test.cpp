@@ -41,6 +41,19 @@ TEST_F(LinkSources, AreNotKeptOfLinksThatCouldNotBeMade) {
     EXPECT_EQ(Kept(), "(none)");
 }
 
+TEST_F(LinkSources, TellOfFilesThatAreLeftOutOnceAsLongAsTheyAreTheSame) {
+    for (int i = 10; i < 32; ++i) {
+        system.Disk.AddSparseFile(Join(kTree, "\\id1\\", std::to_string(i), ".cfg"), "x", kLargestWholeFile + 1);
+    }
+    user.Expect({"Settings Left Out", "\tid1\\29.cfg\r\n\tand 2 more\r\n\r\nAll others are there."});
+    EXPECT_EQ(Make().LeftOut.size(), 22u);
+    Make();
+    RefreshLinks(run, links);
+    system.Disk.AddSparseFile(Join(kTree, "\\id1\\new.cfg"), "x", kLargestWholeFile + 1);
+    user.Expect({"Settings Left Out", "and 3 more"});
+    RefreshLinks(run, links);
+}
+
 TEST_F(LinkSources, AreAskedForInTheProgramsOwnDirectoryAlone) {
     Save(run, "LinkedTrees", "quake", "Z:\\share\\quake");
     EXPECT_EQ(SourceOfLinks(run, "C:\\quake"), "");

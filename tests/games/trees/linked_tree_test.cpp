@@ -187,6 +187,37 @@ TEST(LinkTree, CopiesOnceWhatAGameWritesOver) {
     EXPECT_EQ(made.Disk.Bytes("C:\\LINKED\\QUAKE\\id1\\config.cfg"), "mine");
 }
 
+TEST(LinkTree, LeavesOutSettingsThatCannotBeCopiedAndLinksTheRest) {
+    OldTree made;
+    made.Disk.AddSparseFile("Z:\\share\\quake\\ID1\\A.CFG", "x", kLargestWholeFile + 1);
+    made.Disk.AddFile("Z:\\share\\quake\\ID1\\B.CFG", "bind x quit");
+    made.Disk.AddFileLink("Z:\\share\\quake\\ID1\\gone.cfg", "D:\\gone.cfg");
+    const LinkedTree done = made.Link();
+    EXPECT_EQ(done.Fault.Number, 0) << done.Fault.Text;
+    EXPECT_TRUE(done.IsWhole);
+    EXPECT_EQ(done.LeftOut, (Names{"ID1\\A.CFG"}));
+    EXPECT_EQ(made.In("C:\\LINKED\\QUAKE\\id1"), (Names{"b.cfg", "maps", "pak0.pak", "pak1.pak"}));
+    EXPECT_TRUE(made.Disk.FileExists("C:\\LINKED\\QUAKE\\hipnotic\\pak0.pak"));
+}
+
+TEST(LinkTree, FollowsNoSettingsFileThatIsALink) {
+    OldTree made;
+    made.Disk.AddFile("Z:\\etc\\passwd", "root");
+    made.Disk.AddFileLink("Z:\\share\\quake\\ID1\\config.cfg", "Z:\\etc\\passwd");
+    const LinkedTree done = made.Link();
+    EXPECT_EQ(done.LeftOut, (Names{"ID1\\config.cfg"}));
+    EXPECT_EQ(made.In("C:\\LINKED\\QUAKE\\id1"), (Names{"maps", "pak0.pak", "pak1.pak"}));
+}
+
+TEST(LinkTree, EndsWhereACopyHasNoRoom) {
+    OldTree made;
+    made.Disk.AddFile("Z:\\share\\quake\\ID1\\config.cfg");
+    made.Disk.Refused["c:\\linked\\quake\\id1\\config.cfg"] = MakeError(61);
+    const LinkedTree done = made.Link();
+    EXPECT_EQ(done.Fault.Number, 61);
+    EXPECT_EQ(done.LeftOut, Names());
+}
+
 TEST(LinkTree, LeavesTheRereleaseToItself) {
     OldTree made;
     made.Disk.AddFile("Z:\\share\\quake\\rerelease\\id1\\pak0.pak");

@@ -65,7 +65,7 @@ TEST(QuickLook, DoesNotLookElsewhere) {
 TEST(QuickLook, LooksAtDirectoriesThatAreCalledLikeAGameFirst) {
     MemoryPlatform system;
     system.Places.IsGames = {"C:\\HOME\\games"};
-    for (int i = 0; i < 1000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         system.Disk.AddDirectory(Join("C:\\HOME\\games\\a", std::to_string(i)));
     }
     system.Disk.AddFile("C:\\HOME\\games\\Quake (full)\\id1\\pak0.pak");
@@ -78,15 +78,39 @@ TEST(QuickLook, LooksAtDirectoriesThatAreCalledLikeAGameFirst) {
     EXPECT_EQ(search.Crowded(), (Paths{"C:\\HOME\\games"}));
 }
 
+TEST(QuickLook, LooksAtThemAheadOfAllOthersOnEachLevel) {
+    MemoryPlatform system;
+    system.Places.IsGames = {"C:\\HOME\\games"};
+    for (int i = 0; i < 60; ++i) {
+        for (int j = 0; j < 60; ++j) {
+            system.Disk.AddDirectory(Join("C:\\HOME\\games\\a", std::to_string(i), "\\b", std::to_string(j)));
+        }
+    }
+    system.Disk.AddFile("C:\\HOME\\games\\zz\\quake\\id1\\pak0.pak");
+    EXPECT_EQ(LookedFor(system), (Paths{"C:\\HOME\\games\\zz\\quake"}));
+}
+
+TEST(QuickLook, CountsDirectoriesWhoseNamesNoGameCouldOpenOnce) {
+    MemoryPlatform system;
+    system.Places.IsGames = {"C:\\HOME\\games", "C:\\HOME\\games"};
+    system.Disk.AddDirectory("C:\\HOME\\games\\quake");
+    system.Disk.Nameless = {{"c:\\home\\games", 2}, {"c:\\home\\games\\quake", 1}, {"c:\\home", 8}};
+    TreeSearch search(system.Disk, &system.Places);
+    while (search.Step()) {
+    }
+    EXPECT_EQ(search.Nameless(), 3u);
+}
+
 TEST(QuickLook, TellsOfNoPlaceThatItHasLookedThrough) {
     MemoryPlatform system;
     system.Places.IsGames = {"C:\\HOME\\games"};
     for (std::size_t i = 1; i < kMostListedInAPlace; ++i) {
         system.Disk.AddDirectory(Join("C:\\HOME\\games\\a", std::to_string(i)));
     }
-    Paths crowded = {"?"};
-    QuickLook(system.Disk, &system.Places, &crowded);
-    EXPECT_EQ(crowded, Paths());
+    TreeSearch search(system.Disk, &system.Places);
+    while (search.Step()) {
+    }
+    EXPECT_EQ(search.Crowded(), Paths());
 }
 
 TEST(QuickLook, FindsInTheOrderOfThePlaces) {
@@ -202,13 +226,13 @@ void AddManyBelow(MemoryFiles& disk, const Text& place, int count) {
 TEST(TreeSearch, LeavesALargePlaceForThoseBehindIt) {
     MemoryPlatform system;
     system.Places.IsGames = {"C:\\large", "C:\\small"};
-    AddManyBelow(system.Disk, "C:\\large", 900);
+    AddManyBelow(system.Disk, "C:\\large", 2600);
     system.Disk.AddFile("C:\\small\\quake\\id1\\pak0.pak");
     TreeSearch search(system.Disk, &system.Places);
     while (search.Step()) {
     }
     EXPECT_EQ(PathsOf(search.Found()), (Paths{"C:\\small\\quake"}));
-    EXPECT_EQ(search.Listed(), 802u);
+    EXPECT_EQ(search.Listed(), 2502u);
 }
 
 TEST(TreeSearch, ListsNoMoreThanFiveThousandDirectories) {

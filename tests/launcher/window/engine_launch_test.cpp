@@ -80,6 +80,25 @@ TEST_F(EngineLaunches, WithoutTheUsersWordTheAutoexecStaysAsItIs) {
     EXPECT_NE(system.Disk.Bytes(kBatch), "(none)");
 }
 
+TEST_F(EngineLaunches, ALineThatIsTooShortForTheScriptIsAskedAboutByThatReason) {
+    const Text program = Join("quakespasm-", Text(230, 'x'), ".appimage");
+    LoadWith(true, program);
+    Click(Option::Script_Chk, 1);
+    user.Expect({"Command Line Too Short",
+                 "(it reads no more than 255 characters of its command line), but\r\nit runs it", 0, false, false,
+                 "&Yes,&No"});
+    DoIt_Cmd_Click(launcher, 2);
+    EXPECT_EQ(system.Disk.Bytes(kAutoexec), "// Lorvane 3D: this launch\r\nexec lv_666.qs\r\n// Lorvane 3D: end\r\n");
+}
+
+TEST_F(EngineLaunches, AnAutoexecThatHeldTheLastLaunchAloneGoesAgain) {
+    system.Disk.AddFile(kAutoexec, "// Lorvane 3D: this launch\r\nexec lv_666.qs\r\n// Lorvane 3D: end\r\n");
+    LoadWith(true);
+    Click(Option::Script_Chk, 1);
+    DoIt_Cmd_Click(launcher, 2);
+    EXPECT_EQ(system.Disk.Bytes(kAutoexec), "(none)");
+}
+
 TEST_F(EngineLaunches, AQuakeWorldClientGetsServersAndNoMaps) {
     LoadWith(true, "ezquake");
     EXPECT_TRUE(run.IsQuakeWorld);

@@ -35,7 +35,7 @@ class GameEnds : public LauncherTest {
 
 struct EndRow {
     GameEnd End;
-    bool Fails;
+    bool IsTold;
     const char* Words;
 };
 
@@ -46,10 +46,15 @@ const EndRow kEnds[] = {
     {{.Code = 255, .Seconds = 1}, true, "ended after 1 second with code 255"},
     {{.Code = 1, .Seconds = 4.999}, true, "ended after 4 seconds with code 1"},
     {{.Code = 1, .Seconds = 5}, false, "ended after 5 seconds with code 1"},
-    {{.Code = 0, .Seconds = 0.2}, false, "ended at once with code 0"},
+    {{.Code = 1, .Seconds = 1, .OthersRun = true}, true, "ended after 1 second with code 1"},
+    {{.Code = 0, .Seconds = 0.2}, true, "ended at once, and in order"},
+    {{.Code = 0, .Seconds = 4.999}, true, "ended after 4 seconds, and in order"},
+    {{.Code = 0, .Seconds = 5}, false, "ended after 5 seconds, and in order"},
+    {{.Code = 0, .Seconds = 0.2, .OthersRun = true}, false, "ended at once, and in order"},
+    {{.Code = 0, .Seconds = 1, .OthersRun = true, .LastLines = "Error: no sound\r\n"}, true, "ended after 1 second with code 0"},
     {{.Code = 0, .Seconds = 3, .LastLines = "Quake Error: no pak0.pak\r\n"}, true, "ended after 3 seconds with code 0"},
     {{.Code = 0, .Seconds = 3, .LastLines = "a\r\n  ERROR: no sound\r\nbye\r\n"}, true, "ended after 3 seconds with code 0"},
-    {{.Code = 0, .Seconds = 3, .LastLines = "sound: error: none\r\nNo errors.\r\n"}, false, "ended after 3 seconds with code 0"},
+    {{.Code = 0, .Seconds = 3, .LastLines = "sound: error: none\r\nNo errors.\r\n"}, true, "ended after 3 seconds, and in order"},
     {{.Code = 0, .Seconds = 60, .LastLines = "Error: too late\r\n"}, false, "ended after 1 minute with code 0"},
     {{.Signal = 4, .Seconds = 60}, true, "was ended after 1 minute by signal 4, a crash (illegal instruction)"},
     {{.Signal = 5, .Seconds = 60}, true, "was ended after 1 minute by signal 5, a crash (trap)"},
@@ -71,9 +76,9 @@ const EndRow kEnds[] = {
 
 }  // namespace
 
-TEST(IsFailure, IsAQuickEndWithACodeAndASignalAtAnyTime) {
+TEST(IsToldOf, IsAQuickEndAndASignalAtAnyTime) {
     for (const EndRow& row : kEnds) {
-        EXPECT_EQ(IsFailure(row.End), row.Fails) << row.Words;
+        EXPECT_EQ(IsToldOf(row.End), row.IsTold) << row.Words;
         EXPECT_EQ(EndInWords(row.End), row.Words);
     }
 }
@@ -92,6 +97,14 @@ TEST(GameEndText, SaysWhatHappenedWhatWasPrintedAndWhatToDo) {
     EXPECT_EQ(GameEndText("quakespasm", {.Signal = 11, .Seconds = 0}),
               "quakespasm was ended at once by signal 11, a crash.\r\n\r\nIt printed nothing.\r\n\r\n"
               "Start it once in a terminal, or look at its options with View.");
+}
+
+TEST(GameEndText, SaysItCalmlyOfAnEndInOrder) {
+    EXPECT_EQ(
+        GameEndText("quakespasm", {.Code = 0, .Seconds = 2, .LastLines = "one\r\ntwo\r\n"}),
+        "quakespasm ended after 2 seconds, and in order.\r\n\r\nIts last lines:\r\n\r\none\r\ntwo\r\n\r\n"
+        "If you have left it yourself, all is well. If not, its last lines mostly say what it wanted; all that it "
+        "printed is under Tools, Output of the Last Game.");
 }
 
 TEST(GameEndText, ShowsTwentyLines) {
@@ -145,9 +158,25 @@ TEST_F(GameEnds, ASignalAfterAnHourIsTold) {
     EXPECT_TRUE(window.Visible);
 }
 
-TEST_F(GameEnds, AnOrderlyEndLeavesTheWindowHidden) {
+TEST_F(GameEnds, AQuickEndInOrderBringsTheWindowBackToo) {
     Launch();
     End({.Code = 0, .Seconds = 1, .LastLines = "bye\r\n"});
+    ExpectTold("GLQUAKE.EXE ended after 1 second, and in order.\r\n\r\nIts last lines:\r\n\r\nbye\r\n\r\n");
+    Look();
+    EXPECT_TRUE(window.Visible);
+}
+
+TEST_F(GameEnds, AWrapperThatHandsOverLeavesTheWindowHidden) {
+    Launch();
+    End({.Code = 0, .Seconds = 0.1, .OthersRun = true});
+    Look();
+    EXPECT_FALSE(window.Visible);
+    EXPECT_FALSE(system.Programs.End);
+}
+
+TEST_F(GameEnds, AnOrderlyEndLeavesTheWindowHidden) {
+    Launch();
+    End({.Code = 0, .Seconds = 60, .LastLines = "bye\r\n"});
     Look();
     EXPECT_FALSE(window.Visible);
     EXPECT_FALSE(system.Programs.End);
