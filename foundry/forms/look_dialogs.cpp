@@ -27,6 +27,10 @@ constexpr int kWidth = 860;  // of the lists, at 100 %
 constexpr int kRowsHeight = 300;
 constexpr int kListHeight = 120;
 
+wxFont FixedWidth(const wxWindow& window) {
+    return wxFontInfo(window.GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE);
+}
+
 class LookForm : public ModalForm {
   public:
     LookForm(wxWindow* owner, ModalWindow& window, std::function<void()> cancel)
@@ -109,6 +113,7 @@ std::unique_ptr<wxDialog> MakeAliasGraph(wxWindow* owner, AliasGraph_Frm& graph)
     form->AddWide(form->MakeLabel(form.get(), "Tree_Lbl", graph.Tree_Lbl));
     wxListBox* const tree = form->AddTallList("Tree_Lst", graph.Tree_Lst, "Aliases and keys",
                                               [&graph] { AliasGraph_Tree_Lst_Click(graph); });
+    tree->SetFont(FixedWidth(*tree));  // each depth under the other
     Binder& controls = form->Controls;
     tree->Bind(wxEVT_KEY_DOWN, [&graph, &controls](wxKeyEvent& event) {
         if (event.GetKeyCode() == WXK_RIGHT) {
@@ -141,7 +146,7 @@ std::unique_ptr<wxDialog> MakeScriptText(wxWindow* owner, ScriptText_Frm& script
     auto form = std::make_unique<LookForm>(owner, script, [&script] { ScriptText_Close_Cmd_Click(script); });
     form->AddWide(form->MakeLabel(form.get(), "Place_Lbl", script.Place_Lbl));
     wxListBox* const lines = form->AddTallList("Lines_Lst", script.Lines_Lst, "The script", [] {});
-    lines->SetFont(wxFontInfo(lines->GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE));
+    lines->SetFont(FixedWidth(*lines));
     form->AddButtons(
         {form->MakeButton("Close_Cmd", script.Close_Cmd, [&script] { ScriptText_Close_Cmd_Click(script); })});
     if (script.Lines_Lst.HasSelection()) {
