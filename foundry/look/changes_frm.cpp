@@ -45,7 +45,7 @@ Changes_Frm::Changes_Frm(Run& owner, const SaveReport& report, const SaveTexts& 
     : ModalWindow(owner, "Changes_Frm"), Losses(report.Losses) {
     const bool saves = time == ChangesTime::Saving;
     Caption = "What This Save Changes";
-    std::ranges::stable_partition(Losses, [](const SaveLoss& loss) { return !loss.ByUser; });
+    std::stable_partition(Losses.begin(), Losses.end(), [](const SaveLoss& loss) { return !loss.ByUser; });
     for (const SaveLoss& loss : Losses) {
         Losses_Lst.Items.push_back(LossText(loss));
     }

@@ -32,7 +32,8 @@ Text RowOf(const Finding& finding) {
 ScriptCheck_Frm::ScriptCheck_Frm(Run& owner, const StartRequest& request)
     : ModalWindow(owner, "ScriptCheck_Frm"), Request(request), Findings(CheckScriptsOf(owner.System.Disk, request)) {
     Caption = "Script Check";
-    std::ranges::stable_partition(Findings, [](const Finding& each) { return each.How == Certainty::Sure; });
+    std::stable_partition(Findings.begin(), Findings.end(),
+                          [](const Finding& each) { return each.How == Certainty::Sure; });
     for (const Finding& finding : Findings) {
         Findings_Lst.Items.push_back(RowOf(finding));
     }
