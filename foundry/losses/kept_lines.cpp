@@ -5,7 +5,7 @@
 #include <set>
 #include <utility>
 
-#include "console/command_words.h"
+#include "foundation/field_strings.h"
 #include "foundry/losses/free_form_places.h"
 #include "foundry/tables/keys.h"
 #include "foundry/writing/compose_script.h"
@@ -56,6 +56,7 @@ class Keeping {
     Keeping(const SaveTexts& texts, const ScriptDialect& dialect, Console console)
         : dialect_(dialect),
           console_(console),
+          writtenText_(texts.Written),
           file_(EffectsOf(texts.File, console)),
           written_(EffectsOf(texts.Written, console)) {}
 
@@ -64,6 +65,7 @@ class Keeping {
             TakeOverridden(difference);
         } else if (difference.Kind != DifferenceKind::Added) {
             TakeEffect(difference.Before);
+            TakeOtherSpelling(difference);
         }
     }
 
@@ -75,6 +77,7 @@ class Keeping {
   private:
     void TakeEffect(const Effect& effect);
     void TakeWeapons(const Effect& effect);
+    void TakeOtherSpelling(const ScriptDifference& difference);
     void TakeOverridden(const ScriptDifference& moved);
     void TakeOverriddenOf(const ScriptDifference& moved, const EffectTable& before, const EffectTable& after);
     [[nodiscard]] bool IsSwallowed(const Effect& effect) const;
@@ -82,6 +85,7 @@ class Keeping {
 
     const ScriptDialect& dialect_;
     Console console_;
+    TextView writtenText_;
     ScriptEffects file_;
     ScriptEffects written_;
     std::vector<KeptLine> lines_;
@@ -114,6 +118,17 @@ void Keeping::TakeEffect(const Effect& effect) {
         TakeWeapons(effect);
     } else {
         Add(effect, effect.IsOwn ? effect.Source : CommandOf(effect));
+    }
+}
+
+/// Where the line is in the written script already, and another spelling of the alias is run all the same, that one
+/// gets the same commands.
+void Keeping::TakeOtherSpelling(const ScriptDifference& difference) {
+    Effect other = difference.Before;
+    other.Name = difference.After.Name;
+    if (difference.What == EffectKind::Alias && Holds(writtenText_, other.Source) && difference.After.IsSet &&
+        difference.After.Line > 0 && !IsIni(console_) && other.IsSet && other.Name != difference.Before.Name) {
+        Add(other, CommandOf(other));
     }
 }
 

@@ -67,6 +67,11 @@ TEST(KeepLosses, WritesWhatAnAliasDid) {
               "alias a \"bind ESCAPE q\"\r\na\r\n; bind \"ESCAPE\" \"q\"");
 }
 
+TEST(KeepLosses, GivesAllSpellingsOfAnAliasWhatIsRun) {
+    EXPECT_EQ(FreeFormOf(kQuakeDialect, "echo a; alias Zoom 1\nalias zoom 2"),
+              "echo a; alias Zoom 1\r\nalias zoom 2\r\nalias \"Zoom\" \"2\"");
+}
+
 TEST(KeepLosses, LeavesAloneWhatTheUserHasChanged) {
     const Text file = "bind a \"slot1\"\nbind b \"slot2\"";
     ScriptDocument document = ReadScript(kQuakeDialect, file);
