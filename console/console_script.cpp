@@ -1,9 +1,9 @@
 #include "console/console_script.h"
 
 #include <algorithm>
-#include <unordered_map>
 #include <utility>
 
+#include "console/alias_spellings.h"
 #include "console/command_words.h"
 #include "console/console_commands.h"
 #include "console/key_names.h"
@@ -39,7 +39,7 @@ Text Joined(const std::vector<TextView>& words, std::size_t first) {
 
 class ScriptRun {
   public:
-    explicit ScriptRun(Console console) : rules_(RulesOf(console)) {}
+    explicit ScriptRun(Console console) : rules_(RulesOf(console)), spellings_(rules_.Cases) {}
 
     ScriptEffects Run(TextView script) {
         RunText(script, 0);
@@ -68,8 +68,8 @@ class ScriptRun {
 
     const ConsoleRules& rules_;
     ScriptEffects effects_;
-    ConsoleCommand command_;                                   // of the script itself
-    std::unordered_map<Text, std::vector<Effect>> spellings_;  // of each alias, in the order in which they were made
+    ConsoleCommand command_;  // of the script itself
+    AliasSpellings spellings_;
     bool inAlias_ = false;
     std::size_t turn_ = 0;
     std::size_t aliasBytes_ = 0;
@@ -139,7 +139,7 @@ bool ScriptRun::TakeBindOrAlias(const Words& words, TextView first) {
         TakeUnaliases(words);
     } else if (SameText(first, "unaliasall") && (rules_.Has & has::kUnaliasAll) != 0) {
         effects_.Aliases.Clear();
-        spellings_.clear();
+        spellings_.Clear();
         effects_.UnaliasesAll = true;
         effects_.Unaliasall = MakeEffect(EffectKind::Alias, first, {});
     } else {
@@ -210,25 +210,7 @@ void ScriptRun::TakeUnaliases(const Words& words) {
 /// In the table stands the one that a call runs.
 void ScriptRun::PutAlias(Effect effect) {
     const Text identity = LowerCase(effect.Name);
-    std::vector<Effect>& spellings = spellings_[identity];
-    const bool areOne = rules_.Cases == AliasCases::AreOne;
-    const auto known =
-        std::ranges::find_if(spellings, [&](const Effect& each) { return areOne || each.Name == effect.Name; });
-    const bool isGone = !effect.IsSet;
-    if (known == spellings.end()) {
-        spellings.push_back(std::move(effect));
-    } else {
-        *known = std::move(effect);
-    }
-    const Effect* runs = nullptr;
-    for (const Effect& each : spellings) {
-        const bool isAhead = runs == nullptr || rules_.Cases != AliasCases::FirstRuns || each.Name < runs->Name;
-        runs = each.IsSet && isAhead ? &each : runs;
-    }
-    effects_.Aliases.Put(identity, runs != nullptr ? *runs : spellings.back());
-    if (isGone) {
-        std::erase_if(spellings, [](const Effect& each) { return !each.IsSet; });
-    }
+    effects_.Aliases.Put(identity, spellings_.Put(std::move(effect)));
 }
 
 void ScriptRun::TakeColor(const Words& words) {

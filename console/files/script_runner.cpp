@@ -33,7 +33,8 @@ ScriptRunner::ScriptRunner(Files& disk, const StartRequest& request)
       engine_(FilesOfEngine(request.Played.Engine)),
       hasEarlySets_(HasEarlySets(console_)),
       finder_(disk, SearchPath(disk, request.Played), exec_, request.Given),
-      buffer_(rules_, exec_.EndsScripts) {}
+      buffer_(rules_, exec_.EndsScripts),
+      spellings_(rules_.Cases) {}
 
 std::size_t ScriptRunner::DepthBelow(std::size_t script) const {
     return script == kNoScript ? 0 : run_.Scripts[script].Depth + 1;
@@ -105,6 +106,7 @@ void ScriptRunner::TakeEffects(const BufferedCommand& command) {
     }
     if (effects.UnaliasesAll) {
         run_.Set.FreeAll(EffectKind::Alias, from);
+        spellings_.Clear();
     }
     Put(effects.Binds, EffectKind::Bind, from);
     Put(effects.Aliases, EffectKind::Alias, from);
@@ -121,7 +123,24 @@ void ScriptRunner::Put(const EffectTable& table, EffectKind kind, const Setter& 
             setter.Line = effect.Line;
             setter.Source = effect.Source;
         }
-        run_.Set.Put(kind, table.IdentityAt(i), effect.Name, std::move(setter));
+        if (kind == EffectKind::Alias) {
+            PutAlias(table.IdentityAt(i), effect, std::move(setter));
+        } else {
+            run_.Set.Put(kind, table.IdentityAt(i), effect.Name, std::move(setter));
+        }
+    }
+}
+
+/// The last setter is the one whose body a call runs: it may be of another spelling.
+void ScriptRunner::PutAlias(const Text& identity, Effect alias, Setter setter) {
+    const std::size_t turn = aliasSetters_.size();
+    const Text name = alias.Name;
+    alias.Turn = turn;
+    aliasSetters_.push_back(setter);
+    run_.Set.Put(EffectKind::Alias, identity, name, std::move(setter));
+    const Effect runs = spellings_.Put(std::move(alias));
+    if (runs.Turn != turn) {
+        run_.Set.Put(EffectKind::Alias, identity, runs.Name, aliasSetters_[runs.Turn]);
     }
 }
 

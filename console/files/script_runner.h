@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "console/alias_spellings.h"
 #include "console/files/command_buffer.h"
 #include "console/files/start_run.h"
 
@@ -38,6 +39,7 @@ class ScriptRunner {
     bool RunAlias(const BufferedCommand& command);
     void TakeEffects(const BufferedCommand& command);
     void Put(const EffectTable& table, EffectKind kind, const Setter& from);
+    void PutAlias(const Text& identity, Effect alias, Setter setter);
     void Exec(const BufferedCommand& command);
     bool TakeOtherConfig(const BufferedCommand& command);
     void Load(const BufferedCommand& command, Text name, Lookup where);
@@ -55,6 +57,8 @@ class ScriptRunner {
     ScriptFinder finder_;
     CommandBuffer buffer_;
     StartRun run_;
+    AliasSpellings spellings_;
+    std::vector<Setter> aliasSetters_;  // in their turns
     bool mayLack_ = false;
     std::size_t bytes_ = 0;
     std::size_t aliasBytes_ = 0;

@@ -203,11 +203,11 @@ void ExpectAsForetold(const RealEngine& engine, unsigned seeds) {
 }  // namespace
 
 TEST(StartOrderOfEngines, IsForetoldOfDarkPlaces) {
-    ExpectAsForetold(kDarkPlaces, 12);
+    ExpectAsForetold(kDarkPlaces, 60);
 }
 
 TEST(StartOrderOfEngines, IsForetoldOfQuakeSpasm) {
-    ExpectAsForetold(kQuakeSpasm, 12);
+    ExpectAsForetold(kQuakeSpasm, 60);
 }
 
 }  // namespace lv

@@ -67,7 +67,7 @@ TEST(ExecRules, SayWhoseArchivesMindLetterCase) {
         patterns += rules.Patterns ? name : "";
         unsure += rules.IsSure ? "" : name;
     }
-    EXPECT_EQ(exact, "Quake;QuakeWorld;Hexen II;ezQuake;Ironwail;QuakeSpasm;FTE;");
+    EXPECT_EQ(exact, "Quake;QuakeWorld;Hexen II;ezQuake;Ironwail;FTE;QuakeSpasm;");
     EXPECT_EQ(patterns, "DarkPlaces;Half-Life;");
     EXPECT_EQ(unsure, "Sin;FTE;Yamagi;Q2PRO;Unreal;");
 }

@@ -90,6 +90,16 @@ TEST(RunStart, FreesKeysAndAliases) {
     EXPECT_EQ(Aliases(game.Run(), "x"), "autoexec.cfg:1 y, autoexec.cfg:3 -");
 }
 
+TEST(RunStart, NamesTheSpellingThatACallRunsAtLast) {
+    QuakeDisk game;
+    game.Add("id1\\autoexec.cfg", "alias go \"fov 1\"\nalias GO \"fov 2\"\nalias go \"fov 3\"\nGo\n");
+    EXPECT_EQ(Aliases(game.Run(), "go"),
+              "autoexec.cfg:1 fov 1, autoexec.cfg:2 fov 2, autoexec.cfg:3 fov 3, autoexec.cfg:2 fov 2");
+    EXPECT_EQ(Settings(game.Run(), "fov"), "default.cfg:3 90, config.cfg:2 100, autoexec.cfg:4 2 by GO");
+    game.Request.Played.Of = Console::EzQuake;
+    EXPECT_EQ(Aliases(game.Run(), "go"), "autoexec.cfg:1 fov 1, autoexec.cfg:2 fov 2, autoexec.cfg:3 fov 3");
+}
+
 TEST(RunStart, GoesOnWithTheNextCommandWhereAScriptDoesNotEnd) {
     QuakeDisk game;
     game.Add("id1\\config.cfg", "bind a +attack\nfov \"100\" // that is all");
