@@ -5,6 +5,8 @@
 #include <iterator>
 #include <set>
 
+#include "foundry/versions/version_file.h"
+
 namespace lv {
 
 namespace {
@@ -69,6 +71,16 @@ bool IsNew(const HomeState& after, const HomeState& now) {
 
 HomeState WithoutPicture(HomeState state) {
     std::erase_if(state.Files, [](const auto& file) { return file.first.ends_with("/lv_666.pif"); });
+    return state;
+}
+
+HomeState WithAnyVersions(HomeState state) {
+    for (auto& [path, bytes] : state.Files) {
+        if (path.find("/versions/") != std::string::npos) {
+            const VersionFile file = ReadVersionFile(bytes);
+            bytes = file.IsDamaged || file.Versions.empty() ? bytes : "(versions)";
+        }
+    }
     return state;
 }
 

@@ -33,6 +33,10 @@ std::vector<std::string> Damage(const HomeState& before, const HomeState& after,
 /// Without the picture of a game's window, which a game may start without: nothing is told of that.
 HomeState WithoutPicture(HomeState state);
 
+/// What stands in the file of a script's versions does not count, if it is whole: a save over one that has been written
+/// already keeps that as well.
+HomeState WithAnyVersions(HomeState state);
+
 /// Whether everything is as after an undisturbed run. Counts of runs and launches are not looked at.
 bool IsNew(const HomeState& after, const HomeState& now);
 
