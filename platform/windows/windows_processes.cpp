@@ -67,7 +67,10 @@ Error StartBatchFile(const std::string& place, std::string_view name) {
         return StartProcess(processor, L"\"" + processor + L"\" /s /c \"" + codePage + batch + L"\"", ToWide(place),
                             CREATE_NEW_CONSOLE);
     }
-    const std::wstring there = L"pushd \"%LV_PLACE%\" && (set LV_PLACE=& " + batch + L" & popd) || pause";
+    // What pushd complains of can be read for half a minute: nobody may be there to press a key.
+    const std::wstring refused = L"(\"" + system + L"\\ping.exe\" -n 31 127.0.0.1 >nul)";
+    const std::wstring there =
+        L"pushd \"%LV_PLACE%\" & if errorlevel 1 " + refused + L" else (set LV_PLACE=& " + batch + L" & popd)";
     return StartProcess(processor, L"\"" + processor + L"\" /e:on /v:off /s /c \"" + codePage + there + L"\"", system,
                         CREATE_NEW_CONSOLE, {{L"LV_PLACE", ToWide(place)}});
 }
