@@ -67,6 +67,8 @@ Changes_Frm::Changes_Frm(Run& owner, const SaveReport& report, const SaveTexts& 
     Close_Cmd.Caption = saves ? "&Cancel" : "&Close";
     Close_Cmd.ToolTip = saves ? "Save nothing" : "Leave the script as it is";
     Focus = Keep_Cmd.Enabled ? "Keep_Cmd" : "Close_Cmd";
+    Losses_Lst.ListIndex = Losses.empty() ? -1 : 0;
+    Changes_Losses_Lst_Click(*this);
 }
 
 void Changes_Losses_Lst_Click(Changes_Frm& form) {
