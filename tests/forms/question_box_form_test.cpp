@@ -25,6 +25,7 @@ class QuestionBoxForm_ : public ::testing::Test {
 
 TEST_F(QuestionBoxForm_, EnterPressesTheDefaultButton) {
     WhenModal([] {
+        SettleUntil([] { return Find("Button_Cmd(1)")->HasFocus(); }, 5000);
         EXPECT_TRUE(Find("Button_Cmd(1)")->HasFocus());
         Screenshot("question_box");
         PressKey(WXK_RETURN);
