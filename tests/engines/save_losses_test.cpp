@@ -194,9 +194,7 @@ bool MayCallItself(const Text& script) {
 class SaveSeenByAnEngine : public ::testing::Test {
   protected:
     void SetUp() override {
-        if (!fs::exists(kDarkPlaces)) {
-            GTEST_SKIP() << "Debian's package darkplaces is needed";
-        }
+        ASSERT_TRUE(fs::exists(kDarkPlaces)) << "Debian's package darkplaces is needed";
         untouched_ = AfterRunning("");
         ASSERT_GT(untouched_.Variables.size(), 1000U);
     }

@@ -14,9 +14,11 @@ namespace lv {
 TEST(TaskBar, KnowsTheProgramByItsName) {
     EXPECT_TRUE(TakeTaskBarName());
     PWSTR kept = nullptr;
-    if (FAILED(GetCurrentProcessExplicitAppUserModelID(&kept))) {
-        GTEST_SKIP() << "Wine keeps no such name";
+    const HRESULT told = GetCurrentProcessExplicitAppUserModelID(&kept);
+    if (told == E_NOTIMPL) {
+        GTEST_SKIP() << "Wine takes the name and keeps none, so that nothing could be compared";
     }
+    ASSERT_TRUE(SUCCEEDED(told));
     EXPECT_EQ(std::wstring(kept), L"Lorvane.Lorvane3D");
     CoTaskMemFree(kept);
 }
