@@ -16,6 +16,8 @@
 
 namespace lv {
 
+class Files;
+
 /// One argument of a batch's command that is no text of the user's: the name of a directory, a map, a server.
 struct GivenWord {
     std::size_t At = 0;       // where it begins, its option included: bytes from the front of the text that holds it
@@ -39,6 +41,13 @@ struct GameEnd {
     std::string LastLines = {};  // the end of what it printed, whole lines parted by CR LF, without control characters
 };
 
+/// What StartBatch would start. Text is code page 1252, for people.
+struct StartPlan {
+    std::vector<std::string> Words;        // the program and its arguments
+    std::string Directory;                 // as the host says it
+    std::vector<std::string> Environment;  // "NAME=value": what the program gets beside this one's own
+};
+
 class Processes {
   public:
     virtual ~Processes() = default;
@@ -53,6 +62,11 @@ class Processes {
     /// do.
     virtual Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) = 0;
     Error StartBatch(std::string_view directory, std::string_view name) { return StartBatch(directory, name, {}); }
+
+    /// What StartBatch would start, or its error. `disk` is where the batch is read, and nothing is left there. Where
+    /// the system's command processor runs the batch, that is the batch.
+    virtual Result<StartPlan> PlanStart(Files& disk, std::string_view directory, std::string_view name,
+                                        const BatchCommand& known);
 
     /// Starts a program by its path, or by its name alone when the system finds it there. Error 75 for an argument of
     /// a batch or a DOS program that a reader would misread.

@@ -183,6 +183,33 @@ Error LinuxProcesses::StartBatch(std::string_view directory, std::string_view na
     return command.Ok() ? lastGame_.Start(command.Value, Places()) : command.Fault;
 }
 
+Result<StartPlan> LinuxProcesses::PlanStart(Files& disk, std::string_view directory, std::string_view name,
+                                            const BatchCommand& known) {
+    HostPlaces places = Places();
+    places.Cache /= "dry_run";  // what DOSBox reads is written, and another start may be about to read its own
+    const Result<HostCommand> command = LinuxProcesses(disk, places).PlanBatch(directory, name, known);
+    if (!command.Ok()) {
+        return command.Fault;
+    }
+    if (!command.Value.ReadOnce.empty()) {
+        std::error_code ignored;
+        std::filesystem::remove(command.Value.ReadOnce, ignored);
+    }
+    StartPlan plan;
+    plan.Directory = FromUtf8Lossy(command.Value.Directory);
+    plan.Words = {FromUtf8Lossy(command.Value.Program)};
+    for (const std::string& argument : command.Value.Arguments) {
+        plan.Words.push_back(FromUtf8Lossy(argument));
+    }
+    const std::vector<std::string> own = OwnEnvironment();
+    for (const std::string& variable : command.Value.Environment) {
+        if (std::ranges::find(own, variable) == own.end()) {
+            plan.Environment.push_back(FromUtf8Lossy(variable));
+        }
+    }
+    return plan;
+}
+
 bool LinuxProcesses::HasRunnerFor(std::string_view program) {
     switch (KindOfProgramAt(disk_, program)) {
         case ProgramKind::kWindows:

@@ -26,6 +26,8 @@ class LinuxProcesses : public Processes {
     using Processes::StartBatch;
     LineReader ReaderOf(std::string_view directory, std::string_view command, std::string_view program) override;
     Error StartBatch(std::string_view directory, std::string_view name, const BatchCommand& known) override;
+    Result<StartPlan> PlanStart(Files& disk, std::string_view directory, std::string_view name,
+                                const BatchCommand& known) override;
     bool HasRunnerFor(std::string_view program) override;
     /// `program` may also be an absolute path of the host. A name alone is searched on PATH.
     bool RunsAsRoot() override { return geteuid() == 0; }

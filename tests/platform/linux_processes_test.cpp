@@ -274,4 +274,37 @@ TEST(StartProgram, NamesAMissingProgram) {
     }
 }
 
+TEST(PlanStart, SaysWhatWouldBeStartedAndLeavesNothing) {
+    GameYard yard("plan_start");
+    yard.AddGame("show_native", "quake/native");
+    yard.AddBatch("quake", {"SET LV_OWN=1", "C:", "cd C:\\QUAKE", "native -zone 512"});
+    LinuxProcesses programs(yard.Disk, yard.Places);
+    const auto plan = programs.PlanStart(yard.Disk, "C:\\QUAKE", "lv_666.bat", {});
+    ASSERT_TRUE(plan.Ok()) << plan.Fault.Text;
+    EXPECT_THAT(plan.Value.Words, ElementsAre((yard.Drive / "quake/native").string(), "-zone", "512"));
+    EXPECT_EQ(plan.Value.Directory, (yard.Drive / "quake").string());
+    EXPECT_THAT(plan.Value.Environment, ElementsAre("LV_OWN=1"));
+}
+
+TEST(PlanStart, OfADosProgramLeavesNoFile) {
+    GameYard yard("plan_start_dos");
+    yard.AddFile("quake/dos.exe", "MZ");
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "dos.exe"});
+    yard.Places.SearchPath = PathWith(yard, {"dosbox"});
+    const auto plan = LinuxProcesses(yard.Disk, yard.Places).PlanStart(yard.Disk, "C:\\QUAKE", "lv_666.bat", {});
+    ASSERT_TRUE(plan.Ok()) << plan.Fault.Text;
+    EXPECT_THAT(plan.Value.Words[0], EndsWith("/dosbox"));
+    EXPECT_FALSE(std::filesystem::exists(yard.Places.Cache / "dry_run/dosbox_lv_666.conf"));
+    EXPECT_FALSE(std::filesystem::exists(yard.Places.Cache / "dosbox_lv_666.conf"));
+}
+
+TEST(PlanStart, SaysWhyNothingWouldBeStarted) {
+    GameYard yard("plan_start_none");
+    yard.AddFile("quake/windows.exe", WindowsProgram());
+    yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "windows.exe"});
+    yard.Places.SearchPath = EmptyPath(yard);
+    const auto plan = LinuxProcesses(yard.Disk, yard.Places).PlanStart(yard.Disk, "C:\\QUAKE", "lv_666.bat", {});
+    EXPECT_EQ(plan.Fault.Number, error::kFileNotFound);
+}
+
 }  // namespace lv
