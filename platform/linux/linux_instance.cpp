@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include "platform/linux/files/file_descriptor.h"
 
@@ -19,6 +20,9 @@ namespace {
 
 constexpr std::string_view kRaise = "raise\n";
 constexpr std::string_view kAnswer = "ok\n";
+constexpr std::string_view kAsk = "ask\n";
+constexpr int kLongestWorkMs = 30000;  // of an instance that is asked
+constexpr std::size_t kLongestReply = 4U << 20U;
 constexpr int kLongestAnswerMs = 2000;
 constexpr int kLongestQuestionMs = 200;
 constexpr int kClaims = 3;   // rounds, should the other one end while it is asked
@@ -65,7 +69,7 @@ bool IsOurs(int connection) {
 /// What arrives within that time; empty if nothing does or the other side hung up.
 std::string Receive(int connection, int milliseconds) {
     pollfd waiting{connection, POLLIN, 0};
-    std::array<char, 64> bytes{};
+    std::array<char, 4096> bytes{};
     if (poll(&waiting, 1, milliseconds) <= 0) {
         return {};
     }
@@ -75,6 +79,33 @@ std::string Receive(int connection, int milliseconds) {
 
 void Send(int connection, std::string_view text) {
     (void)send(connection, text.data(), text.size(), MSG_NOSIGNAL);
+}
+
+/// All of it, to a side that reads slowly for a moment.
+void SendAll(int connection, std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t sent = send(connection, text.data(), text.size(), MSG_NOSIGNAL);
+        if (sent > 0) {
+            text.remove_prefix(static_cast<std::size_t>(sent));
+            continue;
+        }
+        pollfd waiting{connection, POLLOUT, 0};
+        if ((errno != EAGAIN && errno != EINTR) || poll(&waiting, 1, kLongestQuestionMs) <= 0) {
+            return;
+        }
+    }
+}
+
+/// What comes until the other side has said all, `most` bytes of it; the wait for each part is that long at most.
+std::string ReceiveAll(int connection, std::string text, std::size_t most, int milliseconds) {
+    while (text.size() < most) {
+        const std::string more = Receive(connection, milliseconds);
+        if (more.empty()) {
+            break;
+        }
+        text += more;
+    }
+    return text;
 }
 
 /// Whether the other side closed the connection.
@@ -154,14 +185,37 @@ void LinuxInstance::Serve() {
         if (connection.Number() < 0) {
             return;
         }
-        if (!IsOurs(connection.Number()) || !Receive(connection.Number(), kLongestQuestionMs).starts_with(kRaise)) {
-            continue;
+        const std::string said =
+            IsOurs(connection.Number()) ? Receive(connection.Number(), kLongestQuestionMs) : std::string();
+        if (said.starts_with(kAsk)) {
+            Answer(connection.Number(), said.substr(kAsk.size()));
+        } else if (said.starts_with(kRaise)) {
+            if (OnRaise) {
+                OnRaise();
+            }
+            Send(connection.Number(), kAnswer);
         }
-        if (OnRaise) {
-            OnRaise();
-        }
-        Send(connection.Number(), kAnswer);
     }
+}
+
+void LinuxInstance::Answer(int connection, std::string request) {
+    request = ReceiveAll(connection, std::move(request), kLongestRequest + 1, kLongestQuestionMs);
+    if (OnRequest && request.size() <= kLongestRequest) {
+        SendAll(connection, OnRequest(request));
+    }
+}
+
+std::optional<std::string> LinuxInstance::Ask(std::string_view request) {
+    const FileDescriptor connection(MakeSocket());
+    const Address address = AddressOf(name_);
+    if (request.size() > kLongestRequest || connect(connection.Number(), Plain(address), address.Length) != 0 ||
+        !IsOurs(connection.Number())) {
+        return std::nullopt;
+    }
+    SendAll(connection.Number(), std::string(kAsk).append(request));
+    shutdown(connection.Number(), SHUT_WR);
+    std::string reply = ReceiveAll(connection.Number(), {}, kLongestReply, kLongestWorkMs);
+    return reply.empty() ? std::nullopt : std::optional(std::move(reply));
 }
 
 }  // namespace lv

@@ -2,7 +2,8 @@
 //
 // The single instance on Linux: a socket in the abstract namespace, named by the user and the directory of the
 // settings, so that two sets of settings are two programs. The kernel drops the name with the process.
-// A second start connects, says "raise\n" and waits for "ok\n" as an answer.
+// A second start connects, says "raise\n" and waits for "ok\n" as an answer; or it says "ask\n", what it asks, and
+// closes its side, and the answer is what comes until the other side is closed too.
 
 #pragma once
 
@@ -26,16 +27,20 @@ class LinuxInstance : public SingleInstance {
     /// program starts as if it were alone.
     bool Claim() override;
 
+    std::optional<std::string> Ask(std::string_view request) override;
+
     /// Readable when a second start knocks; -1 before Claim, and after a Claim that was refused.
     [[nodiscard]] int Descriptor() const { return listener_; }
 
-    /// Answers all who have knocked and calls OnRaise for each. Never waits long: who says nothing is hung up on.
+    /// Answers all who have knocked: calls OnRaise or OnRequest for each. Never waits long: who says nothing is hung up
+    /// on.
     void Serve();
 
     std::function<void()> OnRaise;
 
   private:
     bool Listen();
+    void Answer(int connection, std::string request);
 
     std::string name_;
     int listener_ = -1;

@@ -1,5 +1,7 @@
 #include "platform/windows/windows_instance.h"
 
+#include <string>
+
 #include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 
@@ -9,6 +11,7 @@ namespace {
 
 constexpr DWORD kLongestWaitMs = 10000;
 constexpr DWORD kLookMs = 50;
+constexpr DWORD kLongestUserName = 256;
 
 HWND FindOther(const std::wstring& caption) {
     HWND window = nullptr;
@@ -35,9 +38,19 @@ void BringForward(HWND window) {
     SetForegroundWindow(window);
 }
 
+/// Of this user in this session: programs of others have pipes of their own.
+std::wstring PipeName(const std::wstring& caption) {
+    wchar_t user[kLongestUserName + 1] = {};
+    DWORD length = kLongestUserName + 1;
+    GetUserNameW(user, &length);
+    DWORD session = 0;
+    ProcessIdToSessionId(GetCurrentProcessId(), &session);
+    return L"\\\\.\\pipe\\lorvane3d-" + std::to_wstring(session) + L"-" + user + L"-" + caption;
+}
+
 }  // namespace
 
-WindowsInstance::WindowsInstance(std::string_view caption) : caption_(ToWide(caption)) {}
+WindowsInstance::WindowsInstance(std::string_view caption) : caption_(ToWide(caption)), pipe_(PipeName(caption_)) {}
 
 WindowsInstance::~WindowsInstance() {
     if (mutex_ != nullptr) {
@@ -61,6 +74,7 @@ bool WindowsInstance::Claim() {
         const DWORD held = mutex != nullptr ? WaitForSingleObject(mutex, kLookMs) : WAIT_OBJECT_0;
         if (held == WAIT_OBJECT_0 || held == WAIT_ABANDONED) {
             mutex_ = mutex;
+            pipe_.Open();
             return true;
         }
     }
@@ -68,6 +82,10 @@ bool WindowsInstance::Claim() {
         CloseHandle(mutex);
     }
     return false;
+}
+
+std::optional<std::string> WindowsInstance::Ask(std::string_view request) {
+    return RequestPipe::Ask(PipeName(caption_), request);
 }
 
 }  // namespace lv

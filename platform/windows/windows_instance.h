@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "platform/single_instance.h"
+#include "platform/windows/request_pipe.h"
 
 namespace lv {
 
@@ -23,8 +24,14 @@ class WindowsInstance : public SingleInstance {
     /// shown, on top, with the keys. An instance that has no window yet is waited for, at most ten seconds.
     bool Claim() override;
 
+    std::optional<std::string> Ask(std::string_view request) override;
+
+    /// Answers one who has asked.
+    void Serve() { pipe_.Serve(OnRequest); }
+
   private:
     std::wstring caption_;
+    RequestPipe pipe_;
     void* mutex_ = nullptr;  // held by the one that runs; the system gives it up with its process
 };
 

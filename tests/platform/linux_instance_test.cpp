@@ -66,6 +66,7 @@ class OtherProcess {
     [[noreturn]] static void Run(const std::string& config, bool serves, int pipe) {
         LinuxInstance instance(config);
         instance.OnRaise = [pipe] { (void)!write(pipe, "r", 1); };
+        instance.OnRequest = [](std::string_view request) { return "<" + std::string(request) + ">"; };
         (void)!write(pipe, instance.Claim() ? "1" : "0", 1);
         for (;;) {
             pollfd waiting{serves ? instance.Descriptor() : -1, POLLIN, 0};
@@ -177,6 +178,40 @@ TEST(LinuxInstance, TheListenerIsNotInheritedByGames) {
     LinuxInstance first(ConfigOf("inherit"));
     ASSERT_TRUE(first.Claim());
     EXPECT_NE(fcntl(first.Descriptor(), F_GETFD) & FD_CLOEXEC, 0);
+}
+
+TEST(LinuxInstance, AnswersWhatAnotherStartAsks) {
+    OtherProcess first(ConfigOf("asked"), true);
+    ASSERT_EQ(first.Next(), '1');
+    LinuxInstance second(ConfigOf("asked"));
+    EXPECT_EQ(second.Ask("--launch"), "<--launch>");
+    EXPECT_EQ(second.Ask(std::string("a\0b\n", 4)), "<" + std::string("a\0b\n", 4) + ">");
+    EXPECT_EQ(second.Ask(""), "<>");
+    EXPECT_FALSE(second.Claim()) << "it still raises as well";
+    EXPECT_EQ(first.Next(), 'r');
+}
+
+TEST(LinuxInstance, AsksAndAnswersInManyParts) {
+    OtherProcess first(ConfigOf("long"), true);
+    ASSERT_EQ(first.Next(), '1');
+    const std::string longest(kLongestRequest, 'x');
+    EXPECT_EQ(LinuxInstance(ConfigOf("long")).Ask(longest), "<" + longest + ">");
+    EXPECT_EQ(LinuxInstance(ConfigOf("long")).Ask(longest + "x"), std::nullopt);
+}
+
+TEST(LinuxInstance, WithoutAnotherNobodyAnswers) {
+    EXPECT_EQ(LinuxInstance(ConfigOf("nobody")).Ask("--launch"), std::nullopt);
+}
+
+TEST(LinuxInstance, OneThatEndsWhileItIsAskedGivesNoAnswer) {
+    OtherProcess first(ConfigOf("ends"), false);
+    ASSERT_EQ(first.Next(), '1');
+    std::thread end([&first] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        first.Kill();
+    });
+    EXPECT_EQ(LinuxInstance(ConfigOf("ends")).Ask("--launch"), std::nullopt);
+    end.join();
 }
 
 }  // namespace lv

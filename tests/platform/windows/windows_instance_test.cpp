@@ -109,4 +109,18 @@ TEST(WindowsInstance, FindsNothingOfOneThatWasKilled) {
     EXPECT_TRUE(WindowsInstance(kCaption).Claim());
 }
 
+TEST(WindowsInstance, AnswersWhatAnotherStartAsks) {
+    OtherProcess other(L"shown");
+    ASSERT_TRUE(OtherIsReady());
+    WindowsInstance second(kCaption);
+    EXPECT_EQ(second.Ask("--launch"), "<--launch>");
+    const std::string longest(kLongestRequest, 'x');
+    EXPECT_EQ(second.Ask(std::string("a\0b", 3)), "<" + std::string("a\0b", 3) + ">");
+    EXPECT_EQ(second.Ask(longest + "x"), std::nullopt);
+}
+
+TEST(WindowsInstance, WithoutAnotherNobodyAnswers) {
+    EXPECT_EQ(WindowsInstance("   Lorvane 3D that never runs").Ask("--launch"), std::nullopt);
+}
+
 }  // namespace lv

@@ -1,6 +1,6 @@
 // The other instance of the tests: lv_other_instance CAPTION shown|hidden|minimised|starting
-// Claims, opens a window of the caption as told ("starting" only after a second and a half), and stays for half a
-// minute at most. Ends with 1 if the claim was refused.
+// Claims, answers what it is asked in "<>", opens a window of the caption as told ("starting" only after a second and a
+// half), and stays for half a minute at most. Ends with 1 if the claim was refused.
 
 #include <string>
 
@@ -24,9 +24,12 @@ int main(int count, char** arguments) {
                                   nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
     ShowWindow(window, role == "hidden" ? SW_HIDE : role == "minimised" ? SW_MINIMIZE : SW_SHOWNORMAL);
     SetPropW(window, L"ready", window);
-    SetTimer(window, 1, 30000, nullptr);
+    instance.OnRequest = [](std::string_view request) { return "<" + std::string(request) + ">"; };
+    SetTimer(window, 1, 50, nullptr);
+    const DWORD start = GetTickCount();
     MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0 && message.message != WM_TIMER) {
+    while (GetMessageW(&message, nullptr, 0, 0) > 0 && GetTickCount() - start < 30000) {
+        instance.Serve();
         DispatchMessageW(&message);
     }
     return 0;

@@ -1,0 +1,40 @@
+// platform/windows/request_pipe.h
+//
+// A named pipe by which another start of the program asks the running one. The request is its length in decimal digits,
+// a line feed, and the bytes; the answer is bytes until the pipe closes.
+
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lv {
+
+class RequestPipe {
+  public:
+    explicit RequestPipe(std::wstring name) : name_(std::move(name)) {}
+    ~RequestPipe();
+    RequestPipe(const RequestPipe&) = delete;
+    RequestPipe& operator=(const RequestPipe&) = delete;
+
+    /// From now on others of this machine can ask; no other machine can. Nothing happens if the name is taken.
+    void Open();
+
+    /// Answers one who has asked. Never waits long: who does not say what he wants is hung up on.
+    void Serve(const std::function<std::string(std::string_view)>& answer);
+
+    /// Asks the one who has opened the pipe of that name. Nothing if there is none, or no answer within half a minute.
+    static std::optional<std::string> Ask(const std::wstring& name, std::string_view request);
+
+  private:
+    std::optional<std::string> ReadRequest();
+    void HangUp();
+
+    std::wstring name_;
+    void* pipe_ = nullptr;
+    unsigned long answered_ = 0;  // when, by the system's milliseconds; 0: nobody is waited for
+};
+
+}  // namespace lv
