@@ -69,6 +69,14 @@ Finding MakeFinding(FindingKind kind, TextView file, std::size_t line, TextView 
     return finding;
 }
 
+Text FindingLine(const Finding& finding) {
+    Text line = FindingReport({finding});
+    while (!line.empty() && (line.back() == '\n' || line.back() == '\r')) {
+        line.pop_back();
+    }
+    return finding.How == Certainty::Perhaps ? Join("perhaps: ", line) : line;
+}
+
 Text FindingReport(const std::vector<Finding>& findings) {
     Text report;
     for (const Finding& each : findings) {

@@ -62,6 +62,9 @@ struct Finding {
 Finding MakeFinding(FindingKind kind, TextView file, std::size_t line, TextView about, TextView second,
                     TextView console);
 
+/// "my.cfg:12: ...", and "perhaps: " ahead of it where that is so; without a line end.
+Text FindingLine(const Finding& finding);
+
 /// "my.cfg:12: ..." and a line end each.
 Text FindingReport(const std::vector<Finding>& findings);
 

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "console/checks/named_bodies.h"
-#include "console/engine_consoles.h"
+#include "console/files/played_of_run.h"
 #include "foundation/bounded_file.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
@@ -96,14 +96,7 @@ StartRequest StartOf(Fig_Frm& form) {
     const ScriptDialect& dialect = form.Document.Dialect;
     const Engine* const engine = EngineInUse(form);
     StartRequest request;
-    request.Played.Of = engine != nullptr ? ConsoleOfEngine(*engine, dialect.GameKind, dialect.IsQuakeWorld)
-                                          : ConsoleOfDialect(dialect);
-    request.Played.GameKind = dialect.GameKind;
-    request.Played.Directory = run.DefaultGameDirectory;
-    request.Played.Base = run.BaseGameDir;
-    request.Played.Modification = SameText(run.CurrentGameDir, run.BaseGameDir) ? Text() : run.CurrentGameDir;
-    request.Played.Engine = engine != nullptr ? engine->Name : Text();
-    request.Played.UserHome = run.System.Disk.UserHome();
+    request.Played = PlayedOfRun(run, engine, dialect.GameKind, dialect.IsQuakeWorld);
     request.Commands = {Join("exec ", LastPathPart(form.Document.CurrentScriptPath))};
     request.Given = {{form.Document.CurrentScriptPath, TextNow(form)}};
     return request;

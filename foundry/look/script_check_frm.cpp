@@ -19,14 +19,6 @@ Text CountText(const std::vector<Finding>& findings) {
                 std::to_string(perhaps), " perhaps.");
 }
 
-Text RowOf(const Finding& finding) {
-    Text row = FindingReport({finding});
-    while (!row.empty() && (row.back() == '\n' || row.back() == '\r')) {
-        row.pop_back();
-    }
-    return finding.How == Certainty::Perhaps ? Join("perhaps: ", row) : row;
-}
-
 }  // namespace
 
 ScriptCheck_Frm::ScriptCheck_Frm(Run& owner, const StartRequest& request)
@@ -35,7 +27,7 @@ ScriptCheck_Frm::ScriptCheck_Frm(Run& owner, const StartRequest& request)
     std::stable_partition(Findings.begin(), Findings.end(),
                           [](const Finding& each) { return each.How == Certainty::Sure; });
     for (const Finding& finding : Findings) {
-        Findings_Lst.Items.push_back(RowOf(finding));
+        Findings_Lst.Items.push_back(FindingLine(finding));
     }
     Findings_Lst.ListIndex = Findings.empty() ? -1 : 0;
     Findings_Lbl.Caption = CountText(Findings);

@@ -65,4 +65,11 @@ TEST(FindingReport, HasALineForEach) {
     EXPECT_EQ(FindingReport({}), "");
 }
 
+TEST(Findings, ALineSaysWhereAndWhetherItIsSure) {
+    const Finding sure = MakeFinding(FindingKind::MissingScript, "a.cfg", 3, "b.cfg", "", "Game");
+    EXPECT_EQ(FindingLine(sure), "a.cfg:3: The script b.cfg is not there.");
+    const Finding unsure = MakeFinding(FindingKind::UnknownWord, "a.cfg", 3, "b", "", "Game");
+    EXPECT_TRUE(FindingLine(unsure).starts_with("perhaps: a.cfg:3: ")) << FindingLine(unsure);
+}
+
 }  // namespace lv

@@ -1,0 +1,19 @@
+#include "console/files/played_of_run.h"
+
+#include "console/engine_consoles.h"
+
+namespace lv {
+
+PlayedGame PlayedOfRun(const Run& run, const Engine* engine, Game game, bool isQuakeWorld) {
+    PlayedGame played;
+    played.Of = engine != nullptr ? ConsoleOfEngine(*engine, game, isQuakeWorld) : ConsoleOf(game, isQuakeWorld);
+    played.GameKind = game;
+    played.Directory = run.DefaultGameDirectory;
+    played.Base = run.BaseGameDir;
+    played.Modification = SameText(run.CurrentGameDir, run.BaseGameDir) ? Text() : run.CurrentGameDir;
+    played.Engine = engine != nullptr ? engine->Name : Text();
+    played.UserHome = run.System.Disk.UserHome();
+    return played;
+}
+
+}  // namespace lv
