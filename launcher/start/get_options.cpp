@@ -10,18 +10,13 @@
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "launcher/start/install_params.h"
+#include "launcher/start/start_directories.h"
 #include "launcher/window/lv_events.h"
 #include "video/profile_model.h"
 
 namespace lv {
 
 namespace {
-
-void CutTrailingBackslash(Text& directory) {
-    if (directory.ends_with('\\')) {
-        directory = DropRight(directory, 1);
-    }
-}
 
 /// Shows the wizard until the user has gone through with it. False if the program ended instead.
 bool RunWizard(Launcher& launcher) {

@@ -38,14 +38,18 @@ bool IsTheOnlyOne(Run& run) {
     return false;
 }
 
-/// False if the program is to end: the user was told why, or another instance has come forward.
-bool Prepare(Launcher& launcher) {
-    Run& run = launcher.run;
+void RepairAndNoteFacts(Run& run) {
     RepairVideoProfileList(run);
     RepairExecutables(run);
     RepairGames(run);
     run.DecimalPointIsDot = DecimalPointIsDot(run.System.Time.DecimalSeparator());
     run.VersionText = VersionText();
+}
+
+/// False if the program is to end: the user was told why, or another instance has come forward.
+bool Prepare(Launcher& launcher) {
+    Run& run = launcher.run;
+    RepairAndNoteFacts(run);
     if (!AskForChipsetOnFirstRun(launcher)) {
         return false;
     }
@@ -56,9 +60,7 @@ bool Prepare(Launcher& launcher) {
     }
     OfferRemovalOfOlderInstall(run);
     LoadEngines(launcher);
-    if (run.AppDirectory.ends_with('\\')) {
-        run.AppDirectory = DropRight(run.AppDirectory, 1);
-    }
+    CutTrailingBackslash(run.AppDirectory);
     return true;
 }
 
@@ -102,6 +104,16 @@ bool Start(Launcher& launcher) {
     }
     OpenWindows(launcher);
     return !run.Ended;
+}
+
+bool LoadUnseen(Launcher& launcher) {
+    Run& run = launcher.run;
+    RepairAndNoteFacts(run);
+    run.IsWin9x = run.System.Time.IsWin9x();
+    run.AppDirectory = run.System.Disk.ProgramDirectory();
+    LoadEngines(launcher);
+    CutTrailingBackslash(run.AppDirectory);
+    return LV_Frm_Load(launcher) && !run.Ended;
 }
 
 }  // namespace lv

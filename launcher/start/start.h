@@ -12,4 +12,8 @@ namespace lv {
 /// and shows it. False if the program ended on the way.
 bool Start(Launcher& launcher);
 
+/// The same without a window, another instance's or a question about it: the launcher as the stored settings have it,
+/// ready to launch. False if they cannot be used; the user was told why.
+bool LoadUnseen(Launcher& launcher);
+
 }  // namespace lv

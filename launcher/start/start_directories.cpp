@@ -42,6 +42,12 @@ bool RemoveDirectory(Run& run, TextView directory) {
 
 }  // namespace
 
+void CutTrailingBackslash(Text& directory) {
+    if (directory.ends_with('\\')) {
+        directory = DropRight(directory, 1);
+    }
+}
+
 bool AlignDirectories(Run& run) {
     Files& disk = run.System.Disk;
     const Text program = disk.ProgramDirectory();

@@ -8,6 +8,9 @@
 
 namespace lv {
 
+/// A directory as it is kept: without a "\" at its end.
+void CutTrailingBackslash(Text& directory);
+
 /// Makes the program's directory current and fixes AppDirectory; a network path stays as it stands and nothing becomes
 /// current. False if that failed: the user was told and the program ends.
 bool AlignDirectories(Run& run);

@@ -242,4 +242,13 @@ TEST_F(StartTest, TheVideoProfileWindowStaysClosedOtherwise) {
     EXPECT_FALSE(launcher.VideoProfile.VideoProfileWindowOpen);
 }
 
+TEST_F(StartTest, WithoutAWindowNeitherAnInstanceNorTheUserIsAsked) {
+    system.Services.Instance = &instance;
+    EXPECT_TRUE(LoadUnseen(launcher));
+    EXPECT_EQ(instance.Claims, 0);
+    EXPECT_FALSE(window.Visible);
+    EXPECT_EQ(run.AppDirectory, "C:\\LORVANE");
+    EXPECT_EQ(run.GameKind, Game::Quake);
+}
+
 }  // namespace lv
