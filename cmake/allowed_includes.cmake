@@ -2,12 +2,13 @@
 # one library of each subsystem that links what its folders may know, and nothing else.
 
 # From below to above.
-set(LV_SUBSYSTEMS platform foundation games catalogs console video launch gamespy launcher foundry wizard)
+set(LV_SUBSYSTEMS platform foundation games catalogs console video launch gamespy launcher foundry wizard commands)
 set(ROOMS_platform starting toolkit)
 set(ROOMS_games engines fitting trees)
 set(ROOMS_catalogs editors)
 set(ROOMS_console files checks)
 set(ROOMS_launcher start window menu setups)
+set(ROOMS_commands unseen dry_run)
 set(ROOMS_foundry tables document versions reading writing half_life losses fonts look editor)
 
 set(MAY_platform platform)
@@ -45,6 +46,9 @@ set(MAY_foundry/look foundry/look foundry/losses foundry/versions console/files 
 set(MAY_foundry/editor foundry/editor foundry/look foundry/losses foundry/versions console/files console/checks console foundry/fonts ${MAY_foundry/half_life})
 set(MAY_foundry foundry ${MAY_foundry/editor})
 set(MAY_wizard wizard launcher launcher/start launcher/window launcher/menu catalogs/editors ${MAY_catalogs})
+set(MAY_commands/unseen commands/unseen commands ${MAY_launcher})
+set(MAY_commands/dry_run commands/dry_run commands console/checks console/files console ${MAY_launcher})
+set(MAY_commands commands commands/unseen commands/dry_run console/checks console/files console ${MAY_launcher})
 
 # What the toolkit shows: each subsystem's forms know their own subsystem and the foundation's forms.
 set(LV_FORMS foundation catalogs video gamespy launcher foundry wizard)
@@ -68,7 +72,7 @@ set(MAY_platform/windows platform/windows platform/starting platform)
 set(MAY_platform/windows/toolkit platform/windows/toolkit platform/toolkit ${MAY_platform/windows})
 set(MAY_app app assets ${LV_LINUX} platform/windows platform/windows/toolkit platform/toolkit foundation foundation/forms
     catalogs/forms video/forms gamespy/forms launcher/start launcher/window launcher/forms foundry foundry/forms wizard
-    wizard/forms)
+    wizard/forms commands commands/unseen platform)
 
 # Folders of the logic, of the toolkit, and of a system.
 set(LV_LOGIC ${LV_SUBSYSTEMS} platform/memory)

@@ -1,0 +1,70 @@
+#include "commands/asked_instance.h"
+
+#include "commands/run_command.h"
+#include "foundation/field_strings.h"
+#include "foundation/numbers.h"
+#include "launcher/window/game_end.h"
+#include "launcher/window/window_life.h"
+
+namespace lv {
+
+namespace {
+
+constexpr TextView kEnd = TextView("\0", 1);
+constexpr std::size_t kReplyFields = 4;
+
+}  // namespace
+
+Text RequestOf(const std::vector<Text>& words) {
+    Text request;
+    for (const Text& word : words) {
+        request += Join(word, kEnd);
+    }
+    return request;
+}
+
+std::vector<Text> WordsOf(TextView request) {
+    std::vector<Text> words;
+    while (!request.empty()) {
+        const std::size_t end = std::min(request.find('\0'), request.size());
+        words.emplace_back(request.substr(0, end));
+        request.remove_prefix(std::min(end + 1, request.size()));
+    }
+    return words;
+}
+
+Text ReplyOf(const CommandResult& result) {
+    return RequestOf({std::to_string(result.Code), result.Out, result.Err, result.Started});
+}
+
+std::optional<CommandResult> ResultOf(TextView reply) {
+    const std::vector<Text> fields = WordsOf(reply);
+    if (fields.size() != kReplyFields || !reply.ends_with('\0')) {
+        return std::nullopt;
+    }
+    return CommandResult{static_cast<int>(ToIndex(fields[0])), fields[1], fields[2], fields[3]};
+}
+
+bool IsForTheWindow(const Command& command) {
+    return command.What == Verb::Launch && !command.DryRun;
+}
+
+CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView request) {
+    const Result<Command> command = ReadCommand(WordsOf(request));
+    if (!command.Ok()) {
+        return NotUnderstood(command.Fault);
+    }
+    if (!IsForTheWindow(command.Value) || window.LaunchUnderWay || window.run.Ended) {
+        return {.Code = exit_code::kFailed, .Err = "The running Lorvane 3D is busy.\n"};
+    }
+    CommandResult result = RunCommand(command.Value, place);
+    if (!result.Started.empty()) {
+        if (!DialogIsUp(window.run)) {
+            HideForLaunch(window);
+        }
+        NoteGameStart(window, result.Started);
+    }
+    return result;
+}
+
+}  // namespace lv

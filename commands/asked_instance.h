@@ -1,0 +1,29 @@
+// commands/asked_instance.h
+//
+// A command that another start of the program passes on to the one that runs, and its answer.
+
+#pragma once
+
+#include <optional>
+
+#include "commands/command_place.h"
+#include "commands/command_words.h"
+
+namespace lv {
+
+/// The words as one text, and back; a word ends at a character 0.
+Text RequestOf(const std::vector<Text>& words);
+std::vector<Text> WordsOf(TextView request);
+
+/// A result as one text, and back; nothing for a text that is none.
+Text ReplyOf(const CommandResult& result);
+std::optional<CommandResult> ResultOf(TextView reply);
+
+/// Whether a command is to be passed on: what changes the run of the window.
+bool IsForTheWindow(const Command& command);
+
+/// Does what another start asks of the program whose window this is. A game that was started is this window's: it goes
+/// out of the way unless a dialog is up, and comes back at the game's end as after its own launch.
+CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView request);
+
+}  // namespace lv

@@ -1,0 +1,64 @@
+#include "commands/close_name.h"
+
+#include <algorithm>
+
+#include "foundation/field_strings.h"
+
+namespace lv {
+
+namespace {
+
+constexpr std::size_t kLongestShown = 200;
+constexpr std::size_t kLongestCompared = 100;
+
+// Levenshtein's distance, a row of his table at a time.
+std::size_t Slips(TextView from, TextView to) {
+    std::vector<std::size_t> row(to.size() + 1);
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        row[i] = i;
+    }
+    for (std::size_t i = 0; i < from.size(); ++i) {
+        std::size_t diagonal = row[0]++;
+        for (std::size_t j = 0; j < to.size(); ++j) {
+            const std::size_t changed = diagonal + (from[i] == to[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({row[j] + 1, diagonal + 1, changed});
+        }
+    }
+    return row.back();
+}
+
+// Two letters that have changed places are two slips.
+std::size_t MostSlips(TextView word) {
+    return word.size() < 4 ? 1 : std::max<std::size_t>(2, word.size() / 3);
+}
+
+}  // namespace
+
+Text Shown(TextView name) {
+    Text shown(name.substr(0, kLongestShown));
+    std::ranges::replace_if(
+        shown, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, '?');
+    return name.size() > kLongestShown ? Join(shown, "...") : shown;
+}
+
+std::optional<Text> CloseName(TextView word, const std::vector<Text>& names) {
+    const Text wanted = LowerCase(word.substr(0, kLongestCompared));
+    std::optional<Text> best;
+    std::size_t fewest = MostSlips(wanted) + 1;
+    for (const Text& name : names) {
+        const std::size_t slips = Slips(wanted, LowerCase(TextView(name).substr(0, kLongestCompared)));
+        if (slips < fewest) {
+            fewest = slips;
+            best = name;
+        }
+    }
+    return best;
+}
+
+Text MeantWords(TextView word, const std::vector<Text>& names) {
+    const auto meant = CloseName(word, names);
+    return meant ? Join(" Did you mean \"", Shown(*meant), "\"?") : Text();
+}
+
+}  // namespace lv

@@ -1,0 +1,41 @@
+// commands/command_place.h
+//
+// What a command of the command line works on, and what it comes to.
+
+#pragma once
+
+#include <functional>
+
+#include "foundation/text.h"
+#include "launcher/launcher.h"
+#include "platform/platform.h"
+
+namespace lv {
+
+struct CommandPlace {
+    Platform& System;
+    TextView ShippedEngines{};                   // the table that the program carries
+    std::function<Text(TextView)> PathOfWord{};  // the drive path of a file that a word names; empty: no drive has it
+    std::function<void(Launcher&)> Connect{};    // to what lies above the launcher
+};
+
+namespace exit_code {
+constexpr int kDone = 0;
+constexpr int kFailed = 1;
+constexpr int kNotUnderstood = 2;
+constexpr int kNothingCalledSo = 3;
+constexpr int kFinds = 4;
+}  // namespace exit_code
+
+/// Texts are code page 1252, their lines end in "\n", and neither holds a control character but that and tabs.
+struct CommandResult {
+    int Code = exit_code::kDone;
+    Text Out{};
+    Text Err{};
+    Text Started{};  // the program file of the game that runs now
+};
+
+/// The text as CommandResult has it: line ends made "\n", one at its end, other control characters "?".
+Text Printed(TextView text);
+
+}  // namespace lv

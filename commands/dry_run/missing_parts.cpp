@@ -1,0 +1,97 @@
+#include "commands/dry_run/missing_parts.h"
+
+#include <algorithm>
+
+#include "catalogs/catalog_store.h"
+#include "catalogs/modifications.h"
+#include "commands/close_name.h"
+#include "console/checks/run_check.h"
+#include "console/files/played_of_run.h"
+#include "console/files/start_run.h"
+#include "foundation/field_strings.h"
+#include "launch/launch_files.h"
+#include "launcher/window/launch_flow.h"
+#include "launcher/window/lv_events.h"
+
+namespace lv {
+
+namespace {
+
+constexpr std::size_t kMostMissingScripts = 50;
+
+void LookForProgram(Launcher& launcher, const LaunchSelection& selection, std::vector<Text>& missing) {
+    Platform& system = launcher.run.System;
+    const Text& path = selection.ExecutablePath;
+    if (path.empty()) {
+        return;
+    }
+    if (!system.Disk.FileExists(path)) {
+        const Engine* const engine = SelectedEngine(launcher);
+        const Text package = engine != nullptr && !engine->DebianPackage.empty()
+                                 ? Join(" The Debian package \"", engine->DebianPackage, "\" has it.")
+                                 : Text();
+        missing.push_back(Join("The program ", path, " is not there.", package));
+    } else if (!system.Programs.HasRunnerFor(path)) {
+        missing.push_back(Join("What runs ", path,
+                               " here is not installed: wine for a Windows program, dosbox for one "
+                               "for DOS."));
+    }
+}
+
+void LookForChoices(Launcher& launcher, const LaunchSelection& selection, std::vector<Text>& missing) {
+    Files& disk = launcher.run.System.Disk;
+    const Text& directory = launcher.run.DefaultGameDirectory;
+    if (selection.Ticked.Has(Option::Game_Chk) && selection.Game) {
+        const Text modification = Join(directory, "\\", DirectoryOfOption(*selection.Game));
+        if (!disk.DirectoryExists(modification)) {
+            missing.push_back(Join("The modification's directory ", modification, " is not there."));
+        }
+    }
+    if (selection.Ticked.Has(Option::Script_Chk) && selection.Script && !disk.FileExists(*selection.Script)) {
+        missing.push_back(Join("The script ", *selection.Script, " is not there."));
+    }
+    if (selection.Ticked.Has(Option::Map_Chk) && selection.Map) {
+        const std::vector<Text> maps = SplitFields(launcher.Lists.MapList);
+        const Text wanted = Trim(*selection.Map);
+        if (std::ranges::none_of(maps, [&](const Text& map) { return SameText(Trim(map), wanted); })) {
+            missing.push_back(Join("The map \"", Shown(wanted), "\" lies in no archive and no directory of the game."));
+        }
+    }
+}
+
+StartRequest StartOf(Launcher& launcher) {
+    const Run& run = launcher.run;
+    StartRequest request;
+    request.Played = PlayedOfRun(run, SelectedEngine(launcher), run.GameKind, run.IsQuakeWorld);
+    request.Commands = {Join("exec ", kLaunchScriptFile)};
+    return request;
+}
+
+/// Of those that a script of the player's executes; what an engine looks for by itself may lack.
+void LookForScripts(Launcher& launcher, std::vector<Text>& missing) {
+    Run& run = launcher.run;
+    if (run.GameKind == Game::None || run.GameKind == Game::Unreal ||
+        !run.System.Disk.FileExists(ScriptFilePath(GameOf(run)))) {
+        return;
+    }
+    const StartRequest request = StartOf(launcher);
+    std::size_t told = 0;
+    for (const Finding& finding : CheckRun(RunStart(run.System.Disk, request), request.Played.Of)) {
+        if (finding.Kind == FindingKind::MissingScript && told++ < kMostMissingScripts) {
+            missing.push_back(FindingLine(finding));
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<Text> MissingParts(Launcher& launcher) {
+    const LaunchSelection selection = SelectionOf(launcher.Window);
+    std::vector<Text> missing;
+    LookForProgram(launcher, selection, missing);
+    LookForChoices(launcher, selection, missing);
+    LookForScripts(launcher, missing);
+    return missing;
+}
+
+}  // namespace lv

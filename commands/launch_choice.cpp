@@ -1,0 +1,107 @@
+#include "commands/launch_choice.h"
+
+#include "catalogs/servers.h"
+#include "commands/listed_rows.h"
+#include "commands/server_word.h"
+#include "foundation/field_strings.h"
+#include "foundation/padded_item.h"
+#include "launcher/setups/row_picks.h"
+#include "launcher/window/lv_events.h"
+
+namespace lv {
+
+namespace {
+
+using PickOf = bool (*)(Launcher&, TextView);
+
+/// What has to be picked ahead of what its lists depend on.
+struct ChoiceRow {
+    std::optional<Text> Command::*Name;
+    Listed Kind;
+    PickOf Pick;
+    std::optional<Option> Ticks;
+};
+
+// clang-format off
+const ChoiceRow kChoices[] = {
+    {&Command::Title, Listed::Programs, PickExecutable, std::nullopt},
+    {&Command::VideoProfile, Listed::VideoProfiles, PickVideoProfile, std::nullopt},
+    {&Command::Modification, Listed::Modifications, PickModification, Option::Game_Chk},
+    {&Command::Script, Listed::Scripts, PickScript, Option::Script_Chk},
+    {&Command::Server, Listed::Servers, PickServer, Option::Server_Chk},
+    {&Command::Map, Listed::Maps, PickMap, Option::Map_Chk},
+};
+
+struct ClearedRow {
+    Option Box;
+    TextView Note;
+};
+constexpr ClearedRow kCleared[] = {
+    {Option::LaunchQspy_Chk, "\"Configure and Launch GameSpy\" is ticked, which needs the main window: the game is started itself."},
+    {Option::QSpy_Chk, "\"Connect To Current GameSpy Server\" is ticked, which needs the main window: no server is joined."},
+};
+// clang-format on
+
+/// The value of a server's row; one that is not in the list, but is an address, gets a row for this launch.
+Result<Text> ServerCalled(Launcher& launcher, TextView name) {
+    Result<Text> listed = RowCalled(RowsOf(launcher, Listed::Servers), name, NameOfKind(Listed::Servers));
+    if (listed.Ok() || listed.Fault.Number != error::kFileNotFound) {
+        return listed;
+    }
+    const auto link = ReadServerLink(name);
+    const Result<ServerAddress> address = link ? Result(link->Address) : ReadServerAddress(name);
+    if (!address.Ok()) {
+        return address.Fault;
+    }
+    const Text record =
+        Join(address.Value.Host, ";", address.Value.Port, ";", std::to_string(WantedServerType(launcher.run)), ";");
+    launcher.Window.Server_Cbo.Items.push_back(MakeItem(name, record));
+    return record;
+}
+
+Result<Text> Called(Launcher& launcher, const ChoiceRow& row, TextView name) {
+    return row.Kind == Listed::Servers ? ServerCalled(launcher, name)
+                                       : RowCalled(RowsOf(launcher, row.Kind), name, NameOfKind(row.Kind));
+}
+
+void Clear(Launcher& launcher, Text& notes) {
+    for (const ClearedRow& row : kCleared) {
+        if (launcher.Window.Box(row.Box).Value == 1) {
+            SetOption(launcher, row.Box, 0);
+            notes += Join(row.Note, NewLine);
+        }
+    }
+    launcher.Window.Box(Option::EndOnLaunch_Chk).Value = 0;  // there is no window to leave
+}
+
+}  // namespace
+
+std::vector<Missing> Choose(Launcher& launcher, const Command& command, Text& notes) {
+    std::vector<Missing> missing;
+    for (const ChoiceRow& row : kChoices) {
+        const std::optional<Text>& name = command.*(row.Name);
+        if (!name) {
+            continue;
+        }
+        const Result<Text> value = Called(launcher, row, *name);
+        const bool isMap = row.Kind == Listed::Maps;
+        if (!value.Ok()) {
+            missing.push_back({value.Fault.Text, isMap});
+            if (row.Kind == Listed::Programs) {
+                return missing;  // the other lists would be another game's
+            }
+            if (!isMap) {
+                continue;
+            }
+            launcher.Window.Map_Cbo.Items.push_back(*name);
+        }
+        (void)row.Pick(launcher, value.Ok() ? value.Value : *name);
+        if (row.Ticks) {
+            SetOption(launcher, *row.Ticks, 1);
+        }
+    }
+    Clear(launcher, notes);
+    return missing;
+}
+
+}  // namespace lv

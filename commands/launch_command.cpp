@@ -1,0 +1,74 @@
+#include "commands/launch_command.h"
+
+#include "commands/dry_run/dry_run_report.h"
+#include "commands/dry_run/rehearsed_files.h"
+#include "commands/dry_run/rehearsed_programs.h"
+#include "commands/launch_choice.h"
+#include "commands/unseen/unseen_launcher.h"
+#include "foundation/field_strings.h"
+#include "launcher/window/launch_flow.h"
+
+namespace lv {
+
+namespace {
+
+constexpr int kLaunchButton = 0;
+
+CommandResult NotCalledSo(const std::vector<Missing>& missing) {
+    CommandResult result{.Code = exit_code::kNothingCalledSo};
+    for (const Missing& each : missing) {
+        result.Err += Join(each.Words, NewLine);
+    }
+    return result;
+}
+
+CommandResult Start(const Command& command, const CommandPlace& place) {
+    UnseenLauncher unseen(place);
+    if (const Text why = unseen.Load(); !why.empty()) {
+        return {.Code = exit_code::kFailed, .Err = why};
+    }
+    Text notes;
+    const std::vector<Missing> missing = Choose(unseen.Its, command, notes);
+    if (!missing.empty()) {
+        return NotCalledSo(missing);
+    }
+    DoIt_Cmd_Click(unseen.Its, kLaunchButton);
+    CommandResult result{.Err = Join(notes, unseen.User.Said()), .Started = unseen.Its.LastGame.Name};
+    if (result.Started.empty()) {
+        result.Code = exit_code::kFailed;
+        result.Err += Join("Nothing was started.", NewLine);
+    } else {
+        result.Out = Join("Started ", result.Started, " in ", unseen.TheRun.DefaultGameDirectory, NewLine);
+    }
+    return result;
+}
+
+CommandResult Rehearse(const Command& command, const CommandPlace& place) {
+    RehearsedFiles disk(place.System.Disk);
+    RehearsedPrograms programs(place.System.Programs, disk);
+    RehearsedRegistry registry(place.System.Registry);
+    UnseenLauncher unseen(place, {&disk, &programs, &registry});
+    if (const Text why = unseen.Load(); !why.empty()) {
+        return {.Code = exit_code::kFailed, .Err = why};
+    }
+    Text notes;
+    const std::vector<Missing> missing = Choose(unseen.Its, command, notes);
+    for (const Missing& each : missing) {
+        if (!each.GoesOn) {
+            return NotCalledSo(missing);
+        }
+    }
+    Rehearsal rehearsal{disk, programs, registry, unseen.Its, {}};
+    DoIt_Cmd_Click(unseen.Its, kLaunchButton);
+    rehearsal.Said = Join(notes, unseen.User.Said());
+    const DryRunReport report = ReportOf(rehearsal);
+    return {.Code = report.IsMissingSomething ? exit_code::kFinds : exit_code::kDone, .Out = report.Text};
+}
+
+}  // namespace
+
+CommandResult LaunchOrRehearse(const Command& command, const CommandPlace& place) {
+    return command.DryRun ? Rehearse(command, place) : Start(command, place);
+}
+
+}  // namespace lv

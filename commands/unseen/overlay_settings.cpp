@@ -1,0 +1,39 @@
+#include "commands/unseen/overlay_settings.h"
+
+#include <algorithm>
+
+#include "foundation/field_strings.h"
+
+namespace lv {
+
+namespace {
+
+std::string KeyOf(std::string_view section, std::string_view key) {
+    return LowerCase(Join(section, std::string_view("\0", 1), key));
+}
+
+}  // namespace
+
+void OverlaySettings::LetThrough(std::string_view section, std::string_view key) {
+    through_.push_back(KeyOf(section, key));
+}
+
+std::optional<std::string> OverlaySettings::Read(std::string_view application, std::string_view section,
+                                                 std::string_view key) {
+    const auto written = written_.find(LowerCase(Join(application, "\n")) + KeyOf(section, key));
+    return written != written_.end() ? written->second : below_.Read(application, section, key);
+}
+
+Error OverlaySettings::Write(std::string_view application, std::string_view section, std::string_view key,
+                             std::string_view value) {
+    const std::string name = KeyOf(section, key);
+    if (std::ranges::find(through_, name) != through_.end()) {
+        if (Error failed = below_.Write(application, section, key, value)) {
+            return failed;
+        }
+    }
+    written_[LowerCase(Join(application, "\n")) + name] = value;
+    return {};
+}
+
+}  // namespace lv

@@ -1,0 +1,34 @@
+// commands/unseen/overlay_settings.h
+//
+// A settings store in front of another one: what is written stays in front, and what is behind it stays as it is.
+
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/settings_backing.h"
+
+namespace lv {
+
+class OverlaySettings : public SettingsBacking {
+  public:
+    /// `below` outlives it.
+    explicit OverlaySettings(SettingsBacking& below) : below_(below) {}
+
+    /// From now on a write of this key reaches the store below as well.
+    void LetThrough(std::string_view section, std::string_view key);
+
+    std::optional<std::string> Read(std::string_view application, std::string_view section,
+                                    std::string_view key) override;
+    Error Write(std::string_view application, std::string_view section, std::string_view key,
+                std::string_view value) override;
+
+  private:
+    SettingsBacking& below_;
+    std::map<std::string, std::string> written_;
+    std::vector<std::string> through_;
+};
+
+}  // namespace lv

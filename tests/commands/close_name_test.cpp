@@ -1,0 +1,38 @@
+#include "commands/close_name.h"
+
+#include <gtest/gtest.h>
+
+namespace lv {
+namespace {
+
+TEST(CloseName, AFewSlipsAreSeen) {
+    const std::vector<Text> names = {"--launch", "--list", "--map"};
+    EXPECT_EQ(CloseName("--lanch", names), "--launch");
+    EXPECT_EQ(CloseName("--LAUNCH", names), "--launch");
+    EXPECT_EQ(CloseName("--lits", names), "--list");
+    EXPECT_EQ(CloseName("--mapp", names), "--map");
+}
+
+TEST(CloseName, AnotherWordIsNotClose) {
+    EXPECT_EQ(CloseName("Unreal", {"Quake", "Half-Life"}), std::nullopt);
+    EXPECT_EQ(CloseName("Quake", {}), std::nullopt);
+}
+
+TEST(CloseName, TheClosestIsMeant) {
+    EXPECT_EQ(CloseName("Quake 2", {"Quake 3", "Quake 2x", "quake 2"}), "quake 2");
+}
+
+TEST(CloseName, LongNamesCostNoMoreThanTheirBeginning) {
+    const Text longest(1'000'000, 'a');
+    EXPECT_EQ(CloseName(longest, {longest + "b"}), longest + "b");
+}
+
+TEST(CloseName, ANameNeverCommandsATerminal) {
+    EXPECT_EQ(Shown("a\x1B]0;b\x07\r\n"), "a?]0;b???");
+    EXPECT_EQ(Shown(Text(300, 'x')), Text(200, 'x') + "...");
+    EXPECT_EQ(MeantWords("Quak", {"Quake\n"}), " Did you mean \"Quake?\"?");
+    EXPECT_EQ(MeantWords("Unreal", {"Quake"}), "");
+}
+
+}  // namespace
+}  // namespace lv

@@ -1,0 +1,54 @@
+#include "commands/unseen/overlay_settings.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/memory/memory_platform.h"
+
+namespace lv {
+namespace {
+
+TEST(OverlaySettings, WhatIsWrittenStaysInFront) {
+    MemorySettings below;
+    (void)below.Write("A", "Options", "Qspy", "0");
+    OverlaySettings store(below);
+    EXPECT_FALSE(store.Write("A", "Options", "QSpy", "1"));
+    EXPECT_EQ(store.Read("a", "options", "qspy"), "1");
+    EXPECT_EQ(below.Read("A", "Options", "QSpy"), "0");
+}
+
+TEST(OverlaySettings, WhatIsNotWrittenComesFromBelow) {
+    MemorySettings below;
+    (void)below.Write("A", "Options", "UseGames", "1");
+    OverlaySettings store(below);
+    EXPECT_EQ(store.Read("A", "Options", "UseGames"), "1");
+    EXPECT_EQ(store.Read("A", "Options", "UseMemory"), std::nullopt);
+}
+
+TEST(OverlaySettings, TheSameKeyOfAnotherSectionOrApplicationIsAnother) {
+    MemorySettings below;
+    OverlaySettings store(below);
+    (void)store.Write("A", "Options", "Key", "1");
+    EXPECT_EQ(store.Read("B", "Options", "Key"), std::nullopt);
+    EXPECT_EQ(store.Read("A", "Other", "Key"), std::nullopt);
+}
+
+TEST(OverlaySettings, AKeyThatIsLetThroughReachesTheStoreBelow) {
+    MemorySettings below;
+    OverlaySettings store(below);
+    store.LetThrough("LV-Stuff", "LaunchCount");
+    (void)store.Write("A", "LV-Stuff", "launchcount", "3");
+    EXPECT_EQ(below.Read("A", "LV-Stuff", "LaunchCount"), "3");
+    EXPECT_EQ(store.Read("A", "LV-Stuff", "LaunchCount"), "3");
+}
+
+TEST(OverlaySettings, ARefusedWriteBelowIsRefused) {
+    MemorySettings below;
+    OverlaySettings store(below);
+    store.LetThrough("S", "K");
+    below.RefuseWrites = MakeError(error::kDiskFull);
+    EXPECT_EQ(store.Write("A", "S", "K", "1").Number, error::kDiskFull);
+    EXPECT_EQ(store.Read("A", "S", "K"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace lv
