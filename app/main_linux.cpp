@@ -8,18 +8,21 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
+#include <vector>
 
+#include "app/linux_store.h"
 #include "app/lorvane_app.h"
+#include "app/words.h"
+#include "app/words_run.h"
 #include "foundation/forms/wx_clipboard.h"
-#include "foundation/open_store.h"
 #include "launcher/window/window_life.h"
+#include "platform/code_page.h"
 #include "platform/linux/end_signals.h"
-#include "platform/linux/files/linux_files.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_instance.h"
 #include "platform/linux/linux_known_places.h"
 #include "platform/linux/linux_processes.h"
-#include "platform/linux/settings/sqlite_settings.h"
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_registry.h"
 #include "platform/linux/x11_desktop.h"
@@ -27,20 +30,6 @@
 namespace lv {
 
 namespace {
-
-DriveDirectories OwnDrives() {
-    return {DataDirectory() / "drives", WinePrefix(), ProgramFileDirectory()};
-}
-
-OpenedStore Settled(Result<std::unique_ptr<SqliteSettings>> opened) {
-    return opened.Ok() ? OpenedStore(std::move(opened.Value)) : OpenedStore(opened.Fault);
-}
-
-StoreWays OwnStore() {
-    const auto file = ConfigDirectory() / "settings.sqlite";
-    return {[file] { return Settled(SqliteSettings::Open(file, kPatienceBeforeAsking)); },
-            [file] { return Settled(SqliteSettings::OpenCopy(file)); }};
-}
 
 struct LinuxSystem {
     explicit LinuxSystem(std::unique_ptr<SettingsBacking> store) : Settings(std::move(store)) {
@@ -61,6 +50,7 @@ struct LinuxSystem {
 
     void Started(LvForm&, Launcher& launcher) {
         Instance.OnRaise = [&launcher] { ComeForward(launcher); };
+        Instance.OnRequest = AnswersOf(launcher);
         Signals.emplace();
         OnEnd = [&launcher] { SessionEnds(launcher); };
     }
@@ -122,4 +112,13 @@ class LinuxApp : public LorvaneApp<LinuxSystem> {
 
 }  // namespace lv
 
-wxIMPLEMENT_APP(lv::LinuxApp);
+wxIMPLEMENT_APP_NO_MAIN(lv::LinuxApp);
+
+int main(int argc, char** argv) {
+    std::vector<std::string> words;
+    for (int i = 1; i < argc; ++i) {
+        words.push_back(lv::FromUtf8Lossy(argv[i]));
+    }
+    const auto code = words.empty() ? std::nullopt : lv::DoWords(words);
+    return code ? *code : wxEntry(argc, argv);
+}

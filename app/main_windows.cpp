@@ -3,11 +3,18 @@
 // The program on Windows: makes the platform.
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "app/lorvane_app.h"
+#include "app/words.h"
+#include "app/words_run.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "launcher/window/window_life.h"
+#include "platform/windows/printed_text.h"
 #include "platform/windows/registry_settings.h"
+#include "platform/windows/system.h"
 #include "platform/windows/task_bar.h"
 #include "platform/windows/toolkit/access_keys.h"
 #include "platform/windows/windows_clock.h"
@@ -33,6 +40,7 @@ struct WindowsSystem {
 
     // A second start shows this window behind the program's back; everything else has to follow.
     void Started(LvForm& window, Launcher& launcher) {
+        Instance.OnRequest = AnswersOf(launcher);
         window.Bind(wxEVT_SHOW, [&launcher](wxShowEvent& event) {
             event.Skip();
             if (event.IsShown() && !launcher.Window.Visible) {
@@ -41,7 +49,7 @@ struct WindowsSystem {
         });
     }
 
-    void AnswerKnocks() {}
+    void AnswerKnocks() { Instance.Serve(); }
 
     RegistrySettings Settings{"Lorvane 3D"};
     WindowsFiles Disk;
@@ -49,7 +57,7 @@ struct WindowsSystem {
     WindowsProcesses Programs{Disk};
     WxClipboard Clip;
     WindowsClock Time;
-    WindowsInstance Instance{"   Lorvane 3D"};
+    WindowsInstance Instance{kInstanceCaption};
     WindowsDesktop Desk;
     WindowsKnownPlaces Places{Disk};
     AccessKeys Keys;
@@ -68,4 +76,10 @@ class WindowsApp : public LorvaneApp<WindowsSystem> {
 
 }  // namespace lv
 
-wxIMPLEMENT_APP(lv::WindowsApp);
+wxIMPLEMENT_APP_NO_MAIN(lv::WindowsApp);
+
+int WINAPI WinMain(HINSTANCE program, HINSTANCE before, LPSTR line, int show) {
+    const std::vector<std::string> words = lv::WordsOfCommandLine();
+    const auto code = words.empty() ? std::nullopt : lv::DoWords(words);
+    return code ? *code : wxEntry(program, before, line, show);
+}

@@ -1,0 +1,28 @@
+#include "app/linux_store.h"
+
+#include <utility>
+
+#include "platform/linux/settings/sqlite_settings.h"
+#include "platform/linux/user_directories.h"
+
+namespace lv {
+
+namespace {
+
+OpenedStore Settled(Result<std::unique_ptr<SqliteSettings>> opened) {
+    return opened.Ok() ? OpenedStore(std::move(opened.Value)) : OpenedStore(opened.Fault);
+}
+
+}  // namespace
+
+DriveDirectories OwnDrives() {
+    return {DataDirectory() / "drives", WinePrefix(), ProgramFileDirectory()};
+}
+
+StoreWays OwnStore() {
+    const auto file = ConfigDirectory() / "settings.sqlite";
+    return {[file] { return Settled(SqliteSettings::Open(file, kPatienceBeforeAsking)); },
+            [file] { return Settled(SqliteSettings::OpenCopy(file)); }};
+}
+
+}  // namespace lv

@@ -1,0 +1,84 @@
+#include <unistd.h>
+
+#include <filesystem>
+#include <memory>
+
+#include "app/linux_store.h"
+#include "app/words.h"
+#include "app/words_run.h"
+#include "foundation/field_strings.h"
+#include "platform/code_page.h"
+#include "platform/linux/linux_clock.h"
+#include "platform/linux/linux_instance.h"
+#include "platform/linux/linux_known_places.h"
+#include "platform/linux/linux_processes.h"
+#include "platform/linux/user_directories.h"
+#include "platform/linux/wine_registry.h"
+
+namespace lv {
+
+namespace {
+
+void Write(int file, const Text& text) {
+    const std::string bytes = ToUtf8(text);
+    for (std::size_t done = 0; done < bytes.size();) {
+        const ssize_t written = write(file, bytes.data() + done, bytes.size() - done);
+        if (written <= 0) {
+            return;
+        }
+        done += static_cast<std::size_t>(written);
+    }
+}
+
+int Print(const CommandResult& result) {
+    Write(STDOUT_FILENO, result.Out);
+    Write(STDERR_FILENO, result.Err);
+    return result.Code;
+}
+
+/// The platform without a display.
+struct UnseenSystem {
+    explicit UnseenSystem(std::unique_ptr<SettingsBacking> store) : Settings(std::move(store)) {
+        Services.Places = &Places;
+    }
+
+    std::unique_ptr<SettingsBacking> Settings;
+    LinuxFiles Disk{OwnDrives()};
+    WineRegistry Registry{*Settings, FindWine()};
+    LinuxProcesses Programs{Disk};
+    NoClipboard Clip;
+    LinuxClock Time;
+    LinuxKnownPlaces Places{Disk};
+    Platform Services{*Settings, Registry, Disk, Programs, Clip, Time};
+};
+
+/// A full path on the drives stays as it is; any other is the host's, from the directory that the user stands in.
+Text PathOfWord(Files& disk, TextView word) {
+    const bool isDrivePath = word.size() > 2 && word[1] == ':' && (word[2] == '\\' || word[2] == '/');
+    if (isDrivePath) {
+        return ReplaceSameLength(word, "/", "\\");
+    }
+    std::error_code failed;
+    const auto host = std::filesystem::absolute(ToUtf8(word), failed);
+    return failed ? Text() : disk.FromHost(host.lexically_normal().string());
+}
+
+CommandResult RunHere(const Command& command) {
+    PrintingUser user;
+    auto store = OpenStore(user, OwnStore());
+    if (!store) {
+        return {.Code = exit_code::kFailed, .Err = Printed(user.Said())};
+    }
+    UnseenSystem system(std::move(store));
+    return RunFor(system.Services, command, [&system](TextView word) { return PathOfWord(system.Disk, word); });
+}
+
+}  // namespace
+
+std::optional<int> DoWords(const std::vector<std::string>& words) {
+    LinuxInstance running(ConfigDirectory().string());
+    const auto result = ResultOfWords(words, running, RunHere);
+    return result ? std::optional(Print(*result)) : std::nullopt;
+}
+
+}  // namespace lv

@@ -1,0 +1,57 @@
+#include <string>
+
+#include "app/words.h"
+#include "app/words_run.h"
+#include "foundation/field_strings.h"
+#include "platform/windows/printed_text.h"
+#include "platform/windows/registry_settings.h"
+#include "platform/windows/windows_clock.h"
+#include "platform/windows/windows_files.h"
+#include "platform/windows/windows_instance.h"
+#include "platform/windows/windows_known_places.h"
+#include "platform/windows/windows_processes.h"
+#include "platform/windows/windows_registry.h"
+
+namespace lv {
+
+namespace {
+
+/// The platform without a window.
+struct UnseenSystem {
+    UnseenSystem() { Services.Places = &Places; }
+
+    RegistrySettings Settings{"Lorvane 3D"};
+    WindowsFiles Disk;
+    WindowsRegistry Registry;
+    WindowsProcesses Programs{Disk};
+    NoClipboard Clip;
+    WindowsClock Time;
+    WindowsKnownPlaces Places{Disk};
+    Platform Services{Settings, Registry, Disk, Programs, Clip, Time};
+};
+
+int Print(const CommandResult& result) {
+    Print(PrintedTo::Output, result.Out);
+    Print(PrintedTo::Errors, result.Err);
+    return result.Code;
+}
+
+Text PathOfWord(Files& disk, TextView word) {
+    const bool isFull = word.size() > 1 && (word[1] == ':' || word.starts_with("\\\\"));
+    return ReplaceSameLength(isFull ? Text(word) : PathBelow(disk.CurrentDirectory(), word), "/", "\\");
+}
+
+CommandResult RunHere(const Command& command) {
+    UnseenSystem system;
+    return RunFor(system.Services, command, [&system](TextView word) { return PathOfWord(system.Disk, word); });
+}
+
+}  // namespace
+
+std::optional<int> DoWords(const std::vector<std::string>& words) {
+    WindowsInstance running(kInstanceCaption);
+    const auto result = ResultOfWords(words, running, RunHere);
+    return result ? std::optional(Print(*result)) : std::nullopt;
+}
+
+}  // namespace lv

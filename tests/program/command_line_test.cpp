@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include "tests/program/program_run.h"
+#include "tests/program/screen.h"
+#include "tests/support/game_yard.h"
+#include "tests/support/test_paths.h"
+
+namespace lv {
+
+namespace {
+
+struct Said {
+    int Code = -1;
+    std::string Text;  // both streams
+};
+
+/// The program with words, without a display, in that home.
+Said Say(const ProgramHome& home, const std::string& words) {
+    const std::string said = (home.Root / "said.txt").string();
+    const std::string program = TestBinaryDir() + "/lorvane3d";
+    OwnProcess run(home, {"/bin/sh", "-c",
+                          "unset DISPLAY WAYLAND_DISPLAY; exec '" + program + "' " + words + " >'" + said + "' 2>&1"});
+    const auto code = run.WaitForEnd();
+    return {code ? *code : -1, ReadBytes(said)};
+}
+
+}  // namespace
+
+TEST(CommandLine, WorksWithoutADisplay) {
+    ProgramHome home("words");
+    home.Prepare();
+    EXPECT_EQ(Say(home, "--version").Text, "Lorvane 3D 1.06.0112 <Beta>\n");
+    EXPECT_EQ(Say(home, "--help").Code, 0);
+    const Said list = Say(home, "--list");
+    EXPECT_EQ(list.Code, 0);
+    EXPECT_NE(list.Text.find("\tQuake\t"), std::string::npos) << list.Text;
+    const Said wrong = Say(home, "--lanch Quake");
+    EXPECT_EQ(wrong.Code, 2);
+    EXPECT_NE(wrong.Text.find("Did you mean \"--launch\"?"), std::string::npos) << wrong.Text;
+}
+
+TEST(CommandLine, LaunchesWithoutADisplayAndStoresNoPick) {
+    ProgramHome home("words_launch");
+    home.Prepare();
+    const auto before = RowsOf(home.Settings);
+    const Said launch = Say(home, "--launch QUAKE.EXE --map DM4");
+    EXPECT_EQ(launch.Code, 3) << launch.Text;
+    const std::string title = Say(home, "--list").Text;
+    const Said started = Say(home, "--launch '" + title.substr(0, title.find('\t')) + "'");
+    EXPECT_EQ(started.Code, 0) << started.Text;
+    EXPECT_FALSE(WaitForOutput(home.Quake / "output.txt").empty());
+    auto after = RowsOf(home.Settings);
+    after.erase("LV-Stuff/LaunchCount");
+    auto expected = before;
+    expected.erase("LV-Stuff/LaunchCount");
+    EXPECT_EQ(after, expected);
+}
+
+TEST(CommandLine, ADryRunTouchesNothing) {
+    ProgramHome home("words_dry");
+    home.Prepare();
+    const auto before = RowsOf(home.Settings);
+    const std::string title = Say(home, "--list").Text;
+    const Said dry = Say(home, "--dry-run --launch '" + title.substr(0, title.find('\t')) + "'");
+    EXPECT_EQ(dry.Code, 0) << dry.Text;
+    EXPECT_NE(dry.Text.find("lv_666.bat"), std::string::npos) << dry.Text;
+    EXPECT_FALSE(std::filesystem::exists(home.Quake / "lv_666.bat"));
+    EXPECT_EQ(RowsOf(home.Settings), before);
+}
+
+TEST(CommandLine, ARunningWindowLaunchesAndGoesOutOfTheWay) {
+    ProgramHome home("words_running");
+    home.Prepare();
+    ProgramRun running(home);
+    const std::string window = running.WaitForWindow();
+    const std::string title = Say(home, "--list").Text;
+    const Said started = Say(home, "--launch '" + title.substr(0, title.find('\t')) + "'");
+    EXPECT_EQ(started.Code, 0) << started.Text;
+    EXPECT_TRUE(started.Text.starts_with("Started ")) << started.Text;
+    EXPECT_TRUE(WaitUntil([&] { return !IsShown(window) || StateOf(window) == "Iconic"; }));
+}
+
+}  // namespace lv
