@@ -6,6 +6,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/padded_item.h"
 #include "launcher/setups/row_picks.h"
+#include "launcher/setups/setup_store.h"
 #include "launcher/window/lv_events.h"
 
 namespace lv {
@@ -64,6 +65,21 @@ Result<Text> Called(Launcher& launcher, const ChoiceRow& row, TextView name) {
                                        : RowCalled(RowsOf(launcher, row.Kind), name, NameOfKind(row.Kind));
 }
 
+/// False if there is nothing to go on with.
+bool PickSetup(Launcher& launcher, TextView name, std::vector<Missing>& missing) {
+    const SetupList setups = LoadSetups(launcher.run);
+    const KeptSetup* const setup = setups.Named(name);
+    if (setup == nullptr) {
+        missing.push_back({RowCalled(RowsOf(launcher, Listed::Setups), name, NameOfKind(Listed::Setups)).Fault.Text});
+        return false;
+    }
+    const bool hasProgram = PickExecutable(launcher, setup->What.ExecutablePath);
+    for (Text& gone : ApplySetup(launcher, setup->What)) {
+        missing.push_back({std::move(gone), hasProgram ? WithoutIt::TheRestGoesOn : WithoutIt::NothingGoesOn});
+    }
+    return hasProgram;
+}
+
 void Clear(Launcher& launcher, Text& notes) {
     for (const ClearedRow& row : kCleared) {
         if (launcher.Window.Box(row.Box).Value == 1) {
@@ -78,6 +94,9 @@ void Clear(Launcher& launcher, Text& notes) {
 
 std::vector<Missing> Choose(Launcher& launcher, const Command& command, Text& notes) {
     std::vector<Missing> missing;
+    if (command.Setup && !PickSetup(launcher, *command.Setup, missing)) {
+        return missing;
+    }
     for (const ChoiceRow& row : kChoices) {
         const std::optional<Text>& name = command.*(row.Name);
         if (!name) {
@@ -86,7 +105,7 @@ std::vector<Missing> Choose(Launcher& launcher, const Command& command, Text& no
         const Result<Text> value = Called(launcher, row, *name);
         const bool isMap = row.Kind == Listed::Maps;
         if (!value.Ok()) {
-            missing.push_back({value.Fault.Text, isMap});
+            missing.push_back({value.Fault.Text, isMap ? WithoutIt::TheLaunchShowsIt : WithoutIt::NothingGoesOn});
             if (row.Kind == Listed::Programs) {
                 return missing;  // the other lists would be another game's
             }

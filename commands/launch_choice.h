@@ -9,10 +9,16 @@
 
 namespace lv {
 
-/// A name that there is nothing for, in a sentence. A map that is not there can still be asked of the game.
+enum class WithoutIt {
+    NothingGoesOn,
+    TheLaunchShowsIt,  // a map that is not there can still be asked of the game
+    TheRestGoesOn,     // of a setup
+};
+
+/// What there is nothing for, in a sentence.
 struct Missing {
     Text Words;
-    bool GoesOn = false;
+    WithoutIt How = WithoutIt::NothingGoesOn;
 };
 
 /// Picks what the command names, and ticks its box; boxes that ask GameSpy 3D, which a launch without the window

@@ -54,11 +54,16 @@ CommandResult Rehearse(const Command& command, const CommandPlace& place) {
     Text notes;
     const std::vector<Missing> missing = Choose(unseen.Its, command, notes);
     for (const Missing& each : missing) {
-        if (!each.GoesOn) {
+        if (each.How == WithoutIt::NothingGoesOn) {
             return NotCalledSo(missing);
         }
     }
-    Rehearsal rehearsal{disk, programs, registry, unseen.Its, {}};
+    Rehearsal rehearsal{disk, programs, registry, unseen.Its, {}, {}};
+    for (const Missing& each : missing) {
+        if (each.How == WithoutIt::TheRestGoesOn) {
+            rehearsal.Missing.push_back(each.Words);
+        }
+    }
     DoIt_Cmd_Click(unseen.Its, kLaunchButton);
     rehearsal.Said = Join(notes, unseen.User.Said());
     const DryRunReport report = ReportOf(rehearsal);

@@ -4,6 +4,7 @@
 #include "catalogs/servers.h"
 #include "foundation/field_strings.h"
 #include "foundation/padded_item.h"
+#include "launcher/setups/setup_store.h"
 
 namespace lv {
 
@@ -39,6 +40,14 @@ std::vector<NamedRow> AllOf(const ListBox& list, RowOf rowOf) {
     return rows;
 }
 
+std::vector<NamedRow> SetupRowsOf(const Launcher& launcher) {
+    std::vector<NamedRow> rows;
+    for (const KeptSetup& setup : LoadSetups(launcher.run).All) {
+        rows.push_back({setup.What.Name, setup.What.Name});
+    }
+    return rows;
+}
+
 std::vector<NamedRow> ProgramRows(const ImageCombo& list) {
     std::vector<NamedRow> rows;
     for (const ImageComboItem& item : list.Items) {
@@ -65,7 +74,7 @@ std::vector<NamedRow> RowsOf(const Launcher& launcher, Listed kind) {
         case Listed::VideoProfiles:
             return AllOf(window.VideoProfiles_Cbo, PlainRow);
         case Listed::Setups:
-            break;
+            return SetupRowsOf(launcher);
     }
     return {};
 }

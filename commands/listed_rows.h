@@ -10,7 +10,7 @@
 
 namespace lv {
 
-/// Those of the picked game. Of a setup, only its name and the title of its program.
+/// Those of the picked game; setups are of all games.
 std::vector<NamedRow> RowsOf(const Launcher& launcher, Listed kind);
 
 /// What a message calls one of them, "modification".

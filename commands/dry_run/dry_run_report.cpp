@@ -1,5 +1,8 @@
 #include "commands/dry_run/dry_run_report.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "commands/dry_run/missing_parts.h"
 #include "foundation/field_strings.h"
 #include "games/games.h"
@@ -129,7 +132,8 @@ Text GamePart(const Launcher& launcher) {
 }  // namespace
 
 DryRunReport ReportOf(const Rehearsal& rehearsal) {
-    const std::vector<Text> missing = MissingParts(rehearsal.Its);
+    std::vector<Text> missing = rehearsal.Missing;
+    std::ranges::move(MissingParts(rehearsal.Its), std::back_inserter(missing));
     const auto& plan = rehearsal.Programs.Plan;
     DryRunReport report;
     report.IsMissingSomething = !missing.empty() || !plan || !plan->Ok();

@@ -4,6 +4,8 @@
 
 #pragma once
 
+#include <vector>
+
 #include "commands/dry_run/rehearsed_files.h"
 #include "commands/dry_run/rehearsed_programs.h"
 #include "launcher/launcher.h"
@@ -16,7 +18,8 @@ struct Rehearsal {
     const RehearsedPrograms& Programs;
     const RehearsedRegistry& Registry;
     Launcher& Its;
-    lv::Text Said;  // in boxes, on the way
+    std::vector<lv::Text> Missing;  // what the launcher does not hold any more, a sentence each
+    lv::Text Said;                  // in boxes, on the way
 };
 
 struct DryRunReport {

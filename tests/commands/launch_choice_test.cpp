@@ -1,5 +1,7 @@
 #include "commands/launch_choice.h"
 
+#include "launcher/setups/row_picks.h"
+#include "launcher/setups/setup_store.h"
 #include "tests/support/launcher_fixture.h"
 
 namespace lv {
@@ -48,16 +50,54 @@ TEST_F(LaunchChoice, AnUnknownProgramEndsTheChoice) {
     Open();
     const std::vector<Missing> missing = Say({"--launch", "Quack", "--map", "nowhere"});
     ASSERT_EQ(missing.size(), 1U);
-    EXPECT_FALSE(missing[0].GoesOn);
+    EXPECT_EQ(missing[0].How, WithoutIt::NothingGoesOn);
 }
 
 TEST_F(LaunchChoice, AnUnknownMapCanStillBeAskedOfTheGame) {
     Open();
     const std::vector<Missing> missing = Say({"--launch", "Quake", "--map", "DM7"});
     ASSERT_EQ(missing.size(), 1U);
-    EXPECT_TRUE(missing[0].GoesOn);
+    EXPECT_EQ(missing[0].How, WithoutIt::TheLaunchShowsIt);
     EXPECT_EQ(window.Map_Cbo.Selected(), "DM7");
     EXPECT_EQ(window.Box(Option::Map_Chk).Value, 1);
+}
+
+TEST_F(LaunchChoice, ASetupIsPickedByItsName) {
+    Open();
+    SetupList setups = LoadSetups(run);
+    ASSERT_TRUE(PickExecutable(launcher, "C:\\QUAKE\\GLQUAKE.EXE"));
+    ASSERT_TRUE(PickModification(launcher, "-game CTF"));
+    Click(Option::Game_Chk, 1);
+    Setup duel = SetupOf(launcher);
+    duel.Name = "Duel";
+    ASSERT_TRUE(KeepSetup(run, setups, duel));
+    ASSERT_TRUE(PickExecutable(launcher, "C:\\QUAKE2\\QUAKE2.EXE"));
+    EXPECT_TRUE(Say({"--setup", "duel", "--map", "ctf1"}).empty());
+    EXPECT_EQ(run.GameKind, Game::Quake);
+    EXPECT_EQ(run.CurrentGameDir, "CTF");
+    EXPECT_EQ(window.Map_Cbo.Selected(), "CTF1");
+    const std::vector<Missing> missing = Say({"--setup", "Dual"});
+    ASSERT_EQ(missing.size(), 1U);
+    EXPECT_EQ(missing[0].Words, "No setup is called \"Dual\". Did you mean \"Duel\"?");
+}
+
+TEST_F(LaunchChoice, WhatASetupHasLostIsTold) {
+    Open();
+    SetupList setups = LoadSetups(run);
+    ASSERT_TRUE(PickExecutable(launcher, "C:\\QUAKE\\GLQUAKE.EXE"));
+    Click(Option::Map_Chk, 1);
+    Setup duel = SetupOf(launcher);
+    duel.Name = "Duel";
+    duel.Map = "GONE";
+    ASSERT_TRUE(KeepSetup(run, setups, duel));
+    std::vector<Missing> missing = Say({"--setup", "Duel"});
+    ASSERT_EQ(missing.size(), 1U);
+    EXPECT_EQ(missing[0].How, WithoutIt::TheRestGoesOn);
+    duel.ExecutablePath = "C:\\GONE.EXE";
+    ASSERT_TRUE(KeepSetup(run, setups, duel));
+    missing = Say({"--setup", "Duel"});
+    ASSERT_EQ(missing.size(), 1U);
+    EXPECT_EQ(missing[0].How, WithoutIt::NothingGoesOn);
 }
 
 TEST_F(LaunchChoice, TheWindowIsNotLeftAfterTheLaunch) {

@@ -50,7 +50,8 @@ TEST_F(ListCommand, TheListsOfTheGameThatIsNamed) {
     EXPECT_EQ(Do({"--list", "mods", "--launch", "Quake"}).Out, "Capture the Flag\tCTF\r\nBase\tID1\r\n");
     EXPECT_EQ(Do({"--list", "maps", "--launch", "Quake"}).Out, "START\r\n");
     EXPECT_EQ(Do({"--list", "maps", "--launch", "Quake", "--mod", "ctf"}).Out, "CTF1\r\nSTART\r\n");
-    EXPECT_EQ(Do({"--list", "profiles", "--launch", "Quake"}).Out, "Base\r\nOptimize for Speed\r\nOptimize for Beauty\r\nDefault\r\n");
+    EXPECT_EQ(Do({"--list", "profiles", "--launch", "Quake"}).Out,
+              "Base\r\nOptimize for Speed\r\nOptimize for Beauty\r\nDefault\r\n");
 }
 
 TEST_F(ListCommand, ScriptsWithTheirPathsAndServersWithTheirAddresses) {
