@@ -1,9 +1,7 @@
 #include "commands/launch_command.h"
 
-#include "commands/dry_run/dry_run_report.h"
-#include "commands/dry_run/rehearsed_files.h"
-#include "commands/dry_run/rehearsed_programs.h"
 #include "commands/launch_choice.h"
+#include "commands/rehearse_launch.h"
 #include "commands/unseen/unseen_launcher.h"
 #include "foundation/field_strings.h"
 #include "launcher/window/launch_flow.h"
@@ -43,37 +41,13 @@ CommandResult Start(const Command& command, const CommandPlace& place) {
     return result;
 }
 
-CommandResult Rehearse(const Command& command, const CommandPlace& place) {
-    RehearsedFiles disk(place.System.Disk);
-    RehearsedPrograms programs(place.System.Programs, disk);
-    RehearsedRegistry registry(place.System.Registry);
-    UnseenLauncher unseen(place, {&disk, &programs, &registry});
-    if (const Text why = unseen.Load(); !why.empty()) {
-        return {.Code = exit_code::kFailed, .Err = why};
-    }
-    Text notes;
-    const std::vector<Missing> missing = Choose(unseen.Its, command, notes);
-    for (const Missing& each : missing) {
-        if (each.How == WithoutIt::NothingGoesOn) {
-            return NotCalledSo(missing);
-        }
-    }
-    Rehearsal rehearsal{disk, programs, registry, unseen.Its, {}, {}};
-    for (const Missing& each : missing) {
-        if (each.How == WithoutIt::TheRestGoesOn) {
-            rehearsal.Missing.push_back(each.Words);
-        }
-    }
-    DoIt_Cmd_Click(unseen.Its, kLaunchButton);
-    rehearsal.Said = Join(notes, unseen.User.Said());
-    const DryRunReport report = ReportOf(rehearsal);
-    return {.Code = report.IsMissingSomething ? exit_code::kFinds : exit_code::kDone, .Out = report.Text};
-}
-
 }  // namespace
 
 CommandResult LaunchOrRehearse(const Command& command, const CommandPlace& place) {
-    return command.DryRun ? Rehearse(command, place) : Start(command, place);
+    if (!command.DryRun) {
+        return Start(command, place);
+    }
+    return RehearseLaunch(place, [&command](Launcher& unseen, Text& notes) { return Choose(unseen, command, notes); });
 }
 
 }  // namespace lv

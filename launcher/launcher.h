@@ -64,6 +64,9 @@ struct Launcher {
     std::function<void(TextView path)> RegistryToScript;
     std::function<Error(TextView path)> ScriptToRegistry;
 
+    /// Shows what a launch would do now. Empty: the program can't.
+    std::function<void()> ShowDryRun;
+
     /// Opens the selected script in the script editor. Empty: the program has none.
     std::function<void()> OpenSetupFoundry;
 

@@ -68,7 +68,7 @@ TEST_F(LaunchChoice, ASetupIsPickedByItsName) {
     ASSERT_TRUE(PickExecutable(launcher, "C:\\QUAKE\\GLQUAKE.EXE"));
     ASSERT_TRUE(PickModification(launcher, "-game CTF"));
     Click(Option::Game_Chk, 1);
-    Setup duel = SetupOf(launcher);
+    lv::Setup duel = SetupOf(launcher);
     duel.Name = "Duel";
     ASSERT_TRUE(KeepSetup(run, setups, duel));
     ASSERT_TRUE(PickExecutable(launcher, "C:\\QUAKE2\\QUAKE2.EXE"));
@@ -86,7 +86,7 @@ TEST_F(LaunchChoice, WhatASetupHasLostIsTold) {
     SetupList setups = LoadSetups(run);
     ASSERT_TRUE(PickExecutable(launcher, "C:\\QUAKE\\GLQUAKE.EXE"));
     Click(Option::Map_Chk, 1);
-    Setup duel = SetupOf(launcher);
+    lv::Setup duel = SetupOf(launcher);
     duel.Name = "Duel";
     duel.Map = "GONE";
     ASSERT_TRUE(KeepSetup(run, setups, duel));
