@@ -1,23 +1,20 @@
 // app/main_linux.cpp
 //
-// The program on Linux: makes the platform.
+// The window on Linux: makes the platform. words_main.cpp becomes this program where no words are to be done.
 
 #include <poll.h>
+#include <sys/prctl.h>
 
 #include <cstdlib>
 #include <functional>
 #include <memory>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "app/linux_store.h"
 #include "app/lorvane_app.h"
-#include "app/words.h"
 #include "app/words_run.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "launcher/window/window_life.h"
-#include "platform/code_page.h"
 #include "platform/linux/end_signals.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_instance.h"
@@ -114,11 +111,7 @@ class LinuxApp : public LorvaneApp<LinuxSystem> {
 
 wxIMPLEMENT_APP_NO_MAIN(lv::LinuxApp);
 
-int main(int argc, char** argv) {
-    std::vector<std::string> words;
-    for (int i = 1; i < argc; ++i) {
-        words.push_back(lv::FromUtf8Lossy(argv[i]));
-    }
-    const auto code = words.empty() ? std::nullopt : lv::DoWords(words);
-    return code ? *code : wxEntry(argc, argv);
+int main(int count, char** arguments) {
+    prctl(PR_SET_NAME, "lorvane3d");  // as messages of other programs name it
+    return wxEntry(count, arguments);
 }
