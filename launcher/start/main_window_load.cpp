@@ -51,7 +51,9 @@ bool LV_Frm_Load(Launcher& launcher) {
         return false;
     }
     LoadPlacement(run, "LV_Frm", window.Placement, ScreenInTwips(run));
+    SetSplashTopmost(run, launcher.Splash, false);
     launcher.Setups = LoadSetups(run);
+    SetSplashTopmost(run, launcher.Splash, true);
     ShowSetupsInMenu(launcher);
     window.TrayIcon = true;
     run.MainFormLoaded = true;
