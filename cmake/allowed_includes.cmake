@@ -57,7 +57,7 @@ set(MAY_foundation/forms assets ${SHARED_BY_FORMS})
 set(MAY_catalogs/forms catalogs/forms catalogs/editors catalogs ${SHARED_BY_FORMS})
 set(MAY_video/forms video/forms video ${SHARED_BY_FORMS})
 set(MAY_gamespy/forms gamespy/forms gamespy ${SHARED_BY_FORMS})
-set(MAY_launcher/forms launcher/forms launcher launcher/start launcher/window launcher/menu ${SHARED_BY_FORMS})
+set(MAY_launcher/forms launcher/forms launcher launcher/start launcher/window launcher/menu launcher/setups ${SHARED_BY_FORMS})
 set(MAY_foundry/forms foundry/forms foundry/editor foundry/look foundry/tables ${SHARED_BY_FORMS})
 set(MAY_wizard/forms wizard/forms wizard ${SHARED_BY_FORMS})
 

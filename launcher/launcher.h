@@ -10,6 +10,7 @@
 #include "foundation/run.h"
 #include "games/engines/engine_table.h"
 #include "launcher/menu/known_games.h"
+#include "launcher/setups/setup_store.h"
 #include "launcher/start/splash.h"
 #include "launcher/window/lv_frm.h"
 #include "video/video_profile_frm.h"
@@ -77,6 +78,8 @@ struct Launcher {
     std::function<WindowMeasures()> Measure;
 
     GameUnderWay LastGame;
+
+    SetupList Setups;
 
     bool LaunchUnderWay = false;      // a launch waits for GameSpy 3D: another click does nothing
     bool ClearingGameChk = false;     // Game_Chk clears itself: its own click does nothing meanwhile

@@ -1,8 +1,13 @@
 #include "launcher/forms/launcher_user.h"
 
 #include "launcher/forms/install_params_form.h"
+#include "launcher/forms/setups_form.h"
 
 namespace lv {
+
+LauncherUser::LauncherUser(Files& files) : WxUser(files) {
+    AddForms(MakeSetupsForm);
+}
 
 void LauncherUser::ShowInstallParams(InstallParams_Frm& form) {
     if (run_ == nullptr) {

@@ -7,6 +7,7 @@
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
 #include "launcher/forms/main_menu.h"
+#include "launcher/setups/setups_menu.h"
 #include "launcher/window/hint.h"
 #include "launcher/window/window_life.h"
 #include "platform/toolkit/menu_room.h"
@@ -129,6 +130,7 @@ void LvForm::ShowState() {
     showing_ = true;
     LV_Frm& window = launcher_.Window;
     window.Hint_Lbl.Caption = HintText(launcher_);
+    ShowSetupsInMenu(launcher_);
     ShowSplash();
     if (GetTitle() != ToWx(window.Caption)) {
         SetTitle(ToWx(window.Caption));

@@ -16,21 +16,60 @@ wxString LabelOf(const LV_Frm& window, const MenuRow& row) {
 
 bool IsCheckable(MenuItem item) {
     return item == MenuItem::ShowAll_Bar_0 || item == MenuItem::ShowAll_Bar_1 || item == MenuItem::ShowAll_Bar_2 ||
-           item == MenuItem::AlwaysOnTop_Bar;
+           item == MenuItem::AlwaysOnTop_Bar || (item >= MenuItem::Setup_Bar_0 && item <= MenuItem::Setup_Bar_8);
 }
 
-void AppendItem(const LV_Frm& window, wxMenu& menu, const MenuRow& row) {
+void InsertItem(const LV_Frm& window, wxMenu& menu, std::size_t place, const MenuRow& row) {
     const MenuItemState& state = window.Bar(row.Item);
     const int id = MenuIdOf(row.Item);
     if (IsMenu(row.Item)) {
-        menu.Append(id, LabelOf(window, row), MakeMenu(window, row.Item));
+        menu.Insert(place, id, LabelOf(window, row), MakeMenu(window, row.Item));
     } else {
-        menu.Append(id, LabelOf(window, row), "", IsCheckable(row.Item) ? wxITEM_CHECK : wxITEM_NORMAL);
+        menu.Insert(place, id, LabelOf(window, row), "", IsCheckable(row.Item) ? wxITEM_CHECK : wxITEM_NORMAL);
         if (IsCheckable(row.Item)) {
             menu.Check(id, state.Checked);
         }
     }
     menu.Enable(id, state.Enabled);
+}
+
+// In the order of the table, so that all before it are there already.
+std::size_t PlaceOf(const LV_Frm& window, const MenuRow& wanted) {
+    std::size_t place = 0;
+    for (const MenuRow& row : MenuRows()) {
+        if (row.Item == wanted.Item) {
+            break;
+        }
+        place += row.Parent == wanted.Parent && window.Bar(row.Item).Visible ? 1U : 0U;
+    }
+    return place;
+}
+
+// The toolkit has no hidden items: what is hidden is taken out. True if the item is in its menu now.
+bool ShowPresence(const LV_Frm& window, wxMenu& menu, const MenuRow& row) {
+    wxMenuItem* const item = menu.FindItem(MenuIdOf(row.Item));
+    const bool visible = window.Bar(row.Item).Visible;
+    if (!visible && item != nullptr) {
+        menu.Destroy(item);
+    } else if (visible && item == nullptr) {
+        InsertItem(window, menu, PlaceOf(window, row), row);
+    }
+    return visible;
+}
+
+// `bar` has each menu that stands in it at its turn among the rows.
+wxMenu& MenuHolding(const wxMenuBar& bar, const MenuRow& row) {
+    if (MenuRowOf(row.Parent).Parent != MenuItem::None) {
+        return *bar.FindItem(MenuIdOf(row.Parent))->GetSubMenu();
+    }
+    std::size_t top = 0;
+    for (const MenuRow& menu : MenuRows()) {
+        if (menu.Item == row.Parent) {
+            break;
+        }
+        top += menu.Parent == MenuItem::None ? 1U : 0U;
+    }
+    return *bar.GetMenu(top);
 }
 
 }  // namespace
@@ -42,8 +81,8 @@ int MenuIdOf(MenuItem item) {
 wxMenu* MakeMenu(const LV_Frm& window, MenuItem parent) {
     auto* menu = new wxMenu;
     for (const MenuRow& row : MenuRows()) {
-        if (row.Parent == parent) {
-            AppendItem(window, *menu, row);
+        if (row.Parent == parent && window.Bar(row.Item).Visible) {
+            InsertItem(window, *menu, menu->GetMenuItemCount(), row);
         }
     }
     return menu;
@@ -68,6 +107,9 @@ void ShowMenuState(const LV_Frm& window, wxMenuBar& bar) {
                 bar.EnableTop(top, state.Enabled);
             }
             ++top;
+            continue;
+        }
+        if (!ShowPresence(window, MenuHolding(bar, row), row)) {
             continue;
         }
         wxMenuItem* item = bar.FindItem(MenuIdOf(row.Item));

@@ -20,7 +20,7 @@ wxMenu* MakeMenu(const LV_Frm& window, MenuItem parent);
 
 wxMenuBar* MakeMenuBar(const LV_Frm& window);
 
-/// Brings captions, check marks and enabling in line with the struct.
+/// Brings captions, check marks, enabling, and what is hidden in line with the struct.
 void ShowMenuState(const LV_Frm& window, wxMenuBar& bar);
 
 /// The menu of that name, "File_Bar"; None if there is none.

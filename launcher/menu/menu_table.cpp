@@ -6,6 +6,7 @@
 #include "launcher/menu/catalog_menu.h"
 #include "launcher/menu/video_profile_menu.h"
 #include "launcher/menu/window_menu.h"
+#include "launcher/setups/setups_menu.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/window_life.h"
@@ -29,6 +30,11 @@ void PressDoIt(Launcher& launcher) {
 template <int Row>
 void ShowAll(Launcher& launcher) {
     ShowAll_Bar_Click(launcher, Row);
+}
+
+template <int Index>
+void StartOfBar(Launcher& launcher) {
+    Setup_Bar_Click(launcher, Index);
 }
 
 // clang-format off
@@ -116,6 +122,20 @@ constexpr MenuRow kRows[] = {
     {Tools_Bar, "Tools_Bar", kNoIndex, "&Tools", "", None, nullptr},
     {GameOutput_Bar, "GameOutput_Bar", kNoIndex, "&Output of the Last Game...", "", Tools_Bar, GameOutput_Bar_Click},
     {SetUpGames_Bar, "SetUpGames_Bar", kNoIndex, "Set Up &Games...", "", Tools_Bar, SetUpGames_Bar_Click},
+    {Setups_Bar, "Setups_Bar", kNoIndex, "S&etups", "", Tools_Bar, nullptr},
+    {KeepSetup_Bar, "KeepSetup_Bar", kNoIndex, "Keep This &Setup...", "", Setups_Bar, KeepSetup_Bar_Click},
+    {KeepSetupChanges_Bar, "KeepSetupChanges_Bar", kNoIndex, "&Keep Changes", "", Setups_Bar, KeepSetupChanges_Bar_Click},
+    {DropSetupChanges_Bar, "DropSetupChanges_Bar", kNoIndex, "&Drop Changes", "", Setups_Bar, DropSetupChanges_Bar_Click},
+    {ShowSetups_Bar, "ShowSetups_Bar", kNoIndex, "Set&ups...", "", Setups_Bar, ShowSetups_Bar_Click},
+    {Setup_Bar_0, "Setup_Bar", 0, "", "", Setups_Bar, StartOfBar<0>},
+    {Setup_Bar_1, "Setup_Bar", 1, "", "", Setups_Bar, StartOfBar<1>},
+    {Setup_Bar_2, "Setup_Bar", 2, "", "", Setups_Bar, StartOfBar<2>},
+    {Setup_Bar_3, "Setup_Bar", 3, "", "", Setups_Bar, StartOfBar<3>},
+    {Setup_Bar_4, "Setup_Bar", 4, "", "", Setups_Bar, StartOfBar<4>},
+    {Setup_Bar_5, "Setup_Bar", 5, "", "", Setups_Bar, StartOfBar<5>},
+    {Setup_Bar_6, "Setup_Bar", 6, "", "", Setups_Bar, StartOfBar<6>},
+    {Setup_Bar_7, "Setup_Bar", 7, "", "", Setups_Bar, StartOfBar<7>},
+    {Setup_Bar_8, "Setup_Bar", 8, "", "", Setups_Bar, StartOfBar<8>},
 };
 // clang-format on
 
@@ -142,6 +162,7 @@ MenuState MakeMenuState() {
     MenuState state;
     for (std::size_t i = 0; i < kMenuItems; ++i) {
         state[i].Caption = kRows[i].Caption;
+        state[i].Visible = *kRows[i].Caption != '\0';
         state[i].Enabled = kRows[i].Click != nullptr || IsMenu(kRows[i].Item);
     }
     return state;

@@ -29,7 +29,7 @@ const MenuRow& MenuRowOf(MenuItem item);
 /// A menu holds other items.
 bool IsMenu(MenuItem item);
 
-/// Items without a handler start disabled; menus never do.
+/// Items without a handler start disabled; menus never do. Those without a caption are hidden until they get one.
 MenuState MakeMenuState();
 
 /// Runs the item's handler, unless the item is disabled. The keys go through here too.

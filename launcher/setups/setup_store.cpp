@@ -7,14 +7,15 @@
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
 #include "launcher/setups/setup_text.h"
+#include "launcher/setups/setup_words.h"
 
 namespace lv {
 
 namespace {
 
-constexpr const char* kTitle = "Setups";
 constexpr TextView kNames = "Names";
 constexpr TextView kPicked = "Picked";
+constexpr TextView kToldOf = "ToldOf";  // the entries that can't be read, as the user was told of them
 constexpr int kLargestNumber = 9999;
 
 struct NameEntry {
@@ -66,7 +67,7 @@ int FreeNumber(Run& run, const SetupList& setups) {
 }
 
 bool Refuse(Run& run, TextView why) {
-    AskUser(run, kTitle, why);
+    AskUser(run, kSetupsTitle, why);
     return false;
 }
 
@@ -104,14 +105,22 @@ bool Store(Run& run, SetupList& setups, SetupList changed, int number, TextView 
     return true;
 }
 
+// Once for each set of them.
 void TellUnread(Run& run, const SetupList& setups) {
+    Text noted;
     Text shown;
     for (const Text& entry : setups.Unread) {
-        shown += Join(NewLine, Unescaped(entry).value_or(entry));
+        noted += Join(entry, ";");
+        shown += Join(NewLine, ShownText(Unescaped(entry).value_or(entry)));
     }
-    AskUserUnlessTold(
-        run, "DamagedSetups", kTitle,
+    noted.resize(std::min(noted.size(), kLongestValue));
+    if (noted == GetSetting(run, run.AppName, kSetups, kToldOf)) {
+        return;
+    }
+    AskUser(
+        run, kSetupsTitle,
         Join("Some setups can't be read and are left out. They stay among the settings as they are:", NewLine, shown));
+    Save(run, kSetups, kToldOf, TextView(noted));
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ struct SetupList {
     [[nodiscard]] const KeptSetup* Named(TextView name) const;
 };
 
-/// Reads all; the user is told, until he has had enough of it, what can't be read.
+/// Reads all; the user is told once what can't be read.
 SetupList LoadSetups(Run& run);
 
 /// Puts the setup in the place of the one of its name, or behind all others, and notes it as picked. False if it was

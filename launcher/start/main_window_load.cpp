@@ -3,6 +3,7 @@
 #include "catalogs/map_scan.h"
 #include "catalogs/scripts.h"
 #include "foundation/settings.h"
+#include "launcher/setups/setups_menu.h"
 #include "launcher/start/get_options.h"
 #include "launcher/window/lv_events.h"
 #include "launcher/window/option_rules.h"
@@ -50,6 +51,10 @@ bool LV_Frm_Load(Launcher& launcher) {
         return false;
     }
     LoadPlacement(run, "LV_Frm", window.Placement, ScreenInTwips(run));
+    SetSplashTopmost(run, launcher.Splash, false);
+    launcher.Setups = LoadSetups(run);
+    SetSplashTopmost(run, launcher.Splash, true);
+    ShowSetupsInMenu(launcher);
     window.TrayIcon = true;
     run.MainFormLoaded = true;
     return true;

@@ -11,8 +11,11 @@
 #include "gamespy/forms/game_spy_form.h"
 #include "gamespy/game_spy_config.h"
 #include "launcher/forms/launcher_user.h"
+#include "launcher/forms/setups_form.h"
 #include "launcher/menu/video_profile_menu.h"
+#include "launcher/setups/row_picks.h"
 #include "launcher/start/install_params.h"
+#include "launcher/window/lv_events.h"
 #include "tests/forms/fig_form_fixture.h"
 #include "tests/support/shipped_engines.h"
 #include "video/forms/add_vid_profile_form.h"
@@ -85,6 +88,7 @@ class HandbookPictures : public FigForm_ {
         user.AddForms(MakeInstallForm);
         user.AddForms(MakeAddVidProfileForm);
         user.AddForms(MakeGameSpyForm);
+        user.AddForms(MakeSetupsForm);
         Use(kGames[0], kScript);
         launcher.Window.Exe_Cbo.Items[0].Title = "GL Quake";
         user.Refresh();
@@ -113,6 +117,23 @@ TEST_F(HandbookPictures, TheMainWindowAndItsDialogs) {
     }
     PictureNext("view", "QuestionBox_Frm");
     Menu_Click(launcher, MenuItem::ViewCommands_Bar);
+}
+
+TEST_F(HandbookPictures, TheWindowOfTheSetups) {
+    const auto keep = [this](TextView name) {
+        lv::Setup setup = SetupOf(launcher);
+        setup.Name = name;
+        ASSERT_TRUE(KeepSetup(run, launcher.Setups, setup));
+    };
+    keep("Alone, with my keys");
+    SetOption(launcher, Option::Server_Chk, 1);
+    keep("Evenings in the Attic");
+    ASSERT_TRUE(PickMap(launcher, "DM4"));
+    SetOption(launcher, Option::Map_Chk, 1);
+    SetOption(launcher, Option::Listen_Chk, 1);
+    keep("A game for the neighbours");
+    PictureNext("setups", "Setups_Frm");
+    Menu_Click(launcher, MenuItem::ShowSetups_Bar);
 }
 
 TEST_F(HandbookPictures, TheLiveProfileWindow) {

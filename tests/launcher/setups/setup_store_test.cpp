@@ -133,7 +133,7 @@ TEST_F(SetupStore, WhatIsDamagedIsToldAndStaysAsItIs) {
     user.Expect({"Setups",
                  "Some setups can't be read and are left out. They stay among the settings as they are:\r\n"
                  "\r\n2=Broken\r\n3=Gone\r\nx=Odd\r\n4\r\n5=%1\r\n6=duel\r\n1=Again\r\n7= ",
-                 0, true, true});
+                 0, false, true});
     setups = LoadSetups(run);
     EXPECT_EQ(NamesIn(setups), (std::vector<Text>{"Duel", "Whole"}));
     ASSERT_TRUE(KeepSetup(run, setups, Of("New")));
@@ -141,6 +141,9 @@ TEST_F(SetupStore, WhatIsDamagedIsToldAndStaysAsItIs) {
     EXPECT_EQ(Stored("Setups", "Setup2"), "1;Executable");
     setups = LoadSetups(run);  // and not a word more of it
     EXPECT_EQ(NamesIn(setups), (std::vector<Text>{"Duel", "Whole", "New"}));
+    Save(run, "Setups", "Setup8", "1;Executable");
+    user.Expect({"Setups", "\r\n8=Whole\r\n2=Broken"});
+    EXPECT_EQ(NamesIn(LoadSetups(run)), (std::vector<Text>{"Duel", "New"}));
 }
 
 TEST_F(SetupStore, AFullDiskLeavesAllAsItWas) {

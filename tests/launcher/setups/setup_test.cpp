@@ -4,6 +4,7 @@
 #include "launcher/setups/row_picks.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/lv_events.h"
+#include "launcher/window/option_rules.h"
 #include "tests/support/launcher_fixture.h"
 
 namespace lv {
@@ -182,6 +183,21 @@ TEST_F(Setups, ABoxThatOnlyOthersClearComesBehindThem) {
     EXPECT_EQ(Apply(setup), std::vector<Text>());
     EXPECT_EQ(window.Box(Server_Chk).Value, 1);
     EXPECT_EQ(window.Box(Bench_Chk).Value, 1);
+}
+
+TEST(SetupOrder, WhatOnlyOthersClearIsTickedBehindThem) {
+    std::vector<Option> order = {LaunchQspy_Chk, Game_Chk};
+    for (const OptionBox& box : OptionBoxes()) {
+        if (box.Box != LaunchQspy_Chk && box.Box != Game_Chk) {
+            order.push_back(box.Box);
+        }
+    }
+    for (std::size_t later = 0; later < order.size(); ++later) {
+        for (std::size_t sooner = 0; sooner < later; ++sooner) {
+            EXPECT_TRUE(!ExcludedBy(order[later]).Has(order[sooner]) || ExcludedBy(order[sooner]).Has(order[later]))
+                << OptionBoxOf(order[later]).Name << " would clear " << OptionBoxOf(order[sooner]).Name;
+        }
+    }
 }
 
 TEST_F(Setups, WhatExcludesEachOtherComesBackAsItWasShown) {

@@ -51,6 +51,29 @@ TEST_F(MainWindowLoad, CentresTheMeasuredWindow) {
     EXPECT_EQ(window.Placement.Top, 200 * 15);
 }
 
+TEST_F(MainWindowLoad, BringsTheSetupsIntoTheirMenu) {
+    AddGames();
+    Save(run, "Setups", "Names", "4=Duel");
+    Save(run, "Setups", "Setup4", "1;Executable=C:\\QUAKE\\GLQUAKE.EXE");
+    Save(run, "Setups", "Picked", 4);
+    Load();
+    EXPECT_TRUE(window.Bar(MenuItem::Setup_Bar_0).Visible);
+    EXPECT_TRUE(window.Bar(MenuItem::Setup_Bar_0).Checked);
+    EXPECT_FALSE(window.Bar(MenuItem::Setup_Bar_1).Visible);
+}
+
+TEST_F(MainWindowLoad, TellsOfSetupsThatCantBeReadInFrontOfTheSplash) {
+    AddGames();
+    Save(run, "Setups", "Names", "4=Duel");
+    launcher.Splash.Visible = launcher.Splash.Topmost = true;
+    bool topmost = true;
+    user.OnDialog = [&] { topmost = launcher.Splash.Topmost; };
+    user.Expect({"Setups", "Some setups can't be read and are left out."});
+    Load();
+    EXPECT_FALSE(topmost);
+    EXPECT_TRUE(launcher.Splash.Topmost);
+}
+
 TEST_F(MainWindowLoad, AddsTheTrayIcon) {
     AddGames();
     Load();
