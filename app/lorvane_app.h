@@ -15,6 +15,7 @@
 
 #include "assets/embedded_texts.h"
 #include "catalogs/forms/entry_forms.h"
+#include "commands/rehearse_launch.h"
 #include "foundation/forms/help_bubble.h"
 #include "foundation/forms/wx_text.h"
 #include "foundation/question_box.h"
@@ -52,6 +53,9 @@ struct Program {
         TheLauncher.ShippedEngines = EmbeddedEngines();
         ConnectWizard(TheLauncher);
         ConnectFoundry(TheLauncher);
+        ConnectDryRun(TheLauncher, [this] {
+            return CommandPlace{Host->Services, EmbeddedEngines(), {}, ConnectFoundry};
+        });
         ConnectEditor(Foundry);
     }
 

@@ -82,6 +82,7 @@ enum class MenuItem : int {
     HelpAbout_Bar,
     Tools_Bar,
     GameOutput_Bar,
+    DryRun_Bar,
     SetUpGames_Bar,
     Setups_Bar,
     KeepSetup_Bar,

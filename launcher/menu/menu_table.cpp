@@ -121,6 +121,7 @@ constexpr MenuRow kRows[] = {
 
     {Tools_Bar, "Tools_Bar", kNoIndex, "&Tools", "", None, nullptr},
     {GameOutput_Bar, "GameOutput_Bar", kNoIndex, "&Output of the Last Game...", "", Tools_Bar, GameOutput_Bar_Click},
+    {DryRun_Bar, "DryRun_Bar", kNoIndex, "&Dry Run...", "", Tools_Bar, DryRun_Bar_Click},
     {SetUpGames_Bar, "SetUpGames_Bar", kNoIndex, "Set Up &Games...", "", Tools_Bar, SetUpGames_Bar_Click},
     {Setups_Bar, "Setups_Bar", kNoIndex, "S&etups", "", Tools_Bar, nullptr},
     {KeepSetup_Bar, "KeepSetup_Bar", kNoIndex, "Keep This &Setup...", "", Setups_Bar, KeepSetup_Bar_Click},

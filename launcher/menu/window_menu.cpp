@@ -111,4 +111,10 @@ void HelpAbout_Bar_Click(Launcher& launcher) {
     ShowAboutBox(launcher.run);
 }
 
+void DryRun_Bar_Click(Launcher& launcher) {
+    if (launcher.ShowDryRun) {
+        launcher.ShowDryRun();
+    }
+}
+
 }  // namespace lv

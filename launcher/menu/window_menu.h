@@ -33,4 +33,7 @@ void WhatsThis_Bar_Click(Launcher& launcher);
 void WebSite_Bar_Click(Launcher& launcher);
 void HelpAbout_Bar_Click(Launcher& launcher);
 
+/// Shows what a launch would write and start now, where the program can tell.
+void DryRun_Bar_Click(Launcher& launcher);
+
 }  // namespace lv

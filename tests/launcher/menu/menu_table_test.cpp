@@ -91,6 +91,7 @@ const std::vector<Written>& Table() {
         {HelpAbout_Bar, "HelpAbout_Bar", -1, "&About Lorvane 3D", "", Help_Bar, true},
         {Tools_Bar, "Tools_Bar", -1, "&Tools", "", None, true},
         {GameOutput_Bar, "GameOutput_Bar", -1, "&Output of the Last Game...", "", Tools_Bar, true},
+        {DryRun_Bar, "DryRun_Bar", -1, "&Dry Run...", "", Tools_Bar, true},
         {SetUpGames_Bar, "SetUpGames_Bar", -1, "Set Up &Games...", "", Tools_Bar, true},
         {Setups_Bar, "Setups_Bar", -1, "S&etups", "", Tools_Bar, true},
         {KeepSetup_Bar, "KeepSetup_Bar", -1, "Keep This &Setup...", "", Setups_Bar, true},

@@ -153,4 +153,12 @@ TEST_F(WindowMenu, AnEditorThatDoesNotStartIsTold) {
     ScriptsOpen_Bar_Click(launcher);
 }
 
+TEST_F(WindowMenu, DryRunShowsWhatTheProgramCanTell) {
+    DryRun_Bar_Click(launcher);  // a program without it
+    int shown = 0;
+    launcher.ShowDryRun = [&shown] { ++shown; };
+    DryRun_Bar_Click(launcher);
+    EXPECT_EQ(shown, 1);
+}
+
 }  // namespace lv
