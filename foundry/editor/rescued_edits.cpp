@@ -22,15 +22,22 @@ Text NameOf(TextView script) {
     return Join(kRescueName, ScriptMark(script), ".txt");
 }
 
-/// Where the script's directory takes none. Several users may share it.
-Text BesideProgram(const Run& run, TextView script) {
-    const Text directory = run.AppDirectory.empty() ? run.System.Disk.ProgramDirectory() : run.AppDirectory;
-    return Join(directory, "\\", NameOf(script));
+/// Where the edits are kept, the newest first to be found: beside the script; where that directory takes none, among
+/// the user's data; beside the program, which may take none either.
+std::vector<Text> PlacesOf(const Run& run, TextView script) {
+    std::vector<Text> places = {RescuePathOf(script)};
+    const Text data = run.System.Places != nullptr ? Text(run.System.Places->DataDirectory()) : Text();
+    if (!data.empty()) {
+        places.push_back(Join(data, "\\lorvane3d\\", NameOf(script)));
+    }
+    const Text program = run.AppDirectory.empty() ? run.System.Disk.ProgramDirectory() : run.AppDirectory;
+    places.push_back(Join(program, "\\", NameOf(script)));
+    return places;
 }
 
 /// Empty if nothing was kept.
 Text KeptFile(Run& run, TextView script) {
-    for (const Text& path : {RescuePathOf(script), BesideProgram(run, script)}) {
+    for (const Text& path : PlacesOf(run, script)) {
         if (run.System.Disk.FileExists(path)) {
             return path;
         }
@@ -40,12 +47,17 @@ Text KeptFile(Run& run, TextView script) {
 
 Error Keep(Run& run, const ScriptDocument& document) {
     const Text script = ComposeScript(document, run.System.Time.Now());
-    const Text& path = document.CurrentScriptPath;
-    if (!run.System.Disk.ReplaceOwn(RescuePathOf(path), script)) {
-        (void)run.System.Disk.Delete(BesideProgram(run, path));  // an older one, of which only one could be offered
-        return {};
+    Error failed;
+    bool isKept = false;
+    for (const Text& path : PlacesOf(run, document.CurrentScriptPath)) {
+        if (isKept) {
+            (void)run.System.Disk.Delete(path);  // an older one, of which only one could be offered
+        } else {
+            failed = run.System.Disk.ReplaceOwn(path, script);
+            isKept = !failed;
+        }
     }
-    return run.System.Disk.ReplaceOwn(BesideProgram(run, path), script);
+    return failed;
 }
 
 }  // namespace

@@ -14,8 +14,9 @@ namespace lv {
 /// Where the edits of that script are kept: beside it, whatever the letter case of its path.
 Text RescuePathOf(TextView script);
 
-/// The session ends: what is not saved is written beside the script, or beside the program if the script's directory
-/// takes no files. Nothing is asked, and the script stays as it is. The error of the last attempt.
+/// The session ends: what is not saved is written beside the script; if its directory takes no files, among the user's
+/// data; if there is no place either, beside the program. Nothing is asked, and the script stays as it is. The error of
+/// the last attempt.
 Error RescueEdits(Fig_Frm& form);
 
 /// Asks about the edits that were kept of the form's script, which has been read. True if they are wanted; they are

@@ -95,6 +95,22 @@ TEST_F(RescuedEdits, GoBesideTheProgramWhereTheScriptsDirectoryTakesNone) {
     EXPECT_EQ(form.Document.Name_Txt.Text, "Me");
 }
 
+TEST_F(RescuedEdits, StandAmongTheUsersDataWhereTheScriptsDirectoryTakesNone) {
+    system.Places.IsData = "C:\\HOME\\share";
+    system.Disk.AddDirectory("C:\\HOME\\share\\lorvane3d");
+    system.Disk.AddFile(BesideProgram(), "name \"Older\"\n");
+    OpenAndLoad();
+    Change();
+    system.Disk.Refused[LowerCase(RescuePathOf(kEditedScript))] = MakeError(error::kPermissionDenied);
+    EXPECT_EQ(RescueEdits(form).Number, 0);
+    const Text kept = Join("C:\\HOME\\share\\lorvane3d\\", LastPathPart(RescuePathOf(kEditedScript)));
+    EXPECT_EQ(CountLines(system.Disk.Bytes(kept), "name \"Me\""), 1);
+    EXPECT_FALSE(system.Disk.FileExists(BesideProgram()));
+    OpenAgain();
+    TakeUp();
+    EXPECT_EQ(form.Document.Name_Txt.Text, "Me");
+}
+
 TEST_F(RescuedEdits, AreFoundInWhateverLetterCaseTheScriptIsNamed) {
     EXPECT_TRUE(SameText(RescuePathOf("C:\\GAME\\ID1\\MY.CFG"), RescuePathOf("c:\\game\\id1\\my.cfg")));
     EXPECT_FALSE(SameText(RescuePathOf("C:\\GAME\\ID1\\MY.CFG"), RescuePathOf("C:\\GAME\\ID1\\MY2.CFG")));
