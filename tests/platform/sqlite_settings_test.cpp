@@ -209,4 +209,26 @@ TEST(SqliteSettings, TakeBackAWholeGroupWhenOneOfItsWritesFails) {
     EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Profile", "0"), std::nullopt);
 }
 
+TEST(SqliteSettings, LeaveNamesWithoutAFormOutOfAllAndGiveTheirValuesWithQuestionMarks) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", std::string(kHandMade) +
+                              "INSERT INTO setting VALUES('Lorvane 3D', 'Options', 'a\xE6\x97\xA5', 'x');"
+                              "INSERT INTO setting VALUES('Lorvane 3D', '\xE6\x97\xA5', 'a', 'x');"
+                              "INSERT INTO setting VALUES('\xE6\x97\xA5', 'Options', 'a', 'x');"
+                              "INSERT INTO setting VALUES('Lorvane 3D', 'Options', 'b', 'a\xE6\x97\xA5\xC3\xA9');");
+    const auto all = OpenStore(scratch / "s")->All(kApp);
+    EXPECT_EQ(all.Fault.Number, 0);
+    EXPECT_EQ(all.Value, (std::vector<StoredValue>{{"Options", "b", "a?\xE9"}, {"Options", "Games", "id1"}}));
+}
+
+TEST(SqliteSettings, LeaveTheStoreFreeForOthersOnceAllIsRead) {
+    const ScratchDirectory scratch;
+    const auto store = OpenStore(scratch / "s");
+    EXPECT_EQ(store->Write(kApp, "Options", "Games", "id1").Number, 0);
+    EXPECT_EQ(store->All(kApp).Value.size(), 1u);
+    const auto other = OpenStore(scratch / "s");
+    EXPECT_EQ(other->Write(kApp, "Options", "Games", "ctf").Number, 0);
+    EXPECT_EQ(store->All(kApp).Value, (std::vector<StoredValue>{{"Options", "Games", "ctf"}}));
+}
+
 }  // namespace lv

@@ -156,6 +156,29 @@ Result<std::optional<SqliteSettings::Row>> SqliteSettings::LookInAllRows(const N
     return got == SQLITE_DONE ? Result<std::optional<Row>>() : FaultOf(database_.get());
 }
 
+Result<std::vector<StoredValue>> SqliteSettings::All(std::string_view application) {
+    while (true) {
+        Result<std::vector<StoredValue>> values = ReadAll(application);
+        if (!WaitAgain(values.Fault)) {
+            return values;
+        }
+    }
+}
+
+Result<std::vector<StoredValue>> SqliteSettings::ReadAll(std::string_view application) {
+    SqliteUse scan(Prepared(kScan));
+    std::vector<StoredValue> values;
+    int got = scan.Step();
+    for (; got == SQLITE_ROW; got = scan.Step()) {
+        auto section = FromUtf8(scan.Column(1));
+        auto key = FromUtf8(scan.Column(2));
+        if (section && key && IsName(scan.Column(0), application)) {
+            values.push_back({*std::move(section), *std::move(key), FromUtf8Lossy(scan.Column(3))});
+        }
+    }
+    return got == SQLITE_DONE ? Result<std::vector<StoredValue>>(std::move(values)) : FaultOf(database_.get());
+}
+
 std::optional<std::string> SqliteSettings::Read(std::string_view application, std::string_view section,
                                                 std::string_view key) {
     const auto row = Find({application, section, key});

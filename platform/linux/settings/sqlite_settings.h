@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "platform/linux/settings/settings_file.h"
 #include "platform/settings_backing.h"
@@ -42,6 +43,8 @@ class SqliteSettings : public SettingsBacking {
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
 
+    Result<std::vector<StoredValue>> All(std::string_view application) override;
+
     /// The outermost group is one transaction, begun with its first write. The first write that fails takes back the
     /// whole group: all that follow fail the same way, and so does EndGroup. A group never ended is never stored.
     void BeginGroup() override;
@@ -68,6 +71,7 @@ class SqliteSettings : public SettingsBacking {
     std::optional<Row> Find(const Names& names);
     Result<std::optional<Row>> Look(const Names& names);
     Result<std::optional<Row>> LookInAllRows(const Names& names);
+    Result<std::vector<StoredValue>> ReadAll(std::string_view application);
     Error Store(const Names& names, std::string_view value);
     Error StoreInTransaction(const Names& names, std::string_view value);
     Error StoreInGroup(const Names& names, std::string_view value);
