@@ -231,4 +231,23 @@ TEST(SqliteSettings, LeaveTheStoreFreeForOthersOnceAllIsRead) {
     EXPECT_EQ(store->All(kApp).Value, (std::vector<StoredValue>{{"Options", "Games", "ctf"}}));
 }
 
+TEST(SqliteSettings, FindAccentedNamesInAnyCaseWithinAGroupToo) {
+    const ScratchDirectory scratch;
+    const auto store = OpenStore(scratch / "s");
+    EXPECT_EQ(store->Write(kApp, "Options", "\xC9t\xE9", "old").Number, 0);
+    store->BeginGroup();
+    EXPECT_EQ(store->Write(kApp, "Options", "\xE9t\xE9", "new").Number, 0);
+    EXPECT_EQ(store->Write(kApp, "Options", "No\xEBl", "1").Number, 0);
+    EXPECT_EQ(store->Write(kApp, "Options", "NO\xCBL", "2").Number, 0);
+    EXPECT_EQ(store->Read(kApp, "Options", "no\xEBl"), "2");
+    EXPECT_EQ(store->EndGroup().Number, 0);
+    EXPECT_EQ(store->All(kApp).Value,
+              (std::vector<StoredValue>{{"Options", "No\xEBl", "2"}, {"Options", "\xC9t\xE9", "new"}}));
+    EXPECT_EQ(OpenStore(scratch / "s")->Write(kApp, "Options", "\xE0", "of another").Number, 0);
+    store->BeginGroup();
+    EXPECT_EQ(store->Write(kApp, "Options", "\xC0", "ours").Number, 0);
+    EXPECT_EQ(store->EndGroup().Number, 0);
+    EXPECT_EQ(store->All(kApp).Value.size(), 3u);
+}
+
 }  // namespace lv

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -70,7 +71,9 @@ class SqliteSettings : public SettingsBacking {
     Error Do(Statement statement);
     std::optional<Row> Find(const Names& names);
     Result<std::optional<Row>> Look(const Names& names);
+    Result<std::optional<Row>> Select(const std::array<std::string, 3>& names);
     Result<std::optional<Row>> LookInAllRows(const Names& names);
+    Error NoteSpellings();
     Result<std::vector<StoredValue>> ReadAll(std::string_view application);
     Error Store(const Names& names, std::string_view value);
     Error StoreInTransaction(const Names& names, std::string_view value);
@@ -81,6 +84,8 @@ class SqliteSettings : public SettingsBacking {
     std::array<sqlite3_stmt*, kStatements> statements_{};
     int depth_ = 0;
     Error groupFault_;
+    /// In a transaction, once a name was looked for in all rows: how each is spelled, by its names in lower case.
+    std::optional<std::unordered_map<std::string, std::array<std::string, 3>>> spellings_;
     int patience_ = kPatience;
     LockedQuestion question_;
     bool asking_ = false;
