@@ -1,6 +1,7 @@
 #include "transfer/moved_places.h"
 
 #include <algorithm>
+#include <set>
 
 #include "catalogs/catalog_store.h"
 #include "catalogs/missing_game.h"
@@ -76,9 +77,10 @@ std::vector<MovedPlace> MovedPlacesOf(Files& disk, const std::vector<StoredValue
 }
 
 Text LikelyPlace(Files& disk, const MovedPlace& place, const std::vector<PathMove>& known) {
+    std::set<Text> seen = {place.Directory};
     for (const PathMove& move : known) {
         const Text moved = MovedPath(place.Directory, {{DirectoryOf(move.From), DirectoryOf(move.To)}});
-        if (moved != place.Directory && IsHere(disk, moved)) {
+        if (seen.insert(moved).second && IsHere(disk, moved)) {
             return moved;
         }
     }

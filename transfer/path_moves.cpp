@@ -4,7 +4,6 @@
 #include <unordered_set>
 
 #include "catalogs/catalog_store.h"
-#include "catalogs/missing_game.h"
 #include "foundation/percent_text.h"
 #include "foundation/settings.h"
 #include "transfer/carried_values.h"
@@ -19,15 +18,25 @@ bool IsPlainInSetup(char letter) {
     return letter != ';' && letter != '\x7F' && static_cast<unsigned char>(letter) >= ' ';
 }
 
+bool IsSeparator(char letter) {
+    return letter == '\\' || letter == '/';
+}
+
 TextView WithoutSlash(TextView directory) {
-    while (directory.ends_with('\\') || directory.ends_with('/')) {
+    while (!directory.empty() && IsSeparator(directory.back())) {
         directory.remove_suffix(1);
     }
     return directory;
 }
 
+bool SameInPath(char a, char b) {
+    return a == b || (IsSeparator(a) && IsSeparator(b)) || LowerCase(a) == LowerCase(b);
+}
+
 bool LiesIn(TextView path, TextView directory) {
-    return StartsWithText(path, directory) && (path.size() == directory.size() || path[directory.size()] == '\\');
+    return path.size() >= directory.size() &&
+           std::ranges::equal(path.substr(0, directory.size()), directory, SameInPath) &&
+           (path.size() == directory.size() || IsSeparator(path[directory.size()]));
 }
 
 bool IsLowerCase(TextView text) {
@@ -84,12 +93,11 @@ Text FaultOfPlace(TextView directory) {
 }
 
 Text MovedPath(TextView path, const std::vector<PathMove>& moves) {
-    const Text onDisk = OnDisk(path);
     const PathMove* best = nullptr;
     std::size_t deepest = 0;
     for (const PathMove& move : moves) {
-        const Text from = OnDisk(WithoutSlash(move.From));
-        if (from.size() > deepest && LiesIn(onDisk, from)) {
+        const TextView from = WithoutSlash(move.From);
+        if (from.size() > deepest && LiesIn(path, from)) {
             best = &move;
             deepest = from.size();
         }

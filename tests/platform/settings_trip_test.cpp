@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/memory/memory_platform.h"
 #include "tests/support/scripted_user.h"
 #include "this_system.h"
 #include "transfer/import_settings.h"

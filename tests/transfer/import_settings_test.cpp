@@ -1,5 +1,8 @@
 #include "transfer/import_settings.h"
 
+#include <algorithm>
+#include <map>
+
 #include "tests/transfer/transfer_fixture.h"
 #include "transfer/backups.h"
 #include "transfer/settings_text.h"
