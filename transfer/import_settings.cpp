@@ -78,6 +78,15 @@ void TakeMissing(Plan& plan, const Store& stored, const std::vector<StoredValue>
     }
 }
 
+Plan PlanOf(Run& run, const std::vector<StoredValue>& all, const std::vector<StoredValue>& values) {
+    const Store stored = StoreOf(all);
+    Plan plan;
+    TakeFile(plan, run, stored, values);
+    TakeMissing(plan, stored, CarriedOf(all), values);
+    Take(plan, stored, {Text(kStuff), Text(kFirstTime), "0"});
+    return plan;
+}
+
 Error WriteAll(Run& run, const std::vector<StoredValue>& writes) {
     SettingsBacking& store = run.System.Settings;
     Error failed;
@@ -104,12 +113,7 @@ Result<ImportedSettings> ImportValues(Run& run, const std::vector<StoredValue>& 
     if (!all.Ok()) {
         return all.Fault;
     }
-    const Store stored = StoreOf(all.Value);
-    Plan plan;
-    TakeFile(plan, run, stored, moved.Value);
-    TakeMissing(plan, stored, CarriedOf(all.Value), moved.Value);
-    Take(plan, stored, {Text(kStuff), Text(kFirstTime), "0"});
-
+    Plan plan = PlanOf(run, all.Value, moved.Value);
     const auto backup = KeepBackup(run);
     if (!backup.Ok()) {
         return backup.Fault;
@@ -123,6 +127,16 @@ Result<ImportedSettings> ImportValues(Run& run, const std::vector<StoredValue>& 
                             .Moved = moves,
                             .LeftPlaces = {},
                             .Backup = backup.Value};
+}
+
+Result<SettingChanges> ChangesOfImport(Run& run, const std::vector<StoredValue>& values) {
+    const auto all = run.System.Settings.All(run.AppName);
+    if (!all.Ok()) {
+        return all.Fault;
+    }
+    std::vector<StoredValue> after = PlanOf(run, all.Value, values).Writes;
+    after.insert(after.end(), all.Value.begin(), all.Value.end());  // of each name the first counts
+    return ChangesBetween(CarriedOf(all.Value), CarriedOf(after));
 }
 
 Result<std::vector<PathMove>> AskForMovedPlaces(Run& run, const std::vector<StoredValue>& values,

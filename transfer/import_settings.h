@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "transfer/moved_places.h"
+#include "transfer/setting_changes.h"
 #include "transfer/settings_file.h"
 
 namespace lv {
@@ -32,6 +33,9 @@ using MovedPlaceQuestion = std::function<std::optional<Text>(const MovedPlace& p
 /// moves that MoveValues refuses.
 Result<ImportedSettings> ImportValues(Run& run, const std::vector<StoredValue>& values,
                                       const std::vector<PathMove>& moves);
+
+/// What ImportValues would change of the settings, without moves. Errors as SettingsBacking::All.
+Result<SettingChanges> ChangesOfImport(Run& run, const std::vector<StoredValue>& values);
 
 /// The places of these values that are not here, each asked for. Error 5 for an answer that FaultOfPlace is against.
 /// `left` gets the ones that stay.

@@ -1,8 +1,13 @@
 #include "launcher/forms/launcher_user.h"
 
+#include "launcher/forms/backups_form.h"
 #include "launcher/forms/install_params_form.h"
 
 namespace lv {
+
+LauncherUser::LauncherUser(Files& files) : WxUser(files) {
+    AddForms(MakeBackupsForm);
+}
 
 void LauncherUser::ShowInstallParams(InstallParams_Frm& form) {
     if (run_ == nullptr) {

@@ -11,7 +11,7 @@ namespace lv {
 
 class LauncherUser : public WxUser {
   public:
-    using WxUser::WxUser;
+    explicit LauncherUser(Files& files);
 
     /// The run whose settings the dialogs write. Set before the first of them is shown.
     void SetRun(Run& run) { run_ = &run; }

@@ -83,6 +83,9 @@ enum class MenuItem : int {
     Tools_Bar,
     GameOutput_Bar,
     SetUpGames_Bar,
+    ExportSettings_Bar,
+    ImportSettings_Bar,
+    Backups_Bar,
     Count,
 };
 

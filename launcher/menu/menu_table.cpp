@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "launcher/menu/catalog_menu.h"
+#include "launcher/menu/transfer_menu.h"
 #include "launcher/menu/video_profile_menu.h"
 #include "launcher/menu/window_menu.h"
 #include "launcher/window/game_end.h"
@@ -116,6 +117,9 @@ constexpr MenuRow kRows[] = {
     {Tools_Bar, "Tools_Bar", kNoIndex, "&Tools", "", None, nullptr},
     {GameOutput_Bar, "GameOutput_Bar", kNoIndex, "&Output of the Last Game...", "", Tools_Bar, GameOutput_Bar_Click},
     {SetUpGames_Bar, "SetUpGames_Bar", kNoIndex, "Set Up &Games...", "", Tools_Bar, SetUpGames_Bar_Click},
+    {ExportSettings_Bar, "ExportSettings_Bar", kNoIndex, "&Export Settings...", "", Tools_Bar, ExportSettings_Bar_Click},
+    {ImportSettings_Bar, "ImportSettings_Bar", kNoIndex, "&Import Settings...", "", Tools_Bar, ImportSettings_Bar_Click},
+    {Backups_Bar, "Backups_Bar", kNoIndex, "&Backups...", "", Tools_Bar, Backups_Bar_Click},
 };
 // clang-format on
 

@@ -303,4 +303,21 @@ TEST_F(ImportSettingsTest, OfABackupBringsBackWhatWasThere) {
     EXPECT_EQ(Backups(there.Run).size(), 2u);
 }
 
+TEST_F(ImportSettingsTest, SaysBeforehandWhatItChanges) {
+    here.Put("Options", "Games", "Capture;-game ctf");
+    here.Put("Options", "UseGames", "0");
+    here.Put("Options", "FutureKey", "1");
+    here.Put("LV-Stuff", "RunCount", "1");
+    const auto changes = ChangesOfImport(
+        here.Run, {{"Options", "Games", "Rogue;-game rogue"}, {"Options", "GameSpyLocation", "C:\\no"}});
+    EXPECT_EQ(ChangesText(changes.Value), "2 list entries and 1 setting");
+    here.System.Settings.RefuseReads = MakeError(error::kAlreadyOpen);
+    EXPECT_EQ(ChangesOfImport(here.Run, {}).Fault.Number, 55);
+}
+
+TEST_F(ImportSettingsTest, OfWhatIsThereChangesNothing) {
+    FillThere();
+    EXPECT_FALSE(ChangesOfImport(there.Run, CarriedOf(there.All())).Value.Any());
+}
+
 }  // namespace lv

@@ -92,6 +92,9 @@ const std::vector<Written>& Table() {
         {Tools_Bar, "Tools_Bar", -1, "&Tools", "", None, true},
         {GameOutput_Bar, "GameOutput_Bar", -1, "&Output of the Last Game...", "", Tools_Bar, true},
         {SetUpGames_Bar, "SetUpGames_Bar", -1, "Set Up &Games...", "", Tools_Bar, true},
+        {ExportSettings_Bar, "ExportSettings_Bar", -1, "&Export Settings...", "", Tools_Bar, true},
+        {ImportSettings_Bar, "ImportSettings_Bar", -1, "&Import Settings...", "", Tools_Bar, true},
+        {Backups_Bar, "Backups_Bar", -1, "&Backups...", "", Tools_Bar, true},
     };
     return rows;
 }
