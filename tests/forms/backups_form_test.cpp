@@ -33,7 +33,6 @@ class BackupsForm : public ::testing::Test {
     MemoryPlatform system;
     WxUser user{system.Disk};
     lv::Run run{system.Services, user};
-    Backups_Frm form{run};
 };
 
 TEST_F(BackupsForm, IsUsedByKeyboardAlone) {
@@ -48,6 +47,7 @@ TEST_F(BackupsForm, IsUsedByKeyboardAlone) {
         Screenshot("backups");
         DoAndAnswer([] { PressKey('B', wxMOD_ALT); }, [] { PressKey(WXK_RETURN); });
     });
+    Backups_Frm form(run);
     ShowModal(form);
     EXPECT_TRUE(form.BroughtBack);
     EXPECT_EQ(Games(), "One;-game one");
@@ -58,6 +58,7 @@ TEST_F(BackupsForm, EscapeClosesItAndChangesNothing) {
         PressKey(WXK_DOWN);
         PressKey(WXK_ESCAPE);
     });
+    Backups_Frm form(run);
     ShowModal(form);
     EXPECT_TRUE(form.Closed);
     EXPECT_FALSE(form.BroughtBack);
@@ -71,6 +72,7 @@ TEST_F(BackupsForm, ACancelledQuestionLeavesItOpen) {
         EXPECT_TRUE(Find("Backups_Lst")->IsShownOnScreen());
         ClickOn(Find("CloseBackups_Cmd"));
     });
+    Backups_Frm form(run);
     ShowModal(form);
     EXPECT_FALSE(form.BroughtBack);
 }
