@@ -141,9 +141,10 @@ std::vector<StoredValue> CarriedOf(const std::vector<StoredValue>& values, std::
             leftOut->push_back(Join(value.Section, "\\", value.Key));
         }
     }
-    std::ranges::stable_sort(carried, {}, &std::pair<Text, const StoredValue*>::first);
-    const auto twice = std::ranges::unique(carried, {}, &std::pair<Text, const StoredValue*>::first);
-    carried.erase(twice.begin(), twice.end());
+    std::stable_sort(carried.begin(), carried.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    const auto twice =
+        std::unique(carried.begin(), carried.end(), [](const auto& a, const auto& b) { return a.first == b.first; });
+    carried.erase(twice, carried.end());
     std::vector<StoredValue> sorted;
     sorted.reserve(carried.size());
     for (const auto& [id, value] : carried) {
