@@ -52,15 +52,23 @@ struct UnseenSystem {
     Platform Services{*Settings, Registry, Disk, Programs, Clip, Time};
 };
 
-/// A full path on the drives stays as it is; any other is the host's, from the directory that the user stands in.
-Text PathOfWord(Files& disk, TextView word) {
-    const bool isDrivePath = word.size() > 2 && word[1] == ':' && (word[2] == '\\' || word[2] == '/');
-    if (isDrivePath) {
-        return ReplaceSameLength(word, "/", "\\");
-    }
+bool IsDrivePath(TextView word) {
+    return word.size() > 2 && word[1] == ':' && (word[2] == '\\' || word[2] == '/');
+}
+
+/// The host's whole path, UTF-8, from the directory that the user stands in; empty if that cannot be said.
+std::string WholeHostPath(TextView word) {
     std::error_code failed;
     const auto host = std::filesystem::absolute(ToUtf8(word), failed);
-    return failed ? Text() : disk.FromHost(host.lexically_normal().string());
+    return failed ? std::string() : host.lexically_normal().string();
+}
+
+Text WholePath(TextView word) {
+    return IsDrivePath(word) ? Text(word) : FromUtf8Lossy(WholeHostPath(word));
+}
+
+Text PathOfWord(Files& disk, TextView word) {
+    return IsDrivePath(word) ? ReplaceSameLength(word, "/", "\\") : disk.FromHost(WholeHostPath(word));
 }
 
 CommandResult RunHere(const Command& command) {
@@ -77,7 +85,7 @@ CommandResult RunHere(const Command& command) {
 
 std::optional<int> DoWords(const std::vector<std::string>& words) {
     LinuxInstance running(ConfigDirectory().string());
-    const auto result = ResultOfWords(words, running, RunHere);
+    const auto result = ResultOfWords(words, running, WholePath, RunHere);
     return result ? std::optional(Print(*result)) : std::nullopt;
 }
 

@@ -24,13 +24,17 @@ inline CommandResult RunFor(Platform& system, const Command& command, std::funct
 /// What another start asks of the program whose window this is, and the answer.
 inline std::function<std::string(std::string_view)> AnswersOf(Launcher& window) {
     return [&window](std::string_view request) {
-        return ReplyOf(DoForAnother(window, {window.run.System, EmbeddedEngines(), {}, ConnectFoundry}, request));
+        Files& disk = window.run.System.Disk;
+        const auto pathOfWord = [&disk](TextView word) { return disk.FromTyped(word); };
+        return ReplyOf(
+            DoForAnother(window, {window.run.System, EmbeddedEngines(), pathOfWord, ConnectFoundry}, request));
     };
 }
 
 /// Nothing if the words ask for the window. `running` is asked ahead of `runHere` for what is the window's.
 template <class RunHere>
-std::optional<CommandResult> ResultOfWords(const std::vector<Text>& words, SingleInstance& running, RunHere runHere) {
+std::optional<CommandResult> ResultOfWords(const std::vector<Text>& words, SingleInstance& running,
+                                           const std::function<Text(TextView)>& wholePath, RunHere runHere) {
     const Result<Command> command = ReadCommand(words);
     if (!command.Ok()) {
         return NotUnderstood(command.Fault);
@@ -42,7 +46,7 @@ std::optional<CommandResult> ResultOfWords(const std::vector<Text>& words, Singl
         return AnswerAtOnce(command.Value);
     }
     if (IsForTheWindow(command.Value)) {
-        const auto reply = running.Ask(RequestOf(words));
+        const auto reply = running.Ask(RequestOf(WordsForAnother(command.Value, words, wholePath)));
         if (auto result = reply ? ResultOf(*reply) : std::nullopt) {
             return result;
         }

@@ -50,7 +50,9 @@ CommandResult RunHere(const Command& command) {
 
 std::optional<int> DoWords(const std::vector<std::string>& words) {
     WindowsInstance running(kInstanceCaption);
-    const auto result = ResultOfWords(words, running, RunHere);
+    WindowsFiles disk;
+    const auto wholePath = [&disk](TextView word) { return PathOfWord(disk, word); };
+    const auto result = ResultOfWords(words, running, wholePath, RunHere);
     return result ? std::optional(Print(*result)) : std::nullopt;
 }
 

@@ -2,7 +2,8 @@
 # one library of each subsystem that links what its folders may know, and nothing else.
 
 # From below to above.
-set(LV_SUBSYSTEMS platform foundation games catalogs console video launch gamespy launcher foundry wizard commands)
+set(LV_SUBSYSTEMS platform foundation games catalogs transfer console video launch gamespy launcher foundry wizard
+    commands)
 set(ROOMS_platform starting toolkit)
 set(ROOMS_games engines fitting trees)
 set(ROOMS_catalogs editors)
@@ -22,13 +23,14 @@ set(MAY_games/fitting games/fitting games/engines ${MAY_games})
 set(ALL_OF_GAMES games games/engines games/fitting games/trees foundation platform)
 set(MAY_catalogs catalogs ${ALL_OF_GAMES})
 set(MAY_catalogs/editors catalogs/editors ${MAY_catalogs})
+set(MAY_transfer transfer ${MAY_catalogs})
 set(MAY_console console ${ALL_OF_GAMES})
 set(MAY_console/files console/files catalogs ${MAY_console})
 set(MAY_console/checks console/checks ${MAY_console/files})
 set(MAY_video video ${ALL_OF_GAMES})
 set(MAY_launch launch video ${MAY_catalogs})
 set(MAY_gamespy gamespy catalogs/editors ${MAY_launch})
-set(MAY_launcher launcher launcher/start launcher/window launcher/menu launcher/setups ${MAY_gamespy})
+set(MAY_launcher launcher launcher/start launcher/window launcher/menu launcher/setups transfer ${MAY_gamespy})
 set(MAY_launcher/start ${MAY_launcher})
 set(MAY_launcher/window ${MAY_launcher})
 set(MAY_launcher/menu ${MAY_launcher})

@@ -3,6 +3,7 @@
 #include "commands/run_command.h"
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
+#include "launcher/start/main_window_load.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/window_life.h"
 
@@ -13,7 +14,16 @@ namespace {
 constexpr TextView kEnd = TextView("\0", 1);
 constexpr std::size_t kReplyFields = 4;
 
+CommandResult Busy() {
+    return {.Code = exit_code::kFailed, .Err = "The running Lorvane 3D is busy.\n"};
+}
+
 }  // namespace
+
+std::vector<Text> WordsForAnother(const Command& command, const std::vector<Text>& words,
+                                  const std::function<Text(TextView)>& wholePath) {
+    return command.What == Verb::Import ? std::vector<Text>{"--import", wholePath(command.Subject)} : words;
+}
 
 Text RequestOf(const std::vector<Text>& words) {
     Text request;
@@ -46,7 +56,7 @@ std::optional<CommandResult> ResultOf(TextView reply) {
 }
 
 bool IsForTheWindow(const Command& command) {
-    return command.What == Verb::Launch && !command.DryRun;
+    return (command.What == Verb::Launch && !command.DryRun) || command.What == Verb::Import;
 }
 
 CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView request) {
@@ -55,9 +65,16 @@ CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView
         return NotUnderstood(command.Fault);
     }
     if (!IsForTheWindow(command.Value) || window.LaunchUnderWay || window.run.Ended) {
-        return {.Code = exit_code::kFailed, .Err = "The running Lorvane 3D is busy.\n"};
+        return Busy();
+    }
+    const bool isImport = command.Value.What == Verb::Import;
+    if (isImport && DialogIsUp(window.run)) {
+        return Busy();  // it may show what would be others
     }
     CommandResult result = RunCommand(command.Value, place);
+    if (isImport && result.Code == exit_code::kDone) {
+        (void)ReloadMainWindow(window);
+    }
     if (!result.Started.empty()) {
         if (!DialogIsUp(window.run)) {
             HideForLaunch(window);

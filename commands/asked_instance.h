@@ -11,6 +11,10 @@
 
 namespace lv {
 
+/// The words of a command that the other instance can do as well: a file is named by its whole path.
+std::vector<Text> WordsForAnother(const Command& command, const std::vector<Text>& words,
+                                  const std::function<Text(TextView)>& wholePath);
+
 /// The words as one text, and back; a word ends at a character 0.
 Text RequestOf(const std::vector<Text>& words);
 std::vector<Text> WordsOf(TextView request);
@@ -23,7 +27,8 @@ std::optional<CommandResult> ResultOf(TextView reply);
 bool IsForTheWindow(const Command& command);
 
 /// Does what another start asks of the program whose window this is. A game that was started is this window's: it goes
-/// out of the way unless a dialog is up, and comes back at the game's end as after its own launch.
+/// out of the way unless a dialog is up, and comes back at the game's end as after its own launch. Imported settings
+/// are shown at once; under a dialog they are refused.
 CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView request);
 
 }  // namespace lv

@@ -3,6 +3,7 @@
 #include "commands/check_command.h"
 #include "commands/launch_command.h"
 #include "commands/list_command.h"
+#include "commands/transfer_command.h"
 #include "foundation/number_format.h"
 
 namespace lv {
@@ -18,7 +19,9 @@ CommandResult Done(const Command& command, const CommandPlace& place) {
         case Verb::Check:
             return CheckOneScript(command.Subject, place);
         case Verb::Export:
+            return ExportToFile(command.Subject, place);
         case Verb::Import:
+            return ImportFromFile(command.Subject, place);
         case Verb::Help:
         case Verb::Version:
         case Verb::OpenWindow:

@@ -8,10 +8,20 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/error.h"
 
 namespace lv {
+
+/// A value of an application's, its names as they are spelled in the store.
+struct StoredValue {
+    std::string Section;
+    std::string Key;
+    std::string Value;
+
+    bool operator==(const StoredValue&) const = default;
+};
 
 class SettingsBacking {
   public:
@@ -26,6 +36,11 @@ class SettingsBacking {
     /// 57 anything else of the device.
     virtual Error Write(std::string_view application, std::string_view section, std::string_view key,
                         std::string_view value) = 0;
+
+    /// All values of the application, in no particular order; in a group, those that it has written as well. Names that
+    /// Read could not be asked for, as code page 1252 has not all of their characters, are left out. Errors: 70
+    /// permission denied, 55 another program holds the store, 57 anything else of the device.
+    virtual Result<std::vector<StoredValue>> All(std::string_view application) = 0;
 
     /// Writes between BeginGroup and EndGroup become durable together, or not at all. Groups nest. For the hundreds of
     /// keys of a fresh profile.

@@ -1,6 +1,7 @@
 #include "commands/unseen/overlay_settings.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "foundation/field_strings.h"
 
@@ -21,7 +22,7 @@ void OverlaySettings::LetThrough(std::string_view section, std::string_view key)
 std::optional<std::string> OverlaySettings::Read(std::string_view application, std::string_view section,
                                                  std::string_view key) {
     const auto written = written_.find(LowerCase(Join(application, "\n")) + KeyOf(section, key));
-    return written != written_.end() ? written->second : below_.Read(application, section, key);
+    return written != written_.end() ? written->second.Value.Value : below_.Read(application, section, key);
 }
 
 Error OverlaySettings::Write(std::string_view application, std::string_view section, std::string_view key,
@@ -32,8 +33,29 @@ Error OverlaySettings::Write(std::string_view application, std::string_view sect
             return failed;
         }
     }
-    written_[LowerCase(Join(application, "\n")) + name] = value;
+    written_[LowerCase(Join(application, "\n")) + name] = {
+        std::string(application), {std::string(section), std::string(key), std::string(value)}};
     return {};
+}
+
+Result<std::vector<StoredValue>> OverlaySettings::All(std::string_view application) {
+    Result<std::vector<StoredValue>> below = below_.All(application);
+    if (!below.Ok()) {
+        return below;
+    }
+    std::vector<StoredValue> values;
+    const std::string start = LowerCase(Join(application, "\n"));
+    for (StoredValue& value : below.Value) {
+        if (!written_.contains(start + KeyOf(value.Section, value.Key))) {
+            values.push_back(std::move(value));
+        }
+    }
+    for (const auto& [name, written] : written_) {
+        if (SameText(written.Application, application)) {
+            values.push_back(written.Value);
+        }
+    }
+    return values;
 }
 
 }  // namespace lv

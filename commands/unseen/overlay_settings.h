@@ -24,10 +24,15 @@ class OverlaySettings : public SettingsBacking {
                                     std::string_view key) override;
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
+    Result<std::vector<StoredValue>> All(std::string_view application) override;
 
   private:
     SettingsBacking& below_;
-    std::map<std::string, std::string> written_;
+    struct Written {
+        std::string Application;
+        StoredValue Value;
+    };
+    std::map<std::string, Written> written_;
     std::vector<std::string> through_;
 };
 

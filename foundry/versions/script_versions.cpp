@@ -4,6 +4,7 @@
 
 #include "foundation/bounded_file.h"
 #include "foundation/field_strings.h"
+#include "foundation/own_directory.h"
 #include "foundry/document/script_mark.h"
 
 namespace lv {
@@ -11,27 +12,6 @@ namespace lv {
 namespace {
 
 constexpr std::size_t kLargestVersionFile = 2 * kMostVersionBytes;
-
-Text DirectoryOfVersions(const Run& run) {
-    const Text data = run.System.Places != nullptr ? Text(run.System.Places->DataDirectory()) : Text();
-    if (!data.empty()) {
-        return Join(data, "\\lorvane3d\\versions");
-    }
-    return Join(run.AppDirectory.empty() ? run.System.Disk.ProgramDirectory() : run.AppDirectory, "\\versions");
-}
-
-Error MakeWay(Files& disk, const Text& directory) {
-    if (disk.DirectoryExists(directory)) {
-        return {};
-    }
-    const Text above = directory.substr(0, directory.rfind('\\'));
-    if (above.find('\\') != Text::npos) {
-        if (Error failed = MakeWay(disk, above)) {
-            return failed;
-        }
-    }
-    return disk.MakeDirectory(directory);
-}
 
 Result<Text> ReadAll(Files& disk, TextView path, std::size_t most) {
     const auto file = disk.Open(path);
@@ -67,7 +47,7 @@ void AddNewest(std::vector<ScriptVersion>& versions, ScriptVersion version) {
 }  // namespace
 
 Text VersionFilePathOf(const Run& run, TextView script) {
-    return Join(DirectoryOfVersions(run), "\\", ScriptMark(script), ".txt");
+    return Join(OwnDirectory(run, "versions"), "\\", ScriptMark(script), ".txt");
 }
 
 Error KeepVersion(Run& run, TextView script) {
@@ -80,7 +60,7 @@ Error KeepVersion(Run& run, TextView script) {
         return text.Fault;
     }
     const Text path = VersionFilePathOf(run, script);
-    if (Error failed = MakeWay(disk, path.substr(0, path.rfind('\\')))) {
+    if (Error failed = MakeWholeDirectory(disk, path.substr(0, path.rfind('\\')))) {
         return failed;
     }
     VersionFile file = ReadVersions(disk, path);

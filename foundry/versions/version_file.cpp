@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <optional>
 
+#include "foundation/check_sum.h"
 #include "foundation/field_strings.h"
 #include "foundry/versions/version_delta.h"
 
@@ -17,26 +18,6 @@ namespace {
 constexpr TextView kTitle = "Lorvane 3D versions 1\n";
 constexpr TextView kWhole = "whole";
 constexpr TextView kDelta = "delta";
-
-std::uint32_t CheckSum(TextView text) {
-    constexpr std::uint32_t kPolynomial = 0xEDB88320U;
-    static const auto table = [] {
-        std::array<std::uint32_t, 256> made{};
-        for (std::uint32_t i = 0; i < made.size(); ++i) {
-            std::uint32_t value = i;
-            for (int bit = 0; bit < 8; ++bit) {
-                value = (value >> 1U) ^ ((value & 1U) != 0 ? kPolynomial : 0U);
-            }
-            made[i] = value;
-        }
-        return made;
-    }();
-    std::uint32_t sum = ~0U;
-    for (const char letter : text) {
-        sum = table[(sum ^ static_cast<unsigned char>(letter)) & 0xffU] ^ (sum >> 8U);
-    }
-    return ~sum;
-}
 
 std::optional<TextView> TakeLine(TextView& bytes) {
     const std::size_t end = bytes.find('\n');
@@ -126,12 +107,6 @@ Text DateText(const LocalTime& date) {
     return {room.data(), static_cast<std::size_t>(std::max(length, 0))};
 }
 
-Text SumText(std::uint32_t sum) {
-    std::array<char, 9> room{};
-    std::snprintf(room.data(), room.size(), "%08x", sum);
-    return room.data();
-}
-
 }  // namespace
 
 VersionFile ReadVersionFile(TextView bytes) {
@@ -164,7 +139,7 @@ Text WriteVersionFile(const VersionFile& file) {
         const bool isWhole = newer == nullptr || delta.size() >= version.Text.size();
         const Text& payload = isWhole ? version.Text : delta;
         bytes += Join(DateText(version.Date), " ", isWhole ? kWhole : kDelta, " ", std::to_string(version.Text.size()),
-                      " ", std::to_string(payload.size()), " ", SumText(CheckSum(version.Text)), "\n");
+                      " ", std::to_string(payload.size()), " ", CheckSumText(CheckSum(version.Text)), "\n");
         bytes += payload;
         bytes += '\n';
         newer = &version.Text;

@@ -1,5 +1,6 @@
 #include "launcher/forms/launcher_user.h"
 
+#include "launcher/forms/backups_form.h"
 #include "launcher/forms/install_params_form.h"
 #include "launcher/forms/setups_form.h"
 
@@ -7,6 +8,7 @@ namespace lv {
 
 LauncherUser::LauncherUser(Files& files) : WxUser(files) {
     AddForms(MakeSetupsForm);
+    AddForms(MakeBackupsForm);
 }
 
 void LauncherUser::ShowInstallParams(InstallParams_Frm& form) {

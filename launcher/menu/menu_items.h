@@ -98,6 +98,9 @@ enum class MenuItem : int {
     Setup_Bar_6,
     Setup_Bar_7,
     Setup_Bar_8,
+    ExportSettings_Bar,
+    ImportSettings_Bar,
+    Backups_Bar,
     Count,
 };
 

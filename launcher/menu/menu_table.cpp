@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "launcher/menu/catalog_menu.h"
+#include "launcher/menu/transfer_menu.h"
 #include "launcher/menu/video_profile_menu.h"
 #include "launcher/menu/window_menu.h"
 #include "launcher/setups/setups_menu.h"
@@ -137,6 +138,9 @@ constexpr MenuRow kRows[] = {
     {Setup_Bar_6, "Setup_Bar", 6, "", "", Setups_Bar, StartOfBar<6>},
     {Setup_Bar_7, "Setup_Bar", 7, "", "", Setups_Bar, StartOfBar<7>},
     {Setup_Bar_8, "Setup_Bar", 8, "", "", Setups_Bar, StartOfBar<8>},
+    {ExportSettings_Bar, "ExportSettings_Bar", kNoIndex, "&Export Settings...", "", Tools_Bar, ExportSettings_Bar_Click},
+    {ImportSettings_Bar, "ImportSettings_Bar", kNoIndex, "&Import Settings...", "", Tools_Bar, ImportSettings_Bar_Click},
+    {Backups_Bar, "Backups_Bar", kNoIndex, "&Backups...", "", Tools_Bar, Backups_Bar_Click},
 };
 // clang-format on
 

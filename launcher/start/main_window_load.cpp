@@ -1,12 +1,17 @@
 #include "launcher/start/main_window_load.h"
 
+#include "catalogs/built_in_lists.h"
+#include "catalogs/executables.h"
 #include "catalogs/map_scan.h"
 #include "catalogs/scripts.h"
 #include "foundation/settings.h"
+#include "games/engines/engine_seats.h"
 #include "launcher/setups/setups_menu.h"
 #include "launcher/start/get_options.h"
+#include "launcher/start/start_repairs.h"
 #include "launcher/window/lv_events.h"
 #include "launcher/window/option_rules.h"
+#include "video/profile_model.h"
 
 namespace lv {
 
@@ -58,6 +63,35 @@ bool LV_Frm_Load(Launcher& launcher) {
     window.TrayIcon = true;
     run.MainFormLoaded = true;
     return true;
+}
+
+bool ReloadMainWindow(Launcher& launcher) {
+    Run& run = launcher.run;
+    LV_Frm& window = launcher.Window;
+    RepairVideoProfileList(run);
+    RepairExecutables(run);
+    RepairGames(run);
+    UpgradeVideoProfiles(run);
+    RestoreEngineSeats(run);
+    if (run.Ended) {
+        return false;
+    }
+    FillVideoProfiles(run, window.VideoProfiles_Cbo);
+    if (!LoadExes(run, launcher.Lists)) {
+        return false;
+    }
+    Exe_Cbo_Click(launcher);
+    if (run.Ended || !FillMemoryCombo(run, launcher.Lists) || !FillDemoCombo(run, launcher.Lists)) {
+        return false;
+    }
+    LoadOptionBoxes(launcher);
+    if (launcher.VideoProfile.VideoProfileWindowOpen) {
+        Videop(launcher.VideoProfile);
+    }
+    launcher.Setups = LoadSetups(run);
+    ShowSetupsInMenu(launcher);
+    run.User.Refresh();
+    return !run.Ended;
 }
 
 }  // namespace lv

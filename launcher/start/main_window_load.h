@@ -11,4 +11,8 @@ namespace lv {
 /// False if the program ended on the way: a damaged catalog has been told of.
 bool LV_Frm_Load(Launcher& launcher);
 
+/// Brings the loaded window in line with settings that were replaced as a whole, as the next start would, without what
+/// that counts, asks of a first run, or does to the window itself. False if the program ended.
+bool ReloadMainWindow(Launcher& launcher);
+
 }  // namespace lv

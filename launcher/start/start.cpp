@@ -11,6 +11,7 @@
 #include "launcher/start/start_directories.h"
 #include "launcher/start/start_repairs.h"
 #include "launcher/window/window_life.h"
+#include "transfer/backups.h"
 
 namespace lv {
 
@@ -58,6 +59,7 @@ bool Prepare(Launcher& launcher) {
     if (!IsTheOnlyOne(run) || !AlignDirectories(run)) {
         return false;
     }
+    (void)KeepBackup(run);  // nothing keeps the program from starting
     OfferRemovalOfOlderInstall(run);
     LoadEngines(launcher);
     CutTrailingBackslash(run.AppDirectory);

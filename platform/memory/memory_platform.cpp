@@ -18,20 +18,59 @@ std::string StoreKey(std::string_view a, std::string_view b, std::string_view c)
 std::optional<std::string> MemorySettings::Read(std::string_view application, std::string_view section,
                                                 std::string_view key) {
     const auto found = values_.find(StoreKey(application, section, key));
-    return found == values_.end() ? std::nullopt : std::optional(found->second);
+    return found == values_.end() ? std::nullopt : std::optional(found->second.Value.Value);
+}
+
+Result<std::vector<StoredValue>> MemorySettings::All(std::string_view application) {
+    if (RefuseReads) {
+        return RefuseReads;
+    }
+    std::vector<StoredValue> values;
+    for (const auto& [names, stored] : values_) {
+        if (SameText(stored.Application, application)) {
+            values.push_back(stored.Value);
+        }
+    }
+    return values;
+}
+
+void MemorySettings::BeginGroup() {
+    if (depth_++ == 0) {
+        before_ = values_;
+        groupFault_ = {};
+    }
+}
+
+Error MemorySettings::EndGroup() {
+    if (depth_ == 0 || --depth_ > 0) {
+        return RefuseGroups;
+    }
+    Error failed = groupFault_ ? groupFault_ : RefuseGroups;
+    if (failed) {
+        values_ = std::move(before_);
+    }
+    before_.clear();
+    groupFault_ = {};
+    return failed;
 }
 
 Error MemorySettings::Write(std::string_view application, std::string_view section, std::string_view key,
                             std::string_view value) {
     while (Locked) {
         if (!question_ || !question_(Locked)) {
+            groupFault_ = Locked;
             return Locked;
         }
     }
     if (RefuseWrites) {
+        groupFault_ = RefuseWrites;
         return RefuseWrites;
     }
-    values_[StoreKey(application, section, key)] = value;
+    auto& stored = values_[StoreKey(application, section, key)];
+    if (stored.Value.Key.empty()) {
+        stored = {std::string(application), {std::string(section), std::string(key), {}}};
+    }
+    stored.Value.Value = value;
     Log.push_back(std::string(section) + '|' + std::string(key) + '|' + std::string(value));
     return {};
 }

@@ -24,18 +24,30 @@ class MemorySettings : public SettingsBacking {
                                     std::string_view key) override;
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
-    Error EndGroup() override { return RefuseGroups; }
+    Result<std::vector<StoredValue>> All(std::string_view application) override;
+    void BeginGroup() override;
+    Error EndGroup() override;
     void WhenLocked(LockedQuestion question) override { question_ = std::move(question); }
 
     /// Each write, as "section|key|value", in order.
     std::vector<std::string> Log;
     Error RefuseWrites;
     Error RefuseGroups;  // at their end
+    Error RefuseReads;   // of all values at once
     Error Locked;        // another program holds the store: each write asks, and a question may clear this
     [[nodiscard]] std::size_t Count() const { return values_.size(); }
 
   private:
-    std::map<std::string, std::string> values_;
+    struct Stored {
+        std::string Application;
+        StoredValue Value;
+    };
+    using Map = std::map<std::string, Stored>;  // by application, section and key in lower case
+
+    Map values_;
+    Map before_;  // the outermost group
+    int depth_ = 0;
+    Error groupFault_;
     LockedQuestion question_;
 };
 

@@ -11,7 +11,8 @@ namespace {
 // The class that a new key is given, as the program has always named it.
 constexpr wchar_t kNewClass[] = L"REG_SZ";
 
-constexpr std::size_t kLongestKey = 255;  // the name of one, by the system's own limit
+constexpr std::size_t kLongestKey = 255;      // the name of one, by the system's own limit
+constexpr std::size_t kLongestValue = 16383;  // the name of one, the same
 
 const BYTE* BytesOf(const void* data) {
     return static_cast<const BYTE*>(data);
@@ -60,6 +61,32 @@ std::vector<std::wstring> RegistryKeyHandle::Keys(std::size_t most) const {
         size = static_cast<DWORD>(name.size());
     }
     return names;
+}
+
+LSTATUS RegistryKeyHandle::AllKeys(std::vector<std::wstring>& names) const {
+    std::vector<wchar_t> name(kLongestKey + 1);
+    while (true) {
+        auto size = static_cast<DWORD>(name.size());
+        const LSTATUS status = RegEnumKeyExW(key_, static_cast<DWORD>(names.size()), name.data(), &size, nullptr,
+                                             nullptr, nullptr, nullptr);
+        if (status != ERROR_SUCCESS) {
+            return status == ERROR_NO_MORE_ITEMS ? ERROR_SUCCESS : status;
+        }
+        names.emplace_back(name.data(), size);
+    }
+}
+
+LSTATUS RegistryKeyHandle::AllValues(std::vector<std::wstring>& names) const {
+    std::vector<wchar_t> name(kLongestValue + 1);
+    while (true) {
+        auto size = static_cast<DWORD>(name.size());
+        const LSTATUS status = RegEnumValueW(key_, static_cast<DWORD>(names.size()), name.data(), &size, nullptr,
+                                             nullptr, nullptr, nullptr);
+        if (status != ERROR_SUCCESS) {
+            return status == ERROR_NO_MORE_ITEMS ? ERROR_SUCCESS : status;
+        }
+        names.emplace_back(name.data(), size);
+    }
 }
 
 LSTATUS RegistryKeyHandle::Query(const std::wstring& name, RawRegistryValue& value) const {

@@ -37,6 +37,10 @@ class RegistryKeyHandle {
     /// The names of at most `most` keys in it.
     [[nodiscard]] std::vector<std::wstring> Keys(std::size_t most) const;
 
+    /// The names of all keys in it, and of all values.
+    LSTATUS AllKeys(std::vector<std::wstring>& names) const;
+    LSTATUS AllValues(std::vector<std::wstring>& names) const;
+
     /// A value of a type other than text and number comes back as its type alone.
     LSTATUS Query(const std::wstring& name, RawRegistryValue& value) const;
     /// The value as it stands, of whatever type.

@@ -25,6 +25,36 @@ std::string HeldKey(std::string_view application, std::string_view section, std:
     return LowerCase(names);
 }
 
+// What a section's key holds. A key that has gone in the meantime holds nothing.
+LSTATUS AddValuesOf(const std::wstring& path, const std::string& section, std::vector<StoredValue>& values) {
+    RegistryKeyHandle key;
+    std::vector<std::wstring> names;
+    LSTATUS failed = key.Open(path, KEY_QUERY_VALUE);
+    failed = failed == ERROR_SUCCESS ? key.AllValues(names) : failed;
+    for (const std::wstring& name : names) {
+        const auto spelled = FromWide(name);
+        RawRegistryValue value;
+        if (spelled && key.Query(name, value) == ERROR_SUCCESS && value.Type == REG_SZ) {
+            values.push_back({section, *spelled, FromWideLossy(value.Text)});
+        }
+    }
+    return failed == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : failed;
+}
+
+// The sections in the key of a section, or of the application, whose section is "".
+LSTATUS AddSectionsIn(const std::wstring& path, const std::string& section, std::vector<std::string>& sections) {
+    RegistryKeyHandle key;
+    std::vector<std::wstring> names;
+    LSTATUS failed = key.Open(path, KEY_ENUMERATE_SUB_KEYS);
+    failed = failed == ERROR_SUCCESS ? key.AllKeys(names) : failed;
+    for (const std::wstring& name : names) {
+        if (const auto spelled = FromWide(name)) {
+            sections.push_back(section.empty() ? *spelled : section + "\\" + *spelled);
+        }
+    }
+    return failed == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : failed;
+}
+
 bool CannotBeNamed(std::string_view text) {
     return text.find('\0') != std::string_view::npos;
 }
@@ -147,8 +177,38 @@ Error RegistrySettings::Write(std::string_view application, std::string_view sec
     if (depth_ == 0) {
         return ErrorOfStore(WriteText(PathOf(application, section), ToWide(key), ToWide(value)));
     }
-    held_[HeldKey(application, section, key)] = {PathOf(application, section), ToWide(key), ToWide(value)};
+    held_[HeldKey(application, section, key)] = {
+        {std::string(section), std::string(key), {}}, PathOf(application, section), ToWide(key), ToWide(value)};
     return {};
+}
+
+Result<std::vector<StoredValue>> RegistrySettings::All(std::string_view application) {
+    std::vector<StoredValue> values;
+    std::vector<std::string> sections;
+    if (!CannotBeNamed(application)) {
+        sections.emplace_back();
+    }
+    for (std::size_t i = 0; i < sections.size(); ++i) {
+        const std::string section = sections[i];
+        const std::wstring path =
+            section.empty() ? ToWide(std::string(kSettings) + std::string(application)) : PathOf(application, section);
+        LSTATUS failed = AddValuesOf(path, section, values);
+        failed = failed == ERROR_SUCCESS ? AddSectionsIn(path, section, sections) : failed;
+        if (failed != ERROR_SUCCESS) {
+            return ErrorOfStore(failed);
+        }
+    }
+    const std::string ours = LowerCase(application) + '\0';
+    for (const auto& [names, held] : held_) {
+        if (!names.starts_with(ours)) {
+            continue;
+        }
+        std::erase_if(values, [&held = held.Names](const StoredValue& value) {
+            return SameText(value.Section, held.Section) && SameText(value.Key, held.Key);
+        });
+        values.push_back({held.Names.Section, held.Names.Key, FromWideLossy(held.Value)});
+    }
+    return values;
 }
 
 void RegistrySettings::BeginGroup() {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "platform/settings_backing.h"
 
@@ -31,6 +32,9 @@ class RegistrySettings : public SettingsBacking {
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
 
+    /// A section with a "\" in its name is a key in a key.
+    Result<std::vector<StoredValue>> All(std::string_view application) override;
+
     void BeginGroup() override;
     /// An error that a write of the group met, or meets now: then nothing of the group is there. 57 too if another
     /// instance has been writing a group for seconds.
@@ -41,6 +45,7 @@ class RegistrySettings : public SettingsBacking {
 
   private:
     struct Held {
+        StoredValue Names;  // their value is empty
         std::wstring Path;
         std::wstring Name;
         std::wstring Value;

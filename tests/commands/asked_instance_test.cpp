@@ -1,5 +1,7 @@
 #include "commands/asked_instance.h"
 
+#include "commands/transfer_command.h"
+#include "launcher/start/main_window_load.h"
 #include "tests/support/launcher_fixture.h"
 
 namespace lv {
@@ -41,11 +43,38 @@ TEST_F(AskedInstance, WhatIsNoAnswerIsNone) {
     EXPECT_FALSE(ResultOf(reply + reply).has_value());
 }
 
-TEST_F(AskedInstance, OnlyALaunchIsTheWindows) {
+TEST_F(AskedInstance, AFileIsNamedByItsWholePath) {
+    const auto whole = [](TextView word) { return Join("/home/me/", word); };
+    const std::vector<Text> import = {"--import=mine.lv3d"};
+    EXPECT_EQ(WordsForAnother(ReadCommand(import).Value, import, whole),
+              (std::vector<Text>{"--import", "/home/me/mine.lv3d"}));
+    const std::vector<Text> launch = {"--launch", "Quake"};
+    EXPECT_EQ(WordsForAnother(ReadCommand(launch).Value, launch, whole), launch);
+}
+
+TEST_F(AskedInstance, ImportedSettingsAreShownAtOnceAndNotUnderADialog) {
+    Open();
+    system.Disk.AddDirectory("C:\\HOME");
+    const CommandPlace place{system.Services};
+    ASSERT_EQ(ExportToFile("C:\\HOME\\mine.lv3d", place).Code, exit_code::kDone);
+    Save(run, kOptions, "Executables", "Only;C:\\HL\\HL.EXE");
+    ASSERT_TRUE(ReloadMainWindow(launcher));
+    ASSERT_EQ(window.Exe_Cbo.Items.size(), 1U);
+    SuspendTopmost(run);
+    EXPECT_EQ(Ask({"--import", "C:\\HOME\\mine.lv3d"}).Code, exit_code::kFailed);
+    EXPECT_EQ(window.Exe_Cbo.Items.size(), 1U);
+    ResumeTopmost(run);
+    EXPECT_EQ(Ask({"--import", "C:\\HOME\\mine.lv3d"}).Code, exit_code::kDone);
+    EXPECT_EQ(window.Exe_Cbo.Items.size(), 6U);
+}
+
+TEST_F(AskedInstance, OnlyALaunchAndAnImportAreTheWindows) {
     EXPECT_TRUE(IsForTheWindow(ReadCommand({"--launch", "Quake"}).Value));
     EXPECT_TRUE(IsForTheWindow(ReadCommand({"--setup", "Evening"}).Value));
     EXPECT_FALSE(IsForTheWindow(ReadCommand({"--launch", "Quake", "--dry-run"}).Value));
     EXPECT_FALSE(IsForTheWindow(ReadCommand({"--list", "--launch", "Quake"}).Value));
+    EXPECT_TRUE(IsForTheWindow(ReadCommand({"--import", "a.lv3d"}).Value));
+    EXPECT_FALSE(IsForTheWindow(ReadCommand({"--export", "a.lv3d"}).Value));
     EXPECT_FALSE(IsForTheWindow(ReadCommand({}).Value));
 }
 

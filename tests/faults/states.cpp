@@ -6,6 +6,7 @@
 #include <set>
 
 #include "foundry/versions/version_file.h"
+#include "transfer/settings_text.h"
 
 namespace lv {
 
@@ -50,7 +51,11 @@ void Compare(const Entries& before, const Entries& after, const Entries& now, co
 
 HomeState StateOf(const FaultyHome& home) {
     const auto rows = home.Rows();
-    return {home.Files(), rows.value_or(Entries())};
+    Entries files = home.Files();
+    std::erase_if(files, [](const auto& file) {
+        return file.first.find("/backups/settings ") != std::string::npos && ReadSettingsText(file.second).Ok();
+    });
+    return {std::move(files), rows.value_or(Entries())};
 }
 
 std::vector<std::string> Damage(const HomeState& before, const HomeState& after, const HomeState& now,

@@ -18,7 +18,8 @@ struct HomeState {
     std::map<std::string, std::string> Rows;
 };
 
-/// Fails the test if the store does not open.
+/// Fails the test if the store does not open. Copies of the settings do not count if they are whole: each start makes
+/// one if something has changed, and does without where it cannot.
 HomeState StateOf(const FaultyHome& home);
 
 /// What a kill in the middle of a write leaves: the file that was being made. It counts as damage once another run has

@@ -25,6 +25,7 @@ void FuzzRegFile(TextView input);
 void FuzzScript(TextView input);
 void FuzzScriptCheck(TextView input);
 void FuzzServerText(TextView input);
+void FuzzSettingsText(TextView input);
 void FuzzStartRun(TextView input);
 void FuzzTwoScripts(TextView input);
 void FuzzVdf(TextView input);
@@ -47,6 +48,7 @@ constexpr FuzzedReader kFuzzedReaders[] = {
     {"script", FuzzScript},
     {"script_check", FuzzScriptCheck},
     {"server_text", FuzzServerText},
+    {"settings_text", FuzzSettingsText},
     {"start_run", FuzzStartRun},
     {"two_scripts", FuzzTwoScripts},
     {"vdf", FuzzVdf},

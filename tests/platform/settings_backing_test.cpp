@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/memory/memory_platform.h"
 #include "this_system.h"
 
@@ -14,6 +16,20 @@ namespace {
 struct InMemory {
     MemorySettings Store;
 };
+
+/// "section|key|value" of each, sorted.
+std::vector<std::string> AllOf(SettingsBacking& store, std::string_view application) {
+    const auto all = store.All(application);
+    EXPECT_EQ(all.Fault.Number, 0) << all.Fault.Text;
+    std::vector<std::string> lines;
+    for (const StoredValue& value : all.Value) {
+        lines.push_back(value.Section + '|' + value.Key + '|' + value.Value);
+    }
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
+using Lines = std::vector<std::string>;
 
 }  // namespace
 
@@ -79,6 +95,50 @@ TYPED_TEST(AnySettings, KeepAValueOf16000Characters) {
     const std::string longest(16000, '\xE9');
     EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Games", longest).Number, 0);
     EXPECT_EQ(this->store_.Read("Lorvane 3D", "Options", "Games"), longest);
+}
+
+TYPED_TEST(AnySettings, HaveNoValuesOfANewApplication) {
+    EXPECT_EQ(AllOf(this->store_, "Lorvane 3D"), Lines());
+}
+
+TYPED_TEST(AnySettings, GiveAllValuesOfTheOneApplicationAsTheyAreSpelled) {
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Games", "a;b").Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Empty", "").Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "DefaultScript", "c:\\quake\\ID1", "c:\\quake\\id1\\a.cfg").Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "\xC9t\xE9\\a", "K\xE9y", "\x80").Number, 0);
+    EXPECT_EQ(this->store_.Write("a", "Options", "Games", "of another").Number, 0);
+    const Lines all = {"DefaultScript|c:\\quake\\ID1|c:\\quake\\id1\\a.cfg", "Options|Empty|", "Options|Games|a;b",
+                       "\xC9t\xE9\\a|K\xE9y|\x80"};
+    EXPECT_EQ(AllOf(this->store_, "Lorvane 3D"), all);
+    EXPECT_EQ(AllOf(this->store_, "lorvane 3d"), all);
+}
+
+TYPED_TEST(AnySettings, GiveAValueThatWasWrittenTwiceOnce) {
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Qspy", "1").Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "options", "QSPY", "0").Number, 0);
+    EXPECT_EQ(AllOf(this->store_, "Lorvane 3D"), Lines{"Options|Qspy|0"});
+}
+
+TYPED_TEST(AnySettings, GiveAll256ByteValuesAndLongOnesAmongAll) {
+    std::string bytes;
+    for (int i = 0; i < 256; ++i) {
+        bytes += static_cast<char>(i);
+    }
+    const std::string longest(16000, '\xE9');
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "All", bytes).Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Long", longest).Number, 0);
+    EXPECT_EQ(AllOf(this->store_, "Lorvane 3D"), (Lines{"Options|All|" + bytes, "Options|Long|" + longest}));
+}
+
+TYPED_TEST(AnySettings, GiveWhatAGroupHasWrittenAmongAll) {
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Games", "a").Number, 0);
+    this->store_.BeginGroup();
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Games", "b").Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Other", "c").Number, 0);
+    EXPECT_EQ(this->store_.Write("a", "Options", "Other", "d").Number, 0);
+    EXPECT_EQ(AllOf(this->store_, "Lorvane 3D"), (Lines{"Options|Games|b", "Options|Other|c"}));
+    EXPECT_EQ(this->store_.EndGroup().Number, 0);
+    EXPECT_EQ(AllOf(this->store_, "Lorvane 3D"), (Lines{"Options|Games|b", "Options|Other|c"}));
 }
 
 TYPED_TEST(AnySettings, ShowAGroupsWritesAtOnceAndAfterwards) {

@@ -209,4 +209,45 @@ TEST(SqliteSettings, TakeBackAWholeGroupWhenOneOfItsWritesFails) {
     EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Profile", "0"), std::nullopt);
 }
 
+TEST(SqliteSettings, LeaveNamesWithoutAFormOutOfAllAndGiveTheirValuesWithQuestionMarks) {
+    const ScratchDirectory scratch;
+    RunSql(scratch / "s", std::string(kHandMade) +
+                              "INSERT INTO setting VALUES('Lorvane 3D', 'Options', 'a\xE6\x97\xA5', 'x');"
+                              "INSERT INTO setting VALUES('Lorvane 3D', '\xE6\x97\xA5', 'a', 'x');"
+                              "INSERT INTO setting VALUES('\xE6\x97\xA5', 'Options', 'a', 'x');"
+                              "INSERT INTO setting VALUES('Lorvane 3D', 'Options', 'b', 'a\xE6\x97\xA5\xC3\xA9');");
+    const auto all = OpenStore(scratch / "s")->All(kApp);
+    EXPECT_EQ(all.Fault.Number, 0);
+    EXPECT_EQ(all.Value, (std::vector<StoredValue>{{"Options", "b", "a?\xE9"}, {"Options", "Games", "id1"}}));
+}
+
+TEST(SqliteSettings, LeaveTheStoreFreeForOthersOnceAllIsRead) {
+    const ScratchDirectory scratch;
+    const auto store = OpenStore(scratch / "s");
+    EXPECT_EQ(store->Write(kApp, "Options", "Games", "id1").Number, 0);
+    EXPECT_EQ(store->All(kApp).Value.size(), 1u);
+    const auto other = OpenStore(scratch / "s");
+    EXPECT_EQ(other->Write(kApp, "Options", "Games", "ctf").Number, 0);
+    EXPECT_EQ(store->All(kApp).Value, (std::vector<StoredValue>{{"Options", "Games", "ctf"}}));
+}
+
+TEST(SqliteSettings, FindAccentedNamesInAnyCaseWithinAGroupToo) {
+    const ScratchDirectory scratch;
+    const auto store = OpenStore(scratch / "s");
+    EXPECT_EQ(store->Write(kApp, "Options", "\xC9t\xE9", "old").Number, 0);
+    store->BeginGroup();
+    EXPECT_EQ(store->Write(kApp, "Options", "\xE9t\xE9", "new").Number, 0);
+    EXPECT_EQ(store->Write(kApp, "Options", "No\xEBl", "1").Number, 0);
+    EXPECT_EQ(store->Write(kApp, "Options", "NO\xCBL", "2").Number, 0);
+    EXPECT_EQ(store->Read(kApp, "Options", "no\xEBl"), "2");
+    EXPECT_EQ(store->EndGroup().Number, 0);
+    EXPECT_EQ(store->All(kApp).Value,
+              (std::vector<StoredValue>{{"Options", "No\xEBl", "2"}, {"Options", "\xC9t\xE9", "new"}}));
+    EXPECT_EQ(OpenStore(scratch / "s")->Write(kApp, "Options", "\xE0", "of another").Number, 0);
+    store->BeginGroup();
+    EXPECT_EQ(store->Write(kApp, "Options", "\xC0", "ours").Number, 0);
+    EXPECT_EQ(store->EndGroup().Number, 0);
+    EXPECT_EQ(store->All(kApp).Value.size(), 3u);
+}
+
 }  // namespace lv

@@ -32,6 +32,12 @@ bool HasOtherThanAscii(std::string_view text) {
     return std::any_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
 }
 
+std::string IdOf(std::string_view application, std::string_view section, std::string_view key) {
+    std::string id = LowerCase(application) + '\0';
+    id += LowerCase(section) + '\0';
+    return id + LowerCase(key);
+}
+
 bool IsName(const std::string& utf8, std::string_view name) {
     const auto stored = FromUtf8(utf8);
     return stored && SameText(*stored, name);
@@ -120,29 +126,57 @@ std::optional<SqliteSettings::Row> SqliteSettings::Find(const Names& names) {
     }
 }
 
+Result<std::optional<SqliteSettings::Row>> SqliteSettings::Select(const std::array<std::string, 3>& names) {
+    SqliteUse select(Prepared(kSelect));
+    select.Bind(1, names[0]);
+    select.Bind(2, names[1]);
+    select.Bind(3, names[2]);
+    const int got = select.Step();
+    if (got == SQLITE_ROW) {
+        return std::optional(Row{{select.Column(0), select.Column(1), select.Column(2)}, select.Column(3)});
+    }
+    return got == SQLITE_DONE ? Result<std::optional<Row>>() : FaultOf(database_.get());
+}
+
 Result<std::optional<SqliteSettings::Row>> SqliteSettings::Look(const Names& names) {
-    const std::string application = ToUtf8(names.Application);
-    const std::string section = ToUtf8(names.Section);
-    const std::string key = ToUtf8(names.Key);
-    {
-        SqliteUse select(Prepared(kSelect));
-        select.Bind(1, application);
-        select.Bind(2, section);
-        select.Bind(3, key);
-        const int got = select.Step();
-        if (got == SQLITE_ROW) {
-            return std::optional(Row{{select.Column(0), select.Column(1), select.Column(2)}, select.Column(3)});
-        }
-        if (got != SQLITE_DONE) {
-            return FaultOf(database_.get());
-        }
+    Result<std::optional<Row>> row = Select({ToUtf8(names.Application), ToUtf8(names.Section), ToUtf8(names.Key)});
+    if (!row.Ok() || row.Value) {
+        return row;
     }
     const bool mayDifferInCase =
         HasOtherThanAscii(names.Application) || HasOtherThanAscii(names.Section) || HasOtherThanAscii(names.Key);
     return mayDifferInCase ? LookInAllRows(names) : std::optional<Row>();
 }
 
+// What a transaction has begun with nobody else changes.
+Error SqliteSettings::NoteSpellings() {
+    SqliteUse scan(Prepared(kScan));
+    spellings_.emplace();
+    int got = scan.Step();
+    for (; got == SQLITE_ROW; got = scan.Step()) {
+        std::array<std::string, 3> names{scan.Column(0), scan.Column(1), scan.Column(2)};
+        const auto application = FromUtf8(names[0]);
+        const auto section = FromUtf8(names[1]);
+        const auto key = FromUtf8(names[2]);
+        if (application && section && key) {
+            spellings_->emplace(IdOf(*application, *section, *key), std::move(names));
+        }
+    }
+    if (got == SQLITE_DONE) {
+        return {};
+    }
+    spellings_.reset();
+    return FaultOf(database_.get());
+}
+
 Result<std::optional<SqliteSettings::Row>> SqliteSettings::LookInAllRows(const Names& names) {
+    if (sqlite3_get_autocommit(database_.get()) == 0) {
+        if (Error failed = spellings_ ? Error() : NoteSpellings()) {
+            return failed;
+        }
+        const auto found = spellings_->find(IdOf(names.Application, names.Section, names.Key));
+        return found == spellings_->end() ? Result<std::optional<Row>>() : Select(found->second);
+    }
     SqliteUse scan(Prepared(kScan));
     int got = scan.Step();
     for (; got == SQLITE_ROW; got = scan.Step()) {
@@ -154,6 +188,29 @@ Result<std::optional<SqliteSettings::Row>> SqliteSettings::LookInAllRows(const N
         }
     }
     return got == SQLITE_DONE ? Result<std::optional<Row>>() : FaultOf(database_.get());
+}
+
+Result<std::vector<StoredValue>> SqliteSettings::All(std::string_view application) {
+    while (true) {
+        Result<std::vector<StoredValue>> values = ReadAll(application);
+        if (!WaitAgain(values.Fault)) {
+            return values;
+        }
+    }
+}
+
+Result<std::vector<StoredValue>> SqliteSettings::ReadAll(std::string_view application) {
+    SqliteUse scan(Prepared(kScan));
+    std::vector<StoredValue> values;
+    int got = scan.Step();
+    for (; got == SQLITE_ROW; got = scan.Step()) {
+        auto section = FromUtf8(scan.Column(1));
+        auto key = FromUtf8(scan.Column(2));
+        if (section && key && IsName(scan.Column(0), application)) {
+            values.push_back({*std::move(section), *std::move(key), FromUtf8Lossy(scan.Column(3))});
+        }
+    }
+    return got == SQLITE_DONE ? Result<std::vector<StoredValue>>(std::move(values)) : FaultOf(database_.get());
 }
 
 std::optional<std::string> SqliteSettings::Read(std::string_view application, std::string_view section,
@@ -189,7 +246,13 @@ Error SqliteSettings::Store(const Names& names, std::string_view value) {
     upsert.Bind(2, stored[1]);
     upsert.Bind(3, stored[2]);
     upsert.Bind(4, text);
-    return upsert.Step() == SQLITE_DONE ? Error() : FaultOf(database_.get());
+    if (upsert.Step() != SQLITE_DONE) {
+        return FaultOf(database_.get());
+    }
+    if (spellings_) {
+        spellings_->emplace(IdOf(names.Application, names.Section, names.Key), stored);
+    }
+    return {};
 }
 
 Error SqliteSettings::StoreInTransaction(const Names& names, std::string_view value) {
@@ -218,6 +281,7 @@ Error SqliteSettings::StoreInGroup(const Names& names, std::string_view value) {
 
 // Ends a transaction that is still open.
 void SqliteSettings::TakeBack() {
+    spellings_.reset();
     if (sqlite3_get_autocommit(database_.get()) == 0) {
         (void)Do(kRollback);
     }

@@ -9,7 +9,9 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <utility>
+#include <vector>
 
 #include "platform/linux/settings/settings_file.h"
 #include "platform/settings_backing.h"
@@ -42,6 +44,8 @@ class SqliteSettings : public SettingsBacking {
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
 
+    Result<std::vector<StoredValue>> All(std::string_view application) override;
+
     /// The outermost group is one transaction, begun with its first write. The first write that fails takes back the
     /// whole group: all that follow fail the same way, and so does EndGroup. A group never ended is never stored.
     void BeginGroup() override;
@@ -67,7 +71,10 @@ class SqliteSettings : public SettingsBacking {
     Error Do(Statement statement);
     std::optional<Row> Find(const Names& names);
     Result<std::optional<Row>> Look(const Names& names);
+    Result<std::optional<Row>> Select(const std::array<std::string, 3>& names);
     Result<std::optional<Row>> LookInAllRows(const Names& names);
+    Error NoteSpellings();
+    Result<std::vector<StoredValue>> ReadAll(std::string_view application);
     Error Store(const Names& names, std::string_view value);
     Error StoreInTransaction(const Names& names, std::string_view value);
     Error StoreInGroup(const Names& names, std::string_view value);
@@ -77,6 +84,8 @@ class SqliteSettings : public SettingsBacking {
     std::array<sqlite3_stmt*, kStatements> statements_{};
     int depth_ = 0;
     Error groupFault_;
+    /// In a transaction, once a name was looked for in all rows: how each is spelled, by its names in lower case.
+    std::optional<std::unordered_map<std::string, std::array<std::string, 3>>> spellings_;
     int patience_ = kPatience;
     LockedQuestion question_;
     bool asking_ = false;

@@ -41,6 +41,21 @@ TEST(OverlaySettings, AKeyThatIsLetThroughReachesTheStoreBelow) {
     EXPECT_EQ(store.Read("A", "LV-Stuff", "LaunchCount"), "3");
 }
 
+TEST(OverlaySettings, AllAreThoseInFrontAndTheOthersBelow) {
+    MemorySettings below;
+    (void)below.Write("A", "S", "One", "1");
+    (void)below.Write("A", "S", "Two", "2");
+    (void)below.Write("B", "S", "Three", "3");
+    OverlaySettings store(below);
+    (void)store.Write("a", "s", "two", "22");
+    (void)store.Write("A", "S", "Four", "4");
+    std::map<std::string, std::string> all;
+    for (const StoredValue& value : store.All("A").Value) {
+        EXPECT_TRUE(all.emplace(value.Key, value.Value).second);
+    }
+    EXPECT_EQ(all, (std::map<std::string, std::string>{{"One", "1"}, {"two", "22"}, {"Four", "4"}}));
+}
+
 TEST(OverlaySettings, ARefusedWriteBelowIsRefused) {
     MemorySettings below;
     OverlaySettings store(below);

@@ -136,4 +136,40 @@ TEST_F(MainWindowLoad, OfAnEmptyCatalogComesUpWithEmptyLists) {
     EXPECT_TRUE(run.MainFormLoaded);
 }
 
+TEST_F(MainWindowLoad, AReloadShowsWhatIsStoredNow) {
+    AddGames();
+    Load();
+    Save(run, kOptions, "Executables", "Only;C:/QUAKE/QUAKE.EXE");
+    Save(run, kOptions, "ExecutablesPos", 7);
+    Save(run, kOptions, "Listen", 1);
+    Save(run, kOptions, "Demos", "Mine;playdemo mine.dem");
+    EXPECT_TRUE(ReloadMainWindow(launcher));
+    ASSERT_EQ(window.Exe_Cbo.Items.size(), 1u);
+    EXPECT_EQ(window.Exe_Cbo.Items[0].Key, "C:\\QUAKE\\QUAKE.EXE");
+    EXPECT_EQ(window.Exe_Cbo.ListIndex, 0);
+    EXPECT_EQ(window.Box(Option::Listen_Chk).Value, 1);
+    EXPECT_EQ(window.Demo_Cbo.Items.size(), 1u);
+}
+
+TEST_F(MainWindowLoad, AReloadCountsNoRunAndAsksOfNoFirstOne) {
+    AddGames();
+    Load();
+    const Text runs = Stored(kStuff, "RunCount");
+    Save(run, kOptions, "Executables", "");
+    EXPECT_TRUE(ReloadMainWindow(launcher));
+    EXPECT_TRUE(window.Exe_Cbo.Items.empty());
+    EXPECT_EQ(Stored(kStuff, "RunCount"), runs);
+}
+
+TEST_F(MainWindowLoad, AReloadMakesTheProfilesThatAreMissing) {
+    AddGames();
+    Load();
+    Save(run, kStuff, "VP_Version", 0);
+    Save(run, kOptions, "VideoProfileList", "");
+    EXPECT_TRUE(ReloadMainWindow(launcher));
+    EXPECT_EQ(Stored(kOptions, "VideoProfileList"), "Base;Optimize for Speed;Optimize for Beauty;Default");
+    EXPECT_EQ(window.VideoProfiles_Cbo.Items.size(), 4u);
+    EXPECT_EQ(Stored(kStuff, "VP_Version"), "1");
+}
+
 }  // namespace lv

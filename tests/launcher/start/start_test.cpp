@@ -3,6 +3,7 @@
 #include "launcher/start/install_params.h"
 #include "launcher/window/window_life.h"
 #include "tests/support/launcher_fixture.h"
+#include "transfer/backups.h"
 
 namespace lv {
 
@@ -249,6 +250,34 @@ TEST_F(StartTest, WithoutAWindowNeitherAnInstanceNorTheUserIsAsked) {
     EXPECT_FALSE(window.Visible);
     EXPECT_EQ(run.AppDirectory, "C:\\LORVANE");
     EXPECT_EQ(run.GameKind, Game::Quake);
+}
+
+TEST_F(StartTest, KeepsACopyOfTheSettingsThatHaveChanged) {
+    const Text before = Stored(kOptions, "Executables");
+    EXPECT_TRUE(Start(launcher));
+    ASSERT_EQ(Backups(run).size(), 1u);
+    const auto kept = ReadSettingsFile(run, Backups(run)[0].Path);
+    ASSERT_NE(FindValue(kept.Value, kOptions, "Executables"), nullptr);
+    EXPECT_EQ(FindValue(kept.Value, kOptions, "Executables")->Value, before);
+}
+
+TEST_F(StartTest, KeepsNoSecondCopyOfTheSameSettings) {
+    EXPECT_TRUE(Start(launcher));
+    for (int starts = 0; starts < 3; ++starts) {
+        Launcher again(run);
+        EXPECT_TRUE(Start(again));
+    }
+    const std::size_t kept = Backups(run).size();
+    EXPECT_LE(kept, 2u);  // the first start has put values in order
+    Launcher last(run);
+    EXPECT_TRUE(Start(last));
+    EXPECT_EQ(Backups(run).size(), kept);
+}
+
+TEST_F(StartTest, GoesOnWithoutACopyThatCannotBeKept) {
+    system.Settings.RefuseReads = MakeError(error::kAlreadyOpen);
+    EXPECT_TRUE(Start(launcher));
+    EXPECT_TRUE(Backups(run).empty());
 }
 
 }  // namespace lv

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/memory/memory_platform.h"
 #include "platform/windows/registry_key.h"
 #include "platform/windows/system.h"
@@ -213,6 +215,25 @@ TEST(RegistrySettings, ThrowADamagedNoteAwayAndTouchNothing) {
     RegistrySettings again("Lorvane 3D");
     EXPECT_FALSE(HoldsNote());
     EXPECT_EQ(again.Read("Lorvane 3D", "Options", "A"), "kept");
+}
+
+TEST(RegistrySettings, GiveAllThatIsTextWhereverItLies) {
+    SystemSettings made;
+    EXPECT_EQ(made.Store.Write("Lorvane 3D", "Options", "A", "text").Number, 0);
+    EXPECT_EQ(made.Store.Write("Lorvane 3D", "Fast\\Card", "B", "in a key in a key").Number, 0);
+    WriteNumber(kOptions, L"Number", 3);
+    RegistryKeyHandle options;
+    ASSERT_EQ(options.Open(kOptions, KEY_SET_VALUE), ERROR_SUCCESS);
+    ASSERT_EQ(options.SetText(L"a\u65E5", L"a name that code page 1252 has not"), ERROR_SUCCESS);
+    RegistryKeyHandle application;
+    ASSERT_EQ(application.Open(kApplication, KEY_SET_VALUE), ERROR_SUCCESS);
+    ASSERT_EQ(application.SetBytes(kNote, REG_BINARY, "note"), ERROR_SUCCESS);
+    auto all = made.Store.All("Lorvane 3D");
+    EXPECT_EQ(all.Fault.Number, 0);
+    std::sort(all.Value.begin(), all.Value.end(),
+              [](const StoredValue& a, const StoredValue& b) { return a.Key < b.Key; });
+    EXPECT_EQ(all.Value,
+              (std::vector<StoredValue>{{"Options", "A", "text"}, {"Fast\\Card", "B", "in a key in a key"}}));
 }
 
 }  // namespace lv

@@ -1,0 +1,190 @@
+#include "launcher/menu/transfer_menu.h"
+
+#include <algorithm>
+
+#include "catalogs/editors/path_window.h"
+#include "foundation/browse.h"
+#include "foundation/error_lines.h"
+#include "foundation/field_strings.h"
+#include "foundation/question_box.h"
+#include "launcher/menu/backups_frm.h"
+#include "launcher/start/main_window_load.h"
+#include "transfer/import_settings.h"
+
+namespace lv {
+
+namespace {
+
+constexpr const char* kExport = "Export Settings";
+constexpr const char* kImport = "Import Settings";
+constexpr const char* kPlaces = "Where Are These Games?";
+constexpr TextView kFilter = "Settings of Lorvane 3D (*.lv3d)|*.lv3d|All Files (*.*)|*.*";
+constexpr TextView kFileName = "settings.lv3d";
+constexpr std::size_t kMostNamed = 10;
+
+/// The file; nothing if the user cancelled, or was told that the dialog failed.
+std::optional<Text> AskForSettingsFile(Run& run, const char* title, bool forSaving) {
+    FileRequest request;
+    request.Title = title;
+    request.Filter = kFilter;
+    request.InitialDirectory = BrowseStart(run, "");
+    request.FileName = forSaving ? kFileName : "";
+    request.ForSaving = forSaving;
+    const auto chosen = AskForFile(run, request);
+    if (!chosen.Ok() && chosen.Fault.Number != kDialogCancelled) {
+        AskUser(run, "A Windows Related Error Occured", DialogFailureText(chosen.Fault));
+    }
+    return chosen.Ok() && chosen.Value && !chosen.Value->empty() ? chosen.Value : std::nullopt;
+}
+
+/// A line each, behind a tab.
+Text Lines(const std::vector<Text>& names) {
+    Text lines;
+    for (std::size_t i = 0; i < std::min(names.size(), kMostNamed); ++i) {
+        lines += Join(NewLine, TabChar, names[i]);
+    }
+    return names.size() <= kMostNamed
+               ? lines
+               : Join(lines, NewLine, TabChar, "and ", std::to_string(names.size() - kMostNamed), " more");
+}
+
+Text Settings(std::size_t count) {
+    return Join(std::to_string(count), count == 1 ? " setting" : " settings");
+}
+
+bool WantsImport(Run& run, TextView path, const std::vector<StoredValue>& values) {
+    const SettingChanges changes = ChangesOfImport(run, values).Value;
+    return AskUser(run, kImport,
+                   Join("Put the settings of the file -->", NewLine, NewLine, TabChar, path, NewLine, NewLine,
+                        "in the place of yours?", NewLine, NewLine, "This changes ", ChangesText(changes),
+                        "; each list becomes the one of the file.", NewLine,
+                        "Yours are kept as a backup, and Tools, Backups brings them back.", NewLine, NewLine,
+                        "The lists say which programs are started: import only what you trust."),
+                   "&Import,&Cancel") == 0;
+}
+
+/// The user's answers to where the places are.
+class PlaceQuestions {
+  public:
+    explicit PlaceQuestions(Run& run) : run_(run) {}
+
+    std::optional<Text> Ask(const MovedPlace& place, TextView likely) {
+        while (!leavesAll_) {
+            const std::optional<Text> here = AskOnce(place, likely);
+            const Text fault = here ? FaultOfPlace(*here) : Text();
+            if (fault.empty()) {
+                return here;
+            }
+            AskUser(run_, kPlaces, fault);
+        }
+        return std::nullopt;
+    }
+
+  private:
+    std::optional<Text> AskOnce(const MovedPlace& place, TextView likely) {
+        const int offers = likely.empty() ? 0 : 1;
+        const int answer = AskUser(run_, kPlaces, Question(place, likely),
+                                   Join(likely.empty() ? "" : "&That's It,", "&Show Where,&Leave It,Leave &All"));
+        if (answer == 0 && offers == 1) {
+            return Text(likely);
+        }
+        leavesAll_ = answer == offers + 2;
+        if (answer != offers) {
+            return std::nullopt;
+        }
+        Text path = ChoosePath(run_, likely.empty() ? TextView(run_.LastBrowsed) : likely,
+                               Join("Where Is ", LastPathPart(place.Directory), "?"));
+        return path == kPathCancelled ? std::nullopt : std::optional(std::move(path));
+    }
+
+    static Text Question(const MovedPlace& place, TextView likely) {
+        return Join("There is no directory -->", NewLine, NewLine, TabChar, place.Directory, NewLine, NewLine,
+                    "on this machine. In it lay:", NewLine, Lines(place.Games), NewLine, NewLine,
+                    likely.empty() ? Text("Where is it here?")
+                                   : Join("Is it this one here?", NewLine, NewLine, TabChar, likely));
+    }
+
+    Run& run_;
+    bool leavesAll_ = false;
+};
+
+void TellImported(Run& run, const char* title, const ImportedSettings& done) {
+    Text text = Join(Settings(done.Changed), done.Changed == 1 ? " is another now." : " are others now.");
+    if (!done.Kept.empty()) {
+        text += Join(NewLine, NewLine, "As they were, for the file does not say or what it names is not here:", NewLine,
+                     Lines(done.Kept));
+    }
+    if (!done.LeftPlaces.empty()) {
+        text += Join(NewLine, NewLine, "Not here, and left as the file has them:", NewLine, Lines(done.LeftPlaces));
+    }
+    if (!done.Backup.empty()) {
+        text += Join(NewLine, NewLine, "What was there before is kept; Tools, Backups brings it back.");
+    }
+    AskUser(run, title, text);
+}
+
+void TellThatNothingChanged(Run& run, const Error& failed) {
+    AskUser(run, kImport, Join("The settings are as they were.", NewLine, NewLine, ErrorLines(failed)));
+}
+
+}  // namespace
+
+void ExportSettings_Bar_Click(Launcher& launcher) {
+    Run& run = launcher.run;
+    const auto path = AskForSettingsFile(run, kExport, true);
+    if (!path) {
+        return;
+    }
+    const auto done = ExportSettings(run, *path);
+    if (!done.Ok()) {
+        AskUser(run, kExport, Join("The settings were not exported.", NewLine, NewLine, ErrorLines(done.Fault)));
+        return;
+    }
+    Text text =
+        Join(Settings(done.Value.Values), done.Value.Values == 1 ? " is" : " are", " in the file -->", NewLine, NewLine,
+             TabChar, *path, NewLine, NewLine, "The passwords of your servers are among them: it is for you alone.");
+    if (!done.Value.LeftOut.empty()) {
+        text += Join(NewLine, NewLine, "Such a file cannot hold, as they are too long:", NewLine,
+                     Lines(done.Value.LeftOut));
+    }
+    AskUser(run, kExport, text);
+}
+
+void ImportSettings_Bar_Click(Launcher& launcher) {
+    Run& run = launcher.run;
+    const auto path = AskForSettingsFile(run, kImport, false);
+    if (!path) {
+        return;
+    }
+    const auto values = ReadSettingsFile(run, *path);
+    if (!values.Ok()) {
+        TellThatNothingChanged(run, values.Fault);
+        return;
+    }
+    if (!WantsImport(run, *path, values.Value)) {
+        return;
+    }
+    PlaceQuestions questions(run);
+    const auto ask = [&questions](const MovedPlace& place, TextView likely) { return questions.Ask(place, likely); };
+    std::vector<Text> left;
+    const auto moves = AskForMovedPlaces(run, values.Value, ask, left);
+    auto done = moves.Ok() ? ImportValues(run, values.Value, moves.Value) : Result<ImportedSettings>(moves.Fault);
+    if (!done.Ok()) {
+        TellThatNothingChanged(run, done.Fault);
+        return;
+    }
+    done.Value.LeftPlaces = std::move(left);
+    TellImported(run, kImport, done.Value);
+    ReloadMainWindow(launcher);
+}
+
+void Backups_Bar_Click(Launcher& launcher) {
+    Backups_Frm form(launcher.run);
+    ShowModal(form);
+    if (form.BroughtBack) {
+        TellImported(launcher.run, form.Caption.c_str(), *form.BroughtBack);
+        ReloadMainWindow(launcher);
+    }
+}
+
+}  // namespace lv

@@ -1,0 +1,65 @@
+#include "commands/transfer_command.h"
+
+#include "tests/support/launcher_fixture.h"
+
+namespace lv {
+namespace {
+
+class TransferCommand : public LauncherTest {
+  protected:
+    TransferCommand() {
+        AddGames();
+        system.Disk.AddDirectory("C:\\HOME");
+    }
+    CommandPlace place{system.Services};
+};
+
+TEST_F(TransferCommand, WhatIsExportedIsImportedAgain) {
+    Save(run, kOptions, "NetServers", "Club;club.example;27910;3;Secret");
+    const Text programs = Stored(kOptions, "Executables");
+    const CommandResult exported = ExportToFile("C:\\HOME\\mine.lv3d", place);
+    EXPECT_EQ(exported.Code, exit_code::kDone) << exported.Err;
+    EXPECT_TRUE(exported.Out.find(" settings are in the file C:\\HOME\\mine.lv3d.") != Text::npos) << exported.Out;
+    Save(run, kOptions, "NetServers", "");
+    Save(run, kOptions, "Executables", "Only;C:\\HL\\HL.EXE");
+    const CommandResult imported = ImportFromFile("C:\\HOME\\mine.lv3d", place);
+    EXPECT_EQ(imported.Code, exit_code::kDone) << imported.Err;
+    EXPECT_EQ(Stored(kOptions, "NetServers"), "Club;club.example;27910;3;Secret");
+    EXPECT_EQ(Stored(kOptions, "Executables"), programs);
+}
+
+TEST_F(TransferCommand, ADamagedFileChangesNothingAndSaysSo) {
+    (void)ExportToFile("C:\\HOME\\mine.lv3d", place);
+    Text bytes = system.Disk.Bytes("C:\\HOME\\mine.lv3d");
+    bytes[bytes.size() / 2] ^= 1;
+    system.Disk.AddFile("C:\\HOME\\bad.lv3d", bytes);
+    const std::size_t writes = system.Settings.Log.size();
+    const CommandResult result = ImportFromFile("C:\\HOME\\bad.lv3d", place);
+    EXPECT_EQ(result.Code, exit_code::kFailed);
+    EXPECT_TRUE(result.Err.ends_with("The settings are as they were.\r\n")) << result.Err;
+    EXPECT_EQ(system.Settings.Log.size(), writes);
+}
+
+TEST_F(TransferCommand, AFileThatIsNotThere) {
+    const CommandResult result = ImportFromFile("C:\\HOME\\none.lv3d", place);
+    EXPECT_EQ(result.Code, exit_code::kNothingCalledSo);
+}
+
+TEST_F(TransferCommand, APlaceThatIsNotHereIsLeftAndTold) {
+    Save(run, kOptions, "Executables", "Far;D:\\FAR\\QUAKE.EXE");
+    (void)ExportToFile("C:\\HOME\\far.lv3d", place);
+    Save(run, kOptions, "Executables", "");
+    const CommandResult result = ImportFromFile("C:\\HOME\\far.lv3d", place);
+    EXPECT_EQ(result.Code, exit_code::kDone);
+    EXPECT_TRUE(result.Out.find("Not here, and left as the file has them:\r\n  D:\\FAR") != Text::npos) << result.Out;
+    EXPECT_EQ(Stored(kOptions, "Executables"), "Far;D:\\FAR\\QUAKE.EXE");
+}
+
+TEST_F(TransferCommand, ADirectoryThatIsNotThereTakesNoFile) {
+    const CommandResult result = ExportToFile("C:\\NOWHERE\\mine.lv3d", place);
+    EXPECT_EQ(result.Code, exit_code::kFailed) << result.Out;
+    EXPECT_TRUE(result.Err.starts_with("\"C:\\NOWHERE\\mine.lv3d\": ")) << result.Err;
+}
+
+}  // namespace
+}  // namespace lv

@@ -1,0 +1,81 @@
+// The settings in the store of this system, out of it as a file, and into it again.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "platform/memory/memory_platform.h"
+#include "tests/support/scripted_user.h"
+#include "this_system.h"
+#include "transfer/import_settings.h"
+#include "transfer/settings_text.h"
+
+namespace lv {
+
+namespace {
+
+constexpr TextView kFile = "C:\\HOME\\mine.txt";
+
+/// A machine in memory, but for its store.
+struct StoredMachine {
+    explicit StoredMachine(SettingsBacking& store)
+        : Services{store, Rest.Registry, Rest.Disk, Rest.Programs, Rest.Clip, Rest.Time, nullptr, nullptr, nullptr} {
+        Rest.Disk.AddDirectory("C:\\HOME");
+        Rest.Disk.AddDirectory("C:\\LORVANE");
+    }
+
+    MemoryPlatform Rest;
+    Platform Services;
+    ScriptedUser User;
+    lv::Run Run{Services, User};
+};
+
+std::optional<Text> Leave(const MovedPlace& /*place*/, TextView /*likely*/) {
+    return std::nullopt;
+}
+
+Text AllBytes() {
+    Text all;
+    for (int i = 0; i < 256; ++i) {
+        all += static_cast<char>(i);
+    }
+    return all;
+}
+
+std::vector<StoredValue> FullStore() {
+    std::vector<StoredValue> values = {{"Options", "Executables", "Quake;C:\\QUAKE\\QUAKE.EXE"},
+                                       {"Options", "CustomCommandLineText", AllBytes()},
+                                       {"Options", "Games", Text(16000, '\xE9')},
+                                       {"Options", "VideoProfileList", "Base;Mes R\xC9glages;a\\b"},
+                                       {"Mes R\xC9glages", "UseRez", "1"},
+                                       {"a\\b", "UseRez", ""},
+                                       {"Setups", "Setup1", "1;Executable=C:\\QUAKE\\QUAKE.EXE"}};
+    for (int i = 0; i < 200; ++i) {
+        values.push_back({"DefaultScript", Join("c:\\jeux\\No\xEBl ", std::to_string(i)), Text(i % 100, '\\')});
+    }
+    return values;
+}
+
+}  // namespace
+
+TEST(SettingsTrip, KeepsEveryValueByteForByte) {
+    SystemSettings system;
+    MemorySettings elsewhere;
+    StoredMachine here(system.Store);
+    StoredMachine there(elsewhere);
+    for (const StoredValue& value : FullStore()) {
+        ASSERT_EQ(elsewhere.Write("Lorvane 3D", value.Section, value.Key, value.Value).Number, 0);
+    }
+    ASSERT_EQ(ExportSettings(there.Run, kFile).Fault.Text, "");
+    const Text bytes = there.Rest.Disk.Bytes(kFile);
+
+    here.Rest.Disk.AddFile(kFile, bytes);
+    ASSERT_EQ(ImportSettings(here.Run, kFile, Leave).Fault.Text, "");
+    for (const StoredValue& value : FullStore()) {
+        EXPECT_EQ(system.Store.Read("Lorvane 3D", value.Section, value.Key), value.Value) << value.Key;
+    }
+    ASSERT_EQ(ExportSettings(here.Run, kFile).Fault.Text, "");
+    EXPECT_EQ(here.Rest.Disk.Bytes(kFile), bytes);
+}
+
+}  // namespace lv
