@@ -62,6 +62,25 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
     ${Loop}
 !macroend
 
+; $R0 becomes the place that the list of programs names for this one, or "" if that is $INSTDIR, in whatever spelling:
+; a file that is made here is there, too.
+!macro FIND_OTHER_PLACE
+    ReadRegStr $R0 HKCU "${ENTRY}" "InstallLocation"
+    ${If} $R0 == $INSTDIR
+        StrCpy $R0 ""
+    ${ElseIf} $R0 != ""
+        GetTempFileName $R1 "$INSTDIR"
+        ${If} $R1 != ""
+            ${GetFileName} $R1 $R2
+            ${If} ${FileExists} "$R0\$R2"
+                StrCpy $R0 ""
+            ${EndIf}
+            Delete $R1
+        ${EndIf}
+    ${EndIf}
+    ClearErrors
+!macroend
+
 ; The shortcut's name for the task bar, that of platform/windows/task_bar.h: pinned, it stands for the windows too.
 !macro NAME_FOR_TASK_BAR SHORTCUT
     !insertmacro ComHlpr_CreateInProcInstance ${CLSID_ShellLink} ${IID_IShellLink} r0 ""
@@ -88,9 +107,57 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
     ${EndIf}
 !macroend
 
+Function WaitUntilTheOtherIsClosed
+    ${If} $R0 == ""
+        Return
+    ${EndIf}
+    ${DoWhile} ${FileExists} "$R0\lorvane3d.exe"
+        ClearErrors
+        FileOpen $0 "$R0\lorvane3d.exe" a
+        ${IfNot} ${Errors}
+            FileClose $0
+            ${ExitDo}
+        ${EndIf}
+        MessageBox MB_ABORTRETRYIGNORE|MB_ICONEXCLAMATION \
+            "Lorvane 3D is installed in $R0 so far, and is to be removed there. It is running, or its program file \
+cannot be written.$\n$\nClose it and try again, or ignore this to leave it there." \
+            /SD IDABORT IDRETRY again IDIGNORE leave
+        SetOutPath "$TEMP"
+        RMDir "$INSTDIR"
+        SetErrorLevel 2
+        Abort "Lorvane 3D is running; nothing was changed."
+        leave:
+        ${ExitDo}
+        again:
+    ${Loop}
+FunctionEnd
+
+; In its own way, silently: settings stay, and the user's files.
+Function RemoveTheOther
+    ${If} $R0 == ""
+    ${OrIfNot} ${FileExists} "$R0\lorvane3d.exe"
+        Return
+    ${EndIf}
+    DetailPrint "Removing Lorvane 3D from $R0"
+    ExecWait '"$R0\uninstall.exe" /S _?=$R0'
+    ${If} ${FileExists} "$R0\lorvane3d.exe"
+        SetErrorLevel 3
+        DetailPrint "Lorvane 3D could not be removed from $R0."
+        MessageBox MB_OK|MB_ICONEXCLAMATION \
+            "Lorvane 3D is installed in $INSTDIR. It could not be removed from $R0, where it was before: \
+delete it there yourself, if you need it no more." /SD IDOK
+        Return
+    ${EndIf}
+    ; Started that way, it can't remove itself.
+    Delete "$R0\uninstall.exe"
+    RMDir "$R0"
+FunctionEnd
+
 Section "Lorvane 3D"
     !insertmacro WAIT_UNTIL_CLOSED
     SetOutPath "$INSTDIR"
+    !insertmacro FIND_OTHER_PLACE
+    Call WaitUntilTheOtherIsClosed
     ClearErrors
     File /r "${STAGE}\*"
     WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -98,6 +165,8 @@ Section "Lorvane 3D"
         SetErrorLevel 2
         Abort "Not everything could be written to $INSTDIR."
     ${EndIf}
+    ; It takes shortcut and entry away, which are written below.
+    Call RemoveTheOther
     CreateShortCut "$SMPROGRAMS\Lorvane 3D.lnk" "$INSTDIR\lorvane3d.exe" "" "" "" SW_SHOWNORMAL "" \
         "Starts the shooters of 1996 to 1999"
     !insertmacro NAME_FOR_TASK_BAR "$SMPROGRAMS\Lorvane 3D.lnk"
@@ -116,13 +185,17 @@ SectionEnd
 Section "un.Lorvane 3D"
     SectionIn RO
     !insertmacro WAIT_UNTIL_CLOSED
+    !insertmacro FIND_OTHER_PLACE
     ; What was installed and nothing else: the directory may hold the user's own files.
     !include "${FILES}"
     Delete "$INSTDIR\uninstall.exe"
     SetOutPath "$TEMP"
     RMDir "$INSTDIR"
-    Delete "$SMPROGRAMS\Lorvane 3D.lnk"
-    DeleteRegKey HKCU "${ENTRY}"
+    ; Those of a program in another place are not this one's.
+    ${If} $R0 == ""
+        Delete "$SMPROGRAMS\Lorvane 3D.lnk"
+        DeleteRegKey HKCU "${ENTRY}"
+    ${EndIf}
 SectionEnd
 
 Section /o "un.My lists and settings" UNSETTINGS

@@ -151,7 +151,8 @@ void LvForm::ShowSplash() {
     if (splash_) {
         splash_->ShowState(launcher_);
     }
-    if (splash_ && !launcher_.Splash.Visible) {
+    // Not before the start is over: Windows would destroy the dialogs that lie above the splash along with it.
+    if (splash_ && !launcher_.Splash.Visible && launcher_.Window.Visible) {
         splash_->Destroy();
         splash_ = nullptr;
     }

@@ -12,6 +12,8 @@ namespace lv {
 namespace {
 
 constexpr const wchar_t* kPlace = L"T:\\My Games & more\\Lorvane 3D";
+constexpr const wchar_t* kOtherPlace = L"T:\\Moved (100%)";
+constexpr const wchar_t* kEntry = L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Lorvane 3D";
 
 std::wstring BuildDirectory() {
     const std::wstring built = BuiltProgram();
@@ -26,8 +28,8 @@ std::wstring Setup() {
     return BuildDirectory() + L"\\" + static_cast<const wchar_t*>(found.cFileName);
 }
 
-std::optional<DWORD> Install() {
-    return RunToEnd(L"\"" + Setup() + L"\" /S /D=" + kPlace);
+std::optional<DWORD> Install(const std::wstring& place = kPlace) {
+    return RunToEnd(L"\"" + Setup() + L"\" /S /D=" + place);
 }
 
 bool IsThere(const std::wstring& path) {
@@ -38,9 +40,7 @@ bool IsThere(const std::wstring& path) {
 std::wstring EntryOf(const wchar_t* name) {
     std::array<wchar_t, 300> text{};
     DWORD size = sizeof text;
-    const LSTATUS failed =
-        RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Lorvane 3D", name,
-                     RRF_RT_REG_SZ, nullptr, text.data(), &size);
+    const LSTATUS failed = RegGetValueW(HKEY_CURRENT_USER, kEntry, name, RRF_RT_REG_SZ, nullptr, text.data(), &size);
     return failed == ERROR_SUCCESS ? std::wstring(text.data()) : L"(none)";
 }
 
@@ -51,10 +51,19 @@ std::wstring StartMenuEntry() {
 }
 
 // The uninstaller goes on in a copy of itself.
+void RemoveFrom(const std::wstring& place, const std::wstring& switches = L"") {
+    EXPECT_EQ(RunToEnd(L"\"" + place + L"\\uninstall.exe\" /S" + switches), 0u);
+    EXPECT_TRUE(WaitUntil([&] { return !IsThere(place + L"\\uninstall.exe"); }));
+}
+
 void Remove(const std::wstring& switches) {
-    EXPECT_EQ(RunToEnd(L"\"" + std::wstring(kPlace) + L"\\uninstall.exe\" /S" + switches), 0u);
+    RemoveFrom(kPlace, switches);
     EXPECT_TRUE(WaitUntil([] { return EntryOf(L"DisplayName") == L"(none)"; }));
-    EXPECT_TRUE(WaitUntil([] { return !IsThere(std::wstring(kPlace) + L"\\uninstall.exe"); }));
+}
+
+// As a link keeps the place that it leads to, in code page 1252.
+bool StartMenuLeadsTo(const std::wstring& place) {
+    return BytesOf(StartMenuEntry()).find(std::string(place.begin(), place.end())) != std::string::npos;
 }
 
 }  // namespace
@@ -105,6 +114,83 @@ TEST(Installer, ReplacesNothingUnderAProgramThatRuns) {
         EXPECT_EQ(Install(), 2u);
     }
     EXPECT_EQ(Install(), 0u);
+    Remove(L"");
+}
+
+TEST(Installer, MovesToAnotherPlaceAndLeavesTheUsersOwnFilesInTheFirst) {
+    WindowsHome home;
+    home.Prepare();
+    ASSERT_EQ(Install(), 0u);
+    EXPECT_TRUE(StartMenuLeadsTo(kPlace));
+    WriteBytes(std::wstring(kPlace) + L"\\mine.txt", "mine");
+    ASSERT_EQ(Install(kOtherPlace), 0u);
+    EXPECT_FALSE(IsThere(std::wstring(kPlace) + L"\\lorvane3d.exe"));
+    EXPECT_FALSE(IsThere(std::wstring(kPlace) + L"\\uninstall.exe"));
+    EXPECT_FALSE(IsThere(std::wstring(kPlace) + L"\\handbook"));
+    EXPECT_EQ(BytesOf(std::wstring(kPlace) + L"\\mine.txt"), "mine");
+    EXPECT_EQ(EntryOf(L"InstallLocation"), kOtherPlace);
+    EXPECT_TRUE(StartMenuLeadsTo(kOtherPlace));
+    EXPECT_EQ(home.Get("LV-Stuff", "FirstTime"), "0") << "the user's settings are gone";
+    RemoveFrom(kOtherPlace);
+    EXPECT_TRUE(WaitUntil([] { return EntryOf(L"DisplayName") == L"(none)"; }));
+    EXPECT_FALSE(IsThere(kOtherPlace));
+    EXPECT_FALSE(IsThere(StartMenuEntry()));
+}
+
+TEST(Installer, KnowsItsPlaceByAnotherSpelling) {
+    WindowsHome home;
+    home.Prepare();
+    ASSERT_EQ(Install(), 0u);
+    std::array<wchar_t, MAX_PATH> share{};
+    GetEnvironmentVariableW(L"LV_TEST_SHARE", share.data(), static_cast<DWORD>(share.size()));
+    const std::wstring onShare = std::wstring(share.data()) + std::wstring(kPlace).substr(2);
+    ASSERT_EQ(Install(onShare), 0u);
+    EXPECT_EQ(EntryOf(L"InstallLocation"), onShare);
+    EXPECT_TRUE(IsThere(std::wstring(kPlace) + L"\\lorvane3d.exe"));
+    EXPECT_TRUE(IsThere(std::wstring(kPlace) + L"\\uninstall.exe"));
+    Remove(L"");
+    EXPECT_FALSE(IsThere(StartMenuEntry()));
+    EXPECT_FALSE(IsThere(kPlace));
+}
+
+TEST(Installer, MovesNothingWhileTheFirstRuns) {
+    WindowsHome home;
+    home.Prepare();
+    ASSERT_EQ(Install(), 0u);
+    {
+        ProgramRun program(std::wstring(kPlace) + L"\\lorvane3d.exe", L"C:\\");
+        program.WaitForWindow();
+        EXPECT_EQ(Install(kOtherPlace), 2u);
+    }
+    EXPECT_FALSE(IsThere(kOtherPlace));
+    EXPECT_EQ(EntryOf(L"InstallLocation"), kPlace);
+    Remove(L"");
+}
+
+TEST(Installer, TellsOfAFirstPlaceThatItCannotRemove) {
+    WindowsHome home;
+    home.Prepare();
+    ASSERT_EQ(Install(), 0u);
+    ASSERT_NE(DeleteFileW((std::wstring(kPlace) + L"\\uninstall.exe").c_str()), 0);
+    EXPECT_EQ(Install(kOtherPlace), 3u);
+    EXPECT_TRUE(IsThere(std::wstring(kPlace) + L"\\lorvane3d.exe"));
+    EXPECT_EQ(EntryOf(L"InstallLocation"), kOtherPlace);
+    RemoveFrom(kOtherPlace);
+    EXPECT_TRUE(WaitUntil([] { return EntryOf(L"DisplayName") == L"(none)"; }));
+}
+
+TEST(Installer, LeavesTheEntriesOfAnotherPlaceWhenItIsRemoved) {
+    WindowsHome home;
+    home.Prepare();
+    ASSERT_EQ(Install(), 0u);
+    const std::wstring elsewhere = L"T:\\Elsewhere";
+    RegSetKeyValueW(HKEY_CURRENT_USER, kEntry, L"InstallLocation", REG_SZ, elsewhere.c_str(),
+                    static_cast<DWORD>((elsewhere.size() + 1) * sizeof(wchar_t)));
+    RemoveFrom(kPlace);
+    EXPECT_TRUE(WaitUntil([] { return !IsThere(kPlace); }));
+    EXPECT_EQ(EntryOf(L"InstallLocation"), elsewhere);
+    EXPECT_TRUE(IsThere(StartMenuEntry()));
+    ASSERT_EQ(Install(), 0u);
     Remove(L"");
 }
 

@@ -35,6 +35,19 @@ TEST(Lifecycle, ShowsTheSplashAndThenTheWindow) {
     EXPECT_TRUE(WaitUntil([&] { return program.ShownWindow(kPlainTitle) == nullptr; }));
 }
 
+// The splash goes by itself after fifteen seconds; a box lies above it.
+TEST(Lifecycle, WaitsForTheAnswerToAQuestionOfItsStart) {
+    WindowsHome home;
+    home.Prepare();
+    home.Set("Options", "Executables", "Quake;t:\\gone\\quake.exe");
+    ProgramRun program;
+    ASSERT_NE(program.WaitForWindow(L"Game Not Found..."), nullptr);
+    ASSERT_TRUE(WaitUntil([&] { return program.ShownWindow(kPlainTitle) == nullptr; }, 30000));
+    ASSERT_TRUE(program.ActivateShown(L"Game Not Found..."));
+    PressKey('G', true);
+    EXPECT_NE(program.WaitForWindow(), nullptr);
+}
+
 TEST(Lifecycle, EndsByF12WithItsStateInTheRegistry) {
     WindowsHome home;
     home.Prepare();
