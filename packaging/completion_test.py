@@ -47,8 +47,10 @@ OTHERS = [
     (["127.0.0.1:26000"], "--launch Quake --server 127", 3),
     (["127.0.0.1:26000"], "--launch Quake --server 127.0.0.1:2", 3),
     (["play.example:27500"], "--launch Quake --server pl", 3),
+    (["quake.example"], "--launch Quake --server q", 3),
     (["map of Half-Life (Windows)"], "--launch Half-Life\\ \\(Windows\\) --map map", 3),
     (["map of $(touch ran)"], "--launch '$(touch ran)' --map map", 3),
+    (["map of a `setup`"], '--setup "a \\`setup\\`" --map map', 3),
     (["--import", "my own.lv3d"], "--import my"),
 ]
 STANDIN = """#!/usr/bin/env python3
@@ -60,8 +62,8 @@ if words[:1] == ["--list"] and words[1:2] != ["servers"] or words[:2] == ["--lis
         print("\\n".join(name + "\\tC:\\\\GAMES\\tother" for name in names))
         print("bell\\a in a name")
     elif words[1:2] == ["servers"]:
-        print("Server on this machine\\t127.0.0.1:26000\\nOne of the net\\t7\\tplay.example:27500")
-    elif words[2:3] == ["--launch"]:
+        print("Server on this machine\\t127.0.0.1:26000\\nOne of the net\\tplay.example:27500\\nNo port\\tquake.example")
+    elif words[2:3] in (["--launch"], ["--setup"]):
         print("map of " + words[3] + "\\tmore")
 else:
     with open({said!r}, "w") as file:

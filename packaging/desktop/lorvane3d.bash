@@ -48,20 +48,14 @@ _lorvane3d_offer() {
 }
 
 # Offers the names of a list, of servers their addresses.
-#   _lorvane3d_names LIST [--launch TITLE]
+#   _lorvane3d_names LIST [--launch TITLE | --setup NAME]
 _lorvane3d_names() {
     local _lorvane3d_raw _lorvane3d_quote line name shared parting
-    local -a fields names=()
+    local -a names=()
     _lorvane3d_unquote "$cur" || return
     while IFS= read -r line; do
+        [[ $1 == servers ]] && line=${line#*$'\t'}
         name=${line%%$'\t'*}
-        if [[ $1 == servers ]]; then
-            IFS=$'\t' read -r -a fields <<<"$line"
-            for name in "${fields[@]}"; do
-                [[ $name =~ ^([A-Za-z0-9._-]+|\[[0-9A-Fa-f:.]+\]):[0-9]+$ ]] && break
-                name=''
-            done
-        fi
         [[ -n $name && $name != *[[:cntrl:]]* && $name == "$_lorvane3d_raw"* ]] && names+=("$name")
     done < <(timeout 5 lorvane3d --list "$@" 2>/dev/null </dev/null | head -n 2000)
     ((${#names[@]})) || return
@@ -101,8 +95,8 @@ _lorvane3d() {
     # A ":" parts no words here: it stands in addresses and may stand in names.
     _init_completion -n := || return
     for ((at = 1; at + 1 < cword; at++)); do
-        if [[ ${words[at]} == --launch ]]; then
-            _lorvane3d_unquote "${words[at + 1]}" && of_title=(--launch "$_lorvane3d_raw")
+        if [[ ${words[at]} == --launch || ${words[at]} == --setup ]]; then
+            _lorvane3d_unquote "${words[at + 1]}" && of_title=("${words[at]}" "$_lorvane3d_raw")
         fi
     done
 
@@ -114,7 +108,7 @@ _lorvane3d() {
     --script) _lorvane3d_names scripts "${of_title[@]}" ;;
     --server) _lorvane3d_names servers "${of_title[@]}" ;;
     --profile) _lorvane3d_names profiles "${of_title[@]}" ;;
-    --list) _lorvane3d_words 'programs setups mods maps scripts servers profiles --launch' ;;
+    --list) _lorvane3d_words 'programs setups mods maps scripts servers profiles --launch --setup' ;;
     --check | --export) _filedir ;;
     --import) _filedir lv3d ;;
     --help | --version) ;;
@@ -123,12 +117,12 @@ _lorvane3d() {
             if ((cword == 1)); then
                 _lorvane3d_words '--help --version --list --launch --setup --check --export --import'
             elif [[ ${words[1]} == --list ]]; then
-                _lorvane3d_words '--launch'
+                _lorvane3d_words '--launch --setup'
             else
                 _lorvane3d_words '--mod --map --script --server --profile --dry-run'
             fi
         elif ((cword == 1)); then
-            _filedir lv3d
+            _filedir
         fi
         ;;
     esac
