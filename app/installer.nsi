@@ -69,6 +69,7 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
     ${If} $R0 == $INSTDIR
         StrCpy $R0 ""
     ${ElseIf} $R0 != ""
+        SetDetailsPrint none
         GetTempFileName $R1 "$INSTDIR"
         ${If} $R1 != ""
             ${GetFileName} $R1 $R2
@@ -77,6 +78,7 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
             ${EndIf}
             Delete $R1
         ${EndIf}
+        SetDetailsPrint lastused
     ${EndIf}
     ClearErrors
 !macroend
