@@ -9,6 +9,7 @@
 #include "catalogs/catalog_lists.h"
 #include "foundation/run.h"
 #include "games/engines/engine_table.h"
+#include "launcher/drop/waiting_drop.h"
 #include "launcher/menu/known_games.h"
 #include "launcher/start/splash.h"
 #include "launcher/window/lv_frm.h"
@@ -67,6 +68,9 @@ struct Launcher {
     /// Opens the selected script in the script editor. Empty: the program has none.
     std::function<void()> OpenSetupFoundry;
 
+    /// Offers the settings that stand in this file. Empty: the program can't.
+    std::function<void(TextView path)> ImportSettings;
+
     /// The session ends: keeps what its user has not saved yet, and asks nothing. Empty: there is nothing to keep.
     std::function<void()> KeepUnsavedEdits;
 
@@ -74,6 +78,7 @@ struct Launcher {
     std::function<WindowMeasures()> Measure;
 
     GameUnderWay LastGame;
+    WaitingDrop Dropped;
 
     bool LaunchUnderWay = false;      // a launch waits for GameSpy 3D: another click does nothing
     bool ClearingGameChk = false;     // Game_Chk clears itself: its own click does nothing meanwhile
