@@ -24,6 +24,8 @@
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
 #include "gamespy/forms/game_spy_form.h"
+#include "launcher/drop/offer_dropped.h"
+#include "launcher/forms/join_server_form.h"
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/forms/splash_form.h"
@@ -45,6 +47,7 @@ struct Program {
         AskWhileLocked(TheRun);
         User.OnHelpKey([this] { OpenHelpFile(TheRun); });
         User.AddForms(MakeEntryForm);
+        User.AddForms(MakeJoinServerForm);
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);
         User.AddForms(MakeGameSpyForm);
@@ -71,6 +74,9 @@ struct Program {
 template <class System>
 class LorvaneApp : public wxApp {
   public:
+    /// `offered`: a path on the drives or a server, which the window offers once it is there.
+    explicit LorvaneApp(Text offered = {}) : offered_(std::move(offered)) {}
+
     bool OnInit() override {
         SetAppName("lorvane3d");
         SetAppDisplayName("Lorvane 3D");
@@ -153,6 +159,9 @@ class LorvaneApp : public wxApp {
             return;
         }
         program_->Host->Started(*form_, program_->TheLauncher);
+        if (!offered_.empty()) {
+            (void)NoteDropped(program_->TheLauncher, {.Word = std::exchange(offered_, {}), .Count = 1, .Fault = {}});
+        }
         look_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
             program_->Host->AnswerKnocks();
             if (program_->TheRun.Ended) {
@@ -161,6 +170,11 @@ class LorvaneApp : public wxApp {
                 // Not in here: this timer must go on while a dialog is up.
                 CallAfter([this] {
                     TellGameEnd(program_->TheLauncher);
+                    program_->User.Refresh();
+                });
+            } else if (DropIsDue(program_->TheLauncher)) {
+                CallAfter([this] {
+                    OfferDropped(program_->TheLauncher);
                     program_->User.Refresh();
                 });
             }
@@ -184,6 +198,7 @@ class LorvaneApp : public wxApp {
     static constexpr int kLookMilliseconds = 250;
     static constexpr int kNotBegun = -1;
 
+    Text offered_;
     bool telling_ = false;
     SplashForm* splash_ = nullptr;
     LvForm* form_ = nullptr;

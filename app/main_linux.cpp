@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/linux_store.h"
@@ -99,6 +100,8 @@ class WithoutOpenGl {
 
 class LinuxApp : public LorvaneApp<LinuxSystem> {
   public:
+    using LorvaneApp::LorvaneApp;
+
     bool OnInit() override {
         withoutOpenGl_.TakeBack();
         return LorvaneApp::OnInit();
@@ -119,6 +122,10 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         words.push_back(lv::FromUtf8Lossy(argv[i]));
     }
-    const auto code = words.empty() ? std::nullopt : lv::DoWords(words);
-    return code ? *code : wxEntry(argc, argv);
+    lv::DoneWords done = words.empty() ? lv::DoneWords() : lv::DoWords(words);
+    if (done.Code) {
+        return *done.Code;
+    }
+    wxApp::SetInstance(new lv::LinuxApp(std::move(done.Offered)));
+    return wxEntry(argc, argv);
 }

@@ -3,6 +3,7 @@
 #include "commands/run_command.h"
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
+#include "launcher/drop/offer_dropped.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/window_life.h"
 
@@ -12,6 +13,10 @@ namespace {
 
 constexpr TextView kEnd = TextView("\0", 1);
 constexpr std::size_t kReplyFields = 4;
+
+CommandResult Busy() {
+    return {.Code = exit_code::kFailed, .Err = "The running Lorvane 3D is busy.\n"};
+}
 
 }  // namespace
 
@@ -45,8 +50,12 @@ std::optional<CommandResult> ResultOf(TextView reply) {
     return CommandResult{static_cast<int>(ToIndex(fields[0])), fields[1], fields[2], fields[3]};
 }
 
+bool IsToBeOffered(const Command& command) {
+    return command.What == Verb::OpenWindow && !command.Subject.empty();
+}
+
 bool IsForTheWindow(const Command& command) {
-    return command.What == Verb::Launch && !command.DryRun;
+    return (command.What == Verb::Launch && !command.DryRun) || IsToBeOffered(command);
 }
 
 CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView request) {
@@ -55,7 +64,14 @@ CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView
         return NotUnderstood(command.Fault);
     }
     if (!IsForTheWindow(command.Value) || window.LaunchUnderWay || window.run.Ended) {
-        return {.Code = exit_code::kFailed, .Err = "The running Lorvane 3D is busy.\n"};
+        return Busy();
+    }
+    if (IsToBeOffered(command.Value)) {
+        if (!NoteDropped(window, {.Word = command.Value.Subject, .Count = 1, .Fault = {}})) {
+            return Busy();
+        }
+        ComeForward(window);
+        return {};
     }
     CommandResult result = RunCommand(command.Value, place);
     if (!result.Started.empty()) {
