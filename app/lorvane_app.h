@@ -25,9 +25,12 @@
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
 #include "gamespy/forms/game_spy_form.h"
+#include "launcher/drop/offer_dropped.h"
+#include "launcher/forms/join_server_form.h"
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/forms/splash_form.h"
+#include "launcher/menu/transfer_menu.h"
 #include "launcher/start/start.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/window_life.h"
@@ -46,6 +49,7 @@ struct Program {
         AskWhileLocked(TheRun);
         User.OnHelpKey([this] { OpenHelpFile(TheRun); });
         User.AddForms(MakeEntryForm);
+        User.AddForms(MakeJoinServerForm);
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);
         User.AddForms(MakeGameSpyForm);
@@ -53,6 +57,7 @@ struct Program {
         TheLauncher.ShippedEngines = EmbeddedEngines();
         ConnectWizard(TheLauncher);
         ConnectFoundry(TheLauncher);
+        TheLauncher.ImportSettings = [this](TextView path) { ImportSettingsFrom(TheLauncher, path); };
         ConnectDryRun(TheLauncher, [this] {
             return CommandPlace{Host->Services, EmbeddedEngines(), {}, ConnectFoundry};
         });
@@ -75,6 +80,9 @@ struct Program {
 template <class System>
 class LorvaneApp : public wxApp {
   public:
+    /// `offered`: a path on the drives or a server, which the window offers once it is there.
+    explicit LorvaneApp(Text offered = {}) : offered_(std::move(offered)) {}
+
     bool OnInit() override {
         SetAppName("lorvane3d");
         SetAppDisplayName("Lorvane 3D");
@@ -157,6 +165,9 @@ class LorvaneApp : public wxApp {
             return;
         }
         program_->Host->Started(*form_, program_->TheLauncher);
+        if (!offered_.empty()) {
+            (void)NoteDropped(program_->TheLauncher, {.Word = std::exchange(offered_, {}), .Count = 1, .Fault = {}});
+        }
         look_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
             program_->Host->AnswerKnocks();
             if (program_->TheRun.Ended) {
@@ -165,6 +176,11 @@ class LorvaneApp : public wxApp {
                 // Not in here: this timer must go on while a dialog is up.
                 CallAfter([this] {
                     TellGameEnd(program_->TheLauncher);
+                    program_->User.Refresh();
+                });
+            } else if (DropIsDue(program_->TheLauncher)) {
+                CallAfter([this] {
+                    OfferDropped(program_->TheLauncher);
                     program_->User.Refresh();
                 });
             }
@@ -188,6 +204,7 @@ class LorvaneApp : public wxApp {
     static constexpr int kLookMilliseconds = 250;
     static constexpr int kNotBegun = -1;
 
+    Text offered_;
     bool telling_ = false;
     SplashForm* splash_ = nullptr;
     LvForm* form_ = nullptr;

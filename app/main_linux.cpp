@@ -9,12 +9,15 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
+#include <utility>
 
 #include "app/linux_store.h"
 #include "app/lorvane_app.h"
 #include "app/words_run.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "launcher/window/window_life.h"
+#include "platform/code_page.h"
 #include "platform/linux/end_signals.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_instance.h"
@@ -96,6 +99,8 @@ class WithoutOpenGl {
 
 class LinuxApp : public LorvaneApp<LinuxSystem> {
   public:
+    using LorvaneApp::LorvaneApp;
+
     bool OnInit() override {
         withoutOpenGl_.TakeBack();
         return LorvaneApp::OnInit();
@@ -113,5 +118,7 @@ wxIMPLEMENT_APP_NO_MAIN(lv::LinuxApp);
 
 int main(int count, char** arguments) {
     prctl(PR_SET_NAME, "lorvane3d");  // as messages of other programs name it
-    return wxEntry(count, arguments);
+    wxApp::SetInstance(new lv::LinuxApp(count > 1 ? lv::FromUtf8Lossy(arguments[1]) : std::string()));
+    int itself = 1;  // what is offered is no word of the toolkit's
+    return wxEntry(itself, arguments);
 }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/lorvane_app.h"
@@ -68,6 +69,8 @@ struct WindowsSystem {
 
 class WindowsApp : public LorvaneApp<WindowsSystem> {
   public:
+    using LorvaneApp::LorvaneApp;
+
     bool OnInit() override {
         (void)TakeTaskBarName();
         return LorvaneApp::OnInit();
@@ -80,6 +83,10 @@ wxIMPLEMENT_APP_NO_MAIN(lv::WindowsApp);
 
 int WINAPI WinMain(HINSTANCE program, HINSTANCE before, LPSTR line, int show) {
     const std::vector<std::string> words = lv::WordsOfCommandLine();
-    const auto code = words.empty() ? std::nullopt : lv::DoWords(words);
-    return code ? *code : wxEntry(program, before, line, show);
+    lv::DoneWords done = words.empty() ? lv::DoneWords() : lv::DoWords(words);
+    if (done.Code) {
+        return *done.Code;
+    }
+    wxApp::SetInstance(new lv::WindowsApp(std::move(done.Offered)));
+    return wxEntry(program, before, line, show);
 }

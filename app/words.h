@@ -10,8 +10,12 @@
 
 namespace lv {
 
-/// Does what the words, in code page 1252, ask for, and prints; the code that the program is to end with. Nothing if
-/// they ask for the window.
-std::optional<int> DoWords(const std::vector<std::string>& words);
+struct DoneWords {
+    std::optional<int> Code;  // that the program is to end with; nothing: the window is asked for
+    std::string Offered;      // by the window: a path on the drives, or a server; code page 1252
+};
+
+/// Does what the words, in code page 1252, ask for, and prints.
+DoneWords DoWords(const std::vector<std::string>& words);
 
 }  // namespace lv

@@ -83,10 +83,15 @@ CommandResult RunHere(const Command& command) {
 
 }  // namespace
 
-std::optional<int> DoWords(const std::vector<std::string>& words) {
+DoneWords DoWords(const std::vector<std::string>& words) {
     LinuxInstance running(ConfigDirectory().string());
-    const auto result = ResultOfWords(words, running, WholePath, RunHere);
-    return result ? std::optional(Print(*result)) : std::nullopt;
+    const auto offered = [](TextView word) {
+        LinuxFiles disk(OwnDrives());
+        return OfferedWord(
+            word, [&disk](TextView file) { return PathOfWord(disk, file); }, disk);
+    };
+    WordsDone done = ResultOfWords(words, running, WholePath, RunHere, offered);
+    return {done.Result ? std::optional(Print(*done.Result)) : std::nullopt, std::move(done.Offered)};
 }
 
 }  // namespace lv

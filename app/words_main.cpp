@@ -18,11 +18,14 @@ int main(int count, char** arguments) {
     for (int i = 1; i < count; ++i) {
         words.push_back(lv::FromUtf8Lossy(arguments[i]));
     }
-    if (const auto code = words.empty() ? std::nullopt : lv::DoWords(words)) {
-        return *code;
+    const lv::DoneWords done = words.empty() ? lv::DoneWords() : lv::DoWords(words);
+    if (done.Code) {
+        return *done.Code;
     }
     const std::string window = lv::ProgramFileDirectory() / "lorvane3d-window";
-    execv(window.c_str(), arguments);  // under the name that it was called by
+    std::string offered = lv::ToUtf8(done.Offered);
+    char* const passed[] = {arguments[0], offered.empty() ? nullptr : offered.data(), nullptr};
+    execv(window.c_str(), passed);  // under the name that it was called by
     std::perror(window.c_str());
     return 1;
 }

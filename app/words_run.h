@@ -8,7 +8,9 @@
 #include "commands/asked_instance.h"
 #include "commands/run_command.h"
 #include "commands/unseen/unseen_launcher.h"
+#include "foundation/field_strings.h"
 #include "foundry/foundry.h"
+#include "launcher/drop/dropped_thing.h"
 #include "platform/single_instance.h"
 
 namespace lv {
@@ -31,27 +33,43 @@ inline std::function<std::string(std::string_view)> AnswersOf(Launcher& window) 
     };
 }
 
-/// Nothing if the words ask for the window. `running` is asked ahead of `runHere` for what is the window's.
-template <class RunHere>
-std::optional<CommandResult> ResultOfWords(const std::vector<Text>& words, SingleInstance& running,
-                                           const std::function<Text(TextView)>& wholePath, RunHere runHere) {
+/// What a word stands for that the window is to offer: a file is said from the drive on, since the window stands
+/// elsewhere; a word that no drive has stays.
+inline Text OfferedWord(TextView word, const std::function<Text(TextView)>& pathOfWord, Files& disk) {
+    const Text path = Holds(word, "://") ? Text() : pathOfWord(word);
+    const bool isThere = !path.empty() && (disk.FileExists(path) || disk.DirectoryExists(path));
+    return path.empty() || (!isThere && IsServerWord(word)) ? Text(word) : path;
+}
+
+struct WordsDone {
+    std::optional<CommandResult> Result;  // nothing if the words ask for the window
+    Text Offered;                         // by the window
+};
+
+/// `running` is asked ahead of `runHere` for what is the window's. `offeredWord` is OfferedWord on this system.
+template <class RunHere, class OfferedWordHere>
+WordsDone ResultOfWords(const std::vector<Text>& words, SingleInstance& running,
+                        const std::function<Text(TextView)>& wholePath, RunHere runHere, OfferedWordHere offeredWord) {
     const Result<Command> command = ReadCommand(words);
     if (!command.Ok()) {
-        return NotUnderstood(command.Fault);
+        return {NotUnderstood(command.Fault), {}};
     }
-    if (command.Value.What == Verb::OpenWindow) {
-        return std::nullopt;
-    }
+    const bool isOffered = IsToBeOffered(command.Value);
+    const Text offered = isOffered ? offeredWord(command.Value.Subject) : Text();
     if (NeedsNothing(command.Value)) {
-        return AnswerAtOnce(command.Value);
+        return {AnswerAtOnce(command.Value), {}};
     }
     if (IsForTheWindow(command.Value)) {
-        const auto reply = running.Ask(RequestOf(WordsForAnother(command.Value, words, wholePath)));
+        const auto reply = running.Ask(
+            RequestOf(isOffered ? std::vector<Text>{"--", offered} : WordsForAnother(command.Value, words, wholePath)));
         if (auto result = reply ? ResultOf(*reply) : std::nullopt) {
-            return result;
+            return {std::move(result), {}};
         }
     }
-    return runHere(command.Value);
+    if (command.Value.What == Verb::OpenWindow) {
+        return {std::nullopt, offered};
+    }
+    return {runHere(command.Value), {}};
 }
 
 }  // namespace lv

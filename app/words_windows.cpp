@@ -48,12 +48,13 @@ CommandResult RunHere(const Command& command) {
 
 }  // namespace
 
-std::optional<int> DoWords(const std::vector<std::string>& words) {
+DoneWords DoWords(const std::vector<std::string>& words) {
     WindowsInstance running(kInstanceCaption);
     WindowsFiles disk;
     const auto wholePath = [&disk](TextView word) { return PathOfWord(disk, word); };
-    const auto result = ResultOfWords(words, running, wholePath, RunHere);
-    return result ? std::optional(Print(*result)) : std::nullopt;
+    const auto offered = [&](TextView word) { return OfferedWord(word, wholePath, disk); };
+    WordsDone done = ResultOfWords(words, running, wholePath, RunHere, offered);
+    return {done.Result ? std::optional(Print(*done.Result)) : std::nullopt, std::move(done.Offered)};
 }
 
 }  // namespace lv

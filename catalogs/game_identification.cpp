@@ -7,8 +7,6 @@
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/settings.h"
-#include "games/games.h"
-#include "games/programs.h"
 
 namespace lv {
 
@@ -49,16 +47,15 @@ void DropModification(Run& run, CatalogLists& lists, Game before) {
 }
 
 // Which worlds an engine of today plays in.
-void TakeEngine(Run& run, const Engine& engine) {
-    run.IsQuakeWorld = run.GameKind == Game::Quake && (engine.Games & engine_game::kQuake) == 0;
-    run.IsHexenWorld = run.GameKind == Game::Hexen2 && (engine.Games & engine_game::kHexen2) == 0;
-    run.IsMissionPack = false;
-    run.UsesAccelerator = true;
+ExecutableFlags FlagsOfEngine(const Engine& engine, Game gameKind) {
+    return {.IsQuakeWorld = gameKind == Game::Quake && (engine.Games & engine_game::kQuake) == 0,
+            .IsHexenWorld = gameKind == Game::Hexen2 && (engine.Games & engine_game::kHexen2) == 0};
 }
 
 bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const RegistryToScript& toScript) {
     run.DefaultGameDirectory = DirectoryOf(path);
-    const GameFacts& facts = FactsOfDirectory(run.System.Disk, run.DefaultGameDirectory);
+    const PlayedBy program = WhatPlays(run.System.Disk, lists.Engines, path);
+    const GameFacts& facts = *program.Facts;
     run.BaseGameDir = facts.BaseGameDir;
     run.CurrentGameDir = facts.BaseGameDir;
     run.GameKind = facts.GameKind;
@@ -67,15 +64,10 @@ bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const Registry
         return true;
     }
     run.ScriptFamily = facts.ScriptFamily;
-    const ExecutableFlags flags = FlagsOfPath(facts.GameKind, path);
-    run.IsQuakeWorld = flags.IsQuakeWorld;
-    run.IsHexenWorld = flags.IsHexenWorld;
-    run.IsMissionPack = flags.IsMissionPack;
-    run.UsesAccelerator = flags.UsesAccelerator;
-    const Engine* const engine = lists.Engines != nullptr ? EngineOf(*lists.Engines, LastPathPart(path)) : nullptr;
-    if (engine != nullptr) {
-        TakeEngine(run, *engine);
-    }
+    run.IsQuakeWorld = program.Flags.IsQuakeWorld;
+    run.IsHexenWorld = program.Flags.IsHexenWorld;
+    run.IsMissionPack = program.Flags.IsMissionPack;
+    run.UsesAccelerator = program.Flags.UsesAccelerator;
     if (facts.GameKind == Game::HalfLife && toScript) {
         toScript(Join(run.DefaultGameDirectory, "\\", BaseDirectoryOf(facts), "\\lv3dhlrg.cfg"));
     }
@@ -83,6 +75,13 @@ bool EnterDirectory(Run& run, CatalogLists& lists, TextView path, const Registry
 }
 
 }  // namespace
+
+PlayedBy WhatPlays(Files& files, const EngineTable* engines, TextView program) {
+    const GameFacts& facts = FactsOfDirectory(files, DirectoryOf(program));
+    const Engine* const engine = engines != nullptr ? EngineOf(*engines, LastPathPart(program)) : nullptr;
+    return {&facts, engine != nullptr ? FlagsOfEngine(*engine, facts.GameKind) : FlagsOfPath(facts.GameKind, program),
+            engine};
+}
 
 bool IdentifyGame(Run& run, CatalogLists& lists, const RegistryToScript& toScript) {
     if (!lists.Exe_Cbo.HasSelection()) {

@@ -8,8 +8,20 @@
 #include <functional>
 
 #include "catalogs/catalog_lists.h"
+#include "games/games.h"
+#include "games/programs.h"
 
 namespace lv {
+
+/// What a program plays.
+struct PlayedBy {
+    const GameFacts* Facts;  // those of Game::None where its directory is no game's
+    ExecutableFlags Flags;
+    const Engine* OfToday;  // null: no engine of today
+};
+
+/// Told by what lies beside the program and by its name. `engines` may be null.
+PlayedBy WhatPlays(Files& files, const EngineTable* engines, TextView program);
 
 /// Writes Half-Life's registry settings as a script to this path.
 using RegistryToScript = std::function<void(TextView path)>;

@@ -118,6 +118,10 @@ bool FillGamesCombo(Run& run, CatalogLists& lists) {
     return !run.Ended;
 }
 
+bool AddModification(Run& run, CatalogLists& lists, TextView directory) {
+    return HasRow(lists.Game_Cbo, directory) || AddRow(run, lists, directory);
+}
+
 Index ScanForGames(Run& run, CatalogLists& lists) {
     if (run.DefaultGameDirectory.empty()) {
         return 0;

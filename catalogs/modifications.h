@@ -25,6 +25,9 @@ Text DirectoryOfOption(TextView option);
 /// False if the program ended. A damaged value clears the list and the run goes on.
 bool FillGamesCombo(Run& run, CatalogLists& lists);
 
+/// Adds a row for this directory below the game's, unless it has one, and saves the catalog. False if there is no room.
+bool AddModification(Run& run, CatalogLists& lists, TextView directory);
+
 /// Adds a row for each game directory that has none yet, saves the catalog, and returns how many were added.
 Index ScanForGames(Run& run, CatalogLists& lists);
 

@@ -3,6 +3,7 @@
 #include "commands/run_command.h"
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
+#include "launcher/drop/offer_dropped.h"
 #include "launcher/start/main_window_load.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/window_life.h"
@@ -55,8 +56,12 @@ std::optional<CommandResult> ResultOf(TextView reply) {
     return CommandResult{static_cast<int>(ToIndex(fields[0])), fields[1], fields[2], fields[3]};
 }
 
+bool IsToBeOffered(const Command& command) {
+    return command.What == Verb::OpenWindow && !command.Subject.empty();
+}
+
 bool IsForTheWindow(const Command& command) {
-    return (command.What == Verb::Launch && !command.DryRun) || command.What == Verb::Import;
+    return (command.What == Verb::Launch && !command.DryRun) || command.What == Verb::Import || IsToBeOffered(command);
 }
 
 CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView request) {
@@ -66,6 +71,13 @@ CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView
     }
     if (!IsForTheWindow(command.Value) || window.LaunchUnderWay || window.run.Ended) {
         return Busy();
+    }
+    if (IsToBeOffered(command.Value)) {
+        if (!NoteDropped(window, {.Word = command.Value.Subject, .Count = 1, .Fault = {}})) {
+            return Busy();
+        }
+        ComeForward(window);
+        return {};
     }
     const bool isImport = command.Value.What == Verb::Import;
     if (isImport && DialogIsUp(window.run)) {

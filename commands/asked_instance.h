@@ -23,12 +23,16 @@ std::vector<Text> WordsOf(TextView request);
 Text ReplyOf(const CommandResult& result);
 std::optional<CommandResult> ResultOf(TextView reply);
 
-/// Whether a command is to be passed on: what changes the run of the window.
+/// Whether a command is a file or an address that the window is to offer.
+bool IsToBeOffered(const Command& command);
+
+/// Whether a command is to be passed on: what changes the run of the window, or is to be offered by it.
 bool IsForTheWindow(const Command& command);
 
-/// Does what another start asks of the program whose window this is. A game that was started is this window's: it goes
-/// out of the way unless a dialog is up, and comes back at the game's end as after its own launch. Imported settings
-/// are shown at once; under a dialog they are refused.
+/// Does what another start asks of the program whose window this is. A file or an address is offered once the window,
+/// which comes forward, has time; a game that was started is this window's: it goes out of the way unless a dialog is
+/// up, and comes back at the game's end as after its own launch. Imported settings are shown at once; under a dialog
+/// they are refused.
 CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView request);
 
 }  // namespace lv

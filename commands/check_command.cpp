@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "commands/close_name.h"
 #include "console/checks/run_check.h"
 #include "foundation/bounded_file.h"
 #include "foundation/field_strings.h"
+#include "foundation/shown_name.h"
 #include "games/games.h"
 
 namespace lv {

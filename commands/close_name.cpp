@@ -2,13 +2,12 @@
 
 #include <algorithm>
 
-#include "foundation/field_strings.h"
+#include "foundation/shown_name.h"
 
 namespace lv {
 
 namespace {
 
-constexpr std::size_t kLongestShown = 200;
 constexpr std::size_t kLongestCompared = 100;
 
 // Levenshtein's distance, a row of his table at a time.
@@ -34,13 +33,6 @@ std::size_t MostSlips(TextView word) {
 }
 
 }  // namespace
-
-Text Shown(TextView name) {
-    Text shown(name.substr(0, kLongestShown));
-    std::ranges::replace_if(
-        shown, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, '?');
-    return name.size() > kLongestShown ? Join(shown, "...") : shown;
-}
 
 std::optional<Text> CloseName(TextView word, const std::vector<Text>& names) {
     const Text wanted = LowerCase(word.substr(0, kLongestCompared));

@@ -1,6 +1,6 @@
 // commands/close_name.h
 //
-// Which known name may have been meant by one that is not known, and names as a terminal may show them.
+// Which known name may have been meant by one that is not known.
 
 #pragma once
 
@@ -10,10 +10,6 @@
 #include "foundation/text.h"
 
 namespace lv {
-
-/// Control characters become "?", so that a name never commands a terminal, and what is longer than 200 characters is
-/// cut.
-Text Shown(TextView name);
 
 /// The name that is the fewest typing slips away: letters left out, added, or changed; letter case has no meaning.
 /// Nothing if more than a third of the word would have to be another; two slips are few in any word of four.

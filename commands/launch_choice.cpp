@@ -1,8 +1,8 @@
 #include "commands/launch_choice.h"
 
+#include "catalogs/server_word.h"
 #include "catalogs/servers.h"
 #include "commands/listed_rows.h"
-#include "commands/server_word.h"
 #include "foundation/field_strings.h"
 #include "foundation/padded_item.h"
 #include "launcher/setups/row_picks.h"

@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "catalogs/catalog_store.h"
-#include "commands/close_name.h"
 #include "commands/launch_choice.h"
 #include "commands/listed_rows.h"
 #include "commands/unseen/unseen_launcher.h"
 #include "foundation/field_strings.h"
 #include "foundation/settings.h"
+#include "foundation/shown_name.h"
 #include "games/games.h"
 
 namespace lv {

@@ -4,6 +4,7 @@
 
 #include "commands/close_name.h"
 #include "foundation/field_strings.h"
+#include "foundation/shown_name.h"
 
 namespace lv {
 

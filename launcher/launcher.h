@@ -9,6 +9,7 @@
 #include "catalogs/catalog_lists.h"
 #include "foundation/run.h"
 #include "games/engines/engine_table.h"
+#include "launcher/drop/waiting_drop.h"
 #include "launcher/menu/known_games.h"
 #include "launcher/setups/setup_store.h"
 #include "launcher/start/splash.h"
@@ -71,6 +72,9 @@ struct Launcher {
     /// Opens the selected script in the script editor. Empty: the program has none.
     std::function<void()> OpenSetupFoundry;
 
+    /// Offers the settings that stand in this file. Empty: the program can't.
+    std::function<void(TextView path)> ImportSettings;
+
     /// The session ends: keeps what its user has not saved yet, and asks nothing. Empty: there is nothing to keep.
     std::function<void()> KeepUnsavedEdits;
 
@@ -78,6 +82,7 @@ struct Launcher {
     std::function<WindowMeasures()> Measure;
 
     GameUnderWay LastGame;
+    WaitingDrop Dropped;
 
     SetupList Setups;
 

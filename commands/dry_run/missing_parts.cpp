@@ -4,11 +4,11 @@
 
 #include "catalogs/catalog_store.h"
 #include "catalogs/modifications.h"
-#include "commands/close_name.h"
 #include "console/checks/run_check.h"
 #include "console/files/played_of_run.h"
 #include "console/files/start_run.h"
 #include "foundation/field_strings.h"
+#include "foundation/shown_name.h"
 #include "launch/launch_files.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/lv_events.h"

@@ -6,6 +6,7 @@
 #include "foundation/forms/screen_fit.h"
 #include "foundation/forms/whats_this.h"
 #include "foundation/forms/wx_text.h"
+#include "launcher/forms/drop_target.h"
 #include "launcher/forms/main_menu.h"
 #include "launcher/setups/setups_menu.h"
 #include "launcher/window/hint.h"
@@ -37,6 +38,7 @@ LvForm::LvForm(Launcher& launcher, WxUser& user, SplashForm* splash)
     launcher_.Measure = [this] { return MeasureWindow(); };
     GiveWhatsThis(this);
     BindEvents();
+    SetDropTarget(new DropTarget(launcher_));
     user_.SetActiveForm(this);
     user_.OnRefresh(this, [this] { ShowState(); });
     user_.OnPopUp([this](TextView menu) { PopUp(menu); });

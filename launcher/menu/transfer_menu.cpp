@@ -151,17 +151,19 @@ void ExportSettings_Bar_Click(Launcher& launcher) {
 }
 
 void ImportSettings_Bar_Click(Launcher& launcher) {
-    Run& run = launcher.run;
-    const auto path = AskForSettingsFile(run, kImport, false);
-    if (!path) {
-        return;
+    if (const auto path = AskForSettingsFile(launcher.run, kImport, false)) {
+        ImportSettingsFrom(launcher, *path);
     }
-    const auto values = ReadSettingsFile(run, *path);
+}
+
+void ImportSettingsFrom(Launcher& launcher, TextView path) {
+    Run& run = launcher.run;
+    const auto values = ReadSettingsFile(run, path);
     if (!values.Ok()) {
         TellThatNothingChanged(run, values.Fault);
         return;
     }
-    if (!WantsImport(run, *path, values.Value)) {
+    if (!WantsImport(run, path, values.Value)) {
         return;
     }
     PlaceQuestions questions(run);

@@ -14,6 +14,9 @@ void ExportSettings_Bar_Click(Launcher& launcher);
 /// each of these can be left. The window shows the new state then.
 void ImportSettings_Bar_Click(Launcher& launcher);
 
+/// The same for a file that is known.
+void ImportSettingsFrom(Launcher& launcher, TextView path);
+
 void Backups_Bar_Click(Launcher& launcher);
 
 }  // namespace lv

@@ -24,6 +24,19 @@ class IdentifyTest : public CatalogsTest {
     }
 };
 
+TEST_F(IdentifyTest, WhatAProgramPlaysIsToldWithoutAPick) {
+    const EngineTable engines = ReadEngines("", "");
+    const PlayedBy world = WhatPlays(system.Disk, &engines, "C:\\QUAKE\\QWCL.EXE");
+    EXPECT_EQ(world.Facts->GameKind, Game::Quake);
+    EXPECT_TRUE(world.Flags.IsQuakeWorld);
+    EXPECT_EQ(world.OfToday, nullptr);
+    const PlayedBy two = WhatPlays(system.Disk, nullptr, "C:\\QUAKE2\\QUAKE2.EXE");
+    EXPECT_EQ(two.Facts->GameKind, Game::Quake2);
+    EXPECT_FALSE(two.Flags.IsQuakeWorld);
+    EXPECT_EQ(WhatPlays(system.Disk, nullptr, "C:\\DOOM\\DOOM.EXE").Facts->GameKind, Game::None);
+    EXPECT_EQ(run.GameKind, Game::None);
+}
+
 TEST_F(IdentifyTest, APickSetsTheRun) {
     EXPECT_TRUE(Pick("C:\\QUAKE2\\QUAKE2.EXE"));
     EXPECT_EQ(run.GameKind, Game::Quake2);

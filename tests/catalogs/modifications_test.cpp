@@ -255,5 +255,16 @@ TEST_F(ModificationsTest, PipesAndDevicesMakeNoGameDirectory) {
     EXPECT_EQ(ScanForGames(run, lists), 0);
 }
 
+TEST_F(ModificationsTest, ADirectoryIsAddedOnce) {
+    run.DefaultGameDirectory = "C:\\QUAKE";
+    run.GameKind = Game::Quake;
+    EXPECT_TRUE(AddModification(run, lists, "ctf"));
+    ASSERT_EQ(lists.Game_Cbo.Items.size(), 1U);
+    EXPECT_EQ(ItemTitle(lists.Game_Cbo.Items[0]), "Capture the Flag");
+    EXPECT_EQ(ItemValue(lists.Game_Cbo.Items[0]), "-game ctf");
+    EXPECT_TRUE(AddModification(run, lists, "CTF"));
+    EXPECT_EQ(lists.Game_Cbo.Items.size(), 1U);
+}
+
 }  // namespace
 }  // namespace lv

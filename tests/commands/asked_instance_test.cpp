@@ -68,7 +68,7 @@ TEST_F(AskedInstance, ImportedSettingsAreShownAtOnceAndNotUnderADialog) {
     EXPECT_EQ(window.Exe_Cbo.Items.size(), 6U);
 }
 
-TEST_F(AskedInstance, OnlyALaunchAndAnImportAreTheWindows) {
+TEST_F(AskedInstance, OnlyALaunchAnImportAndWhatIsToBeOfferedAreTheWindows) {
     EXPECT_TRUE(IsForTheWindow(ReadCommand({"--launch", "Quake"}).Value));
     EXPECT_TRUE(IsForTheWindow(ReadCommand({"--setup", "Evening"}).Value));
     EXPECT_FALSE(IsForTheWindow(ReadCommand({"--launch", "Quake", "--dry-run"}).Value));
@@ -76,6 +76,9 @@ TEST_F(AskedInstance, OnlyALaunchAndAnImportAreTheWindows) {
     EXPECT_TRUE(IsForTheWindow(ReadCommand({"--import", "a.lv3d"}).Value));
     EXPECT_FALSE(IsForTheWindow(ReadCommand({"--export", "a.lv3d"}).Value));
     EXPECT_FALSE(IsForTheWindow(ReadCommand({}).Value));
+    EXPECT_TRUE(IsForTheWindow(ReadCommand({"C:\\D\\mod.pak"}).Value));
+    EXPECT_TRUE(IsToBeOffered(ReadCommand({"--", "-mod.pak"}).Value));
+    EXPECT_FALSE(IsToBeOffered(ReadCommand({"--launch", "Quake"}).Value));
 }
 
 TEST_F(AskedInstance, TheWindowLaunchesAndGoesOutOfTheWay) {
@@ -107,6 +110,20 @@ TEST_F(AskedInstance, NothingButALaunchIsDoneForAnother) {
     EXPECT_EQ(Ask({"--list"}).Code, exit_code::kFailed);
     EXPECT_EQ(Ask({"--nonsense"}).Code, exit_code::kNotUnderstood);
     EXPECT_EQ(Ask({}).Code, exit_code::kFailed);
+}
+
+TEST_F(AskedInstance, AFileWaitsAndTheWindowComesForward) {
+    Open();
+    run.MainFormLoaded = true;
+    window.Visible = false;
+    EXPECT_EQ(Ask({"--", "C:\\D\\mod.pak"}).Code, exit_code::kDone);
+    EXPECT_EQ(launcher.Dropped.Word, "C:\\D\\mod.pak");
+    EXPECT_TRUE(window.Visible);
+    EXPECT_TRUE(user.Asked.empty()) << "the other start does not wait for an answer";
+    const CommandResult second = Ask({"qw://host"});
+    EXPECT_EQ(second.Code, exit_code::kFailed);
+    EXPECT_EQ(second.Err, "The running Lorvane 3D is busy.\n");
+    EXPECT_EQ(launcher.Dropped.Word, "C:\\D\\mod.pak");
 }
 
 TEST_F(AskedInstance, DuringALaunchOfItsOwnItIsBusy) {

@@ -1,4 +1,4 @@
-#include "commands/server_word.h"
+#include "catalogs/server_word.h"
 
 #include <gtest/gtest.h>
 

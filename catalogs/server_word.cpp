@@ -1,10 +1,10 @@
-#include "commands/server_word.h"
+#include "catalogs/server_word.h"
 
 #include <algorithm>
 
-#include "commands/close_name.h"
 #include "foundation/field_strings.h"
 #include "foundation/numbers.h"
+#include "foundation/shown_name.h"
 
 namespace lv {
 

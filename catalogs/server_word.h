@@ -1,6 +1,6 @@
-// commands/server_word.h
+// catalogs/server_word.h
 //
-// A server's address as a word of the command line has it.
+// A server's address as one word: typed, dropped, or of the command line.
 
 #pragma once
 
