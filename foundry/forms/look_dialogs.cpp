@@ -173,6 +173,7 @@ std::unique_ptr<wxDialog> MakeChanges(wxWindow* owner, Changes_Frm& changes) {
 
 std::unique_ptr<wxDialog> MakeVersions(wxWindow* owner, Versions_Frm& versions) {
     auto form = std::make_unique<LookForm>(owner, versions, [&versions] { Versions_Close_Cmd_Click(versions); });
+    form->AddWide(form->MakeLabel(form.get(), "Damage_Lbl", versions.Damage_Lbl));
     form->AddWide(form->MakeLabel(form.get(), "Versions_Lbl", versions.Versions_Lbl));
     form->AddList("Versions_Lst", versions.Versions_Lst, "Versions", [&versions] { Versions_Lst_Click(versions); });
     form->AddWide(form->MakeLabel(form.get(), "Difference_Lbl", versions.Difference_Lbl));
