@@ -56,6 +56,7 @@ CommandReader::Stretch CommandReader::FindEnd() const {
         }
         if (c == '"') {
             inQuotes = !inQuotes;
+            found.Quote = at;
         } else if (inQuotes && rules_.Escapes && IsEscape(text_, at)) {
             ++at;
         } else if (c == '/' && BeginsComment(at, at_, inQuotes)) {
@@ -105,9 +106,11 @@ bool CommandReader::Next(ConsoleCommand& command) {
         if (stretch.OddQuote && rules_.OddQuoteDrops) {
             continue;
         }
-        if (TakeWords(words, command)) {
+        const std::size_t comment = TakeWords(words, command);
+        if (comment < words.size()) {
             commentLine_ = line;
         }
+        command.IsQuoteInComment = stretch.OddQuote && comment < words.size() && stretch.Quote > begin + comment;
         if (!command.Words.empty()) {
             command.Line = line;
             command.Column = static_cast<std::size_t>(command.Whole.data() - text_.data()) - lineBegin + 1;
@@ -169,17 +172,17 @@ TextView CommandReader::TakeQuoted(TextView line, std::size_t& at) {
     return word;
 }
 
-bool CommandReader::TakeWords(TextView line, ConsoleCommand& command) {
+std::size_t CommandReader::TakeWords(TextView line, ConsoleCommand& command) {
     command.Words.clear();
-    bool hasComment = false;
+    std::size_t comment = 0;
     std::size_t first = 0;
     std::size_t last = 0;
     for (std::size_t at = 0;;) {
         while (at < line.size() && IsBlank(line[at])) {
             ++at;
         }
-        hasComment = at < line.size() && BeginsWithComment(line, at);
-        if (at >= line.size() || hasComment) {
+        if (at >= line.size() || BeginsWithComment(line, at)) {
+            comment = at;
             break;
         }
         const std::size_t begin = at;
@@ -205,7 +208,7 @@ bool CommandReader::TakeWords(TextView line, ConsoleCommand& command) {
         --end;
     }
     command.Raw = line.substr(first, end - first);
-    return hasComment;
+    return comment;
 }
 
 }  // namespace lv

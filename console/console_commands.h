@@ -12,14 +12,15 @@
 namespace lv {
 
 struct ConsoleCommand {
-    std::vector<TextView> Words;   // without their quotes; none for a command of blanks or of a comment alone
-    TextView Whole;                // from its first word to its last one, as written
-    TextView Raw;                  // and on to its end, with a comment: what "say" says
-    std::size_t Line = 0;          // from 1, where it begins
-    std::size_t Column = 0;        // from 1
-    std::size_t Length = 0;        // in bytes, as the console counts them against its longest line
-    bool IsBehindComment = false;  // a comment stands before it in its line, and has not kept it from being run
-    bool HasOddQuote = false;      // one that does not close
+    std::vector<TextView> Words;    // without their quotes; none for a command of blanks or of a comment alone
+    TextView Whole;                 // from its first word to its last one, as written
+    TextView Raw;                   // and on to its end, with a comment: what "say" says
+    std::size_t Line = 0;           // from 1, where it begins
+    std::size_t Column = 0;         // from 1
+    std::size_t Length = 0;         // in bytes, as the console counts them against its longest line
+    bool IsBehindComment = false;   // a comment stands before it in its line, and has not kept it from being run
+    bool HasOddQuote = false;       // one that does not close
+    bool IsQuoteInComment = false;  // and it stands in a comment: it changes nothing but for who counts all quotes
 };
 
 /// What stands behind the last end of a command: the end of a script whose last line has none.
@@ -46,12 +47,13 @@ class CommandReader {
         std::size_t End = 0;      // of the command, without what ends it
         std::size_t Comment = 0;  // where what is commented out begins, End without one
         bool OddQuote = false;
+        std::size_t Quote = 0;  // where the one that is open last stands
     };
 
     [[nodiscard]] Stretch FindEnd() const;
     void MoveBehind(const Stretch& stretch);
-    /// Whether a comment ends them.
-    bool TakeWords(TextView line, ConsoleCommand& command);
+    /// Where the comment begins that ends them; the length of the line without one.
+    std::size_t TakeWords(TextView line, ConsoleCommand& command);
     TextView TakeQuoted(TextView line, std::size_t& at);
     [[nodiscard]] bool IsBlank(char c) const;
     [[nodiscard]] bool BeginsComment(std::size_t at, std::size_t begin, bool inQuotes) const;

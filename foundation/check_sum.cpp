@@ -22,8 +22,8 @@ constexpr auto kTable = [] {
 
 }  // namespace
 
-std::uint32_t CheckSum(TextView text) {
-    std::uint32_t sum = ~0U;
+std::uint32_t CheckSum(TextView text, std::uint32_t before) {
+    std::uint32_t sum = ~before;
     for (const char letter : text) {
         sum = kTable[(sum ^ static_cast<unsigned char>(letter)) & 0xffU] ^ (sum >> 8U);
     }

@@ -28,6 +28,36 @@ bool IsRc(const RunScript& script) {
     return LowerCase(script.Name).ends_with(".rc");
 }
 
+/// The games write these anew themselves, with the settings that they know.
+bool IsWrittenByGame(const RunScript& script, TextView engine) {
+    return SameText(script.Name, "config.cfg") || SameText(script.Name, FilesOfEngine(engine).Config);
+}
+
+/// Whether it makes a setting that was none, or is one that knows them all: no word is known by being used.
+bool Vouches(const Setter& setter, const StartRun& run, TextView engine) {
+    if (setter.Script == kNoScript || !IsPlayers(run.Scripts[setter.Script])) {
+        return true;
+    }
+    const Text command = LowerCase(setter.Source.substr(0, setter.Source.find_first_of(" \t")));
+    constexpr TextView kMakes[] = {"set", "seta", "sets", "setu"};
+    return std::ranges::find(kMakes, command) != std::end(kMakes) ||
+           IsWrittenByGame(run.Scripts[setter.Script], engine);
+}
+
+bool IsKnownBy(const SetThing& thing, const StartRun& run, TextView engine) {
+    return thing.Kind == EffectKind::Alias ||
+           (thing.Kind == EffectKind::Setting &&
+            std::ranges::any_of(thing.Setters, [&](const Setter& each) { return Vouches(each, run, engine); }));
+}
+
+/// In the order of the lines. What a line is told for by the run and by itself, or twice by the run, is told once.
+void Arrange(std::vector<Finding>& findings) {
+    std::ranges::stable_sort(findings, {}, [](const Finding& each) { return std::pair(each.File, each.Line); });
+    std::unordered_set<Text> told;
+    std::erase_if(findings, [&](const Finding& each) { return !told.insert(FindingLine(each)).second; });
+    findings.resize(std::min(findings.size(), kMostFindings));
+}
+
 /// Another of its name may lie in a directory that is searched ahead.
 std::optional<FoundScript> FindThat(ScriptFinder& finder, const RunScript& script, std::size_t levels) {
     for (std::size_t level = 0; level < levels; ++level) {
@@ -61,7 +91,9 @@ std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& request) {
     const Console console = request.Played.Of;
     std::unordered_set<Text> names;
     for (const SetThing& thing : run.Set.All()) {
-        names.insert(LowerCase(thing.Identity));
+        if (IsKnownBy(thing, run, request.Played.Engine)) {
+            names.insert(LowerCase(thing.Identity));
+        }
     }
     const std::size_t levels = GameDirectories(request.Played).size();
     ScriptFinder finder(disk, run.Places, ExecRulesOf(console), request.Given);
@@ -77,8 +109,7 @@ std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& request) {
                               std::back_inserter(findings));
         }
     }
-    std::ranges::stable_sort(findings, {}, [](const Finding& each) { return std::pair(each.File, each.Line); });
-    findings.resize(std::min(findings.size(), kMostFindings));
+    Arrange(findings);
     return findings;
 }
 

@@ -13,7 +13,8 @@ namespace lv {
 /// run already, is too long. `run` is of that console.
 std::vector<Finding> CheckRun(const StartRun& run, Console console);
 
-/// Each file of the run that lies in no archive, checked with what all of them define; and CheckRun.
+/// Each file of the run that lies in no archive, checked with the aliases of all of them, and with the settings that
+/// they make by "set", or that the game's own scripts and what it writes itself know; and CheckRun.
 std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& request);
 
 }  // namespace lv

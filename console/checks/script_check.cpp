@@ -113,7 +113,7 @@ class Check {
 };
 
 void Check::CheckShape(const ConsoleCommand& command) {
-    if (command.HasOddQuote) {
+    if (command.HasOddQuote && (rules_.OddQuoteDrops || !command.IsQuoteInComment)) {
         Add(rules_.OddQuoteDrops ? FindingKind::OddQuoteDrops : FindingKind::OddQuote, command.Line);
     }
     if (command.IsBehindComment) {

@@ -106,9 +106,9 @@ wxStaticText* ModalForm::MakeLabel(wxWindow* parent, const char* name, Label& mo
     return label;
 }
 
-void ModalForm::AddWide(wxWindow* window) {
+void ModalForm::AddWide(wxWindow* window, int proportion) {
     fields_ = nullptr;
-    rows_->Add(window, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap * 2));
+    rows_->Add(window, wxSizerFlags(proportion).Expand().Border(wxLEFT | wxRIGHT | wxTOP, kGap * 2));
 }
 
 void ModalForm::AddWide(wxSizer* sizer, int proportion) {

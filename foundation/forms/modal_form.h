@@ -27,8 +27,8 @@ class ModalForm : public wxDialog {
     wxButton* MakeButton(const char* name, CommandButton& model, std::function<void()> click);
     wxStaticText* MakeLabel(wxWindow* parent, const char* name, Label& model, LabelText kind = LabelText::Literal);
 
-    /// Adds anything across the whole width.
-    void AddWide(wxWindow* window);
+    /// Adds anything across the whole width, and with a proportion along the height too.
+    void AddWide(wxWindow* window, int proportion = 0);
     void AddWide(wxSizer* sizer, int proportion = 0);
     /// The last row, and the form's size and place.
     void Finish(wxButton* ok, wxButton* cancel);

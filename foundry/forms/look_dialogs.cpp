@@ -36,18 +36,14 @@ class LookForm : public ModalForm {
     LookForm(wxWindow* owner, ModalWindow& window, std::function<void()> cancel)
         : ModalForm(owner, window, std::move(cancel), kLookStyle) {}
 
-    wxListBox* AddList(const char* name, ListBox& model, TextView spoken, const std::function<void()>& click) {
-        wxListBox* const list = MakeRows(name, model, spoken, click, kListHeight);
-        AddWide(list);
-        return list;
-    }
-
-    /// One that takes all the height there is.
-    wxListBox* AddTallList(const char* name, ListBox& model, TextView spoken, const std::function<void()>& click) {
-        wxListBox* const list = MakeRows(name, model, spoken, click, kRowsHeight);
-        auto* row = new wxBoxSizer(wxVERTICAL);
-        row->Add(list, wxSizerFlags(1).Expand());
-        AddWide(row, 1);
+    /// A list of at least that height. What height the window has beyond is shared among its lists.
+    wxListBox* AddList(const char* name, ListBox& model, TextView spoken, const std::function<void()>& click,
+                       int height = kListHeight) {
+        auto* list =
+            new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kWidth, height)), 0, nullptr, wxLB_HSCROLL);
+        Controls.Bind(name, model, list, click);
+        SetSpokenName(list->GetHandle(), ToUtf8(spoken));
+        AddShared(list, height);
         return list;
     }
 
@@ -62,9 +58,7 @@ class LookForm : public ModalForm {
             view->ShowState();
             return false;
         });
-        auto* row = new wxBoxSizer(wxVERTICAL);
-        row->Add(view, wxSizerFlags(1).Expand());
-        AddWide(row, 1);
+        AddShared(view, kRowsHeight);
     }
 
     void AddButtons(std::initializer_list<wxButton*> buttons) {
@@ -78,14 +72,8 @@ class LookForm : public ModalForm {
     }
 
   private:
-    wxListBox* MakeRows(const char* name, ListBox& model, TextView spoken, const std::function<void()>& click,
-                        int height) {
-        auto* list =
-            new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kWidth, height)), 0, nullptr, wxLB_HSCROLL);
-        Controls.Bind(name, model, list, click);
-        SetSpokenName(list->GetHandle(), ToUtf8(spoken));
-        return list;
-    }
+    /// Each has of the height what it has at least, with its border: so none gets more than that at first.
+    void AddShared(wxWindow* window, int height) { AddWide(window, height + 2 * kGap); }
 };
 
 std::unique_ptr<wxDialog> MakeFileOrder(wxWindow* owner, FileOrder_Frm& order) {
@@ -111,8 +99,8 @@ std::unique_ptr<wxDialog> MakeAliasGraph(wxWindow* owner, AliasGraph_Frm& graph)
     form->Controls.Bind("Way_Cbo", graph.Way_Cbo, way, [&graph] { AliasGraph_Way_Cbo_Click(graph); });
     form->AddField(graph.Way_Lbl, "Way_Lbl", way);
     form->AddWide(form->MakeLabel(form.get(), "Tree_Lbl", graph.Tree_Lbl));
-    wxListBox* const tree = form->AddTallList("Tree_Lst", graph.Tree_Lst, "Aliases and keys",
-                                              [&graph] { AliasGraph_Tree_Lst_Click(graph); });
+    wxListBox* const tree = form->AddList(
+        "Tree_Lst", graph.Tree_Lst, "Aliases and keys", [&graph] { AliasGraph_Tree_Lst_Click(graph); }, kRowsHeight);
     tree->SetFont(FixedWidth(*tree));  // each depth under the other
     Binder& controls = form->Controls;
     tree->Bind(wxEVT_KEY_DOWN, [&graph, &controls](wxKeyEvent& event) {
@@ -134,8 +122,9 @@ std::unique_ptr<wxDialog> MakeAliasGraph(wxWindow* owner, AliasGraph_Frm& graph)
 std::unique_ptr<wxDialog> MakeScriptCheck(wxWindow* owner, ScriptCheck_Frm& check) {
     auto form = std::make_unique<LookForm>(owner, check, [&check] { ScriptCheck_Close_Cmd_Click(check); });
     form->AddWide(form->MakeLabel(form.get(), "Findings_Lbl", check.Findings_Lbl));
-    form->AddTallList("Findings_Lst", check.Findings_Lst, "Findings",
-                      [&check] { ScriptCheck_Findings_Lst_Click(check); });
+    form->AddList(
+        "Findings_Lst", check.Findings_Lst, "Findings", [&check] { ScriptCheck_Findings_Lst_Click(check); },
+        kRowsHeight);
     form->AddButtons(
         {form->MakeButton("Show_Cmd", check.Show_Cmd, [&check] { ScriptCheck_Show_Cmd_Click(check); }),
          form->MakeButton("Close_Cmd", check.Close_Cmd, [&check] { ScriptCheck_Close_Cmd_Click(check); })});
@@ -145,7 +134,8 @@ std::unique_ptr<wxDialog> MakeScriptCheck(wxWindow* owner, ScriptCheck_Frm& chec
 std::unique_ptr<wxDialog> MakeScriptText(wxWindow* owner, ScriptText_Frm& script) {
     auto form = std::make_unique<LookForm>(owner, script, [&script] { ScriptText_Close_Cmd_Click(script); });
     form->AddWide(form->MakeLabel(form.get(), "Place_Lbl", script.Place_Lbl));
-    wxListBox* const lines = form->AddTallList("Lines_Lst", script.Lines_Lst, "The script", [] {});
+    wxListBox* const lines = form->AddList(
+        "Lines_Lst", script.Lines_Lst, "The script", [] {}, kRowsHeight);
     lines->SetFont(FixedWidth(*lines));
     form->AddButtons(
         {form->MakeButton("Close_Cmd", script.Close_Cmd, [&script] { ScriptText_Close_Cmd_Click(script); })});
@@ -173,6 +163,7 @@ std::unique_ptr<wxDialog> MakeChanges(wxWindow* owner, Changes_Frm& changes) {
 
 std::unique_ptr<wxDialog> MakeVersions(wxWindow* owner, Versions_Frm& versions) {
     auto form = std::make_unique<LookForm>(owner, versions, [&versions] { Versions_Close_Cmd_Click(versions); });
+    form->AddWide(form->MakeLabel(form.get(), "Damage_Lbl", versions.Damage_Lbl));
     form->AddWide(form->MakeLabel(form.get(), "Versions_Lbl", versions.Versions_Lbl));
     form->AddList("Versions_Lst", versions.Versions_Lst, "Versions", [&versions] { Versions_Lst_Click(versions); });
     form->AddWide(form->MakeLabel(form.get(), "Difference_Lbl", versions.Difference_Lbl));

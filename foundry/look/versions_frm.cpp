@@ -1,5 +1,6 @@
 #include "foundry/look/versions_frm.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -23,6 +24,22 @@ Text RowText(const ScriptVersion& version) {
     return Join(room.data(), "   ", std::to_string(version.Text.size()), " bytes");
 }
 
+/// What is damaged, and where it lies; empty if nothing ever was.
+Text DamageText(const VersionFile& file, const std::vector<Text>& aside) {
+    Text text;
+    if (file.IsDamaged) {
+        const Text count = Join(file.IsLostExact ? "" : "at least ",
+                                std::to_string(std::max(file.Lost, std::size_t{file.IsLostExact ? 0U : 1U})));
+        text = Join("The file that keeps the versions is damaged. What could not be read of it: ", count,
+                    count == "1" ? " version." : " versions.", NewLine,
+                    "The next save puts the damaged file aside, and what could be read goes on.");
+    }
+    if (!aside.empty()) {
+        text += Join(text.empty() ? "" : NewLine, "A damaged file of versions was kept as ", aside.back());
+    }
+    return text;
+}
+
 Text ChangesText(std::size_t changes) {
     if (changes == 0) {
         return "It is what the script holds now.";
@@ -43,7 +60,10 @@ Versions_Frm::Versions_Frm(Run& owner, TextView script) : ModalWindow(owner, "Ve
     NextChange_Cmd.ToolTip = "Go on to the next lines that differ";
     Close_Cmd.Caption = "&Close";
     OnDisk = owner.System.Disk.Read(script).Value;
-    Versions = VersionsOf(owner, script);
+    VersionFile file = ReadVersions(owner, script);
+    Damage_Lbl.Caption = DamageText(file, DamagedVersionFiles(owner, script));
+    Damage_Lbl.Visible = !Damage_Lbl.Caption.empty();
+    Versions = std::move(file.Versions);
     for (const ScriptVersion& version : Versions) {
         Versions_Lst.Items.push_back(RowText(version));
     }
@@ -71,11 +91,15 @@ void Versions_BringBack_Cmd_Click(Versions_Frm& form) {
         return;
     }
     const auto row = static_cast<std::size_t>(form.Versions_Lst.ListIndex);
-    if (const Error failed = BringBack(form.run, form.Script, form.Versions[row])) {
+    const Result<Text> kept = BringBack(form.run, form.Script, form.Versions[row]);
+    if (!kept.Ok()) {
         AskUser(form.run, kTitle,
                 Join("The version could not be brought back, and the script is as it was.", NewLine, NewLine,
-                     ErrorLines(failed)));
+                     ErrorLines(kept.Fault)));
         return;
+    }
+    if (!kept.Value.empty()) {
+        AskUser(form.run, kTitle, KeptAsideText(kept.Value));
     }
     form.BroughtBack = true;
     form.Closed = true;
@@ -88,9 +112,10 @@ void Versions_Close_Cmd_Click(Versions_Frm& form) {
 bool ShowVersions(Run& run, TextView script) {
     Versions_Frm form(run, script);
     if (form.Versions.empty()) {
-        AskUser(run, kTitle,
-                Join("There is no older version of this script yet.", NewLine,
-                     "Each save in Setup Foundry keeps what it replaces."));
+        const Text none = form.Damage_Lbl.Caption.empty() ? "There is no older version of this script yet."
+                                                          : "No older version of this script can be shown.";
+        const Text damage = form.Damage_Lbl.Caption.empty() ? Text() : Join(NewLine, form.Damage_Lbl.Caption, NewLine);
+        AskUser(run, kTitle, Join(none, NewLine, damage, "Each save in Setup Foundry keeps what it replaces."));
         return false;
     }
     ShowModal(form);

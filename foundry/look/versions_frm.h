@@ -16,6 +16,7 @@ struct Versions_Frm : ModalWindow {
     Versions_Frm(Run& owner, TextView script);
 
     const Text Script;
+    Label Damage_Lbl;  // seen only where versions could not be read, or once could not
     Label Versions_Lbl;
     ListBox Versions_Lst;
     Label Difference_Lbl;  // "Bringing it back changes 3 lines."

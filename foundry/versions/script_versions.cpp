@@ -12,6 +12,7 @@ namespace lv {
 namespace {
 
 constexpr std::size_t kLargestVersionFile = 2 * kMostVersionBytes;
+constexpr int kMostDamagedFiles = 20;
 
 Result<Text> ReadAll(Files& disk, TextView path, std::size_t most) {
     const auto file = disk.Open(path);
@@ -24,11 +25,34 @@ Result<Text> ReadAll(Files& disk, TextView path, std::size_t most) {
     return file.Value->Read(0, most);
 }
 
-VersionFile ReadVersions(Files& disk, const Text& path) {
-    const Result<Text> bytes = disk.FileExists(path) ? ReadAll(disk, path, kLargestVersionFile) : Text();
+Result<Text> BytesOfVersions(Files& disk, const Text& path) {
+    return disk.FileExists(path) ? ReadAll(disk, path, kLargestVersionFile) : Text();
+}
+
+VersionFile VersionsIn(const Result<Text>& bytes) {
     VersionFile file = ReadVersionFile(bytes.Value);
     file.IsDamaged = file.IsDamaged || !bytes.Ok();
     return file;
+}
+
+Text DamagedName(const Text& path, int number) {
+    return Join(path, ".damaged", number == 1 ? Text() : std::to_string(number));
+}
+
+/// Under a name that no other damaged file has, as long as there are not too many; where one holds the same already,
+/// that is it.
+Result<Text> KeepAside(Files& disk, const Text& path, const Result<Text>& bytes) {
+    for (int number = 1;; ++number) {
+        Text name = DamagedName(path, number);
+        const bool isThere = disk.FileExists(name);
+        if (isThere && bytes.Ok() && ReadAll(disk, name, kLargestVersionFile).Value == bytes.Value) {
+            return name;
+        }
+        if (!isThere || number == kMostDamagedFiles) {
+            Error failed = disk.CopyOwn(path, name);
+            return failed ? Result<Text>(std::move(failed)) : Result<Text>(std::move(name));
+        }
+    }
 }
 
 /// Puts the version first. What has the same text goes.
@@ -50,10 +74,10 @@ Text VersionFilePathOf(const Run& run, TextView script) {
     return Join(OwnDirectory(run, "versions"), "\\", ScriptMark(script), ".txt");
 }
 
-Error KeepVersion(Run& run, TextView script) {
+Result<Text> KeepVersion(Run& run, TextView script) {
     Files& disk = run.System.Disk;
     if (!disk.FileExists(script)) {
-        return {};
+        return Text();
     }
     Result<Text> text = ReadAll(disk, script, kLargestVersion);
     if (!text.Ok()) {
@@ -63,29 +87,57 @@ Error KeepVersion(Run& run, TextView script) {
     if (Error failed = MakeWholeDirectory(disk, path.substr(0, path.rfind('\\')))) {
         return failed;
     }
-    VersionFile file = ReadVersions(disk, path);
+    const Result<Text> bytes = BytesOfVersions(disk, path);
+    VersionFile file = VersionsIn(bytes);
+    Result<Text> aside;
     if (file.IsDamaged) {
-        if (Error failed = disk.CopyOwn(path, Join(path, ".damaged"))) {
-            return failed;
+        aside = KeepAside(disk, path, bytes);
+        if (!aside.Ok()) {
+            return aside;
         }
     } else if (!file.Versions.empty() && file.Versions.front().Text == text.Value) {
-        return {};
+        return Text();
     }
     file.Script = script;
     AddNewest(file.Versions, {run.System.Time.Now(), std::move(text.Value)});
-    return disk.ReplaceOwn(path, WriteVersionFile(file));
+    Error failed = disk.ReplaceOwn(path, WriteVersionFile(file));
+    return failed ? Result<Text>(std::move(failed)) : std::move(aside);
+}
+
+VersionFile ReadVersions(Run& run, TextView script) {
+    return VersionsIn(BytesOfVersions(run.System.Disk, VersionFilePathOf(run, script)));
 }
 
 std::vector<ScriptVersion> VersionsOf(Run& run, TextView script) {
-    return ReadVersions(run.System.Disk, VersionFilePathOf(run, script)).Versions;
+    return ReadVersions(run, script).Versions;
 }
 
-Error BringBack(Run& run, TextView script, const ScriptVersion& version) {
-    const Text text = version.Text;  // the versions change below it
-    if (Error failed = KeepVersion(run, script)) {
-        return failed;
+std::vector<Text> DamagedVersionFiles(Run& run, TextView script) {
+    const Text path = VersionFilePathOf(run, script);
+    std::vector<Text> names;
+    for (int number = 1; number <= kMostDamagedFiles; ++number) {
+        Text name = DamagedName(path, number);
+        if (!run.System.Disk.FileExists(name)) {
+            break;
+        }
+        names.push_back(std::move(name));
     }
-    return run.System.Disk.Replace(script, text);
+    return names;
+}
+
+Result<Text> BringBack(Run& run, TextView script, const ScriptVersion& version) {
+    const Text text = version.Text;  // the versions change below it
+    Result<Text> kept = KeepVersion(run, script);
+    if (!kept.Ok()) {
+        return kept;
+    }
+    Error failed = run.System.Disk.Replace(script, text);
+    return failed ? Result<Text>(std::move(failed)) : std::move(kept);
+}
+
+Text KeptAsideText(TextView path) {
+    return Join("The file that keeps the older versions of this script was damaged. What could be read of it goes on;",
+                NewLine, "the damaged file itself is kept as -->", NewLine, NewLine, DoubleQuote, path, DoubleQuote);
 }
 
 }  // namespace lv

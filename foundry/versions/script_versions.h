@@ -16,15 +16,21 @@ Text VersionFilePathOf(const Run& run, TextView script);
 
 /// Keeps the script as it is on disk, as the newest version. Nothing to keep if there is no such file, or it is the
 /// newest version already; a text that is an older one is kept once, as the newest. The oldest of more than
-/// kMostVersions goes. Error 7 for a script of more than kLargestVersion bytes. What is damaged of the file of versions
-/// is kept aside, as
-/// "...damaged".
-Error KeepVersion(Run& run, TextView script);
+/// kMostVersions goes. Error 7 for a script of more than kLargestVersion bytes. A file of versions that is damaged is
+/// kept aside, and what is intact of it goes on: the value is where it is kept then, and empty else.
+Result<Text> KeepVersion(Run& run, TextView script);
 
-/// Newest first; what can be read of them.
+/// What can be read of them, newest first.
+VersionFile ReadVersions(Run& run, TextView script);
 std::vector<ScriptVersion> VersionsOf(Run& run, TextView script);
 
-/// Puts the version in the place of the script, which becomes a version itself.
-Error BringBack(Run& run, TextView script, const ScriptVersion& version);
+/// The damaged files that have been kept aside, the oldest first: "....txt.damaged", "....txt.damaged2".
+std::vector<Text> DamagedVersionFiles(Run& run, TextView script);
+
+/// Puts the version in the place of the script, which becomes a version itself. The value is KeepVersion's.
+Result<Text> BringBack(Run& run, TextView script, const ScriptVersion& version);
+
+/// For the user, once: that a damaged file was kept aside.
+Text KeptAsideText(TextView path);
 
 }  // namespace lv

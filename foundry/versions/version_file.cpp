@@ -1,10 +1,6 @@
 #include "foundry/versions/version_file.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <cstdint>
-#include <cstdio>
 #include <optional>
 
 #include "foundation/check_sum.h"
@@ -15,9 +11,8 @@ namespace lv {
 
 namespace {
 
-constexpr TextView kTitle = "Lorvane 3D versions 1\n";
-constexpr TextView kWhole = "whole";
-constexpr TextView kDelta = "delta";
+constexpr TextView kTitle = "Lorvane 3D versions 2\n";
+constexpr TextView kOldTitle = "Lorvane 3D versions 1\n";
 
 std::optional<TextView> TakeLine(TextView& bytes) {
     const std::size_t end = bytes.find('\n');
@@ -29,120 +24,140 @@ std::optional<TextView> TakeLine(TextView& bytes) {
     return line;
 }
 
-/// Numbers of a fixed form, "%4-%2-%2": each "%" takes as many digits as the figure says.
-bool TakeDigits(TextView& line, std::size_t count, char sign, int& into) {
-    if (line.size() <= count || line[count] != sign) {
-        return false;
-    }
-    const auto [end, fault] = std::from_chars(line.data(), line.data() + count, into);
-    if (fault != std::errc() || end != line.data() + count || into < 0) {
-        return false;
-    }
-    line.remove_prefix(count + 1);
-    return true;
+/// The line at the start of the text, which stays as it is.
+TextView FirstLine(TextView bytes) {
+    return bytes.substr(0, bytes.find('\n'));
 }
 
-bool TakeDate(TextView& line, LocalTime& date) {
-    return TakeDigits(line, 4, '-', date.Year) && TakeDigits(line, 2, '-', date.Month) &&
-           TakeDigits(line, 2, ' ', date.Day) && TakeDigits(line, 2, ':', date.Hour) &&
-           TakeDigits(line, 2, ':', date.Minute) && TakeDigits(line, 2, ' ', date.Second) && date.Month >= 1 &&
-           date.Month <= 12 && date.Day >= 1 && date.Day <= 31;
-}
+class Reading {
+  public:
+    explicit Reading(TextView bytes) : bytes_(bytes) {}
 
-template <class Number>
-bool TakeNumber(TextView& line, Number& into, int base = 10) {
-    const auto [end, fault] = std::from_chars(line.data(), line.data() + line.size(), into, base);
-    if (fault != std::errc()) {
-        return false;
+    VersionFile Run() {
+        TakeTitle();
+        while (!bytes_.empty() && file_.Versions.size() < kMostVersions && !stops_) {
+            if (!TakeRecord()) {
+                ++missed_;
+                SkipToHead();
+            }
+        }
+        return Result();
     }
-    line.remove_prefix(static_cast<std::size_t>(end - line.data()));
-    if (!line.empty() && line.front() == ' ') {
-        line.remove_prefix(1);
-    }
-    return true;
-}
 
-struct Head {
-    LocalTime Date;
-    bool IsWhole = false;
-    std::size_t TextSize = 0;
-    std::size_t PayloadSize = 0;
-    std::uint32_t Sum = 0;
+  private:
+    void TakeTitle();
+    bool TakeRecord();
+    void SkipToHead();
+    [[nodiscard]] std::optional<Text> TextOf(const RecordHead& head, TextView payload);
+    [[nodiscard]] bool IsUnderWay(std::size_t work);
+    VersionFile Result();
+
+    TextView bytes_;
+    VersionFile file_;
+    RecordForm form_ = RecordForm::Either;
+    std::size_t total_ = 0;   // as a record says that is whole
+    std::size_t missed_ = 0;  // places where a version was to be
+    std::size_t size_ = 0;    // of all texts
+    std::size_t work_ = 0;
+    bool stops_ = false;
 };
 
-std::optional<Head> ReadHead(TextView line) {
-    Head head;
-    if (!TakeDate(line, head.Date) || line.size() <= kWhole.size()) {
-        return std::nullopt;
-    }
-    const TextView how = line.substr(0, kWhole.size());
-    head.IsWhole = how == kWhole;
-    line.remove_prefix(how.size() + 1);
-    const bool isRead = TakeNumber(line, head.TextSize) && TakeNumber(line, head.PayloadSize) &&
-                        TakeNumber(line, head.Sum, 16) && line.empty();
-    const bool isSound = (head.IsWhole || how == kDelta) && head.TextSize <= kLargestVersion;
-    return isRead && isSound ? std::optional(head) : std::nullopt;
+/// Whether there is still time for it: a made-up file may claim anything of itself.
+bool Reading::IsUnderWay(std::size_t work) {
+    constexpr std::size_t kMostWork = 8 * kMostVersionBytes;
+    work_ += work;
+    stops_ = stops_ || work_ > kMostWork;
+    return !stops_;
 }
 
-std::optional<ScriptVersion> TakeVersion(TextView& bytes, const std::vector<ScriptVersion>& newer) {
-    const auto line = TakeLine(bytes);
-    const auto head = line ? ReadHead(*line) : std::nullopt;
-    if (!head || head->PayloadSize >= bytes.size() || bytes[head->PayloadSize] != '\n' ||
-        (!head->IsWhole && newer.empty())) {
-        return std::nullopt;
+void Reading::TakeTitle() {
+    if (bytes_.starts_with(kTitle) || bytes_.starts_with(kOldTitle)) {
+        form_ = bytes_.starts_with(kTitle) ? RecordForm::New : RecordForm::Old;
+        bytes_.remove_prefix(kTitle.size());
+        const auto script = TakeLine(bytes_);
+        file_.Script = script.value_or("");
+        file_.IsDamaged = !script;
+        bytes_ = script ? bytes_ : TextView();
+    } else if (!bytes_.empty()) {
+        file_.IsDamaged = true;
+        SkipToHead();
     }
-    const TextView payload = bytes.substr(0, head->PayloadSize);
-    auto text = head->IsWhole ? std::optional<Text>(payload) : ApplyDelta(newer.back().Text, payload, kLargestVersion);
-    if (!text || text->size() != head->TextSize || CheckSum(*text) != head->Sum) {
-        return std::nullopt;
-    }
-    bytes.remove_prefix(payload.size() + 1);
-    return ScriptVersion{head->Date, *std::move(text)};
 }
 
-Text DateText(const LocalTime& date) {
-    std::array<char, 80> room{};
-    const int length = std::snprintf(room.data(), room.size(), "%04d-%02d-%02d %02d:%02d:%02d", date.Year, date.Month,
-                                     date.Day, date.Hour, date.Minute, date.Second);
-    return {room.data(), static_cast<std::size_t>(std::max(length, 0))};
+/// Takes a record that has its length, whether its text can be made or not.
+bool Reading::TakeRecord() {
+    TextView rest = bytes_;
+    const auto line = TakeLine(rest);
+    const auto head = line ? ReadRecordHead(*line, form_) : std::nullopt;
+    if (!head || head->PayloadSize >= rest.size() || rest[head->PayloadSize] != '\n') {
+        return false;
+    }
+    const TextView payload = rest.substr(0, head->PayloadSize);
+    rest.remove_prefix(payload.size() + 1);
+    const bool isChecked = head->Total > 0;
+    if (isChecked && (!IsUnderWay(payload.size()) || CheckSum(payload, CheckSum(head->Checked)) != head->RecordSum)) {
+        return false;
+    }
+    auto text = TextOf(*head, payload);
+    if (!text && !isChecked && !rest.empty() && !ReadRecordHead(FirstLine(rest), form_)) {
+        return false;  // another's length, perhaps
+    }
+    bytes_ = rest;
+    total_ = isChecked ? head->Total : total_;
+    if (!text) {
+        ++missed_;
+        return true;
+    }
+    size_ += text->size();
+    stops_ = stops_ || size_ > kMostVersionBytes;
+    if (stops_) {
+        ++missed_;
+    } else {
+        file_.Versions.push_back({head->Date, *std::move(text)});
+    }
+    return true;
+}
+
+std::optional<Text> Reading::TextOf(const RecordHead& head, TextView payload) {
+    if (!head.IsWhole && file_.Versions.empty()) {
+        return std::nullopt;
+    }
+    const TextView base = head.IsWhole ? TextView() : TextView(file_.Versions.back().Text);
+    if (!IsUnderWay(base.size() + payload.size() + head.TextSize)) {
+        return std::nullopt;
+    }
+    auto text = head.IsWhole ? std::optional<Text>(payload) : ApplyDelta(base, payload, head.TextSize);
+    return text && text->size() == head.TextSize && CheckSum(*text) == head.Sum ? std::move(text) : std::nullopt;
+}
+
+/// The next line that may be a version's.
+void Reading::SkipToHead() {
+    while (TakeLine(bytes_)) {
+        if (ReadRecordHead(FirstLine(bytes_), form_)) {
+            return;
+        }
+    }
+    bytes_ = {};
+}
+
+VersionFile Reading::Result() {
+    file_.IsLostExact = total_ > 0;
+    file_.Lost = total_ > 0 ? total_ - std::min(total_, file_.Versions.size()) : missed_;
+    file_.IsDamaged = file_.IsDamaged || missed_ > 0 || file_.Lost > 0;
+    return std::move(file_);
 }
 
 }  // namespace
 
 VersionFile ReadVersionFile(TextView bytes) {
-    VersionFile file;
-    if (bytes.substr(0, kTitle.size()) != kTitle) {
-        file.IsDamaged = !bytes.empty();
-        return file;
-    }
-    bytes.remove_prefix(kTitle.size());
-    const auto script = TakeLine(bytes);
-    file.Script = script.value_or("");
-    file.IsDamaged = !script;
-    std::size_t size = 0;
-    while (!bytes.empty() && !file.IsDamaged && file.Versions.size() < kMostVersions) {
-        auto version = TakeVersion(bytes, file.Versions);
-        size += version ? version->Text.size() : 0;
-        file.IsDamaged = !version || size > kMostVersionBytes;
-        if (!file.IsDamaged) {
-            file.Versions.push_back(*std::move(version));
-        }
-    }
-    return file;
+    return Reading(bytes).Run();
 }
 
 Text WriteVersionFile(const VersionFile& file) {
     Text bytes = Join(kTitle, file.Script, "\n");
-    const Text* newer = nullptr;
-    for (const ScriptVersion& version : file.Versions) {
-        const Text delta = newer != nullptr ? MakeDelta(*newer, version.Text) : Text();
-        const bool isWhole = newer == nullptr || delta.size() >= version.Text.size();
-        const Text& payload = isWhole ? version.Text : delta;
-        bytes += Join(DateText(version.Date), " ", isWhole ? kWhole : kDelta, " ", std::to_string(version.Text.size()),
-                      " ", std::to_string(payload.size()), " ", CheckSumText(CheckSum(version.Text)), "\n");
-        bytes += payload;
-        bytes += '\n';
-        newer = &version.Text;
+    const std::size_t count = std::min(file.Versions.size(), kMostVersions);
+    for (std::size_t i = 0; i < count; ++i) {
+        bytes += RecordOf(file.Versions[i], i > 0 ? &file.Versions[i - 1].Text : nullptr, count);
     }
     return bytes;
 }

@@ -112,14 +112,17 @@ bool HasBackup(Run& run, ScriptDocument& document, const Text& path) {
 
 /// What the save replaces is kept. A save by itself asks nothing: it would ask again each time.
 bool KeepsWhatItReplaces(Run& run, const Text& path, bool quiet) {
-    const Error failed = KeepVersion(run, path);
-    if (!failed || quiet) {
+    const Result<Text> kept = KeepVersion(run, path);
+    if (kept.Ok() && !kept.Value.empty()) {
+        AskUser(run, kTitle, KeptAsideText(kept.Value));  // the file is whole again with this save
+    }
+    if (kept.Ok() || quiet) {
         return true;
     }
     const Index answer =
         AskUser(run, kTitle,
                 Join("What the file holds now could not be kept as a version, to be brought back later:", NewLine,
-                     NewLine, ErrorLines(failed)),
+                     NewLine, ErrorLines(kept.Fault)),
                 "&Save Anyway,&Cancel");
     return answer == 0 || SayNotSaved(run);
 }

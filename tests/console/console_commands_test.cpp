@@ -152,6 +152,20 @@ TEST(CommandReader, SaysWhatIsOddAboutACommand) {
     EXPECT_EQ(command.Length, 3U);
 }
 
+TEST(CommandReader, TellsAQuoteOfACommentFromOneOfTheCommand) {
+    CommandReader reader("a \"b // c\nd // \"e\nf // \"g\"\n", RulesOf(Console::Quake));
+    ConsoleCommand command;
+    ASSERT_TRUE(reader.Next(command));
+    EXPECT_TRUE(command.HasOddQuote);
+    EXPECT_FALSE(command.IsQuoteInComment);
+    ASSERT_TRUE(reader.Next(command));
+    EXPECT_TRUE(command.HasOddQuote);
+    EXPECT_TRUE(command.IsQuoteInComment);
+    ASSERT_TRUE(reader.Next(command));
+    EXPECT_FALSE(command.HasOddQuote);
+    EXPECT_FALSE(command.IsQuoteInComment);
+}
+
 TEST(CommandReader, GivesTheRestOfItsLine) {
     CommandReader reader("a; b\nc\nd", RulesOf(Console::Quake));
     ConsoleCommand command;

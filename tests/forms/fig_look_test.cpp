@@ -2,6 +2,8 @@
 #include <wx/listbox.h>
 #include <wx/listctrl.h>
 
+#include <numeric>
+
 #include "foundry/versions/script_versions.h"
 #include "tests/forms/fig_form_fixture.h"
 
@@ -31,6 +33,24 @@ class FigLooks : public FigForm_ {
         Settle();
     }
 };
+
+int HeightOf(const std::vector<std::string>& lists) {
+    return std::accumulate(lists.begin(), lists.end(), 0,
+                           [](int sum, const std::string& each) { return sum + Find(each)->GetSize().y; });
+}
+
+/// Makes the window of the list larger and looks whether its lists take all that it has grown.
+void ExpectToGrow(const std::vector<std::string>& lists) {
+    wxWindow* const window = wxGetTopLevelParent(Find(lists.front()));
+    const int before = HeightOf(lists);
+    constexpr int kMore = 90;
+    window->SetSize(window->GetSize() + wxSize(0, kMore));
+    SettleUntil([&] { return HeightOf(lists) == before + kMore; }, 1000);
+    EXPECT_EQ(HeightOf(lists), before + kMore) << lists.front();
+    for (const std::string& each : lists) {
+        EXPECT_LE(Find(each)->GetScreenRect().GetBottom(), window->GetScreenRect().GetBottom()) << each;
+    }
+}
 
 constexpr TextView kLosing = "bind ESCAPE togglemenu\nbind x +attack\nalias empty \"\"\nbind F13 \"say hello\"\n";
 
@@ -89,6 +109,31 @@ TEST_F(FigLooks, ARowOfTheListLeadsToItsLine) {
                         PressKey(WXK_ESCAPE);
                     });
         EXPECT_TRUE(form->Model().Document.ScriptClean);
+    });
+}
+
+TEST_F(FigLooks, ListsGrowWithTheirWindow) {
+    Use(kGames[0], kLosing);
+    ASSERT_TRUE(KeepVersion(run, path).Ok());
+    run.DefaultGameDirectory = "C:\\QUAKE";
+    run.BaseGameDir = "ID1";
+    run.CurrentGameDir = "ID1";
+    Edit([&] {
+        Turn(EditorPage::SaveAndExit);
+        const std::pair<const char*, std::vector<std::string>> windows[] = {
+            {"ShowChanges_Cmd", {"Losses_Lst", "Difference_Lst"}},
+            {"FileOrder_Cmd", {"Files_Lst", "Set_Lst", "Setters_Lst"}},
+            {"AliasGraph_Cmd", {"Tree_Lst"}},
+            {"ScriptCheck_Cmd", {"Findings_Lst"}},
+            {"Versions_Cmd", {"Versions_Lst", "Difference_Lst"}},
+        };
+        for (const auto& [button, lists] : windows) {
+            DoAndAnswer([&] { ClickOn(Find(button)); },
+                        [&] {
+                            ExpectToGrow(lists);
+                            PressKey(WXK_ESCAPE);
+                        });
+        }
     });
 }
 

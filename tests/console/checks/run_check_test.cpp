@@ -37,6 +37,35 @@ TEST(CheckScriptsOf, ChecksEachFileWithWhatAllDefine) {
               "modification.\n");
 }
 
+TEST(CheckScriptsOf, TellsOfAnUnknownWordThatIsGivenAValue) {
+    CheckedDisk game;
+    game.Add("ID1\\autoexec.cfg", "frobnicate 3\nwibble \"x y\"\nfov 90\nbind x wait\nx 2\nalias a \"bogus 3\"\na\n");
+    const TextView rest = " is no command, setting or alias that is known: perhaps one of a modification.\n";
+    EXPECT_EQ(game.Report(),
+              Join("C:\\QUAKE\\id1\\autoexec.cfg:1: frobnicate", rest, "C:\\QUAKE\\id1\\autoexec.cfg:2: wibble", rest,
+                   "C:\\QUAKE\\id1\\autoexec.cfg:5: x", rest, "C:\\QUAKE\\id1\\autoexec.cfg:6: bogus", rest));
+}
+
+TEST(CheckScriptsOf, KnowsSettingsOfTheGamesScriptsOfWhatItWritesAndOfSet) {
+    CheckedDisk game;
+    game.AddPak("ID1\\pak1.pak", {{"default.cfg", "packed 1\n"}});
+    game.Add("ID1\\config.cfg", "written 1\n");
+    game.Add("ID1\\autoexec.cfg", "packed 2\nwritten 2\n");
+    EXPECT_EQ(game.Report(), "");
+    game.Request.Played = {.Of = Console::Quake2, .GameKind = Game::Quake2, .Directory = "C:\\QUAKE"};
+    game.Add("BASEQ2\\autoexec.cfg", "set mine 1\nmine 2\n");
+    EXPECT_EQ(game.Report(), "");
+}
+
+TEST(CheckScriptsOf, TellsOfALineOnce) {
+    CheckedDisk game;
+    game.Add("ID1\\config.cfg", "exec my.cfg\nexec my.cfg\n");
+    game.Add("ID1\\my.cfg", "exec two words.cfg\nexec gone.cfg\n");
+    EXPECT_EQ(game.Report(),
+              "C:\\QUAKE\\id1\\my.cfg:1: Behind exec stands more than one name: Quake does not run two.\n"
+              "C:\\QUAKE\\id1\\my.cfg:2: The script gone.cfg is not there.\n");
+}
+
 TEST(CheckScriptsOf, TellsTwoScriptsOfOneNameApart) {
     CheckedDisk game;
     game.Request.Played = {

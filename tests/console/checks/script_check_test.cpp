@@ -44,6 +44,15 @@ TEST(CheckScript, FindsOddQuotes) {
     EXPECT_EQ(Found("say \"a\\\"b\"\n", Console::EzQuake), "1 odd quote");
 }
 
+TEST(CheckScript, TakesAQuoteInACommentForAFaultOnlyWhereItDropsTheCommand) {
+    EXPECT_EQ(Found("fov 90 // \"hm\nfov 100 // \"quote in comment\n// \"\n"), "");
+    EXPECT_EQ(Found("fov 90 // \"hm; quit\n"), "");
+    EXPECT_EQ(Found("say \"hi // there\n"), "1 odd quote");
+    EXPECT_EQ(Found("say it\"s // there\n"), "1 odd quote");
+    EXPECT_EQ(Found("fov 90 // \"hm\n", Console::EzQuake), "");
+    EXPECT_EQ(Found("fov 90 // \"hm\n", Console::Quake2), "1 odd quote drops");
+}
+
 TEST(CheckScript, FindsWhatIsBeyondALimit) {
     const Text line = Join("say ", Text(1021, 'x'), "\n");
     EXPECT_EQ(Found(line), "1 overruns");

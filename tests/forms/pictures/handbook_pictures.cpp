@@ -211,7 +211,7 @@ TEST_F(HandbookPictures, SetupFoundryAndItsDialogs) {
         Turn(EditorPage::Aliases);
         Picture("foundry_aliases", form);
         dialog("AddCustomAlias_Cmd", "alias", "AliasName_Txt", "rocketjump");
-        ASSERT_EQ(KeepVersion(run, path).Number, 0);
+        ASSERT_EQ(KeepVersion(run, path).Fault.Number, 0);
         Turn(EditorPage::SaveAndExit);
         dialog("ShowChanges_Cmd", "foundry_changes", "", "");
         dialog("Versions_Cmd", "foundry_versions", "", "");

@@ -24,7 +24,7 @@ class VersionsForm : public ::testing::Test {
         Put("bind x quit\r\nbind y +attack\r\n");
     }
     void Put(TextView text) { system.Disk.AddFile(kScript, text); }
-    void Keep() { ASSERT_EQ(KeepVersion(run, kScript).Number, 0); }
+    void Keep() { ASSERT_EQ(KeepVersion(run, kScript).Fault.Number, 0); }
 
     MemoryPlatform system;
     ScriptedUser user;
@@ -87,6 +87,48 @@ TEST_F(VersionsForm, StaysWhereTheScriptCannotBeReplaced) {
     Versions_BringBack_Cmd_Click(form);
     EXPECT_FALSE(form.Closed);
     EXPECT_FALSE(form.BroughtBack);
+}
+
+TEST_F(VersionsForm, SaysNothingOfDamageWhereThereIsNone) {
+    const Versions_Frm form(run, kScript);
+    EXPECT_FALSE(form.Damage_Lbl.Visible);
+}
+
+TEST_F(VersionsForm, SaysHowManyCouldNotBeReadAndLaterWhereTheyLie) {
+    const Text path = VersionFilePathOf(run, kScript);
+    Text bytes = system.Disk.Bytes(path);
+    bytes.resize(bytes.size() - 3);
+    system.Disk.AddFile(path, bytes);
+    {
+        const Versions_Frm form(run, kScript);
+        EXPECT_EQ(form.Versions.size(), 1u);
+        EXPECT_TRUE(form.Damage_Lbl.Visible);
+        EXPECT_EQ(form.Damage_Lbl.Caption,
+                  "The file that keeps the versions is damaged. What could not be read of it: 1 version.\r\n"
+                  "The next save puts the damaged file aside, and what could be read goes on.");
+    }
+    Keep();
+    const Versions_Frm form(run, kScript);
+    EXPECT_EQ(form.Versions.size(), 2u);
+    EXPECT_EQ(form.Damage_Lbl.Caption, Join("A damaged file of versions was kept as ", path, ".damaged"));
+}
+
+TEST_F(VersionsForm, SaysThatADamagedFileWasKeptWhenAVersionIsBroughtBack) {
+    const Text path = VersionFilePathOf(run, kScript);
+    system.Disk.AddFile(path, Join(system.Disk.Bytes(path), "more"));
+    Versions_Frm form(run, kScript);
+    user.Expect({"Setup Foundry", KeptAsideText(Join(path, ".damaged"))});
+    Versions_BringBack_Cmd_Click(form);
+    EXPECT_TRUE(form.BroughtBack);
+}
+
+TEST_F(VersionsForm, AFileThatIsAllDamagedIsToldOf) {
+    system.Disk.AddFile(VersionFilePathOf(run, kScript), "nothing");
+    user.Expect({"Setup Foundry",
+                 "No older version of this script can be shown.\r\n\r\n"
+                 "The file that keeps the versions is damaged. What could not be read of it: at least 1 "
+                 "versions.\r\n"});
+    EXPECT_FALSE(ShowVersions(run, kScript));
 }
 
 TEST_F(VersionsForm, AScriptWithoutOneIsToldOf) {

@@ -17,7 +17,7 @@ class ScriptVersions : public ::testing::Test {
     ScriptVersions() { system.Places.IsData = "C:\\HOME\\share"; }
     void Put(TextView text) { system.Disk.AddFile(kScript, text); }
     void SaveOver(TextView text) {
-        ASSERT_EQ(KeepVersion(run, kScript).Number, 0);
+        ASSERT_EQ(KeepVersion(run, kScript).Fault.Number, 0);
         Put(text);
     }
     std::vector<Text> Texts(TextView script = kScript) {
@@ -46,7 +46,7 @@ TEST_F(ScriptVersions, AreWhatSavesHaveReplacedNewestFirst) {
 }
 
 TEST_F(ScriptVersions, AScriptThatIsNotThereLeavesNone) {
-    EXPECT_EQ(KeepVersion(run, kScript).Number, 0);
+    EXPECT_EQ(KeepVersion(run, kScript).Fault.Number, 0);
     EXPECT_FALSE(system.Disk.FileExists(FilePath()));
 }
 
@@ -72,7 +72,7 @@ TEST_F(ScriptVersions, TheSameTextIsKeptOnceAsTheNewest) {
 TEST_F(ScriptVersions, TheOldestOfMoreThanFiftyGoes) {
     for (int i = 0; i <= 60; ++i) {
         Put(std::to_string(i));
-        ASSERT_EQ(KeepVersion(run, kScript).Number, 0);
+        ASSERT_EQ(KeepVersion(run, kScript).Fault.Number, 0);
     }
     const std::vector<Text> texts = Texts();
     EXPECT_EQ(texts.size(), 50u);
@@ -89,7 +89,7 @@ TEST_F(ScriptVersions, AreForTheirOwnerAlone) {
 TEST_F(ScriptVersions, OneThatIsBroughtBackLeavesWhatItReplaces) {
     Put("one");
     SaveOver("two");
-    ASSERT_EQ(BringBack(run, kScript, VersionsOf(run, kScript)[0]).Number, 0);
+    ASSERT_EQ(BringBack(run, kScript, VersionsOf(run, kScript)[0]).Fault.Number, 0);
     EXPECT_EQ(system.Disk.Bytes(kScript), "one");
     EXPECT_EQ(Texts(), (std::vector<Text>{"two", "one"}));
 }
@@ -101,29 +101,59 @@ TEST_F(ScriptVersions, ADamagedFileIsKeptAsideAndWhatIsIntactOfItGoesOn) {
     Text bytes = system.Disk.Bytes(FilePath());
     bytes.resize(bytes.size() - 3);
     system.Disk.AddFile(FilePath(), bytes);
-    SaveOver("four");
+    const Text aside = Join(FilePath(), ".damaged");
+    EXPECT_EQ(KeepVersion(run, kScript).Value, aside);
     EXPECT_EQ(Texts(), (std::vector<Text>{"three", "two"}));
-    EXPECT_EQ(system.Disk.Bytes(Join(FilePath(), ".damaged")), bytes);
+    EXPECT_EQ(system.Disk.Bytes(aside), bytes);
+    EXPECT_EQ(KeepVersion(run, kScript).Value, "");
+    EXPECT_EQ(DamagedVersionFiles(run, kScript), std::vector<Text>{aside});
+}
+
+TEST_F(ScriptVersions, ASecondDamagedFileDoesNotReplaceTheFirst) {
+    Put("one");
+    const Text aside = Join(FilePath(), ".damaged");
+    for (const TextView damaged : {"nothing", "nothing", "no more", "nothing"}) {
+        system.Disk.AddFile(FilePath(), damaged);
+        EXPECT_EQ(KeepVersion(run, kScript).Value, damaged == "no more" ? Join(aside, "2") : aside);
+    }
+    EXPECT_EQ(system.Disk.Bytes(aside), "nothing");
+    EXPECT_EQ(system.Disk.Bytes(Join(aside, "2")), "no more");
+    EXPECT_EQ(DamagedVersionFiles(run, kScript), (std::vector<Text>{aside, Join(aside, "2")}));
+    EXPECT_EQ(DamagedVersionFiles(run, "C:\\GAME\\ID1\\other.cfg"), std::vector<Text>());
+}
+
+TEST_F(ScriptVersions, ADamagedFileThatCannotBeKeptStays) {
+    Put("one");
+    system.Disk.AddFile(FilePath(), "nothing");
+    system.Disk.Refused[LowerCase(Join(FilePath(), ".damaged"))] = MakeError(error::kDiskFull);
+    EXPECT_EQ(KeepVersion(run, kScript).Fault.Number, error::kDiskFull);
+    EXPECT_EQ(system.Disk.Bytes(FilePath()), "nothing");
+}
+
+TEST_F(ScriptVersions, ADamagedFileIsToldOfByItsPlace) {
+    EXPECT_EQ(KeptAsideText("C:\\V.txt.damaged"),
+              "The file that keeps the older versions of this script was damaged. What could be read of it goes on;\r\n"
+              "the damaged file itself is kept as -->\r\n\r\n\"C:\\V.txt.damaged\"");
 }
 
 TEST_F(ScriptVersions, AScriptThatIsTooLargeIsAnError) {
     Put(Text(kLargestVersion + 1, 'x'));
-    EXPECT_EQ(KeepVersion(run, kScript).Number, error::kOutOfMemory);
+    EXPECT_EQ(KeepVersion(run, kScript).Fault.Number, error::kOutOfMemory);
 }
 
 TEST_F(ScriptVersions, ADiskThatTakesNothingIsAnErrorAndChangesNothing) {
     Put("one");
     SaveOver("two");
     system.Disk.Refused[LowerCase(FilePath())] = MakeError(error::kDiskFull);
-    EXPECT_EQ(KeepVersion(run, kScript).Number, error::kDiskFull);
-    EXPECT_EQ(BringBack(run, kScript, {{}, "zero"}).Number, error::kDiskFull);
+    EXPECT_EQ(KeepVersion(run, kScript).Fault.Number, error::kDiskFull);
+    EXPECT_EQ(BringBack(run, kScript, {{}, "zero"}).Fault.Number, error::kDiskFull);
     EXPECT_EQ(system.Disk.Bytes(kScript), "two");
 }
 
 TEST_F(ScriptVersions, TogetherTakeNoMoreThanTheirBound) {
     for (int i = 0; i < 12; ++i) {
         Put(Text(kLargestVersion, static_cast<char>('a' + i)));
-        ASSERT_EQ(KeepVersion(run, kScript).Number, 0);
+        ASSERT_EQ(KeepVersion(run, kScript).Fault.Number, 0);
     }
     EXPECT_EQ(Texts().size(), kMostVersionBytes / kLargestVersion);
 }

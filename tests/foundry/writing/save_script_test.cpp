@@ -179,6 +179,17 @@ TEST_F(SaveScriptTest, KeepsWhatItReplacesAsAVersion) {
     EXPECT_EQ(versions[0].Text, "the old script");
 }
 
+TEST_F(SaveScriptTest, TellsOnceThatADamagedFileOfVersionsWasKeptAside) {
+    const Text versions = VersionFilePathOf(run, kPath);
+    system.Disk.AddFile(versions, "nothing");
+    user.Expect({"Setup Foundry", KeptAsideText(Join(versions, ".damaged"))});
+    ExpectSuccess();
+    EXPECT_TRUE(Save());
+    ExpectSuccess();
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(system.Disk.Bytes(Join(versions, ".damaged")), "nothing");
+}
+
 TEST_F(SaveScriptTest, WithoutAVersionGoesOnOnlyIfTheUserWantsIt) {
     system.Disk.Refused[LowerCase(VersionFilePathOf(run, kPath))] = MakeError(error::kDiskFull);
     for (const int answer : {1, 0}) {
