@@ -19,6 +19,8 @@ class OverlaySettings : public SettingsBacking {
 
     /// From now on a write of this key reaches the store below as well.
     void LetThrough(std::string_view section, std::string_view key);
+    /// The same for each key of a section.
+    void LetAllThrough(std::string_view section);
 
     std::optional<std::string> Read(std::string_view application, std::string_view section,
                                     std::string_view key) override;
@@ -28,7 +30,10 @@ class OverlaySettings : public SettingsBacking {
   private:
     SettingsBacking& below_;
     std::map<std::string, std::string> written_;
+    [[nodiscard]] bool GoesThrough(std::string_view section, const std::string& name) const;
+
     std::vector<std::string> through_;
+    std::vector<std::string> sectionsThrough_;  // in lower case
 };
 
 }  // namespace lv

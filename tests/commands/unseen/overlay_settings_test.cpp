@@ -41,6 +41,19 @@ TEST(OverlaySettings, AKeyThatIsLetThroughReachesTheStoreBelow) {
     EXPECT_EQ(store.Read("A", "LV-Stuff", "LaunchCount"), "3");
 }
 
+TEST(OverlaySettings, EachKeyOfASectionThatIsLetThroughReachesTheStoreBelow) {
+    MemorySettings below;
+    OverlaySettings store(below);
+    store.LetAllThrough("Played");
+    (void)store.Write("A", "played", "c:\\a.exe", "1");
+    (void)store.Write("A", "Played", "c:\\b.exe", "2");
+    (void)store.Write("A", "Played2", "c:\\a.exe", "3");
+    EXPECT_EQ(below.Read("A", "Played", "c:\\a.exe"), "1");
+    EXPECT_EQ(below.Read("A", "Played", "c:\\b.exe"), "2");
+    EXPECT_EQ(below.Read("A", "Played2", "c:\\a.exe"), std::nullopt);
+    EXPECT_EQ(store.Read("A", "Played", "C:\\A.EXE"), "1");
+}
+
 TEST(OverlaySettings, ARefusedWriteBelowIsRefused) {
     MemorySettings below;
     OverlaySettings store(below);
