@@ -24,6 +24,7 @@
 #include "foundry/forms/sf_splash_form.h"
 #include "foundry/foundry.h"
 #include "gamespy/forms/game_spy_form.h"
+#include "launcher/forms/game_list_form.h"
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/forms/splash_form.h"
@@ -48,6 +49,7 @@ struct Program {
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);
         User.AddForms(MakeGameSpyForm);
+        User.AddForms(MakeGameListForm);
         User.AddForms(MakeFoundryForms(User));
         TheLauncher.ShippedEngines = EmbeddedEngines();
         ConnectWizard(TheLauncher);

@@ -83,6 +83,7 @@ enum class MenuItem : int {
     Tools_Bar,
     GameOutput_Bar,
     SetUpGames_Bar,
+    GameList_Bar,
     Count,
 };
 

@@ -6,6 +6,7 @@
 #include "launcher/menu/catalog_menu.h"
 #include "launcher/menu/video_profile_menu.h"
 #include "launcher/menu/window_menu.h"
+#include "launcher/played/game_list_frm.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/window_life.h"
@@ -116,6 +117,7 @@ constexpr MenuRow kRows[] = {
     {Tools_Bar, "Tools_Bar", kNoIndex, "&Tools", "", None, nullptr},
     {GameOutput_Bar, "GameOutput_Bar", kNoIndex, "&Output of the Last Game...", "", Tools_Bar, GameOutput_Bar_Click},
     {SetUpGames_Bar, "SetUpGames_Bar", kNoIndex, "Set Up &Games...", "", Tools_Bar, SetUpGames_Bar_Click},
+    {GameList_Bar, "GameList_Bar", kNoIndex, "Game &List...", "", Tools_Bar, GameList_Bar_Click},
 };
 // clang-format on
 

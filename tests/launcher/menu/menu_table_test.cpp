@@ -92,6 +92,7 @@ const std::vector<Written>& Table() {
         {Tools_Bar, "Tools_Bar", -1, "&Tools", "", None, true},
         {GameOutput_Bar, "GameOutput_Bar", -1, "&Output of the Last Game...", "", Tools_Bar, true},
         {SetUpGames_Bar, "SetUpGames_Bar", -1, "Set Up &Games...", "", Tools_Bar, true},
+        {GameList_Bar, "GameList_Bar", -1, "Game &List...", "", Tools_Bar, true},
     };
     return rows;
 }
