@@ -26,6 +26,7 @@
 #include "foundry/foundry.h"
 #include "gamespy/forms/game_spy_form.h"
 #include "launcher/drop/offer_dropped.h"
+#include "launcher/forms/game_list_form.h"
 #include "launcher/forms/join_server_form.h"
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
@@ -53,6 +54,7 @@ struct Program {
         User.AddForms(MakeInstallForm);
         User.AddForms(MakeAddVidProfileForm);
         User.AddForms(MakeGameSpyForm);
+        User.AddForms(MakeGameListForm);
         User.AddForms(MakeFoundryForms(User));
         TheLauncher.ShippedEngines = EmbeddedEngines();
         ConnectWizard(TheLauncher);

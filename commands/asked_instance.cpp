@@ -53,7 +53,7 @@ std::optional<CommandResult> ResultOf(TextView reply) {
     if (fields.size() != kReplyFields || !reply.ends_with('\0')) {
         return std::nullopt;
     }
-    return CommandResult{static_cast<int>(ToIndex(fields[0])), fields[1], fields[2], fields[3]};
+    return CommandResult{static_cast<int>(ToIndex(fields[0])), fields[1], fields[2], fields[3], {}};
 }
 
 bool IsToBeOffered(const Command& command) {
@@ -91,7 +91,7 @@ CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView
         if (!DialogIsUp(window.run)) {
             HideForLaunch(window);
         }
-        NoteGameStart(window, result.Started);
+        NoteGameStart(window, result.StartedPath);
     }
     return result;
 }

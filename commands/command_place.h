@@ -32,7 +32,8 @@ struct CommandResult {
     int Code = exit_code::kDone;
     Text Out{};
     Text Err{};
-    Text Started{};  // the program file of the game that runs now
+    Text Started{};      // the program file of the game that runs now
+    Text StartedPath{};  // and its whole path; no other start is told of it
 };
 
 /// The text as CommandResult has it: line ends made "\n", one at its end, other control characters "?".

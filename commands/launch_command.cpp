@@ -31,7 +31,9 @@ CommandResult Start(const Command& command, const CommandPlace& place) {
         return NotCalledSo(missing);
     }
     DoIt_Cmd_Click(unseen.Its, kLaunchButton);
-    CommandResult result{.Err = Join(notes, unseen.User.Said()), .Started = unseen.Its.LastGame.Name};
+    CommandResult result{.Err = Join(notes, unseen.User.Said()),
+                         .Started = unseen.Its.LastGame.Name,
+                         .StartedPath = unseen.Its.LastGame.Path};
     if (result.Started.empty()) {
         result.Code = exit_code::kFailed;
         result.Err += Join("Nothing was started.", NewLine);

@@ -10,6 +10,8 @@
 #include "foundation/settings.h"
 #include "foundation/shown_name.h"
 #include "games/games.h"
+#include "launcher/played/played_games.h"
+#include "launcher/played/played_words.h"
 
 namespace lv {
 
@@ -38,8 +40,10 @@ CommandResult ListPrograms(const CommandPlace& place) {
     CommandResult result;
     for (std::size_t i = 0; i < rows->Count(); ++i) {
         const Text path = ReplaceSameLength(Trim(rows->Field(i, 1)), "/", "\\");
-        result.Out += Join(Field(Trim(rows->Field(i, 0))), TabChar, GameName(run.System.Disk, path), TabChar,
-                           Field(path), NewLine);
+        const PlayedGame played = PlayedOf(run, path);
+        result.Out +=
+            Join(Field(Trim(rows->Field(i, 0))), TabChar, GameName(run.System.Disk, path), TabChar, Field(path),
+                 TabChar, LastPlayedField(played.Last), TabChar, PlayTimeText(played.Seconds), NewLine);
     }
     return result;
 }

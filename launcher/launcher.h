@@ -20,6 +20,7 @@ namespace lv {
 
 /// The game that was launched last.
 struct GameUnderWay {
+    Text Path;            // of its program
     Text Name;            // of its program file
     double Started = 0;   // on the platform's clock
     double LookedAt = 0;  // for its end

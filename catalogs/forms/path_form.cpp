@@ -2,7 +2,9 @@
 
 #include <wx/button.h>
 
+#include "foundation/forms/search_keys.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/toolkit/list_cursor.h"
 #include "platform/toolkit/spoken_name.h"
 
 namespace lv {
@@ -51,6 +53,14 @@ PathForm::PathForm(wxWindow* owner, Path_Frm& form)
         }
     });
     directories_->Bind(wxEVT_CHAR, [this](wxKeyEvent& event) { Type(event); });
+    SearchByTyping(directories_, {.Count = [this] { return form_.Dir1.Items.size(); },
+                                  .Name = [this](std::size_t row) { return form_.Dir1.Items[row]; },
+                                  .Selected = [this] { return form_.Dir1.ListIndex; },
+                                  .Pick =
+                                      [this](int row) {
+                                          form_.Dir1.ListIndex = row;
+                                          ShowDirectories();
+                                      }});
     rows->Add(directories_, wxSizerFlags(1).Expand().Border(wxTOP | wxBOTTOM, kGap));
     rows->Add(MakeLabel(this, "Path_Lbl", form_.Path_Lbl), wxSizerFlags().Expand());
     AddWide(rows, 1);
@@ -68,7 +78,7 @@ PathForm::PathForm(wxWindow* owner, Path_Frm& form)
     });
 }
 
-// Instead of the toolkit, which knows the rows with their blanks only.
+// In a short list, instead of the toolkit, which knows the rows with their blanks only.
 void PathForm::Type(wxKeyEvent& event) {
     const Text letter = FromWx(wxString(event.GetUnicodeKey()));
     if (event.GetUnicodeKey() < WXK_SPACE || event.GetUnicodeKey() == WXK_DELETE || letter.size() != 1 ||
@@ -104,6 +114,7 @@ void PathForm::ShowDirectories() {
     if (form_.Dir1.HasSelection()) {
         directories_->SetSelection(form_.Dir1.ListIndex);
         directories_->EnsureVisible(form_.Dir1.ListIndex);
+        PutListCursor(directories_->GetHandle(), form_.Dir1.ListIndex);
     }
 }
 

@@ -19,6 +19,15 @@ void OverlaySettings::LetThrough(std::string_view section, std::string_view key)
     through_.push_back(KeyOf(section, key));
 }
 
+void OverlaySettings::LetAllThrough(std::string_view section) {
+    sectionsThrough_.push_back(LowerCase(section));
+}
+
+bool OverlaySettings::GoesThrough(std::string_view section, const std::string& name) const {
+    return std::ranges::find(through_, name) != through_.end() ||
+           std::ranges::find(sectionsThrough_, LowerCase(section)) != sectionsThrough_.end();
+}
+
 std::optional<std::string> OverlaySettings::Read(std::string_view application, std::string_view section,
                                                  std::string_view key) {
     const auto written = written_.find(LowerCase(Join(application, "\n")) + KeyOf(section, key));
@@ -28,7 +37,7 @@ std::optional<std::string> OverlaySettings::Read(std::string_view application, s
 Error OverlaySettings::Write(std::string_view application, std::string_view section, std::string_view key,
                              std::string_view value) {
     const std::string name = KeyOf(section, key);
-    if (std::ranges::find(through_, name) != through_.end()) {
+    if (GoesThrough(section, name)) {
         if (Error failed = below_.Write(application, section, key, value)) {
             return failed;
         }

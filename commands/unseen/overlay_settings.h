@@ -19,6 +19,8 @@ class OverlaySettings : public SettingsBacking {
 
     /// From now on a write of this key reaches the store below as well.
     void LetThrough(std::string_view section, std::string_view key);
+    /// The same for each key of a section.
+    void LetAllThrough(std::string_view section);
 
     std::optional<std::string> Read(std::string_view application, std::string_view section,
                                     std::string_view key) override;
@@ -27,13 +29,16 @@ class OverlaySettings : public SettingsBacking {
     Result<std::vector<StoredValue>> All(std::string_view application) override;
 
   private:
-    SettingsBacking& below_;
     struct Written {
         std::string Application;
         StoredValue Value;
     };
+    [[nodiscard]] bool GoesThrough(std::string_view section, const std::string& name) const;
+
+    SettingsBacking& below_;
     std::map<std::string, Written> written_;
     std::vector<std::string> through_;
+    std::vector<std::string> sectionsThrough_;  // in lower case
 };
 
 }  // namespace lv

@@ -1,6 +1,7 @@
 #include "commands/unseen/unseen_launcher.h"
 
 #include "foundation/settings.h"
+#include "launcher/played/played_games.h"
 #include "launcher/start/start.h"
 
 namespace lv {
@@ -22,6 +23,7 @@ UnseenLauncher::UnseenLauncher(const CommandPlace& place, const StandInSystem& o
     Its.ShippedEngines = place.ShippedEngines;
     if (other.Programs == nullptr) {
         settings_.LetThrough(kStuff, "LaunchCount");
+        settings_.LetAllThrough(kPlayed);
     }
 }
 

@@ -5,7 +5,9 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/binder_lists.h"
+#include "foundation/forms/search_keys.h"
 #include "foundation/forms/wx_text.h"
+#include "foundation/padded_item.h"
 #include "platform/toolkit/spoken_name.h"
 
 namespace lv {
@@ -41,7 +43,27 @@ void ShowLabel(const Text& caption, wxWindow* view) {
     }
 }
 
+Text TitleOf(const Text& row) {
+    return ItemTitle(row);
+}
+
+Text TitleOf(const ImageComboItem& row) {
+    return Trim(row.Title);
+}
+
 }  // namespace
+
+template <class List>
+void Binder::Search(List& model, wxWindow* view, const Handler& click) {
+    SearchByTyping(view, {.Count = [&model] { return model.Items.size(); },
+                          .Name = [&model](std::size_t row) { return TitleOf(model.Items[row]); },
+                          .Selected = [&model] { return model.ListIndex; },
+                          .Pick =
+                              [this, &model, click](int row) {
+                                  model.ListIndex = row;
+                                  Run(click);
+                              }});
+}
 
 void Binder::Add(const char* name, Control& model, wxWindow* view, Shower show) {
     view->SetName(name);
@@ -101,6 +123,7 @@ void Binder::Bind(const char* name, CommandButton& model, wxAnyButton* view, Han
 }
 
 void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler click, const wxString& none) {
+    Search(model, view, click);
     view->Bind(wxEVT_CHOICE, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
         model.ListIndex = view->GetSelection();
         if (!model.HasSelection()) {
@@ -112,6 +135,7 @@ void Binder::Bind(const char* name, ListBox& model, wxChoice* view, Handler clic
 }
 
 void Binder::Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, Handler click) {
+    Search(model, view, click);
     view->Bind(wxEVT_COMBOBOX, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
         model.ListIndex = view->GetSelection();
         Run(click);
@@ -120,6 +144,7 @@ void Binder::Bind(const char* name, ImageCombo& model, wxBitmapComboBox* view, H
 }
 
 void Binder::Bind(const char* name, ListBox& model, wxListBox* view, Handler click) {
+    Search(model, view, click);
     view->Bind(wxEVT_LISTBOX, [this, &model, view, click = std::move(click)](wxCommandEvent&) {
         if (!showing_) {
             model.ListIndex = view->GetSelection();

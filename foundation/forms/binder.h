@@ -1,7 +1,8 @@
 // foundation/forms/binder.h
 //
 // Ties a window's struct to the toolkit's controls: forwards each event to its handler with the new state in the
-// struct, and afterwards brings the controls in line with the struct.
+// struct, and afterwards brings the controls in line with the struct. A list that one picks from is searched by typing,
+// if it is long.
 
 #pragma once
 
@@ -71,6 +72,8 @@ class Binder {
         std::shared_ptr<bool> Waiting;
     };
     Shower Long(wxWindow* view, Shower show);
+    template <class List>
+    void Search(List& model, wxWindow* view, const Handler& click);
     void Add(const char* name, Control& model, wxWindow* view, Shower show);
 
     Handler after_;

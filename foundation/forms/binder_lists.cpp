@@ -8,6 +8,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/forms/pictures.h"
 #include "foundation/forms/wx_text.h"
+#include "platform/toolkit/list_cursor.h"
 #include "platform/toolkit/long_list.h"
 
 namespace lv {
@@ -147,6 +148,7 @@ Shower ListShower(const ListBox& model, wxListBox* view) {
         ShowRows(model.Items, shown, view);
         if (view->GetSelection() != model.ListIndex) {
             view->SetSelection(model.HasSelection() ? model.ListIndex : wxNOT_FOUND);
+            PutListCursor(view->GetHandle(), model.ListIndex);
         }
         return false;
     };

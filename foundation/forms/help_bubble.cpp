@@ -1,39 +1,15 @@
 #include "foundation/forms/help_bubble.h"
 
-#include <wx/display.h>
-#include <wx/settings.h>
-#include <wx/sizer.h>
-#include <wx/stattext.h>
 #include <wx/time.h>
 
-#include <algorithm>
-
+#include "foundation/forms/bubble.h"
 #include "platform/toolkit/keyboard_place.h"
 
 namespace lv {
 
 namespace {
 
-constexpr int kWidth = 320;  // at 100 %
-constexpr int kMargin = 6;
-constexpr int kGap = 2;              // from the control or the pointer
 constexpr long kOfTheSameKey = 200;  // milliseconds
-
-wxPopupWindow* MakeBubble(wxWindow* owner, const wxString& text) {
-    auto* bubble = new wxPopupWindow(owner, wxBORDER_SIMPLE);
-    bubble->SetName(kHelpBubbleName);
-    bubble->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_INFOBK));
-    wxString shown = text;
-    shown.Replace("&", "&&");
-    auto* label = new wxStaticText(bubble, wxID_ANY, shown);
-    label->SetForegroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_INFOTEXT));
-    label->SetBackgroundColour(bubble->GetBackgroundColour());
-    label->Wrap(bubble->FromDIP(kWidth));
-    auto* room = new wxBoxSizer(wxVERTICAL);
-    room->Add(label, wxSizerFlags().Border(wxALL, bubble->FromDIP(kMargin)));
-    bubble->SetSizerAndFit(room);
-    return bubble;
-}
 
 /// The innermost control that the keyboard goes to.
 wxWindow* KeyboardIn(wxWindow* window) {
@@ -77,22 +53,14 @@ bool HelpBubbles::ShowHelpAtPoint(wxWindowBase* window, const wxPoint& place, wx
     return Show(window, place, 0);
 }
 
-// Under what it tells of, or above where the screen ends.
 bool HelpBubbles::Show(wxWindowBase* window, const wxPoint& place, int height) {
     const wxString text = GetHelp(window);
     Close();
     if (text.empty()) {
         return false;
     }
-    bubble_ = MakeBubble(wxGetTopLevelParent(static_cast<wxWindow*>(window)), text);
-    const wxSize size = bubble_->GetSize();
-    const wxRect screen = wxDisplay(static_cast<wxWindow*>(window)).GetClientArea();
-    wxPoint at(place.x, place.y + height + kGap);
-    at.x = std::max(screen.x, std::min(at.x, screen.GetRight() - size.x));
-    if (at.y + size.y > screen.GetBottom()) {
-        at.y = std::max(screen.y, place.y - size.y - kGap);
-    }
-    bubble_->Move(at);
+    bubble_ = MakeBubble(wxGetTopLevelParent(static_cast<wxWindow*>(window)), kHelpBubbleName, text);
+    PutBubble(*bubble_, static_cast<wxWindow*>(window), place, height);
     bubble_->Show();
     return true;
 }

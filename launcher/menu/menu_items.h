@@ -101,6 +101,7 @@ enum class MenuItem : int {
     ExportSettings_Bar,
     ImportSettings_Bar,
     Backups_Bar,
+    GameList_Bar,
     Count,
 };
 

@@ -7,6 +7,7 @@
 #include "launcher/menu/transfer_menu.h"
 #include "launcher/menu/video_profile_menu.h"
 #include "launcher/menu/window_menu.h"
+#include "launcher/played/game_list_frm.h"
 #include "launcher/setups/setups_menu.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/launch_flow.h"
@@ -138,9 +139,10 @@ constexpr MenuRow kRows[] = {
     {Setup_Bar_6, "Setup_Bar", 6, "", "", Setups_Bar, StartOfBar<6>},
     {Setup_Bar_7, "Setup_Bar", 7, "", "", Setups_Bar, StartOfBar<7>},
     {Setup_Bar_8, "Setup_Bar", 8, "", "", Setups_Bar, StartOfBar<8>},
-    {ExportSettings_Bar, "ExportSettings_Bar", kNoIndex, "&Export Settings...", "", Tools_Bar, ExportSettings_Bar_Click},
+    {ExportSettings_Bar, "ExportSettings_Bar", kNoIndex, "E&xport Settings...", "", Tools_Bar, ExportSettings_Bar_Click},
     {ImportSettings_Bar, "ImportSettings_Bar", kNoIndex, "&Import Settings...", "", Tools_Bar, ImportSettings_Bar_Click},
     {Backups_Bar, "Backups_Bar", kNoIndex, "&Backups...", "", Tools_Bar, Backups_Bar_Click},
+    {GameList_Bar, "GameList_Bar", kNoIndex, "Game &List...", "", Tools_Bar, GameList_Bar_Click},
 };
 // clang-format on
 

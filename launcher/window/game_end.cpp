@@ -6,6 +6,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
+#include "launcher/played/played_games.h"
 #include "launcher/window/window_life.h"
 
 namespace lv {
@@ -169,8 +170,9 @@ Text ShownOutput(TextView output) {
     return shown;
 }
 
-void NoteGameStart(Launcher& launcher, TextView name) {
-    launcher.LastGame.Name = name;
+void NoteGameStart(Launcher& launcher, TextView path) {
+    launcher.LastGame.Path = path;
+    launcher.LastGame.Name = LastPathPart(path);
     launcher.LastGame.Started = launcher.run.System.Time.Seconds();
     launcher.LastGame.LookedAt = launcher.LastGame.Started;
 }
@@ -195,7 +197,11 @@ void TellGameEnd(Launcher& launcher) {
         return;
     }
     const auto end = run.System.Programs.EndOfLastGame();
-    if (!end || !IsToldOf(*end)) {
+    if (!end) {
+        return;
+    }
+    NotePlayEnd(run, launcher.LastGame.Path, end->Seconds);
+    if (!IsToldOf(*end)) {
         return;
     }
     ShowMainWindow(launcher);

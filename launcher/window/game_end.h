@@ -40,14 +40,15 @@ Text GameEndText(TextView name, const GameEnd& end);
 /// can show.
 Text ShownOutput(TextView output);
 
-/// A game has been started.
-void NoteGameStart(Launcher& launcher, TextView name);
+/// A game has been started by the program at this path.
+void NoteGameStart(Launcher& launcher, TextView path);
 
 /// Whether it is time to look for its end: always in its first ten seconds, then each two seconds; never without a
 /// game. To be called a few times a second, and costs nothing.
 bool GameEndIsDue(Launcher& launcher);
 
-/// Looks, and tells of an end that is to be told of. Waits while a dialog is up or a launch under way.
+/// Looks, notes how long it was played, and tells of an end that is to be told of. Waits while a dialog is up or a
+/// launch under way.
 void TellGameEnd(Launcher& launcher);
 
 void GameOutput_Bar_Click(Launcher& launcher);

@@ -20,6 +20,7 @@
 #include "launch/launch_files.h"
 #include "launch/missing_executable.h"
 #include "launch/name_check.h"
+#include "launcher/played/played_games.h"
 #include "launcher/window/engine_launch.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/links_launch.h"
@@ -256,7 +257,8 @@ void StartGame(Click& click) {
         ReportError(click, failed);
         return;
     }
-    NoteGameStart(click.launcher, LastPathPart(click.Selection.ExecutablePath));
+    NoteGameStart(click.launcher, click.Selection.ExecutablePath);
+    NotePlayStart(run, click.Selection.ExecutablePath);
     if (click.launcher.Window.Box(Option::EndOnLaunch_Chk).Value == 1) {
         Exit_Bar_Click(click.launcher);
     }

@@ -88,6 +88,8 @@ TEST_F(AskedInstance, TheWindowLaunchesAndGoesOutOfTheWay) {
     EXPECT_EQ(result.Out, "Started QUAKE2.EXE in c:\\quake2\n");
     EXPECT_FALSE(window.Visible);
     EXPECT_EQ(launcher.LastGame.Name, "QUAKE2.EXE");
+    EXPECT_EQ(launcher.LastGame.Path, "C:\\QUAKE2\\QUAKE2.EXE");
+    EXPECT_EQ(Stored("Played", "c:\\quake2\\quake2.exe"), "1999-11-21 12:30:00;0;1") << "counted once";
     EXPECT_EQ(window.Exe_Cbo.ListIndex, 0) << "its own pick stays";
 }
 

@@ -39,9 +39,10 @@ TEST_F(LaunchCommand, StartsTheProgramOfThatTitle) {
         << system.Disk.Bytes("C:\\QUAKE2\\lv_666.bat");
 }
 
-TEST_F(LaunchCommand, StoresNothingButTheNumberOfLaunches) {
+TEST_F(LaunchCommand, StoresNothingButTheNumberOfLaunchesAndWhatWasPlayed) {
     (void)Do({"--launch", "Quake", "--mod", "ctf", "--map", "CTF1", "--server", "10.0.0.1:26000"});
-    EXPECT_EQ(WrittenSince(), std::vector<Text>{"LV-Stuff|LaunchCount|1"});
+    EXPECT_EQ(WrittenSince(),
+              (std::vector<Text>{"LV-Stuff|LaunchCount|1", "Played|c:\\quake\\glquake.exe|1999-11-21 12:30:00;0;1"}));
     EXPECT_EQ(Stored(kOptions, "UseServers"), "(none)");
 }
 

@@ -18,17 +18,28 @@ class ListCommand : public LauncherTest {
 
 TEST_F(ListCommand, ProgramsWithTheirGamesAndPaths) {
     EXPECT_EQ(Do({"--list"}).Out,
-              "Quake\tQuake\tC:\\QUAKE\\GLQUAKE.EXE\r\n"
-              "Plain Quake\tQuake\tC:\\QUAKE\\QUAKE.EXE\r\n"
-              "QuakeWorld\tQuake\tC:\\QUAKE\\QWCL.EXE\r\n"
-              "Quake 2\tQuake2\tC:\\QUAKE2\\QUAKE2.EXE\r\n"
-              "Unreal\tUnreal\tC:\\UNREAL\\SYSTEM\\UNREAL.EXE\r\n"
-              "Half-Life\tHalf-Life\tC:\\HL\\HL.EXE\r\n");
+              "Quake\tQuake\tC:\\QUAKE\\GLQUAKE.EXE\t\t\r\n"
+              "Plain Quake\tQuake\tC:\\QUAKE\\QUAKE.EXE\t\t\r\n"
+              "QuakeWorld\tQuake\tC:\\QUAKE\\QWCL.EXE\t\t\r\n"
+              "Quake 2\tQuake2\tC:\\QUAKE2\\QUAKE2.EXE\t\t\r\n"
+              "Unreal\tUnreal\tC:\\UNREAL\\SYSTEM\\UNREAL.EXE\t\t\r\n"
+              "Half-Life\tHalf-Life\tC:\\HL\\HL.EXE\t\t\r\n");
 }
 
 TEST_F(ListCommand, AProgramThatIsGoneIsStillListed) {
     Save(run, kOptions, "Executables", "Gone;D:\\GONE\\GONE.EXE");
-    EXPECT_EQ(Do({"--list"}).Out, "Gone\t\tD:\\GONE\\GONE.EXE\r\n");
+    EXPECT_EQ(Do({"--list"}).Out, "Gone\t\tD:\\GONE\\GONE.EXE\t\t\r\n");
+}
+
+TEST_F(ListCommand, WhatWasPlayedIsSaidBehindThePath) {
+    Save(run, kOptions, "Executables", "Quake;C:\\QUAKE\\GLQUAKE.EXE;Gone;D:/GONE/GONE.EXE;New;D:\\NEW.EXE");
+    Save(run, "Played", "c:\\quake\\glquake.exe", "2024-03-01 14:30:05;43500;12");
+    Save(run, "Played", "d:\\gone\\gone.exe", "2024-03-01 14:30:05;0;1");
+    Save(run, "Played", "d:\\new.exe", "nonsense\t;-1");
+    EXPECT_EQ(Do({"--list"}).Out,
+              "Quake\tQuake\tC:\\QUAKE\\GLQUAKE.EXE\t2024-03-01 14:30\t12:05\r\n"
+              "Gone\t\tD:\\GONE\\GONE.EXE\t2024-03-01 14:30\t\r\n"
+              "New\t\tD:\\NEW.EXE\t\t\r\n");
 }
 
 TEST_F(ListCommand, WithoutProgramsTheListIsEmpty) {

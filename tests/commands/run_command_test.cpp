@@ -19,14 +19,14 @@ TEST_F(RunCommandTest, EachVerbIsDone) {
     system.Disk.AddFile("C:\\QUAKE\\ID1\\bad.cfg", "bind x \"impulse 1\n");
     EXPECT_TRUE(Do({"--help"}).Out.starts_with("Lorvane 3D starts"));
     EXPECT_EQ(Do({"--version"}).Out, "Lorvane 3D 1.06.0112 <Beta>\n");
-    EXPECT_TRUE(Do({"--list"}).Out.starts_with("Quake\tQuake\tC:\\QUAKE\\GLQUAKE.EXE\n"));
+    EXPECT_TRUE(Do({"--list"}).Out.starts_with("Quake\tQuake\tC:\\QUAKE\\GLQUAKE.EXE\t\t\n"));
     EXPECT_EQ(Do({"--launch", "Quake 2"}).Out, "Started QUAKE2.EXE in c:\\quake2\n");
     EXPECT_EQ(Do({"--check", "C:\\QUAKE\\ID1\\bad.cfg"}).Code, exit_code::kFinds);
 }
 
 TEST_F(RunCommandTest, NamesOfStrangersCommandNoTerminal) {
     Save(run, kOptions, "Executables", "Ev\x1B[31mil;C:\\QUAKE\\QUAKE.EXE");
-    EXPECT_EQ(Do({"--list"}).Out, "Ev?[31mil\t\tC:\\QUAKE\\QUAKE.EXE\n");
+    EXPECT_EQ(Do({"--list"}).Out, "Ev?[31mil\t\tC:\\QUAKE\\QUAKE.EXE\t\t\n");
 }
 
 TEST_F(RunCommandTest, WordsThatAreNotUnderstoodEndWithTwo) {

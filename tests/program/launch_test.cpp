@@ -16,6 +16,7 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::MatchesRegex;
 using ::testing::Not;
 using ::testing::UnorderedElementsAre;
 
@@ -127,6 +128,7 @@ TEST(Launch, OfAGameThatFailsAtOnceBringsTheWindowBackWithItsLastLines) {
     PressKey("Escape");
     EXPECT_TRUE(WaitUntil([&] { return ShownWindowsOf(program.Id(), "^The Game Has Ended$").empty(); }));
     EXPECT_EQ(ReadBytes(home.Root / "state/lorvane3d/last_game_output.txt"), "Error: no gfx.wad\n");
+    EXPECT_THAT(home.Get("Played", "c:\\quake\\quake.exe"), MatchesRegex("[0-9-]+ [0-9:]+;[1-9][0-9]*;1"));
     EXPECT_THAT(ZombiesOf(program.Id()), IsEmpty());
 }
 

@@ -56,6 +56,19 @@ TEST(OverlaySettings, AllAreThoseInFrontAndTheOthersBelow) {
     EXPECT_EQ(all, (std::map<std::string, std::string>{{"One", "1"}, {"two", "22"}, {"Four", "4"}}));
 }
 
+TEST(OverlaySettings, EachKeyOfASectionThatIsLetThroughReachesTheStoreBelow) {
+    MemorySettings below;
+    OverlaySettings store(below);
+    store.LetAllThrough("Played");
+    (void)store.Write("A", "played", "c:\\a.exe", "1");
+    (void)store.Write("A", "Played", "c:\\b.exe", "2");
+    (void)store.Write("A", "Played2", "c:\\a.exe", "3");
+    EXPECT_EQ(below.Read("A", "Played", "c:\\a.exe"), "1");
+    EXPECT_EQ(below.Read("A", "Played", "c:\\b.exe"), "2");
+    EXPECT_EQ(below.Read("A", "Played2", "c:\\a.exe"), std::nullopt);
+    EXPECT_EQ(store.Read("A", "Played", "C:\\A.EXE"), "1");
+}
+
 TEST(OverlaySettings, ARefusedWriteBelowIsRefused) {
     MemorySettings below;
     OverlaySettings store(below);

@@ -10,6 +10,7 @@
 #include "foundry/versions/script_versions.h"
 #include "gamespy/forms/game_spy_form.h"
 #include "gamespy/game_spy_config.h"
+#include "launcher/forms/game_list_form.h"
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/setups_form.h"
 #include "launcher/menu/video_profile_menu.h"
@@ -134,6 +135,17 @@ TEST_F(HandbookPictures, TheWindowOfTheSetups) {
     keep("A game for the neighbours");
     PictureNext("setups", "Setups_Frm");
     Menu_Click(launcher, MenuItem::ShowSetups_Bar);
+}
+
+TEST_F(HandbookPictures, TheGameList) {
+    launcher.Window.Exe_Cbo.Items.push_back({"Quake 2", "C:\\QUAKE2\\QUAKE2.EXE", "Quake2", "Quake2"});
+    launcher.Window.Exe_Cbo.Items.push_back({"Unreal", "C:\\UNREAL\\SYSTEM\\UNREAL.EXE", "Unreal", "Unreal"});
+    user.Refresh();
+    Save(run, "Played", LowerCase(launcher.Window.Exe_Cbo.Items[0].Key), "1999-11-21 11:05:00;45300;31");
+    Save(run, "Played", "c:\\quake2\\quake2.exe", "1999-11-18 20:15:00;9120;6");
+    user.AddForms(MakeGameListForm);
+    PictureNext("game_list", "GameList_Frm");
+    Menu_Click(launcher, MenuItem::GameList_Bar);
 }
 
 TEST_F(HandbookPictures, TheLiveProfileWindow) {

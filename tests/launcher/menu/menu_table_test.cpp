@@ -107,9 +107,10 @@ const std::vector<Written>& Table() {
         {Setup_Bar_6, "Setup_Bar", 6, "", "", Setups_Bar, true},
         {Setup_Bar_7, "Setup_Bar", 7, "", "", Setups_Bar, true},
         {Setup_Bar_8, "Setup_Bar", 8, "", "", Setups_Bar, true},
-        {ExportSettings_Bar, "ExportSettings_Bar", -1, "&Export Settings...", "", Tools_Bar, true},
+        {ExportSettings_Bar, "ExportSettings_Bar", -1, "E&xport Settings...", "", Tools_Bar, true},
         {ImportSettings_Bar, "ImportSettings_Bar", -1, "&Import Settings...", "", Tools_Bar, true},
         {Backups_Bar, "Backups_Bar", -1, "&Backups...", "", Tools_Bar, true},
+        {GameList_Bar, "GameList_Bar", -1, "Game &List...", "", Tools_Bar, true},
     };
     return rows;
 }

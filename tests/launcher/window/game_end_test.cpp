@@ -234,6 +234,35 @@ TEST_F(GameEnds, AreNotToldByAProgramThatIsOver) {
     EXPECT_TRUE(system.Programs.End);
 }
 
+TEST_F(GameEnds, TheTimeThatItRanIsKeptWhetherItsEndIsToldOrNot) {
+    constexpr const char* kKept = "c:\\quake\\glquake.exe";
+    Launch();
+    EXPECT_EQ(Stored("Played", kKept), "1999-11-21 12:30:00;0;1");
+    End({.Code = 0, .Seconds = 3600.4});
+    Look();
+    EXPECT_EQ(Stored("Played", kKept), "1999-11-21 12:30:00;3600;1");
+    system.Programs.Watching = true;
+    End({.Signal = 11, .Seconds = 60});
+    ExpectTold("by signal 11");
+    Look();
+    EXPECT_EQ(Stored("Played", kKept), "1999-11-21 12:30:00;3660;1");
+    system.Programs.Watching = true;
+    End({.Code = 0, .Seconds = -5, .OthersRun = true});
+    Look();
+    EXPECT_FALSE(system.Programs.End);
+    EXPECT_EQ(Stored("Played", kKept), "1999-11-21 12:30:00;3660;1");
+}
+
+TEST_F(GameEnds, OfAGameThatIsNotThisRunsOwnAreNotKept) {
+    AddGames();
+    Load();
+    system.Programs.Watching = true;
+    End({.Code = 0, .Seconds = 3600});
+    const std::size_t writes = system.Settings.Log.size();
+    Look();
+    EXPECT_EQ(system.Settings.Log.size(), writes);
+}
+
 TEST_F(GameEnds, WithoutAGameNobodyLooks) {
     AddGames();
     Load();

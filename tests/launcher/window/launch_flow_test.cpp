@@ -48,8 +48,17 @@ TEST_F(LaunchFlow, WritesTheThreeFilesByteForByteAndStartsTheBatch) {
     EXPECT_EQ(system.Disk.Bytes(kPif), "the pif of most");
     EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"c:\\quake\\lv_666.bat"}));
     EXPECT_EQ(Stored("LV-Stuff", "LaunchCount"), "1");
+    EXPECT_EQ(Stored("Played", "c:\\quake\\glquake.exe"), "1999-11-21 12:30:00;0;1");
     EXPECT_FALSE(window.Visible);
     EXPECT_EQ(window.Bar(MenuItem::ShowLorvane_Bar).Caption, "&Show Lorvane 3D");
+}
+
+TEST_F(LaunchFlow, AGameThatCannotBeStartedWasNotPlayed) {
+    LoadWith("C:\\QUAKE\\GLQUAKE.EXE");
+    system.Programs.Refuse = MakeError(error::kFileNotFound);
+    user.Expect({"Lorvane 3D", "Error Number = 53"});
+    DoIt_Cmd_Click(launcher, 0);
+    EXPECT_EQ(Stored("Played", "c:\\quake\\glquake.exe"), "(none)");
 }
 
 TEST_F(LaunchFlow, WithoutASelectedExecutableWritesNothing) {
