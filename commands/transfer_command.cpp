@@ -1,7 +1,7 @@
 #include "commands/transfer_command.h"
 
-#include "commands/close_name.h"
 #include "commands/unseen/printing_user.h"
+#include "foundation/shown_name.h"
 #include "transfer/import_settings.h"
 #include "transfer/settings_file.h"
 
