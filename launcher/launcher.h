@@ -67,6 +67,11 @@ struct Launcher {
     /// Opens the selected script in the script editor. Empty: the program has none.
     std::function<void()> OpenSetupFoundry;
 
+    /// Shows which scripts the picked game executes and what it takes otherwise than it may be meant. Empty: the
+    /// program can't.
+    std::function<void()> ShowFileOrder;
+    std::function<void()> ShowScriptCheck;
+
     /// The session ends: keeps what its user has not saved yet, and asks nothing. Empty: there is nothing to keep.
     std::function<void()> KeepUnsavedEdits;
 

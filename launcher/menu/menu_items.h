@@ -83,6 +83,8 @@ enum class MenuItem : int {
     Tools_Bar,
     GameOutput_Bar,
     SetUpGames_Bar,
+    FileOrder_Bar,
+    ScriptCheck_Bar,
     Count,
 };
 

@@ -116,6 +116,8 @@ constexpr MenuRow kRows[] = {
     {Tools_Bar, "Tools_Bar", kNoIndex, "&Tools", "", None, nullptr},
     {GameOutput_Bar, "GameOutput_Bar", kNoIndex, "&Output of the Last Game...", "", Tools_Bar, GameOutput_Bar_Click},
     {SetUpGames_Bar, "SetUpGames_Bar", kNoIndex, "Set Up &Games...", "", Tools_Bar, SetUpGames_Bar_Click},
+    {FileOrder_Bar, "FileOrder_Bar", kNoIndex, "&Which File Wins...", "", Tools_Bar, FileOrder_Bar_Click},
+    {ScriptCheck_Bar, "ScriptCheck_Bar", kNoIndex, "&Check Script...", "", Tools_Bar, ScriptCheck_Bar_Click},
 };
 // clang-format on
 

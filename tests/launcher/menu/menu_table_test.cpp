@@ -92,6 +92,8 @@ const std::vector<Written>& Table() {
         {Tools_Bar, "Tools_Bar", -1, "&Tools", "", None, true},
         {GameOutput_Bar, "GameOutput_Bar", -1, "&Output of the Last Game...", "", Tools_Bar, true},
         {SetUpGames_Bar, "SetUpGames_Bar", -1, "Set Up &Games...", "", Tools_Bar, true},
+        {FileOrder_Bar, "FileOrder_Bar", -1, "&Which File Wins...", "", Tools_Bar, true},
+        {ScriptCheck_Bar, "ScriptCheck_Bar", -1, "&Check Script...", "", Tools_Bar, true},
     };
     return rows;
 }
