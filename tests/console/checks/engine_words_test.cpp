@@ -5,8 +5,9 @@
 namespace lv {
 
 TEST(EngineWord, IsOneByItsNameOrByHowItBegins) {
-    for (const TextView word : {"hostname", "Samelevel", "TEAMPLAY", "r_wateralpha", "CL_anything", "gl_flashblend",
-                                "chase_active", "fps_max", "temp1", "dmflags", "_windowed_mouse"}) {
+    for (const TextView word :
+         {"hostname", "Samelevel", "TEAMPLAY", "r_wateralpha", "CL_anything", "gl_flashblend", "chase_active",
+          "fps_max", "cancelselect", "slot3", "temp1", "dmflags", "_windowed_mouse"}) {
         EXPECT_TRUE(IsEngineWord(word)) << word;
     }
 }
