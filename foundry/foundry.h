@@ -9,7 +9,7 @@
 
 namespace lv {
 
-/// Gives the launcher Half-Life's settings as a script, and the way back.
+/// Gives the launcher Half-Life's settings as a script and the way back, and what looks into its scripts.
 void ConnectFoundry(Launcher& launcher);
 
 /// Gives its launcher the editor's window.

@@ -24,6 +24,10 @@ Text ScriptText(const LaunchTexts& texts, const LaunchGame& game) {
     return game.GameKind == Game::HalfLife ? ReplaceText(texts.Quake2Script, "set ", "") : texts.Quake2Script;
 }
 
+bool HasScript(TextView script, const LaunchGame& game) {
+    return !script.empty() && game.GameKind != Game::Unreal && !game.DefaultGameDirectory.empty();
+}
+
 Text ScriptFilePath(const LaunchGame& game) {
     if (game.CurrentGameDir.empty()) {
         return Join(game.DefaultGameDirectory, "\\", kLaunchScriptFile);

@@ -17,8 +17,10 @@ constexpr TextView kPifTemplate = "lv_666.hid";
 constexpr TextView kPifTemplateQuake2 = "lv_666_q2.hid";  // Quake II and Sin
 
 /// The script as the game gets it. Half-Life's goes without "set ", wherever that stands in a line.
-/// Empty: no file is written, and AddScriptExec is not due.
 Text ScriptText(const LaunchTexts& texts, const LaunchGame& game);
+
+/// Whether a launch writes that script; where not, AddScriptExec is not due.
+bool HasScript(TextView script, const LaunchGame& game);
 
 /// Where the script goes: the game directory's current data directory, or the game directory itself.
 Text ScriptFilePath(const LaunchGame& game);

@@ -75,6 +75,10 @@ struct Launcher {
 
     /// Offers the settings that stand in this file. Empty: the program can't.
     std::function<void(TextView path)> ImportSettings;
+    /// Shows which scripts the picked game executes and what it takes otherwise than it may be meant. Empty: the
+    /// program can't.
+    std::function<void()> ShowFileOrder;
+    std::function<void()> ShowScriptCheck;
 
     /// The session ends: keeps what its user has not saved yet, and asks nothing. Empty: there is nothing to keep.
     std::function<void()> KeepUnsavedEdits;

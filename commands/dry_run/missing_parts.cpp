@@ -5,13 +5,12 @@
 #include "catalogs/catalog_store.h"
 #include "catalogs/modifications.h"
 #include "console/checks/run_check.h"
-#include "console/files/played_of_run.h"
-#include "console/files/start_run.h"
 #include "foundation/field_strings.h"
 #include "foundation/shown_name.h"
 #include "launch/launch_files.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/lv_events.h"
+#include "launcher/window/planned_launch.h"
 
 namespace lv {
 
@@ -59,14 +58,6 @@ void LookForChoices(Launcher& launcher, const LaunchSelection& selection, std::v
     }
 }
 
-StartRequest StartOf(Launcher& launcher) {
-    const Run& run = launcher.run;
-    StartRequest request;
-    request.Played = PlayedOfRun(run, SelectedEngine(launcher), run.GameKind, run.IsQuakeWorld);
-    request.Commands = {Join("exec ", kLaunchScriptFile)};
-    return request;
-}
-
 /// Of those that a script of the player's executes; what an engine looks for by itself may lack.
 void LookForScripts(Launcher& launcher, std::vector<Text>& missing) {
     Run& run = launcher.run;
@@ -74,7 +65,7 @@ void LookForScripts(Launcher& launcher, std::vector<Text>& missing) {
         !run.System.Disk.FileExists(ScriptFilePath(GameOf(run)))) {
         return;
     }
-    const StartRequest request = StartOf(launcher);
+    const StartRequest request = StartOfLaunch(launcher);
     std::size_t told = 0;
     for (const Finding& finding : CheckRun(RunStart(run.System.Disk, request), request.Played.Of)) {
         if (finding.Kind == FindingKind::MissingScript && told++ < kMostMissingScripts) {

@@ -33,21 +33,30 @@ bool IsWrittenByGame(const RunScript& script, TextView engine) {
     return SameText(script.Name, "config.cfg") || SameText(script.Name, FilesOfEngine(engine).Config);
 }
 
+/// The launcher writes what it knows.
+bool IsPlanned(const RunScript& script, const StartRequest& request) {
+    return std::ranges::any_of(
+        request.Given, [&](const GivenScript& each) { return each.IsPlanned && SameText(each.Path, script.Path); });
+}
+
 /// Whether it makes a setting that was none, or is one that knows them all: no word is known by being used.
-bool Vouches(const Setter& setter, const StartRun& run, TextView engine) {
+bool Vouches(const Setter& setter, const StartRun& run, const StartRequest& request) {
     if (setter.Script == kNoScript || !IsPlayers(run.Scripts[setter.Script])) {
+        return true;
+    }
+    const RunScript& script = run.Scripts[setter.Script];
+    if (IsWrittenByGame(script, request.Played.Engine) || IsPlanned(script, request)) {
         return true;
     }
     const Text command = LowerCase(setter.Source.substr(0, setter.Source.find_first_of(" \t")));
     constexpr TextView kMakes[] = {"set", "seta", "sets", "setu"};
-    return std::ranges::find(kMakes, command) != std::end(kMakes) ||
-           IsWrittenByGame(run.Scripts[setter.Script], engine);
+    return std::ranges::find(kMakes, command) != std::end(kMakes);
 }
 
-bool IsKnownBy(const SetThing& thing, const StartRun& run, TextView engine) {
+bool IsKnownBy(const SetThing& thing, const StartRun& run, const StartRequest& request) {
     return thing.Kind == EffectKind::Alias ||
            (thing.Kind == EffectKind::Setting &&
-            std::ranges::any_of(thing.Setters, [&](const Setter& each) { return Vouches(each, run, engine); }));
+            std::ranges::any_of(thing.Setters, [&](const Setter& each) { return Vouches(each, run, request); }));
 }
 
 /// In the order of the lines. What a line is told for by the run and by itself, or twice by the run, is told once.
@@ -91,7 +100,7 @@ std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& request) {
     const Console console = request.Played.Of;
     std::unordered_set<Text> names;
     for (const SetThing& thing : run.Set.All()) {
-        if (IsKnownBy(thing, run, request.Played.Engine)) {
+        if (IsKnownBy(thing, run, request)) {
             names.insert(LowerCase(thing.Identity));
         }
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "console/checks/engine_words.h"
 #include "console/checks/named_bodies.h"
 #include "console/command_words.h"
 #include "console/console_commands.h"
@@ -26,14 +27,6 @@ constexpr NameLimit kNameLimits[] = {
     {Console::DarkPlaces, 127},
     {Console::Fte, 63},
     {Console::HalfLife, 31},
-};
-
-/// How the settings of the games' engines begin, known by name or not.
-constexpr TextView kSettingStarts[] = {
-    "_",    "cl_",  "con_",  "crosshair", "d_",   "deathmatch", "gl_",       "hud_",      "host_",
-    "in_",  "joy",  "log_",  "m_",        "mp_",  "net_",       "pr_",       "r_",        "s_",
-    "sbar", "scr_", "snd_",  "sv_",       "sw_",  "sys_",       "ui_",       "vid_",      "v_",
-    "vk_",  "temp", "saved", "scratch",   "coop", "skill",      "fraglimit", "timelimit",
 };
 
 struct OwnCommand {
@@ -139,10 +132,8 @@ void Check::CheckLimits(const ConsoleCommand& command) {
 }
 
 bool Check::IsKnown(TextView word) const {
-    const Text lower = LowerCase(word);
-    return UseOfWord(word) != WordUse::Unknown || graph_.FindAlias(word) != nullptr ||
-           (script_.KnownNames != nullptr && script_.KnownNames->contains(lower)) ||
-           std::ranges::any_of(kSettingStarts, [&](TextView start) { return lower.starts_with(start); });
+    return UseOfWord(word) != WordUse::Unknown || IsEngineWord(word) || graph_.FindAlias(word) != nullptr ||
+           (script_.KnownNames != nullptr && script_.KnownNames->contains(LowerCase(word)));
 }
 
 void Check::CheckMeaning(const Words& words, std::size_t line, int depth) {

@@ -21,6 +21,7 @@ constexpr std::size_t kMostKeptNames = 200'000;
 struct GivenScript {
     Text Path;
     Text Content;
+    bool IsPlanned = false;  // a launch would write it so
 };
 
 struct FoundScript {

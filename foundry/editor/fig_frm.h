@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "catalogs/catalog_lists.h"
+#include "console/files/start_run.h"
 #include "foundation/game.h"
 #include "foundation/modal_window.h"
 #include "foundation/window_services.h"
@@ -67,6 +68,9 @@ struct Fig_Frm : ModalWindow, ScriptView {
     ScriptDocument Document;
 
     WindowPlacement Placement;
+    /// The start of a launch with this script as it is edited. Empty: there is no main window.
+    std::function<StartRequest(const GivenScript&)> StartOfLaunch;
+
     std::function<TwipsSize()> Measure;  // of the window on the screen; without a form it is placed as a point
     bool Loaded = false;
 

@@ -12,6 +12,7 @@
 #include "foundry/look/alias_graph_frm.h"
 #include "foundry/look/changes_frm.h"
 #include "foundry/look/file_order_frm.h"
+#include "foundry/look/launch_looks.h"
 #include "foundry/look/script_check_frm.h"
 #include "foundry/look/versions_frm.h"
 #include "foundry/losses/kept_lines.h"
@@ -90,16 +91,17 @@ Text TextNow(Fig_Frm& form) {
     return ComposeScript(form.Document, form.run.System.Time.Now());
 }
 
-/// The start of the game that is picked, with this script.
-StartRequest StartOf(Fig_Frm& form) {
-    const Run& run = form.run;
+PlayedGame GameOf(const Fig_Frm& form) {
     const ScriptDialect& dialect = form.Document.Dialect;
-    const Engine* const engine = EngineInUse(form);
-    StartRequest request;
-    request.Played = PlayedOfRun(run, engine, dialect.GameKind, dialect.IsQuakeWorld);
-    request.Commands = {Join("exec ", LastPathPart(form.Document.CurrentScriptPath))};
-    request.Given = {{form.Document.CurrentScriptPath, TextNow(form)}};
-    return request;
+    return PlayedOfRun(form.run, EngineInUse(form), dialect.GameKind, dialect.IsQuakeWorld);
+}
+
+/// The start of the game that is picked, as a launch would make it, with this script.
+LookedStart StartOf(Fig_Frm& form) {
+    const GivenScript edited{form.Document.CurrentScriptPath, TextNow(form)};
+    StartRequest request = form.StartOfLaunch ? form.StartOfLaunch(edited) : StartRequest{{}, {}, {edited}};
+    request.Played = GameOf(form);
+    return StartWith(form.run.System.Disk, std::move(request), edited.Path);
 }
 
 }  // namespace
@@ -131,19 +133,21 @@ bool MaySaveChanges(Fig_Frm& form) {
 }
 
 void FileOrder_Cmd_Click(Fig_Frm& form) {
-    FileOrder_Frm order(form.run, StartOf(form));
+    const LookedStart start = StartOf(form);
+    FileOrder_Frm order(form.run, start.Request, start.Note);
     ShowModal(order);
 }
 
 void AliasGraph_Cmd_Click(Fig_Frm& form) {
-    const StartRequest request = StartOf(form);
-    const std::vector<NamedBody> bodies = NamedBodiesOf(request.Given.front().Content, request.Played.Of);
-    AliasGraph_Frm graph(form.run, bodies, request.Played.Of);
+    const Console console = GameOf(form).Of;
+    const std::vector<NamedBody> bodies = NamedBodiesOf(TextNow(form), console);
+    AliasGraph_Frm graph(form.run, bodies, console);
     ShowModal(graph);
 }
 
 void ScriptCheck_Cmd_Click(Fig_Frm& form) {
-    ScriptCheck_Frm check(form.run, StartOf(form));
+    const LookedStart start = StartOf(form);
+    ScriptCheck_Frm check(form.run, start.Request, start.Note);
     ShowModal(check);
 }
 

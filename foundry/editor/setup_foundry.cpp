@@ -9,6 +9,7 @@
 #include "foundry/editor/lifecycle.h"
 #include "foundry/editor/rescued_edits.h"
 #include "foundry/reading/open_script.h"
+#include "launcher/window/planned_launch.h"
 
 namespace lv {
 
@@ -107,6 +108,7 @@ void OpenEditor(SetupFoundry& foundry, TextView path) {
     const auto form = std::make_unique<Fig_Frm>(run, foundry.launcher.Lists);
     const PreparedWindow prepared(run);
     const ShownEditor shown(foundry, *form);
+    form->StartOfLaunch = [&foundry](const GivenScript& edited) { return StartOfLaunch(foundry.launcher, edited); };
     try {
         ShowSFSplash(foundry, *form);
         if (run.Ended) {

@@ -78,6 +78,7 @@ class LookForm : public ModalForm {
 
 std::unique_ptr<wxDialog> MakeFileOrder(wxWindow* owner, FileOrder_Frm& order) {
     auto form = std::make_unique<LookForm>(owner, order, [&order] { FileOrder_Close_Cmd_Click(order); });
+    form->AddWide(form->MakeLabel(form.get(), "Note_Lbl", order.Note_Lbl));
     form->AddWide(form->MakeLabel(form.get(), "Files_Lbl", order.Files_Lbl));
     form->AddList("Files_Lst", order.Files_Lst, order.Files_Lbl.Caption,
                   [&order] { FileOrder_Files_Lst_Click(order); });
@@ -121,6 +122,7 @@ std::unique_ptr<wxDialog> MakeAliasGraph(wxWindow* owner, AliasGraph_Frm& graph)
 
 std::unique_ptr<wxDialog> MakeScriptCheck(wxWindow* owner, ScriptCheck_Frm& check) {
     auto form = std::make_unique<LookForm>(owner, check, [&check] { ScriptCheck_Close_Cmd_Click(check); });
+    form->AddWide(form->MakeLabel(form.get(), "Note_Lbl", check.Note_Lbl));
     form->AddWide(form->MakeLabel(form.get(), "Findings_Lbl", check.Findings_Lbl));
     form->AddList(
         "Findings_Lst", check.Findings_Lst, "Findings", [&check] { ScriptCheck_Findings_Lst_Click(check); },

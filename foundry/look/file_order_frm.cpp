@@ -27,10 +27,10 @@ constexpr FateRow kFates[] = {
     {ScriptFate::IsPattern, "several at once, which are not looked for"},
 };
 
-Text RowOfScript(const RunScript& script) {
+Text RowOfScript(const RunScript& script, const StartRequest& request) {
     constexpr std::size_t kIndent = 4;
     Text row = Join(Text(script.Depth * kIndent, ' '), script.Name);
-    if (const Text place = PlaceOfRunScript(script); !place.empty()) {
+    if (const Text place = PlaceOfRunScript(script, request); !place.empty()) {
         row += Join("   ", place);
     }
     const TextView fate = FateText(script);
@@ -92,12 +92,14 @@ TextView FateText(const RunScript& script) {
     return row == std::end(kFates) ? TextView() : row->Words;
 }
 
-FileOrder_Frm::FileOrder_Frm(Run& owner, const StartRequest& request)
+FileOrder_Frm::FileOrder_Frm(Run& owner, const StartRequest& request, TextView note)
     : ModalWindow(owner, "FileOrder_Frm"), Request(request), Start(RunStart(owner.System.Disk, request)) {
     Caption = "Which File Wins";
+    Note_Lbl.Caption = note;
+    Note_Lbl.Visible = !note.empty();
     Files_Lbl.Caption = "The game executes these scripts when it starts, from top to bottom:";
     for (const RunScript& script : Start.Scripts) {
-        Files_Lst.Items.push_back(RowOfScript(script));
+        Files_Lst.Items.push_back(RowOfScript(script, request));
     }
     if (Start.IsCutOff) {
         Files_Lst.Items.emplace_back("(and more than any game runs)");

@@ -11,8 +11,10 @@
 namespace lv {
 
 struct FileOrder_Frm : ModalWindow {
-    FileOrder_Frm(Run& owner, const StartRequest& request);
+    /// `note` says what is otherwise than in a launch; empty: nothing.
+    FileOrder_Frm(Run& owner, const StartRequest& request, TextView note = {});
 
+    Label Note_Lbl;  // seen only where there is something to note
     Label Files_Lbl;
     ListBox Files_Lst;  // a row each of Start.Scripts
     Label Wanted_Lbl;

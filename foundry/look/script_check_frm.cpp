@@ -21,9 +21,11 @@ Text CountText(const std::vector<Finding>& findings) {
 
 }  // namespace
 
-ScriptCheck_Frm::ScriptCheck_Frm(Run& owner, const StartRequest& request)
+ScriptCheck_Frm::ScriptCheck_Frm(Run& owner, const StartRequest& request, TextView note)
     : ModalWindow(owner, "ScriptCheck_Frm"), Request(request), Findings(CheckScriptsOf(owner.System.Disk, request)) {
     Caption = "Script Check";
+    Note_Lbl.Caption = note;
+    Note_Lbl.Visible = !note.empty();
     std::stable_partition(Findings.begin(), Findings.end(),
                           [](const Finding& each) { return each.How == Certainty::Sure; });
     for (const Finding& finding : Findings) {

@@ -10,8 +10,10 @@
 namespace lv {
 
 struct ScriptCheck_Frm : ModalWindow {
-    ScriptCheck_Frm(Run& owner, const StartRequest& request);
+    /// `note` says what is otherwise than in a launch; empty: nothing.
+    ScriptCheck_Frm(Run& owner, const StartRequest& request, TextView note = {});
 
+    Label Note_Lbl;  // seen only where there is something to note
     Label Findings_Lbl;
     ListBox Findings_Lst;  // "my.cfg:12: ...", a row each of Findings
     CommandButton Show_Cmd;

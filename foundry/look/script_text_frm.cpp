@@ -21,6 +21,12 @@ Text RowOfLine(std::size_t number, TextView line) {
     return Join(Text(kNumberWidth - std::min(digits.size(), kNumberWidth), ' '), digits, "  ", ShownLine(line));
 }
 
+const GivenScript* GivenInPlaceOf(const RunScript& script, const StartRequest& request) {
+    const auto given =
+        std::ranges::find_if(request.Given, [&](const GivenScript& each) { return SameText(each.Path, script.Path); });
+    return given != request.Given.end() ? &*given : nullptr;
+}
+
 Result<Text> TextInArchive(Files& disk, const RunScript& script) {
     const auto archive = disk.Open(script.Path);
     if (!archive.Ok()) {
@@ -58,8 +64,13 @@ void ScriptText_Close_Cmd_Click(ScriptText_Frm& form) {
     form.Closed = true;
 }
 
-Text PlaceOfRunScript(const RunScript& script) {
-    return script.Inner.empty() ? script.Path : Join(script.Path, " > ", script.Inner);
+Text PlaceOfRunScript(const RunScript& script, const StartRequest& request) {
+    if (!script.Inner.empty()) {
+        return Join(script.Path, " > ", script.Inner);
+    }
+    const GivenScript* const given = GivenInPlaceOf(script, request);
+    return given != nullptr && given->IsPlanned ? Join(script.Path, "   (as a launch would write it now)")
+                                                : script.Path;
 }
 
 void ShowScriptText(Run& run, const StartRequest& request, const RunScript& script, std::size_t line) {
@@ -69,15 +80,13 @@ void ShowScriptText(Run& run, const StartRequest& request, const RunScript& scri
         AskUser(run, "The Script", Join("There is no text to be shown.", NewLine, NewLine, text.Fault.Text));
         return;
     }
-    ScriptText_Frm window(run, PlaceOfRunScript(script), text.Value, line);
+    ScriptText_Frm window(run, PlaceOfRunScript(script, request), text.Value, line);
     ShowModal(window);
 }
 
 Result<Text> TextOfRunScript(Files& disk, const StartRequest& request, const RunScript& script) {
-    for (const GivenScript& given : request.Given) {
-        if (SameText(given.Path, script.Path)) {
-            return given.Content;
-        }
+    if (const GivenScript* const given = GivenInPlaceOf(script, request)) {
+        return given->Content;
     }
     return script.Inner.empty() ? ReadBounded(disk, script.Path, kLargestRunScript) : TextInArchive(disk, script);
 }

@@ -20,8 +20,9 @@ struct ScriptText_Frm : ModalWindow {
 
 void ScriptText_Close_Cmd_Click(ScriptText_Frm& form);
 
-/// Where a script lies, for people: "C:\QUAKE\ID1\PAK0.PAK > default.cfg". Empty if it lies nowhere.
-Text PlaceOfRunScript(const RunScript& script);
+/// Where a script lies, for people: "C:\QUAKE\ID1\PAK0.PAK > default.cfg", and whether it is what a launch would
+/// write. Empty if it lies nowhere.
+Text PlaceOfRunScript(const RunScript& script, const StartRequest& request);
 
 /// Shows the window, or says why it cannot.
 void ShowScriptText(Run& run, const StartRequest& request, const RunScript& script, std::size_t line);

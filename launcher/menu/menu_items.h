@@ -102,6 +102,8 @@ enum class MenuItem : int {
     ImportSettings_Bar,
     Backups_Bar,
     GameList_Bar,
+    FileOrder_Bar,
+    ScriptCheck_Bar,
     Count,
 };
 

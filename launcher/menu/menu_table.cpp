@@ -143,6 +143,8 @@ constexpr MenuRow kRows[] = {
     {ImportSettings_Bar, "ImportSettings_Bar", kNoIndex, "&Import Settings...", "", Tools_Bar, ImportSettings_Bar_Click},
     {Backups_Bar, "Backups_Bar", kNoIndex, "&Backups...", "", Tools_Bar, Backups_Bar_Click},
     {GameList_Bar, "GameList_Bar", kNoIndex, "Game &List...", "", Tools_Bar, GameList_Bar_Click},
+    {FileOrder_Bar, "FileOrder_Bar", kNoIndex, "&Which File Wins...", "", Tools_Bar, FileOrder_Bar_Click},
+    {ScriptCheck_Bar, "ScriptCheck_Bar", kNoIndex, "&Check Script...", "", Tools_Bar, ScriptCheck_Bar_Click},
 };
 // clang-format on
 

@@ -73,6 +73,18 @@ void SetupFoundry_Bar_Click(Launcher& launcher) {
     }
 }
 
+void FileOrder_Bar_Click(Launcher& launcher) {
+    if (launcher.ShowFileOrder) {
+        launcher.ShowFileOrder();
+    }
+}
+
+void ScriptCheck_Bar_Click(Launcher& launcher) {
+    if (launcher.ShowScriptCheck) {
+        launcher.ShowScriptCheck();
+    }
+}
+
 void ScriptEditorChangeDefault_Bar_Click(Launcher& launcher) {
     Run& run = launcher.run;
     const Text start = BrowseStart(run, GetSetting(run, run.AppName, kOptions, "ScriptEditor"));

@@ -25,6 +25,10 @@ void SetAlwaysOnTop(Launcher& launcher, bool onTop);
 /// Opens the selected script in Setup Foundry, if the program has it.
 void SetupFoundry_Bar_Click(Launcher& launcher);
 
+/// Looks into the scripts of the picked game, if the program can.
+void FileOrder_Bar_Click(Launcher& launcher);
+void ScriptCheck_Bar_Click(Launcher& launcher);
+
 void ScriptEditorChangeDefault_Bar_Click(Launcher& launcher);
 void ScriptsOpen_Bar_Click(Launcher& launcher);
 

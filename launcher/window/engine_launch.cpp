@@ -44,7 +44,7 @@ void NoteRefusal(FittedCommand& fitted) {
 
 Error WriteAutoexec(Run& run, EngineLaunch& launch, TextView directory) {
     Files& disk = run.System.Disk;
-    const Text path = Join(directory, "\\", run.BaseGameDir, "\\autoexec.cfg");
+    const Text path = AutoexecPathOf(run, directory);
     const Result<Text> read = disk.Read(path);
     if (!read.Ok() && read.Fault.Number != error::kFileNotFound) {
         return launch.Fitted.AutoexecTail.empty() ? Error() : FaultAt(disk, path, read.Fault);
@@ -76,6 +76,19 @@ bool PlaysAGame(Run& run, const EngineTable& engines, const LaunchSelection& sel
     return false;
 }
 
+FittedCommand FitTexts(const Engine& engine, Files& disk, const LaunchSelection& selection, const LaunchGame& game,
+                       LaunchTexts& texts, Text& script) {
+    FittedCommand fitted = FitLaunch(engine, disk, selection, game, texts, !script.empty());
+    texts.GameCommand = fitted.Command;
+    texts.GameGiven = fitted.Given;
+    script = Join(fitted.ScriptHead, script, fitted.ScriptTail);
+    return fitted;
+}
+
+Text AutoexecPathOf(const Run& run, TextView directory) {
+    return Join(directory, "\\", run.BaseGameDir, "\\autoexec.cfg");
+}
+
 Error FitToEngine(Run& run, const EngineTable& engines, const LaunchSelection& selection, const LaunchGame& game,
                   LaunchTexts& texts, Text& script, EngineLaunch& launch) {
     launch.Its = EngineOfLaunch(engines, selection, game);
@@ -89,10 +102,7 @@ Error FitToEngine(Run& run, const EngineTable& engines, const LaunchSelection& s
         AskUser(run, "", *why);
         return {};
     }
-    launch.Fitted = FitLaunch(*launch.Its, run.System.Disk, selection, game, texts, !script.empty());
-    texts.GameCommand = launch.Fitted.Command;
-    texts.GameGiven = launch.Fitted.Given;
-    script = Join(launch.Fitted.ScriptHead, script, launch.Fitted.ScriptTail);
+    launch.Fitted = FitTexts(*launch.Its, run.System.Disk, selection, game, texts, script);
     const Error failed = WriteAutoexec(run, launch, directory);
     launch.Stopped = static_cast<bool>(failed);
     return failed;

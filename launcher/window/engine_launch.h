@@ -19,6 +19,13 @@ struct EngineLaunch {
 /// user was told what to do.
 bool PlaysAGame(Run& run, const EngineTable& engines, const LaunchSelection& selection, const LaunchGame& game);
 
+/// Fits command and script to this engine. Nothing is asked, and nothing written.
+FittedCommand FitTexts(const Engine& engine, Files& disk, const LaunchSelection& selection, const LaunchGame& game,
+                       LaunchTexts& texts, Text& script);
+
+/// Where an engine gets the lines that it must not have in its command line.
+Text AutoexecPathOf(const Run& run, TextView directory);
+
 /// Fits command and script to the engine, if the executable is one, and writes what must go into the engine's own
 /// autoexec.cfg: into a tree of links at once, into the user's own only if the user agrees. The error is that file's.
 Error FitToEngine(Run& run, const EngineTable& engines, const LaunchSelection& selection, const LaunchGame& game,

@@ -137,7 +137,6 @@ void DeleteScript(Click& click) {
 /// Replaces the script of the last launch, or takes it away when this one has none.
 bool WriteScript(Click& click) {
     Files& disk = click.run.System.Disk;
-    const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
     AddCommandLineAdditions(click.Selection, click.Texts);
     click.Script = ScriptText(click.Texts, click.Game);
     if (const Error failed = FitToEngine(click.run, click.launcher.Engines, click.Selection, click.Game, click.Texts,
@@ -147,7 +146,7 @@ bool WriteScript(Click& click) {
     if (click.Engine.Stopped) {
         return false;
     }
-    if (click.Script.empty() || click.Game.GameKind == Game::Unreal || !hasDirectory) {
+    if (!HasScript(click.Script, click.Game)) {
         DeleteScript(click);
         return true;
     }

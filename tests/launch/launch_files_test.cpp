@@ -135,6 +135,19 @@ TEST(ScriptText, OfOtherGamesKeepsItsSets) {
     EXPECT_EQ(ScriptText(ScriptsOf("", "reset x\r\n"), Quake2Launch().Game), "reset x\r\n");
 }
 
+TEST(HasScript, OfTextInADirectoryOfAGameButUnreal) {
+    LaunchGame game;
+    game.GameKind = Game::Quake;
+    game.DefaultGameDirectory = "C:\\QUAKE";
+    EXPECT_TRUE(HasScript("map start\r\n", game));
+    EXPECT_FALSE(HasScript("", game));
+    game.DefaultGameDirectory.clear();
+    EXPECT_FALSE(HasScript("map start\r\n", game));
+    game.DefaultGameDirectory = "C:\\UNREAL";
+    game.GameKind = Game::Unreal;
+    EXPECT_FALSE(HasScript("map start\r\n", game));
+}
+
 TEST(ScriptFilePath, LiesBesideTheBatchWithoutADataDirectory) {
     LaunchGame game;
     game.DefaultGameDirectory = "C:\\QUAKE";

@@ -58,6 +58,7 @@ TEST_F(MissingPartsTest, TheMap) {
 
 TEST_F(MissingPartsTest, AScriptThatThePlayersScriptExecutes) {
     Open("C:\\QUAKE\\GLQUAKE.EXE");
+    Click(Option::Script_Chk, 1);
     system.Disk.AddFile("C:\\QUAKE\\ID1\\lv_666.qs", "exec my.cfg\r\n");
     system.Disk.AddFile("C:\\QUAKE\\ID1\\my.cfg", "exec gone.cfg\n");
     const std::vector<Text> missing = MissingParts(launcher);

@@ -52,6 +52,9 @@ TEST(CheckScriptsOf, KnowsSettingsOfTheGamesScriptsOfWhatItWritesAndOfSet) {
     game.Add("ID1\\config.cfg", "written 1\n");
     game.Add("ID1\\autoexec.cfg", "packed 2\nwritten 2\n");
     EXPECT_EQ(game.Report(), "");
+    game.Request.Given = {{"C:\\QUAKE\\ID1\\lv_666.qs", "launched 1\n", true}};
+    game.Add("ID1\\autoexec.cfg", "exec lv_666.qs\nlaunched 2\n");
+    EXPECT_EQ(game.Report(), "");
     game.Request.Played = {.Of = Console::Quake2, .GameKind = Game::Quake2, .Directory = "C:\\QUAKE"};
     game.Add("BASEQ2\\autoexec.cfg", "set mine 1\nmine 2\n");
     EXPECT_EQ(game.Report(), "");

@@ -1,7 +1,10 @@
 #include "foundry/editor/script_looks.h"
 
+#include "foundation/field_strings.h"
 #include "foundry/document/bindings.h"
 #include "foundry/look/changes_frm.h"
+#include "foundry/look/file_order_frm.h"
+#include "foundry/look/script_check_frm.h"
 #include "foundry/look/versions_frm.h"
 #include "tests/foundry/editor/lifecycle_fixture.h"
 
@@ -47,6 +50,43 @@ TEST_F(ScriptLooks, WithoutAVersionTheScriptStays) {
     Versions_Cmd_Click(form);
     EXPECT_EQ(form.Document.Name_Txt.Text, "Me");
     EXPECT_FALSE(form.Document.ScriptClean);
+}
+
+TEST_F(ScriptLooks, WhichFileWinsIsThatOfALaunchWithTheScriptAsItIsEdited) {
+    OpenAndLoad(kQuakeDialect, "bind x +attack\n");
+    run.DefaultGameDirectory = Text(DirectoryOf(DirectoryOf(Text(kEditedScript))));
+    run.BaseGameDir = LastPathPart(DirectoryOf(Text(kEditedScript)));
+    run.CurrentGameDir = run.BaseGameDir;
+    Change();
+    const Text launchScript = Join(DirectoryOf(Text(kEditedScript)), "\\lv_666.qs");
+    form.StartOfLaunch = [&](const GivenScript& edited) {
+        StartRequest request;
+        request.Commands = {"exec lv_666.qs"};
+        request.Given = {edited, {launchScript, Join("exec ", LastPathPart(kEditedScript), "\r\n"), true}};
+        return request;
+    };
+    user.In<FileOrder_Frm>([](FileOrder_Frm& order) {
+        EXPECT_FALSE(order.Note_Lbl.Visible);
+        order.Wanted_Txt.Text = "name";
+        FileOrder_Wanted_Txt_Change(order);
+        ASSERT_FALSE(order.Set_Lst.Items.empty());
+        EXPECT_TRUE(order.Set_Lst.Items[0].starts_with("setting name   \"Me\"   ")) << order.Set_Lst.Items[0];
+        FileOrder_Close_Cmd_Click(order);
+    });
+    FileOrder_Cmd_Click(form);
+}
+
+TEST_F(ScriptLooks, AScriptThatTheLaunchLeavesOutIsStillCheckedAndThatIsSaid) {
+    OpenAndLoad(kQuakeDialect, "bind x +attack\n");
+    run.DefaultGameDirectory = Text(DirectoryOf(DirectoryOf(Text(kEditedScript))));
+    run.BaseGameDir = LastPathPart(DirectoryOf(Text(kEditedScript)));
+    run.CurrentGameDir = run.BaseGameDir;
+    user.In<ScriptCheck_Frm>([](ScriptCheck_Frm& check) {
+        EXPECT_TRUE(check.Note_Lbl.Visible);
+        EXPECT_EQ(check.Request.Commands.size(), 1u);
+        ScriptCheck_Close_Cmd_Click(check);
+    });
+    ScriptCheck_Cmd_Click(form);
 }
 
 class SaveLooks : public Lifecycle {

@@ -27,6 +27,28 @@ TEST_F(FileOrderForm, ListsTheScriptsInTheirOrderAndMarksWhatIsMissing) {
     EXPECT_TRUE(HasRow(form.Files_Lst, "my.cfg   C:\\QUAKE\\ID1\\my.cfg"));
 }
 
+TEST_F(FileOrderForm, ShowsAScriptThatIsYetToBeWritten) {
+    request.Given = {{"C:\\QUAKE\\ID1\\lv_666.qs", "exec my.cfg\r\nr_wateralpha .6\r\n", true}};
+    request.Commands = {"exec lv_666.qs"};
+    FileOrder_Frm form(run, request);
+    EXPECT_TRUE(HasRow(form.Files_Lst, "lv_666.qs   C:\\QUAKE\\ID1\\lv_666.qs   (as a launch would write it now)"));
+    form.Wanted_Txt.Text = "wateralpha";
+    FileOrder_Wanted_Txt_Change(form);
+    ASSERT_EQ(form.Set_Lst.Items, (std::vector<Text>{"setting r_wateralpha   \".6\"   lv_666.qs, line 2"}));
+    user.In<ScriptText_Frm>([](ScriptText_Frm& script) {
+        EXPECT_EQ(script.Lines_Lst.Items, (std::vector<Text>{"     1  exec my.cfg", "     2  r_wateralpha .6"}));
+        EXPECT_EQ(script.Lines_Lst.ListIndex, 1);
+    });
+    FileOrder_Show_Cmd_Click(form);
+}
+
+TEST_F(FileOrderForm, NotesWhatIsOtherwiseThanInALaunch) {
+    EXPECT_FALSE(FileOrder_Frm(run, request).Note_Lbl.Visible);
+    const FileOrder_Frm form(run, request, "Here it is.");
+    EXPECT_TRUE(form.Note_Lbl.Visible);
+    EXPECT_EQ(form.Note_Lbl.Caption, "Here it is.");
+}
+
 TEST_F(FileOrderForm, SaysWhoWinsAndWhoIsOverridden) {
     FileOrder_Frm form(run, request);
     form.Wanted_Txt.Text = " X ";

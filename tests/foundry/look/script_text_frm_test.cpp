@@ -35,8 +35,13 @@ TEST_F(ScriptTextForm, ReadsAFileOrWhatStandsInItsPlace) {
 }
 
 TEST_F(ScriptTextForm, SaysWhereAScriptLies) {
-    EXPECT_EQ(PlaceOfRunScript(Script("C:\\Q\\ID1\\PAK0.PAK", "default.cfg")), "C:\\Q\\ID1\\PAK0.PAK > default.cfg");
-    EXPECT_EQ(PlaceOfRunScript(Script("")), "");
+    EXPECT_EQ(PlaceOfRunScript(Script("C:\\Q\\ID1\\PAK0.PAK", "default.cfg"), request),
+              "C:\\Q\\ID1\\PAK0.PAK > default.cfg");
+    EXPECT_EQ(PlaceOfRunScript(Script(""), request), "");
+    request.Given = {{"C:\\Q\\ID1\\lv_666.qs", "", true}, {"C:\\Q\\ID1\\my.cfg", ""}};
+    EXPECT_EQ(PlaceOfRunScript(Script("C:\\Q\\id1\\lv_666.qs"), request),
+              "C:\\Q\\id1\\lv_666.qs   (as a launch would write it now)");
+    EXPECT_EQ(PlaceOfRunScript(Script("C:\\Q\\id1\\my.cfg"), request), "C:\\Q\\id1\\my.cfg");
 }
 
 TEST_F(ScriptTextForm, AScriptThatIsNotThereIsToldOf) {

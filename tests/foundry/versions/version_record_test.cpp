@@ -68,9 +68,4 @@ TEST(VersionRecord, IsNoneOfAnotherShapeOrBeyondTheBounds) {
     }
 }
 
-TEST(CheckSum, IsThatOfZipArchives) {
-    EXPECT_EQ(CheckSum("123456789"), 0xcbf43926u);
-    EXPECT_EQ(CheckSum("6789", CheckSum("12345")), 0xcbf43926u);
-}
-
 }  // namespace lv

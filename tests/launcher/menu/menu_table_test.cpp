@@ -111,6 +111,8 @@ const std::vector<Written>& Table() {
         {ImportSettings_Bar, "ImportSettings_Bar", -1, "&Import Settings...", "", Tools_Bar, true},
         {Backups_Bar, "Backups_Bar", -1, "&Backups...", "", Tools_Bar, true},
         {GameList_Bar, "GameList_Bar", -1, "Game &List...", "", Tools_Bar, true},
+        {FileOrder_Bar, "FileOrder_Bar", -1, "&Which File Wins...", "", Tools_Bar, true},
+        {ScriptCheck_Bar, "ScriptCheck_Bar", -1, "&Check Script...", "", Tools_Bar, true},
     };
     return rows;
 }

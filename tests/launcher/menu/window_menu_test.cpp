@@ -125,6 +125,18 @@ TEST_F(WindowMenu, AFileDialogThatFailsIsTold) {
     EXPECT_EQ(Stored(kOptions, "ScriptEditor"), "(none)");
 }
 
+TEST_F(WindowMenu, TheScriptsOfTheGameAreLookedIntoWhereTheProgramCan) {
+    Load();
+    Menu_Click(launcher, MenuItem::FileOrder_Bar);
+    Menu_Click(launcher, MenuItem::ScriptCheck_Bar);
+    Text looks;
+    launcher.ShowFileOrder = [&] { looks += "order "; };
+    launcher.ShowScriptCheck = [&] { looks += "check "; };
+    Menu_Click(launcher, MenuItem::FileOrder_Bar);
+    Menu_Click(launcher, MenuItem::ScriptCheck_Bar);
+    EXPECT_EQ(looks, "order check ");
+}
+
 TEST_F(WindowMenu, TheSelectedScriptOpensInTheDefaultEditor) {
     Load();
     ASSERT_TRUE(window.Script_Cbo.HasSelection());
