@@ -31,7 +31,6 @@
 #include "launcher/forms/launcher_user.h"
 #include "launcher/forms/lv_form.h"
 #include "launcher/forms/splash_form.h"
-#include "launcher/menu/transfer_menu.h"
 #include "launcher/start/start.h"
 #include "launcher/window/game_end.h"
 #include "launcher/window/window_life.h"
@@ -59,7 +58,6 @@ struct Program {
         TheLauncher.ShippedEngines = EmbeddedEngines();
         ConnectWizard(TheLauncher);
         ConnectFoundry(TheLauncher);
-        TheLauncher.ImportSettings = [this](TextView path) { ImportSettingsFrom(TheLauncher, path); };
         ConnectDryRun(TheLauncher, [this] {
             return CommandPlace{Host->Services, EmbeddedEngines(), {}, ConnectFoundry};
         });

@@ -76,7 +76,7 @@ set(MAY_platform/linux/toolkit platform/linux/toolkit platform/toolkit platform)
 set(MAY_platform/windows platform/windows platform/starting platform)
 set(MAY_platform/windows/toolkit platform/windows/toolkit platform/toolkit ${MAY_platform/windows})
 set(MAY_app app assets ${LV_LINUX} platform/windows platform/windows/toolkit platform/toolkit foundation foundation/forms
-    catalogs/forms video/forms gamespy/forms launcher/start launcher/window launcher/menu launcher/drop launcher/forms foundry foundry/forms wizard
+    catalogs/forms video/forms gamespy/forms launcher/start launcher/window launcher/drop launcher/forms foundry foundry/forms wizard
     wizard/forms commands commands/unseen platform)
 
 # Folders of the logic, of the toolkit, and of a system.

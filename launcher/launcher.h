@@ -73,8 +73,6 @@ struct Launcher {
     /// Opens the selected script in the script editor. Empty: the program has none.
     std::function<void()> OpenSetupFoundry;
 
-    /// Offers the settings that stand in this file. Empty: the program can't.
-    std::function<void(TextView path)> ImportSettings;
     /// Shows which scripts the picked game executes and what it takes otherwise than it may be meant. Empty: the
     /// program can't.
     std::function<void()> ShowFileOrder;

@@ -11,6 +11,7 @@
 #include "foundation/padded_item.h"
 #include "foundation/shown_name.h"
 #include "launcher/setups/row_picks.h"
+#include "launcher/setups/setup_start.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/lv_events.h"
 
@@ -87,8 +88,10 @@ void TickServer(Launcher& launcher) {
     Option_Chk_Click(launcher, Option::Server_Chk);
 }
 
-void JoinWith(Launcher& launcher, const ListedProgram& program, const ServerLink& server) {
-    if (!PickExecutable(launcher, program.Path) || launcher.run.Ended || !PickServerOf(launcher, server)) {
+void JoinWith(Launcher& launcher, const JoinChoice& choice, const ServerLink& server) {
+    const bool isPicked =
+        choice.Setup != 0 ? PickSetup(launcher, choice.Setup) : PickExecutable(launcher, choice.Program);
+    if (!isPicked || launcher.run.Ended || !PickServerOf(launcher, server)) {
         return;
     }
     TickServer(launcher);
@@ -118,35 +121,48 @@ JoinServer_Frm::JoinServer_Frm(Launcher& owner, ServerLink server)
     : ModalWindow(owner.run, "JoinServer_Frm"),
       launcher(owner),
       Server(std::move(server)),
-      Programs(ProgramsThatJoin(owner, Server)) {
+      Choices(ChoicesThatJoin(owner, Server)) {
     Caption = "Join Server";
     JoinAddress_Lbl.Caption = "Server Address";
     JoinAddress_Txt.Text = Server.Scheme.empty() ? AddressOf(Server) : Join(Server.Scheme, "://", AddressOf(Server));
-    JoinPrograms_Lbl.Caption = "&Programs That Can Join";
-    for (const ListedProgram& program : Programs) {
-        JoinPrograms_Lst.Items.push_back(Join(Shown(program.Title), " (", Shown(program.Path), ")"));
+    JoinPrograms_Lbl.Caption = "&Programs and Setups That Can Join";
+    for (const JoinChoice& choice : Choices) {
+        JoinPrograms_Lst.Items.push_back(choice.Words);
     }
     const auto picked = PickedProgram(owner);
     const auto row = std::ranges::find_if(
-        Programs, [&](const ListedProgram& program) { return picked && SameText(program.Path, picked->Path); });
-    JoinPrograms_Lst.ListIndex = Programs.empty()        ? -1
-                                 : row == Programs.end() ? 0
-                                                         : static_cast<int>(row - Programs.begin());
-    JoinHint_Lbl.Caption = Programs.empty() ? "No listed program can join a server of this kind."
-                                            : "Join puts the server into the program's list, ticks it and starts the "
-                                              "program. Add to List starts nothing.";
+        Choices, [&](const JoinChoice& choice) { return picked && SameText(choice.Program, picked->Path); });
+    JoinPrograms_Lst.ListIndex = Choices.empty()        ? -1
+                                 : row == Choices.end() ? 0
+                                                        : static_cast<int>(row - Choices.begin());
+    JoinHint_Lbl.Caption = Choices.empty() ? "No listed program can join a server of this kind."
+                                           : "Join puts the server into the program's list, ticks it and starts the "
+                                             "program. Add to List starts nothing.";
     Join_Cmd.Caption = "&Join";
-    Join_Cmd.Enabled = !Programs.empty();
+    Join_Cmd.Enabled = !Choices.empty();
     JoinAdd_Cmd.Caption = "&Add to List";
     Cancel_Cmd.Caption = "&Cancel";
     Cancel_Cmd.Default = true;
     Focus = "Cancel_Cmd";
 }
 
-std::vector<ListedProgram> ProgramsThatJoin(Launcher& launcher, const ServerLink& server) {
-    std::vector<ListedProgram> programs = ListedPrograms(launcher);
-    std::erase_if(programs, [&](const ListedProgram& program) { return !CanJoin(program.Plays, server); });
-    return programs;
+std::vector<JoinChoice> ChoicesThatJoin(Launcher& launcher, const ServerLink& server) {
+    std::vector<JoinChoice> choices;
+    for (const ListedProgram& program : ListedPrograms(launcher)) {
+        if (CanJoin(program.Plays, server)) {
+            choices.push_back({Join(Shown(program.Title), " (", Shown(program.Path), ")"), program.Path});
+        }
+    }
+    const std::size_t programs = choices.size();
+    for (const KeptSetup& setup : launcher.Setups.All) {
+        const bool canJoin =
+            std::any_of(choices.begin(), choices.begin() + static_cast<std::ptrdiff_t>(programs),
+                        [&](const JoinChoice& choice) { return SameText(choice.Program, setup.What.ExecutablePath); });
+        if (canJoin) {
+            choices.push_back({Join("Setup: ", Shown(setup.What.Name)), setup.What.ExecutablePath, setup.Number});
+        }
+    }
+    return choices;
 }
 
 Text AddressOf(const ServerLink& server) {
@@ -175,7 +191,7 @@ void OfferServer(Launcher& launcher, const ServerLink& server) {
     JoinServer_Frm form(launcher, server);
     ShowModal(form);
     if (form.Chosen == JoinServer_Frm::Answer::Join) {
-        JoinWith(launcher, form.Programs[static_cast<std::size_t>(form.JoinPrograms_Lst.ListIndex)], server);
+        JoinWith(launcher, form.Choices[static_cast<std::size_t>(form.JoinPrograms_Lst.ListIndex)], server);
     } else if (form.Chosen == JoinServer_Frm::Answer::Add) {
         AddToList(launcher, server);
     }

@@ -1,6 +1,6 @@
 // launcher/drop/join_server.h
 //
-// The dialog that shows a server's address and the programs that can join it.
+// The dialog that shows a server's address and the programs and setups that can join it.
 
 #pragma once
 
@@ -10,12 +10,19 @@
 
 namespace lv {
 
+/// A program of the list, or a setup with such a program.
+struct JoinChoice {
+    Text Words;     // as the row has it
+    Text Program;   // its path
+    int Setup = 0;  // its number; 0: the program as it is
+};
+
 struct JoinServer_Frm : ModalWindow {
     JoinServer_Frm(Launcher& owner, ServerLink server);
 
     Launcher& launcher;
     const ServerLink Server;
-    std::vector<ListedProgram> Programs;  // a row each
+    std::vector<JoinChoice> Choices;  // a row each
 
     Label JoinAddress_Lbl;
     TextBox JoinAddress_Txt;  // can be selected and copied, not changed
@@ -30,9 +37,10 @@ struct JoinServer_Frm : ModalWindow {
     Answer Chosen = Answer::None;
 };
 
-/// The listed programs that can join: for "qw" the clients of QuakeWorld, for "quake" all of Quake, for "quake2" those
-/// of Quake II, for a plain address all that play a known game. An engine that is a server alone joins nothing.
-std::vector<ListedProgram> ProgramsThatJoin(Launcher& launcher, const ServerLink& server);
+/// The listed programs that can join, and behind them the setups of such: for "qw" the clients of QuakeWorld, for
+/// "quake" all of Quake, for "quake2" those of Quake II, for a plain address all that play a known game. An engine that
+/// is a server alone joins nothing.
+std::vector<JoinChoice> ChoicesThatJoin(Launcher& launcher, const ServerLink& server);
 
 /// "host" or "host:port".
 Text AddressOf(const ServerLink& server);
@@ -43,8 +51,8 @@ void JoinServer_JoinAdd_Cmd_Click(JoinServer_Frm& form);
 /// Also for the window's close box.
 void JoinServer_Cancel_Cmd_Click(JoinServer_Frm& form);
 
-/// Shows the dialog and does what was chosen: joining picks the program, puts the server into its list, ticks it and
-/// launches; adding opens the editor of servers, filled in.
+/// Shows the dialog and does what was chosen: joining picks the program or the setup, puts the server into its list,
+/// ticks it and launches; adding opens the editor of servers, filled in.
 void OfferServer(Launcher& launcher, const ServerLink& server);
 
 }  // namespace lv

@@ -10,6 +10,7 @@
 #include "launcher/drop/copy_dropped.h"
 #include "launcher/drop/join_server.h"
 #include "launcher/drop/pick_dropped.h"
+#include "launcher/menu/transfer_menu.h"
 #include "launcher/window/lv_events.h"
 #include "launcher/window/window_life.h"
 
@@ -22,7 +23,7 @@ using enum DroppedKind;
 constexpr TextView kWhatCanBe =
     "These can be dropped: an archive (.pak, .sin, .pk3), a start map (.bsp, .unr), a script, a program, a directory "
     "or "
-    "a file of a game that is listed, and a server's address.";
+    "a file of a listed game, exported settings, and a server's address.";
 
 Text OfOthers(std::size_t count) {
     return count < 2 ? Text()
@@ -59,12 +60,10 @@ void OfferProgram(Launcher& launcher, const DroppedThing& thing) {
     ShowModal(form);
 }
 
-void OfferSettings(Launcher& launcher, const DroppedThing& thing, const Text& others) {
-    if (launcher.ImportSettings) {
-        launcher.ImportSettings(thing.Path);
-    } else {
-        TellUnknown(launcher, thing, others);
-    }
+/// For what opens a window of its own, where there is no room to say so: whether to go on with the first of several.
+bool GoesOnWithTheFirst(Launcher& launcher, const DroppedThing& thing, const Text& others) {
+    return others.empty() ||
+           AskUser(launcher.run, kDroppedTitle, Join(Dropped(thing), TrimWhite(others)), "&Go On,&Cancel") == 0;
 }
 
 Text GamesOf(const DroppedThing& thing) {
@@ -101,7 +100,9 @@ void OfferFile(Launcher& launcher, const DroppedThing& thing, const Text& others
     if (place && IsInItsPlace(thing, *place) && IsFor(thing, place->Program.Plays.Facts->GameKind)) {
         OfferToPick(launcher, thing, *place, others);
     } else if (thing.Kind == DroppedKind::Program) {
-        OfferProgram(launcher, thing);
+        if (GoesOnWithTheFirst(launcher, thing, others)) {
+            OfferProgram(launcher, thing);
+        }
     } else if (thing.Kind == Directory) {
         TellUnknown(launcher, thing, others);
     } else {
@@ -118,7 +119,9 @@ void Offer(Launcher& launcher, const DroppedThing& thing, const Text& others) {
             OfferServer(launcher, thing.Server);
             return;
         case Settings:
-            OfferSettings(launcher, thing, others);
+            if (GoesOnWithTheFirst(launcher, thing, others)) {
+                ImportSettingsFrom(launcher, thing.Path);
+            }
             return;
         default:
             OfferFile(launcher, thing, others);

@@ -4,6 +4,7 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/forms/wx_text.h"
+#include "launcher/drop/file_link.h"
 #include "launcher/drop/offer_dropped.h"
 #include "launcher/window/window_life.h"
 
@@ -79,6 +80,11 @@ bool DropTarget::OnDropFiles(const wxArrayString& files) {
 
 bool DropTarget::OnDropText(const wxString& text) {
     const Text word = FirstLine(FromWx(text));
+    if (const auto host = PathOfFileLink(word)) {
+        wxArrayString file;
+        file.Add(wxString::FromUTF8(*host));
+        return OnDropFiles(file);
+    }
     return !word.empty() && HasTime() && NoteDropped(launcher_, {.Word = word, .Count = 1, .Fault = {}});
 }
 

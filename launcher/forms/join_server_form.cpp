@@ -33,7 +33,7 @@ std::unique_ptr<wxDialog> MakeJoinServerForm(wxWindow* owner, ModalWindow& windo
                                0, nullptr, wxLB_SINGLE | wxLB_HSCROLL);
     form->Controls.Bind("JoinPrograms_Lst", join->JoinPrograms_Lst, list,
                         [join] { JoinServer_JoinPrograms_Lst_Click(*join); });
-    SetSpokenName(list->GetHandle(), "Programs That Can Join");
+    SetSpokenName(list->GetHandle(), "Programs and Setups That Can Join");
     form->AddWide(list);
     // Not bound: it never changes, and a bound label would lose its line breaks.
     auto* hint = new wxStaticText(form.get(), wxID_ANY, ToWx(join->JoinHint_Lbl.Caption));

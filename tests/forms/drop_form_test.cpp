@@ -50,6 +50,12 @@ TEST_F(DropForm, OfTextTheFirstLineCounts) {
     EXPECT_EQ(launcher.Dropped.Word, "qw://host.example:27500");
 }
 
+TEST_F(DropForm, ALinkToAFileIsThatFile) {
+    EXPECT_TRUE(Target().OnDropText("file://" + system.Disk.ToHost("C:\\QUAKE\\ID1\\my.cfg")));
+    EXPECT_NE(launcher.Dropped.Word, "");
+    EXPECT_EQ(launcher.Dropped.Word.find("file:"), Text::npos) << launcher.Dropped.Word;
+}
+
 TEST_F(DropForm, AnEndlessTextIsCut) {
     EXPECT_TRUE(Target().OnDropText(wxString('x', 1'000'000)));
     EXPECT_LE(launcher.Dropped.Word.size(), 4097u);

@@ -7,6 +7,7 @@ namespace lv {
 TEST(CheckSum, IsTheOneOfZipArchives) {
     EXPECT_EQ(CheckSum(""), 0u);
     EXPECT_EQ(CheckSum("123456789"), 0xCBF43926u);
+    EXPECT_EQ(CheckSum("6789", CheckSum("12345")), 0xCBF43926u);
     EXPECT_EQ(CheckSum(Text("\0\xFF", 2)), 0x6CDBFD72u);
 }
 

@@ -2,6 +2,7 @@
 
 #include "catalogs/editors/add_server.h"
 #include "launcher/drop/offer_dropped.h"
+#include "launcher/setups/setup.h"
 #include "tests/launcher/drop/drop_fixture.h"
 
 namespace lv {
@@ -13,8 +14,8 @@ class JoinServer : public DropTest {
         const DroppedThing thing = ThingOf(system.Disk, link);
         EXPECT_EQ(thing.Kind, DroppedKind::Server) << link;
         std::vector<Text> titles;
-        for (const ListedProgram& program : ProgramsThatJoin(launcher, thing.Server)) {
-            titles.push_back(program.Title);
+        for (const JoinChoice& choice : ChoicesThatJoin(launcher, thing.Server)) {
+            titles.push_back(choice.Words.substr(0, choice.Words.find(" (")));
         }
         return titles;
     }
@@ -83,6 +84,27 @@ TEST_F(JoinServer, JoinPicksAddsTicksAndLaunches) {
     EXPECT_EQ(window.Box(Option::Map_Chk).Value, 0);
     EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"c:\\quake2\\lv_666.bat"}));
     EXPECT_EQ(system.Disk.Bytes("C:\\QUAKE2\\BASEQ2\\lv_666.qs"), "connect host.example:27910\r\n");
+}
+
+TEST_F(JoinServer, ASetupOfSuchAProgramJoinsWithAllThatIsInIt) {
+    LoadGames();
+    Click(Option::Game_Chk, 1);
+    lv::Setup setup = SetupOf(launcher);
+    setup.Name = "Flags";
+    ASSERT_TRUE(KeepSetup(run, launcher.Setups, setup));
+    Click(Option::Game_Chk, 0);
+    PickExe("C:\\HL\\HL.EXE");
+    EXPECT_EQ(Titles("quake://host"), (std::vector<Text>{"Quake", "Plain Quake", "QuakeWorld", "Setup: Flags"}));
+    EXPECT_EQ(Titles("quake2://host"), (std::vector<Text>{"Quake 2"}));
+    Drop("quake://host:26000", [](JoinServer_Frm& form) {
+        form.JoinPrograms_Lst.ListIndex = 3;
+        JoinServer_Join_Cmd_Click(form);
+    });
+    EXPECT_EQ(window.Exe_Cbo.ListIndex, 0);
+    EXPECT_EQ(run.CurrentGameDir, "CTF");
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 1);
+    EXPECT_EQ(window.Server_Cbo.Selected().substr(0, 10), "host:26000");
+    EXPECT_EQ(system.Programs.Started.size(), 1u);
 }
 
 TEST_F(JoinServer, AListedServerIsPickedWithItsPassword) {

@@ -3,6 +3,7 @@
 #include "catalogs/editors/add_exe.h"
 #include "foundation/topmost.h"
 #include "tests/launcher/drop/drop_fixture.h"
+#include "transfer/settings_text.h"
 
 namespace lv {
 namespace {
@@ -104,15 +105,22 @@ TEST_F(OfferDroppedTest, AProgramsTitleIsTheEnginesOrItsName) {
     Drop("C:\\QUAKE\\my,engine.exe");
 }
 
-TEST_F(OfferDroppedTest, ExportedSettingsGoToWhoImportsThem) {
+TEST_F(OfferDroppedTest, ExportedSettingsAreImportedAfterTheirQuestion) {
     LoadGames();
-    Put("C:\\D\\all.lv3d", "Lorvane 3D settings 1\n");
-    user.Expect({"Dropped File", "These can be dropped", 0});
+    Put("C:\\D\\all.lv3d", WriteSettingsText({{"Options", "Games", "Only;-game ctf"}}).Value);
+    user.Expect({"Import Settings", "in the place of yours?", 1});
     Drop("C:\\D\\all.lv3d");
-    std::vector<Text> imported;
-    launcher.ImportSettings = [&](TextView path) { imported.emplace_back(path); };
-    Drop("C:\\D\\all.lv3d");
-    EXPECT_EQ(imported, (std::vector<Text>{"C:\\D\\all.lv3d"}));
+    EXPECT_EQ(window.Exe_Cbo.Items.size(), 6u);
+}
+
+TEST_F(OfferDroppedTest, WhatOpensAWindowOfItsOwnAsksFirstIfThereWasMore) {
+    LoadGames();
+    Put("C:\\QUAKE\\WINQUAKE.EXE", "MZ");
+    user.Expect({"Dropped File", "This is the first of 2", 1, false, false, "&Go On,&Cancel"});
+    Drop("C:\\QUAKE\\WINQUAKE.EXE", 2);
+    user.Expect({"Dropped File", "This is the first of 2", 0});
+    user.In<AddExe_Frm>([](AddExe_Frm& form) { EXPECT_EQ(form.ExeTitle_Txt.Text, "WinQuake"); });
+    Drop("C:\\QUAKE\\WINQUAKE.EXE", 2);
 }
 
 }  // namespace
