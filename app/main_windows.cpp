@@ -15,7 +15,6 @@
 #include "launcher/window/window_life.h"
 #include "platform/windows/printed_text.h"
 #include "platform/windows/registry_settings.h"
-#include "platform/windows/system.h"
 #include "platform/windows/task_bar.h"
 #include "platform/windows/toolkit/access_keys.h"
 #include "platform/windows/windows_clock.h"

@@ -40,7 +40,7 @@ CommandResult ListPrograms(const CommandPlace& place) {
     CommandResult result;
     for (std::size_t i = 0; i < rows->Count(); ++i) {
         const Text path = ReplaceSameLength(Trim(rows->Field(i, 1)), "/", "\\");
-        const PlayedGame played = PlayedOf(run, path);
+        const PlayRecord played = PlayedOf(run, path);
         result.Out +=
             Join(Field(Trim(rows->Field(i, 0))), TabChar, GameName(run.System.Disk, path), TabChar, Field(path),
                  TabChar, LastPlayedField(played.Last), TabChar, PlayTimeText(played.Seconds), NewLine);

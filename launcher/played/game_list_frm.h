@@ -23,7 +23,7 @@ struct ListedGame {
     Text Title;
     Text Game;  // empty: of none that is known
     Text Path;
-    PlayedGame Played;
+    PlayRecord Played;
 };
 
 /// What a column says of it on the day `today`.

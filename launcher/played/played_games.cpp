@@ -31,7 +31,7 @@ TextView NextField(TextView& rest) {
     return field;
 }
 
-void Write(Run& run, TextView path, const PlayedGame& game) {
+void Write(Run& run, TextView path, const PlayRecord& game) {
     if (!PlayedKey(path).empty()) {
         (void)run.System.Settings.Write(run.AppName, kPlayed, PlayedKey(path), PlayedValue(game));
     }
@@ -43,8 +43,8 @@ Text PlayedKey(TextView path) {
     return LowerCase(ReplaceSameLength(Trim(path), "/", "\\"));
 }
 
-PlayedGame ReadPlayed(TextView value) {
-    PlayedGame game;
+PlayRecord ReadPlayed(TextView value) {
+    PlayRecord game;
     if (const auto last = ReadStamp(NextField(value))) {
         game.Last = Stamp(*last);
     }
@@ -53,17 +53,17 @@ PlayedGame ReadPlayed(TextView value) {
     return game;
 }
 
-Text PlayedValue(const PlayedGame& game) {
+Text PlayedValue(const PlayRecord& game) {
     return Join(game.Last, ";", std::to_string(game.Seconds), ";", std::to_string(game.Starts));
 }
 
-PlayedGame WithStart(PlayedGame game, const LocalTime& now) {
+PlayRecord WithStart(PlayRecord game, const LocalTime& now) {
     game.Last = Stamp(now);
     game.Starts = std::min(game.Starts + 1, kMostStarts);
     return game;
 }
 
-PlayedGame WithTime(PlayedGame game, double seconds) {
+PlayRecord WithTime(PlayRecord game, double seconds) {
     if (std::isfinite(seconds) && seconds > 0) {
         const double one = std::min(seconds, static_cast<double>(kLongestGame));
         game.Seconds = std::min<std::int64_t>(game.Seconds + std::llround(one), kMostSeconds);
@@ -71,9 +71,9 @@ PlayedGame WithTime(PlayedGame game, double seconds) {
     return game;
 }
 
-PlayedGame PlayedOf(Run& run, TextView path) {
+PlayRecord PlayedOf(Run& run, TextView path) {
     const Text key = PlayedKey(path);
-    return key.empty() ? PlayedGame() : ReadPlayed(GetSetting(run, run.AppName, kPlayed, key));
+    return key.empty() ? PlayRecord() : ReadPlayed(GetSetting(run, run.AppName, kPlayed, key));
 }
 
 void NotePlayStart(Run& run, TextView path) {
@@ -81,8 +81,8 @@ void NotePlayStart(Run& run, TextView path) {
 }
 
 void NotePlayEnd(Run& run, TextView path, double seconds) {
-    const PlayedGame before = PlayedOf(run, path);
-    const PlayedGame after = WithTime(before, seconds);
+    const PlayRecord before = PlayedOf(run, path);
+    const PlayRecord after = WithTime(before, seconds);
     if (after != before) {
         Write(run, path, after);
     }

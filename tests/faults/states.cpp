@@ -16,6 +16,7 @@ using Entries = std::map<std::string, std::string>;
 
 // Each start and each launch counts on.
 const std::set<std::string> kCounts = {"LV-Stuff/RunCount", "LV-Stuff/LaunchCount", "LV-Stuff/FirstRunOn"};
+constexpr const char* kPlayed = "Played/";  // a row a program
 
 std::optional<std::string> ValueIn(const Entries& entries, const std::string& name) {
     const auto found = entries.find(name);
@@ -50,7 +51,12 @@ void Compare(const Entries& before, const Entries& after, const Entries& now, co
 }  // namespace
 
 HomeState StateOf(const FaultyHome& home) {
-    const auto rows = home.Rows();
+    auto rows = home.Rows();
+    if (rows) {
+        std::erase_if(*rows, [](const auto& row) {
+            return row.first.starts_with(kPlayed) && std::ranges::count(row.second, ';') == 2;
+        });
+    }
     Entries files = home.Files();
     std::erase_if(files, [](const auto& file) {
         return file.first.find("/backups/settings ") != std::string::npos && ReadSettingsText(file.second).Ok();

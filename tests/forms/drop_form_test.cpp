@@ -52,7 +52,7 @@ TEST_F(DropForm, OfTextTheFirstLineCounts) {
 
 TEST_F(DropForm, ALinkToAFileIsThatFile) {
     EXPECT_TRUE(Target().OnDropText("file://" + system.Disk.ToHost("C:\\QUAKE\\ID1\\my.cfg")));
-    EXPECT_NE(launcher.Dropped.Word, "");
+    EXPECT_TRUE(launcher.Dropped.IsThere());
     EXPECT_EQ(launcher.Dropped.Word.find("file:"), Text::npos) << launcher.Dropped.Word;
 }
 

@@ -180,11 +180,11 @@ TEST_F(GameList, ListsTheExecutablesWithWhatIsKeptOfThem) {
     ASSERT_EQ(games.size(), 6u);
     EXPECT_EQ(games[0].Title, "Quake");
     EXPECT_EQ(games[0].Game, "Quake");
-    EXPECT_EQ(games[0].Played, PlayedGame());
+    EXPECT_EQ(games[0].Played, PlayRecord());
     EXPECT_EQ(games[3].Title, "Quake 2");
     EXPECT_EQ(games[3].Game, "Quake2");
     EXPECT_EQ(games[3].Path, "C:\\QUAKE2\\QUAKE2.EXE");
-    EXPECT_EQ(games[3].Played, (PlayedGame{"2024-02-28 10:00:00", 7200, 2}));
+    EXPECT_EQ(games[3].Played, (PlayRecord{"2024-02-28 10:00:00", 7200, 2}));
 }
 
 TEST_F(GameList, PickPicksTheRowInTheMainWindow) {

@@ -11,7 +11,7 @@ constexpr double kForever = std::numeric_limits<double>::infinity();
 
 struct ValueRow {
     const char* Value;
-    PlayedGame Game;
+    PlayRecord Game;
 };
 
 // clang-format off
@@ -49,10 +49,10 @@ TEST(ReadPlayed, TakesOfADamagedValueWhatMakesSense) {
 }
 
 TEST(WithStart, CountsAndBelievesTheClock) {
-    const PlayedGame first = WithStart({}, {2024, 3, 1, 14, 30, 5});
-    EXPECT_EQ(first, (PlayedGame{"2024-03-01 14:30:05", 0, 1}));
-    const PlayedGame second = WithStart(first, {2023, 1, 1, 0, 0, 0});
-    EXPECT_EQ(second, (PlayedGame{"2023-01-01 00:00:00", 0, 2}));
+    const PlayRecord first = WithStart({}, {2024, 3, 1, 14, 30, 5});
+    EXPECT_EQ(first, (PlayRecord{"2024-03-01 14:30:05", 0, 1}));
+    const PlayRecord second = WithStart(first, {2023, 1, 1, 0, 0, 0});
+    EXPECT_EQ(second, (PlayRecord{"2023-01-01 00:00:00", 0, 2}));
     EXPECT_EQ(WithStart({"", 0, 999'999}, {2024, 3, 1}).Starts, 999'999);
 }
 
@@ -72,15 +72,15 @@ TEST_F(PlayedGames, AreKeptByTheProgramsPath) {
     NotePlayStart(run, "C:/Quake/GLQUAKE.EXE ");
     EXPECT_EQ(Stored("Played", "c:\\quake\\glquake.exe"), "1999-11-21 12:30:00;0;1");
     NotePlayEnd(run, "c:\\QUAKE\\glquake.exe", 61);
-    EXPECT_EQ(PlayedOf(run, "C:\\QUAKE\\GLQUAKE.EXE"), (PlayedGame{"1999-11-21 12:30:00", 61, 1}));
-    EXPECT_EQ(PlayedOf(run, "C:\\QUAKE\\QUAKE.EXE"), PlayedGame());
+    EXPECT_EQ(PlayedOf(run, "C:\\QUAKE\\GLQUAKE.EXE"), (PlayRecord{"1999-11-21 12:30:00", 61, 1}));
+    EXPECT_EQ(PlayedOf(run, "C:\\QUAKE\\QUAKE.EXE"), PlayRecord());
 }
 
 TEST_F(PlayedGames, WithoutAPathNothingIsKept) {
     const std::size_t writes = system.Settings.Log.size();
     NotePlayStart(run, " ");
     NotePlayEnd(run, "", 60);
-    EXPECT_EQ(PlayedOf(run, ""), PlayedGame());
+    EXPECT_EQ(PlayedOf(run, ""), PlayRecord());
     EXPECT_EQ(system.Settings.Log.size(), writes);
 }
 
@@ -94,7 +94,7 @@ TEST_F(PlayedGames, AnEndWithoutASecondWritesNothing) {
 TEST_F(PlayedGames, AStoreThatTakesNothingKeepsNobodyFromAGame) {
     system.Settings.RefuseWrites = MakeError(error::kDiskFull);
     NotePlayStart(run, "C:\\Q.EXE");
-    EXPECT_EQ(PlayedOf(run, "C:\\Q.EXE"), PlayedGame());
+    EXPECT_EQ(PlayedOf(run, "C:\\Q.EXE"), PlayRecord());
 }
 
 }  // namespace
