@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "foundation/controls.h"
@@ -54,6 +55,8 @@ struct ScriptDocument : ScriptSettings {
     ListBox Section_Cbo;                                 // the sections' names, shown for Unreal only
     std::array<Text, 51> WeaponPriority;                 // as read; empty or "None" is a free place
     TabSet Options_Tab{{}, std::vector<TabPage>(5), 0};  // 3 "&QuakeWorld Skins", 4 "&Rate"
+
+    std::optional<Text> FileText;  // as it was read or last written; none of a file that takes long to read
 
     Text BackupDue;     // the path of a foreign script that there is no copy of yet
     Text FollowedLink;  // where the user has let a save follow a link, out of the game and their home

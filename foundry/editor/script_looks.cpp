@@ -42,7 +42,7 @@ struct SaveLook {
     Text Written;
     LocalTime Date;
     Console Its{};
-    EffectNames Edited;
+    ChangedNames Changed;
     SaveReport Report;
 };
 
@@ -59,14 +59,16 @@ std::optional<SaveLook> LookAtSave(Fig_Frm& form) {
     look.Date = run.System.Time.Now();
     look.Its = ConsoleOfDialect(document.Dialect);
     look.Written = ComposeScript(document, look.Date);
-    const ScriptDocument unedited = ReadScratch(run, document.Dialect, document.CurrentScriptPath, look.File);
-    look.Edited = EditedNames(ComposeScript(unedited, look.Date), look.Written, look.Its);
-    look.Report = ReportSave({look.File, look.Written}, look.Edited, document.Dialect, look.Its);
+    const Text& known = document.FileText ? *document.FileText : look.File;
+    const ScriptDocument unedited = ReadScratch(run, document.Dialect, document.CurrentScriptPath, known);
+    look.Changed.InEditor = DifferingNames(ComposeScript(unedited, look.Date), look.Written, look.Its);
+    look.Changed.OnDisk = DifferingNames(known, look.File, look.Its);
+    look.Report = ReportSave({look.File, look.Written}, look.Changed, document.Dialect, look.Its);
     return look;
 }
 
 void Keep(Fig_Frm& form, const SaveLook& look) {
-    if (KeepLosses(form.Document, look.File, look.Edited, look.Date, look.Its)) {
+    if (KeepLosses(form.Document, look.File, look.Changed, look.Date, look.Its)) {
         Edited(form);
         NoteEdit(form);
     }

@@ -227,7 +227,7 @@ std::vector<KeptLine> KeptLines(const SaveReport& report, const SaveTexts& texts
     return keeping.Lines();
 }
 
-bool KeepLosses(ScriptDocument& document, TextView file, const EffectNames& edited, const LocalTime& date,
+bool KeepLosses(ScriptDocument& document, TextView file, const ChangedNames& changed, const LocalTime& date,
                 Console console) {
     KeptSections sections(document, file);
     bool kept = false;
@@ -236,7 +236,7 @@ bool KeepLosses(ScriptDocument& document, TextView file, const EffectNames& edit
     for (int round = 0; round < kMostRounds && more; ++round) {
         const Text written = ComposeScript(document, date);
         const SaveTexts texts{file, written};
-        const SaveReport report = ReportSave(texts, edited, document.Dialect, console);
+        const SaveReport report = ReportSave(texts, changed, document.Dialect, console);
         more = sections.Put(KeptLines(report, texts, document.Dialect, console));
         kept = kept || more;
     }

@@ -25,7 +25,7 @@ std::vector<KeptLine> KeptLines(const SaveReport& report, const SaveTexts& texts
 
 /// Puts into the document's Free Form Additions what a save would lose, each line among those that stood around it in
 /// the file. False if there was nothing to keep.
-bool KeepLosses(ScriptDocument& document, TextView file, const EffectNames& edited, const LocalTime& date,
+bool KeepLosses(ScriptDocument& document, TextView file, const ChangedNames& changed, const LocalTime& date,
                 Console console);
 
 }  // namespace lv

@@ -40,15 +40,18 @@ Console ConsoleOfDialect(const ScriptDialect& dialect) {
     return ConsoleOf(dialect.GameKind, dialect.IsQuakeWorld);
 }
 
-EffectNames EditedNames(TextView unedited, TextView written, Console console) {
+EffectNames DifferingNames(TextView before, TextView after, Console console) {
     EffectNames names;
-    for (const ScriptDifference& each : CompareScripts(EffectsOf(unedited, console), EffectsOf(written, console))) {
+    if (before == after) {
+        return names;
+    }
+    for (const ScriptDifference& each : CompareScripts(EffectsOf(before, console), EffectsOf(after, console))) {
         names.emplace(each.What, each.Identity);
     }
     return names;
 }
 
-SaveReport ReportSave(const SaveTexts& texts, const EffectNames& edited, const ScriptDialect& dialect,
+SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const ScriptDialect& dialect,
                       Console console) {
     const ScriptEffects file = EffectsOf(texts.File, console);
     const ScriptEffects written = EffectsOf(texts.Written, console);
@@ -60,9 +63,13 @@ SaveReport ReportSave(const SaveTexts& texts, const EffectNames& edited, const S
             continue;
         }
         SaveLoss loss;
-        loss.ByUser = edited.contains({difference.What, difference.Identity});
+        const auto name = std::pair(difference.What, difference.Identity);
+        const bool isOnDisk = changed.OnDisk.contains(name);
+        loss.ByUser = !isOnDisk && changed.InEditor.contains(name);
         loss.Words = WordsOf(difference);
-        loss.Reason = loss.ByUser ? Text("You have changed it.") : reasons.ReasonOf(difference);
+        loss.Reason = loss.ByUser ? Text("You have changed it.")
+                      : isOnDisk  ? Text("The file was changed after Setup Foundry had read it.")
+                                  : reasons.ReasonOf(difference);
         loss.Difference = std::move(difference);
         report.Losses.push_back(std::move(loss));
     }

@@ -21,13 +21,18 @@ struct SaveTexts {
 /// What a script sets, by kind and the identity of its name.
 using EffectNames = std::set<std::pair<EffectKind, Text>>;
 
-/// What the user has changed in the editor: the written text beside the one that a save would have written right after
-/// opening. All else that differs from the file has come from reading and writing.
-EffectNames EditedNames(TextView unedited, TextView written, Console console);
+/// What two texts set otherwise.
+EffectNames DifferingNames(TextView before, TextView after, Console console);
+
+/// Who has changed what. All else that differs between file and text-to-be has come from reading and writing.
+struct ChangedNames {
+    EffectNames InEditor;  // between what a save would have written right after opening, and the text-to-be
+    EffectNames OnDisk;    // between the file as the editor has read or written it last, and as it is now
+};
 
 struct SaveLoss {
     ScriptDifference Difference;
-    bool ByUser = false;  // they have changed it in the editor
+    bool ByUser = false;  // they have changed it in the editor, and nobody else has in the file
     Text Words;           // "The key ESCAPE loses \"togglemenu\"."
     Text Reason;          // "Setup Foundry has no key ESCAPE."
 };
@@ -40,7 +45,8 @@ struct SaveReport {
 /// The console that scripts of this dialect are written for, unless it is known which engine runs them.
 Console ConsoleOfDialect(const ScriptDialect& dialect);
 
-SaveReport ReportSave(const SaveTexts& texts, const EffectNames& edited, const ScriptDialect& dialect, Console console);
+SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const ScriptDialect& dialect,
+                      Console console);
 
 /// Whether something would be lost, changed or moved that the user has not changed themselves.
 bool LosesSomething(const SaveReport& report);

@@ -1,5 +1,7 @@
 #include "foundry/reading/open_script.h"
 
+#include <utility>
+
 #include "foundation/bounded_file.h"
 #include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
@@ -75,6 +77,14 @@ void BackUp(Run& run, ScriptDocument& document, TextView path) {
     }
 }
 
+/// What the editor is to know of the file later, when somebody else may have written it.
+void KeepFileText(Run& run, ScriptDocument& document, TextView path) {
+    Result<Text> text = ReadBounded(run.System.Disk, path, kLargeScript);
+    if (text.Ok()) {
+        document.FileText = std::move(text.Value);
+    }
+}
+
 /// The view sees the keys of an older script come free, and all rows change.
 void MakeAnew(ScriptDocument& document, ScriptView& view, const ScriptDialect& dialect) {
     for (KeyIndex key = 0; key < kKeyCount; ++key) {
@@ -112,6 +122,7 @@ bool OpenScriptFrom(Run& run, ScriptDocument& document, ScriptView& view, TextVi
         return false;
     }
     document.Caption = EditorCaption(given);
+    KeepFileText(run, document, given);
     if (reading->Foreign) {
         BackUp(run, document, given);
     }

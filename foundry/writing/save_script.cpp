@@ -1,8 +1,10 @@
 #include "foundry/writing/save_script.h"
 
 #include <exception>
+#include <utility>
 
 #include "catalogs/scripts.h"
+#include "foundation/bounded_file.h"
 #include "foundation/browse.h"
 #include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
@@ -127,15 +129,20 @@ bool KeepsWhatItReplaces(Run& run, const Text& path, bool quiet) {
     return answer == 0 || SayNotSaved(run);
 }
 
-Error Put(Run& run, const ScriptDocument& document, const Text& path) {
+Error Put(Run& run, ScriptDocument& document, const Text& path) {
     try {
-        return run.System.Disk.Replace(path, ComposeScript(document, run.System.Time.Now()));
+        Text script = ComposeScript(document, run.System.Time.Now());
+        Error failed = run.System.Disk.Replace(path, script);
+        if (!failed) {
+            document.FileText = script.size() <= kLargeScript ? std::optional<Text>(std::move(script)) : std::nullopt;
+        }
+        return failed;
     } catch (const std::exception& thrown) {
         return ErrorOfException(thrown);
     }
 }
 
-bool Write(Run& run, const ScriptDocument& document, const Text& path) {
+bool Write(Run& run, ScriptDocument& document, const Text& path) {
     if (const Error failed = Put(run, document, path)) {
         AskUser(run, kFailed, ErrorLines(failed));
         return false;

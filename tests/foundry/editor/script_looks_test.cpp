@@ -152,6 +152,26 @@ TEST_F(SaveLooks, AScriptWithoutLossesIsSavedWithoutAWord) {
     EXPECT_EQ(Saves(), 1);
 }
 
+TEST_F(SaveLooks, WhatSomebodyElseWroteMeanwhileIsShownAndKept) {
+    OpenAndLoad(kQuakeDialect, "");
+    Change();
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    for (const TextView said : {"say NEW", "say AGAIN"}) {
+        const Text known = system.Disk.Bytes(kEditedScript);
+        system.Disk.AddFile(Text(kEditedScript), Join(known, "\r\nbind m \"", said, "\"\r\n"));
+        user.In<Changes_Frm>([&](Changes_Frm& changes) {
+            ASSERT_FALSE(changes.Losses_Lst.Items.empty());
+            EXPECT_TRUE(Holds(changes.Losses_Lst.Items[0], said)) << changes.Losses_Lst.Items[0];
+            EXPECT_TRUE(Holds(changes.Losses_Lst.Items[0], "The file was changed after Setup Foundry had read it."));
+            Changes_Keep_Cmd_Click(changes);
+        });
+        ExpectSuccess();
+        View_Cmd_Click(form, 6);
+        EXPECT_TRUE(Holds(system.Disk.Bytes(kEditedScript), Join("bind m \"", said, "\"")));
+    }
+}
+
 TEST_F(SaveLooks, WhatTheUserChangesIsNoLoss) {
     OpenAndLoad(kQuakeDialect, "bind x +attack\nbind y +jump\n");
     UnbindKey(form.Document, form, KeyFromName("y"));

@@ -77,8 +77,8 @@ TEST(KeepLosses, LeavesAloneWhatTheUserHasChanged) {
     ScriptDocument document = ReadScript(kQuakeDialect, file);
     const Text unedited = ComposeScript(document, kScriptDay);
     Bind(document, KeyFromName("a"), "+jump");
-    const EffectNames edited = EditedNames(unedited, ComposeScript(document, kScriptDay), Console::Quake);
-    EXPECT_TRUE(KeepLosses(document, file, edited, kScriptDay, Console::Quake));
+    const ChangedNames changed{DifferingNames(unedited, ComposeScript(document, kScriptDay), Console::Quake), {}};
+    EXPECT_TRUE(KeepLosses(document, file, changed, kScriptDay, Console::Quake));
     EXPECT_EQ(document.Sections.at(0).Text, "bind b \"slot2\"");
 }
 

@@ -197,8 +197,8 @@ TEST(ReportSave, TellsWhatTheUserHasChangedFromWhatIsLost) {
     Bind(document, KeyFromName("a"), "+jump");
     document.Sections.at(0).Text.clear();
     const Text written = ComposeScript(document, kScriptDay);
-    const EffectNames edited = EditedNames(unedited, written, Console::Quake);
-    const SaveReport report = ReportSave({file, written}, edited, kQuakeDialect, Console::Quake);
+    const ChangedNames changed{DifferingNames(unedited, written, Console::Quake), {}};
+    const SaveReport report = ReportSave({file, written}, changed, kQuakeDialect, Console::Quake);
     ASSERT_GE(report.Losses.size(), 3U);
     EXPECT_EQ(report.Losses[0].Words, "The key a gets \"+jump\" and was \"+attack\".");
     EXPECT_TRUE(report.Losses[0].ByUser);
@@ -207,6 +207,29 @@ TEST(ReportSave, TellsWhatTheUserHasChangedFromWhatIsLost) {
     EXPECT_FALSE(report.Losses[1].ByUser);
     EXPECT_EQ(report.Losses[2].Words, "\"echo mine\" is lost.");
     EXPECT_TRUE(report.Losses[2].ByUser);
+}
+
+TEST(ReportSave, TellsWhatSomebodyElseHasWrittenIntoTheFileMeanwhile) {
+    const Text known = WrittenOf(kQuakeDialect, "name P\nbind a \"+attack\"\nbind b \"+jump\"\nbind m \"+back\"");
+    const Text file = Join(known, "\r\nbind m \"say NEW\"\r\nalias fresh \"echo hi\"\r\nbind b \"+forward\"");
+    ScriptDocument document = ReadScript(kQuakeDialect, known);
+    Bind(document, KeyFromName("a"), "+left");
+    Bind(document, KeyFromName("b"), "+right");
+    const Text written = ComposeScript(document, kScriptDay);
+    const ChangedNames changed{DifferingNames(known, written, Console::Quake),
+                               DifferingNames(known, file, Console::Quake)};
+    const SaveReport report = ReportSave({file, written}, changed, kQuakeDialect, Console::Quake);
+    Text rows;
+    for (const SaveLoss& loss : report.Losses) {
+        rows += Join(loss.ByUser ? "user: " : "else: ", loss.Words, Blank, loss.Reason, "\n");
+    }
+    EXPECT_EQ(rows,
+              "user: The key a gets \"+left\" and was \"+attack\". You have changed it.\n"
+              "else: The key b gets \"+right\" and was \"+forward\". The file was changed after Setup Foundry had "
+              "read it.\n"
+              "else: The key m gets \"+back\" and was \"say NEW\". The file was changed after Setup Foundry had read "
+              "it.\n"
+              "else: The alias fresh is lost: \"echo hi\". The file was changed after Setup Foundry had read it.\n");
 }
 
 TEST(ReportSave, WarnsOfAScriptThatOutgrowsTheConsole) {
