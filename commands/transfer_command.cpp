@@ -28,6 +28,7 @@ Text Lines(TextView head, const std::vector<Text>& rows) {
 
 Text Moves(const std::vector<PathMove>& moves) {
     std::vector<Text> rows;
+    rows.reserve(moves.size());
     for (const PathMove& move : moves) {
         rows.push_back(Join(move.From, " -> ", move.To));
     }

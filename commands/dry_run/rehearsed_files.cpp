@@ -43,11 +43,13 @@ RehearsedFiles::~RehearsedFiles() {
 
 std::vector<RehearsedChange> RehearsedFiles::Changes() const {
     std::vector<Kept> kept;
+    kept.reserve(changes_.size());
     for (const auto& [key, each] : changes_) {
         kept.push_back(each);
     }
     std::ranges::sort(kept, {}, &Kept::Order);
     std::vector<RehearsedChange> changes;
+    changes.reserve(kept.size());
     for (Kept& each : kept) {
         changes.push_back(std::move(each.Change));
     }
