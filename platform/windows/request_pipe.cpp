@@ -16,6 +16,7 @@ constexpr DWORD kLongestQuestionMs = 500;
 constexpr DWORD kLongestReadingMs = 5000;  // of an answer
 constexpr DWORD kLongestWorkMs = 30000;
 constexpr DWORD kLookMs = 10;
+constexpr DWORD kLongestBusyMs = 6000;
 constexpr std::size_t kLengthDigits = 6;
 constexpr std::size_t kLargestReply = 4U << 20U;
 
@@ -47,6 +48,19 @@ std::size_t LengthIn(std::string_view said) {
         length = length * 10 + static_cast<std::size_t>(c - '0');
     }
     return length <= kLongestRequest ? length : 0;
+}
+
+/// While somebody else is being answered it is waited for, a moment.
+HANDLE Connect(const std::wstring& name) {
+    for (DWORD waited = 0;; waited += kLookMs) {
+        // Whoever has the name may not act as this user.
+        HANDLE pipe = CreateFileW(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                  SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION, nullptr);
+        if (pipe != INVALID_HANDLE_VALUE || GetLastError() != ERROR_PIPE_BUSY || waited >= kLongestBusyMs) {
+            return pipe;
+        }
+        Sleep(kLookMs);
+    }
 }
 
 }  // namespace
@@ -129,9 +143,7 @@ void RequestPipe::Serve(const std::function<std::string(std::string_view)>& answ
 }
 
 std::optional<std::string> RequestPipe::Ask(const std::wstring& name, std::string_view request) {
-    // Whoever has the name may not act as this user.
-    const FileHandle pipe(CreateFileW(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
-                                      SECURITY_SQOS_PRESENT | SECURITY_IDENTIFICATION, nullptr));
+    const FileHandle pipe(Connect(name));
     if (!pipe.IsOpen() || request.empty() || request.size() > kLongestRequest) {
         return std::nullopt;
     }
