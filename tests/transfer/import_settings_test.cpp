@@ -54,7 +54,7 @@ class ImportSettingsTest : public Transfer {
         there.Put("Options", "Scripts", "my.cfg;c:\\games\\quake\\id1\\my.cfg");
         there.Put("Options", "Games", "Capture the Flag;-game ctf");
         there.Put("Options", "NetServers", "Home;localhost;26000;0;secret");
-        there.Put("Options", "CustomCommandLineText", Text("+name \"\xC9t\xE9\0\t\r\n\"", 17));
+        there.Put("Options", "CustomCommandLineText", Text("+name \"\xC9t\xE9\0\t\r\n\"", 15));
         there.Put("Options", "VideoProfileList", "Base;Fast");
         there.Put("Options", "ResolutionsPos", "3");
         there.Put("Fast", "ResolutionsPos", "4");
