@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "foundation/field_strings.h"
+#include "foundation/percent_text.h"
 
 namespace lv {
 
@@ -93,21 +94,7 @@ Text Escaped(TextView text) {
 }
 
 std::optional<Text> Unescaped(TextView text) {
-    Text bytes;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '%') {
-            bytes += text[i];
-            continue;
-        }
-        const std::size_t high = i + 1 < text.size() ? kHexDigits.find(text[i + 1]) : TextView::npos;
-        const std::size_t low = i + 2 < text.size() ? kHexDigits.find(text[i + 2]) : TextView::npos;
-        if (high == TextView::npos || low == TextView::npos) {
-            return std::nullopt;
-        }
-        bytes += static_cast<char>(high * kHexBase + low);
-        i += 2;
-    }
-    return bytes;
+    return FromPercentText(text);
 }
 
 Text TextOfSetup(const Setup& setup) {
