@@ -88,9 +88,9 @@ Text RecordOf(const ScriptVersion& version, const Text* newer, std::size_t total
     const Text delta = newer != nullptr ? MakeDelta(*newer, version.Text) : Text();
     const bool isWhole = newer == nullptr || delta.size() >= version.Text.size();
     const Text& payload = isWhole ? version.Text : delta;
-    const Text line =
-        Join(DateText(version.Date), " ", isWhole ? kWhole : kDelta, " ", std::to_string(version.Text.size()), " ",
-             std::to_string(payload.size()), " ", CheckSumText(CheckSum(version.Text)), " ", std::to_string(total), " ");
+    const Text line = Join(DateText(version.Date), " ", isWhole ? kWhole : kDelta, " ",
+                           std::to_string(version.Text.size()), " ", std::to_string(payload.size()), " ",
+                           CheckSumText(CheckSum(version.Text)), " ", std::to_string(total), " ");
     return Join(line, CheckSumText(CheckSum(payload, CheckSum(line))), "\n", payload, "\n");
 }
 

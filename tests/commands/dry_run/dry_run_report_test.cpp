@@ -13,7 +13,9 @@ class DryRunReportTest : public LauncherTest {
         Load();
         ASSERT_TRUE(PickExecutable(launcher, "C:\\QUAKE\\GLQUAKE.EXE"));
     }
-    DryRunReport Report(TextView said = "") { return ReportOf({disk, programs, registry, launcher, {}, lv::Text(said)}); }
+    DryRunReport Report(TextView said = "") {
+        return ReportOf({disk, programs, registry, launcher, {}, lv::Text(said)});
+    }
     RehearsedFiles disk{system.Disk};
     RehearsedPrograms programs{system.Programs, disk};
     RehearsedRegistry registry{system.Registry};
