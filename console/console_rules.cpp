@@ -31,7 +31,7 @@ constexpr ConsoleRules kConsoles[] = {
     {Console::Sin,        "Sin",         1024,  80,   127,   8192, 31,   Overruns, kSplits,     "",          true,    true,  false, false, true,  Joined, OwnKeys, NewestRuns, true,   false, has::kSet},
     {Console::EzQuake,    "ezQuake",     1023,  80,  1023, 262144, 31,   Cut,      kUnquoted,   "",          false,   false, false, false, false, Joined, Small,   AreOne,     false, false, has::kSet | kUnaliases},
     {Console::Ironwail,   "Ironwail",    1023,  80,  1023, 262144, 31,   Cut,      kAnywhere,   "",          true,    false, false, false, false, One,    OwnKeys, NewestRuns, true,   true,  kUnaliases},
-    {Console::DarkPlaces, "DarkPlaces", 16383,  80, 16383, 655360, 31,   Dropped,  kAfterBlank, "",          false,   false, true,  true,  false, One,    Small,   FirstRuns,  true,   true,  has::kSet | has::kSeta | kUnaliases},
+    {Console::DarkPlaces, "DarkPlaces", 16383,  80, 16383, 655360, 31,   Dropped,  kAfterBlank, "",          false,   false, true,  true,  false, One,    Small,   FirstRuns,  true,   true,  has::kSet | has::kSeta | has::kUnalias},
     {Console::Fte,        "FTE",             0, 80,     0,      0, 31,   Cut,      kUnquoted,   "",          false,   false, false, false, false, Joined, Small,   AreOne,     true,   false, has::kSet | has::kSeta | kUnaliases},
     {Console::Yamagi,     "Yamagi",      1023,  80,  1023,  32768, 31,   Cut,      kSplits,     "",          true,    false, false, false, true,  Joined, OwnKeys, NewestRuns, true,   false, has::kSet},
     {Console::Q2Pro,      "Q2PRO",       1023, 256,  1023,      0, 31,   Dropped,  kSplits,     "",          true,    false, false, false, true,  Joined, OwnKeys, NewestRuns, true,   false, kAllSets | has::kUnalias},

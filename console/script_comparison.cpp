@@ -90,7 +90,7 @@ class Comparison {
     };
 
     void CompareTables(const EffectTable& before, const EffectTable& after, All all, AllBy by);
-    void CompareOne(const Text& identity, const Effect* before, const Effect* after, All all);
+    void CompareOne(const Text& identity, const Effect* before, const Effect* after, All all, AllBy by);
     [[nodiscard]] bool SameEffect(const Effect& before, const Effect& after) const;
     void Add(DifferenceKind kind, const Text& identity, const Effect* before, const Effect* after);
 
@@ -117,7 +117,16 @@ bool Comparison::SameEffect(const Effect& before, const Effect& after) const {
                                               : SameCommands(before.Value, after.Value, before_.Of);
 }
 
-void Comparison::CompareOne(const Text& identity, const Effect* before, const Effect* after, All all) {
+/// What "unbindall" did to this key.
+Effect FreedByAll(const Effect& all, const Effect& of) {
+    Effect freed = all;
+    freed.Name = of.Name;
+    freed.IsSet = false;
+    freed.IsOfAll = true;
+    return freed;
+}
+
+void Comparison::CompareOne(const Text& identity, const Effect* before, const Effect* after, All all, AllBy by) {
     const bool isSetBefore = before != nullptr && before->IsSet;
     const bool isSetAfter = after != nullptr && after->IsSet;
     if (isSetBefore) {
@@ -130,7 +139,10 @@ void Comparison::CompareOne(const Text& identity, const Effect* before, const Ef
     }
     const bool isFreeBefore = before != nullptr || all.Before;
     const bool isFreeAfter = (after != nullptr && !isSetAfter) || (after == nullptr && all.After);
-    if (isSetAfter) {
+    if (isSetAfter && before == nullptr && all.Before) {
+        const Effect freed = FreedByAll(*by.Before, *after);
+        Add(DifferenceKind::Changed, identity, &freed, after);
+    } else if (isSetAfter) {
         Add(before != nullptr ? DifferenceKind::Changed : DifferenceKind::Added, identity, before, after);
     } else if (isFreeBefore && !isFreeAfter) {
         Add(DifferenceKind::Lost, identity, before, after);
@@ -147,12 +159,12 @@ void Comparison::CompareTables(const EffectTable& before, const EffectTable& aft
     }
     for (std::size_t i = 0; i < before.All().size(); ++i) {
         const Text& identity = before.IdentityAt(i);
-        CompareOne(identity, &before.All()[i], after.Find(identity), all);
+        CompareOne(identity, &before.All()[i], after.Find(identity), all, by);
     }
     for (std::size_t i = 0; i < after.All().size(); ++i) {
         const Text& identity = after.IdentityAt(i);
         if (before.Find(identity) == nullptr) {
-            CompareOne(identity, nullptr, &after.All()[i], all);
+            CompareOne(identity, nullptr, &after.All()[i], all, by);
         }
     }
 }

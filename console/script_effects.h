@@ -24,6 +24,7 @@ struct Effect {
     Text Value{};          // the command, the body, the value; an action's words
     bool IsSet = true;     // false: the key is free, or the alias gone
     bool IsOwn = true;     // false: an alias that the script called did it
+    bool IsOfAll = false;  // a command did it that frees all keys, or removes all aliases
     std::size_t Line = 0;  // from 1, of the script
     std::size_t Turn = 0;  // how many effects were there before
     Text Source{};         // the command as the script spells it; an ini's whole line

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "console/checks/named_bodies.h"
+#include "console/engine_consoles.h"
 #include "console/files/played_of_run.h"
 #include "foundation/bounded_file.h"
 #include "foundation/field_strings.h"
@@ -15,7 +16,7 @@
 #include "foundry/look/launch_looks.h"
 #include "foundry/look/script_check_frm.h"
 #include "foundry/look/versions_frm.h"
-#include "foundry/losses/kept_lines.h"
+#include "foundry/losses/keep_plan.h"
 #include "foundry/reading/open_script.h"
 #include "foundry/reading/scratch_script.h"
 #include "foundry/writing/compose_script.h"
@@ -36,6 +37,22 @@ void ReadAgain(Fig_Frm& form) {
     NoteSaved(form);
 }
 
+const Engine* EngineInUse(const Fig_Frm& form) {
+    const ImageCombo& executables = form.Lists.Exe_Cbo;
+    return form.Lists.Engines != nullptr && executables.HasSelection()
+               ? EngineOf(*form.Lists.Engines,
+                          LastPathPart(executables.Items[static_cast<std::size_t>(executables.ListIndex)].Key))
+               : nullptr;
+}
+
+/// That of the engine that is picked to play the script, and of the game itself without one.
+Console ConsoleInUse(const Fig_Frm& form) {
+    const ScriptDialect& dialect = form.Document.Dialect;
+    const Engine* const engine = EngineInUse(form);
+    return engine != nullptr ? ConsoleOfEngine(*engine, dialect.GameKind, dialect.IsQuakeWorld)
+                             : ConsoleOfDialect(dialect);
+}
+
 /// What a save would make of the file.
 struct SaveLook {
     Text File;
@@ -44,6 +61,7 @@ struct SaveLook {
     Console Its{};
     ChangedNames Changed;
     SaveReport Report;
+    KeepPlan Plan;  // where something is lost
 };
 
 /// Nothing for a file that is not there, or that takes long to read.
@@ -57,29 +75,29 @@ std::optional<SaveLook> LookAtSave(Fig_Frm& form) {
     SaveLook look;
     look.File = std::move(file.Value);
     look.Date = run.System.Time.Now();
-    look.Its = ConsoleOfDialect(document.Dialect);
+    look.Its = ConsoleInUse(form);
     look.Written = ComposeScript(document, look.Date);
     const Text& known = document.FileText ? *document.FileText : look.File;
     const ScriptDocument unedited = ReadScratch(run, document.Dialect, document.CurrentScriptPath, known);
     look.Changed.InEditor = DifferingNames(ComposeScript(unedited, look.Date), look.Written, look.Its);
     look.Changed.OnDisk = DifferingNames(known, look.File, look.Its);
     look.Report = ReportSave({look.File, look.Written}, look.Changed, document.Dialect, look.Its);
+    if (LosesSomething(look.Report)) {
+        const auto resave = [&](TextView script) {
+            return ComposeScript(ReadScratch(run, document.Dialect, document.CurrentScriptPath, script), look.Date);
+        };
+        look.Plan = PlanKeeping(document, look.File, look.Changed, resave, look.Date, look.Its);
+        MarkWhatIsLeft(look.Report, look.Plan);
+    }
     return look;
 }
 
 void Keep(Fig_Frm& form, const SaveLook& look) {
-    if (KeepLosses(form.Document, look.File, look.Changed, look.Date, look.Its)) {
+    if (look.Plan.Keeps) {
+        form.Document.Sections = look.Plan.Sections;
         Edited(form);
         NoteEdit(form);
     }
-}
-
-const Engine* EngineInUse(const Fig_Frm& form) {
-    const ImageCombo& executables = form.Lists.Exe_Cbo;
-    return form.Lists.Engines != nullptr && executables.HasSelection()
-               ? EngineOf(*form.Lists.Engines,
-                          LastPathPart(executables.Items[static_cast<std::size_t>(executables.ListIndex)].Key))
-               : nullptr;
 }
 
 /// The file where it is not edited, and else what a save would write.

@@ -12,15 +12,33 @@ Text CountText(std::size_t count, TextView one, TextView many) {
     return Join(std::to_string(count), Blank, count == 1 ? one : many);
 }
 
+Text KeptText(std::size_t changed, std::size_t kept, bool keeps) {
+    if (!keeps) {
+        return changed == 1 ? "It cannot be kept:" : "They cannot be kept:";
+    }
+    if (kept == 0) {
+        return "'Keep These' sees to it that the next save changes nothing more:";
+    }
+    return kept == changed ? Join("'Keep These' saves ", changed == 1 ? "it" : "them", " too:")
+                           : Join("'Keep These' saves ", std::to_string(kept), " of them too:");
+}
+
 Text Heading(const SaveReport& report, const std::vector<SaveLoss>& losses) {
     if (!report.TooLong.empty()) {
         return report.TooLong;
     }
-    const auto lost = static_cast<std::size_t>(std::ranges::count_if(
-        losses, [](const SaveLoss& each) { return !each.ByUser && each.Difference.Kind != DifferenceKind::Added; }));
-    if (lost > 0) {
-        return Join("For the game this save loses or changes ", CountText(lost, "thing", "things"),
-                    " that you have not changed yourself. 'Keep These' saves ", lost == 1 ? "it" : "them", " too:");
+    if (report.IsOfNothing) {
+        return "The file says nothing to the game yet. For the game this save adds:";
+    }
+    std::size_t changed = 0;
+    std::size_t kept = 0;
+    for (const SaveLoss& each : losses) {
+        changed += each.ByUser ? 0 : 1;
+        kept += each.ByUser || !each.CanKeep ? 0 : 1;
+    }
+    if (changed > 0) {
+        return Join("For the game this save loses or changes ", CountText(changed, "thing", "things"),
+                    " that you have not changed yourself. ", KeptText(changed, kept, report.Keeps));
     }
     return losses.empty() ? "For the game this save changes nothing."
                           : "For the game this save changes nothing but what you have changed yourself:";
@@ -38,7 +56,8 @@ Text LossText(const SaveLoss& loss) {
     if (loss.ByUser) {
         return Join(loss.Words, " You have changed that.");
     }
-    return loss.Reason.empty() ? loss.Words : Join(loss.Words, Blank, loss.Reason);
+    const bool cannotKeep = !loss.CanKeep && loss.Difference.Kind != DifferenceKind::Added;
+    return Join(loss.Words, loss.Reason.empty() ? "" : " ", loss.Reason, cannotKeep ? " It cannot be kept." : "");
 }
 
 Changes_Frm::Changes_Frm(Run& owner, const SaveReport& report, const SaveTexts& texts, ChangesTime time)
@@ -59,7 +78,7 @@ Changes_Frm::Changes_Frm(Run& owner, const SaveReport& report, const SaveTexts& 
     NextChange_Cmd.Enabled = Difference_Lst.Changes() > 0;
     Keep_Cmd.Caption = "&Keep These";
     Keep_Cmd.ToolTip = "Put what would be lost into the Free Form Additions, which are saved to the letter";
-    Keep_Cmd.Enabled = LosesSomething(report);
+    Keep_Cmd.Enabled = report.Keeps;
     Keep_Cmd.Default = Keep_Cmd.Enabled;
     Save_Cmd.Caption = "&Save Anyway";
     Save_Cmd.ToolTip = "Save the script without them. What the file holds now is kept as a version";

@@ -1,7 +1,9 @@
 #include "foundry/losses/free_form_places.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_map>
+#include <utility>
 
 #include "console/text_difference.h"
 #include "foundation/field_strings.h"
@@ -35,28 +37,56 @@ std::unordered_map<Text, std::vector<std::size_t>> PlacesOf(TextView file) {
 
 }  // namespace
 
-FreeFormPlaces::FreeFormPlaces(TextView freeForm, TextView file) {
+FreeFormPlaces::FreeFormPlaces(TextView freeForm, TextView file) : original_(freeForm) {
     const auto places = PlacesOf(file);
-    std::size_t fileLine = 0;
+    std::size_t fileLine = kAheadOfAll;
     for (const TextView line : LinesOf(freeForm)) {
         const auto found = places.find(AsKept(line));
+        bool isOfFile = false;
         if (found != places.end()) {
             const auto place = std::ranges::upper_bound(found->second, fileLine);
-            fileLine = place == found->second.end() ? fileLine : *place;
+            isOfFile = place != found->second.end();
+            fileLine = isOfFile ? *place : fileLine;
         }
-        lines_.push_back({Text(line), fileLine});
+        lines_.push_back({.Line = Text(line), .FileLine = fileLine, .IsOfFile = isOfFile});
     }
 }
 
 void FreeFormPlaces::Insert(TextView line, std::size_t fileLine) {
-    lines_.push_back({Text(line), fileLine});
+    const auto place = std::ranges::upper_bound(lines_, fileLine, {}, &PlacedLine::FileLine);
+    lines_.insert(place, {.Line = Text(line), .FileLine = fileLine, .IsInserted = true});
 }
 
-Text FreeFormPlaces::Joined() {
-    std::ranges::stable_sort(lines_, {}, &PlacedLine::FileLine);
+void FreeFormPlaces::Hide(std::size_t fileLine) {
+    for (PlacedLine& each : lines_) {
+        each.IsHidden = each.IsHidden || (each.IsOfFile && each.FileLine == fileLine);
+    }
+}
+
+void FreeFormPlaces::TakeBack(TextView line, std::size_t fileLine) {
+    const auto found = std::find_if(lines_.rbegin(), lines_.rend(),
+                                    [line](const PlacedLine& each) { return each.IsInserted && each.Line == line; });
+    if (found == lines_.rend()) {
+        return;
+    }
+    lines_.erase(std::next(found).base());
+    for (PlacedLine& each : lines_) {
+        each.IsHidden = each.IsHidden && each.FileLine != fileLine;
+    }
+}
+
+Text FreeFormPlaces::Joined() const {
+    const bool isTouched =
+        std::ranges::any_of(lines_, [](const PlacedLine& each) { return each.IsInserted || each.IsHidden; });
+    if (!isTouched) {
+        return original_;
+    }
     Text text;
+    bool isFirst = true;
     for (const PlacedLine& each : lines_) {
-        text.append(&each == lines_.data() ? TextView() : NewLine).append(each.Line);
+        if (!each.IsHidden) {
+            text.append(std::exchange(isFirst, false) ? TextView() : NewLine).append(each.Line);
+        }
     }
     return text;
 }

@@ -11,7 +11,8 @@
 
 namespace lv {
 
-/// Behind all lines.
+/// Ahead of all lines, and behind them.
+constexpr std::size_t kAheadOfAll = 0;
 constexpr std::size_t kBehindAll = static_cast<std::size_t>(-1);
 
 class FreeFormPlaces {
@@ -22,16 +23,24 @@ class FreeFormPlaces {
 
     /// Ahead of the first line that stands further down in the file, from 1.
     void Insert(TextView line, std::size_t fileLine);
+    /// What the reader has left of this line of the file stands no longer, as another line holds all of it.
+    void Hide(std::size_t fileLine);
+    /// Undoes the last Insert of the line, and what was hidden for it: what was left of that line of the file.
+    void TakeBack(TextView line, std::size_t fileLine);
 
     /// The lines, parted by CR LF.
-    [[nodiscard]] Text Joined();
+    [[nodiscard]] Text Joined() const;
 
   private:
     struct PlacedLine {
         Text Line;
         std::size_t FileLine = 0;
+        bool IsOfFile = false;  // is what the reader has left of that line
+        bool IsInserted = false;
+        bool IsHidden = false;
     };
 
+    Text original_;
     std::vector<PlacedLine> lines_;
 };
 

@@ -1,30 +1,29 @@
 #include "foundry/losses/kept_lines.h"
 
 #include <algorithm>
-#include <map>
 #include <set>
 #include <utility>
 
+#include "console/text_difference.h"
 #include "foundation/field_strings.h"
-#include "foundry/losses/free_form_places.h"
-#include "foundry/tables/keys.h"
-#include "foundry/writing/compose_script.h"
-#include "foundry/writing/console_layout.h"
 
 namespace lv {
 
 namespace {
 
 constexpr TextView kInput = "[engine.input]";
-constexpr TextView kPassed = "; ";  // an empty command, which the reader takes for an unknown one
-constexpr int kMostRounds = 8;
-
-Text Quoted(TextView text) {
-    return Join(DoubleQuote, text, DoubleQuote);
-}
 
 bool IsIni(Console console) {
     return console == Console::Unreal;
+}
+
+/// As a word of the console's, in which it may have to escape some letters.
+Text Quoted(TextView text, Console console) {
+    Text word;
+    for (const char c : text) {
+        word.append(RulesOf(console).Escapes && (c == '"' || c == '\\') ? "\\" : "").append(1, c);
+    }
+    return Join(DoubleQuote, word, DoubleQuote);
 }
 
 /// An ini's "[engine.pawn] bob" has its section in its name.
@@ -36,36 +35,43 @@ Text SectionOf(const Effect& effect, Console console) {
     return isInput ? Text(kInput) : effect.Name.substr(0, effect.Name.find(']') + 1);
 }
 
-/// A command that has the effect by itself, where an alias had it.
-Text CommandOf(const Effect& effect) {
+/// A command that has the effect by itself, where another one had it.
+Text CommandOf(const Effect& effect, Console console) {
+    if (SameText(effect.Name, "unbindall") || SameText(effect.Name, "unaliasall")) {
+        return effect.Name;
+    }
+    const Text name = Quoted(effect.Name, console);
+    const Text value = Quoted(effect.Value, console);
     switch (effect.Kind) {
         case EffectKind::Bind:
-            return effect.IsSet ? Join("bind ", Quoted(effect.Name), Blank, Quoted(effect.Value))
-                   : SameText(effect.Name, "unbindall") ? Text("unbindall")
-                                                        : Join("unbind ", Quoted(effect.Name));
+            return effect.IsSet ? Join("bind ", name, Blank, value) : Join("unbind ", name);
         case EffectKind::Alias:
-            return effect.IsSet ? Join("alias ", Quoted(effect.Name), Blank, Quoted(effect.Value))
-                                : Join("unalias ", Quoted(effect.Name));
+            return effect.IsSet ? Join("alias ", name, Blank, value) : Join("unalias ", name);
         default:
-            return Join(effect.Name, Blank, Quoted(effect.Value));
+            return Join(effect.Name, Blank, value);
     }
+}
+
+/// A quote that is open holds them; the reader takes them from the line's end.
+bool EndsInBlanks(TextView source) {
+    return !source.empty() && (source.back() == ' ' || source.back() == '\t');
 }
 
 class Keeping {
   public:
-    Keeping(const SaveTexts& texts, const ScriptDialect& dialect, Console console)
-        : dialect_(dialect),
-          console_(console),
+    Keeping(const SaveTexts& texts, Console console)
+        : console_(console),
           writtenText_(texts.Written),
+          fileLines_(LinesOf(texts.File)),
           file_(EffectsOf(texts.File, console)),
           written_(EffectsOf(texts.Written, console)) {}
 
     void Take(const ScriptDifference& difference) {
+        of_ = &difference;
         if (difference.Kind == DifferenceKind::Moved) {
             TakeOverridden(difference);
-        } else if (difference.Kind != DifferenceKind::Added) {
+        } else if (difference.Kind != DifferenceKind::Added && !TakeOtherSpelling(difference)) {
             TakeEffect(difference.Before);
-            TakeOtherSpelling(difference);
         }
     }
 
@@ -77,59 +83,60 @@ class Keeping {
   private:
     void TakeEffect(const Effect& effect);
     void TakeWeapons(const Effect& effect);
-    void TakeOtherSpelling(const ScriptDifference& difference);
+    bool TakeOtherSpelling(const ScriptDifference& difference);
     void TakeOverridden(const ScriptDifference& moved);
     void TakeOverriddenOf(const ScriptDifference& moved, const EffectTable& before, const EffectTable& after);
-    [[nodiscard]] bool IsSwallowed(const Effect& effect) const;
-    void Add(const Effect& effect, Text line);
+    void Add(const Effect& effect, Text command, bool isOfFile = false);
 
-    const ScriptDialect& dialect_;
     Console console_;
     TextView writtenText_;
+    std::vector<TextView> fileLines_;
     ScriptEffects file_;
     ScriptEffects written_;
+    const ScriptDifference* of_ = nullptr;
     std::vector<KeptLine> lines_;
     std::set<std::pair<std::size_t, Text>> taken_;
 };
 
-/// What the reader drops and no page of the editor can show.
-bool Keeping::IsSwallowed(const Effect& effect) const {
-    if (IsIni(console_)) {
-        return false;
-    }
-    const KeyIndex key = effect.Kind == EffectKind::Bind ? KeyFromName(LowerCase(effect.Name)) : kNoKey;
-    return (effect.Kind == EffectKind::Bind && effect.IsSet &&
-            (key == kNoKey || !IsWrittenKey(key, dialect_.ScriptFamily))) ||
-           (effect.Kind == EffectKind::Alias && effect.Value.empty()) || effect.Source.starts_with('[');
-}
-
-void Keeping::Add(const Effect& effect, Text line) {
-    if (IsSwallowed(effect)) {
-        line = Join(kPassed, line);
-    }
+void Keeping::Add(const Effect& effect, Text command, bool isOfFile) {
     const bool isAction = effect.Kind == EffectKind::Action;
-    if (isAction || taken_.emplace(effect.Line, line).second) {
-        lines_.push_back({SectionOf(effect, console_), std::move(line), effect.Line, effect.Turn});
+    if (!isAction && !taken_.emplace(effect.Line, command).second) {
+        return;
     }
+    const bool hasLine = isOfFile && effect.Line > 0 && effect.Line <= fileLines_.size();
+    std::optional<LastingLine> lasting =
+        LastingLineOf(command, hasLine ? fileLines_[effect.Line - 1] : TextView(), console_);
+    lines_.push_back({.What = of_->What,
+                      .Identity = of_->Identity,
+                      .Section = SectionOf(effect, console_),
+                      .Command = std::move(command),
+                      .Lasting = std::move(lasting),
+                      .FileLine = effect.Line,
+                      .Turn = effect.Turn});
 }
 
 void Keeping::TakeEffect(const Effect& effect) {
     if (IsIni(console_) && effect.Name.ends_with(" weaponpriority")) {
         TakeWeapons(effect);
+    } else if (effect.IsOwn && !effect.IsOfAll) {
+        Add(effect, EndsInBlanks(effect.Source) ? Join(effect.Source, DoubleQuote) : effect.Source, true);
     } else {
-        Add(effect, effect.IsOwn ? effect.Source : CommandOf(effect));
+        Add(effect, CommandOf(effect, console_));
     }
 }
 
 /// Where the line is in the written script already, and another spelling of the alias is run all the same, that one
-/// gets the same commands.
-void Keeping::TakeOtherSpelling(const ScriptDifference& difference) {
+/// gets the same commands, or is removed too.
+bool Keeping::TakeOtherSpelling(const ScriptDifference& difference) {
+    const bool isOther = difference.What == EffectKind::Alias && !IsIni(console_) && difference.After.Line > 0 &&
+                         difference.After.IsSet && difference.After.Name != difference.Before.Name;
+    if (!isOther || !Holds(writtenText_, difference.Before.Source)) {
+        return false;
+    }
     Effect other = difference.Before;
     other.Name = difference.After.Name;
-    if (difference.What == EffectKind::Alias && Holds(writtenText_, other.Source) && difference.After.IsSet &&
-        difference.After.Line > 0 && !IsIni(console_) && other.IsSet && other.Name != difference.Before.Name) {
-        Add(other, CommandOf(other));
-    }
+    Add(other, CommandOf(other, console_));
+    return true;
 }
 
 void Keeping::TakeWeapons(const Effect& effect) {
@@ -160,87 +167,16 @@ void Keeping::TakeOverriddenOf(const ScriptDifference& moved, const EffectTable&
     }
 }
 
-/// The document's sections while lines are put into them.
-class KeptSections {
-  public:
-    KeptSections(ScriptDocument& document, TextView file) : document_(document) {
-        if (document.Sections.empty()) {
-            document.Sections.emplace_back();
-        }
-        for (const ScriptSection& section : document.Sections) {
-            places_.emplace_back(section.Text, file);
-        }
-    }
-
-    /// Those that have not been put anywhere each where it stood in the file; and if that has been done with all of
-    /// them, and was not enough, behind all. False if there is nothing left to do.
-    bool Put(const std::vector<KeptLine>& lines) {
-        const bool put = PutAtFirst(lines, Attempt::InItsPlace) || PutAtFirst(lines, Attempt::BehindAll);
-        if (put) {
-            Finish();
-        }
-        return put;
-    }
-
-  private:
-    enum class Attempt { InItsPlace, BehindAll, GivenUp };
-
-    bool PutAtFirst(const std::vector<KeptLine>& lines, Attempt attempt) {
-        bool put = false;
-        for (const KeptLine& kept : lines) {
-            const auto section = std::ranges::find_if(document_.Sections, [&](const ScriptSection& each) {
-                return kept.Section.empty() || SameText(each.Name, kept.Section);
-            });
-            Attempt& next = attempts_[{kept.Turn, kept.Line}];
-            if (section == document_.Sections.end() || next != attempt) {
-                continue;
-            }
-            const std::size_t line = attempt == Attempt::InItsPlace ? kept.FileLine : kBehindAll;
-            places_[static_cast<std::size_t>(section - document_.Sections.begin())].Insert(kept.Line, line);
-            next = attempt == Attempt::InItsPlace ? Attempt::BehindAll : Attempt::GivenUp;
-            put = true;
-        }
-        return put;
-    }
-
-    void Finish() {
-        for (std::size_t i = 0; i < places_.size(); ++i) {
-            document_.Sections[i].Text = places_[i].Joined();
-        }
-    }
-
-    ScriptDocument& document_;
-    std::vector<FreeFormPlaces> places_;
-    std::map<std::pair<std::size_t, Text>, Attempt> attempts_;
-};
-
 }  // namespace
 
-std::vector<KeptLine> KeptLines(const SaveReport& report, const SaveTexts& texts, const ScriptDialect& dialect,
-                                Console console) {
-    Keeping keeping(texts, dialect, console);
+std::vector<KeptLine> KeptLines(const SaveReport& report, const SaveTexts& texts, Console console) {
+    Keeping keeping(texts, console);
     for (const SaveLoss& loss : report.Losses) {
         if (!loss.ByUser) {
             keeping.Take(loss.Difference);
         }
     }
     return keeping.Lines();
-}
-
-bool KeepLosses(ScriptDocument& document, TextView file, const ChangedNames& changed, const LocalTime& date,
-                Console console) {
-    KeptSections sections(document, file);
-    bool kept = false;
-    // A kept line may override others, "unbindall" all bindings: those are kept in the next round.
-    bool more = true;
-    for (int round = 0; round < kMostRounds && more; ++round) {
-        const Text written = ComposeScript(document, date);
-        const SaveTexts texts{file, written};
-        const SaveReport report = ReportSave(texts, changed, document.Dialect, console);
-        more = sections.Put(KeptLines(report, texts, document.Dialect, console));
-        kept = kept || more;
-    }
-    return kept;
 }
 
 }  // namespace lv

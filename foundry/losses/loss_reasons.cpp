@@ -1,13 +1,13 @@
 #include "foundry/losses/loss_reasons.h"
 
 #include <algorithm>
-#include <set>
 
 #include "console/console_commands.h"
 #include "console/text_difference.h"
 #include "foundation/field_strings.h"
 #include "foundry/reading/script_keywords.h"
 #include "foundry/tables/read_commands.h"
+#include "foundry/writing/compose_script.h"
 #include "foundry/writing/console_layout.h"
 
 namespace lv {
@@ -17,9 +17,8 @@ namespace {
 constexpr TextView kComment = "//";
 constexpr std::size_t kMostEmptyLines = 100;  // in a row
 constexpr TextView kGeneral = "Setup Foundry reads and writes this in its own way.";
-constexpr TextView kSay = "say ";
-constexpr TextView kSayTeam = "say_team ";
-constexpr TextView kExec = "exec ";
+constexpr TextView kEndsAtComment = "Setup Foundry ends a line at //, in quotes too.";
+constexpr TextView kHardBlank = "\xA0";
 
 Text Quoted(TextView text) {
     return Join(DoubleQuote, text, DoubleQuote);
@@ -35,6 +34,22 @@ std::size_t EndOfReading(const std::vector<TextView>& lines) {
         }
     }
     return 0;
+}
+
+std::size_t SecondHead(const std::vector<TextView>& lines) {
+    std::size_t heads = 0;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        heads += TrimmedView(lines[i], kScriptBlanks).starts_with('[') ? 1 : 0;
+        if (heads == 2) {
+            return i + 1;
+        }
+    }
+    return 0;
+}
+
+/// A letter, which is another key than its small one.
+bool IsCapital(TextView key) {
+    return key.size() == 1 && key.front() >= 'A' && key.front() <= 'Z';
 }
 
 std::unordered_set<Text> DefinedAgain(TextView file, Console console) {
@@ -70,22 +85,8 @@ bool StandsBehindAnAxis(TextView key, const ScriptEffects& written) {
     });
 }
 
-/// The words of the command as the script spells it.
-std::size_t WordCount(TextView source, Console console) {
-    CommandReader reader(source, RulesOf(console));
-    ConsoleCommand command;
-    return reader.Next(command) ? command.Words.size() : 0;
-}
-
-/// The block that a command goes to which no fixed slot stands for, if the game's own ones are taken.
-SlotBlock BlockOf(TextView command, const ScriptEffects& effects) {
-    if (StartsWithText(command, kSay) || StartsWithText(command, kSayTeam)) {
-        return kMessages;
-    }
-    if (StartsWithText(command, kExec)) {
-        return kBoundScripts;
-    }
-    return effects.Aliases.Find(LowerCase(command)) != nullptr ? kBoundAliases : kExtras;
+TextView WordOf(TextView& rest) {
+    return StripQuotesView(NextQuotedWord(rest, kScriptBlanks));
 }
 
 }  // namespace
@@ -96,8 +97,105 @@ LossReasons::LossReasons(TextView file, const ScriptEffects& fileEffects, const 
       written_(written),
       dialect_(dialect),
       lines_(LinesOf(file)),
+      binds_(lines_, fileEffects, dialect),
+      secondHead_(SecondHead(lines_)),
       endOfReading_(EndOfReading(lines_)),
-      aliasesDefinedAgain_(DefinedAgain(file, fileEffects.Of)) {}
+      always_(EffectsOf(ComposeScript(MakeScriptDocument(dialect), {}), fileEffects.Of)),
+      aliasesDefinedAgain_(DefinedAgain(file, fileEffects.Of)) {
+    ReadCutCommands();
+}
+
+void LossReasons::ReadCutCommands() {
+    for (const TextView line : lines_) {
+        const std::size_t comment = line.find(kComment);
+        if (comment != TextView::npos) {
+            const TextView left = TrimmedView(line.substr(0, comment), kScriptBlanks);
+            cutCommands_.emplace(left);
+            cutCommands_.emplace(TrimmedView(left.substr(left.rfind(';') + 1), kScriptBlanks));
+        }
+    }
+}
+
+const KeyBindLine* LossReasons::LastBindOf(const ScriptDifference& difference) const {
+    return difference.What == EffectKind::Bind ? binds_.LastOf(difference.Identity) : nullptr;
+}
+
+/// Whether a document with nothing in it is written with this too.
+bool LossReasons::IsAlwaysWritten(const ScriptDifference& difference) const {
+    switch (difference.What) {
+        case EffectKind::Bind:
+            return always_.Binds.Find(difference.Identity) != nullptr;
+        case EffectKind::Alias:
+            return always_.Aliases.Find(difference.Identity) != nullptr;
+        case EffectKind::Setting:
+            return always_.Settings.Find(difference.Identity) != nullptr;
+        default:
+            return std::ranges::any_of(always_.Actions,
+                                       [&](const Effect& each) { return each.Value == difference.After.Value; });
+    }
+}
+
+/// Whether the script has bound the key of the same letter, but capital, and not this one.
+bool LossReasons::IsCapitalsKey(const ScriptDifference& difference) const {
+    return difference.What == EffectKind::Bind && difference.Identity.size() == 1 &&
+           LastBindOf(difference) == nullptr && binds_.LastOf(UpperCase(difference.Identity)) != nullptr;
+}
+
+/// Why a game does not do what the editor does with the script's line for the key. Empty if it does.
+Text LossReasons::ReasonOfRefused(const ScriptDifference& difference) const {
+    const KeyBindLine* const bind = LastBindOf(difference);
+    if (bind == nullptr) {
+        return {};
+    }
+    if (bind->Words == 0) {
+        return "A quote does not close in its line, which the game drops for that; Setup Foundry closes it.";
+    }
+    const bool isRefused = bind->Words > 3 && RulesOf(fileEffects_.Of).Bind == BindWords::One;
+    return isRefused ? "It has several words without quotes, which the game refuses; Setup Foundry reads the first of "
+                       "them."
+                     : "";
+}
+
+Text LossReasons::ReasonOfFreed(const ScriptDifference& difference) const {
+    if (difference.What == EffectKind::Alias) {
+        return Join("The script removes it again by ", Quoted(difference.Before.Source),
+                    ", and Setup Foundry writes that elsewhere, or not at all.");
+    }
+    const KeyBindLine* const bind = LastBindOf(difference);
+    if (IsCapitalsKey(difference)) {
+        return "Setup Foundry makes a small letter of the key's capital one.";
+    }
+    if (bind == nullptr || bind->Line <= difference.Before.Line) {
+        return Join("The script frees the key again by ", Quoted(difference.Before.Source),
+                    ", which Setup Foundry writes ahead of all bindings.");
+    }
+    const Text refused = ReasonOfRefused(difference);
+    return refused.empty() ? ReasonOfLaterLine(difference) : refused;
+}
+
+/// The editor binds the key by a line that is nothing of the sort to the game.
+Text LossReasons::ReasonOfLaterLine(const ScriptDifference& difference) const {
+    const KeyBindLine* const bind = LastBindOf(difference);
+    return bind != nullptr && bind->Line > difference.Before.Line
+               ? Join("Setup Foundry takes line ", std::to_string(bind->Line),
+                      " of the file for the key, and the game does not.")
+               : Text();
+}
+
+Text LossReasons::ReasonOfAdded(const ScriptDifference& difference) const {
+    if (IsAlwaysWritten(difference)) {
+        return "Setup Foundry writes it into each script.";
+    }
+    Text reason = IsCapitalsKey(difference) ? Text("Setup Foundry makes a small letter of the key's capital one.")
+                                            : ReasonOfRefused(difference);
+    if (!reason.empty()) {
+        return reason;
+    }
+    if (cutCommands_.contains(difference.After.Source)) {
+        return Text(kEndsAtComment);
+    }
+    return "Setup Foundry takes a line of the script for it, and the game does not.";
+}
 
 Text LossReasons::ReasonOf(const ScriptDifference& difference) const {
     const Effect& before = difference.Before;
@@ -105,9 +203,9 @@ Text LossReasons::ReasonOf(const ScriptDifference& difference) const {
         return "Setup Foundry writes settings, aliases and bindings ahead of all other lines.";
     }
     if (before.Line == 0) {
-        return "Setup Foundry writes it into each script.";
+        return ReasonOfAdded(difference);
     }
-    Text reason = ReasonOfPlace(before);
+    Text reason = before.IsOfAll ? ReasonOfFreed(difference) : ReasonOfPlace(before);
     if (!reason.empty()) {
         return reason;
     }
@@ -119,6 +217,15 @@ Text LossReasons::ReasonOf(const ScriptDifference& difference) const {
     }
     if (reason.empty()) {
         reason = ReasonOfKind(difference);
+    }
+    if (reason.empty()) {
+        reason = ReasonOfQuotes(before);
+    }
+    if (reason.empty()) {
+        reason = ReasonOfSection(before);
+    }
+    if (reason.empty()) {
+        reason = ReasonOfLaterLine(difference);
     }
     return reason.empty() ? Text(kGeneral) : reason;
 }
@@ -152,33 +259,60 @@ Text LossReasons::ReasonOfLine(const Effect& before) const {
     if (!line.starts_with(before.Source)) {
         return "It is not the first command of its line, and Setup Foundry reads no others.";
     }
+    const TextView behind = TrimmedView(line.substr(before.Source.size()), kScriptBlanks);
+    if (behind.starts_with(';') && !before.Source.ends_with('"')) {
+        return "Setup Foundry does not end a line at ; and takes that for a part of it.";
+    }
     if (line.starts_with('[')) {
         return "Setup Foundry takes a line that begins with [ for the head of a section.";
     }
     if (before.Source.find(kComment) != Text::npos) {
-        return "Setup Foundry ends a line at //, in quotes too.";
+        return Text(kEndsAtComment);
+    }
+    if (Holds(before.Source, kHardBlank)) {
+        return "Setup Foundry makes a blank of character 160.";
     }
     return {};
 }
 
-bool LossReasons::RoomIsTaken(SlotBlock block) const {
-    std::set<Text> commands;
-    for (const Effect& bind : fileEffects_.Binds.All()) {
-        const Text command = Trim(bind.Value);
-        if (bind.IsSet && !SlotFromCommand(LowerCase(command), dialect_.GameKind).Known &&
-            BlockOf(command, fileEffects_).First == block.First) {
-            commands.insert(command);
-        }
+Text LossReasons::ReasonOfQuotes(const Effect& before) const {
+    const bool escapes = RulesOf(fileEffects_.Of).Escapes;
+    if (escapes && Holds(before.Source, "\\\"")) {
+        return "Setup Foundry ends a quote at the next one, whatever stands before that.";
     }
-    const auto room = static_cast<std::size_t>(block.Last) - static_cast<std::size_t>(block.First) + 1;
-    return commands.size() > room;
+    if (escapes && before.Value.ends_with('\\')) {
+        return "Setup Foundry writes it in quotes, and there the \\ belongs to the quote behind it.";
+    }
+    return std::ranges::count(before.Source, '"') % 2 != 0
+               ? "A quote does not close in its line, and Setup Foundry takes such a line otherwise."
+               : "";
+}
+
+Text LossReasons::ReasonOfSection(const Effect& before) const {
+    return fileEffects_.Of != Console::Unreal && secondHead_ > 0 && before.Line > secondHead_
+               ? "It stands behind a second line that begins with [, and Setup Foundry writes the first such section "
+                 "alone."
+               : "";
+}
+
+Text LossReasons::ReasonOfRoom(const Text& command) const {
+    const std::optional<SlotNumber> block = binds_.FullBlockOf(command);
+    if (!block) {
+        return {};
+    }
+    return *block == kExtras.First ? "Setup Foundry has room for 24 other commands, and the script has more."
+                                   : "Setup Foundry has no room left for a command of this sort.";
 }
 
 Text LossReasons::ReasonOfKey(const ScriptDifference& difference) const {
     const Effect& before = difference.Before;
     const bool isIni = fileEffects_.Of == Console::Unreal;
     if (!before.IsSet) {
-        return {};
+        TextView rest = before.Source;
+        return SameText(WordOf(rest), "bind") ? "Setup Foundry reads no binding without a command." : "";
+    }
+    if (!isIni && IsCapital(before.Name)) {
+        return "Setup Foundry makes a small letter of the key's capital one.";
     }
     const KeyIndex key = KeyFromName(LowerCase(before.Name));
     if (isIni && IsAxis(before.Name)) {
@@ -220,25 +354,34 @@ Text LossReasons::ReasonOfCommand(const ScriptDifference& difference) const {
     if (match.Known && after.IsSet && after.Line > 0) {
         return Join("Setup Foundry writes its own command for this function: ", Quoted(after.Value), ".");
     }
+    const bool isOfOthers = match.Known && match.Slot == kNoSlot;
+    if (!isOfOthers && !IsSetAfter(difference) && written_.UnbindsAll) {
+        return Join(Quoted(written_.Unbindall.Source), " is written behind the bindings, and runs behind them.");
+    }
     if (match.Known) {
         return Join("To Setup Foundry ", Quoted(command), " is a command of another game.");
     }
     if (after.Line > 0 && SameText(Trim(after.Value), command)) {
         return "Setup Foundry does not keep the letter case.";
     }
-    if (RoomIsTaken(kExtras)) {
-        return "Setup Foundry has room for 24 other commands, and the script has more.";
-    }
-    if (RoomIsTaken(BlockOf(command, fileEffects_))) {
-        return "Setup Foundry has no room left for a command of this sort.";
-    }
-    return {};
+    return ReasonOfRoom(command);
 }
 
 Text LossReasons::ReasonOfAlias(const ScriptDifference& difference) const {
     const Effect& before = difference.Before;
+    const Effect& after = difference.After;
+    if (before.IsSet && after.Line > 0 && !after.IsSet) {
+        return Join(Quoted(after.Source), " is written behind the aliases, and runs behind them.");
+    }
+    if (before.IsSet && after.Line == 0 && written_.UnaliasesAll) {
+        return Join(Quoted(written_.Unaliasall.Source), " is written behind the aliases, and runs behind them.");
+    }
     if (before.IsSet && Trim(before.Value).empty()) {
         return "Setup Foundry keeps no alias without commands.";
+    }
+    if (!before.IsSet && IsSetAfter(difference) && before.Name != difference.After.Name) {
+        return Join("Setup Foundry writes aliases in small letters, and ", Quoted(before.Source),
+                    " removes another spelling.");
     }
     if (fileEffects_.Of == Console::Unreal) {
         return "Setup Foundry keeps the first of several aliases of a name.";
@@ -261,6 +404,9 @@ Text LossReasons::ReasonOfSetting(const ScriptDifference& difference) const {
     const bool isKnown = FindKeyword(LowerCase(name)) != nullptr;
     if (!isKnown) {
         return {};
+    }
+    if (difference.After.Line > 0 && Trim(before.Value).empty()) {
+        return "Setup Foundry reads no empty value.";
     }
     if (difference.After.Line > 0) {
         return "Setup Foundry keeps such a value otherwise.";

@@ -9,6 +9,7 @@
 
 #include "console/script_comparison.h"
 #include "foundry/document/script_document.h"
+#include "foundry/losses/bind_lines.h"
 
 namespace lv {
 
@@ -22,22 +23,36 @@ class LossReasons {
     [[nodiscard]] Text ReasonOf(const ScriptDifference& difference) const;
 
   private:
+    void ReadCutCommands();
+    [[nodiscard]] const KeyBindLine* LastBindOf(const ScriptDifference& difference) const;
+    [[nodiscard]] bool IsCapitalsKey(const ScriptDifference& difference) const;
+    [[nodiscard]] bool IsAlwaysWritten(const ScriptDifference& difference) const;
+    [[nodiscard]] Text ReasonOfAdded(const ScriptDifference& difference) const;
+    [[nodiscard]] Text ReasonOfFreed(const ScriptDifference& difference) const;
+    [[nodiscard]] Text ReasonOfLaterLine(const ScriptDifference& difference) const;
+    [[nodiscard]] Text ReasonOfRefused(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfPlace(const Effect& before) const;
     [[nodiscard]] Text ReasonOfLine(const Effect& before) const;
+    [[nodiscard]] Text ReasonOfQuotes(const Effect& before) const;
+    [[nodiscard]] Text ReasonOfSection(const Effect& before) const;
     [[nodiscard]] Text ReasonOfKey(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfKind(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfCommand(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfAlias(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfSetting(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfAction(const Effect& before) const;
-    [[nodiscard]] bool RoomIsTaken(SlotBlock block) const;
+    [[nodiscard]] Text ReasonOfRoom(const Text& command) const;
 
     const ScriptEffects& fileEffects_;
     const ScriptEffects& written_;
     const ScriptDialect& dialect_;
     std::vector<TextView> lines_;
+    BindLines binds_;
+    std::size_t secondHead_ = 0;                    // the second line that begins with "["; 0: none
     std::size_t endOfReading_ = 0;                  // the line where a hundred empty ones end it; 0: none
+    ScriptEffects always_;                          // of what is written into each script
     std::unordered_set<Text> aliasesDefinedAgain_;  // in lower case
+    std::unordered_set<Text> cutCommands_;          // what the reader leaves of commands with "//"
 };
 
 }  // namespace lv

@@ -58,6 +58,8 @@ SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const
     const LossReasons reasons(texts.File, file, written, dialect);
     SaveReport report;
     report.TooLong = TooLongWords(file, written);
+    report.IsOfNothing = file.Binds.All().empty() && file.Aliases.All().empty() && file.Settings.All().empty() &&
+                         file.Actions.empty() && !file.UnbindsAll && !file.UnaliasesAll;
     for (ScriptDifference& difference : CompareScripts(file, written)) {
         if (IsOfThisProgram(difference)) {
             continue;
@@ -79,9 +81,7 @@ SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const
 }
 
 bool LosesSomething(const SaveReport& report) {
-    return std::ranges::any_of(report.Losses, [](const SaveLoss& loss) {
-        return !loss.ByUser && loss.Difference.Kind != DifferenceKind::Added;
-    });
+    return !report.IsOfNothing && std::ranges::any_of(report.Losses, [](const SaveLoss& loss) { return !loss.ByUser; });
 }
 
 }  // namespace lv

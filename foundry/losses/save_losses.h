@@ -33,12 +33,15 @@ struct ChangedNames {
 struct SaveLoss {
     ScriptDifference Difference;
     bool ByUser = false;  // they have changed it in the editor, and nobody else has in the file
+    bool CanKeep = true;  // in the Free Form Additions
     Text Words;           // "The key ESCAPE loses \"togglemenu\"."
     Text Reason;          // "Setup Foundry has no key ESCAPE."
 };
 
 struct SaveReport {
     std::vector<SaveLoss> Losses;  // lost, changed and moved ones first, then those that are added
+    bool IsOfNothing = false;      // the file sets and runs nothing: it is a new one
+    bool Keeps = false;            // there is something that the Free Form Additions can keep
     Text TooLong;                  // where the game would run nothing of the written script, for it is too long
 };
 
@@ -48,7 +51,8 @@ Console ConsoleOfDialect(const ScriptDialect& dialect);
 SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const ScriptDialect& dialect,
                       Console console);
 
-/// Whether something would be lost, changed or moved that the user has not changed themselves.
+/// Whether something would be lost, changed, moved or added that the user has not changed themselves. To a new script
+/// the editor adds what it writes into each.
 bool LosesSomething(const SaveReport& report);
 
 }  // namespace lv

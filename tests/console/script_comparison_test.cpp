@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/console/listed_effects.h"
 
 namespace lv {
@@ -39,6 +41,20 @@ TEST(CompareScripts, TellsFreedKeysFromThoseNotSpokenOf) {
     EXPECT_EQ(DifferencesOf("unbindall\nbind a x", "bind a x"), "lost bind unbindall: >");
     EXPECT_EQ(DifferencesOf("bind a x", "unbindall\nbind a x"), "added bind unbindall: >");
     EXPECT_EQ(DifferencesOf("bind a x\nunbind b", "unbindall\nbind a x"), "added bind unbindall: >");
+    EXPECT_EQ(DifferencesOf("bind a x\nunbindall", "unbindall\nbind a x"), "changed bind a: >x");
+    EXPECT_EQ(DifferencesOf("alias a x\nunaliasall", "unaliasall\nalias a x", Console::Hexen2), "changed alias a: >x");
+}
+
+TEST(CompareScripts, SaysWhichCommandFreedAKeyWithAllOthers) {
+    const auto found = CompareScripts(EffectsOf("echo a\nunbindall", Console::Quake),
+                                      EffectsOf("unbindall\nbind a x", Console::Quake));
+    const auto key = std::ranges::find(found, "a", &ScriptDifference::Identity);
+    ASSERT_NE(key, found.end());
+    EXPECT_TRUE(key->Before.IsOfAll);
+    EXPECT_FALSE(key->Before.IsSet);
+    EXPECT_EQ(key->Before.Name, "a");
+    EXPECT_EQ(key->Before.Line, 2U);
+    EXPECT_EQ(key->Before.Source, "unbindall");
 }
 
 TEST(CompareScripts, ListsCommandsThatSetNothing) {

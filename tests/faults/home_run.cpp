@@ -16,6 +16,7 @@
 #include "foundation/settings.h"
 #include "foundry/editor/lifecycle.h"
 #include "foundry/foundry.h"
+#include "foundry/look/changes_frm.h"
 #include "launcher/start/start.h"
 #include "launcher/window/launch_flow.h"
 #include "launcher/window/window_life.h"
@@ -50,6 +51,9 @@ class Reader : public UserInterface {
             Edited(*editor);
             View_Cmd_Click(*editor, 6);
             UnloadSF_Cmd_Click(*editor);
+        }
+        if (auto* const changes = dynamic_cast<Changes_Frm*>(&window)) {
+            Changes_Save_Cmd_Click(*changes);
         }
     }
     Result<std::optional<Text>> ChooseFile(const FileRequest&) override { return std::optional<Text>(); }

@@ -25,6 +25,7 @@ namespace fs = std::filesystem;
 constexpr const char* kEditorTitle = "^Setup Foundry - \\[";
 constexpr const char* kBoxTitle = "^Setup Foundry$";  // the splash's too
 constexpr const char* kBackupTitle = "^SetupFoundry Information$";
+constexpr const char* kChangesTitle = "^What This Save Changes$";
 constexpr const char* kAliasTitle = "^Alias Editor$";
 
 /// A server as the game: it has no keys and prints no value by itself. With aliases of its own it says what the
@@ -158,6 +159,7 @@ TEST(EditScript, TheEngineExecutesWhatWasEditedAndSaved) {
 
     KeepScreenshot("edit_script");
     PressKey("ctrl+s");
+    program.Answer(kChangesTitle, "alt+s");  // a script that another hand has written
     program.Answer(kBoxTitle, "Return");
     program.CloseEditor();
     program.Launch();
@@ -189,6 +191,7 @@ TEST(EditScript, WhatTheEndOfTheSessionFoundUnsavedIsOfferedAndSaved) {
 
     EditedProgram program(home, [](EditedProgram& opening) { opening.Answer(kBoxTitle, "alt+t"); });
     PressKey("ctrl+s");
+    program.Answer(kChangesTitle, "alt+s");  // a script that another hand has written
     program.Answer(kBoxTitle, "Return");
     EXPECT_TRUE(WaitForText(script, "bind \"e\"             \"+jump\"")) << ReadBytes(script);
     EXPECT_THAT(NamesIn(script.parent_path()), Not(Contains(StartsWith("SetupFoundry_Rescue_"))));

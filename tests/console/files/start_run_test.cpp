@@ -83,7 +83,7 @@ TEST(RunStart, RunsWhatAliasesExecute) {
 
 TEST(RunStart, FreesKeysAndAliases) {
     QuakeDisk game;
-    game.Request.Played.Of = Console::DarkPlaces;
+    game.Request.Played.Of = Console::QuakeSpasm;
     game.Add("id1\\autoexec.cfg", "alias x y\nunbindall\nunaliasall\nbind F1 \"\"\n");
     EXPECT_EQ(Binds(game.Run(), "a"), "config.cfg:1 +attack, autoexec.cfg:2 -");
     EXPECT_EQ(Binds(game.Run(), "F1"), "default.cfg:2 help, autoexec.cfg:2 -, autoexec.cfg:4 -");

@@ -1,11 +1,14 @@
 #include "foundry/editor/script_looks.h"
 
+#include <algorithm>
+
 #include "foundation/field_strings.h"
 #include "foundry/document/bindings.h"
 #include "foundry/look/changes_frm.h"
 #include "foundry/look/file_order_frm.h"
 #include "foundry/look/script_check_frm.h"
 #include "foundry/look/versions_frm.h"
+#include "foundry/reading/open_script.h"
 #include "tests/foundry/editor/lifecycle_fixture.h"
 
 namespace lv {
@@ -21,6 +24,7 @@ class ScriptLooks : public Lifecycle {
 TEST_F(ScriptLooks, AVersionThatIsBroughtBackIsEditedThen) {
     OpenAndLoad(kQuakeDialect, "bind x +attack\nalias mine \"impulse 7\"\n");
     Change();
+    user.In<Changes_Frm>(Changes_Save_Cmd_Click);
     ExpectSuccess();
     View_Cmd_Click(form, 6);
     ASSERT_EQ(form.Document.Name_Txt.Text, "Me");
@@ -111,9 +115,8 @@ class SaveLooks : public Lifecycle {
 TEST_F(SaveLooks, ASaveThatWouldLoseSomethingIsShownFirst) {
     OpenForeign();
     user.In<Changes_Frm>([](Changes_Frm& changes) {
-        EXPECT_EQ(changes.Losses_Lbl.Caption,
-                  "For the game this save loses or changes 1 thing that you have not changed yourself. 'Keep These' "
-                  "saves it too:");
+        EXPECT_EQ(changes.Losses_Lbl.Caption.find("For the game this save loses or changes "), 0u);
+        EXPECT_TRUE(changes.Keep_Cmd.Default);
         ASSERT_FALSE(changes.Losses_Lst.Items.empty());
         EXPECT_EQ(changes.Losses_Lst.Items[0], "The key ESCAPE loses \"togglemenu\". Setup Foundry has no key ESCAPE.");
         Changes_Close_Cmd_Click(changes);
@@ -144,12 +147,64 @@ TEST_F(SaveLooks, SaveAnywaySavesAsItAlwaysDid) {
     EXPECT_EQ(system.Disk.Bytes(kEditedScript).find("togglemenu"), Text::npos);
 }
 
-TEST_F(SaveLooks, AScriptWithoutLossesIsSavedWithoutAWord) {
+TEST_F(SaveLooks, AScriptOfThisProgramIsSavedWithoutAWord) {
+    OpenAndLoad(kQuakeDialect, "");
+    Change();
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);  // a new one
+    Bind(form.Document, KeyFromName("x"), "+attack");
+    Edited(form);
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    EXPECT_EQ(Saves(), 2);
+}
+
+TEST_F(SaveLooks, WhatComesToAScriptUnaskedIsShownOnce) {
     OpenAndLoad(kQuakeDialect, "bind x +attack\n");
+    user.In<Changes_Frm>([](Changes_Frm& changes) {
+        const std::vector<Text>& rows = changes.Losses_Lst.Items;
+        EXPECT_NE(std::ranges::find(rows,
+                                    "The setting name gets \"\", and the file leaves it alone. Setup Foundry writes it "
+                                    "into each script."),
+                  rows.end());
+        Changes_Keep_Cmd_Click(changes);
+    });
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    ASSERT_TRUE(OpenScript(run, form.Document, form, kEditedScript));
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    EXPECT_EQ(Saves(), 2);
+}
+
+TEST_F(SaveLooks, ASaveIsLookedAtAsTheEngineThatIsPickedTakesIt) {
+    Engine darkPlaces;
+    darkPlaces.Name = "DarkPlaces";
+    darkPlaces.Programs = {"darkplaces"};
+    const EngineTable engines{{darkPlaces}, {}};
+    OpenAndLoad(kQuakeDialect, "");
     Change();
     ExpectSuccess();
     View_Cmd_Click(form, 6);
-    EXPECT_EQ(Saves(), 1);
+    const Text known = system.Disk.Bytes(kEditedScript);
+    // DarkPlaces knows the command, and the letter case of what it removes. The game itself has none of it.
+    const Text script = Join("alias Rocket \"impulse 7\"\r\nunalias Rocket\r\n", known);
+    for (const bool isPicked : {false, true}) {
+        system.Disk.AddFile(Text(kEditedScript), script);
+        ASSERT_TRUE(OpenScript(run, form.Document, form, kEditedScript));
+        if (isPicked) {
+            form.Lists.Engines = &engines;
+            form.Lists.Exe_Cbo.Items.push_back({"DarkPlaces", "C:\\GAME\\darkplaces", "", ""});
+            form.Lists.Exe_Cbo.ListIndex = static_cast<int>(form.Lists.Exe_Cbo.Items.size()) - 1;
+            user.In<Changes_Frm>([](Changes_Frm& changes) {
+                EXPECT_TRUE(Holds(changes.Losses_Lst.Items[0], "The alias Rocket gets \"impulse 7\" and was removed."));
+                Changes_Keep_Cmd_Click(changes);
+            });
+        }
+        ExpectSuccess();
+        View_Cmd_Click(form, 6);
+    }
+    EXPECT_TRUE(IsWritten("unalias \"rocket\""));
 }
 
 TEST_F(SaveLooks, WhatSomebodyElseWroteMeanwhileIsShownAndKept) {
@@ -173,12 +228,15 @@ TEST_F(SaveLooks, WhatSomebodyElseWroteMeanwhileIsShownAndKept) {
 }
 
 TEST_F(SaveLooks, WhatTheUserChangesIsNoLoss) {
-    OpenAndLoad(kQuakeDialect, "bind x +attack\nbind y +jump\n");
-    UnbindKey(form.Document, form, KeyFromName("y"));
+    OpenForeign();
+    AnswerLook(Changes_Keep_Cmd_Click);
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    UnbindKey(form.Document, form, KeyFromName("x"));
     Edited(form);
     ExpectSuccess();
     View_Cmd_Click(form, 6);
-    EXPECT_EQ(Saves(), 1);
+    EXPECT_EQ(Saves(), 2);
 }
 
 TEST_F(SaveLooks, ACancelledSaveNeitherClosesNorLosesTheEdits) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "platform/memory/memory_platform.h"
 #include "tests/support/scripted_user.h"
 
@@ -22,6 +24,8 @@ class ChangesForm : public ::testing::Test {
     static SaveReport ReportOf(std::vector<SaveLoss> losses) {
         SaveReport report;
         report.Losses = std::move(losses);
+        report.Keeps =
+            std::ranges::any_of(report.Losses, [](const SaveLoss& loss) { return !loss.ByUser && loss.CanKeep; });
         return report;
     }
     static SaveReport Report() {
@@ -46,6 +50,36 @@ TEST_F(ChangesForm, SaysInWordsWhatIsLostAndWhyAndPutsTheUsersOwnChangesLast) {
     EXPECT_EQ(form.Losses_Lst.Items,
               (std::vector<Text>{"The key ESCAPE loses \"togglemenu\". Setup Foundry has no key ESCAPE.",
                                  "The key Y loses \"+jump\". You have changed that."}));
+}
+
+TEST_F(ChangesForm, SaysWhatCannotBeKept) {
+    SaveReport report = Report();
+    report.Losses.push_back(Loss(3, "The key B loses \"say http://a\".", "Setup Foundry ends a line at //."));
+    report.Losses.back().CanKeep = false;
+    report.Losses.push_back(Loss(0, "The setting joystick gets \"0\".", "Setup Foundry writes it into each script."));
+    report.Losses.back().CanKeep = false;
+    report.Losses.back().Difference.Kind = DifferenceKind::Added;
+    const Changes_Frm form(run, report, texts, ChangesTime::Saving);
+    EXPECT_EQ(
+        form.Losses_Lbl.Caption,
+        "For the game this save loses or changes 3 things that you have not changed yourself. 'Keep These' saves 1 "
+        "of them too:");
+    EXPECT_EQ(form.Losses_Lst.Items[1],
+              "The key B loses \"say http://a\". Setup Foundry ends a line at //. It cannot be kept.");
+    EXPECT_EQ(form.Losses_Lst.Items[2], "The setting joystick gets \"0\". Setup Foundry writes it into each script.");
+    report.Losses.erase(report.Losses.begin() + 1);  // the one that can be kept
+    const Changes_Frm next(run, report, texts, ChangesTime::Saving);
+    EXPECT_EQ(
+        next.Losses_Lbl.Caption,
+        "For the game this save loses or changes 2 things that you have not changed yourself. 'Keep These' sees to "
+        "it that the next save changes nothing more:");
+    report.Keeps = false;
+    const Changes_Frm none(run, report, texts, ChangesTime::Saving);
+    EXPECT_EQ(
+        none.Losses_Lbl.Caption,
+        "For the game this save loses or changes 2 things that you have not changed yourself. They cannot be kept:");
+    EXPECT_FALSE(none.Keep_Cmd.Enabled);
+    EXPECT_EQ(none.Focus, "Close_Cmd");
 }
 
 TEST_F(ChangesForm, KeepsByDefaultAndCanSaveOrCancel) {

@@ -2,7 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "tests/foundry/losses/careless_scripts.h"
+#include "tests/foundry/losses/freeing_scripts.h"
 #include "tests/foundry/losses/save_rounds.h"
+#include "tests/foundry/rounds.h"
 
 namespace lv {
 namespace {
@@ -84,6 +89,19 @@ const ReasonCase kCases[] = {
     {"escape", kHalfLifeDialect, "bind \\ \"impulse 99\"",
      "The key \\ loses \"impulse 99\". (Setup Foundry writes the key in quotes, and there the \\ belongs to the quote "
      "behind it.)"},
+    {"unbindall behind the bindings", kQuakeDialect, "echo a; unbindall\nbind q \"+jump\"",
+     "The key q loses \"+jump\". (\"unbindall\" is written behind the bindings, and runs behind them.)"},
+    {"unbindall behind an alias's binding", kQuakeDialect,
+     "alias zoom_in \"fov 30\"\necho a; unbindall\nbind e zoom_in",
+     "The key e loses \"zoom_in\". (\"unbindall\" is written behind the bindings, and runs behind them.)"},
+    {"freed key", kQuakeDialect, "bind n \"+jump\"\nunbindall\nbind k a",
+     "The key n gets \"+jump\" and was free. (The script frees the key again by \"unbindall\", which Setup Foundry "
+     "writes "
+     "ahead of all bindings.)"},
+    {"empty name", kQuakeDialect, "name \"player\"\nname \"\"",
+     "The setting name gets \"player\" and was \"\". (Setup Foundry reads no empty value.)"},
+    {"hard blank", kQuakeDialect, "echo \"a\xA0z\"",
+     "\"echo a\xA0z\" is lost. (Setup Foundry makes a blank of character 160.)"},
     {"ini's key", kUnrealDialect,
      "[Engine.Input]\nEscape=Fire\nMouseX=Axis aMouseX Speed=6.0\nMouseY=Axis aMouseY Speed=6.0",
      "The key Escape gets \"ShowMenu\" and was \"Fire\". (Setup Foundry always writes its own command for this key.)"},
@@ -100,10 +118,74 @@ TEST(LossReasons, AreThoseOfTheTablesAndRules) {
     }
 }
 
-TEST(LossReasons, SayWhatIsAlwaysWritten) {
-    const SaveReport report = ReportOf(kQuakeDialect, "echo a");
-    ASSERT_FALSE(report.Losses.empty());
-    EXPECT_EQ(report.Losses.front().Reason, "Setup Foundry writes it into each script.");
+TEST(LossReasons, SayWhyACommandOfManyFindsNoSlot) {
+    // Each has had a slot, though its key is bound again.
+    Text file = "name P\n";
+    for (int i = 0; i < 60; ++i) {
+        file += Join("alias al", std::to_string(i), " \"impulse 1\"\nbind b al", std::to_string(i), "\n");
+    }
+    EXPECT_EQ(LossesOf(kQuakeDialect, file),
+              "The key b gets \"al50\" and was \"al59\". (Setup Foundry has no room left for a command of this sort.)");
+}
+
+TEST(LossReasons, SayWhyTheEditorAddsSomething) {
+    const auto reasonOf = [](TextView file, TextView words, Console console = Console::Quake) {
+        const SaveReport report = ReportOf(kQuakeDialect, file, console);
+        const auto loss = std::ranges::find(report.Losses, words, &SaveLoss::Words);
+        return loss == report.Losses.end() ? Text("(not told)") : loss->Reason;
+    };
+    EXPECT_EQ(reasonOf("echo a", "The setting joystick gets \"0\", and the file leaves it alone."),
+              "Setup Foundry writes it into each script.");
+    EXPECT_EQ(reasonOf("echo a", "The setting name gets \"\", and the file leaves it alone."),
+              "Setup Foundry writes it into each script.");
+    EXPECT_EQ(reasonOf("bind q impulse 7", "The key q gets \"impulse\", and the file leaves it alone."),
+              "It has several words without quotes, which the game refuses; Setup Foundry reads the first of them.");
+    EXPECT_EQ(reasonOf("say \"http://x\"", "\"say \"http:\" is run, and the file does not run it."),
+              "Setup Foundry ends a line at //, in quotes too.");
+    EXPECT_EQ(reasonOf("set fov 90", "The setting fov gets \"90\", and the file leaves it alone."),
+              "Setup Foundry takes a line of the script for it, and the game does not.");
+}
+
+TEST(LossReasons, AreSeldomAPhrase) {
+    CarelessScripts careless(7);
+    FreeingScripts freeing(8);
+    int rows = 0;
+    int phrases = 0;
+    for (int round = 0; round < Rounds(300); ++round) {
+        const Text file = round % 2 == 0 ? careless.Next() : freeing.Next();
+        for (const Console console : {Console::Quake, Console::DarkPlaces, Console::EzQuake}) {
+            for (const SaveLoss& loss : ReportOf(kQuakeDialect, file, console).Losses) {
+                ++rows;
+                phrases += loss.Reason == "Setup Foundry reads and writes this in its own way." ? 1 : 0;
+            }
+        }
+    }
+    EXPECT_LT(phrases * 500, rows);
+}
+
+TEST(LossReasons, TellOfLinesThatTheGameTakesOtherwise) {
+    const ReasonCase cases[] = {
+        {"capital letter", kQuakeDialect, "name P\nbind A \"+jump\"",
+         "The key A loses \"+jump\". (Setup Foundry makes a small letter of the key's capital one.)"},
+        {"; outside quotes", kQuakeDialect, "name P\nbind a zoom; wait",
+         "The key a gets \"zoom;\" and was \"zoom\". (Setup Foundry does not end a line at ; and takes that for a part "
+         "of "
+         "it.)\n\"wait\" is lost. (It is not the first command of its line, and Setup Foundry reads no others.)"},
+        {"empty binding", kQuakeDialect, "name P\nbind b \"\"",
+         "The key b is no longer free. (Setup Foundry reads no binding without a command.)"},
+        {"second section", kQuakeDialect, "name P\n[x]\n[y]\nexec a.cfg",
+         "\"[x]\" is lost. (Setup Foundry takes a line that begins with [ for the head of a section.)\n"
+         "\"[y]\" is lost. (Setup Foundry takes a line that begins with [ for the head of a section.)\n"
+         "\"exec a.cfg\" is lost. (It stands behind a second line that begins with [, and Setup Foundry writes the "
+         "first "
+         "such section alone.)"},
+        {"later line", kQuakeDialect, "name P\nbind f1 zoom\nbind f1 exec duel.cfg",
+         "The key f1 gets \"exec\" and was \"zoom\". (Setup Foundry takes line 3 of the file for the key, and the game "
+         "does not.)"},
+    };
+    for (const ReasonCase& each : cases) {
+        EXPECT_EQ(LossesOf(each.Dialect, each.File), each.Losses) << each.About;
+    }
 }
 
 }  // namespace lv

@@ -156,7 +156,7 @@ TEST(ReportSave, FindsNothingLostInScriptsOfThisProgram) {
 TEST(ReportSave, FindsWhatScriptsOfThisProgramLoseAllTheSame) {
     // The reader takes no empty name: the one of the line before stays.
     EXPECT_EQ(LossesOf(kQuakeDialect, Golden("quake_empty.cfg")),
-              "The setting name gets \"player\" and was \"\". (Setup Foundry keeps such a value otherwise.)");
+              "The setting name gets \"player\" and was \"\". (Setup Foundry reads no empty value.)");
     // The game's directory has no such skin.
     EXPECT_EQ(LossesOf(kQuakeWorldDialect, Golden("quakeworld.cfg")),
               "The setting skin is lost: \"Base\". (Setup Foundry has a place of its own for it, and writes that in "
@@ -178,7 +178,34 @@ TEST(ReportSave, PutsWhatIsAddedBehindWhatIsLost) {
     EXPECT_EQ(report.Losses[1].Words, "The setting sv_aim is lost: \"0.9\".");
     EXPECT_EQ(report.Losses[2].Difference.Kind, DifferenceKind::Added);
     EXPECT_TRUE(LosesSomething(report));
-    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, "bind a \"+attack\"")));
+}
+
+TEST(ReportSave, CountsWhatComesToAScriptUnasked) {
+    EXPECT_TRUE(LosesSomething(ReportOf(kQuakeDialect, "bind a \"+attack\"")));
+    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, "")));
+    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, "// a new one\n")));
+    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, WrittenOf(kQuakeDialect, "name P\nbind a \"+attack\""))));
+}
+
+/// What two scripts that are written by hand set otherwise is told, whatever makes it so.
+TEST(ReportSave, ListsWhatAConsoleTakesOtherwiseThanTheEditor) {
+    struct Row {
+        const char* File;
+        const char* Words;
+    };
+    for (const Row& row : {
+             Row{"bind n \"+jump\"\nunbindall\nbind k a", "The key n gets \"+jump\" and was free."},
+             Row{"alias Rocket \"impulse 7\"\nunalias Rocket\nbind k a",
+                 "The alias Rocket gets \"impulse 7\" and was removed."},
+             Row{"bind g \"say \\\"hi\\\" you\"\nunbindall\nbind k a",
+                 "The key g gets \"say \"hi\" you\" and was free."},
+             Row{"bind n \"line\\\nnext", "The key n gets \"line\"\" and was \"line\\\"."},
+         }) {
+        const SaveReport report = ReportOf(kQuakeDialect, Join("name P\n", row.File), Console::DarkPlaces);
+        ASSERT_FALSE(report.Losses.empty());
+        EXPECT_EQ(report.Losses.front().Words, row.Words) << row.File;
+        EXPECT_TRUE(LosesSomething(report));
+    }
 }
 
 TEST(ReportSave, DoesNotSpeakOfItsOwnBanners) {

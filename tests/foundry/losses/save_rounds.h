@@ -4,7 +4,7 @@
 
 #pragma once
 
-#include "foundry/losses/kept_lines.h"
+#include "foundry/losses/keep_plan.h"
 #include "foundry/writing/compose_script.h"
 #include "tests/foundry/reading.h"
 #include "tests/foundry/script_fixture.h"
@@ -39,15 +39,35 @@ inline Text LossesOf(const ScriptDialect& dialect, TextView file) {
     return LossesOf(ReportOf(dialect, file));
 }
 
+inline KeepPlan PlanOf(const ScriptDialect& dialect, const ScriptDocument& document, TextView file,
+                       const ChangedNames& changed, Console console) {
+    return PlanKeeping(
+        document, file, changed, [&](TextView script) { return WrittenOf(dialect, script); }, kScriptDay, console);
+}
+
 /// The script as "keep these" and a save leave it.
 inline Text KeptScript(const ScriptDialect& dialect, TextView file, Console console) {
     ScriptDocument document = ReadScript(dialect, file);
-    KeepLosses(document, file, {}, kScriptDay, console);
+    document.Sections = PlanOf(dialect, document, file, {}, console).Sections;
     return ComposeScript(document, kScriptDay);
 }
 
 inline Text KeptScript(const ScriptDialect& dialect, TextView file) {
     return KeptScript(dialect, file, ConsoleOfDialect(dialect));
+}
+
+/// Its Free Form Additions.
+inline Text KeptFreeForm(const ScriptDialect& dialect, TextView file, Console console) {
+    return PlanOf(dialect, ReadScript(dialect, file), file, {}, console).Sections.at(0).Text;
+}
+
+/// All that opening and saving it changes for the game, of what kind ever, one a line.
+inline Text AllChangesOf(const ScriptDialect& dialect, TextView file, Console console) {
+    Text all;
+    for (const SaveLoss& loss : ReportOf(dialect, file, console).Losses) {
+        all += Join(all.empty() ? "" : "\n", loss.Words, " (", loss.Reason, ")");
+    }
+    return all;
 }
 
 }  // namespace lv

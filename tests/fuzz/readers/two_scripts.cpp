@@ -4,7 +4,7 @@
 
 #include "console/script_comparison.h"
 #include "console/text_difference.h"
-#include "foundry/losses/kept_lines.h"
+#include "foundry/losses/keep_plan.h"
 #include "foundry/writing/compose_script.h"
 #include "tests/foundry/reading.h"
 #include "tests/fuzz/readers.h"
@@ -64,7 +64,11 @@ void FuzzTwoScripts(TextView input) {
     const LocalTime day = {1999, 11, 21, 12, 30, 0};
     const Text written = ComposeScript(document, day);
     const SaveReport report = ReportSave({left, written}, {}, dialect, console);
-    KeepLosses(document, left, {}, day, console);
+    const auto resave = [&](TextView script) { return ComposeScript(ReadScript(dialect, script), day); };
+    document.Sections = PlanKeeping(document, left, {}, resave, day, console).Sections;
+    const Text kept = ComposeScript(document, day);
+    const ScriptDocument again = ReadScript(dialect, kept);
+    MustHold(!PlanKeeping(again, kept, {}, resave, day, console).Keeps, "what is kept once is kept for good");
     MustHold(report.Losses.size() <= left.size() + written.size(), "no more is told of than there is");
 }
 
