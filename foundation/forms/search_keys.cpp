@@ -157,7 +157,9 @@ class ListSearch : public wxTimer {
 
 void SearchByTyping(wxWindow* list, SearchedRows rows) {
     const auto search = std::make_shared<ListSearch>(list, std::move(rows));
+    // Windows' open list has the mouse for itself: its keys come without the hook, all others have been through it.
     list->Bind(wxEVT_CHAR_HOOK, [search](wxKeyEvent& key) { key.Skip(!search->Hook(key)); });
+    list->Bind(wxEVT_KEY_DOWN, [search](wxKeyEvent& key) { key.Skip(!search->Hook(key)); });
     list->Bind(wxEVT_CHAR, [search](wxKeyEvent& key) { key.Skip(!search->Type(key)); });
     // The list goes with its search; what the system holds of it may go later.
     const std::weak_ptr<ListSearch> alive = search;

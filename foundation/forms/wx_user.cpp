@@ -243,6 +243,8 @@ std::optional<Text> WxUser::InputBox(TextView title, TextView prompt, TextView o
     for (wxWindow* child : dialog.GetChildren()) {
         if (auto* field = dynamic_cast<wxTextCtrl*>(child)) {
             SetSpokenName(field->GetHandle(), ToUtf8(prompt));
+            // What is typed takes the place of what is offered; Windows puts the cursor in front of it.
+            dialog.CallAfter([field] { field->SelectAll(); });
         }
     }
     if (dialog.ShowModal() != wxID_OK) {

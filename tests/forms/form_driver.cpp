@@ -124,6 +124,10 @@ int ForgetModals() {
     return static_cast<int>(waiting);
 }
 
+void PassMenu(int key, const std::string& picture) {
+    WalkMenu(key, {}, picture, {WXK_ESCAPE, WXK_ESCAPE});
+}
+
 void DoAndAnswer(const std::function<void()>& open, const std::function<void()>& act) {
     const int before = OpenModals();
     bool acted = false;

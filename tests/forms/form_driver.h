@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace lv {
 
@@ -47,6 +48,9 @@ int ForgetModals();
 
 /// Does what opens another modal window, acts in that, and waits until it is gone.
 void DoAndAnswer(const std::function<void()>& open, const std::function<void()>& act);
+
+/// Opens a menu by its access key, presses further keys in it, keeps a picture, and presses the last ones.
+void WalkMenu(int key, const std::vector<int>& further, const std::string& picture, const std::vector<int>& last);
 
 /// Opens a menu by its access key, keeps a picture of it, and closes it again.
 void PassMenu(int key, const std::string& picture);

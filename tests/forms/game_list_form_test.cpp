@@ -11,6 +11,7 @@
 #include "launcher/menu/menu_table.h"
 #include "platform/toolkit/spoken_name.h"
 #include "tests/forms/lv_form_fixture.h"
+#include "tests/forms/window_manners.h"
 
 namespace lv {
 namespace {
@@ -61,8 +62,10 @@ TEST_F(GameListForms, ShowsWhatWasPlayedLastOnTop) {
         EXPECT_EQ(Rows()->GetItemText(2, 2), "never");
         EXPECT_EQ(Selected(), 0);
         EXPECT_TRUE(HasKeyboard(Find("GameSearch_Txt")));
-        EXPECT_EQ(SpokenName(Find("GameSearch_Txt")->GetHandle()), "Search");
-        EXPECT_EQ(SpokenName(Rows()->GetHandle()), "Games, Quake 2, Quake2, today, 14:30, 1:01, 12");
+        if (SystemKeepsNames(*Rows())) {
+            EXPECT_EQ(SpokenName(Find("GameSearch_Txt")->GetHandle()), "Search");
+            EXPECT_EQ(SpokenName(Rows()->GetHandle()), "Games, Quake 2, Quake2, today, 14:30, 1:01, 12");
+        }
         for (const char* name : {"GameSearch_Txt", "Games_Lst", "PickGame_Cmd", "LaunchGame_Cmd", "CloseGames_Cmd"}) {
             EXPECT_NE(Find(name)->GetHelpText(), "") << name;
         }

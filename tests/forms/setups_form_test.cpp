@@ -169,12 +169,7 @@ TEST_F(SetupsForm, TheMenuHasTheSetupsThatThereAre) {
 
 TEST_F(SetupsForm, AClickOnANameInTheMenuStartsIt) {
     KeepTwo();
-    PressKey('T', wxMOD_ALT);
-    Settle(200);
-    PressKey('E');
-    Settle(200);
-    Screenshot("menu_setups");
-    PressKey('1');
+    WalkMenu('T', {'E'}, "menu_setups", {'1'});
     EXPECT_TRUE(SettleUntil([this] { return !system.Programs.Started.empty(); }));
     EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"c:\\quake2\\lv_666.bat"}));
     EXPECT_EQ(Items().back(), "&2 Flag && Co");

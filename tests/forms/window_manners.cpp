@@ -40,17 +40,6 @@ char AccessKeyIn(const wxString& label) {
     return 0;
 }
 
-bool SystemKeepsNames(wxWindow& control) {
-    static const bool keeps = [&control] {
-        const std::string before = SpokenName(control.GetHandle());
-        SetSpokenName(control.GetHandle(), "a name");
-        const bool kept = SpokenName(control.GetHandle()) == "a name";
-        SetSpokenName(control.GetHandle(), before);
-        return kept;
-    }();
-    return keeps;
-}
-
 // A cell says what it shows when the keyboard comes to it.
 bool NeedsAName(const wxWindow& control) {
     return dynamic_cast<const CellLabel*>(&control) == nullptr && control.AcceptsFocus() &&
@@ -68,6 +57,17 @@ class MannersHook : public wxModalDialogHook {
 };
 
 }  // namespace
+
+bool SystemKeepsNames(wxWindow& control) {
+    static const bool keeps = [&control] {
+        const std::string before = SpokenName(control.GetHandle());
+        SetSpokenName(control.GetHandle(), "a name");
+        const bool kept = SpokenName(control.GetHandle()) == "a name";
+        SetSpokenName(control.GetHandle(), before);
+        return kept;
+    }();
+    return keeps;
+}
 
 std::string SharedAccessKeys(const wxWindow& window) {
     std::map<char, std::vector<wxString>> keys;

@@ -11,6 +11,9 @@
 
 namespace lv {
 
+/// Whether assistive tools are told what a control is called; Wine's service for it refuses.
+bool SystemKeepsNames(wxWindow& control);
+
 /// The controls in sight that share an access key, as "c: &Cool, &Cancel"; empty if none do.
 std::string SharedAccessKeys(const wxWindow& window);
 

@@ -84,11 +84,15 @@ bool HasKeyboard(wxWindow* control) {
     return focus != nullptr && (focus == control->GetHandle() || isAncestor(focus, control->GetHandle()) != 0);
 }
 
-void PassMenu(int key, const std::string& picture) {
+void WalkMenu(int key, const std::vector<int>& further, const std::string& picture, const std::vector<int>& last) {
     PressKey(key, wxMOD_ALT);
+    for (const int next : further) {
+        PressKey(next);
+    }
     Screenshot(picture);
-    PressKey(WXK_ESCAPE);
-    PressKey(WXK_ESCAPE);
+    for (const int next : last) {
+        PressKey(next);
+    }
 }
 
 // By the screen's own eyes: the toolkit's view of the screen does not change once it was looked at.

@@ -96,20 +96,26 @@ bool HasKeyboard(wxWindow* control) {
     return focus != nullptr && (focus == control || focus->GetParent() == control);
 }
 
-// An open menu keeps all messages to itself: what closes it has to come from a timer.
-void PassMenu(int key, const std::string& picture) {
-    bool seen = false;
+// An open menu keeps all messages to itself: the keys in it have to come from a timer.
+void WalkMenu(int key, const std::vector<int>& further, const std::string& picture, const std::vector<int>& last) {
+    std::size_t pressed = 0;
     wxTimer timer;
     timer.Bind(wxEVT_TIMER, [&](wxTimerEvent&) {
-        seen = true;
-        KeepPicture(picture);
         wxUIActionSimulator hand;
-        hand.Char(WXK_ESCAPE);
-        hand.Char(WXK_ESCAPE);
+        if (pressed < further.size()) {
+            hand.Char(further[pressed++]);
+            timer.StartOnce(kMenuMilliseconds);
+            return;
+        }
+        KeepPicture(picture);
+        for (const int next : last) {
+            hand.Char(next);
+        }
+        ++pressed;
     });
     timer.StartOnce(kMenuMilliseconds);
     PressKey(key, wxMOD_ALT);
-    EXPECT_TRUE(SettleUntil([&] { return seen; }));
+    EXPECT_TRUE(SettleUntil([&] { return pressed > further.size(); }));
     Settle();
 }
 
