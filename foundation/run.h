@@ -51,6 +51,8 @@ struct Run {
     bool ShowAgain = true;     // outcome of AskUserOnce
     int SaveGroups = 0;        // open SavesTogether
     bool GroupFailed = false;  // a save in them did, and the user was told
+    int TellingOnce = 0;       // open ToldOnce
+    int FaultTold = 0;         // the number of what was told in them
     bool LockTold = false;     // another program holds the store, and the user knows that nothing is saved
     bool MainFormLoaded = false;
     TopmostState Topmost{};

@@ -22,12 +22,20 @@ Text FaultOf(TextView section, TextView key, TextView value) {
     return reason;
 }
 
+constexpr const char* kManyLost = "Settings could not be saved; the old ones are still there.";
+
 void Tell(Run& run, TextView what, TextView which, const Error& failed) {
     if (run.LockTold && failed.Number == error::kAlreadyOpen) {
         return;
     }
+    if (run.TellingOnce > 0 && run.FaultTold == failed.Number) {
+        return;
+    }
+    run.FaultTold = failed.Number;
     Text title = run.AppName;
-    AskUser(run, title, Join(what, NewLine, NewLine, which, which.empty() ? "" : NewLine, ErrorLines(failed)));
+    AskUser(run, title,
+            Join(run.TellingOnce > 0 ? kManyLost : what, NewLine, NewLine, which, which.empty() ? "" : NewLine,
+                 ErrorLines(failed)));
 }
 
 constexpr int kNotThere = 2;  // the registry's number for a key or value that is missing
@@ -111,6 +119,16 @@ SavesTogether::~SavesTogether() {
     if (failed && !told) {
         Tell(run_, "These settings could not be saved; the old ones are still there.", "", failed);
     }
+}
+
+ToldOnce::ToldOnce(Run& run) : run_(run) {
+    if (run_.TellingOnce++ == 0) {
+        run_.FaultTold = 0;
+    }
+}
+
+ToldOnce::~ToldOnce() {
+    --run_.TellingOnce;
 }
 
 bool Save(Run& run, TextView section, TextView key, TextView value) {

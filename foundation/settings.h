@@ -45,6 +45,19 @@ class SavesTogether {
     Run& run_;
 };
 
+/// While it lives, saves that fail for the reason that was told last are told no second time: many are made at the
+/// start and at the end, and what stands in the way of one stands in the way of all. Scopes nest.
+class ToldOnce {
+  public:
+    explicit ToldOnce(Run& run);
+    ~ToldOnce();
+    ToldOnce(const ToldOnce&) = delete;
+    ToldOnce& operator=(const ToldOnce&) = delete;
+
+  private:
+    Run& run_;
+};
+
 /// The raw registry of other programs, below HKEY_CURRENT_USER. Text (type 1) or a number (type 4); any other type,
 /// or a value that cannot be read, gives an empty value and no error.
 struct RegValue {

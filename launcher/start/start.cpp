@@ -84,6 +84,7 @@ void OpenWindows(Launcher& launcher) {
 
 bool Start(Launcher& launcher) {
     Run& run = launcher.run;
+    const ToldOnce told(run);
     Splash_Frm& splash = launcher.Splash;
     ShowSplash(run, splash);
     if (!Prepare(launcher)) {

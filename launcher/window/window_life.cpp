@@ -83,6 +83,7 @@ bool LV_Frm_QueryUnload(Launcher& launcher) {
 
 void Exit_Bar_Click(Launcher& launcher) {
     Run& run = launcher.run;
+    const ToldOnce told(run);
     LV_Frm& window = launcher.Window;
     window.CanUnload = true;
     SavePlacement(run, "LV_Frm", window.Placement);

@@ -111,6 +111,25 @@ TEST_F(SettingsTest, EachSaveOutsideAGroupTellsOfItsOwnFailure) {
     EXPECT_FALSE(Save(run, kOptions, "b", 1));
 }
 
+TEST_F(SettingsTest, WhatStandsInTheWayOfManySavesIsToldOnce) {
+    system.Settings.RefuseWrites = MakeError(error::kPermissionDenied);
+    user.Expect({"Lorvane 3D", "Settings could not be saved; the old ones are still there.\r\n\r\nOptions\\/\\a", 0});
+    user.Expect({"Lorvane 3D", "Settings could not be saved; the old ones are still there.\r\n\r\nOptions\\/\\d", 0});
+    user.Expect({"Lorvane 3D", "This setting could not be saved", 0});
+    {
+        const ToldOnce outer(run);
+        EXPECT_FALSE(Save(run, kOptions, "a", 1));
+        {
+            const ToldOnce inner(run);
+            EXPECT_FALSE(Save(run, kOptions, "b", 1));
+        }
+        EXPECT_FALSE(Save(run, kOptions, "c", 1));
+        system.Settings.RefuseWrites = MakeError(error::kDiskFull);
+        EXPECT_FALSE(Save(run, kOptions, "d", 1)) << "another reason";
+    }
+    EXPECT_FALSE(Save(run, kOptions, "e", 1)) << "behind the scope";
+}
+
 TEST_F(SettingsTest, AValueOfSixteenThousandCharactersIsStored) {
     EXPECT_TRUE(Save(run, kOptions, "Games", TextView(Text(16000, 'x'))));
     EXPECT_EQ(GetSetting(run, run.AppName, kOptions, "Games"), Text(16000, 'x'));

@@ -252,6 +252,17 @@ TEST_F(StartTest, WithoutAWindowNeitherAnInstanceNorTheUserIsAsked) {
     EXPECT_EQ(run.GameKind, Game::Quake);
 }
 
+TEST_F(StartTest, SettingsThatMayOnlyBeReadAreToldOnceAtTheStartAndOnceAtTheEnd) {
+    system.Settings.RefuseWrites = MakeError(error::kPermissionDenied);
+    user.Expect({"Lorvane 3D", "Settings could not be saved; the old ones are still there.", 0});
+    EXPECT_TRUE(Start(launcher));
+    EXPECT_EQ(user.Asked.size(), 1U);
+    user.Expect({"Lorvane 3D", "Settings could not be saved; the old ones are still there.", 0});
+    Exit_Bar_Click(launcher);
+    EXPECT_EQ(user.Asked.size(), 2U);
+    EXPECT_TRUE(run.Ended);
+}
+
 TEST_F(StartTest, KeepsACopyOfTheSettingsThatHaveChanged) {
     const Text before = Stored(kOptions, "Executables");
     EXPECT_TRUE(Start(launcher));
