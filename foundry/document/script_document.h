@@ -61,6 +61,7 @@ struct ScriptDocument : ScriptSettings {
     Text BackupDue;     // the path of a foreign script that there is no copy of yet
     Text FollowedLink;  // where the user has let a save follow a link, out of the game and their home
 
+    bool Foreign = true;         // neither this program's banner nor its section was read
     bool ScriptClean = true;     // equals the file
     bool ScriptLoading = false;  // the reader is at work: the pages ignore changes
 };

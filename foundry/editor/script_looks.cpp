@@ -61,6 +61,7 @@ struct SaveLook {
     Console Its{};
     ChangedNames Changed;
     SaveReport Report;
+    bool Loses = false;
     KeepPlan Plan;  // where something is lost
 };
 
@@ -82,7 +83,10 @@ std::optional<SaveLook> LookAtSave(Fig_Frm& form) {
     look.Changed.InEditor = DifferingNames(ComposeScript(unedited, look.Date), look.Written, look.Its);
     look.Changed.OnDisk = DifferingNames(known, look.File, look.Its);
     look.Report = ReportSave({look.File, look.Written}, look.Changed, document.Dialect, look.Its);
-    if (LosesSomething(look.Report)) {
+    const bool foreign =
+        unedited.Foreign || ReadScratch(run, document.Dialect, document.CurrentScriptPath, look.File).Foreign;
+    look.Loses = LosesSomething(look.Report, foreign ? ScriptHand::Foreign : ScriptHand::Own);
+    if (LosesSomething(look.Report, ScriptHand::Foreign)) {
         const auto resave = [&](TextView script) {
             return ComposeScript(ReadScratch(run, document.Dialect, document.CurrentScriptPath, script), look.Date);
         };
@@ -141,7 +145,7 @@ void ShowChanges_Cmd_Click(Fig_Frm& form) {
 
 bool MaySaveChanges(Fig_Frm& form) {
     const auto look = LookAtSave(form);
-    if (!look || !LosesSomething(look->Report)) {
+    if (!look || !look->Loses) {
         return true;
     }
     Changes_Frm changes(form.run, look->Report, {look->File, look->Written}, ChangesTime::Saving);

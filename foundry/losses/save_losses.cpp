@@ -80,8 +80,10 @@ SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const
     return report;
 }
 
-bool LosesSomething(const SaveReport& report) {
-    return !report.IsOfNothing && std::ranges::any_of(report.Losses, [](const SaveLoss& loss) { return !loss.ByUser; });
+bool LosesSomething(const SaveReport& report, ScriptHand hand) {
+    return !report.IsOfNothing && std::ranges::any_of(report.Losses, [hand](const SaveLoss& loss) {
+        return !loss.ByUser && (hand == ScriptHand::Foreign || loss.Difference.Kind != DifferenceKind::Added);
+    });
 }
 
 }  // namespace lv

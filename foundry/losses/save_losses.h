@@ -51,8 +51,11 @@ Console ConsoleOfDialect(const ScriptDialect& dialect);
 SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const ScriptDialect& dialect,
                       Console console);
 
-/// Whether something would be lost, changed, moved or added that the user has not changed themselves. To a new script
-/// the editor adds what it writes into each.
-bool LosesSomething(const SaveReport& report);
+/// Who has written the file.
+enum class ScriptHand { Own, Foreign };
+
+/// Whether something would be lost, changed or moved that the user has not changed themselves, or come into another
+/// hand's script. To a new script the editor adds what it writes into each.
+bool LosesSomething(const SaveReport& report, ScriptHand hand);
 
 }  // namespace lv

@@ -32,10 +32,10 @@ bool MayTakeLong(Run& run, TextView path, std::uint64_t size) {
                    "&Leave It,&Read It") == 1;
 }
 
-std::optional<ScriptReading> Read(Run& run, ScriptDocument& document, ScriptView& view, TextView path) {
+bool Read(Run& run, ScriptDocument& document, ScriptView& view, TextView path) {
     auto file = OpenScriptFile(run, path);
     if (!file || !MayTakeLong(run, path, file->Size())) {
-        return std::nullopt;
+        return false;
     }
     document.ScriptLoading = true;
     const std::uint64_t firstLineWithoutAlias = ReadAliases(*file, document);
@@ -43,12 +43,11 @@ std::optional<ScriptReading> Read(Run& run, ScriptDocument& document, ScriptView
     if (!file) {
         document.AliasTable = {};
         document.ScriptLoading = false;
-        return std::nullopt;
+        return false;
     }
-    const ScriptReading reading =
-        ReadLines(*file, document, view, firstLineWithoutAlias, [&] { Sex_Cbo_Click(run, document); });
+    ReadLines(*file, document, view, firstLineWithoutAlias, [&] { Sex_Cbo_Click(run, document); });
     document.ScriptLoading = false;
-    return reading;
+    return true;
 }
 
 void BackUp(Run& run, ScriptDocument& document, TextView path) {
@@ -117,13 +116,12 @@ bool OpenScriptFrom(Run& run, ScriptDocument& document, ScriptView& view, TextVi
     document.CurrentScriptPath = given;
     document.CurrentScriptDirectory = given.substr(0, given.rfind('\\') + 1);
     PrepareSkinPage(run, document);
-    const auto reading = Read(run, document, view, from);
-    if (!reading) {
+    if (!Read(run, document, view, from)) {
         return false;
     }
     document.Caption = EditorCaption(given);
     KeepFileText(run, document, given);
-    if (reading->Foreign) {
+    if (document.Foreign) {
         BackUp(run, document, given);
     }
     document.ScriptClean = true;

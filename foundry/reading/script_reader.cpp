@@ -302,8 +302,8 @@ std::uint64_t ReadAliases(RandomAccessFile& file, ScriptDocument& document) {
     return std::numeric_limits<std::uint64_t>::max();
 }
 
-ScriptReading ReadLines(RandomAccessFile& file, ScriptDocument& document, ScriptView& view,
-                        std::uint64_t firstLineWithoutAlias, const std::function<void()>& modelChosen) {
+void ReadLines(RandomAccessFile& file, ScriptDocument& document, ScriptView& view, std::uint64_t firstLineWithoutAlias,
+               const std::function<void()>& modelChosen) {
     ScriptLines lines(file);
     SecondPass pass(lines, document, view, firstLineWithoutAlias);
     std::span<char> bytes;
@@ -311,7 +311,7 @@ ScriptReading ReadLines(RandomAccessFile& file, ScriptDocument& document, Script
         pass.TakeLine(bytes);
     }
     pass.Finish(modelChosen);
-    return {pass.Foreign()};
+    document.Foreign = pass.Foreign();
 }
 
 }  // namespace lv

@@ -20,17 +20,13 @@ constexpr std::size_t kMostAliases = 32767;
 /// begins a comment end it early.
 bool LineHoldsAlias(TextView name, TextView body);
 
-struct ScriptReading {
-    bool Foreign = true;  // neither this program's banner nor its section was seen
-};
-
 /// First pass: the aliases. `document` is as MakeScriptDocument made it. The result is the number of the first line
 /// whose alias found no room, and beyond all lines if there is none.
 std::uint64_t ReadAliases(RandomAccessFile& file, ScriptDocument& document);
 
 /// Second pass: all else. `modelChosen` runs when the script's skin line has chosen a model in Sex_Cbo: it makes
 /// Skin_Cbo show the model's skins.
-ScriptReading ReadLines(RandomAccessFile& file, ScriptDocument& document, ScriptView& view,
-                        std::uint64_t firstLineWithoutAlias, const std::function<void()>& modelChosen);
+void ReadLines(RandomAccessFile& file, ScriptDocument& document, ScriptView& view, std::uint64_t firstLineWithoutAlias,
+               const std::function<void()>& modelChosen);
 
 }  // namespace lv

@@ -279,8 +279,7 @@ TEST_F(FigForm_, ATypedValueIsSavedThoughNoListHasIt) {
         TypeText("97");
         EXPECT_EQ(fov->GetValue(), "97");
         EXPECT_EQ(form->Model().Document.fov_Cbo.Selected(), "97");
-        const AnswersBoxes saved;
-        DoAndAnswer([] { PressKey('S', wxMOD_CONTROL); }, [] { ClickOn(Find("Save_Cmd")); });
+        DoAndAnswer([] { PressKey('S', wxMOD_CONTROL); }, [] { ClickOn(Find("Button_Cmd(0)")); });
     });
     EXPECT_THAT(File(), HasSubstr("\r\nfov 97\r\n"));
 }
@@ -313,8 +312,11 @@ TEST_F(FigForm_, SavesWhatWasBound) {
         TurnBindings(BindingsPage::Standard);
         Drag("Key_Lbl(5)", "Setting_Lbl(112)");
         Turn(EditorPage::SaveAndExit);
-        const AnswersBoxes saved;
-        DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); }, [] { ClickOn(Find("Save_Cmd")); });
+        DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); },
+                    [] {
+                        Screenshot("foundry_saved");
+                        ClickOn(Find("Button_Cmd(0)"));
+                    });
         EXPECT_TRUE(form->Model().Document.ScriptClean);
     });
     EXPECT_THAT(File(), HasSubstr("bind \"e\"             \"+jump\"\r\n"));

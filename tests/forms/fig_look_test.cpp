@@ -143,7 +143,12 @@ TEST_F(FigLooks, AnOlderVersionIsBroughtBackAndUndone) {
     Edit([&] {
         TurnBindings(BindingsPage::Standard);
         Drag("Key_Lbl(5)", "Setting_Lbl(112)");
-        SaveAndPress("Save_Cmd", "");
+        Turn(EditorPage::SaveAndExit);
+        {
+            const AnswersBoxes saved;
+            ClickOn(Find("View_Cmd(6)"));
+            Settle();
+        }
         const Text second = File();
         EXPECT_NE(second, first);
         DoAndAnswer([] { ClickOn(Find("Versions_Cmd")); },

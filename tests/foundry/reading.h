@@ -41,10 +41,10 @@ inline ScriptDialect DialectOf(Game kind, bool quakeWorld = false) {
 }
 
 /// Both passes into a document that is ready for them.
-inline ScriptReading ReadInto(ScriptDocument& document, TextView bytes, ScriptView& view) {
+inline void ReadInto(ScriptDocument& document, TextView bytes, ScriptView& view) {
     BytesFile file(bytes);
     const std::uint64_t full = ReadAliases(file, document);
-    return ReadLines(file, document, view, full, [] {});
+    ReadLines(file, document, view, full, [] {});
 }
 
 inline ScriptDocument ReadScript(const ScriptDialect& dialect, TextView bytes) {

@@ -95,11 +95,16 @@ class EditedProgram : public ProgramRun {
         PressKey("Return");
     }
 
-    /// Waits for the box, presses the key in it, and goes on in the editor if that is there.
-    void Answer(const std::string& title, const std::string& key) {
+    /// Waits for the box and presses the key in it.
+    void AnswerAlone(const std::string& title, const std::string& key) {
         WaitForDialog(title);
         PressKey(key);
         EXPECT_TRUE(WaitUntil([&] { return ShownWindowsOf(Id(), title).empty(); })) << title << " stays";
+    }
+
+    /// The same, and goes on in the editor if that is there.
+    void Answer(const std::string& title, const std::string& key) {
+        AnswerAlone(title, key);
         if (!editor_.empty()) {
             EXPECT_TRUE(Activate(editor_));
         }
@@ -159,7 +164,7 @@ TEST(EditScript, TheEngineExecutesWhatWasEditedAndSaved) {
 
     KeepScreenshot("edit_script");
     PressKey("ctrl+s");
-    program.Answer(kChangesTitle, "alt+s");  // a script that another hand has written
+    program.AnswerAlone(kChangesTitle, "alt+s");  // a script that another hand has written
     program.Answer(kBoxTitle, "Return");
     program.CloseEditor();
     program.Launch();
@@ -191,7 +196,7 @@ TEST(EditScript, WhatTheEndOfTheSessionFoundUnsavedIsOfferedAndSaved) {
 
     EditedProgram program(home, [](EditedProgram& opening) { opening.Answer(kBoxTitle, "alt+t"); });
     PressKey("ctrl+s");
-    program.Answer(kChangesTitle, "alt+s");  // a script that another hand has written
+    program.AnswerAlone(kChangesTitle, "alt+s");  // a script that another hand has written
     program.Answer(kBoxTitle, "Return");
     EXPECT_TRUE(WaitForText(script, "bind \"e\"             \"+jump\"")) << ReadBytes(script);
     EXPECT_THAT(NamesIn(script.parent_path()), Not(Contains(StartsWith("SetupFoundry_Rescue_"))));

@@ -5,7 +5,6 @@
 #include "foundry/editor/settings_pages.h"
 #include "foundry/editor/setup_foundry.h"
 #include "foundry/foundry.h"
-#include "foundry/look/changes_frm.h"
 #include "foundry/writing/compose_script.h"
 #include "launcher/window/window_life.h"
 #include "tests/foundry/editor/lifecycle_fixture.h"
@@ -265,7 +264,6 @@ TEST_F(RescuedEdits, AreNoPartOfWhatIsTypedBehindThem) {
 
 TEST_F(RescuedEdits, ThatAreWhatTheScriptOnDiskSaysAreNone) {
     OpenAndLoad(kQuakeDialect, "bind w +forward\n");
-    user.In<Changes_Frm>(Changes_Save_Cmd_Click);
     ExpectSuccess();
     View_Cmd_Click(form, 6);  // from here on it says all that a script of the program's says
     EndAndTakeUp();

@@ -24,7 +24,6 @@ class ScriptLooks : public Lifecycle {
 TEST_F(ScriptLooks, AVersionThatIsBroughtBackIsEditedThen) {
     OpenAndLoad(kQuakeDialect, "bind x +attack\nalias mine \"impulse 7\"\n");
     Change();
-    user.In<Changes_Frm>(Changes_Save_Cmd_Click);
     ExpectSuccess();
     View_Cmd_Click(form, 6);
     ASSERT_EQ(form.Document.Name_Txt.Text, "Me");
@@ -96,14 +95,14 @@ TEST_F(ScriptLooks, AScriptThatTheLaunchLeavesOutIsStillCheckedAndThatIsSaid) {
 class SaveLooks : public Lifecycle {
   protected:
     /// A script that this program has not written, with a bind that the editor cannot hold.
-    void OpenForeign() {
+    void OpenForeign(TextView script = "bind ESCAPE togglemenu\r\nbind x +attack\r\n") {
         run.GameKind = Game::Quake;
         run.ScriptFamily = Dialect::Quake;
         run.DefaultGameDirectory = "C:\\GAME";
         run.BaseGameDir = "ID1";
         run.CurrentGameDir = "ID1";
         SwitchMessageOff("BackupScript");
-        system.Disk.AddFile(Text(kEditedScript), "bind ESCAPE togglemenu\r\nbind x +attack\r\n");
+        system.Disk.AddFile(Text(kEditedScript), script);
         ASSERT_TRUE(OpenScript(run, form.Document, form, kEditedScript));
         Fig_Frm_Load(form);
         system.Disk.Log.clear();  // of the copy of a foreign script
@@ -159,8 +158,16 @@ TEST_F(SaveLooks, AScriptOfThisProgramIsSavedWithoutAWord) {
     EXPECT_EQ(Saves(), 2);
 }
 
-TEST_F(SaveLooks, WhatComesToAScriptUnaskedIsShownOnce) {
+TEST_F(SaveLooks, AScriptOfThisProgramThatLosesNothingIsSavedWithoutAWord) {
     OpenAndLoad(kQuakeDialect, "bind x +attack\n");
+    Change();
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);  // it gets settings more
+    EXPECT_EQ(Saves(), 1);
+}
+
+TEST_F(SaveLooks, WhatComesToAnothersScriptUnaskedIsShownOnce) {
+    OpenForeign("bind x +attack\r\n");
     user.In<Changes_Frm>([](Changes_Frm& changes) {
         const std::vector<Text>& rows = changes.Losses_Lst.Items;
         EXPECT_NE(std::ranges::find(rows,

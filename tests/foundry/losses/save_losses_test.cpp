@@ -177,14 +177,18 @@ TEST(ReportSave, PutsWhatIsAddedBehindWhatIsLost) {
     EXPECT_EQ(report.Losses[0].Words, "The key ESCAPE loses \"togglemenu\".");
     EXPECT_EQ(report.Losses[1].Words, "The setting sv_aim is lost: \"0.9\".");
     EXPECT_EQ(report.Losses[2].Difference.Kind, DifferenceKind::Added);
-    EXPECT_TRUE(LosesSomething(report));
+    EXPECT_TRUE(LosesSomething(report, ScriptHand::Foreign));
+    EXPECT_TRUE(LosesSomething(report, ScriptHand::Own));
 }
 
 TEST(ReportSave, CountsWhatComesToAScriptUnasked) {
-    EXPECT_TRUE(LosesSomething(ReportOf(kQuakeDialect, "bind a \"+attack\"")));
-    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, "")));
-    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, "// a new one\n")));
-    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, WrittenOf(kQuakeDialect, "name P\nbind a \"+attack\""))));
+    const SaveReport added = ReportOf(kQuakeDialect, "bind a \"+attack\"");
+    EXPECT_TRUE(LosesSomething(added, ScriptHand::Foreign));
+    EXPECT_FALSE(LosesSomething(added, ScriptHand::Own)) << "nothing is lost";
+    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, ""), ScriptHand::Foreign));
+    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, "// a new one\n"), ScriptHand::Foreign));
+    EXPECT_FALSE(LosesSomething(ReportOf(kQuakeDialect, WrittenOf(kQuakeDialect, "name P\nbind a \"+attack\"")),
+                                ScriptHand::Foreign));
 }
 
 /// What two scripts that are written by hand set otherwise is told, whatever makes it so.
@@ -204,7 +208,8 @@ TEST(ReportSave, ListsWhatAConsoleTakesOtherwiseThanTheEditor) {
         const SaveReport report = ReportOf(kQuakeDialect, Join("name P\n", row.File), Console::DarkPlaces);
         ASSERT_FALSE(report.Losses.empty());
         EXPECT_EQ(report.Losses.front().Words, row.Words) << row.File;
-        EXPECT_TRUE(LosesSomething(report));
+        EXPECT_TRUE(LosesSomething(report, ScriptHand::Foreign));
+        EXPECT_TRUE(LosesSomething(report, ScriptHand::Own));
     }
 }
 

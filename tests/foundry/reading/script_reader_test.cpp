@@ -20,7 +20,8 @@ Text AliasesIn(TextView script, Game kind = Game::Quake) {
 bool IsForeign(TextView script, Game kind = Game::Quake) {
     ScriptView view;
     ScriptDocument document = MakeScriptDocument(DialectOf(kind));
-    return ReadInto(document, script, view).Foreign;
+    ReadInto(document, script, view);
+    return document.Foreign;
 }
 
 /// The sections as "[Name]text", with "|" for a line end, joined by " ".
