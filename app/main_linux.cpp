@@ -20,6 +20,7 @@
 #include "platform/code_page.h"
 #include "platform/linux/end_signals.h"
 #include "platform/linux/linux_clock.h"
+#include "platform/linux/linux_desktop_lists.h"
 #include "platform/linux/linux_instance.h"
 #include "platform/linux/linux_known_places.h"
 #include "platform/linux/linux_processes.h"
@@ -36,6 +37,7 @@ struct LinuxSystem {
         Services.Instance = &Instance;
         Services.Windows = &Windows;
         Services.Places = &Places;
+        Services.Lists = IsReadByTheDesktop() ? &Lists : nullptr;
     }
 
     static std::unique_ptr<LinuxSystem> Make() {
@@ -75,6 +77,7 @@ struct LinuxSystem {
     LinuxClock Time;
     X11Desktop Windows;
     LinuxKnownPlaces Places{Disk};
+    LinuxDesktopLists Lists;
     LinuxInstance Instance{ConfigDirectory().string()};
     std::optional<EndSignals> Signals;  // before the window is up there is nothing to keep
     std::function<void()> OnEnd;

@@ -24,6 +24,7 @@
 #include "platform/windows/windows_known_places.h"
 #include "platform/windows/windows_processes.h"
 #include "platform/windows/windows_registry.h"
+#include "platform/windows/windows_registry_trees.h"
 
 namespace lv {
 
@@ -34,6 +35,7 @@ struct WindowsSystem {
         Services.Instance = &Instance;
         Services.Windows = &Desk;
         Services.Places = &Places;
+        Services.Trees = &Trees;
     }
 
     static std::unique_ptr<WindowsSystem> Make() { return std::make_unique<WindowsSystem>(); }
@@ -60,6 +62,7 @@ struct WindowsSystem {
     WindowsInstance Instance{kInstanceCaption};
     WindowsDesktop Desk;
     WindowsKnownPlaces Places{Disk};
+    WindowsRegistryTrees Trees;
     AccessKeys Keys;
     Platform Services{Settings, Registry, Disk, Programs, Clip, Time};
 };

@@ -43,6 +43,10 @@ Result<ServerAddress> ReadServerAddress(TextView word) {
     return address;
 }
 
+std::span<const TextView> LinkSchemes() {
+    return kSchemes;
+}
+
 std::optional<ServerLink> ReadServerLink(TextView word) {
     const std::size_t colon = word.find("://");
     if (colon == TextView::npos) {

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include "foundation/text.h"
 #include "platform/error.h"
@@ -18,6 +19,9 @@ struct ServerAddress {
 
 /// "host" or "host:port". The error says what a server's address looks like.
 Result<ServerAddress> ReadServerAddress(TextView word);
+
+/// The schemes of such links, "quake2", in lower case.
+std::span<const TextView> LinkSchemes();
 
 /// An address that a link names, "quake2://host:port/", and the scheme in lower case; nothing if the word is no link of
 /// a game's server. What stands behind the address is left out.

@@ -8,6 +8,7 @@
 #include "foundation/forms/wx_text.h"
 #include "launcher/forms/drop_target.h"
 #include "launcher/forms/main_menu.h"
+#include "launcher/links/links_menu.h"
 #include "launcher/setups/setups_menu.h"
 #include "launcher/window/hint.h"
 #include "launcher/window/window_life.h"
@@ -66,6 +67,10 @@ void LvForm::BindEvents() {
                 MenuIdOf(item));
         }
     }
+    Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
+        event.Skip();
+        binder_.Run([&] { Menu_Open(launcher_); });
+    });
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
         if (!event.CanVeto()) {
             event.Skip();

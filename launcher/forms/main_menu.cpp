@@ -16,7 +16,8 @@ wxString LabelOf(const LV_Frm& window, const MenuRow& row) {
 
 bool IsCheckable(MenuItem item) {
     return item == MenuItem::ShowAll_Bar_0 || item == MenuItem::ShowAll_Bar_1 || item == MenuItem::ShowAll_Bar_2 ||
-           item == MenuItem::AlwaysOnTop_Bar || (item >= MenuItem::Setup_Bar_0 && item <= MenuItem::Setup_Bar_8);
+           item == MenuItem::AlwaysOnTop_Bar || item == MenuItem::TakeLinks_Bar ||
+           (item >= MenuItem::Setup_Bar_0 && item <= MenuItem::Setup_Bar_8);
 }
 
 void InsertItem(const LV_Frm& window, wxMenu& menu, std::size_t place, const MenuRow& row) {

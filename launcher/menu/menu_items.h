@@ -104,6 +104,7 @@ enum class MenuItem : int {
     GameList_Bar,
     FileOrder_Bar,
     ScriptCheck_Bar,
+    TakeLinks_Bar,
     Count,
 };
 

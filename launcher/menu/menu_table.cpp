@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "launcher/links/links_menu.h"
 #include "launcher/menu/catalog_menu.h"
 #include "launcher/menu/transfer_menu.h"
 #include "launcher/menu/video_profile_menu.h"
@@ -145,6 +146,7 @@ constexpr MenuRow kRows[] = {
     {GameList_Bar, "GameList_Bar", kNoIndex, "Game &List...", "", Tools_Bar, GameList_Bar_Click},
     {FileOrder_Bar, "FileOrder_Bar", kNoIndex, "&Which File Wins...", "", Tools_Bar, FileOrder_Bar_Click},
     {ScriptCheck_Bar, "ScriptCheck_Bar", kNoIndex, "&Check Script...", "", Tools_Bar, ScriptCheck_Bar_Click},
+    {TakeLinks_Bar, "TakeLinks_Bar", kNoIndex, "&Take Game Links", "", Tools_Bar, TakeLinks_Bar_Click},
 };
 // clang-format on
 

@@ -113,6 +113,7 @@ const std::vector<Written>& Table() {
         {GameList_Bar, "GameList_Bar", -1, "Game &List...", "", Tools_Bar, true},
         {FileOrder_Bar, "FileOrder_Bar", -1, "&Which File Wins...", "", Tools_Bar, true},
         {ScriptCheck_Bar, "ScriptCheck_Bar", -1, "&Check Script...", "", Tools_Bar, true},
+        {TakeLinks_Bar, "TakeLinks_Bar", -1, "&Take Game Links", "", Tools_Bar, true},
     };
     return rows;
 }
