@@ -16,6 +16,7 @@ namespace lv {
 void FuzzArchiveDirectory(TextView input);
 void FuzzBatchPlan(TextView input);
 void FuzzCatalogFields(TextView input);
+void FuzzDefaultApps(TextView input);
 void FuzzFont(TextView input);
 void FuzzGameNotes(TextView input);
 void FuzzHalfLifeScript(TextView input);
@@ -39,6 +40,7 @@ constexpr FuzzedReader kFuzzedReaders[] = {
     {"archive_directory", FuzzArchiveDirectory},
     {"batch_plan", FuzzBatchPlan},
     {"catalog_fields", FuzzCatalogFields},
+    {"default_apps", FuzzDefaultApps},
     {"font", FuzzFont},
     {"game_notes", FuzzGameNotes},
     {"half_life_script", FuzzHalfLifeScript},
