@@ -14,6 +14,9 @@ OutFile "${OUTPUT}"
 InstallDir "$LOCALAPPDATA\Programs\Lorvane 3D"
 !define ENTRY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Lorvane 3D"
 !define SETTINGS "Software\VB and VBA Program Settings\Lorvane 3D"
+!define CLASSES "Software\Classes"
+!define SETTINGS_CLASS "Lorvane3D.Settings"
+!define OWN "Software\Lorvane 3D"
 InstallDirRegKey HKCU "${ENTRY}" "InstallLocation"
 
 VIProductVersion "${FILE_VERSION}"
@@ -109,6 +112,29 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
     ${EndIf}
 !macroend
 
+!macro TELL_OF_CLASSES
+    System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
+!macroend
+
+; What stood there before Tools, Take Game Links is there again, as launcher/links/class_links.cpp has it. A scheme that
+; another program has taken since is left alone.
+!macro GIVE_LINKS_BACK SCHEME
+    ReadRegStr $0 HKCU "${CLASSES}\${SCHEME}\shell\open\command" ""
+    ${If} $0 == '"$INSTDIR\lorvane3d.exe" -- "%1"'
+        DeleteRegKey HKCU "${CLASSES}\${SCHEME}"
+        System::Call 'advapi32::RegOpenKeyExW(p -2147483647, w "${OWN}\Links\${SCHEME}", i 0, i 0x20019, *p .r1) i .r0'
+        ${If} $0 = 0
+            System::Call 'advapi32::RegCreateKeyW(p -2147483647, w "${CLASSES}\${SCHEME}", *p .r2) i .r0'
+            ${If} $0 = 0
+                System::Call 'advapi32::RegCopyTreeW(p r1, p 0, p r2)'
+                System::Call 'advapi32::RegCloseKey(p r2)'
+            ${EndIf}
+            System::Call 'advapi32::RegCloseKey(p r1)'
+        ${EndIf}
+        DeleteRegKey HKCU "${OWN}\Links\${SCHEME}"
+    ${EndIf}
+!macroend
+
 Function WaitUntilTheOtherIsClosed
     ${If} $R0 == ""
         Return
@@ -182,6 +208,12 @@ Section "Lorvane 3D"
     WriteRegDWORD HKCU "${ENTRY}" "EstimatedSize" ${KILOBYTES}
     WriteRegDWORD HKCU "${ENTRY}" "NoModify" 1
     WriteRegDWORD HKCU "${ENTRY}" "NoRepair" 1
+    ; Exported settings: the window asks before it takes them.
+    WriteRegStr HKCU "${CLASSES}\${SETTINGS_CLASS}" "" "Lorvane 3D settings"
+    WriteRegStr HKCU "${CLASSES}\${SETTINGS_CLASS}\DefaultIcon" "" '"$INSTDIR\lorvane3d.exe",0'
+    WriteRegStr HKCU "${CLASSES}\${SETTINGS_CLASS}\shell\open\command" "" '"$INSTDIR\lorvane3d.exe" -- "%1"'
+    WriteRegStr HKCU "${CLASSES}\.lv3d" "" "${SETTINGS_CLASS}"
+    !insertmacro TELL_OF_CLASSES
 SectionEnd
 
 Section "un.Lorvane 3D"
@@ -197,6 +229,18 @@ Section "un.Lorvane 3D"
     ${If} $R0 == ""
         Delete "$SMPROGRAMS\Lorvane 3D.lnk"
         DeleteRegKey HKCU "${ENTRY}"
+        ReadRegStr $0 HKCU "${CLASSES}\.lv3d" ""
+        ${If} $0 == "${SETTINGS_CLASS}"
+            DeleteRegValue HKCU "${CLASSES}\.lv3d" ""
+            DeleteRegKey /ifempty HKCU "${CLASSES}\.lv3d"
+        ${EndIf}
+        DeleteRegKey HKCU "${CLASSES}\${SETTINGS_CLASS}"
+        !insertmacro GIVE_LINKS_BACK "qw"
+        !insertmacro GIVE_LINKS_BACK "quake"
+        !insertmacro GIVE_LINKS_BACK "quake2"
+        DeleteRegKey /ifempty HKCU "${OWN}\Links"
+        DeleteRegKey /ifempty HKCU "${OWN}"
+        !insertmacro TELL_OF_CLASSES
     ${EndIf}
 SectionEnd
 

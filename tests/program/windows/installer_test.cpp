@@ -44,6 +44,20 @@ std::wstring EntryOf(const wchar_t* name) {
     return failed == ERROR_SUCCESS ? std::wstring(text.data()) : L"(none)";
 }
 
+void SetText(const wchar_t* key, const std::wstring& text) {
+    RegSetKeyValueW(HKEY_CURRENT_USER, key, L"", REG_SZ, text.c_str(),
+                    static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+}
+
+// What stands in a key of the user's classes; "(none)" if there is nothing.
+std::wstring ClassOf(const std::wstring& key) {
+    std::array<wchar_t, 300> text{};
+    DWORD size = sizeof text;
+    const LSTATUS failed = RegGetValueW(HKEY_CURRENT_USER, (L"Software\\Classes\\" + key).c_str(), L"", RRF_RT_REG_SZ,
+                                        nullptr, text.data(), &size);
+    return failed == ERROR_SUCCESS ? std::wstring(text.data()) : L"(none)";
+}
+
 std::wstring StartMenuEntry() {
     std::array<wchar_t, MAX_PATH> roaming{};
     GetEnvironmentVariableW(L"APPDATA", roaming.data(), static_cast<DWORD>(roaming.size()));
@@ -84,6 +98,36 @@ TEST(Installer, InstallsWhatRunsAndTakesItAwayAgain) {
     EXPECT_FALSE(IsThere(kPlace));
     EXPECT_FALSE(IsThere(StartMenuEntry()));
     EXPECT_EQ(home.Get("LV-Stuff", "LaunchCount"), "1") << "the user's settings are gone";
+}
+
+TEST(Installer, OpensExportedSettingsUntilItIsRemoved) {
+    WindowsHome home;
+    home.Prepare();
+    ASSERT_EQ(Install(), 0u);
+    EXPECT_EQ(ClassOf(L".lv3d"), L"Lorvane3D.Settings");
+    EXPECT_EQ(ClassOf(L"Lorvane3D.Settings\\shell\\open\\command"),
+              L"\"" + std::wstring(kPlace) + L"\\lorvane3d.exe\" -- \"%1\"");
+    Remove(L"");
+    EXPECT_TRUE(WaitUntil([] { return ClassOf(L".lv3d") == L"(none)"; }));
+    EXPECT_EQ(ClassOf(L"Lorvane3D.Settings"), L"(none)");
+}
+
+TEST(Installer, GivesLinksOfGamesBackThatTheProgramHasTaken) {
+    WindowsHome home;
+    home.Prepare();
+    ASSERT_EQ(Install(), 0u);
+    const std::wstring ours = L"\"" + std::wstring(kPlace) + L"\\lorvane3d.exe\" -- \"%1\"";
+    SetText(L"Software\\Classes\\qw\\shell\\open\\command", ours);
+    SetText(L"Software\\Classes\\quake\\shell\\open\\command", ours);
+    SetText(L"Software\\Classes\\quake2\\shell\\open\\command", L"new.exe %1");
+    SetText(L"Software\\Lorvane 3D\\Links\\quake\\shell\\open\\command", L"old.exe %1");
+    Remove(L"");
+    EXPECT_TRUE(WaitUntil([] { return ClassOf(L"qw\\shell\\open\\command") == L"(none)"; }));
+    EXPECT_EQ(ClassOf(L"quake\\shell\\open\\command"), L"old.exe %1");
+    EXPECT_EQ(ClassOf(L"quake2\\shell\\open\\command"), L"new.exe %1");
+    for (const wchar_t* key : {L"Software\\Classes\\quake", L"Software\\Classes\\quake2", L"Software\\Lorvane 3D"}) {
+        RegDeleteTreeW(HKEY_CURRENT_USER, key);
+    }
 }
 
 TEST(Installer, TakesTheSettingsAlongWhereAskedTo) {
