@@ -10,6 +10,7 @@ namespace lv {
 
 namespace {
 
+constexpr const char* kUnsaid = "(a program that is not said as plain text)";
 constexpr TextView kTail = "\" -- \"%1\"";
 
 Text ClassOf(TextView scheme) {
@@ -99,11 +100,11 @@ std::vector<Text> LinksOfOthers(const LinkClasses& classes) {
     std::vector<Text> others;
     for (const TextView scheme : LinkSchemes()) {
         const Text chosen = OtherChoice(classes, scheme);
-        const Text command = TextAt(classes, CommandKey(scheme), "");
         if (!chosen.empty()) {
             others.push_back(Join(scheme, "://  ", Shown(chosen)));
-        } else if (!command.empty() && !IsLorvanes(classes, scheme)) {
-            others.push_back(Join(scheme, "://  ", Shown(command)));
+        } else if (classes.Trees.Has(CommandKey(scheme)) && !IsLorvanes(classes, scheme)) {
+            const Text command = TextAt(classes, CommandKey(scheme), "");
+            others.push_back(Join(scheme, "://  ", command.empty() ? kUnsaid : Shown(command)));
         }
     }
     return others;

@@ -98,6 +98,14 @@ TEST_F(ClassLinks, AreWhoseTheUserHasToldWindows) {
     EXPECT_EQ(LinksOfOthers(classes), (std::vector<Text>{"qw://  Other.Url"}));
 }
 
+TEST_F(ClassLinks, ACommandOfAnotherTypeIsSomebodysToo) {
+    EXPECT_FALSE(registry.Set("Software\\Classes\\qw\\shell\\open\\command", "", {2, "", 0}));
+    EXPECT_EQ(LinksOfOthers(classes), (std::vector<Text>{"qw://  (a program that is not said as plain text)"}));
+    EXPECT_FALSE(TakeClassLinks(classes));
+    EXPECT_FALSE(LeaveClassLinks(classes));
+    EXPECT_EQ(registry.Query("Software\\Classes\\qw\\shell\\open\\command", "").Value.Type, 2u);
+}
+
 TEST_F(ClassLinks, NothingIsRemovedThatCouldNotBeKept) {
     PutOther();
     trees.RefuseCopies = {5, "Access is denied."};
