@@ -15,6 +15,7 @@
 
 #include "assets/embedded_texts.h"
 #include "catalogs/forms/entry_forms.h"
+#include "commands/asked_instance.h"
 #include "commands/rehearse_launch.h"
 #include "foundation/forms/help_bubble.h"
 #include "foundation/forms/wx_text.h"
@@ -145,6 +146,10 @@ class LorvaneApp : public wxApp {
         wxHelpProvider::Set(new HelpBubbles);
         form_ = new LvForm(program_->TheLauncher, program_->User, splash_);
         SetTopWindow(form_);
+        ConnectHandOver(program_->TheLauncher);
+        if (!offered_.empty()) {
+            (void)NoteDropped(program_->TheLauncher, {.Word = std::exchange(offered_, {}), .Count = 1, .Fault = {}});
+        }
         LetTheSessionEnd();
         return true;
     }
@@ -165,9 +170,6 @@ class LorvaneApp : public wxApp {
             return;
         }
         program_->Host->Started(*form_, program_->TheLauncher);
-        if (!offered_.empty()) {
-            (void)NoteDropped(program_->TheLauncher, {.Word = std::exchange(offered_, {}), .Count = 1, .Fault = {}});
-        }
         look_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) {
             program_->Host->AnswerKnocks();
             if (program_->TheRun.Ended) {

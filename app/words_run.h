@@ -60,10 +60,15 @@ WordsDone ResultOfWords(const std::vector<Text>& words, SingleInstance& running,
         return {AnswerAtOnce(command.Value), {}};
     }
     if (IsForTheWindow(command.Value)) {
-        const auto reply = running.Ask(
-            RequestOf(isOffered ? std::vector<Text>{"--", offered} : WordsForAnother(command.Value, words, wholePath)));
-        if (auto result = reply ? ResultOf(*reply) : std::nullopt) {
+        const Asked asked = running.Ask(
+            RequestOf(isOffered ? std::vector<Text>{"--", offered} : WordsForAnother(command.Value, words, wholePath)),
+            isOffered ? kShortPatienceMs : kPatienceMs);
+        if (auto result = asked.Answer ? ResultOf(*asked.Answer) : std::nullopt) {
             return {std::move(result), {}};
+        }
+        // The window asks once more, and tells where somebody sees it.
+        if (asked.IsRunning && !isOffered) {
+            return {NoAnswer(), {}};
         }
     }
     if (command.Value.What == Verb::OpenWindow) {

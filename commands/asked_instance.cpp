@@ -21,6 +21,19 @@ CommandResult Busy() {
 
 }  // namespace
 
+CommandResult NoAnswer() {
+    return {.Code = exit_code::kFailed, .Err = "Lorvane 3D is running already, and does not answer.\n"};
+}
+
+void ConnectHandOver(Launcher& launcher) {
+    launcher.HandOver = [&launcher](TextView word) {
+        const Asked asked = launcher.run.System.Instance->Ask(RequestOf({"--", Text(word)}), kPatienceMs);
+        const auto result = asked.Answer ? ResultOf(*asked.Answer) : std::nullopt;
+        const CommandResult& told = result ? *result : NoAnswer();
+        return told.Code == exit_code::kDone ? Text() : TrimWhite(told.Err);
+    };
+}
+
 std::vector<Text> WordsForAnother(const Command& command, const std::vector<Text>& words,
                                   const std::function<Text(TextView)>& wholePath) {
     return command.What == Verb::Import ? std::vector<Text>{"--import", wholePath(command.Subject)} : words;

@@ -35,4 +35,10 @@ bool IsForTheWindow(const Command& command);
 /// they are refused.
 CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView request);
 
+/// What a start was given goes to the instance that runs, where that was faster: Launcher::HandOver.
+void ConnectHandOver(Launcher& launcher);
+
+/// Of an instance that is there and does not listen.
+CommandResult NoAnswer();
+
 }  // namespace lv

@@ -78,6 +78,10 @@ struct Launcher {
     std::function<void()> ShowFileOrder;
     std::function<void()> ShowScriptCheck;
 
+    /// Gives a word that this start was given to the instance that runs; why that does not take it, or empty. Empty
+    /// itself: the program can't.
+    std::function<Text(TextView word)> HandOver;
+
     /// The session ends: keeps what its user has not saved yet, and asks nothing. Empty: there is nothing to keep.
     std::function<void()> KeepUnsavedEdits;
 

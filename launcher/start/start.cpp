@@ -2,7 +2,9 @@
 
 #include "foundation/field_strings.h"
 #include "foundation/number_format.h"
+#include "foundation/question_box.h"
 #include "foundation/settings.h"
+#include "foundation/shown_name.h"
 #include "launcher/menu/video_profile_menu.h"
 #include "launcher/menu/window_menu.h"
 #include "launcher/start/engine_load.h"
@@ -30,11 +32,27 @@ bool AskForChipsetOnFirstRun(Launcher& launcher) {
     return accepted;
 }
 
-/// False if another instance runs; it has come forward.
-bool IsTheOnlyOne(Run& run) {
+/// What this start was given is not lost without a word.
+void HandOverToTheOther(Launcher& launcher) {
+    if (!launcher.Dropped.IsThere() || !launcher.HandOver) {
+        return;
+    }
+    const Text why = launcher.HandOver(launcher.Dropped.Word);
+    if (!why.empty()) {
+        SetSplashTopmost(launcher.run, launcher.Splash, false);
+        AskUser(launcher.run, "",
+                Join(why, NewLine, NewLine, "It was not given -->", NewLine, NewLine, TabChar,
+                     Shown(launcher.Dropped.Word)));
+    }
+}
+
+/// False if another instance runs; it has come forward, and has got what this start was given.
+bool IsTheOnlyOne(Launcher& launcher) {
+    Run& run = launcher.run;
     if (run.System.Instance == nullptr || run.System.Instance->Claim()) {
         return true;
     }
+    HandOverToTheOther(launcher);
     EndProgram(run);
     return false;
 }
@@ -56,7 +74,7 @@ bool Prepare(Launcher& launcher) {
     }
     run.MainWindowCaption = Join("   ", run.AppName);
     run.IsWin9x = run.System.Time.IsWin9x();
-    if (!IsTheOnlyOne(run) || !AlignDirectories(run)) {
+    if (!IsTheOnlyOne(launcher) || !AlignDirectories(run)) {
         return false;
     }
     (void)KeepBackup(run);  // nothing keeps the program from starting

@@ -200,22 +200,33 @@ void LinuxInstance::Serve() {
 
 void LinuxInstance::Answer(int connection, std::string request) {
     request = ReceiveAll(connection, std::move(request), kLongestRequest + 1, kLongestQuestionMs);
-    if (OnRequest && request.size() <= kLongestRequest) {
+    // Who has lost patience has told the user so.
+    if (OnRequest && request.size() <= kLongestRequest && !HungUp(connection)) {
+        SendAll(connection, kAnswer);
         SendAll(connection, OnRequest(request));
     }
 }
 
-std::optional<std::string> LinuxInstance::Ask(std::string_view request) {
+Asked LinuxInstance::Ask(std::string_view request, int patienceMs) {
     const FileDescriptor connection(MakeSocket());
     const Address address = AddressOf(name_);
-    if (request.size() > kLongestRequest || connect(connection.Number(), Plain(address), address.Length) != 0 ||
-        !IsOurs(connection.Number())) {
-        return std::nullopt;
+    if (request.size() > kLongestRequest) {
+        return {};
+    }
+    if (connect(connection.Number(), Plain(address), address.Length) != 0) {
+        return {.IsRunning = errno == EAGAIN, .Answer = {}};  // too many knock
+    }
+    if (!IsOurs(connection.Number())) {
+        return {};
     }
     SendAll(connection.Number(), std::string(kAsk).append(request));
     shutdown(connection.Number(), SHUT_WR);
-    std::string reply = ReceiveAll(connection.Number(), {}, kLongestReply, kLongestWorkMs);
-    return reply.empty() ? std::nullopt : std::optional(std::move(reply));
+    std::string said = ReceiveAll(connection.Number(), {}, kAnswer.size(), patienceMs);
+    if (!said.starts_with(kAnswer)) {
+        return {.IsRunning = !HungUp(connection.Number()), .Answer = {}};
+    }
+    said = ReceiveAll(connection.Number(), said.substr(kAnswer.size()), kLongestReply, kLongestWorkMs);
+    return {.IsRunning = true, .Answer = said.empty() ? std::nullopt : std::optional(std::move(said))};
 }
 
 }  // namespace lv

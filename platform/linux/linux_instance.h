@@ -3,7 +3,7 @@
 // The single instance on Linux: a socket in the abstract namespace, named by the user and the directory of the
 // settings, so that two sets of settings are two programs. The kernel drops the name with the process.
 // A second start connects, says "raise\n" and waits for "ok\n" as an answer; or it says "ask\n", what it asks, and
-// closes its side, and the answer is what comes until the other side is closed too.
+// closes its side; "ok\n" is that somebody listens, and the answer what comes then until the other side is closed too.
 
 #pragma once
 
@@ -27,7 +27,7 @@ class LinuxInstance : public SingleInstance {
     /// program starts as if it were alone.
     bool Claim() override;
 
-    std::optional<std::string> Ask(std::string_view request) override;
+    Asked Ask(std::string_view request, int patienceMs) override;
 
     /// Readable when a second start knocks; -1 before Claim, and after a Claim that was refused.
     [[nodiscard]] int Descriptor() const { return listener_; }

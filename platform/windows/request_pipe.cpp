@@ -11,7 +11,8 @@ namespace lv {
 
 namespace {
 
-constexpr DWORD kPipeBytes = 64U << 10U;
+constexpr std::string_view kListens = "ok\n";
+constexpr std::size_t kPipeBytes = 64U << 10U;
 constexpr DWORD kLongestQuestionMs = 500;
 constexpr DWORD kLongestReadingMs = 5000;  // of an answer
 constexpr DWORD kLongestWorkMs = 30000;
@@ -77,7 +78,7 @@ void RequestPipe::Open() {
     }
     HANDLE pipe = CreateNamedPipeW(name_.c_str(), PIPE_ACCESS_DUPLEX | FILE_FLAG_FIRST_PIPE_INSTANCE,
                                    PIPE_TYPE_BYTE | PIPE_READMODE_BYTE | PIPE_NOWAIT | PIPE_REJECT_REMOTE_CLIENTS, 1,
-                                   kPipeBytes, kPipeBytes, 0, nullptr);
+                                   DWORD{kPipeBytes}, DWORD{kPipeBytes}, 0, nullptr);
     pipe_ = pipe == INVALID_HANDLE_VALUE ? nullptr : pipe;
     if (pipe_ != nullptr) {
         (void)ConnectNamedPipe(pipe_, nullptr);
@@ -135,37 +136,47 @@ void RequestPipe::Serve(const std::function<std::string(std::string_view)>& answ
         HangUp();
         return;
     }
-    const std::string reply = answer(*request);
+    if (!ReadWaiting(pipe_)) {  // who has lost patience has told the user so
+        HangUp();
+        return;
+    }
     DWORD written = 0;
-    (void)WriteFile(pipe_, reply.data(), static_cast<DWORD>(std::min<std::size_t>(reply.size(), kPipeBytes)), &written,
-                    nullptr);
+    (void)WriteFile(pipe_, kListens.data(), static_cast<DWORD>(kListens.size()), &written, nullptr);
+    const std::string reply = answer(*request);
+    (void)WriteFile(pipe_, reply.data(), static_cast<DWORD>(std::min(reply.size(), kPipeBytes - kListens.size())),
+                    &written, nullptr);
     answered_ = std::max<DWORD>(GetTickCount(), 1);
 }
 
-std::optional<std::string> RequestPipe::Ask(const std::wstring& name, std::string_view request) {
+Asked RequestPipe::Ask(const std::wstring& name, std::string_view request, int patienceMs) {
     const FileHandle pipe(Connect(name));
     if (!pipe.IsOpen() || request.empty() || request.size() > kLongestRequest) {
-        return std::nullopt;
+        return {.IsRunning = !pipe.IsOpen() && GetLastError() == ERROR_PIPE_BUSY, .Answer = {}};
     }
     const std::string said = std::to_string(request.size()) + "\n" + std::string(request);
     DWORD written = 0;
     if (WriteFile(pipe.Get(), said.data(), static_cast<DWORD>(said.size()), &written, nullptr) == 0 ||
         written != said.size()) {
-        return std::nullopt;
+        return {};
     }
     std::string reply;
-    for (DWORD waited = 0; waited < kLongestWorkMs && reply.size() < kLargestReply; waited += kLookMs) {
+    const auto longest = [&] {
+        return reply.size() < kListens.size() ? static_cast<DWORD>(patienceMs) : kLongestWorkMs;
+    };
+    for (DWORD waited = 0; waited < longest() && reply.size() < kLargestReply; waited += kLookMs) {
         const auto more = ReadWaiting(pipe.Get());
         if (!more) {
             break;
         }
-        if (more->empty() && !reply.empty()) {
+        if (more->empty() && reply.size() > kListens.size()) {
             break;  // an answer is written at once
         }
         reply += *more;
         Sleep(more->empty() ? kLookMs : 0);
     }
-    return reply.empty() ? std::nullopt : std::optional(reply);
+    const bool listens = reply.starts_with(kListens) && reply.size() > kListens.size();
+    const bool isRunning = reply.starts_with(kListens) || ReadWaiting(pipe.Get()).has_value();
+    return {.IsRunning = isRunning, .Answer = listens ? std::optional(reply.substr(kListens.size())) : std::nullopt};
 }
 
 }  // namespace lv

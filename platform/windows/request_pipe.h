@@ -1,7 +1,7 @@
 // platform/windows/request_pipe.h
 //
 // A named pipe by which another start of the program asks the running one. The request is its length in decimal digits,
-// a line feed, and the bytes; the answer is bytes until the pipe closes.
+// a line feed, and the bytes; "ok\n" is that somebody listens, and the answer the bytes behind it.
 
 #pragma once
 
@@ -9,6 +9,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "platform/single_instance.h"
 
 namespace lv {
 
@@ -25,8 +27,8 @@ class RequestPipe {
     /// Answers one who has asked. Never waits long: who does not say what he wants is hung up on.
     void Serve(const std::function<std::string(std::string_view)>& answer);
 
-    /// Asks the one who has opened the pipe of that name. Nothing if there is none, or no answer within half a minute.
-    static std::optional<std::string> Ask(const std::wstring& name, std::string_view request);
+    /// Asks the one who has opened the pipe of that name, as SingleInstance::Ask.
+    static Asked Ask(const std::wstring& name, std::string_view request, int patienceMs = kPatienceMs);
 
   private:
     std::optional<std::string> ReadRequest();

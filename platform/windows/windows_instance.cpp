@@ -84,8 +84,8 @@ bool WindowsInstance::Claim() {
     return false;
 }
 
-std::optional<std::string> WindowsInstance::Ask(std::string_view request) {
-    return RequestPipe::Ask(PipeName(caption_), request);
+Asked WindowsInstance::Ask(std::string_view request, int patienceMs) {
+    return RequestPipe::Ask(PipeName(caption_), request, patienceMs);
 }
 
 }  // namespace lv

@@ -24,7 +24,7 @@ class WindowsInstance : public SingleInstance {
     /// shown, on top, with the keys. An instance that has no window yet is waited for, at most ten seconds.
     bool Claim() override;
 
-    std::optional<std::string> Ask(std::string_view request) override;
+    Asked Ask(std::string_view request, int patienceMs) override;
 
     /// Answers one who has asked.
     void Serve() { pipe_.Serve(OnRequest); }

@@ -137,5 +137,40 @@ TEST_F(AskedInstance, DuringALaunchOfItsOwnItIsBusy) {
     EXPECT_TRUE(system.Programs.Started.empty());
 }
 
+class AnsweringInstance : public SingleInstance {
+  public:
+    bool Claim() override { return false; }
+    Asked Ask(std::string_view request, int patienceMs) override {
+        Request = request;
+        Patience = patienceMs;
+        return Is;
+    }
+    Asked Is;
+    Text Request;
+    int Patience = 0;
+};
+
+TEST_F(AskedInstance, WhatAStartWasGivenIsHandedOver) {
+    AnsweringInstance other;
+    system.Services.Instance = &other;
+    ConnectHandOver(launcher);
+    other.Is = {.IsRunning = true, .Answer = ReplyOf({})};
+    EXPECT_EQ(launcher.HandOver("--launch"), "");
+    EXPECT_EQ(WordsOf(other.Request), (std::vector<Text>{"--", "--launch"})) << "it is a name, whatever it looks like";
+    EXPECT_EQ(other.Patience, 5000);
+}
+
+TEST_F(AskedInstance, WhatIsNotTakenIsSaid) {
+    AnsweringInstance other;
+    system.Services.Instance = &other;
+    ConnectHandOver(launcher);
+    other.Is = {.IsRunning = true, .Answer = std::nullopt};
+    EXPECT_EQ(launcher.HandOver("a.pak"), "Lorvane 3D is running already, and does not answer.");
+    other.Is.Answer = "no reply of ours";
+    EXPECT_EQ(launcher.HandOver("a.pak"), "Lorvane 3D is running already, and does not answer.");
+    other.Is.Answer = ReplyOf({exit_code::kFailed, "", "The running Lorvane 3D is busy.\n", ""});
+    EXPECT_EQ(launcher.HandOver("a.pak"), "The running Lorvane 3D is busy.");
+}
+
 }  // namespace
 }  // namespace lv

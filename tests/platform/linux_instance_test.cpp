@@ -184,9 +184,9 @@ TEST(LinuxInstance, AnswersWhatAnotherStartAsks) {
     OtherProcess first(ConfigOf("asked"), true);
     ASSERT_EQ(first.Next(), '1');
     LinuxInstance second(ConfigOf("asked"));
-    EXPECT_EQ(second.Ask("--launch"), "<--launch>");
-    EXPECT_EQ(second.Ask(std::string("a\0b\n", 4)), "<" + std::string("a\0b\n", 4) + ">");
-    EXPECT_EQ(second.Ask(""), "<>");
+    EXPECT_EQ(second.Ask("--launch", kPatienceMs).Answer, "<--launch>");
+    EXPECT_EQ(second.Ask(std::string("a\0b\n", 4), kPatienceMs).Answer, "<" + std::string("a\0b\n", 4) + ">");
+    EXPECT_EQ(second.Ask("", kPatienceMs).Answer, "<>");
     EXPECT_FALSE(second.Claim()) << "it still raises as well";
     EXPECT_EQ(first.Next(), 'r');
 }
@@ -195,12 +195,14 @@ TEST(LinuxInstance, AsksAndAnswersInManyParts) {
     OtherProcess first(ConfigOf("long"), true);
     ASSERT_EQ(first.Next(), '1');
     const std::string longest(kLongestRequest, 'x');
-    EXPECT_EQ(LinuxInstance(ConfigOf("long")).Ask(longest), "<" + longest + ">");
-    EXPECT_EQ(LinuxInstance(ConfigOf("long")).Ask(longest + "x"), std::nullopt);
+    EXPECT_EQ(LinuxInstance(ConfigOf("long")).Ask(longest, kPatienceMs).Answer, "<" + longest + ">");
+    EXPECT_EQ(LinuxInstance(ConfigOf("long")).Ask(longest + "x", kPatienceMs).Answer, std::nullopt);
 }
 
 TEST(LinuxInstance, WithoutAnotherNobodyAnswers) {
-    EXPECT_EQ(LinuxInstance(ConfigOf("nobody")).Ask("--launch"), std::nullopt);
+    const Asked asked = LinuxInstance(ConfigOf("nobody")).Ask("--launch", kPatienceMs);
+    EXPECT_FALSE(asked.IsRunning);
+    EXPECT_EQ(asked.Answer, std::nullopt);
 }
 
 TEST(LinuxInstance, OneThatEndsWhileItIsAskedGivesNoAnswer) {
@@ -210,8 +212,63 @@ TEST(LinuxInstance, OneThatEndsWhileItIsAskedGivesNoAnswer) {
         std::this_thread::sleep_for(std::chrono::milliseconds(200));
         first.Kill();
     });
-    EXPECT_EQ(LinuxInstance(ConfigOf("ends")).Ask("--launch"), std::nullopt);
+    const Asked asked = LinuxInstance(ConfigOf("ends")).Ask("--launch", kPatienceMs);
+    EXPECT_FALSE(asked.IsRunning);
+    EXPECT_EQ(asked.Answer, std::nullopt);
     end.join();
+}
+
+TEST(LinuxInstance, OneThatStillComesUpIsWaitedFor) {
+    LinuxInstance first(ConfigOf("comes_up"));
+    ASSERT_TRUE(first.Claim());
+    first.OnRequest = [](std::string_view request) { return "<" + std::string(request) + ">"; };
+    Asked asked;
+    std::thread second([&] { asked = LinuxInstance(ConfigOf("comes_up")).Ask("dm3.bsp", kPatienceMs); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+    first.Serve();
+    second.join();
+    EXPECT_TRUE(asked.IsRunning);
+    EXPECT_EQ(asked.Answer, "<dm3.bsp>");
+}
+
+TEST(LinuxInstance, OneThatDoesNotListenIsWaitedForNoLongerThanThat) {
+    LinuxInstance first(ConfigOf("deaf"));
+    ASSERT_TRUE(first.Claim());
+    LinuxInstance second(ConfigOf("deaf"));
+    Asked asked;
+    const double seconds = SecondsOf([&] { asked = second.Ask("dm3.bsp", 500); });
+    EXPECT_TRUE(asked.IsRunning);
+    EXPECT_EQ(asked.Answer, std::nullopt);
+    EXPECT_GE(seconds, 0.4);
+    EXPECT_LT(seconds, 4);
+}
+
+TEST(LinuxInstance, WhatNobodyListenedToInTimeIsTakenBack) {
+    LinuxInstance first(ConfigOf("late"));
+    ASSERT_TRUE(first.Claim());
+    int requests = 0;
+    first.OnRequest = [&](std::string_view) {
+        ++requests;
+        return std::string("done");
+    };
+    EXPECT_EQ(LinuxInstance(ConfigOf("late")).Ask("--launch", 100).Answer, std::nullopt);
+    first.Serve();
+    EXPECT_EQ(requests, 0);
+}
+
+TEST(LinuxInstance, OneThatListensIsWaitedForLongerThanThat) {
+    LinuxInstance first(ConfigOf("works"));
+    ASSERT_TRUE(first.Claim());
+    first.OnRequest = [](std::string_view) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1000));
+        return std::string("done");
+    };
+    Asked asked;
+    std::thread second([&] { asked = LinuxInstance(ConfigOf("works")).Ask("--launch", 500); });
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    first.Serve();
+    second.join();
+    EXPECT_EQ(asked.Answer, "done");
 }
 
 }  // namespace lv

@@ -142,6 +142,41 @@ TEST_F(StartTest, AChipsetQuestionThatIsCancelledEndsTheProgramOnOk) {
     EXPECT_EQ(Stored("LV-Stuff", "FirstTime"), "1");
 }
 
+TEST_F(StartTest, ASecondInstanceHandsOverWhatItWasGiven) {
+    instance.IsFirst = false;
+    system.Services.Instance = &instance;
+    launcher.Dropped = {.Word = "C:\\D\\dm3.bsp", .Count = 1, .Fault = {}};
+    std::vector<Text> handed;
+    launcher.HandOver = [&](TextView word) {
+        handed.emplace_back(word);
+        return Text();
+    };
+    EXPECT_FALSE(Start(launcher));
+    EXPECT_EQ(handed, (std::vector<Text>{"C:\\D\\dm3.bsp"}));
+    EXPECT_TRUE(run.Ended);
+}
+
+TEST_F(StartTest, WhatTheOtherInstanceDoesNotTakeIsTold) {
+    instance.IsFirst = false;
+    system.Services.Instance = &instance;
+    launcher.Dropped = {.Word = "qw://host", .Count = 1, .Fault = {}};
+    launcher.HandOver = [](TextView) { return Text("It does not answer."); };
+    user.Expect({"Lorvane 3D", "It does not answer.\r\n\r\nIt was not given -->\r\n\r\n\tqw://host", 0, false, true});
+    EXPECT_FALSE(Start(launcher));
+    EXPECT_TRUE(run.Ended);
+}
+
+TEST_F(StartTest, TheFirstInstanceKeepsWhatItWasGiven) {
+    system.Services.Instance = &instance;
+    launcher.Dropped = {.Word = "qw://host", .Count = 1, .Fault = {}};
+    launcher.HandOver = [](TextView) {
+        ADD_FAILURE();
+        return Text();
+    };
+    EXPECT_TRUE(Start(launcher));
+    EXPECT_EQ(launcher.Dropped.Word, "qw://host");
+}
+
 TEST_F(StartTest, ASecondInstanceEndsSilently) {
     instance.IsFirst = false;
     system.Services.Instance = &instance;

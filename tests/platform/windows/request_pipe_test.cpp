@@ -36,9 +36,9 @@ TEST(RequestPipe, AsksAndAnswersOneBehindTheOther) {
     std::optional<std::string> first;
     std::optional<std::string> second;
     std::thread other([&] {
-        first = RequestPipe::Ask(name, "one");
+        first = RequestPipe::Ask(name, "one").Answer;
         for (int i = 0; i < 50 && !second; ++i) {
-            second = RequestPipe::Ask(name, "two");
+            second = RequestPipe::Ask(name, "two").Answer;
             Sleep(20);
         }
     });
@@ -76,7 +76,7 @@ TEST(RequestPipe, WhatIsNoRequestIsNotAnswered) {
 }
 
 TEST(RequestPipe, WithoutOneNobodyIsAsked) {
-    EXPECT_EQ(RequestPipe::Ask(NameOf(L"none"), "one"), std::nullopt);
+    EXPECT_EQ(RequestPipe::Ask(NameOf(L"none"), "one").Answer, std::nullopt);
 }
 
 TEST(RequestPipe, ASecondOfTheNameIsNotOpened) {

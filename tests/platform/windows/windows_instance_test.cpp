@@ -113,14 +113,14 @@ TEST(WindowsInstance, AnswersWhatAnotherStartAsks) {
     OtherProcess other(L"shown");
     ASSERT_TRUE(OtherIsReady());
     WindowsInstance second(kCaption);
-    EXPECT_EQ(second.Ask("--launch"), "<--launch>");
+    EXPECT_EQ(second.Ask("--launch", kPatienceMs).Answer, "<--launch>");
     const std::string longest(kLongestRequest, 'x');
-    EXPECT_EQ(second.Ask(std::string("a\0b", 3)), "<" + std::string("a\0b", 3) + ">");
-    EXPECT_EQ(second.Ask(longest + "x"), std::nullopt);
+    EXPECT_EQ(second.Ask(std::string("a\0b", 3), kPatienceMs).Answer, "<" + std::string("a\0b", 3) + ">");
+    EXPECT_EQ(second.Ask(longest + "x", kPatienceMs).Answer, std::nullopt);
 }
 
 TEST(WindowsInstance, WithoutAnotherNobodyAnswers) {
-    EXPECT_EQ(WindowsInstance("   Lorvane 3D that never runs").Ask("--launch"), std::nullopt);
+    EXPECT_EQ(WindowsInstance("   Lorvane 3D that never runs").Ask("--launch", kPatienceMs).Answer, std::nullopt);
 }
 
 }  // namespace lv
