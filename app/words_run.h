@@ -11,6 +11,8 @@
 #include "foundation/field_strings.h"
 #include "foundry/foundry.h"
 #include "launcher/drop/dropped_thing.h"
+#include "launcher/drop/file_link.h"
+#include "platform/code_page.h"
 #include "platform/single_instance.h"
 
 namespace lv {
@@ -36,6 +38,10 @@ inline std::function<std::string(std::string_view)> AnswersOf(Launcher& window) 
 /// What a word stands for that the window is to offer: a file is said from the drive on, since the window stands
 /// elsewhere; a word that no drive has stays.
 inline Text OfferedWord(TextView word, const std::function<Text(TextView)>& pathOfWord, Files& disk) {
+    if (const auto host = PathOfFileLink(ToUtf8(word))) {
+        const Text linked = disk.FromHost(*host);
+        return linked.empty() ? Text(word) : linked;
+    }
     const Text path = Holds(word, "://") ? Text() : pathOfWord(word);
     const bool isThere = !path.empty() && (disk.FileExists(path) || disk.DirectoryExists(path));
     return path.empty() || (!isThere && IsServerWord(word)) ? Text(word) : path;

@@ -163,6 +163,10 @@ DroppedThing ThingOf(Files& disk, TextView word) {
         thing.Server = *link;
         return thing;
     }
+    if (StartsWithText(word, "file:")) {
+        thing.Why = "That link names no file of this machine. One looks like file:///home/me/dm3.bsp.";
+        return thing;
+    }
     if (Holds(word, "://")) {
         thing.Why = "That is no address of a game's server. One looks like qw://quake.example.com:27500.";
         return thing;

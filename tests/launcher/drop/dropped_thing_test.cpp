@@ -169,10 +169,18 @@ TEST_F(DroppedThings, LinksAndAddressesAreServers) {
 }
 
 TEST_F(DroppedThings, OtherAndHostileLinksAreNone) {
-    for (const char* word : {"http://host.example/", "qw://a;quit", "qw://-exec", "file:///etc/passwd", "qw://"}) {
+    for (const char* word : {"http://host.example/", "qw://a;quit", "qw://-exec", "qw://"}) {
         const DroppedThing thing = ThingOf(system.Disk, word);
         EXPECT_EQ(thing.Kind, DroppedKind::Unknown) << word;
         EXPECT_THAT(thing.Why, HasSubstr("no address of a game's server")) << word;
+    }
+}
+
+TEST_F(DroppedThings, ALinkToAFileOfAnotherMachineSaysSo) {
+    for (const char* word : {"file://nas/share/dm3.bsp", "FILE://nas/a", "file:///a%2", "file:"}) {
+        const DroppedThing thing = ThingOf(system.Disk, word);
+        EXPECT_EQ(thing.Kind, DroppedKind::Unknown) << word;
+        EXPECT_EQ(thing.Why, "That link names no file of this machine. One looks like file:///home/me/dm3.bsp.");
     }
 }
 
