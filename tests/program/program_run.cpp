@@ -65,10 +65,13 @@ pid_t Spawn(const ProgramHome& home, const std::vector<std::string>& command) {
     _exit(127);
 }
 
-std::vector<std::string> WithVariables(const Environment& more) {
+std::vector<std::string> WithVariables(const Environment& more, const std::string& word) {
     std::vector<std::string> command = {"env"};
     command.insert(command.end(), more.begin(), more.end());
     command.push_back(ProgramFile().string());
+    if (!word.empty()) {
+        command.push_back(word);
+    }
     return command;
 }
 
@@ -193,7 +196,8 @@ bool WaitForTrayHost() {
     return WaitUntil([] { return OutputOf({"xwininfo", "-root", "-tree"}).find("\"trayer\"") != std::string::npos; });
 }
 
-ProgramRun::ProgramRun(const ProgramHome& home, const Environment& more) : OwnProcess(home, WithVariables(more)) {}
+ProgramRun::ProgramRun(const ProgramHome& home, const Environment& more, const std::string& word)
+    : OwnProcess(home, WithVariables(more, word)) {}
 
 ProgramRun::ProgramRun(const ProgramHome& home, const std::string& shell)
     : OwnProcess(home, InsideMounts(shell + "\nexec '" + ProgramFile().string() + "'")) {}

@@ -79,7 +79,8 @@ using Environment = std::vector<std::string>;
 
 class ProgramRun : public OwnProcess {
   public:
-    explicit ProgramRun(const ProgramHome& home, const Environment& more = {});
+    /// `word` stands behind the program's name.
+    explicit ProgramRun(const ProgramHome& home, const Environment& more = {}, const std::string& word = {});
     /// `shell` runs as root of mount tables of its own before the program takes its place: it may mount what it likes
     /// and nobody else sees that.
     ProgramRun(const ProgramHome& home, const std::string& shell);
