@@ -228,6 +228,7 @@ Section "un.Lorvane 3D"
     ; Those of a program in another place are not this one's.
     ${If} $R0 == ""
         Delete "$SMPROGRAMS\Lorvane 3D.lnk"
+        Delete "$TEMP\dosbox_lv_666.conf" ; of the last game in DOSBox
         DeleteRegKey HKCU "${ENTRY}"
         ReadRegStr $0 HKCU "${CLASSES}\.lv3d" ""
         ${If} $0 == "${SETTINGS_CLASS}"
@@ -244,8 +245,15 @@ Section "un.Lorvane 3D"
     ${EndIf}
 SectionEnd
 
+; With the copies that were made of them, and the older versions of scripts; what else lies there is not ours.
 Section /o "un.My lists and settings" UNSETTINGS
     DeleteRegKey HKCU "${SETTINGS}"
+    Delete "$LOCALAPPDATA\lorvane3d\backups\settings *.txt"
+    RMDir "$LOCALAPPDATA\lorvane3d\backups"
+    Delete "$LOCALAPPDATA\lorvane3d\versions\*.txt"
+    Delete "$LOCALAPPDATA\lorvane3d\versions\*.txt.damaged*"
+    RMDir "$LOCALAPPDATA\lorvane3d\versions"
+    RMDir "$LOCALAPPDATA\lorvane3d"
 SectionEnd
 
 Function un.onInit

@@ -34,6 +34,12 @@ bool GoesToDosBox(Files& disk, const FoundGame& game) {
     return !RunsDosPrograms() && KindOfProgramAt(disk, game.Program.Path) == ProgramKind::kDos;
 }
 
+// What has another name, the command processor may know how to open.
+bool IsNoProgram(Files& disk, const std::string& path) {
+    const std::string name = LowerCase(path);
+    return (name.ends_with(".exe") || name.ends_with(".com")) && KindOfProgramAt(disk, path) == ProgramKind::kUnknown;
+}
+
 bool BeyondAscii(std::string_view text) {
     return std::ranges::any_of(text, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
 }
@@ -103,6 +109,9 @@ Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view 
     }
     // What is no launch of a game's is the command processor's, whatever it says.
     const Result<BatchGame> game = ReadBatchGame(disk_, place, name, known);
+    if (game.Ok() && IsNoProgram(disk_, game.Value.Game.Program.Path)) {
+        return {error::kPathFileAccess, "This is no program for Windows or DOS: " + game.Value.Game.Program.Path};
+    }
     if (game.Ok() && GoesToDosBox(disk_, game.Value.Game)) {
         const Error fault = CheckGiven(known.Given, LineReader::kDosShell);
         return fault ? fault : StartInDosBox(disk_, game.Value);

@@ -108,6 +108,17 @@ TEST(StartBatch, ReadsTheBatchInTheCodePageItIsWrittenIn) {
     EXPECT_THAT(After("LV_A=", lines), ElementsAre("caf\xC3\xA9 \xE2\x82\xAC"));
 }
 
+TEST(StartBatch, TellsWhatIsNoProgram) {
+    Yard yard;
+    EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\lv_666.bat", "EMPTY.EXE\r\n").Number, 0);
+    for (const std::string& bytes : {std::string(), std::string("a picture")}) {
+        EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\EMPTY.EXE", bytes).Number, 0);
+        const Error fault = yard.Programs.StartBatch("T:\\QUAKE", "lv_666.bat");
+        EXPECT_EQ(fault.Number, 75);
+        EXPECT_TRUE(fault.Text.starts_with("This is no program for Windows or DOS: ")) << fault.Text;
+    }
+}
+
 // A game's directory may hold anything.
 TEST(StartBatch, RunsNoProgramOfTheDirectoryAheadOfTheBatch) {
     Yard yard;

@@ -58,10 +58,14 @@ std::wstring ClassOf(const std::wstring& key) {
     return failed == ERROR_SUCCESS ? std::wstring(text.data()) : L"(none)";
 }
 
+std::wstring InDirectoryOf(const wchar_t* variable, const std::wstring& name) {
+    std::array<wchar_t, MAX_PATH> directory{};
+    GetEnvironmentVariableW(variable, directory.data(), static_cast<DWORD>(directory.size()));
+    return std::wstring(directory.data()) + L"\\" + name;
+}
+
 std::wstring StartMenuEntry() {
-    std::array<wchar_t, MAX_PATH> roaming{};
-    GetEnvironmentVariableW(L"APPDATA", roaming.data(), static_cast<DWORD>(roaming.size()));
-    return std::wstring(roaming.data()) + L"\\Microsoft\\Windows\\Start Menu\\Programs\\Lorvane 3D.lnk";
+    return InDirectoryOf(L"APPDATA", L"Microsoft\\Windows\\Start Menu\\Programs\\Lorvane 3D.lnk");
 }
 
 // The uninstaller goes on in a copy of itself.
@@ -136,6 +140,32 @@ TEST(Installer, TakesTheSettingsAlongWhereAskedTo) {
     ASSERT_EQ(Install(), 0u);
     Remove(L" /settings");
     EXPECT_TRUE(WaitUntil([&] { return home.Get("LV-Stuff", "FirstTime") == "(none)"; }));
+}
+
+TEST(Installer, TakesTheCopiesOfSettingsAndScriptsAlongWithThem) {
+    WindowsHome home;
+    home.Prepare();
+    const std::wstring data = InDirectoryOf(L"LOCALAPPDATA", L"lorvane3d");
+    for (const std::wstring& directory : {data, data + L"\\backups", data + L"\\versions"}) {
+        CreateDirectoryW(directory.c_str(), nullptr);
+    }
+    const std::wstring copy = data + L"\\backups\\settings 000000001 2026-11-23 15-17-59.txt";
+    const std::wstring versions = data + L"\\versions\\0123456789abcdef.txt";
+    for (const std::wstring& file : {copy, versions, versions + L".damaged2"}) {
+        WriteBytes(file, "kept");
+    }
+    ASSERT_EQ(Install(), 0u);
+    Remove(L"");
+    EXPECT_TRUE(IsThere(copy) && IsThere(versions)) << "not asked to";
+    ASSERT_EQ(Install(), 0u);
+    WriteBytes(data + L"\\versions\\mine.doc", "mine");
+    Remove(L" /settings");
+    EXPECT_TRUE(WaitUntil([&] { return !IsThere(data + L"\\backups"); }));
+    EXPECT_FALSE(IsThere(versions) || IsThere(versions + L".damaged2"));
+    EXPECT_EQ(BytesOf(data + L"\\versions\\mine.doc"), "mine");
+    DeleteFileW((data + L"\\versions\\mine.doc").c_str());
+    RemoveDirectoryW((data + L"\\versions").c_str());
+    RemoveDirectoryW(data.c_str());
 }
 
 TEST(Installer, LeavesTheUsersOwnFilesInItsDirectory) {
