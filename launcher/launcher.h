@@ -85,6 +85,10 @@ struct Launcher {
     /// The session ends: keeps what its user has not saved yet, and asks nothing. Empty: there is nothing to keep.
     std::function<void()> KeepUnsavedEdits;
 
+    /// The picture of a game in all its sizes, by the name that its row has, in lower case. Empty: the program has
+    /// none.
+    std::function<std::vector<ShortcutPicture>(TextView image)> PicturesOfGame;
+
     /// Measures the main window's form. Empty: there is none, and the size stays as it is.
     std::function<WindowMeasures()> Measure;
 

@@ -13,6 +13,7 @@
 #include "platform/processes.h"
 #include "platform/registry_trees.h"
 #include "platform/settings_backing.h"
+#include "platform/shortcuts.h"
 #include "platform/single_instance.h"
 #include "platform/user_registry.h"
 
@@ -30,6 +31,7 @@ struct Platform {
     KnownPlaces* Places = nullptr;       // null: nothing is known of where games lie
     DesktopLists* Lists = nullptr;       // null: no desktop reads such files
     RegistryTrees* Trees = nullptr;      // null: there is no registry of the system's own
+    Shortcuts* Launchers = nullptr;      // null: the system has no place for shortcuts
 };
 
 }  // namespace lv

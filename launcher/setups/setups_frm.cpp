@@ -4,6 +4,7 @@
 
 #include "foundation/question_box.h"
 #include "foundation/topmost.h"
+#include "launcher/launchers/launcher_frm.h"
 #include "launcher/setups/setup_start.h"
 #include "launcher/setups/setup_words.h"
 #include "launcher/setups/setups_menu.h"
@@ -41,6 +42,7 @@ void Show(Setups_Frm& form) {
          {&form.StartSetup_Cmd, &form.PickSetup_Cmd, &form.RenameSetup_Cmd, &form.DeleteSetup_Cmd}) {
         button->Enabled = selected != nullptr;
     }
+    form.MakeLauncher_Cmd.Enabled = selected != nullptr && CanMakeLaunchers(form.run);
     form.KeepSetupChanges_Cmd.Enabled = selected != nullptr && changed && selected->Number == launcher.Setups.Picked;
 }
 
@@ -58,6 +60,8 @@ Setups_Frm::Setups_Frm(Launcher& owner) : ModalWindow(owner.run, "Setups_Frm"), 
     RenameSetup_Cmd.ToolTip = "Give this setup another name";
     DeleteSetup_Cmd.Caption = "&Delete";
     DeleteSetup_Cmd.ToolTip = "Delete this setup; its game stays";
+    MakeLauncher_Cmd.Caption = "&Make a Launcher...";
+    MakeLauncher_Cmd.ToolTip = "Start this setup from the desktop or the menu of programs";
     CloseSetups_Cmd.Caption = "&Close";
     CloseSetups_Cmd.ToolTip = "Back to the main window";
     const auto& all = owner.Setups.All;
@@ -109,7 +113,9 @@ void RenameSetup_Cmd_Click(Setups_Frm& form) {
         name = form.run.User.InputBox("Rename Setup", "The new name of this setup:", old);
     }
     if (name && *name != old) {
-        RenameSetup(form.run, form.launcher.Setups, number, *name);
+        if (RenameSetup(form.run, form.launcher.Setups, number, *name)) {
+            LaunchersFollow(form.launcher, old, form.launcher.Setups.Of(number)->What);
+        }
         Show(form);
     }
 }
@@ -120,10 +126,19 @@ void DeleteSetup_Cmd_Click(Setups_Frm& form) {
         return;
     }
     const int number = setup->Number;
+    const Setup what = setup->What;
     const Text question = Join("Delete this setup?", NewLine, NewLine, ShownText(setup->What.Name));
     if (AskUser(form.run, kSetupsTitle, question, "&Delete,&Cancel", kCancel) == kDelete) {
-        DeleteSetup(form.run, form.launcher.Setups, number);
+        if (DeleteSetup(form.run, form.launcher.Setups, number)) {
+            TakeLaunchersAway(form.launcher, what);
+        }
         Show(form);
+    }
+}
+
+void MakeLauncher_Cmd_Click(Setups_Frm& form) {
+    if (const KeptSetup* const setup = RowOf(form)) {
+        OfferLaunchers(form.launcher, Setup(setup->What));
     }
 }
 

@@ -21,6 +21,7 @@ struct Setups_Frm : ModalWindow {
     CommandButton KeepSetupChanges_Cmd;
     CommandButton RenameSetup_Cmd;
     CommandButton DeleteSetup_Cmd;
+    CommandButton MakeLauncher_Cmd;
     CommandButton CloseSetups_Cmd;
 
     bool StartChosen = false;  // once the window is gone
@@ -42,6 +43,9 @@ void RenameSetup_Cmd_Click(Setups_Frm& form);
 
 /// Asks first.
 void DeleteSetup_Cmd_Click(Setups_Frm& form);
+
+/// Asks where, and puts launchers of the row there.
+void MakeLauncher_Cmd_Click(Setups_Frm& form);
 
 void CloseSetups_Cmd_Click(Setups_Frm& form);
 

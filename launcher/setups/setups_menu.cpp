@@ -5,6 +5,7 @@
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
 #include "foundation/topmost.h"
+#include "launcher/launchers/setup_launchers.h"
 #include "launcher/setups/setup_start.h"
 #include "launcher/setups/setup_words.h"
 #include "launcher/setups/setups_frm.h"
@@ -51,6 +52,7 @@ void KeepSetup_Bar_Click(Launcher& launcher) {
         Setup setup = SetupOf(launcher);
         setup.Name = *name;
         if (MayTakeItsPlace(run, launcher.Setups.Named(*name)) && KeepSetup(run, launcher.Setups, setup)) {
+            LaunchersFollow(launcher, setup.Name, setup);
             return;
         }
         offered = *name;
@@ -64,7 +66,9 @@ void KeepSetupChanges_Bar_Click(Launcher& launcher) {
     }
     Setup setup = SetupOf(launcher);
     setup.Name = picked->What.Name;
-    KeepSetup(launcher.run, launcher.Setups, setup);
+    if (KeepSetup(launcher.run, launcher.Setups, setup)) {
+        LaunchersFollow(launcher, setup.Name, setup);
+    }
 }
 
 void DropSetupChanges_Bar_Click(Launcher& launcher) {

@@ -14,6 +14,7 @@
 #include "platform/memory/memory_desktop.h"
 #include "platform/memory/memory_files.h"
 #include "platform/memory/memory_known_places.h"
+#include "platform/memory/memory_shortcuts.h"
 #include "platform/platform.h"
 
 namespace lv {
@@ -126,7 +127,8 @@ struct MemoryPlatform {
     MemoryClock Time;
     MemoryDesktop Windows;
     MemoryKnownPlaces Places;
-    Platform Services{Settings, Registry, Disk, Programs, Clip, Time, nullptr, &Windows, &Places};
+    MemoryShortcuts Launchers;
+    Platform Services{Settings, Registry, Disk, Programs, Clip, Time, nullptr, &Windows, &Places, &Launchers};
 };
 
 }  // namespace lv

@@ -1,5 +1,6 @@
 #include "launcher/setups/setups_frm.h"
 
+#include "launcher/launchers/launcher_frm.h"
 #include "tests/support/launcher_fixture.h"
 
 namespace lv {
@@ -35,7 +36,7 @@ TEST_F(SetupsFrm, SaysWhatToDoWhereThereIsNone) {
               "Setups, Keep This Setup.");
     EXPECT_TRUE(form.Setups_Lst.Items.empty());
     for (const CommandButton* button : {&form.StartSetup_Cmd, &form.PickSetup_Cmd, &form.KeepSetupChanges_Cmd,
-                                        &form.RenameSetup_Cmd, &form.DeleteSetup_Cmd}) {
+                                        &form.RenameSetup_Cmd, &form.DeleteSetup_Cmd, &form.MakeLauncher_Cmd}) {
         EXPECT_FALSE(button->Enabled) << button->Caption;
     }
     StartSetup_Cmd_Click(form);
@@ -43,6 +44,7 @@ TEST_F(SetupsFrm, SaysWhatToDoWhereThereIsNone) {
     KeepSetupChanges_Cmd_Click(form);
     RenameSetup_Cmd_Click(form);
     DeleteSetup_Cmd_Click(form);
+    MakeLauncher_Cmd_Click(form);
     EXPECT_FALSE(form.Closed);
     CloseSetups_Cmd_Click(form);
     EXPECT_TRUE(form.Closed);
@@ -139,6 +141,37 @@ TEST_F(SetupsFrm, DeletesTheRowAfterAQuestion) {
     EXPECT_EQ(form.Setups_Lst.ListIndex, -1);
     EXPECT_FALSE(form.DeleteSetup_Cmd.Enabled);
     EXPECT_EQ(Stored("Setups", "Names"), "");
+}
+
+TEST_F(SetupsFrm, LaunchersFollowANewNameAndGoWithTheirSetup) {
+    LoadGames();
+    Setups_Frm form(launcher);
+    EXPECT_TRUE(form.MakeLauncher_Cmd.Enabled);
+    user.In<Launcher_Frm>([](Launcher_Frm& asked) {
+        asked.LauncherInMenu_Chk.Value = 1;
+        Launcher_Write_Cmd_Click(asked);
+    });
+    user.Expect({"Make a Launcher", "/menu/lorvane3d-setup-flag.desktop"});
+    MakeLauncher_Cmd_Click(form);
+    ASSERT_TRUE(system.Launchers.Made.contains("/menu/lorvane3d-setup-flag.desktop"));
+    user.InputAnswers = {Text("Evening")};
+    RenameSetup_Cmd_Click(form);
+    ASSERT_EQ(system.Launchers.Made.size(), 1U);
+    EXPECT_EQ(system.Launchers.Made.begin()->first, "/menu/lorvane3d-setup-evening.desktop");
+    Click(Game_Chk, 0);
+    KeepSetupChanges_Cmd_Click(form);
+    EXPECT_EQ(system.Launchers.Made.begin()->second.Comment, "Quake");
+    user.Expect({"Setups", "Delete this setup?\r\n\r\nEvening", 0, false, true});
+    DeleteSetup_Cmd_Click(form);
+    EXPECT_TRUE(system.Launchers.Made.empty());
+}
+
+TEST_F(SetupsFrm, WithoutAPlaceForLaunchersNoneAreOffered) {
+    LoadGames();
+    system.Services.Launchers = nullptr;
+    const Setups_Frm form(launcher);
+    EXPECT_TRUE(form.StartSetup_Cmd.Enabled);
+    EXPECT_FALSE(form.MakeLauncher_Cmd.Enabled);
 }
 
 }  // namespace
