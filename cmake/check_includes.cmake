@@ -20,7 +20,7 @@ set(NO_MORE "^$")
 set(THE_TOOLKIT "^wx/")
 set(LINUX "^(sys/.*|xcb/.*|clocale|dirent|dlfcn|fcntl|fstream|filesystem|iconv|langinfo|poll|pwd|signal|spawn|sqlite3|\
 stdlib|termios|thread|unistd)(\\.h)?$|^nlohmann/json\\.hpp$")
-set(WINDOWS "^(clocale|fstream|filesystem|initguid|oleacc|shellapi|shobjidl|stdlib|thread|windows)(\\.h)?$")
+set(WINDOWS "^(clocale|fstream|filesystem|initguid|knownfolders|objbase|oleacc|shellapi|shlobj|shobjidl|stdlib|thread|windows)(\\.h)?$")
 
 set(faults "")
 function(check folder beyond)

@@ -1,5 +1,6 @@
 #include "platform/toolkit/spoken_name.h"
 
+#include "platform/windows/com_pointer.h"
 #include "platform/windows/system.h"
 #include "platform/windows/wide_text.h"
 
@@ -8,45 +9,6 @@
 #include <oleacc.h>
 
 namespace lv {
-
-namespace {
-
-// COM of this thread, for as long as it is asked.
-class Com {
-  public:
-    Com() : begun_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
-    ~Com() {
-        if (begun_) {
-            CoUninitialize();
-        }
-    }
-    Com(const Com&) = delete;
-    Com& operator=(const Com&) = delete;
-
-  private:
-    bool begun_;
-};
-
-template <class Interface>
-class ComPointer {
-  public:
-    ComPointer() = default;
-    ~ComPointer() {
-        if (pointer_ != nullptr) {
-            pointer_->Release();
-        }
-    }
-    ComPointer(const ComPointer&) = delete;
-    ComPointer& operator=(const ComPointer&) = delete;
-
-    Interface* operator->() const { return pointer_; }
-    void** Place() { return reinterpret_cast<void**>(&pointer_); }
-
-  private:
-    Interface* pointer_ = nullptr;
-};
-
-}  // namespace
 
 void SetSpokenName(void* control, const std::string& name) {
     const Com com;
