@@ -91,7 +91,8 @@ DoneWords DoWords(const std::vector<std::string>& words) {
             word, [&disk](TextView file) { return PathOfWord(disk, file); }, disk);
     };
     WordsDone done = ResultOfWords(words, running, WholePath, RunHere, offered);
-    return {done.Result ? std::optional(Print(*done.Result)) : std::nullopt, std::move(done.Offered)};
+    return {done.Result ? std::optional(Print(*done.Result)) : std::nullopt, std::move(done.Offered),
+            std::move(done.Told)};
 }
 
 }  // namespace lv

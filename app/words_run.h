@@ -50,7 +50,13 @@ inline Text OfferedWord(TextView word, const std::function<Text(TextView)>& path
 struct WordsDone {
     std::optional<CommandResult> Result;  // nothing if the words ask for the window
     Text Offered;                         // by the window
+    Text Told;                            // in a window of its own
 };
+
+inline WordsDone DoneAs(const Command& command, CommandResult result) {
+    Text told = command.Tell && result.Code != exit_code::kDone ? TrimWhite(result.Err) : Text();
+    return {std::move(result), {}, std::move(told)};
+}
 
 /// `running` is asked ahead of `runHere` for what is the window's. `offeredWord` is OfferedWord on this system.
 template <class RunHere, class OfferedWordHere>
@@ -58,29 +64,29 @@ WordsDone ResultOfWords(const std::vector<Text>& words, SingleInstance& running,
                         const std::function<Text(TextView)>& wholePath, RunHere runHere, OfferedWordHere offeredWord) {
     const Result<Command> command = ReadCommand(words);
     if (!command.Ok()) {
-        return {NotUnderstood(command.Fault), {}};
+        return {NotUnderstood(command.Fault), {}, {}};
     }
     const bool isOffered = IsToBeOffered(command.Value);
     const Text offered = isOffered ? offeredWord(command.Value.Subject) : Text();
     if (NeedsNothing(command.Value)) {
-        return {AnswerAtOnce(command.Value), {}};
+        return {AnswerAtOnce(command.Value), {}, {}};
     }
     if (IsForTheWindow(command.Value)) {
         const Asked asked = running.Ask(
             RequestOf(isOffered ? std::vector<Text>{"--", offered} : WordsForAnother(command.Value, words, wholePath)),
             isOffered ? kShortPatienceMs : kPatienceMs);
         if (auto result = asked.Answer ? ResultOf(*asked.Answer) : std::nullopt) {
-            return {std::move(result), {}};
+            return DoneAs(command.Value, *std::move(result));
         }
         // The window asks once more, and tells where somebody sees it.
         if (asked.IsRunning && !isOffered) {
-            return {NoAnswer(), {}};
+            return DoneAs(command.Value, NoAnswer());
         }
     }
     if (command.Value.What == Verb::OpenWindow) {
-        return {std::nullopt, offered};
+        return {std::nullopt, offered, {}};
     }
-    return {runHere(command.Value), {}};
+    return DoneAs(command.Value, runHere(command.Value));
 }
 
 }  // namespace lv

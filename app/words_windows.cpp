@@ -54,7 +54,8 @@ DoneWords DoWords(const std::vector<std::string>& words) {
     const auto wholePath = [&disk](TextView word) { return PathOfWord(disk, word); };
     const auto offered = [&](TextView word) { return OfferedWord(word, wholePath, disk); };
     WordsDone done = ResultOfWords(words, running, wholePath, RunHere, offered);
-    return {done.Result ? std::optional(Print(*done.Result)) : std::nullopt, std::move(done.Offered)};
+    return {done.Result ? std::optional(Print(*done.Result)) : std::nullopt, std::move(done.Offered),
+            std::move(done.Told)};
 }
 
 }  // namespace lv

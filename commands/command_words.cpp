@@ -25,6 +25,7 @@ constexpr OptionWord kOptionWords[] = {
     {"--server", "HOST:PORT", "Joins this server, by its address or its title."},
     {"--profile", "NAME", "Uses this video profile."},
     {"--dry-run", "", "Starts nothing: shows what would be written and started, and what is missing."},
+    {"--tell", "", "Tells in a window what goes wrong, as a start from a desktop must."},
     {"--check", "SCRIPT", "Shows what the game takes otherwise than it is meant in a script."},
     {"--export", "FILE", "Writes all settings, profiles and setups into one file."},
     {"--import", "FILE", "Takes them from such a file."},
@@ -170,6 +171,9 @@ class Reader {
         if (option.Word == "--dry-run") {
             command_.DryRun = true;
         }
+        if (option.Word == "--tell") {
+            command_.Tell = true;
+        }
         if (option.Word == "--list" && value) {
             const auto* kind = std::ranges::find(kListWords, *value, &ListWord::Word);
             if (kind == std::end(kListWords)) {
@@ -227,6 +231,9 @@ class Reader {
         }
         if (command_.DryRun && command_.What != Verb::Launch) {
             return Fault("--dry-run goes with --launch or --setup.");
+        }
+        if (command_.Tell && command_.What != Verb::Launch) {
+            return Fault("--tell goes with --launch or --setup.");
         }
         return {};
     }

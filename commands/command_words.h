@@ -39,6 +39,7 @@ struct Command {
     std::optional<Text> Server{};
     std::optional<Text> VideoProfile{};
     bool DryRun = false;
+    bool Tell = false;  // what goes wrong, in a window
 };
 
 struct OptionWord {

@@ -119,7 +119,7 @@ _lorvane3d() {
             elif [[ ${words[1]} == --list ]]; then
                 _lorvane3d_words '--launch --setup'
             else
-                _lorvane3d_words '--mod --map --script --server --profile --dry-run'
+                _lorvane3d_words '--mod --map --script --server --profile --dry-run --tell'
             fi
         elif ((cword == 1)); then
             _filedir

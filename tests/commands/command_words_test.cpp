@@ -7,11 +7,9 @@ namespace {
 
 TEST(CommandWords, TheOptionsOfTheHelpInTheirOrder) {
     const std::vector<std::pair<Text, Text>> listed = {
-        {"--help", ""},        {"--version", ""},    {"--list", "[KIND]"},
-        {"--launch", "TITLE"}, {"--setup", "NAME"},  {"--mod", "NAME"},
-        {"--map", "NAME"},     {"--script", "NAME"}, {"--server", "HOST:PORT"},
-        {"--profile", "NAME"}, {"--dry-run", ""},    {"--check", "SCRIPT"},
-        {"--export", "FILE"},  {"--import", "FILE"},
+        {"--help", ""},    {"--version", ""}, {"--list", "[KIND]"},  {"--launch", "TITLE"},     {"--setup", "NAME"},
+        {"--mod", "NAME"}, {"--map", "NAME"}, {"--script", "NAME"},  {"--server", "HOST:PORT"}, {"--profile", "NAME"},
+        {"--dry-run", ""}, {"--tell", ""},    {"--check", "SCRIPT"}, {"--export", "FILE"},      {"--import", "FILE"},
     };
     ASSERT_EQ(AllOptionWords().size(), listed.size());
     for (std::size_t i = 0; i < listed.size(); ++i) {
@@ -108,6 +106,14 @@ TEST(CommandWords, ANameMayBeginWithADashBehindItsOption) {
     EXPECT_EQ(command.Value.Map, "-dm1");
 }
 
+TEST(CommandWords, ALauncherNamesItsSetupWhateverThatIsCalled) {
+    const Result<Command> command = ReadCommand({"--setup=--help", "--tell"});
+    ASSERT_TRUE(command.Ok()) << command.Fault.Text;
+    EXPECT_EQ(command.Value.What, Verb::Launch);
+    EXPECT_EQ(command.Value.Setup, "--help");
+    EXPECT_TRUE(command.Value.Tell);
+}
+
 TEST(CommandWords, TwoDashesEndTheOptions) {
     const Result<Command> command = ReadCommand({"--", "--launch"});
     ASSERT_TRUE(command.Ok());
@@ -135,6 +141,8 @@ TEST(CommandWords, EachFaultSaysWhatIsWrongAndWhatMayBeMeant) {
         {{"--list", "maps", "--map", "DM4"}, "--map goes with --launch or --setup."},
         {{"--dry-run"}, "--dry-run goes with --launch or --setup."},
         {{"--check", "a.cfg", "--dry-run"}, "--dry-run goes with --launch or --setup."},
+        {{"--tell"}, "--tell goes with --launch or --setup."},
+        {{"--tell=me", "--setup", "Evening"}, "--tell takes no value."},
         {{"--launch", "Quake", "--setup", "Evening"}, "--setup and --launch do not go together."},
         {{"--export", "a", "--import", "b"}, "--import and --export do not go together."},
         {{"a.bsp", "b.bsp"}, "One file or address at a time, and \"b.bsp\" is one more."},
