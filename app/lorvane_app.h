@@ -13,10 +13,12 @@
 #include <memory>
 #include <utility>
 
+#include "assets/embedded_pictures.h"
 #include "assets/embedded_texts.h"
 #include "catalogs/forms/entry_forms.h"
 #include "commands/asked_instance.h"
 #include "commands/rehearse_launch.h"
+#include "foundation/field_strings.h"
 #include "foundation/forms/help_bubble.h"
 #include "foundation/forms/wx_text.h"
 #include "foundation/question_box.h"
@@ -42,6 +44,18 @@
 
 namespace lv {
 
+/// Smallest first.
+inline std::vector<ShortcutPicture> EmbeddedPicturesOfGame(TextView image) {
+    std::vector<ShortcutPicture> pictures;
+    for (const EmbeddedPicture& picture : EmbeddedPictures()) {
+        if (picture.Name == Join("icons/games/", image)) {
+            pictures.push_back(
+                {picture.Height, {reinterpret_cast<const char*>(picture.Png.data()), picture.Png.size()}});
+        }
+    }
+    return pictures;
+}
+
 /// Everything that one run owns, in the order in which it is made.
 template <class System>
 struct Program {
@@ -57,6 +71,7 @@ struct Program {
         User.AddForms(MakeGameListForm);
         User.AddForms(MakeFoundryForms(User));
         TheLauncher.ShippedEngines = EmbeddedEngines();
+        TheLauncher.PicturesOfGame = EmbeddedPicturesOfGame;
         ConnectWizard(TheLauncher);
         ConnectFoundry(TheLauncher);
         ConnectDryRun(TheLauncher, [this] {

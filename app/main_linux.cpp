@@ -14,6 +14,7 @@
 
 #include "app/linux_store.h"
 #include "app/lorvane_app.h"
+#include "app/telling_app.h"
 #include "app/words_run.h"
 #include "foundation/forms/wx_clipboard.h"
 #include "launcher/window/window_life.h"
@@ -24,6 +25,7 @@
 #include "platform/linux/linux_instance.h"
 #include "platform/linux/linux_known_places.h"
 #include "platform/linux/linux_processes.h"
+#include "platform/linux/linux_shortcuts.h"
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_registry.h"
 #include "platform/linux/x11_desktop.h"
@@ -38,6 +40,7 @@ struct LinuxSystem {
         Services.Windows = &Windows;
         Services.Places = &Places;
         Services.Lists = IsReadByTheDesktop() ? &Lists : nullptr;
+        Services.Launchers = &Launchers;
     }
 
     static std::unique_ptr<LinuxSystem> Make() {
@@ -78,6 +81,7 @@ struct LinuxSystem {
     X11Desktop Windows;
     LinuxKnownPlaces Places{Disk};
     LinuxDesktopLists Lists;
+    LinuxShortcuts Launchers;
     LinuxInstance Instance{ConfigDirectory().string()};
     std::optional<EndSignals> Signals;  // before the window is up there is nothing to keep
     std::function<void()> OnEnd;
@@ -113,15 +117,22 @@ class LinuxApp : public LorvaneApp<LinuxSystem> {
     WithoutOpenGl withoutOpenGl_;  // made with the application, before the toolkit opens the display
 };
 
+wxApp* MakeTellingApp(const std::string& told, int code) {
+    return new TellingApp(std::make_unique<LinuxFiles>(OwnDrives()), told, code);
+}
+
 }  // namespace
 
 }  // namespace lv
 
 wxIMPLEMENT_APP_NO_MAIN(lv::LinuxApp);
 
+// Behind its name: nothing, a word to be offered, or a text to be told and the code to end with.
 int main(int count, char** arguments) {
     prctl(PR_SET_NAME, "lorvane3d");  // as messages of other programs name it
-    wxApp::SetInstance(new lv::LinuxApp(count > 1 ? lv::FromUtf8Lossy(arguments[1]) : std::string()));
+    const std::string word = count > 1 ? lv::FromUtf8Lossy(arguments[1]) : std::string();
+    wxApp::SetInstance(count > 2 ? lv::MakeTellingApp(word, std::atoi(arguments[2]))
+                                 : static_cast<wxApp*>(new lv::LinuxApp(word)));
     int itself = 1;  // what is offered is no word of the toolkit's
     return wxEntry(itself, arguments);
 }

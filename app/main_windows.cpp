@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/lorvane_app.h"
+#include "app/telling_app.h"
 #include "app/words.h"
 #include "app/words_run.h"
 #include "foundation/forms/wx_clipboard.h"
@@ -25,6 +26,7 @@
 #include "platform/windows/windows_processes.h"
 #include "platform/windows/windows_registry.h"
 #include "platform/windows/windows_registry_trees.h"
+#include "platform/windows/windows_shortcuts.h"
 
 namespace lv {
 
@@ -36,6 +38,7 @@ struct WindowsSystem {
         Services.Windows = &Desk;
         Services.Places = &Places;
         Services.Trees = &Trees;
+        Services.Launchers = &Launchers;
     }
 
     static std::unique_ptr<WindowsSystem> Make() { return std::make_unique<WindowsSystem>(); }
@@ -63,6 +66,7 @@ struct WindowsSystem {
     WindowsDesktop Desk;
     WindowsKnownPlaces Places{Disk};
     WindowsRegistryTrees Trees;
+    WindowsShortcuts Launchers;
     AccessKeys Keys;
     Platform Services{Settings, Registry, Disk, Programs, Clip, Time};
 };
@@ -86,9 +90,14 @@ wxIMPLEMENT_APP_NO_MAIN(lv::WindowsApp);
 int WINAPI WinMain(HINSTANCE program, HINSTANCE before, LPSTR line, int show) {
     const std::vector<std::string> words = lv::WordsOfCommandLine();
     lv::DoneWords done = words.empty() ? lv::DoneWords() : lv::DoWords(words);
-    if (done.Code) {
+    if (done.Code && done.Told.empty()) {
         return *done.Code;
     }
-    wxApp::SetInstance(new lv::WindowsApp(std::move(done.Offered)));
+    if (done.Code) {
+        auto disk = std::make_unique<lv::WindowsFiles>();
+        wxApp::SetInstance(new lv::TellingApp(std::move(disk), std::move(done.Told), *done.Code));
+    } else {
+        wxApp::SetInstance(new lv::WindowsApp(std::move(done.Offered)));
+    }
     return wxEntry(program, before, line, show);
 }

@@ -2,12 +2,14 @@
 
 #include "launcher/forms/backups_form.h"
 #include "launcher/forms/install_params_form.h"
+#include "launcher/forms/launcher_form.h"
 #include "launcher/forms/setups_form.h"
 
 namespace lv {
 
 LauncherUser::LauncherUser(Files& files) : WxUser(files) {
     AddForms(MakeSetupsForm);
+    AddForms(MakeLauncherForm);
     AddForms(MakeBackupsForm);
 }
 

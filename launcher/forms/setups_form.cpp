@@ -56,6 +56,7 @@ std::unique_ptr<wxDialog> MakeSetupsForm(wxWindow* owner, ModalWindow& window) {
     add("KeepSetupChanges_Cmd", setups->KeepSetupChanges_Cmd, KeepSetupChanges_Cmd_Click);
     add("RenameSetup_Cmd", setups->RenameSetup_Cmd, RenameSetup_Cmd_Click);
     add("DeleteSetup_Cmd", setups->DeleteSetup_Cmd, DeleteSetup_Cmd_Click);
+    add("MakeLauncher_Cmd", setups->MakeLauncher_Cmd, MakeLauncher_Cmd_Click);
     buttons->AddStretchSpacer();
     wxWindow* const close = add("CloseSetups_Cmd", setups->CloseSetups_Cmd, CloseSetups_Cmd_Click);
     auto* label = new WrappedLabel(form.get(), kLabelLines);

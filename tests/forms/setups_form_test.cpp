@@ -55,6 +55,7 @@ TEST_F(SetupsForm, SaysWhatToDoWhereThereIsNone) {
         EXPECT_TRUE(Find("Setups_Lbl")->GetLabel().StartsWith("No setup is kept yet."));
         EXPECT_TRUE(HasKeyboard(Find("CloseSetups_Cmd")));
         EXPECT_FALSE(Find("StartSetup_Cmd")->IsEnabled());
+        EXPECT_FALSE(Find("MakeLauncher_Cmd")->IsEnabled());
         PressKey(WXK_RETURN);
     });
     EXPECT_TRUE(system.Programs.Started.empty());
@@ -102,8 +103,9 @@ TEST_F(SetupsForm, EveryControlIsReachedByTheTabKey) {
     KeepTwo();
     ClickOn(Find("nosound_chk"));
     InWindow([] {
-        for (const char* const name : {"Setups_Lst", "StartSetup_Cmd", "PickSetup_Cmd", "KeepSetupChanges_Cmd",
-                                       "RenameSetup_Cmd", "DeleteSetup_Cmd", "CloseSetups_Cmd", "Setups_Lst"}) {
+        for (const char* const name :
+             {"Setups_Lst", "StartSetup_Cmd", "PickSetup_Cmd", "KeepSetupChanges_Cmd", "RenameSetup_Cmd",
+              "DeleteSetup_Cmd", "MakeLauncher_Cmd", "CloseSetups_Cmd", "Setups_Lst"}) {
             EXPECT_TRUE(HasKeyboard(Find(name))) << name;
             PressKey(WXK_TAB);
         }
@@ -141,13 +143,41 @@ TEST_F(SetupsForm, EveryControlTellsWhatItIsFor) {
     KeepTwo();
     InWindow([] {
         for (const char* const name : {"Setups_Lst", "StartSetup_Cmd", "PickSetup_Cmd", "KeepSetupChanges_Cmd",
-                                       "RenameSetup_Cmd", "DeleteSetup_Cmd", "CloseSetups_Cmd"}) {
+                                       "RenameSetup_Cmd", "DeleteSetup_Cmd", "MakeLauncher_Cmd", "CloseSetups_Cmd"}) {
             EXPECT_NE(Find(name)->GetHelpText(), "") << name;
         }
         EXPECT_EQ(ToldByRightClicks({"Setups_Lst", "StartSetup_Cmd"}),
                   (std::vector<std::string>{"Setups_Lst", "StartSetup_Cmd"}));
         PressKey(WXK_ESCAPE);
     });
+}
+
+TEST_F(SetupsForm, ALauncherIsMadeWhereItIsTicked) {
+    KeepTwo();
+    InWindow([this] {
+        DoAndAnswer([] { PressKey('M', wxMOD_ALT); },
+                    [this] {
+                        Screenshot("make_launcher");
+                        EXPECT_EQ(Find("LauncherFor_Lbl")->GetLabel(), "Where is Flag & Co to be started from?");
+                        EXPECT_TRUE(HasKeyboard(Find("LauncherInMenu_Chk")));
+                        EXPECT_FALSE(Find("WriteLauncher_Cmd")->IsEnabled());
+                        for (const char* const name :
+                             {"LauncherInMenu_Chk", "LauncherOnDesktop_Chk", "WriteLauncher_Cmd", "Cancel_Cmd"}) {
+                            EXPECT_NE(Find(name)->GetHelpText(), "") << name;
+                        }
+                        PressKey('D', wxMOD_ALT);
+                        EXPECT_TRUE(Find("WriteLauncher_Cmd")->IsEnabled());
+                        PressKey(WXK_RETURN);
+                        WhenModal([] {
+                            Screenshot("launcher_made");
+                            PressKey(WXK_RETURN);
+                        });
+                    });
+        EXPECT_TRUE(SettleUntil([this] { return !system.Launchers.Made.empty(); }));
+        PressKey(WXK_ESCAPE);
+    });
+    ASSERT_EQ(system.Launchers.Made.size(), 1U);
+    EXPECT_EQ(system.Launchers.Made.begin()->second.Words[0], "--setup=Flag & Co");
 }
 
 TEST_F(SetupsForm, TheMenuHasTheSetupsThatThereAre) {

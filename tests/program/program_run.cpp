@@ -65,13 +65,11 @@ pid_t Spawn(const ProgramHome& home, const std::vector<std::string>& command) {
     _exit(127);
 }
 
-std::vector<std::string> WithVariables(const Environment& more, const std::string& word) {
+std::vector<std::string> CommandOf(const Environment& more, const std::vector<std::string>& words) {
     std::vector<std::string> command = {"env"};
     command.insert(command.end(), more.begin(), more.end());
     command.push_back(ProgramFile().string());
-    if (!word.empty()) {
-        command.push_back(word);
-    }
+    command.insert(command.end(), words.begin(), words.end());
     return command;
 }
 
@@ -196,8 +194,8 @@ bool WaitForTrayHost() {
     return WaitUntil([] { return OutputOf({"xwininfo", "-root", "-tree"}).find("\"trayer\"") != std::string::npos; });
 }
 
-ProgramRun::ProgramRun(const ProgramHome& home, const Environment& more, const std::string& word)
-    : OwnProcess(home, WithVariables(more, word)) {}
+ProgramRun::ProgramRun(const ProgramHome& home, const Environment& more, const std::vector<std::string>& words)
+    : OwnProcess(home, CommandOf(more, words)) {}
 
 ProgramRun::ProgramRun(const ProgramHome& home, const std::string& shell)
     : OwnProcess(home, InsideMounts(shell + "\nexec '" + ProgramFile().string() + "'")) {}

@@ -79,8 +79,9 @@ using Environment = std::vector<std::string>;
 
 class ProgramRun : public OwnProcess {
   public:
-    /// `word` stands behind the program's name.
-    explicit ProgramRun(const ProgramHome& home, const Environment& more = {}, const std::string& word = {});
+    /// `words` stand behind the program's name.
+    explicit ProgramRun(const ProgramHome& home, const Environment& more = {},
+                        const std::vector<std::string>& words = {});
     /// `shell` runs as root of mount tables of its own before the program takes its place: it may mount what it likes
     /// and nobody else sees that.
     ProgramRun(const ProgramHome& home, const std::string& shell);
