@@ -12,6 +12,7 @@ namespace lv {
 namespace {
 
 constexpr int kLabelLines = 2;
+constexpr int kLabelWidth = 380;  // at 100 %
 
 }  // namespace
 
@@ -23,6 +24,7 @@ std::unique_ptr<wxDialog> MakeLauncherForm(wxWindow* owner, ModalWindow& window)
     auto form = std::make_unique<ModalForm>(owner, *places, [places] { Launcher_Cancel_Cmd_Click(*places); });
     auto* label = new WrappedLabel(form.get(), kLabelLines);
     form->Controls.Bind("LauncherFor_Lbl", places->LauncherFor_Lbl, label);
+    label->SetMinSize(wxSize(form->FromDIP(kLabelWidth), label->GetMinSize().GetHeight()));
     form->AddWide(label);
     const auto add = [&](const char* name, CheckBox& model) {
         auto* box = new wxCheckBox(form.get(), wxID_ANY, ToWx(model.Caption));
