@@ -76,8 +76,13 @@ void LaunchersFollow(Launcher& launcher, TextView before, const Setup& now) {
         if (!system.IsThere(place, old)) {
             continue;
         }
-        Error failed = system.Make(place, made);
-        if (!failed && !SameText(before, now.Name)) {
+        const bool isRenamed = !SameText(before, now.Name);
+        const bool sharesItsFile = isRenamed && SameText(system.PathOf(place, old), system.PathOf(place, made));
+        Error failed = sharesItsFile ? system.Remove(place, old) : Error();
+        if (!failed) {
+            failed = system.Make(place, made);
+        }
+        if (!failed && isRenamed) {
             failed = system.Remove(place, old);
         }
         faults.Note(system, place, made, failed);

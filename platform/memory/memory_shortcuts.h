@@ -19,7 +19,7 @@ class MemoryShortcuts : public Shortcuts {
     }
     bool HasPlace(ShortcutPlace place) override { return !Without.contains(place); }
     std::string PathOf(ShortcutPlace place, const Shortcut& shortcut) override {
-        return (place == ShortcutPlace::Menu ? "/menu/" : "/desktop/") + shortcut.EntryName;
+        return (place == ShortcutPlace::Menu ? "/menu/" : "/desktop/") + (OneName ? "one.desktop" : shortcut.EntryName);
     }
     bool IsThere(ShortcutPlace place, const Shortcut& shortcut) override {
         const auto found = Made.find(PathOf(place, shortcut));
@@ -47,7 +47,8 @@ class MemoryShortcuts : public Shortcuts {
 
     std::map<std::string, Shortcut> Made;  // by their paths
     std::set<ShortcutPlace> Without;
-    Error Refuse;  // what writes
+    bool OneName = false;  // of all files, as for names that no file can have
+    Error Refuse;          // what writes
 };
 
 }  // namespace lv

@@ -75,6 +75,14 @@ TEST_F(SetupLaunchers, FollowAChangeOfLetterCaseInTheirPlace) {
     EXPECT_EQ(system.Launchers.Made.begin()->second.Name, "DUEL");
 }
 
+TEST_F(SetupLaunchers, FollowANameThatGivesTheSameFile) {
+    system.Launchers.OneName = true;
+    Make("a/b", {Menu});
+    LaunchersFollow(launcher, "a/b", Called("a:b"));
+    ASSERT_EQ(Paths(), std::vector<Text>{"/menu/one.desktop"});
+    EXPECT_EQ(system.Launchers.Made.begin()->second.Name, "a:b");
+}
+
 TEST_F(SetupLaunchers, StayWhereTheyCannotFollowAndThatIsTold) {
     Make("Duel", {Menu});
     Occupy("/menu/lorvane3d-setup-evening.desktop");
