@@ -103,7 +103,7 @@ TEST(GameLinks, AWordThatTheRunningProgramDoesNotListenToIsTold) {
     ProgramRun first(home);
     ASSERT_NE(first.WaitForWindow(), "");
     first.Signal(SIGSTOP);
-    ProgramRun second(home, Environment{}, "qw://host.example:27500");
+    ProgramRun second(home, Environment{}, {"qw://host.example:27500"});
     const auto isTold = [&] {
         const auto shown = ShownWindowsOf(second.Id(), kPlainTitle);
         return std::any_of(shown.begin(), shown.end(), IsDialog);
