@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <unordered_map>
 
-#include "console/line_matching.h"
+#include "console/line_pairing.h"
 
 namespace lv {
 
@@ -60,25 +60,32 @@ class Rows {
 
   private:
     void TakeUpTo(std::size_t left, std::size_t right) {
-        while (leftDone_ < left || rightDone_ < right) {
-            DifferenceRow row{RowKind::Changed, 0, 0, {}, {}};
-            if (leftDone_ < left) {
-                row.Left = left_[leftDone_];
-                row.LeftLine = ++leftDone_;
-            }
-            if (rightDone_ < right) {
-                row.Right = right_[rightDone_];
-                row.RightLine = ++rightDone_;
-            }
-            if (row.LeftLine == 0 || row.RightLine == 0) {
-                row.Kind = row.LeftLine == 0 ? RowKind::OnlyRight : RowKind::OnlyLeft;
-            }
-            rows_.push_back(row);
+        const std::size_t leftBegin = leftDone_;
+        const std::size_t rightBegin = rightDone_;
+        const auto pairs = pairing_.Pair(std::span(left_).subspan(leftBegin, left - leftBegin),
+                                         std::span(right_).subspan(rightBegin, right - rightBegin));
+        for (const LineMatch& pair : pairs) {
+            TakeUnpaired(leftBegin + pair.Left, rightBegin + pair.Right);
+            const TextView ofLeft = left_[leftDone_];
+            const TextView ofRight = right_[rightDone_];
+            rows_.push_back(
+                {ofLeft == ofRight ? RowKind::Same : RowKind::Changed, ++leftDone_, ++rightDone_, ofLeft, ofRight});
+        }
+        TakeUnpaired(left, right);
+    }
+
+    void TakeUnpaired(std::size_t left, std::size_t right) {
+        for (; leftDone_ < left; ++leftDone_) {
+            rows_.push_back({RowKind::OnlyLeft, leftDone_ + 1, 0, left_[leftDone_], {}});
+        }
+        for (; rightDone_ < right; ++rightDone_) {
+            rows_.push_back({RowKind::OnlyRight, 0, rightDone_ + 1, {}, right_[rightDone_]});
         }
     }
 
     const std::vector<TextView>& left_;
     const std::vector<TextView>& right_;
+    LinePairing pairing_;
     std::vector<DifferenceRow> rows_;
     std::size_t leftDone_ = 0;
     std::size_t rightDone_ = 0;

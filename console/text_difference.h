@@ -13,7 +13,7 @@ namespace lv {
 
 enum class RowKind {
     Same,
-    Changed,  // both sides have a line, and they differ
+    Changed,  // both sides have a line that is about the same thing, and they differ
     OnlyLeft,
     OnlyRight,
 };

@@ -27,7 +27,15 @@ TEST(CompareTexts, PutsTheSameLinesBesideEachOther) {
 }
 
 TEST(CompareTexts, PairsChangedLines) {
-    EXPECT_EQ(RowsOf("a\nb1\nb2\nc", "a\nx1\nc"), "=1:1 a, ~2:2 b1>x1, <3:0 b2, =4:3 c");
+    EXPECT_EQ(RowsOf("a\nbind x 1\nfov 90\nc", "a\nfov 100\nc"), "=1:1 a, <2:0 bind x 1, ~3:2 fov 90>fov 100, =4:3 c");
+}
+
+TEST(CompareTexts, PutsNoLineBesideOneThatHasNothingToDoWithIt) {
+    EXPECT_EQ(RowsOf("alias tp_1 \"say_team need health\"\nsay \"my page is http://x.y/z\"\nexec rj.cfg\n",
+                     "say \"my page is http:\nexec rj.cfg\n"),
+              "<1:0 alias tp_1 \"say_team need health\", "
+              "~2:1 say \"my page is http://x.y/z\">say \"my page is http:, =3:2 exec rj.cfg");
+    EXPECT_EQ(RowsOf("a\nb1\nb2\nc", "a\nx1\nc"), "=1:1 a, <2:0 b1, <3:0 b2, >0:2 >x1, =4:3 c");
 }
 
 TEST(CompareTexts, TakesTextsWithoutLines) {

@@ -121,6 +121,17 @@ TEST_F(ChangesForm, AClickOnALossShowsItsLine) {
     EXPECT_EQ(form.Difference_Lst.Rows()[static_cast<std::size_t>(form.Difference_Lst.ListIndex)].LeftLine, 2u);
 }
 
+TEST_F(ChangesForm, AClickOnWhatComesUnaskedShowsItBesideTheLineThatItIsMadeOf) {
+    texts = {"alias tp_1 \"say_team need health\"\nsay \"my page is http://x.y/z\"\n", "say \"my page is http:\n"};
+    SaveReport report = ReportOf({Loss(0, "\"say \"my page is http:\" is run.", "")});
+    report.Losses.back().Difference.After.Line = 1;
+    const Changes_Frm form(run, report, texts, ChangesTime::Looking);
+    ASSERT_GE(form.Difference_Lst.ListIndex, 0);
+    const DifferenceRow& row = form.Difference_Lst.Rows()[static_cast<std::size_t>(form.Difference_Lst.ListIndex)];
+    EXPECT_EQ(row.Left, "say \"my page is http://x.y/z\"");
+    EXPECT_EQ(row.Right, "say \"my page is http:");
+}
+
 TEST_F(ChangesForm, AScriptThatIsTooLongIsSaidAboveAll) {
     SaveReport report;
     report.TooLong = "The game would run nothing of it.";

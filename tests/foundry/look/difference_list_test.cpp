@@ -14,7 +14,7 @@ TEST(DifferenceList, SelectsTheFirstRowThatDiffers) {
 
 TEST(DifferenceList, GoesFromChangeToChangeAndRound) {
     DifferenceList list;
-    list.Compare("a\nb\nc\nd\n", "x\ny\nc\nd\ne\n");
+    list.Compare("fov 90\nr_b 1\nc\nd\n", "fov 95\nr_b 2\nc\nd\ne\n");
     EXPECT_EQ(list.ListIndex, 0);
     SelectNextChange(list);
     EXPECT_EQ(list.ListIndex, 4);
@@ -33,12 +33,12 @@ TEST(DifferenceList, OfEqualTextsSelectsNothing) {
 TEST(DifferenceList, KeepsItsTexts) {
     DifferenceList list;
     {
-        const Text left = "short";
-        const Text right = "shirt";
+        const Text left = "say short";
+        const Text right = "say shirt";
         list.Compare(left, right);
     }
-    EXPECT_EQ(list.Rows().at(0).Left, "short");
-    EXPECT_EQ(list.Rows().at(0).Right, "shirt");
+    EXPECT_EQ(list.Rows().at(0).Left, "say short");
+    EXPECT_EQ(list.Rows().at(0).Right, "say shirt");
 }
 
 TEST(DifferenceList, CountsWhatWasShown) {
