@@ -7,6 +7,7 @@ namespace lv {
 namespace {
 
 constexpr unsigned char kBlank = ' ';
+constexpr TextView kComment = "//";
 constexpr unsigned char kFirstHighByte = 0x80;
 
 bool BeginsWithComment(TextView text, std::size_t at) {
@@ -107,7 +108,8 @@ bool CommandReader::Next(ConsoleCommand& command) {
             continue;
         }
         const std::size_t comment = TakeWords(words, command);
-        if (comment < words.size()) {
+        const bool isEmpty = begin == lineBegin && command.Words.empty() && words.substr(comment) == kComment;
+        if (comment < words.size() && !isEmpty) {
             commentLine_ = line;
         }
         command.IsQuoteInComment = stretch.OddQuote && comment < words.size() && stretch.Quote > begin + comment;

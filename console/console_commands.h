@@ -18,7 +18,8 @@ struct ConsoleCommand {
     std::size_t Line = 0;           // from 1, where it begins
     std::size_t Column = 0;         // from 1
     std::size_t Length = 0;         // in bytes, as the console counts them against its longest line
-    bool IsBehindComment = false;   // a comment stands before it in its line, and has not kept it from being run
+    bool IsBehindComment = false;   // a comment stands before it in its line, and has not kept it from being run: one
+                                    // of words, not the empty one of a line that begins with "//;"
     bool HasOddQuote = false;       // one that does not close
     bool IsQuoteInComment = false;  // and it stands in a comment: it changes nothing but for who counts all quotes
 };

@@ -152,6 +152,15 @@ TEST(CommandReader, SaysWhatIsOddAboutACommand) {
     EXPECT_EQ(command.Length, 3U);
 }
 
+TEST(CommandReader, TakesTheEmptyCommentThatALineBeginsWithForNone) {
+    CommandReader reader("//; a; b // c; d\n  //;e\nf; //; g\n//x; h\n", RulesOf(Console::Quake));
+    Text behind;
+    for (ConsoleCommand command; reader.Next(command);) {
+        behind += Join(command.Words.front(), command.IsBehindComment ? "+ " : " ");
+    }
+    EXPECT_EQ(behind, "a b d+ e f g+ h+ ");
+}
+
 TEST(CommandReader, TellsAQuoteOfACommentFromOneOfTheCommand) {
     CommandReader reader("a \"b // c\nd // \"e\nf // \"g\"\n", RulesOf(Console::Quake));
     ConsoleCommand command;

@@ -81,6 +81,13 @@ TEST(CheckScript, FindsWhatACommentDoesNotKeepFromBeingRun) {
     EXPECT_EQ(Found("fov 90 // wide; quit\n", Console::EzQuake), "");
 }
 
+TEST(CheckScript, LeavesALineAloneThatSwitchesOnWhatFollows) {
+    EXPECT_EQ(Found("//; bind x \"say http://www.a.b/c; wait; say visit!\"\n  //;say \"my page is http://x.y/z\"\n"),
+              "");
+    EXPECT_EQ(Found("//; fov 90 // wide; quit\n"), "1 in comment") << "another comment of the same line";
+    EXPECT_EQ(Found("fov 90 //; quit\n"), "1 in comment");
+}
+
 TEST(CheckScript, FindsALastLineWithoutItsEnd) {
     EXPECT_EQ(Found("fov 90\nfov 100"), "2 open end");
     EXPECT_EQ(Found("fov 90\n// the end", Console::Quake2), "2 open end");
