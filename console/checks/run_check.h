@@ -14,7 +14,8 @@ namespace lv {
 std::vector<Finding> CheckRun(const StartRun& run, Console console);
 
 /// Each file of the run that lies in no archive, checked with the aliases of all of them, and with the settings that
-/// they make by "set", or that the game's own scripts and what it writes itself know; and CheckRun.
+/// they make by "set", or that the game's own scripts and what it writes itself know; and CheckRun. Scripts that are
+/// too long for the console are gone through as if it took them.
 std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& request);
 
 }  // namespace lv

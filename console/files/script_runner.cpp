@@ -211,7 +211,7 @@ void ScriptRunner::Enter(RunScript script, std::optional<FoundScript> found) {
             script.Fate = ScriptFate::Loop;
         } else if (script.Depth > kDeepestScript) {
             script.Fate = ScriptFate::TooDeep;
-        } else if (rules_.Buffer > 0 && found->Content.size() > rules_.Buffer) {
+        } else if (!request_.RunsLongOnes && rules_.Buffer > 0 && found->Content.size() > rules_.Buffer) {
             script.Fate = ScriptFate::TooLong;
         } else {
             bytes_ += found->Content.size();

@@ -19,6 +19,7 @@ struct StartRequest {
     PlayedGame Played;
     std::vector<Text> Commands{};      // of the command line, without their "+": "exec lv_666.qs"
     std::vector<GivenScript> Given{};  // texts in the place of files
+    bool RunsLongOnes = false;         // scripts that the console drops for their length too
 };
 
 enum class ScriptFate {

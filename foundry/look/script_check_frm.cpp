@@ -49,7 +49,9 @@ void ScriptCheck_Show_Cmd_Click(ScriptCheck_Frm& form) {
         return;
     }
     const Finding& finding = form.Findings[static_cast<std::size_t>(form.Findings_Lst.ListIndex)];
-    const StartRun start = RunStart(form.run.System.Disk, form.Request);
+    StartRequest request = form.Request;
+    request.RunsLongOnes = true;  // as the check does
+    const StartRun start = RunStart(form.run.System.Disk, request);
     const auto script = std::ranges::find_if(start.Scripts, [&](const RunScript& each) {
         return !each.Path.empty() && (SameText(each.Path, finding.File) || SameText(each.Name, finding.File) ||
                                       SameText(LastPathPart(each.Path), finding.File));

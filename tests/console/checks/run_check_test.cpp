@@ -69,6 +69,20 @@ TEST(CheckScriptsOf, TellsOfALineOnce) {
               "C:\\QUAKE\\id1\\my.cfg:2: The script gone.cfg is not there.\n");
 }
 
+TEST(CheckScriptsOf, GoesOnInAScriptThatIsTooLongForTheGame) {
+    CheckedDisk game;
+    game.Add("ID1\\autoexec.cfg", Join("bind h \"say open\nexec long.cfg\nexec missing.cfg\nmine\n", Text(9000, '\n'),
+                                       "alias mine wait\nexec missing.cfg\n"));
+    game.Add("ID1\\long.cfg", "exec far.cfg\n");
+    EXPECT_EQ(game.Report(),
+              "C:\\QUAKE\\id1\\autoexec.cfg:1: The script has 9086 bytes: Quake drops those of more than 8192 as a "
+              "whole.\n"
+              "C:\\QUAKE\\id1\\autoexec.cfg:1: A quote is not closed: all to the end of the line belongs to it.\n"
+              "C:\\QUAKE\\id1\\autoexec.cfg:3: The script missing.cfg is not there.\n"
+              "C:\\QUAKE\\id1\\autoexec.cfg:9006: The script missing.cfg is not there.\n"
+              "C:\\QUAKE\\id1\\long.cfg:1: The script far.cfg is not there.\n");
+}
+
 TEST(CheckScriptsOf, TellsTwoScriptsOfOneNameApart) {
     CheckedDisk game;
     game.Request.Played = {
