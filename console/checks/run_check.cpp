@@ -1,6 +1,7 @@
 #include "console/checks/run_check.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 namespace lv {
@@ -63,9 +64,39 @@ bool IsKnownBy(const SetThing& thing, const StartRun& run, const StartRequest& r
 void Arrange(std::vector<Finding>& findings) {
     std::ranges::stable_sort(findings, {}, [](const Finding& each) { return std::pair(each.File, each.Line); });
     std::unordered_set<Text> told;
-    std::erase_if(findings, [&](const Finding& each) { return !told.insert(FindingLine(each)).second; });
+    std::erase_if(findings, [&](const Finding& each) { return !told.insert(LowerCase(FindingLine(each))).second; });
     findings.resize(std::min(findings.size(), kMostFindings));
 }
+
+/// Which scripts "exec" would find, whoever calls it and when.
+class ThereScripts {
+  public:
+    /// `finder` outlives it.
+    ThereScripts(ScriptFinder& finder, const PlayedGame& played)
+        : finder_(finder),
+          patterns_(ExecRulesOf(played.Of).Patterns),
+          ownConfig_(FilesOfEngine(played.Engine).Config) {}
+
+    bool Has(TextView name) {
+        const auto [known, isNew] = known_.try_emplace(Text(name));
+        if (isNew) {
+            known->second = IsUnknown(name) || finder_.Find(name).has_value() ||
+                            (SameText(name, "config.cfg") && !ownConfig_.empty() && finder_.Find(ownConfig_));
+        }
+        return known->second;
+    }
+
+  private:
+    /// A pattern, or the name of a variable's making.
+    [[nodiscard]] bool IsUnknown(TextView name) const {
+        return (patterns_ && name.find_first_of("*?") != TextView::npos) || name.find('$') != TextView::npos;
+    }
+
+    ScriptFinder& finder_;
+    bool patterns_;
+    TextView ownConfig_;
+    std::unordered_map<Text, bool> known_;
+};
 
 /// Another of its name may lie in a directory that is searched ahead.
 std::optional<FoundScript> FindThat(ScriptFinder& finder, const RunScript& script, std::size_t levels) {
@@ -108,6 +139,7 @@ std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& start) {
     }
     const std::size_t levels = GameDirectories(request.Played).size();
     ScriptFinder finder(disk, run.Places, ExecRulesOf(console), request.Given);
+    ThereScripts there(finder, request.Played);
     std::vector<Finding> findings = CheckRun(run, console);
     std::unordered_set<Text> seen;
     for (const RunScript& script : run.Scripts) {
@@ -115,10 +147,14 @@ std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& start) {
             continue;
         }
         const auto found = FindThat(finder, script, levels);
-        if (found && !found->IsUnread) {
-            std::ranges::move(CheckScript({script.Path, found->Content, console, &names, {}}),
-                              std::back_inserter(findings));
+        if (!found || found->IsUnread) {
+            continue;
         }
+        CheckedScript checked{script.Path, found->Content, console, &names};
+        if (!IsRc(script)) {
+            checked.IsThere = [&there](TextView name) { return there.Has(name); };
+        }
+        std::ranges::move(CheckScript(checked), std::back_inserter(findings));
     }
     Arrange(findings);
     return findings;

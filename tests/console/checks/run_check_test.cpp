@@ -69,6 +69,32 @@ TEST(CheckScriptsOf, TellsOfALineOnce) {
               "C:\\QUAKE\\id1\\my.cfg:2: The script gone.cfg is not there.\n");
 }
 
+TEST(CheckScriptsOf, TellsOfScriptsThatKeysAndAliasesExecute) {
+    CheckedDisk game;
+    game.Add("ID1\\here.cfg", "wait\n");
+    game.Add("ID1\\autoexec.cfg",
+             "bind x \"exec nothere.cfg\"\nalias a \"wait; exec gone.cfg\"\nbind y \"exec HERE.cfg\"\n"
+             "alias b \"bind z exec; exec\"\n");
+    EXPECT_EQ(game.Report(),
+              "C:\\QUAKE\\id1\\autoexec.cfg:1: The script nothere.cfg is not there.\n"
+              "C:\\QUAKE\\id1\\autoexec.cfg:2: The script gone.cfg is not there.\n");
+    game.Request.Played.Of = Console::EzQuake;
+    EXPECT_EQ(game.Report(),
+              "C:\\QUAKE\\id1\\autoexec.cfg:1: The script nothere.cfg is not there.\n"
+              "C:\\QUAKE\\id1\\autoexec.cfg:2: The script gone.cfg is not there.\n");
+}
+
+TEST(CheckScriptsOf, TellsNothingOfScriptsWhoseNamesNobodyKnows) {
+    CheckedDisk game;
+    game.Request.Played.Of = Console::DarkPlaces;
+    game.Add("ID1\\autoexec.cfg", "bind x \"exec $mine.cfg\"\n");
+    EXPECT_EQ(game.Report(), "");
+    game.Add("ID1\\autoexec.cfg", "bind x \"exec mine*.cfg\"\n");
+    EXPECT_EQ(game.Report(), "") << "a pattern";
+    game.Request.Played.Of = Console::Quake;
+    EXPECT_EQ(game.Report(), "C:\\QUAKE\\id1\\autoexec.cfg:1: The script mine*.cfg is not there.\n");
+}
+
 TEST(CheckScriptsOf, GoesOnInAScriptThatIsTooLongForTheGame) {
     CheckedDisk game;
     game.Add("ID1\\autoexec.cfg", Join("bind h \"say open\nexec long.cfg\nexec missing.cfg\nmine\n", Text(9000, '\n'),
