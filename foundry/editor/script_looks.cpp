@@ -81,7 +81,7 @@ std::optional<SaveLook> LookAtSave(Fig_Frm& form) {
     const Text& known = document.FileText ? *document.FileText : look.File;
     const ScriptDocument unedited = ReadScratch(run, document.Dialect, document.CurrentScriptPath, known);
     look.Changed.InEditor = DifferingNames(ComposeScript(unedited, look.Date), look.Written, look.Its);
-    look.Changed.OnDisk = DifferingNames(known, look.File, look.Its);
+    look.Changed.OnDisk = RewrittenNames(known, look.File, look.Its);
     look.Report = ReportSave({look.File, look.Written}, look.Changed, document.Dialect, look.Its);
     const bool foreign =
         unedited.Foreign || ReadScratch(run, document.Dialect, document.CurrentScriptPath, look.File).Foreign;

@@ -25,6 +25,19 @@ bool IsOfThisProgram(const ScriptDifference& difference) {
                : difference.Identity.starts_with(kOwnSection);
 }
 
+std::vector<ScriptDifference> DifferencesOf(TextView before, TextView after, Console console) {
+    return before == after ? std::vector<ScriptDifference>()
+                           : CompareScripts(EffectsOf(before, console), EffectsOf(after, console));
+}
+
+EffectNames NamesOf(const std::vector<ScriptDifference>& differences) {
+    EffectNames names;
+    for (const ScriptDifference& each : differences) {
+        names.emplace(each.What, each.Identity);
+    }
+    return names;
+}
+
 Text TooLongWords(const ScriptEffects& file, const ScriptEffects& written) {
     if (file.TooLong || !written.TooLong) {
         return {};
@@ -41,14 +54,13 @@ Console ConsoleOfDialect(const ScriptDialect& dialect) {
 }
 
 EffectNames DifferingNames(TextView before, TextView after, Console console) {
-    EffectNames names;
-    if (before == after) {
-        return names;
-    }
-    for (const ScriptDifference& each : CompareScripts(EffectsOf(before, console), EffectsOf(after, console))) {
-        names.emplace(each.What, each.Identity);
-    }
-    return names;
+    return NamesOf(DifferencesOf(before, after, console));
+}
+
+EffectNames RewrittenNames(TextView before, TextView after, Console console) {
+    std::vector<ScriptDifference> differences = DifferencesOf(before, after, console);
+    std::erase_if(differences, [](const ScriptDifference& each) { return each.Kind == DifferenceKind::Moved; });
+    return NamesOf(differences);
 }
 
 SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const ScriptDialect& dialect,

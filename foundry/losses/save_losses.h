@@ -24,6 +24,10 @@ using EffectNames = std::set<std::pair<EffectKind, Text>>;
 /// What two texts set otherwise.
 EffectNames DifferingNames(TextView before, TextView after, Console console);
 
+/// What somebody has written otherwise: the same without the scripts that are run as before, and have other lines ahead
+/// of them alone.
+EffectNames RewrittenNames(TextView before, TextView after, Console console);
+
 /// Who has changed what. All else that differs between file and text-to-be has come from reading and writing.
 struct ChangedNames {
     EffectNames InEditor;  // between what a save would have written right after opening, and the text-to-be

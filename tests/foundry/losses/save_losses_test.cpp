@@ -249,7 +249,7 @@ TEST(ReportSave, TellsWhatSomebodyElseHasWrittenIntoTheFileMeanwhile) {
     Bind(document, KeyFromName("b"), "+right");
     const Text written = ComposeScript(document, kScriptDay);
     const ChangedNames changed{DifferingNames(known, written, Console::Quake),
-                               DifferingNames(known, file, Console::Quake)};
+                               RewrittenNames(known, file, Console::Quake)};
     const SaveReport report = ReportSave({file, written}, changed, kQuakeDialect, Console::Quake);
     Text rows;
     for (const SaveLoss& loss : report.Losses) {
@@ -262,6 +262,28 @@ TEST(ReportSave, TellsWhatSomebodyElseHasWrittenIntoTheFileMeanwhile) {
               "else: The key m gets \"+back\" and was \"say NEW\". The file was changed after Setup Foundry had read "
               "it.\n"
               "else: The alias fresh is lost: \"echo hi\". The file was changed after Setup Foundry had read it.\n");
+}
+
+TEST(ReportSave, LaysNothingOnSomebodyElseThatTheyHaveNotWritten) {
+    const Text known = WrittenOf(kQuakeDialect, "name P\nbind INS \"+jump\"\nexec missing.cfg");
+    const Text file = Join(known, "\r\nbind INS \"say NEW\"");
+    const Text written = ComposeScript(ReadScript(kQuakeDialect, known), kScriptDay);
+    const SaveReport report =
+        ReportSave({file, written}, {{}, RewrittenNames(known, file, Console::Quake)}, kQuakeDialect, Console::Quake);
+    EXPECT_EQ(
+        LossesOf(report),
+        "The key INS gets \"+jump\" and was \"say NEW\". (The file was changed after Setup Foundry had read it.)\n"
+        "\"exec missing.cfg\" runs in another place: what it sets and what the script sets override each other "
+        "the other way round. (Setup Foundry writes settings, aliases and bindings ahead of all other lines.)");
+}
+
+TEST(RewrittenNames, AreThoseOfTheLinesThatDiffer) {
+    const Text known = "bind a b\nexec x.cfg\n";
+    EXPECT_EQ(RewrittenNames(known, Join(known, "bind a c\n"), Console::Quake), (EffectNames{{EffectKind::Bind, "a"}}));
+    EXPECT_EQ(DifferingNames(known, Join(known, "bind a c\n"), Console::Quake),
+              (EffectNames{{EffectKind::Bind, "a"}, {EffectKind::Action, "exec x.cfg"}}));
+    EXPECT_EQ(RewrittenNames(known, "bind a b\n", Console::Quake), (EffectNames{{EffectKind::Action, "exec x.cfg"}}));
+    EXPECT_EQ(RewrittenNames(known, known, Console::Quake), EffectNames());
 }
 
 TEST(ReportSave, WarnsOfAScriptThatOutgrowsTheConsole) {
