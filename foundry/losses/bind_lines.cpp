@@ -56,8 +56,18 @@ BindLines::BindLines(const std::vector<TextView>& lines, const ScriptEffects& ef
         }
         const TextView key = TakeWord(rest);
         const Text command = Trim(TakeWord(rest));
-        last_[KeyIdentity(effects.Of, key)] = {command, i + 1, WordCount(lines[i], effects.Of)};
-        if (KeyFromName(LowerCase(key)) == kNoKey || SlotFromCommand(LowerCase(command), dialect.GameKind).Known) {
+        const Text identity = KeyIdentity(effects.Of, key);
+        const KeyBindLine line{Text(key), command, i + 1, WordCount(lines[i], effects.Of)};
+        last_[identity] = line;
+        const Text written = WrittenKeyName(key, dialect);
+        if (written.empty()) {
+            continue;
+        }
+        const Text writtenIdentity = KeyIdentity(effects.Of, written);
+        if (writtenIdentity != identity && IsKeyName(effects.Of, key)) {
+            others_[writtenIdentity] = line;
+        }
+        if (SlotFromCommand(LowerCase(command), dialect.GameKind).Known) {
             continue;
         }
         const SlotBlock block = BlockOf(command, effects);
@@ -72,9 +82,18 @@ const KeyBindLine* BindLines::LastOf(const Text& key) const {
     return found == last_.end() ? nullptr : &found->second;
 }
 
+const KeyBindLine* BindLines::OtherOf(const Text& key) const {
+    const auto found = others_.find(key);
+    return found == others_.end() ? nullptr : &found->second;
+}
+
 std::optional<SlotNumber> BindLines::FullBlockOf(const Text& command) const {
     const auto found = dropped_.find(command);
     return found == dropped_.end() ? std::nullopt : std::optional(found->second);
+}
+
+Text WrittenKeyName(TextView key, const ScriptDialect& dialect) {
+    return Text(KeyName(KeyFromName(LowerCase(key)), StyleOfFamily(dialect.ScriptFamily)).Name);
 }
 
 std::size_t WordCount(TextView source, Console console) {

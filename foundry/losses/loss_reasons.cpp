@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "console/console_commands.h"
+#include "console/key_names.h"
 #include "console/text_difference.h"
 #include "foundation/field_strings.h"
 #include "foundry/reading/script_keywords.h"
@@ -19,6 +20,7 @@ constexpr std::size_t kMostEmptyLines = 100;  // in a row
 constexpr TextView kGeneral = "Setup Foundry reads and writes this in its own way.";
 constexpr TextView kEndsAtComment = "Setup Foundry ends a line at //, in quotes too.";
 constexpr TextView kHardBlank = "\xA0";
+constexpr TextView kSmallLetter = "Setup Foundry makes a small letter of the key's capital one.";
 
 Text Quoted(TextView text) {
     return Join(DoubleQuote, text, DoubleQuote);
@@ -45,6 +47,10 @@ std::size_t SecondHead(const std::vector<TextView>& lines) {
         }
     }
     return 0;
+}
+
+Text OneKeyWords(TextView written, TextView other) {
+    return Join("Setup Foundry has one key for ", written, " and ", other, ", and writes ", written, ".");
 }
 
 /// A letter, which is another key than its small one.
@@ -91,17 +97,17 @@ TextView WordOf(TextView& rest) {
 
 }  // namespace
 
-LossReasons::LossReasons(TextView file, const ScriptEffects& fileEffects, const ScriptEffects& written,
-                         const ScriptDialect& dialect)
-    : fileEffects_(fileEffects),
-      written_(written),
+LossReasons::LossReasons(const ComparedScript& file, const ComparedScript& written, const ScriptDialect& dialect)
+    : fileEffects_(file.Effects),
+      written_(written.Effects),
       dialect_(dialect),
-      lines_(LinesOf(file)),
-      binds_(lines_, fileEffects, dialect),
+      lines_(LinesOf(file.Content)),
+      binds_(lines_, fileEffects_, dialect),
+      writtenLines_(written.Content, written_.Of),
       secondHead_(SecondHead(lines_)),
       endOfReading_(EndOfReading(lines_)),
-      always_(EffectsOf(ComposeScript(MakeScriptDocument(dialect), {}), fileEffects.Of)),
-      aliasesDefinedAgain_(DefinedAgain(file, fileEffects.Of)) {
+      always_(EffectsOf(ComposeScript(MakeScriptDocument(dialect), {}), fileEffects_.Of)),
+      aliasesDefinedAgain_(DefinedAgain(file.Content, fileEffects_.Of)) {
     ReadCutCommands();
 }
 
@@ -135,10 +141,15 @@ bool LossReasons::IsAlwaysWritten(const ScriptDifference& difference) const {
     }
 }
 
-/// Whether the script has bound the key of the same letter, but capital, and not this one.
-bool LossReasons::IsCapitalsKey(const ScriptDifference& difference) const {
-    return difference.What == EffectKind::Bind && difference.Identity.size() == 1 &&
-           LastBindOf(difference) == nullptr && binds_.LastOf(UpperCase(difference.Identity)) != nullptr;
+/// Why the key gets what the script gives to another one. Empty if it does not.
+Text LossReasons::ReasonOfOtherKey(const ScriptDifference& difference) const {
+    const bool isKey = difference.What == EffectKind::Bind && fileEffects_.Of != Console::Unreal;
+    const KeyBindLine* const other = isKey ? binds_.OtherOf(difference.Identity) : nullptr;
+    const KeyBindLine* const own = LastBindOf(difference);
+    if (other == nullptr || (own != nullptr && own->Line > other->Line)) {
+        return {};
+    }
+    return IsCapital(other->Key) ? Text(kSmallLetter) : OneKeyWords(difference.Name, other->Key);
 }
 
 /// Why a game does not do what the editor does with the script's line for the key. Empty if it does.
@@ -162,8 +173,9 @@ Text LossReasons::ReasonOfFreed(const ScriptDifference& difference) const {
                     ", and Setup Foundry writes that elsewhere, or not at all.");
     }
     const KeyBindLine* const bind = LastBindOf(difference);
-    if (IsCapitalsKey(difference)) {
-        return "Setup Foundry makes a small letter of the key's capital one.";
+    Text ofOther = ReasonOfOtherKey(difference);
+    if (!ofOther.empty()) {
+        return ofOther;
     }
     if (bind == nullptr || bind->Line <= difference.Before.Line) {
         return Join("The script frees the key again by ", Quoted(difference.Before.Source),
@@ -182,19 +194,33 @@ Text LossReasons::ReasonOfLaterLine(const ScriptDifference& difference) const {
                : Text();
 }
 
+/// Of a command that the file has not got. Empty if nothing is known of it.
+Text LossReasons::ReasonOfWritten(const Effect& after) const {
+    if (std::ranges::count(after.Source, '"') % 2 != 0) {
+        const Text owner = writtenLines_.OwnerOfOddQuote(after.Line);
+        if (!owner.empty()) {
+            return Join("Setup Foundry writes a quote too many into the line of ", owner, ".");
+        }
+    }
+    return after.Kind == EffectKind::Action ? ReasonOfAction(after) : Text();
+}
+
 Text LossReasons::ReasonOfAdded(const ScriptDifference& difference) const {
     if (IsAlwaysWritten(difference)) {
         return "Setup Foundry writes it into each script.";
     }
-    Text reason = IsCapitalsKey(difference) ? Text("Setup Foundry makes a small letter of the key's capital one.")
-                                            : ReasonOfRefused(difference);
+    Text reason = ReasonOfOtherKey(difference);
+    if (reason.empty()) {
+        reason = ReasonOfRefused(difference);
+    }
     if (!reason.empty()) {
         return reason;
     }
     if (cutCommands_.contains(difference.After.Source)) {
         return Text(kEndsAtComment);
     }
-    return "Setup Foundry takes a line of the script for it, and the game does not.";
+    reason = ReasonOfWritten(difference.After);
+    return reason.empty() ? "Setup Foundry takes a line of the script for it, and the game does not." : reason;
 }
 
 Text LossReasons::ReasonOf(const ScriptDifference& difference) const {
@@ -210,7 +236,8 @@ Text LossReasons::ReasonOf(const ScriptDifference& difference) const {
         return reason;
     }
     if (difference.What == EffectKind::Bind) {
-        reason = ReasonOfKey(difference);
+        reason = IsSetAfter(difference) ? ReasonOfOtherKey(difference) : Text();
+        reason = reason.empty() ? ReasonOfKey(difference) : reason;
     }
     if (reason.empty()) {
         reason = ReasonOfLine(before);
@@ -311,9 +338,6 @@ Text LossReasons::ReasonOfKey(const ScriptDifference& difference) const {
         TextView rest = before.Source;
         return SameText(WordOf(rest), "bind") ? "Setup Foundry reads no binding without a command." : "";
     }
-    if (!isIni && IsCapital(before.Name)) {
-        return "Setup Foundry makes a small letter of the key's capital one.";
-    }
     const KeyIndex key = KeyFromName(LowerCase(before.Name));
     if (isIni && IsAxis(before.Name)) {
         return "Setup Foundry does not end the line of an axis that has no speed: what follows stands on it.";
@@ -331,6 +355,10 @@ Text LossReasons::ReasonOfKey(const ScriptDifference& difference) const {
     if (!isIni && !IsWrittenKey(key, dialect_.ScriptFamily)) {
         return "Setup Foundry writes no keys of the keypad for this game.";
     }
+    const Text written = isIni ? Text() : WrittenKeyName(before.Name, dialect_);
+    if (!isIni && KeyIdentity(fileEffects_.Of, written) != difference.Identity) {
+        return IsCapital(before.Name) ? Text(kSmallLetter) : OneKeyWords(written, before.Name);
+    }
     if (before.Name == "\\" && RulesOf(fileEffects_.Of).Escapes) {
         return "Setup Foundry writes the key in quotes, and there the \\ belongs to the quote behind it.";
     }
@@ -340,23 +368,42 @@ Text LossReasons::ReasonOfKey(const ScriptDifference& difference) const {
     return {};
 }
 
+/// What runs behind the written binding of the key, and overrides it.
+Text LossReasons::ReasonOfLaterCommand(const ScriptDifference& difference) const {
+    const Effect& after = difference.After;
+    const bool isOfAll = after.Line == 0 && written_.UnbindsAll;
+    const Effect& later = isOfAll ? written_.Unbindall : after;
+    const bool overrides = later.Line > 0 && (!later.IsOwn || !later.IsSet || isOfAll);
+    return overrides && writtenLines_.BindsAhead(difference.Identity, later.Line)
+               ? Join(Quoted(later.Source), " is written behind the bindings, and runs behind them.")
+               : Text();
+}
+
+/// The same of an alias.
+Text LossReasons::ReasonOfLaterUnalias(const ScriptDifference& difference) const {
+    const Effect& after = difference.After;
+    const bool isOfAll = after.Line == 0 && written_.UnaliasesAll;
+    const Effect& later = isOfAll ? written_.Unaliasall : after;
+    const bool overrides = later.Line > 0 && (!later.IsSet || isOfAll);
+    return overrides && writtenLines_.DefinesAhead(difference.Identity, later.Line)
+               ? Join(Quoted(later.Source), " is written behind the aliases, and runs behind them.")
+               : Text();
+}
+
 Text LossReasons::ReasonOfCommand(const ScriptDifference& difference) const {
     const Effect& before = difference.Before;
     const Effect& after = difference.After;
     if (!before.IsSet) {
         return {};
     }
-    if (after.Line > 0 && (!after.IsOwn || !after.IsSet)) {
-        return Join(Quoted(after.Source), " is written behind the bindings, and runs behind them.");
+    const Text later = ReasonOfLaterCommand(difference);
+    if (!later.empty()) {
+        return later;
     }
     const Text command = Trim(before.Value);
     const SlotMatch match = SlotFromCommand(LowerCase(command), dialect_.GameKind);
     if (match.Known && after.IsSet && after.Line > 0) {
         return Join("Setup Foundry writes its own command for this function: ", Quoted(after.Value), ".");
-    }
-    const bool isOfOthers = match.Known && match.Slot == kNoSlot;
-    if (!isOfOthers && !IsSetAfter(difference) && written_.UnbindsAll) {
-        return Join(Quoted(written_.Unbindall.Source), " is written behind the bindings, and runs behind them.");
     }
     if (match.Known) {
         return Join("To Setup Foundry ", Quoted(command), " is a command of another game.");
@@ -369,12 +416,9 @@ Text LossReasons::ReasonOfCommand(const ScriptDifference& difference) const {
 
 Text LossReasons::ReasonOfAlias(const ScriptDifference& difference) const {
     const Effect& before = difference.Before;
-    const Effect& after = difference.After;
-    if (before.IsSet && after.Line > 0 && !after.IsSet) {
-        return Join(Quoted(after.Source), " is written behind the aliases, and runs behind them.");
-    }
-    if (before.IsSet && after.Line == 0 && written_.UnaliasesAll) {
-        return Join(Quoted(written_.Unaliasall.Source), " is written behind the aliases, and runs behind them.");
+    Text later = before.IsSet ? ReasonOfLaterUnalias(difference) : Text();
+    if (!later.empty()) {
+        return later;
     }
     if (before.IsSet && Trim(before.Value).empty()) {
         return "Setup Foundry keeps no alias without commands.";

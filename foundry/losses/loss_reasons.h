@@ -10,14 +10,19 @@
 #include "console/script_comparison.h"
 #include "foundry/document/script_document.h"
 #include "foundry/losses/bind_lines.h"
+#include "foundry/losses/written_lines.h"
 
 namespace lv {
+
+struct ComparedScript {
+    TextView Content;
+    const ScriptEffects& Effects;
+};
 
 class LossReasons {
   public:
     /// All outlive it.
-    LossReasons(TextView file, const ScriptEffects& fileEffects, const ScriptEffects& written,
-                const ScriptDialect& dialect);
+    LossReasons(const ComparedScript& file, const ComparedScript& written, const ScriptDialect& dialect);
 
     /// A sentence; a general one where no rule is known to be the reason.
     [[nodiscard]] Text ReasonOf(const ScriptDifference& difference) const;
@@ -25,9 +30,10 @@ class LossReasons {
   private:
     void ReadCutCommands();
     [[nodiscard]] const KeyBindLine* LastBindOf(const ScriptDifference& difference) const;
-    [[nodiscard]] bool IsCapitalsKey(const ScriptDifference& difference) const;
+    [[nodiscard]] Text ReasonOfOtherKey(const ScriptDifference& difference) const;
     [[nodiscard]] bool IsAlwaysWritten(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfAdded(const ScriptDifference& difference) const;
+    [[nodiscard]] Text ReasonOfWritten(const Effect& after) const;
     [[nodiscard]] Text ReasonOfFreed(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfLaterLine(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfRefused(const ScriptDifference& difference) const;
@@ -36,6 +42,8 @@ class LossReasons {
     [[nodiscard]] Text ReasonOfQuotes(const Effect& before) const;
     [[nodiscard]] Text ReasonOfSection(const Effect& before) const;
     [[nodiscard]] Text ReasonOfKey(const ScriptDifference& difference) const;
+    [[nodiscard]] Text ReasonOfLaterCommand(const ScriptDifference& difference) const;
+    [[nodiscard]] Text ReasonOfLaterUnalias(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfKind(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfCommand(const ScriptDifference& difference) const;
     [[nodiscard]] Text ReasonOfAlias(const ScriptDifference& difference) const;
@@ -48,6 +56,7 @@ class LossReasons {
     const ScriptDialect& dialect_;
     std::vector<TextView> lines_;
     BindLines binds_;
+    WrittenLines writtenLines_;
     std::size_t secondHead_ = 0;                    // the second line that begins with "["; 0: none
     std::size_t endOfReading_ = 0;                  // the line where a hundred empty ones end it; 0: none
     ScriptEffects always_;                          // of what is written into each script

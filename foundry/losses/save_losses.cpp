@@ -67,7 +67,7 @@ SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const
                       Console console) {
     const ScriptEffects file = EffectsOf(texts.File, console);
     const ScriptEffects written = EffectsOf(texts.Written, console);
-    const LossReasons reasons(texts.File, file, written, dialect);
+    const LossReasons reasons({texts.File, file}, {texts.Written, written}, dialect);
     SaveReport report;
     report.TooLong = TooLongWords(file, written);
     report.IsOfNothing = file.Binds.All().empty() && file.Aliases.All().empty() && file.Settings.All().empty() &&

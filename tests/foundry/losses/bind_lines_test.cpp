@@ -33,6 +33,25 @@ TEST(BindLines, TellOfALineThatTheGameDrops) {
     EXPECT_EQ(binds.LastOf("x")->Words, 0U);
 }
 
+TEST(BindLines, TellOfAnotherKeyThatIsWrittenAsThisOne) {
+    const BindLines binds = LinesOfScript("bind ` a\nbind ~ b\nbind A c\nbind up d\nbind f1 e");
+    ASSERT_NE(binds.OtherOf("`"), nullptr);
+    EXPECT_EQ(binds.OtherOf("`")->Key, "~");
+    EXPECT_EQ(binds.OtherOf("`")->Line, 2U);
+    ASSERT_NE(binds.OtherOf("a"), nullptr);
+    EXPECT_EQ(binds.OtherOf("a")->Key, "A");
+    EXPECT_EQ(binds.OtherOf("UPARROW"), nullptr) << "the game has no key of that name";
+    EXPECT_EQ(binds.OtherOf("F1"), nullptr);
+    EXPECT_EQ(LinesOfScript("bind A c", Console::DarkPlaces).OtherOf("a"), nullptr) << "they are one key there";
+}
+
+TEST(WrittenKeyName, IsThatOfTheScriptsStyle) {
+    EXPECT_EQ(WrittenKeyName("~", kQuakeDialect), "`");
+    EXPECT_EQ(WrittenKeyName("KP_PLUS", kQuakeDialect), "+");
+    EXPECT_EQ(WrittenKeyName("+", kQuake2Dialect), "kp_plus");
+    EXPECT_EQ(WrittenKeyName("ESCAPE", kQuakeDialect), "");
+}
+
 TEST(BindLines, TellWhichBlockHadNoRoom) {
     Text script;
     for (int i = 0; i < 13 + 24 + 1; ++i) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "foundation/field_strings.h"
 #include "tests/foundry/losses/careless_scripts.h"
 #include "tests/foundry/losses/freeing_scripts.h"
 #include "tests/foundry/losses/save_rounds.h"
@@ -116,6 +117,36 @@ TEST(LossReasons, AreThoseOfTheTablesAndRules) {
     for (const ReasonCase& each : kCases) {
         EXPECT_EQ(LossesOf(each.Dialect, each.File), each.Losses) << each.About;
     }
+}
+
+TEST(LossReasons, BlameWhatRunsBehindABindingWhereThatIsWrittenAlone) {
+    const Text oneKey = " (Setup Foundry has one key for ` and ~, and writes `.)";
+    const ReasonCase cases[] = {
+        {"one key for two", kQuakeDialect, "name P\nunbindall\nbind ` \"toggleconsole\"\nbind ~ \"toggleconsole\"",
+         Join("The key ~ loses \"toggleconsole\".", oneKey)},
+        {"the other one alone", kQuakeDialect, "name P\nunbindall\nbind ~ \"toggleconsole\"",
+         Join("The key ~ loses \"toggleconsole\".", oneKey, "\nThe key ` gets \"toggleconsole\" and was free.",
+              oneKey)},
+        {"the later one wins", kQuakeDialect, "name P\nbind ` \"toggleconsole\"\nbind ~ \"impulse 99\"",
+         Join("The key ` gets \"impulse 99\" and was \"toggleconsole\".", oneKey, "\nThe key ~ loses \"impulse 99\".",
+              oneKey)},
+    };
+    for (const ReasonCase& each : cases) {
+        EXPECT_EQ(LossesOf(each.Dialect, each.File), each.Losses) << each.About;
+    }
+    EXPECT_TRUE(Holds(LossesOf(kQuakeDialect, Join("name P\necho a; unbindall\n", ManyBinds(25))),
+                      "The key y loses \"toggle r_24\". (Setup Foundry has room for 24 other commands, and the script "
+                      "has more.)"));
+}
+
+TEST(LossReasons, BlameWhatRemovesAnAliasWhereThatIsWrittenAlone) {
+    EXPECT_EQ(LossesOf(ReportOf(kQuakeDialect, "name P\nunaliasall\nalias zoom \"fov 30\"", Console::EzQuake)),
+              "The alias zoom is lost: \"fov 30\". (\"unaliasall\" is written behind the aliases, and runs behind "
+              "them.)");
+    EXPECT_EQ(LossesOf(ReportOf(kQuakeDialect, "name P\nunaliasall\nalias zoom \"\"", Console::EzQuake)),
+              "The alias zoom is lost: \"\". (Setup Foundry keeps no alias without commands.)");
+    EXPECT_EQ(LossesOf(ReportOf(kQuakeDialect, "name P\nunalias zoom\nalias zoom \"\"", Console::DarkPlaces)),
+              "The alias zoom is lost: \"\". (Setup Foundry keeps no alias without commands.)");
 }
 
 TEST(LossReasons, SayWhyACommandOfManyFindsNoSlot) {
