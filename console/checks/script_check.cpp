@@ -142,7 +142,7 @@ void Check::CheckMeaning(const Words& words, std::size_t line, int depth) {
         std::ranges::find_if(kOwnCommands, [&](const OwnCommand& each) { return SameText(each.Word, first); });
     if (own != std::end(kOwnCommands) && (rules_.Has & own->Bit) == 0 && graph_.FindAlias(first) == nullptr) {
         Add(FindingKind::MissingCommand, line, first);
-    } else if (!IsKnown(first) && toldWords_.insert(LowerCase(first)).second) {
+    } else if (!first.empty() && !IsKnown(first) && toldWords_.insert(LowerCase(first)).second) {
         Add(FindingKind::UnknownWord, line, first);
     }
     if (SameText(first, "exec")) {

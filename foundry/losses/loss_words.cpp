@@ -1,5 +1,7 @@
 #include "foundry/losses/loss_words.h"
 
+#include "foundation/field_strings.h"
+
 namespace lv {
 
 namespace {
@@ -50,6 +52,11 @@ Text AddedWords(const ScriptDifference& difference) {
                : Join(name, " is ", NothingOf(difference.What), ", and the file leaves it alone.");
 }
 
+/// A command of quotes alone is a word without letters.
+Text ActionName(const Effect& action) {
+    return TrimmedView(action.Value).empty() ? Text("An empty command") : Quoted(action.Value);
+}
+
 Text ActionWords(const ScriptDifference& difference) {
     switch (difference.Kind) {
         case DifferenceKind::Moved:
@@ -57,9 +64,9 @@ Text ActionWords(const ScriptDifference& difference) {
                         " runs in another place: what it sets and what the script sets "
                         "override each other the other way round.");
         case DifferenceKind::Added:
-            return Join(Quoted(difference.After.Value), " is run, and the file does not run it.");
+            return Join(ActionName(difference.After), " is run, and the file does not run it.");
         default:
-            return Join(Quoted(difference.Before.Value), " is lost.");
+            return Join(ActionName(difference.Before), " is lost.");
     }
 }
 

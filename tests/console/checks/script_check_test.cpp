@@ -115,6 +115,7 @@ TEST(CheckScript, FindsWordsThatNobodyKnows) {
     EXPECT_EQ(Found("alias froob wait\nfroob\nalias x \"alias fruub wait\"\nfruub\n"), "");
     const std::unordered_set<Text> names{"froob"};
     EXPECT_EQ(Listed(CheckScript({.File = "a", .Content = "Froob\n", .KnownNames = &names})), "");
+    EXPECT_EQ(Found("alias x \"wait\";\"\n"), "1 odd quote") << "the quote is no word";
 }
 
 TEST(CheckScript, FindsCommandsThatTheConsoleLacks) {

@@ -149,6 +149,19 @@ TEST(LossReasons, BlameWhatRemovesAnAliasWhereThatIsWrittenAlone) {
               "The alias zoom is lost: \"\". (Setup Foundry keeps no alias without commands.)");
 }
 
+TEST(LossReasons, NameTheLineThatIsWrittenWithAQuoteTooMany) {
+    const Text file = WrittenOf(kQuakeDialect, "name P");
+    const Text rest =
+        "An empty command is run, and the file does not run it. (Setup Foundry writes a quote too many "
+        "into the line of ";
+    EXPECT_TRUE(
+        Holds(AllChangesOf(kQuakeDialect, Join(file, "\r\nalias +hook \"impulse 97\"; alias -hook \"impulse 98\""),
+                           Console::Quake),
+              Join(rest, "the alias +hook.)")));
+    EXPECT_TRUE(Holds(AllChangesOf(kQuakeDialect, "_cl_name \"[TFx]Zykon\"; _cl_color 77", Console::Quake),
+                      Join(rest, "the setting name.)")));
+}
+
 TEST(LossReasons, SayWhyACommandOfManyFindsNoSlot) {
     // Each has had a slot, though its key is bound again.
     Text file = "name P\n";

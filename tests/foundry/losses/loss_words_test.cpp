@@ -44,6 +44,10 @@ TEST(LossWords, SayWhatBecomesOfASetting) {
 TEST(LossWords, SayWhatBecomesOfOtherCommands) {
     EXPECT_EQ(AllWords("echo a", ""), "\"echo a\" is lost.");
     EXPECT_EQ(AllWords("", "echo a"), "\"echo a\" is run, and the file does not run it.");
+    EXPECT_EQ(AllWords("", "alias x \"y\";\""),
+              "The alias x gets \"y\", and the file leaves it alone.\n"
+              "An empty command is run, and the file does not run it.");
+    EXPECT_EQ(AllWords("\"\"", ""), "An empty command is lost.");
     EXPECT_EQ(AllWords("exec a\nfov 90", "fov 90\nexec a"),
               "\"exec a\" runs in another place: what it sets and what the script sets override each other the other "
               "way round.");
