@@ -162,6 +162,13 @@ TEST(LossReasons, NameTheLineThatIsWrittenWithAQuoteTooMany) {
                       Join(rest, "the setting name.)")));
 }
 
+TEST(LossReasons, ListTheKeyThatAnEngineTakesForAnEscape) {
+    EXPECT_EQ(LossesOf(ReportOf(kQuakeDialect, "name P\nbind \\ \"+mlook\"", Console::DarkPlaces)),
+              "The key \\ loses \"+mlook\". (Setup Foundry writes the key in quotes, and there the \\ belongs to the "
+              "quote behind it.)");
+    EXPECT_EQ(LossesOf(ReportOf(kQuakeDialect, "name P\nbind \\ \"+mlook\"", Console::Quake)), "");
+}
+
 TEST(LossReasons, SayWhyACommandOfManyFindsNoSlot) {
     // Each has had a slot, though its key is bound again.
     Text file = "name P\n";
