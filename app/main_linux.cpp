@@ -5,6 +5,7 @@
 #include <poll.h>
 #include <sys/prctl.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <memory>
@@ -29,6 +30,7 @@
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_registry.h"
 #include "platform/linux/x11_desktop.h"
+#include "platform/toolkit/screen_access.h"
 
 namespace lv {
 
@@ -121,6 +123,19 @@ wxApp* MakeTellingApp(const std::string& told, int code) {
     return new TellingApp(std::make_unique<LinuxFiles>(OwnDrives()), told, code);
 }
 
+// A program that runs already has a screen, if another one than this one could reach.
+int EndWithoutScreen() {
+    LinuxInstance running(ConfigDirectory().string());
+    if (!running.Claim()) {
+        return 0;  // it has come forward
+    }
+    std::fputs(
+        "lorvane3d: There is no display for the window: neither DISPLAY nor WAYLAND_DISPLAY names one that can be\n"
+        "reached. Words such as --list and --launch work without one; \"lorvane3d --help\" shows them.\n",
+        stderr);
+    return 1;
+}
+
 }  // namespace
 
 }  // namespace lv
@@ -133,6 +148,9 @@ int main(int count, char** arguments) {
     const std::string word = count > 1 ? lv::FromUtf8Lossy(arguments[1]) : std::string();
     wxApp::SetInstance(count > 2 ? lv::MakeTellingApp(word, std::atoi(arguments[2]))
                                  : static_cast<wxApp*>(new lv::LinuxApp(word)));
+    if (!lv::HasScreen()) {
+        return count > 2 ? std::atoi(arguments[2]) : lv::EndWithoutScreen();
+    }
     int itself = 1;  // what is offered is no word of the toolkit's
     return wxEntry(itself, arguments);
 }

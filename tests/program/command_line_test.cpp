@@ -14,12 +14,13 @@ struct Said {
     std::string Text;  // both streams
 };
 
-/// The program with words, without a display, in that home.
-Said Say(const ProgramHome& home, const std::string& words) {
+/// The program with words, without a display unless `display` is one, in that home.
+Said Say(const ProgramHome& home, const std::string& words, const std::string& display = "") {
     const std::string said = (home.Root / "said.txt").string();
     const std::string program = TestBinaryDir() + "/lorvane3d";
     OwnProcess run(home, {"/bin/sh", "-c",
-                          "unset DISPLAY WAYLAND_DISPLAY; exec '" + program + "' " + words + " >'" + said + "' 2>&1"});
+                          "unset DISPLAY WAYLAND_DISPLAY; " + display + " exec '" + program + "' " + words + " >'" +
+                              said + "' 2>&1"});
     const auto code = run.WaitForEnd();
     return {code ? *code : -1, ReadBytes(said)};
 }
@@ -37,6 +38,35 @@ TEST(CommandLine, WorksWithoutADisplay) {
     const Said wrong = Say(home, "--lanch Quake");
     EXPECT_EQ(wrong.Code, 2);
     EXPECT_NE(wrong.Text.find("Did you mean \"--launch\"?"), std::string::npos) << wrong.Text;
+}
+
+TEST(CommandLine, WithoutADisplayTheWindowEndsWithASentence) {
+    ProgramHome home("words_no_display");
+    home.Prepare();
+    for (const std::string words : {"", "''", "--", "-- Quake", "/h"}) {
+        const Said said = Say(home, words);
+        EXPECT_EQ(said.Code, 1) << words;
+        EXPECT_TRUE(said.Text.starts_with("lorvane3d: There is no display for the window")) << said.Text;
+        EXPECT_NE(said.Text.find("--launch work without one"), std::string::npos) << said.Text;
+        EXPECT_EQ(said.Text.find("Gtk"), std::string::npos) << said.Text;
+    }
+    EXPECT_EQ(Say(home, "", "DISPLAY=:9876").Code, 1);
+    EXPECT_EQ(Say(home, "", "WAYLAND_DISPLAY=nowhere").Code, 1);
+}
+
+TEST(CommandLine, WithoutADisplayARunningWindowComesForward) {
+    ProgramHome home("words_forward");
+    home.Prepare();
+    ProgramRun running(home);
+    const std::string window = running.WaitForWindow();
+    for (const std::string words : {"", "''", "--"}) {
+        OutputOf({"xdotool", "windowminimize", window});
+        ASSERT_TRUE(WaitUntil([&] { return StateOf(window) == "Iconic"; }));
+        const Said said = Say(home, words);
+        EXPECT_EQ(said.Code, 0) << said.Text;
+        EXPECT_EQ(said.Text, "");
+        EXPECT_TRUE(WaitUntil([&] { return StateOf(window) == "Normal"; })) << words;
+    }
 }
 
 TEST(CommandLine, LaunchesWithoutADisplayAndStoresNoPick) {
