@@ -66,16 +66,16 @@ Result<Text> Called(Launcher& launcher, const ChoiceRow& row, TextView name) {
 }
 
 /// False if there is nothing to go on with.
-bool PickSetup(Launcher& launcher, TextView name, std::vector<Missing>& missing) {
+bool PickSetup(Launcher& launcher, TextView name, std::vector<Text>& missing) {
     const SetupList setups = LoadSetups(launcher.run);
     const KeptSetup* const setup = setups.Named(name);
     if (setup == nullptr) {
-        missing.push_back({RowCalled(RowsOf(launcher, Listed::Setups), name, NameOfKind(Listed::Setups)).Fault.Text});
+        missing.push_back(RowCalled(RowsOf(launcher, Listed::Setups), name, NameOfKind(Listed::Setups)).Fault.Text);
         return false;
     }
     const bool hasProgram = PickExecutable(launcher, setup->What.ExecutablePath);
     for (Text& gone : ApplySetup(launcher, setup->What)) {
-        missing.push_back({std::move(gone), hasProgram ? WithoutIt::TheRestGoesOn : WithoutIt::NothingGoesOn});
+        missing.push_back(std::move(gone));
     }
     return hasProgram;
 }
@@ -92,8 +92,8 @@ void Clear(Launcher& launcher, Text& notes) {
 
 }  // namespace
 
-std::vector<Missing> Choose(Launcher& launcher, const Command& command, Text& notes) {
-    std::vector<Missing> missing;
+std::vector<Text> Choose(Launcher& launcher, const Command& command, Text& notes) {
+    std::vector<Text> missing;
     if (command.Setup && !PickSetup(launcher, *command.Setup, missing)) {
         return missing;
     }
@@ -103,24 +103,28 @@ std::vector<Missing> Choose(Launcher& launcher, const Command& command, Text& no
             continue;
         }
         const Result<Text> value = Called(launcher, row, *name);
-        const bool isMap = row.Kind == Listed::Maps;
         if (!value.Ok()) {
-            missing.push_back({value.Fault.Text, isMap ? WithoutIt::TheLaunchShowsIt : WithoutIt::NothingGoesOn});
+            missing.push_back(value.Fault.Text);
             if (row.Kind == Listed::Programs) {
                 return missing;  // the other lists would be another game's
             }
-            if (!isMap) {
-                continue;
-            }
-            launcher.Window.Map_Cbo.Items.push_back(*name);
+            continue;
         }
-        (void)row.Pick(launcher, value.Ok() ? value.Value : *name);
+        (void)row.Pick(launcher, value.Value);
         if (row.Ticks) {
             SetOption(launcher, *row.Ticks, 1);
         }
     }
     Clear(launcher, notes);
     return missing;
+}
+
+CommandResult NotCalledSo(const std::vector<Text>& missing) {
+    CommandResult result{.Code = exit_code::kNothingCalledSo};
+    for (const Text& each : missing) {
+        result.Err += Join(each, NewLine);
+    }
+    return result;
 }
 
 }  // namespace lv

@@ -12,21 +12,13 @@ namespace {
 
 constexpr int kLaunchButton = 0;
 
-CommandResult NotCalledSo(const std::vector<Missing>& missing) {
-    CommandResult result{.Code = exit_code::kNothingCalledSo};
-    for (const Missing& each : missing) {
-        result.Err += Join(each.Words, NewLine);
-    }
-    return result;
-}
-
 CommandResult Start(const Command& command, const CommandPlace& place) {
     UnseenLauncher unseen(place);
     if (const Text why = unseen.Load(); !why.empty()) {
         return {.Code = exit_code::kFailed, .Err = why};
     }
     Text notes;
-    const std::vector<Missing> missing = Choose(unseen.Its, command, notes);
+    const std::vector<Text> missing = Choose(unseen.Its, command, notes);
     if (!missing.empty()) {
         return NotCalledSo(missing);
     }
@@ -49,7 +41,9 @@ CommandResult LaunchOrRehearse(const Command& command, const CommandPlace& place
     if (!command.DryRun) {
         return Start(command, place);
     }
-    return RehearseLaunch(place, [&command](Launcher& unseen, Text& notes) { return Choose(unseen, command, notes); });
+    return RehearseLaunch(place, [&command](Launcher& unseen, Text& notes) {
+        return Lacking{.Refused = Choose(unseen, command, notes)};
+    });
 }
 
 }  // namespace lv

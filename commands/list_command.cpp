@@ -54,14 +54,11 @@ CommandResult ListOfGame(const Command& command, const CommandPlace& place) {
         return {.Code = exit_code::kFailed, .Err = why};
     }
     Text notes;
+    const std::vector<Text> missing = Choose(unseen.Its, command, notes);
+    if (!missing.empty()) {
+        return NotCalledSo(missing);
+    }
     CommandResult result;
-    for (const Missing& missing : Choose(unseen.Its, command, notes)) {
-        result.Code = exit_code::kNothingCalledSo;
-        result.Err += Join(missing.Words, NewLine);
-    }
-    if (result.Code != exit_code::kDone) {
-        return result;
-    }
     for (const NamedRow& row : RowsOf(unseen.Its, command.Kind)) {
         const bool hasMore = command.Kind == Listed::Scripts || !row.OtherName.empty();
         const Text& more = command.Kind == Listed::Scripts ? row.Value : row.OtherName;

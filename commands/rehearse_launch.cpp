@@ -1,9 +1,9 @@
 #include "commands/rehearse_launch.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "commands/dry_run/dry_run_report.h"
+#include "commands/launch_choice.h"
 #include "commands/unseen/unseen_launcher.h"
 #include "foundation/question_box.h"
 #include "launcher/setups/setup.h"
@@ -16,18 +16,10 @@ namespace {
 constexpr int kLaunchButton = 0;
 constexpr Index kCopy = 1;
 
-std::vector<Missing> PickAsIn(const Launcher& window, Launcher& unseen) {
-    std::vector<Missing> missing;
-    for (Text& gone : ApplySetup(unseen, SetupOf(window))) {
-        missing.push_back({std::move(gone), WithoutIt::TheRestGoesOn});
-    }
-    return missing;
-}
-
 void ShowDryRun(Launcher& window, const CommandPlace& place) {
     Run& run = window.run;
-    const CommandResult result =
-        RehearseLaunch(place, [&window](Launcher& unseen, Text&) { return PickAsIn(window, unseen); });
+    const CommandResult result = RehearseLaunch(
+        place, [&window](Launcher& unseen, Text&) { return Lacking{.Told = ApplySetup(unseen, SetupOf(window))}; });
     const Text text = result.Out.empty() ? result.Err : result.Out;
     if (AskUserFixedWidth(run, "Dry Run", text, "&Close,C&opy") != kCopy) {
         return;
@@ -48,14 +40,11 @@ CommandResult RehearseLaunch(const CommandPlace& place, const Choice& choose) {
         return {.Code = exit_code::kFailed, .Err = why};
     }
     Rehearsal rehearsal{disk, programs, registry, unseen.Its, {}, {}};
-    for (const Missing& each : choose(unseen.Its, rehearsal.Said)) {
-        if (each.How == WithoutIt::NothingGoesOn) {
-            return {.Code = exit_code::kNothingCalledSo, .Err = each.Words};
-        }
-        if (each.How == WithoutIt::TheRestGoesOn) {
-            rehearsal.Missing.push_back(each.Words);
-        }
+    Lacking lacking = choose(unseen.Its, rehearsal.Said);
+    if (!lacking.Refused.empty()) {
+        return NotCalledSo(lacking.Refused);
     }
+    rehearsal.Missing = std::move(lacking.Told);
     DoIt_Cmd_Click(unseen.Its, kLaunchButton);
     rehearsal.Said += unseen.User.Said();
     const DryRunReport report = ReportOf(rehearsal);

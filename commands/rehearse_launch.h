@@ -6,14 +6,20 @@
 #pragma once
 
 #include "commands/command_place.h"
-#include "commands/launch_choice.h"
+#include "launcher/launcher.h"
 
 namespace lv {
 
-/// Picks what is to be launched; its notes are for the user.
-using Choice = std::function<std::vector<Missing>(Launcher&, Text& notes)>;
+/// What there was nothing for, a sentence each.
+struct Lacking {
+    std::vector<Text> Refused{};  // with one of these the launch itself would not begin
+    std::vector<Text> Told{};     // the rest goes on
+};
 
-/// Out is the report. kFinds if something is missing, kNothingCalledSo if there is nothing to rehearse.
+/// Picks what is to be launched; its notes are for the user.
+using Choice = std::function<Lacking(Launcher&, Text& notes)>;
+
+/// Out is the report, and kFinds if something is missing. What refuses the launch refuses this, with the same words.
 CommandResult RehearseLaunch(const CommandPlace& place, const Choice& choose);
 
 /// Gives the main window its dry run.

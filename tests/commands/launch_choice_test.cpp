@@ -9,7 +9,7 @@ namespace {
 
 class LaunchChoice : public LauncherTest {
   protected:
-    std::vector<Missing> Say(const std::vector<Text>& words) {
+    std::vector<Text> Say(const std::vector<Text>& words) {
         const Result<Command> command = ReadCommand(words);
         EXPECT_TRUE(command.Ok()) << command.Fault.Text;
         return Choose(launcher, command.Value, notes);
@@ -48,18 +48,16 @@ TEST_F(LaunchChoice, AServerExcludesWhatTheWindowExcludes) {
 
 TEST_F(LaunchChoice, AnUnknownProgramEndsTheChoice) {
     Open();
-    const std::vector<Missing> missing = Say({"--launch", "Quack", "--map", "nowhere"});
-    ASSERT_EQ(missing.size(), 1U);
-    EXPECT_EQ(missing[0].How, WithoutIt::NothingGoesOn);
+    const std::vector<Text> missing = Say({"--launch", "Quack", "--map", "nowhere"});
+    EXPECT_EQ(missing, std::vector<Text>{"No program is called \"Quack\". Did you mean \"Quake\"?"});
 }
 
-TEST_F(LaunchChoice, AnUnknownMapCanStillBeAskedOfTheGame) {
+TEST_F(LaunchChoice, AllThatIsNotThereIsTold) {
     Open();
-    const std::vector<Missing> missing = Say({"--launch", "Quake", "--map", "DM7"});
-    ASSERT_EQ(missing.size(), 1U);
-    EXPECT_EQ(missing[0].How, WithoutIt::TheLaunchShowsIt);
-    EXPECT_EQ(window.Map_Cbo.Selected(), "DM7");
-    EXPECT_EQ(window.Box(Option::Map_Chk).Value, 1);
+    EXPECT_EQ(Say({"--launch", "Quake", "--map", "DM7", "--script", "gone.cfg"}),
+              (std::vector<Text>{"No script is called \"gone.cfg\".", "No map is called \"DM7\"."}));
+    EXPECT_EQ(window.Box(Option::Map_Chk).Value, 0);
+    EXPECT_EQ(window.Box(Option::Script_Chk).Value, 0);
 }
 
 TEST_F(LaunchChoice, ASetupIsPickedByItsName) {
@@ -76,9 +74,9 @@ TEST_F(LaunchChoice, ASetupIsPickedByItsName) {
     EXPECT_EQ(run.GameKind, Game::Quake);
     EXPECT_EQ(run.CurrentGameDir, "CTF");
     EXPECT_EQ(window.Map_Cbo.Selected(), "CTF1");
-    const std::vector<Missing> missing = Say({"--setup", "Dual"});
+    const std::vector<Text> missing = Say({"--setup", "Dual"});
     ASSERT_EQ(missing.size(), 1U);
-    EXPECT_EQ(missing[0].Words, "No setup is called \"Dual\". Did you mean \"Duel\"?");
+    EXPECT_EQ(missing[0], "No setup is called \"Dual\". Did you mean \"Duel\"?");
 }
 
 TEST_F(LaunchChoice, WhatASetupHasLostIsTold) {
@@ -90,14 +88,11 @@ TEST_F(LaunchChoice, WhatASetupHasLostIsTold) {
     duel.Name = "Duel";
     duel.Map = "GONE";
     ASSERT_TRUE(KeepSetup(run, setups, duel));
-    std::vector<Missing> missing = Say({"--setup", "Duel"});
-    ASSERT_EQ(missing.size(), 1U);
-    EXPECT_EQ(missing[0].How, WithoutIt::TheRestGoesOn);
+    EXPECT_EQ(Say({"--setup", "Duel"}), std::vector<Text>{"The map GONE is not there any more."});
     duel.ExecutablePath = "C:\\GONE.EXE";
     ASSERT_TRUE(KeepSetup(run, setups, duel));
-    missing = Say({"--setup", "Duel"});
-    ASSERT_EQ(missing.size(), 1U);
-    EXPECT_EQ(missing[0].How, WithoutIt::NothingGoesOn);
+    EXPECT_EQ(Say({"--setup", "Duel"}),
+              std::vector<Text>{"The program C:\\GONE.EXE is not in the list of games any more."});
 }
 
 TEST_F(LaunchChoice, TheWindowIsNotLeftAfterTheLaunch) {

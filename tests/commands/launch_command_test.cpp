@@ -169,12 +169,24 @@ TEST_F(LaunchCommand, ADryRunWritesAndStartsNothing) {
     }
 }
 
-TEST_F(LaunchCommand, ADryRunGoesOnWithAMapThatIsNotThereAndTellsIt) {
-    const CommandResult result = Do({"--launch", "Quake", "--map", "DM7", "--dry-run"});
-    EXPECT_EQ(result.Code, exit_code::kFinds);
-    EXPECT_TRUE(result.Out.find("The map \"DM7\" lies in no archive and no directory of the game.") != Text::npos)
-        << result.Out;
-    EXPECT_TRUE(result.Out.find("map dm7") != Text::npos);
+TEST_F(LaunchCommand, WhatStopsTheLaunchStopsTheDryRunWithTheSameWords) {
+    const std::vector<std::vector<Text>> all = {
+        {"--launch", "Quake", "--map", "DM7"},          {"--launch", "Quake", "--map", "e1m1;quit"},
+        {"--launch", "Quake", "--map", "+quit"},        {"--launch", "Quake", "--map", "a b"},
+        {"--launch", "Quake", "--map", Text(200, 'x')}, {"--launch", "Quake", "--script", "gone.cfg"},
+        {"--launch", "Quake", "--mod", "gone"},         {"--launch", "Quake", "--server", "x;quit"},
+        {"--launch", "Quake", "--profile", "gone"},     {"--setup", "gone"},
+    };
+    for (std::vector<Text> words : all) {
+        const CommandResult launch = Do(words);
+        words.emplace_back("--dry-run");
+        const CommandResult dry = Do(words);
+        EXPECT_EQ(launch.Code, exit_code::kNothingCalledSo) << dry.Err;
+        EXPECT_EQ(dry.Code, exit_code::kNothingCalledSo) << dry.Out;
+        EXPECT_EQ(dry.Err, launch.Err);
+        EXPECT_EQ(dry.Out, "");
+    }
+    EXPECT_TRUE(system.Programs.Started.empty());
 }
 
 TEST_F(LaunchCommand, ADryRunOfAnUnknownGameIsRefused) {
