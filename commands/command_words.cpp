@@ -223,6 +223,9 @@ class Reader {
         if (command_.Title && command_.Setup) {
             return Fault("--launch and --setup do not go together.");
         }
+        if (command_.Map && command_.Server) {
+            return Fault("--map and --server do not go together: a server says itself which map it plays.");
+        }
         for (const ValueRow& row : kValues) {
             const bool fits = command_.What == Verb::Launch || (command_.What == Verb::List && row.ForLists);
             if ((command_.*(row.Value)).has_value() && !fits) {

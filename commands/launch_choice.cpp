@@ -8,6 +8,7 @@
 #include "launcher/setups/row_picks.h"
 #include "launcher/setups/setup_store.h"
 #include "launcher/window/lv_events.h"
+#include "launcher/window/option_rules.h"
 
 namespace lv {
 
@@ -65,8 +66,26 @@ Result<Text> Called(Launcher& launcher, const ChoiceRow& row, TextView name) {
                                        : RowCalled(RowsOf(launcher, row.Kind), name, NameOfKind(row.Kind));
 }
 
+/// The setup without what the words behind it say anew, and without what that excludes: they are the later wish.
+Setup WithoutWhatIsSaidAnew(Setup setup, const Command& command) {
+    for (const ChoiceRow& row : kChoices) {
+        if (!(command.*(row.Name)) || !row.Ticks || *row.Ticks == Option::Game_Chk) {
+            continue;  // the modification also says which scripts and maps the setup's own are among
+        }
+        OptionSet aside = ExcludedBy(*row.Ticks);
+        aside.Set(*row.Ticks, true);
+        for (const OptionBox& option : OptionBoxes()) {
+            if (aside.Has(option.Box)) {
+                setup.Ticked.Set(option.Box, false);
+            }
+        }
+    }
+    return setup;
+}
+
 /// False if there is nothing to go on with.
-bool PickSetup(Launcher& launcher, TextView name, std::vector<Text>& missing) {
+bool PickSetup(Launcher& launcher, const Command& command, std::vector<Text>& missing) {
+    const Text& name = *command.Setup;
     const SetupList setups = LoadSetups(launcher.run);
     const KeptSetup* const setup = setups.Named(name);
     if (setup == nullptr) {
@@ -74,10 +93,21 @@ bool PickSetup(Launcher& launcher, TextView name, std::vector<Text>& missing) {
         return false;
     }
     const bool hasProgram = PickExecutable(launcher, setup->What.ExecutablePath);
-    for (Text& gone : ApplySetup(launcher, setup->What)) {
+    for (Text& gone : ApplySetup(launcher, WithoutWhatIsSaidAnew(setup->What, command))) {
         missing.push_back(std::move(gone));
     }
     return hasProgram;
+}
+
+/// A box that is ticked already may have come so from the store, beside what it excludes.
+void TickAlone(Launcher& launcher, Option box) {
+    SetOption(launcher, box, 1);
+    const OptionSet excluded = ExcludedBy(box);
+    for (const OptionBox& option : OptionBoxes()) {
+        if (excluded.Has(option.Box) && launcher.Window.Box(option.Box).Value == 1) {
+            SetOption(launcher, option.Box, 0);
+        }
+    }
 }
 
 void Clear(Launcher& launcher, Text& notes) {
@@ -94,7 +124,7 @@ void Clear(Launcher& launcher, Text& notes) {
 
 std::vector<Text> Choose(Launcher& launcher, const Command& command, Text& notes) {
     std::vector<Text> missing;
-    if (command.Setup && !PickSetup(launcher, *command.Setup, missing)) {
+    if (command.Setup && !PickSetup(launcher, command, missing)) {
         return missing;
     }
     for (const ChoiceRow& row : kChoices) {
@@ -112,7 +142,7 @@ std::vector<Text> Choose(Launcher& launcher, const Command& command, Text& notes
         }
         (void)row.Pick(launcher, value.Value);
         if (row.Ticks) {
-            SetOption(launcher, *row.Ticks, 1);
+            TickAlone(launcher, *row.Ticks);
         }
     }
     Clear(launcher, notes);

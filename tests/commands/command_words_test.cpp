@@ -52,9 +52,8 @@ TEST(CommandWords, AFileOrAnAddressOpensTheWindowWithIt) {
 }
 
 TEST(CommandWords, ALaunchTakesAllThatItsOptionsSay) {
-    const Result<Command> command =
-        ReadCommand({"--launch", "Quake", "--mod", "CTF", "--map=DM4", "--script", "night.cfg", "--server",
-                     "10.0.0.1:26000", "--profile", "Optimize for Speed", "--dry-run"});
+    const Result<Command> command = ReadCommand({"--launch", "Quake", "--mod", "CTF", "--map=DM4", "--script",
+                                                 "night.cfg", "--profile", "Optimize for Speed", "--dry-run"});
     ASSERT_TRUE(command.Ok()) << command.Fault.Text;
     EXPECT_EQ(command.Value.What, Verb::Launch);
     EXPECT_EQ(command.Value.Title, "Quake");
@@ -62,9 +61,14 @@ TEST(CommandWords, ALaunchTakesAllThatItsOptionsSay) {
     EXPECT_EQ(command.Value.Modification, "CTF");
     EXPECT_EQ(command.Value.Map, "DM4");
     EXPECT_EQ(command.Value.Script, "night.cfg");
-    EXPECT_EQ(command.Value.Server, "10.0.0.1:26000");
     EXPECT_EQ(command.Value.VideoProfile, "Optimize for Speed");
     EXPECT_TRUE(command.Value.DryRun);
+}
+
+TEST(CommandWords, ALaunchTakesAServer) {
+    const Result<Command> command = ReadCommand({"--server", "10.0.0.1:26000", "--launch", "Quake"});
+    ASSERT_TRUE(command.Ok()) << command.Fault.Text;
+    EXPECT_EQ(command.Value.Server, "10.0.0.1:26000");
 }
 
 TEST(CommandWords, ASetupIsALaunch) {
@@ -144,6 +148,10 @@ TEST(CommandWords, EachFaultSaysWhatIsWrongAndWhatMayBeMeant) {
         {{"--tell"}, "--tell goes with --launch or --setup."},
         {{"--tell=me", "--setup", "Evening"}, "--tell takes no value."},
         {{"--launch", "Quake", "--setup", "Evening"}, "--setup and --launch do not go together."},
+        {{"--launch", "Quake", "--map", "e1m1", "--server", "localhost"},
+         "--map and --server do not go together: a server says itself which map it plays."},
+        {{"--setup", "S", "--server", "1.2.3.4", "--map", "start"},
+         "--map and --server do not go together: a server says itself which map it plays."},
         {{"--export", "a", "--import", "b"}, "--import and --export do not go together."},
         {{"a.bsp", "b.bsp"}, "One file or address at a time, and \"b.bsp\" is one more."},
         {{"--l\x1B[2Jx"}, "There is no option \"--l?[2Jx\"."},

@@ -79,6 +79,63 @@ TEST_F(LaunchChoice, ASetupIsPickedByItsName) {
     EXPECT_EQ(missing[0], "No setup is called \"Dual\". Did you mean \"Duel\"?");
 }
 
+class ChoiceBesideASetup : public LaunchChoice {
+  protected:
+    /// The setup "Duel" of Quake with these boxes ticked, whatever the window would exclude.
+    void Keep(const std::vector<Option>& ticked, TextView map) {
+        Open();
+        Save(run, kOptions, "NetServers", "Club;club.example;27910;0;");
+        SetupList setups = LoadSetups(run);
+        ASSERT_TRUE(PickExecutable(launcher, "C:\\QUAKE\\GLQUAKE.EXE"));
+        lv::Setup duel = SetupOf(launcher);
+        duel.Name = "Duel";
+        for (const Option box : ticked) {
+            duel.Ticked.Set(box, true);
+        }
+        duel.Map = Text(map);
+        ASSERT_TRUE(KeepSetup(run, setups, duel));
+    }
+};
+
+TEST_F(ChoiceBesideASetup, AServerPutsTheSetupsMapAside) {
+    Keep({Option::Map_Chk}, "START");
+    EXPECT_TRUE(Say({"--setup", "Duel", "--server", "10.0.0.1:26000"}).empty());
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Map_Chk).Value, 0);
+}
+
+TEST_F(ChoiceBesideASetup, AMapPutsTheSetupsServerAside) {
+    Keep({Option::Server_Chk}, "START");
+    EXPECT_TRUE(Say({"--setup", "Duel", "--map", "start"}).empty());
+    EXPECT_EQ(window.Box(Option::Map_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 0);
+}
+
+TEST_F(ChoiceBesideASetup, TheWordWinsWhereTheSetupHasBoth) {
+    Keep({Option::Map_Chk, Option::Server_Chk}, "START");
+    EXPECT_TRUE(Say({"--setup", "Duel", "--map", "start"}).empty());
+    EXPECT_EQ(window.Box(Option::Map_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 0);
+    EXPECT_TRUE(Say({"--setup", "Duel", "--server", "10.0.0.1"}).empty());
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Map_Chk).Value, 0);
+}
+
+TEST_F(ChoiceBesideASetup, WhatIsPutAsideMayBeGone) {
+    Keep({Option::Map_Chk}, "GONE");
+    EXPECT_TRUE(Say({"--setup", "Duel", "--server", "10.0.0.1"}).empty());
+    EXPECT_TRUE(Say({"--setup", "Duel", "--map", "start"}).empty());
+    EXPECT_EQ(window.Map_Cbo.Selected(), "START");
+}
+
+TEST_F(LaunchChoice, ATickedBoxLosesWhatItExcludesToo) {
+    Open();
+    window.Box(Option::Server_Chk).Value = window.Box(Option::Map_Chk).Value = 1;
+    EXPECT_TRUE(Say({"--launch", "Quake", "--map", "start"}).empty());
+    EXPECT_EQ(window.Box(Option::Map_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Server_Chk).Value, 0);
+}
+
 TEST_F(LaunchChoice, WhatASetupHasLostIsTold) {
     Open();
     SetupList setups = LoadSetups(run);

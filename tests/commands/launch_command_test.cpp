@@ -40,9 +40,10 @@ TEST_F(LaunchCommand, StartsTheProgramOfThatTitle) {
 }
 
 TEST_F(LaunchCommand, StoresNothingButTheNumberOfLaunchesAndWhatWasPlayed) {
-    (void)Do({"--launch", "Quake", "--mod", "ctf", "--map", "CTF1", "--server", "10.0.0.1:26000"});
+    (void)Do({"--launch", "Quake", "--mod", "ctf", "--map", "CTF1"});
     EXPECT_EQ(WrittenSince(),
               (std::vector<Text>{"LV-Stuff|LaunchCount|1", "Played|c:\\quake\\glquake.exe|1999-11-21 12:30:00;0;1"}));
+    (void)Do({"--launch", "Quake", "--server", "10.0.0.1:26000"});
     EXPECT_EQ(Stored(kOptions, "UseServers"), "(none)");
 }
 
