@@ -16,11 +16,17 @@ constexpr std::int32_t kLastPort = 65535;
 
 constexpr TextView kSchemes[] = {"qw", "quake", "quake2"};
 
+/// Between two dots; behind the last one none is needed.
+bool HasEmptyLabel(TextView host) {
+    return host.starts_with('.') || Holds(host, "..");
+}
+
 bool IsHost(TextView host) {
-    return !host.empty() && host.size() <= kLongestHost && host.front() != '-' && std::ranges::all_of(host, [](char c) {
-        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' || c == '-' ||
-               c == '_';
-    });
+    const bool isName = !host.empty() && host.size() <= kLongestHost && host.front() != '-' && !HasEmptyLabel(host);
+    return isName && std::ranges::all_of(host, [](char c) {
+               return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '.' ||
+                      c == '-' || c == '_';
+           });
 }
 
 bool IsPort(TextView port) {

@@ -16,7 +16,7 @@ namespace {
 constexpr OptionWord kOptionWords[] = {
     {"--help", "", "Shows these words."},
     {"--version", "", "Shows the program's version."},
-    {"--list", "[KIND]", "Lists the games' programs, or of the picked game setups, mods, maps, scripts, servers or profiles."},
+    {"--list", "[KIND]", "Lists the games' programs, the setups, or of the picked game mods, maps, scripts, servers or profiles."},
     {"--launch", "TITLE", "Starts the program of that title, with what is ticked in the main window."},
     {"--setup", "NAME", "Starts the setup of that name."},
     {"--mod", "NAME", "Plays this modification, by its title or its directory."},
@@ -85,6 +85,18 @@ Error Fault(const Text& text) {
     return {error::kInvalidCall, text};
 }
 
+/// In any letter case.
+const OptionWord* OptionCalled(TextView word) {
+    const auto* option =
+        std::ranges::find_if(kOptionWords, [word](const OptionWord& each) { return SameText(each.Word, word); });
+    return option != std::end(kOptionWords) ? option : nullptr;
+}
+
+/// A list that no game has for itself.
+bool IsOfAllGames(Listed kind) {
+    return kind == Listed::Programs || kind == Listed::Setups;
+}
+
 TextView LongWord(TextView word) {
     const auto* row = std::ranges::find(kShortWords, word, &ShortWord::Word);
     return row != std::end(kShortWords) ? row->Long : word;
@@ -132,8 +144,8 @@ class Reader {
     Error ReadOption(const Text& word) {
         const std::size_t equals = word.find('=');
         const TextView name = LongWord(TextView(word).substr(0, equals));
-        const auto* option = std::ranges::find(kOptionWords, name, &OptionWord::Word);
-        if (option == std::end(kOptionWords)) {
+        const OptionWord* const option = OptionCalled(name);
+        if (option == nullptr) {
             return Unknown(TextView(word).substr(0, equals));
         }
         if (std::ranges::find(given_, option->Word) != given_.end()) {
@@ -160,8 +172,7 @@ class Reader {
     [[nodiscard]] bool TakesNext(const OptionWord& option) const {
         const TextView next = words_[at_];
         const TextView word = LongWord(next.substr(0, next.find('=')));
-        const bool isOption = std::ranges::find(kOptionWords, word, &OptionWord::Word) != std::end(kOptionWords);
-        return !isOption && (MustHaveValue(option) || !next.starts_with('-'));
+        return OptionCalled(word) == nullptr && (MustHaveValue(option) || !next.starts_with('-'));
     }
 
     Error Take(const OptionWord& option, const std::optional<Text>& value) {
@@ -175,7 +186,8 @@ class Reader {
             command_.Tell = true;
         }
         if (option.Word == "--list" && value) {
-            const auto* kind = std::ranges::find(kListWords, *value, &ListWord::Word);
+            const auto* kind =
+                std::ranges::find_if(kListWords, [&](const ListWord& each) { return SameText(each.Word, *value); });
             if (kind == std::end(kListWords)) {
                 return UnknownKind(*value);
             }
@@ -237,6 +249,20 @@ class Reader {
         }
         if (command_.Tell && command_.What != Verb::Launch) {
             return Fault("--tell goes with --launch or --setup.");
+        }
+        return CheckListOfAllGames();
+    }
+
+    /// Such a list is the same whatever is launched, so that a launch beside it was meant to be one.
+    [[nodiscard]] Error CheckListOfAllGames() const {
+        if (command_.What != Verb::List || !IsOfAllGames(command_.Kind)) {
+            return {};
+        }
+        for (const ValueRow& row : kValues) {
+            if ((command_.*(row.Value)).has_value()) {
+                return Fault(Join("--list and ", row.Word,
+                                  " do not go together, but for the lists of a game: --list maps, say."));
+            }
         }
         return {};
     }

@@ -1,5 +1,7 @@
 #include "commands/launch_choice.h"
 
+#include <algorithm>
+
 #include "catalogs/server_word.h"
 #include "catalogs/servers.h"
 #include "commands/listed_rows.h"
@@ -61,9 +63,32 @@ Result<Text> ServerCalled(Launcher& launcher, TextView name) {
     return record;
 }
 
+/// By its title, or by its path: on a drive, with "/" or "\\" between the parts, or as the host has it.
+Result<Text> ProgramCalled(Launcher& launcher, TextView name) {
+    const std::vector<NamedRow> rows = RowsOf(launcher, Listed::Programs);
+    Result<Text> listed = RowCalled(rows, name, NameOfKind(Listed::Programs));
+    if (listed.Ok() || listed.Fault.Number != error::kFileNotFound || name.find_first_of("/\\") == TextView::npos) {
+        return listed;
+    }
+    Files& disk = launcher.run.System.Disk;
+    const Text wanted = ReplaceSameLength(disk.FromTyped(name), "/", "\\");
+    const Text host = disk.ToHost(wanted);  // the same for each drive that the file is reached by
+    const auto row = std::ranges::find_if(rows, [&](const NamedRow& each) {
+        const Text path = ReplaceSameLength(each.Value, "/", "\\");
+        return SameText(path, wanted) || (!host.empty() && disk.ToHost(path) == host);
+    });
+    return row != rows.end() ? Result<Text>(row->Value) : listed;
+}
+
 Result<Text> Called(Launcher& launcher, const ChoiceRow& row, TextView name) {
-    return row.Kind == Listed::Servers ? ServerCalled(launcher, name)
-                                       : RowCalled(RowsOf(launcher, row.Kind), name, NameOfKind(row.Kind));
+    switch (row.Kind) {
+        case Listed::Programs:
+            return ProgramCalled(launcher, name);
+        case Listed::Servers:
+            return ServerCalled(launcher, name);
+        default:
+            return RowCalled(RowsOf(launcher, row.Kind), name, NameOfKind(row.Kind));
+    }
 }
 
 /// The setup without what the words behind it say anew, and without what that excludes: they are the later wish.

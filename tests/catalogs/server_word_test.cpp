@@ -22,6 +22,14 @@ TEST(ServerWord, NothingThatAScriptOrAShellWouldReadIsAnAddress) {
     EXPECT_FALSE(ReadServerAddress(Text(254, 'a')).Ok());
 }
 
+TEST(ServerWord, NoLabelOfAHostIsEmpty) {
+    for (const Text word : {".:1", ".", "..", "a..b:1", ".example.com", "example.com..:27500"}) {
+        EXPECT_FALSE(ReadServerAddress(word).Ok()) << word;
+        EXPECT_FALSE(ReadServerLink("qw://" + word).has_value()) << word;
+    }
+    EXPECT_TRUE(ReadServerAddress("example.com.:27500").Ok()) << "a name's last dot is its root";
+}
+
 TEST(ServerWord, LinksOfTheThreeKinds) {
     for (const Text scheme : {"qw", "quake", "quake2"}) {
         const auto link = ReadServerLink(scheme + "://host.example:27910/");

@@ -13,6 +13,16 @@ TEST(CloseName, AFewSlipsAreSeen) {
     EXPECT_EQ(CloseName("--mapp", names), "--map");
 }
 
+TEST(CloseName, TheOnlyNameThatBeginsSoIsMeantAheadOfOneThatIsCloser) {
+    const std::vector<Text> names = {"--help", "--list", "--launch", "--export", "--import"};
+    EXPECT_EQ(CloseName("--exp", names), "--export");
+    EXPECT_EQ(CloseName("--EX", names), "--export");
+    EXPECT_EQ(CloseName("--l", names), std::nullopt) << "two begin so";
+    EXPECT_EQ(CloseName("half", {"Halo", "Half-Life (Windows)"}), "Half-Life (Windows)");
+    EXPECT_EQ(CloseName("half", {"Half-Life (Windows)", "HALF-LIFE (Windows)"}), "Half-Life (Windows)");
+    EXPECT_EQ(CloseName("ha", {"Half-Life (Windows)"}), std::nullopt);
+}
+
 TEST(CloseName, AnotherWordIsNotClose) {
     EXPECT_EQ(CloseName("Unreal", {"Quake", "Half-Life"}), std::nullopt);
     EXPECT_EQ(CloseName("Quake", {}), std::nullopt);

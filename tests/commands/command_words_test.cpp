@@ -91,9 +91,19 @@ TEST(CommandWords, AListMayNameTheGameWhoseListsAreMeantInEitherOrder) {
 }
 
 TEST(CommandWords, AListWithoutItsKindIsOfPrograms) {
-    const Result<Command> command = ReadCommand({"--list", "--launch", "Quake"});
+    const Result<Command> command = ReadCommand({"--list"});
     ASSERT_TRUE(command.Ok()) << command.Fault.Text;
     EXPECT_EQ(command.Value.Kind, Listed::Programs);
+}
+
+TEST(CommandWords, LetterCaseHasNoMeaningInLongWords) {
+    const Result<Command> launch = ReadCommand({"--LAUNCH", "Quake", "--Map=DM4"});
+    ASSERT_TRUE(launch.Ok()) << launch.Fault.Text;
+    EXPECT_EQ(launch.Value.Title, "Quake");
+    EXPECT_EQ(launch.Value.Map, "DM4");
+    EXPECT_EQ(ReadCommand({"--List", "MAPS"}).Value.Kind, Listed::Maps);
+    EXPECT_FALSE(ReadCommand({"--launch", "--MAP", "DM4"}).Ok());
+    EXPECT_FALSE(ReadCommand({"-v"}).Ok()) << "-V is the version";
 }
 
 TEST(CommandWords, ShortWordsOfHelpAndVersion) {
@@ -132,6 +142,14 @@ struct Refused {
 
 TEST(CommandWords, EachFaultSaysWhatIsWrongAndWhatMayBeMeant) {
     const std::vector<Refused> refused = {
+        {{"--exp", "all.lv3d"}, "There is no option \"--exp\". Did you mean \"--export\"?"},
+        {{"--list", "--launch", "Quake"},
+         "--list and --launch do not go together, but for the lists of a game: --list maps, say."},
+        {{"--setup", "Duel", "--list", "programs"},
+         "--list and --setup do not go together, but for the lists of a game: --list maps, say."},
+        {{"--list", "setups", "--mod", "ctf"},
+         "--list and --mod do not go together, but for the lists of a game: --list maps, say."},
+        {{"--launch", "Quake", "--LAUNCH", "Quake"}, "--launch stands there twice."},
         {{"--lanch", "Quake"}, "There is no option \"--lanch\". Did you mean \"--launch\"?"},
         {{"--zzzzzzzz"}, "There is no option \"--zzzzzzzz\"."},
         {{"--list", "mapps"}, "There is no list of \"mapps\". Did you mean \"maps\"?"},

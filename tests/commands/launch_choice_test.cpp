@@ -38,6 +38,20 @@ TEST_F(LaunchChoice, TheProgramMayBeNamedByItsPath) {
     EXPECT_EQ(run.GameKind, Game::Quake2);
 }
 
+TEST_F(LaunchChoice, ThePathMayBeSpelledAsTheHostDoes) {
+    Open();
+    for (const Text path : {"c:/quake2/quake2.exe", "C:\\QUAKE2/QUAKE2.EXE"}) {
+        ASSERT_TRUE(PickExecutable(launcher, "C:\\QUAKE\\GLQUAKE.EXE"));
+        EXPECT_TRUE(Say({"--launch", path}).empty()) << path;
+        EXPECT_EQ(run.GameKind, Game::Quake2) << path;
+    }
+    system.Disk.AddFile("Z:\\srv\\q2\\QUAKE2.EXE");
+    window.Exe_Cbo.Items.push_back({"Far", "Z:/srv/q2/QUAKE2.EXE", "", ""});
+    EXPECT_TRUE(Say({"--launch", "/srv/q2/QUAKE2.EXE"}).empty());
+    EXPECT_EQ(window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Title, "Far");
+    ASSERT_EQ(Say({"--launch", "/srv/q2/GONE.EXE"}).size(), 1U);
+}
+
 TEST_F(LaunchChoice, AServerExcludesWhatTheWindowExcludes) {
     Open();
     Click(Option::Demo_Chk, 1);
