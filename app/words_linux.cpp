@@ -1,5 +1,3 @@
-#include <unistd.h>
-
 #include <filesystem>
 #include <memory>
 
@@ -12,29 +10,13 @@
 #include "platform/linux/linux_instance.h"
 #include "platform/linux/linux_known_places.h"
 #include "platform/linux/linux_processes.h"
+#include "platform/linux/printed_text.h"
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_registry.h"
 
 namespace lv {
 
 namespace {
-
-void Write(int file, const Text& text) {
-    const std::string bytes = ToUtf8(text);
-    for (std::size_t done = 0; done < bytes.size();) {
-        const ssize_t written = write(file, bytes.data() + done, bytes.size() - done);
-        if (written <= 0) {
-            return;
-        }
-        done += static_cast<std::size_t>(written);
-    }
-}
-
-int Print(const CommandResult& result) {
-    Write(STDOUT_FILENO, result.Out);
-    Write(STDERR_FILENO, result.Err);
-    return result.Code;
-}
 
 /// The platform without a display.
 struct UnseenSystem {
@@ -91,7 +73,7 @@ DoneWords DoWords(const std::vector<std::string>& words) {
             word, [&disk](TextView file) { return PathOfWord(disk, file); }, disk);
     };
     WordsDone done = ResultOfWords(words, running, WholePath, RunHere, offered);
-    return {done.Result ? std::optional(Print(*done.Result)) : std::nullopt, std::move(done.Offered),
+    return {done.Result ? std::optional(PrintResult(*done.Result, Print)) : std::nullopt, std::move(done.Offered),
             std::move(done.Told)};
 }
 

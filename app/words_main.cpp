@@ -12,6 +12,7 @@
 
 #include "app/words.h"
 #include "platform/code_page.h"
+#include "platform/linux/printed_text.h"
 #include "platform/linux/user_directories.h"
 
 namespace {
@@ -23,6 +24,7 @@ bool HasDisplay() {
 }  // namespace
 
 int main(int count, char** arguments) {
+    lv::HoldStandardFiles();
     std::vector<std::string> words;
     for (int i = 1; i < count; ++i) {
         words.push_back(lv::FromUtf8Lossy(arguments[i]));

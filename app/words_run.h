@@ -13,6 +13,7 @@
 #include "launcher/drop/dropped_thing.h"
 #include "launcher/drop/file_link.h"
 #include "platform/code_page.h"
+#include "platform/printed_to.h"
 #include "platform/single_instance.h"
 
 namespace lv {
@@ -23,6 +24,19 @@ constexpr TextView kInstanceCaption = "   Lorvane 3D";
 /// A command done on a platform without a window.
 inline CommandResult RunFor(Platform& system, const Command& command, std::function<Text(TextView)> pathOfWord) {
     return RunCommand(command, {system, EmbeddedEngines(), std::move(pathOfWord), ConnectFoundry});
+}
+
+using PrintTo = Error (*)(PrintedTo where, std::string_view text);
+
+/// Prints it, and gives the code to end with: what nobody can read has not been done, but for a game that runs.
+inline int PrintResult(const CommandResult& result, PrintTo print) {
+    const Error lost = print(PrintedTo::Output, result.Out);
+    (void)print(PrintedTo::Errors, result.Err);
+    if (!lost) {
+        return result.Code;
+    }
+    (void)print(PrintedTo::Errors, Join("lorvane3d: What was to be printed is lost: ", lost.Text, ".\n"));
+    return result.Code == exit_code::kDone && result.Started.empty() ? exit_code::kFailed : result.Code;
 }
 
 /// What another start asks of the program whose window this is, and the answer.

@@ -30,12 +30,6 @@ struct UnseenSystem {
     Platform Services{Settings, Registry, Disk, Programs, Clip, Time};
 };
 
-int Print(const CommandResult& result) {
-    Print(PrintedTo::Output, result.Out);
-    Print(PrintedTo::Errors, result.Err);
-    return result.Code;
-}
-
 Text PathOfWord(Files& disk, TextView word) {
     const bool isFull = word.size() > 1 && (word[1] == ':' || word.starts_with("\\\\"));
     return ReplaceSameLength(isFull ? Text(word) : PathBelow(disk.CurrentDirectory(), word), "/", "\\");
@@ -54,7 +48,7 @@ DoneWords DoWords(const std::vector<std::string>& words) {
     const auto wholePath = [&disk](TextView word) { return PathOfWord(disk, word); };
     const auto offered = [&](TextView word) { return OfferedWord(word, wholePath, disk); };
     WordsDone done = ResultOfWords(words, running, wholePath, RunHere, offered);
-    return {done.Result ? std::optional(Print(*done.Result)) : std::nullopt, std::move(done.Offered),
+    return {done.Result ? std::optional(PrintResult(*done.Result, Print)) : std::nullopt, std::move(done.Offered),
             std::move(done.Told)};
 }
 

@@ -16,39 +16,40 @@ std::string WithReturns(std::string_view text) {
     return lines;
 }
 
-void WriteBytes(HANDLE file, std::string_view bytes) {
+bool WriteBytes(HANDLE file, std::string_view bytes) {
     DWORD written = 0;
-    (void)WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    return WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != 0 &&
+           written == bytes.size();
 }
 
-void WriteTo(HANDLE file, std::wstring_view wide) {
+bool WriteTo(HANDLE file, std::wstring_view wide) {
     DWORD written = 0;
     DWORD mode = 0;
     if (GetConsoleMode(file, &mode) != 0) {
-        (void)WriteConsoleW(file, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr);
-    } else if (const auto utf8 = Utf8FromWide(wide)) {
-        WriteBytes(file, *utf8);
+        return WriteConsoleW(file, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr) != 0;
     }
+    const auto utf8 = Utf8FromWide(wide);
+    return utf8 && WriteBytes(file, *utf8);
 }
 
 }  // namespace
 
-void Print(PrintedTo where, std::string_view text) {
+Error Print(PrintedTo where, std::string_view text) {
     const std::wstring wide = ToWide(WithReturns(text));
     if (wide.empty()) {
-        return;
+        return {};
     }
     HANDLE given = GetStdHandle(where == PrintedTo::Output ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
     if (given != nullptr && given != INVALID_HANDLE_VALUE && GetFileType(given) != FILE_TYPE_UNKNOWN) {
-        WriteTo(given, wide);
-        return;
+        return WriteTo(given, wide) ? Error() : MakeError(error::kDeviceFault);
     }
     (void)AttachConsole(ATTACH_PARENT_PROCESS);  // fails where it is attached already
     const FileHandle console(CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                          nullptr, OPEN_EXISTING, 0, nullptr));
     if (console.IsOpen()) {
-        WriteTo(console.Get(), wide);
+        (void)WriteTo(console.Get(), wide);
     }
+    return {};
 }
 
 std::vector<std::string> WordsOfCommandLine() {

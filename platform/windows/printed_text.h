@@ -9,12 +9,14 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/error.h"
+#include "platform/printed_to.h"
+
 namespace lv {
 
-enum class PrintedTo { Output, Errors };
-
-/// Code page 1252 with "\n"; UTF-8 in files and pipes. Where there is neither nothing is printed.
-void Print(PrintedTo where, std::string_view text);
+/// Code page 1252 with "\n"; UTF-8 in files and pipes. Where there is neither nothing is printed. The error says why
+/// what was given has not taken all of it.
+Error Print(PrintedTo where, std::string_view text);
 
 /// The words behind the program's name, code page 1252; "?" for what has no form in it.
 std::vector<std::string> WordsOfCommandLine();

@@ -14,13 +14,14 @@ struct Said {
     std::string Text;  // both streams
 };
 
-/// The program with words, without a display unless `display` is one, in that home.
-Said Say(const ProgramHome& home, const std::string& words, const std::string& display = "") {
+/// The program with words, without a display unless `display` is one, in that home. `output` is where that goes.
+Said Say(const ProgramHome& home, const std::string& words, const std::string& display = "",
+         const std::string& output = "") {
     const std::string said = (home.Root / "said.txt").string();
     const std::string program = TestBinaryDir() + "/lorvane3d";
     OwnProcess run(home, {"/bin/sh", "-c",
                           "unset DISPLAY WAYLAND_DISPLAY; " + display + " exec '" + program + "' " + words + " >'" +
-                              said + "' 2>&1"});
+                              said + "' 2>&1 " + output});
     const auto code = run.WaitForEnd();
     return {code ? *code : -1, ReadBytes(said)};
 }
@@ -67,6 +68,24 @@ TEST(CommandLine, WithoutADisplayARunningWindowComesForward) {
         EXPECT_EQ(said.Text, "");
         EXPECT_TRUE(WaitUntil([&] { return StateOf(window) == "Normal"; })) << words;
     }
+}
+
+TEST(CommandLine, OutputThatIsLostIsAFailure) {
+    ProgramHome home("words_lost");
+    home.Prepare();
+    const std::string title = Say(home, "--list").Text;
+    const std::string dry = "--dry-run --launch '" + title.substr(0, title.find('\t')) + "'";
+    const auto before = RowsOf(home.Settings);
+    for (const std::string& words : {std::string("--list"), std::string("--help"), dry}) {
+        for (const std::string output : {">/dev/full", ">&-"}) {
+            const Said said = Say(home, words, "", output);
+            EXPECT_EQ(said.Code, 1) << words << output;
+            EXPECT_TRUE(said.Text.starts_with("lorvane3d: What was to be printed is lost: ")) << said.Text;
+        }
+        EXPECT_EQ(Say(home, words, "", ">&- 2>&-").Code, 1) << words;
+        EXPECT_EQ(Say(home, words, "", "<&- >/dev/null").Code, 0) << words;
+    }
+    EXPECT_EQ(RowsOf(home.Settings), before);
 }
 
 TEST(CommandLine, LaunchesWithoutADisplayAndStoresNoPick) {

@@ -17,7 +17,7 @@ TEST(PrintedText, GoesToTheFileThatWasGivenAsUtf8WithWindowsLineEnds) {
     ASSERT_NE(file, INVALID_HANDLE_VALUE);
     HANDLE before = GetStdHandle(STD_OUTPUT_HANDLE);
     SetStdHandle(STD_OUTPUT_HANDLE, file);
-    Print(PrintedTo::Output, "\xE9t\xE9\ntwo\n");
+    const Error lost = Print(PrintedTo::Output, "\xE9t\xE9\ntwo\n");
     SetStdHandle(STD_OUTPUT_HANDLE, before);
     CloseHandle(file);
     HANDLE written = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
@@ -26,7 +26,21 @@ TEST(PrintedText, GoesToTheFileThatWasGivenAsUtf8WithWindowsLineEnds) {
     ReadFile(written, bytes, sizeof bytes, &count, nullptr);
     CloseHandle(written);
     DeleteFileW(path.c_str());
+    EXPECT_FALSE(lost);
     EXPECT_EQ(std::string(bytes, count), "\xC3\xA9t\xC3\xA9\r\ntwo\r\n");
+}
+
+TEST(PrintedText, AFileThatTakesNothingIsAnError) {
+    HANDLE file = CreateFileW(L"NUL", GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(file, INVALID_HANDLE_VALUE);
+    HANDLE before = GetStdHandle(STD_OUTPUT_HANDLE);
+    SetStdHandle(STD_OUTPUT_HANDLE, file);
+    const Error lost = Print(PrintedTo::Output, "two\n");
+    const Error nothing = Print(PrintedTo::Output, "");
+    SetStdHandle(STD_OUTPUT_HANDLE, before);
+    CloseHandle(file);
+    EXPECT_EQ(lost.Number, error::kDeviceFault);
+    EXPECT_FALSE(nothing);
 }
 
 TEST(PrintedText, TheWordsAreTheOnesOfThisProcess) {
