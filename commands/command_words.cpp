@@ -26,7 +26,7 @@ constexpr OptionWord kOptionWords[] = {
     {"--profile", "NAME", "Uses this video profile."},
     {"--dry-run", "", "Starts nothing: shows what would be written and started, and what is missing."},
     {"--tell", "", "Tells in a window what goes wrong, as a start from a desktop must."},
-    {"--check", "SCRIPT", "Shows what the game takes otherwise than it is meant in a script."},
+    {"--check", "SCRIPT", "Shows what the game takes otherwise than it is meant in a script; beside --launch, what that program does."},
     {"--export", "FILE", "Writes all settings, profiles and setups into one file."},
     {"--import", "FILE", "Takes them from such a file."},
 };
@@ -56,7 +56,7 @@ struct VerbRow {
     TextView Word;
     Verb What;
 };
-// One of these at most; "--launch" beside "--list" only says whose lists are meant.
+// One of these at most; "--launch" beside "--list" or "--check" only says whose lists, or whose console, are meant.
 constexpr VerbRow kVerbs[] = {
     {"--help", Verb::Help},     {"--version", Verb::Version}, {"--list", Verb::List},     {"--launch", Verb::Launch},
     {"--setup", Verb::Launch},  {"--check", Verb::Check},     {"--export", Verb::Export}, {"--import", Verb::Import},
@@ -65,16 +65,17 @@ constexpr VerbRow kVerbs[] = {
 struct ValueRow {
     TextView Word;
     std::optional<Text> Command::* Value;
-    bool ForLists;  // it may stand beside "--list"
+    bool ForLists;   // it may stand beside "--list"
+    bool ForChecks;  // or "--check"
 };
 constexpr ValueRow kValues[] = {
-    {"--launch", &Command::Title, true},
-    {"--setup", &Command::Setup, true},
-    {"--mod", &Command::Modification, true},
-    {"--map", &Command::Map, false},
-    {"--script", &Command::Script, false},
-    {"--server", &Command::Server, false},
-    {"--profile", &Command::VideoProfile, false},
+    {"--launch", &Command::Title, true, true},
+    {"--setup", &Command::Setup, true, false},
+    {"--mod", &Command::Modification, true, false},
+    {"--map", &Command::Map, false, false},
+    {"--script", &Command::Script, false, false},
+    {"--server", &Command::Server, false, false},
+    {"--profile", &Command::VideoProfile, false, false},
 };
 // clang-format on
 
@@ -204,16 +205,22 @@ class Reader {
     }
 
     Error SetVerb(const VerbRow& row) {
-        const bool isList = row.What == Verb::List;
-        if (verbWord_.empty() || (isList && command_.What == Verb::Launch)) {
+        if (verbWord_.empty() || GoesBeside(verbWord_, row.What)) {
             verbWord_ = row.Word;
             command_.What = row.What;
             return {};
         }
-        if (command_.What == Verb::List && row.What == Verb::Launch) {
+        if (GoesBeside(row.Word, command_.What)) {
             return {};
         }
         return Fault(Join(row.Word, " and ", verbWord_, " do not go together."));
+    }
+
+    /// Whether a launch's word only says more of the other verb.
+    static bool GoesBeside(TextView launchWord, Verb verb) {
+        const auto* const row = std::ranges::find(kValues, launchWord, &ValueRow::Word);
+        return row != std::end(kValues) &&
+               ((verb == Verb::List && row->ForLists) || (verb == Verb::Check && row->ForChecks));
     }
 
     Error TakeName(const Text& word) {
@@ -239,7 +246,7 @@ class Reader {
             return Fault("--map and --server do not go together: a server says itself which map it plays.");
         }
         for (const ValueRow& row : kValues) {
-            const bool fits = command_.What == Verb::Launch || (command_.What == Verb::List && row.ForLists);
+            const bool fits = command_.What == Verb::Launch || GoesBeside(row.Word, command_.What);
             if ((command_.*(row.Value)).has_value() && !fits) {
                 return Fault(Join(row.Word, " goes with --launch or --setup."));
             }

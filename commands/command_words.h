@@ -30,7 +30,7 @@ struct Command {
     Verb What = Verb::OpenWindow;
     Text Subject;  // the file of Check, Export and Import; what OpenWindow is given
     Listed Kind = Listed::Programs;
-    // Of Launch; the title and the setup also say whose lists List shows.
+    // Of Launch; the title and the setup also say whose lists List shows, the title whose console Check asks.
     std::optional<Text> Title{};
     std::optional<Text> Setup{};
     std::optional<Text> Modification{};

@@ -17,7 +17,7 @@ CommandResult Done(const Command& command, const CommandPlace& place) {
         case Verb::Launch:
             return LaunchOrRehearse(command, place);
         case Verb::Check:
-            return CheckOneScript(command.Subject, place);
+            return CheckOneScript(command, place);
         case Verb::Export:
             return ExportToFile(command.Subject, place);
         case Verb::Import:

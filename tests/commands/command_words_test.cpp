@@ -90,6 +90,17 @@ TEST(CommandWords, AListMayNameTheGameWhoseListsAreMeantInEitherOrder) {
     }
 }
 
+TEST(CommandWords, ACheckMayNameTheProgramWhoseConsoleIsMeantInEitherOrder) {
+    for (const std::vector<Text>& words : {std::vector<Text>{"--launch", "Quake", "--check", "my.cfg"},
+                                           std::vector<Text>{"--check", "my.cfg", "--launch", "Quake"}}) {
+        const Result<Command> command = ReadCommand(words);
+        ASSERT_TRUE(command.Ok()) << command.Fault.Text;
+        EXPECT_EQ(command.Value.What, Verb::Check);
+        EXPECT_EQ(command.Value.Subject, "my.cfg");
+        EXPECT_EQ(command.Value.Title, "Quake");
+    }
+}
+
 TEST(CommandWords, AListWithoutItsKindIsOfPrograms) {
     const Result<Command> command = ReadCommand({"--list"});
     ASSERT_TRUE(command.Ok()) << command.Fault.Text;
@@ -149,6 +160,8 @@ TEST(CommandWords, EachFaultSaysWhatIsWrongAndWhatMayBeMeant) {
          "--list and --setup do not go together, but for the lists of a game: --list maps, say."},
         {{"--list", "setups", "--mod", "ctf"},
          "--list and --mod do not go together, but for the lists of a game: --list maps, say."},
+        {{"--check", "my.cfg", "--setup", "Duel"}, "--setup and --check do not go together."},
+        {{"--check", "my.cfg", "--launch", "Quake", "--mod", "ctf"}, "--mod goes with --launch or --setup."},
         {{"--launch", "Quake", "--LAUNCH", "Quake"}, "--launch stands there twice."},
         {{"--lanch", "Quake"}, "There is no option \"--lanch\". Did you mean \"--launch\"?"},
         {{"--zzzzzzzz"}, "There is no option \"--zzzzzzzz\"."},
