@@ -2,6 +2,7 @@
 
 #include "catalogs/map_scan.h"
 #include "catalogs/scripts.h"
+#include "foundation/device_names.h"
 #include "foundation/field_strings.h"
 #include "foundation/shown_name.h"
 #include "launcher/drop/copying.h"
@@ -13,6 +14,13 @@ namespace lv {
 namespace {
 
 using enum DroppedKind;
+
+/// Why a file is not copied under its own name; the device first, for that is no fault of the user's.
+Text Refusal(const Copying& copy, TextView name, TextView rule) {
+    const TextView why =
+        IsDeviceName(name) ? "On Windows that is the name of a device, and no file can have it." : rule;
+    return Join(copy.Intro(), why, " Rename it first.");
+}
 
 /// The name of the new modification, as the user agrees to it.
 std::optional<Text> AgreedModification(const Copying& copy) {
@@ -41,7 +49,7 @@ std::optional<Text> AgreedModification(const Copying& copy) {
         const auto typed =
             AskForName(copy.TheRun(), "What is the modification to be called?", name, fits,
                        "A modification's name has letters, digits, \"_\", \"-\" and \".\", begins with a "
-                       "letter or a digit, and is none of the game's own.");
+                       "letter or a digit, and is none of the game's own and no device of Windows', as \"con\" is.");
         name = typed.value_or(name);
     }
 }
@@ -90,8 +98,8 @@ MapAnswer AskAboutMap(const Copying& copy, const Text& target) {
 
 void CopyMap(const Copying& copy) {
     const Text stem = StemOf(copy.Name());
-    if (!IsMapName(stem)) {
-        TellOfDropped(copy.At, Join(copy.Intro(), "No game's console takes a map of that name. Rename it first."));
+    if (!IsMapName(stem) || !LaunchTakes(copy, NameKind::Map, stem)) {
+        TellOfDropped(copy.At, Refusal(copy, stem, "No game's console takes a map of that name."));
         return;
     }
     const Text data = DataDirectory(copy);
@@ -122,13 +130,15 @@ struct AgreedScript {
 
 std::optional<AgreedScript> AgreeOnScript(const Copying& copy, const Text& directory) {
     Text name = copy.Name();
-    if (!IsScriptName(name)) {
-        TellOfDropped(copy.At, Join(copy.Intro(), "No list takes a script of that name. Rename it first."));
+    if (!IsScriptName(name) || !LaunchTakes(copy, NameKind::Script, name)) {
+        TellOfDropped(copy.At, Refusal(copy, name, "No launch takes a script of that name."));
         return std::nullopt;
     }
     const Text ending = name.substr(name.rfind('.'));
     const auto whole = [&](TextView typed) { return Holds(typed, ".") ? Text(typed) : Join(typed, ending); };
-    const auto fits = [&](TextView typed) { return IsScriptName(whole(typed)); };
+    const auto fits = [&](TextView typed) {
+        return IsScriptName(whole(typed)) && LaunchTakes(copy, NameKind::Script, whole(typed));
+    };
     for (;;) {
         const Text target = PathBelow(directory, name);
         if (!IsTaken(copy.Disk(), target)) {
@@ -149,8 +159,10 @@ std::optional<AgreedScript> AgreeOnScript(const Copying& copy, const Text& direc
         if (answer != 1) {
             return std::nullopt;
         }
-        const auto typed = AskForName(copy.TheRun(), "What is the script to be called?", name, fits,
-                                      "A script's name has no \"\\\", \"/\", \":\" and \";\".");
+        const auto typed =
+            AskForName(copy.TheRun(), "What is the script to be called?", name, fits,
+                       "A script's name has no \"\\\", \"/\", \":\", \";\" and no quote, is no device of "
+                       "Windows', and nothing that a launch would misread.");
         name = whole(typed.value_or(name));
     }
 }

@@ -46,6 +46,18 @@ std::optional<Text> AskForName(Run& run, TextView prompt, TextView offered, cons
     }
 }
 
+bool LaunchTakes(const Copying& copy, NameKind kind, TextView name) {
+    const bool isUnreal = copy.Into.Plays.Facts->GameKind == Game::Unreal;
+    const Text program = LastPathPart(copy.Into.Path);
+    const LineReader reader = copy.TheRun().System.Programs.ReaderOf(copy.Into.Directory, program, program);
+    const LaunchName named{.Kind = kind,
+                           .Value = Text(name),
+                           .Written = Holds(name, Blank) ? Join(DoubleQuote, name, DoubleQuote) : Text(name),
+                           .InCommand = isUnreal,
+                           .InScript = !isUnreal};
+    return !MisreadName({named}, reader);
+}
+
 bool CopyInto(const Copying& copy, const Text& directory, const Text& name) {
     Files& disk = copy.Disk();
     const Text target = PathBelow(directory, name);

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 
+#include "launch/launch_names.h"
 #include "launcher/drop/dropped_thing.h"
 #include "launcher/drop/listed_programs.h"
 
@@ -35,6 +36,9 @@ bool IsTaken(Files& disk, TextView path);
 /// Asks for another name until it is one, and tells `rule` of one that is not; nothing if the user gives up.
 std::optional<Text> AskForName(Run& run, TextView prompt, TextView offered, const std::function<bool(TextView)>& fits,
                                TextView rule);
+
+/// Whether a launch of the program takes the map, without its ending, or the script of that name.
+bool LaunchTakes(const Copying& copy, NameKind kind, TextView name);
 
 /// The directory that the copy is for: the base game's, or the ticked modification's if the program is the picked one.
 Text DataDirectory(const Copying& copy);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "catalogs/catalog_store.h"
+#include "foundation/device_names.h"
 #include "foundation/field_strings.h"
 
 namespace lv {
@@ -46,7 +47,8 @@ Text StemOf(TextView file) {
 
 bool IsModificationName(TextView name, const GameFacts& game) {
     return !name.empty() && name.size() <= kLongestModificationName && IsLetterOrDigit(name.front()) &&
-           !name.ends_with('.') && std::ranges::all_of(name, IsOfAName) && !SameText(name, game.BaseGameDir);
+           !name.ends_with('.') && std::ranges::all_of(name, IsOfAName) && !SameText(name, game.BaseGameDir) &&
+           !IsDeviceName(name);
 }
 
 Text ModificationNameFor(TextView archive, const GameFacts& game) {
@@ -64,7 +66,7 @@ Text ArchiveNameFor(const DroppedThing& thing, Game game) {
         const Text name = LastPathPart(thing.Path);
         const Text ending = LowerCase(name.substr(name.rfind('.')));
         const Text stem = OnlyNameCharacters(StemOf(name));
-        return Join(stem.empty() ? Text(kFallbackName) : stem, ending);
+        return Join(stem.empty() || IsDeviceName(stem) ? Text(kFallbackName) : stem, ending);
     }
     switch (game) {
         case Game::Heretic2:
@@ -77,11 +79,12 @@ Text ArchiveNameFor(const DroppedThing& thing, Game game) {
 }
 
 bool IsMapName(TextView stem) {
-    return !stem.empty() && FitsAField(stem) && stem.find_first_of(" \"") == TextView::npos;
+    return !stem.empty() && FitsAField(stem) && stem.find_first_of(" \"") == TextView::npos && !IsDeviceName(stem);
 }
 
 bool IsScriptName(TextView name) {
-    return FitsAField(name) && Holds(name, ".") && name.find_first_of("\\/:") == TextView::npos;
+    return FitsAField(name) && Holds(name, ".") && name.find_first_of("\\/:\"") == TextView::npos &&
+           !IsDeviceName(name);
 }
 
 }  // namespace lv

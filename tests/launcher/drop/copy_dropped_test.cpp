@@ -199,6 +199,50 @@ TEST_F(CopyDropped, AMapThatNoConsoleTakesIsRefused) {
     EXPECT_THAT(system.Disk.Log, IsEmpty());
 }
 
+TEST_F(CopyDropped, AScriptThatNoLaunchTakesIsRefused) {
+    LoadGames();
+    Put("C:\\D\\qu'ote\".cfg", "bind w +forward");
+    Answer("No launch takes a script of that name. Rename it first.", 0, "&OK");
+    Drop("C:\\D\\qu'ote\".cfg");
+    EXPECT_THAT(system.Disk.Log, IsEmpty());
+    EXPECT_THAT(Opened, IsEmpty());
+}
+
+TEST_F(CopyDropped, WhatTheCommandProcessorWouldMisreadIsRefusedWhereItReads) {
+    LoadGames();
+    Put("C:\\D\\50%.cfg", "bind w +forward");
+    Put("C:\\D\\a&b.bsp", kMap);
+    system.Programs.Reader = LineReader::kCommandProcessor;
+    Answer("No launch takes a script of that name.", 0, "&OK");
+    Drop("C:\\D\\50%.cfg");
+    Answer("No game's console takes a map of that name.", 0, "&OK");
+    Drop("C:\\D\\a&b.bsp");
+    EXPECT_THAT(system.Disk.Log, IsEmpty());
+    system.Programs.Reader = LineReader::kNobody;
+    Answer("\"C:\\QUAKE\\ID1\\50%.cfg\"", 0, kCopy);
+    Drop("C:\\D\\50%.cfg");
+    EXPECT_THAT(Opened, testing::SizeIs(1));
+}
+
+TEST_F(CopyDropped, WhatWindowsTakesForADeviceIsRefusedOrGetsAnotherName) {
+    LoadGames();
+    Put("C:\\D\\con.bsp", kMap);
+    Put("C:\\D\\aux.cfg", "bind w +forward");
+    Put("C:\\D\\CON.pak", kPak);
+    Answer("On Windows that is the name of a device, and no file can have it. Rename it first.", 0, "&OK");
+    Drop("C:\\D\\con.bsp");
+    Answer("On Windows that is the name of a device, and no file can have it. Rename it first.", 0, "&OK");
+    Drop("C:\\D\\aux.cfg");
+    EXPECT_THAT(system.Disk.Log, IsEmpty());
+    Answer("to become the modification \"newmod\"", 1, kCopyArchive);
+    user.InputAnswers.emplace_back("con");
+    Answer("no device of Windows'", 0, "&OK");
+    user.InputAnswers.emplace_back(std::nullopt);
+    Answer("to become the modification \"newmod\"", 0, kCopyArchive);
+    Drop("C:\\D\\CON.pak");
+    EXPECT_EQ(Bytes("C:\\QUAKE\\newmod\\pak0.pak"), kPak);
+}
+
 TEST_F(CopyDropped, AMapOfAnotherGameIsToldOf) {
     LoadGames();
     Put("C:\\D\\q2dm1.bsp", "IBSP");

@@ -28,6 +28,20 @@ TEST(DroppedNames, AStrangersNameIsMadeOneThatALaunchTakes) {
     EXPECT_EQ(ModificationNameFor(Join("C:\\D\\", Text(5000, 'a'), ".pak"), Quake()), Text(32, 'a'));
 }
 
+TEST(DroppedNames, ADeviceOfWindowsIsNoName) {
+    EXPECT_EQ(ModificationNameFor("C:\\D\\CON.pak", Quake()), "newmod");
+    EXPECT_EQ(ModificationNameFor("C:\\D\\aux\\pak0.pak", Quake()), "newmod");
+    DroppedThing zip;
+    zip.IsZip = true;
+    zip.Path = "C:\\D\\COM1.pk3";
+    EXPECT_EQ(ArchiveNameFor(zip, Game::Quake), "newmod.pk3");
+    EXPECT_FALSE(IsModificationName("NUL", Quake()));
+    EXPECT_FALSE(IsModificationName("nul.2", Quake()));
+    EXPECT_FALSE(IsMapName("con"));
+    EXPECT_FALSE(IsScriptName("lpt1.cfg"));
+    EXPECT_TRUE(IsMapName("console"));
+}
+
 TEST(DroppedNames, WhatAModificationMayBeCalled) {
     EXPECT_TRUE(IsModificationName("ctf", Quake()));
     EXPECT_TRUE(IsModificationName("3wave_2.0-b", Quake()));
@@ -62,7 +76,7 @@ TEST(DroppedNames, WhatAMapMayBeCalled) {
 
 TEST(DroppedNames, WhatAScriptMayBeCalled) {
     EXPECT_TRUE(IsScriptName("my script.cfg"));
-    for (const Text name : {"", "a;b.cfg", "a\nb.cfg", "..\\a.cfg", "a/b.cfg", "C:a.cfg", "noending"}) {
+    for (const Text name : {"", "a;b.cfg", "a\nb.cfg", "..\\a.cfg", "a/b.cfg", "C:a.cfg", "noending", "qu'ote\".cfg"}) {
         EXPECT_FALSE(IsScriptName(name)) << name;
     }
 }
