@@ -23,7 +23,7 @@ constexpr TextView kInstanceCaption = "   Lorvane 3D";
 
 /// A command done on a platform without a window.
 inline CommandResult RunFor(Platform& system, const Command& command, std::function<Text(TextView)> pathOfWord) {
-    return RunCommand(command, {system, EmbeddedEngines(), std::move(pathOfWord), ConnectFoundry});
+    return RunCommand(command, {system, EmbeddedEngines(), std::move(pathOfWord), ConnectFoundry, true});
 }
 
 using PrintTo = Error (*)(PrintedTo where, std::string_view text);
@@ -45,7 +45,7 @@ inline std::function<std::string(std::string_view)> AnswersOf(Launcher& window) 
         Files& disk = window.run.System.Disk;
         const auto pathOfWord = [&disk](TextView word) { return disk.FromTyped(word); };
         return ReplyOf(
-            DoForAnother(window, {window.run.System, EmbeddedEngines(), pathOfWord, ConnectFoundry}, request));
+            DoForAnother(window, {window.run.System, EmbeddedEngines(), pathOfWord, ConnectFoundry, true}, request));
     };
 }
 

@@ -158,13 +158,13 @@ bool IsBinaryFile(Files& disk, const Text& path) {
     return start.Ok() && !IsUtf16(start.Value) && Holds(start.Value, kNoCharacter);
 }
 
-CommandResult Unread(TextView word, Files& disk, const Text& path, const Error& fault) {
-    if (!path.empty() && IsBinaryFile(disk, path)) {
+CommandResult Unread(TextView word, const CommandPlace& place, const Text& path, const Error& fault) {
+    if (!path.empty() && IsBinaryFile(place.System.Disk, path)) {
         return NoScript(word);
     }
     const bool isGone = fault.Number == error::kFileNotFound || fault.Number == error::kPathNotFound;
     return {.Code = isGone ? exit_code::kNothingCalledSo : exit_code::kFailed,
-            .Err = Join("\"", Shown(word), "\": ", fault.Text)};
+            .Err = Join("\"", Shown(word), "\": ", PrintedFault(place, fault, path))};
 }
 
 }  // namespace
@@ -176,7 +176,7 @@ CommandResult CheckOneScript(const Command& command, const CommandPlace& place) 
     const Result<Text> read =
         path.empty() ? Result<Text>(MakeError(error::kFileNotFound)) : ReadBounded(disk, path, kLargestRunScript);
     if (!read.Ok()) {
-        return Unread(word, disk, path, read.Fault);
+        return Unread(word, place, path, read.Fault);
     }
     if (Holds(read.Value, kNoCharacter)) {
         return NoScript(word);
@@ -187,7 +187,8 @@ CommandResult CheckOneScript(const Command& command, const CommandPlace& place) 
         return {.Code = isGone ? exit_code::kNothingCalledSo : exit_code::kFailed, .Err = judge.Fault.Text};
     }
     CommandResult result{.Err = WhoJudges(judge.Value, command)};
-    for (const Finding& finding : FindingsOf(disk, path, read.Value, judge.Value)) {
+    for (Finding& finding : FindingsOf(disk, path, read.Value, judge.Value)) {
+        finding.File = SameText(finding.File, path) ? PrintedPath(place, path) : finding.File;
         result.Out += Join(FindingLine(finding), NewLine);
         if (finding.How == Certainty::Sure) {
             result.Code = exit_code::kFinds;

@@ -1,6 +1,19 @@
 #include "commands/command_place.h"
 
+#include "platform/code_page.h"
+
 namespace lv {
+
+Text PrintedPath(const CommandPlace& place, TextView path) {
+    const std::string host = place.PrintsHostPaths ? place.System.Disk.ToHost(path) : std::string();
+    const auto printed = FromUtf8(host);
+    return printed && !printed->empty() ? *printed : Text(path);
+}
+
+Text PrintedFault(const CommandPlace& place, const Error& fault, TextView path) {
+    const std::size_t at = path.empty() ? Text::npos : fault.Text.find(path);
+    return at == Text::npos ? fault.Text : Text(fault.Text).replace(at, path.size(), PrintedPath(place, path));
+}
 
 Text Printed(TextView text) {
     Text printed;

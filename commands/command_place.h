@@ -17,7 +17,14 @@ struct CommandPlace {
     TextView ShippedEngines{};                   // the table that the program carries
     std::function<Text(TextView)> PathOfWord{};  // the drive path of a file that a word names; empty: no drive has it
     std::function<void(Launcher&)> Connect{};    // to what lies above the launcher
+    bool PrintsHostPaths = false;                // for a terminal; a window has the games' own paths
 };
+
+/// A path on the drives as it is printed. One that text cannot say as the host does stays as it is.
+Text PrintedPath(const CommandPlace& place, TextView path);
+
+/// The error's text, with the path that it is about as it is printed.
+Text PrintedFault(const CommandPlace& place, const Error& fault, TextView path);
 
 namespace exit_code {
 constexpr int kDone = 0;

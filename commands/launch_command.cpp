@@ -30,7 +30,8 @@ CommandResult Start(const Command& command, const CommandPlace& place) {
         result.Code = exit_code::kFailed;
         result.Err += Join("Nothing was started.", NewLine);
     } else {
-        result.Out = Join("Started ", result.Started, " in ", unseen.TheRun.DefaultGameDirectory, NewLine);
+        result.Out =
+            Join("Started ", result.Started, " in ", PrintedPath(place, unseen.TheRun.DefaultGameDirectory), NewLine);
     }
     return result;
 }

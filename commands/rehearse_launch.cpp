@@ -39,7 +39,9 @@ CommandResult RehearseLaunch(const CommandPlace& place, const Choice& choose) {
     if (const Text why = unseen.Load(); !why.empty()) {
         return {.Code = exit_code::kFailed, .Err = why};
     }
-    Rehearsal rehearsal{disk, programs, registry, unseen.Its, {}, {}};
+    Rehearsal rehearsal{
+        disk, programs, registry, unseen.Its, {}, {}, [&place](TextView path) {
+                            return PrintedPath(place, path); }};
     Lacking lacking = choose(unseen.Its, rehearsal.Said);
     if (!lacking.Refused.empty()) {
         return NotCalledSo(lacking.Refused);

@@ -9,13 +9,13 @@ namespace lv {
 
 namespace {
 
-CommandResult Failed(TextView word, const Error& fault) {
-    return {.Code = fault.Number == error::kFileNotFound ? exit_code::kNothingCalledSo : exit_code::kFailed,
-            .Err = Join("\"", Shown(word), "\": ", fault.Text)};
-}
-
 Text PathOf(TextView word, const CommandPlace& place) {
     return place.PathOfWord ? place.PathOfWord(word) : Text(word);
+}
+
+CommandResult Failed(TextView word, const CommandPlace& place, const Error& fault) {
+    return {.Code = fault.Number == error::kFileNotFound ? exit_code::kNothingCalledSo : exit_code::kFailed,
+            .Err = Join("\"", Shown(word), "\": ", PrintedFault(place, fault, PathOf(word, place)))};
 }
 
 Text Lines(TextView head, const std::vector<Text>& rows) {
@@ -26,11 +26,11 @@ Text Lines(TextView head, const std::vector<Text>& rows) {
     return rows.empty() ? Text() : Join(head, NewLine, lines);
 }
 
-Text Moves(const std::vector<PathMove>& moves) {
+Text Moves(const std::vector<PathMove>& moves, const CommandPlace& place) {
     std::vector<Text> rows;
     rows.reserve(moves.size());
     for (const PathMove& move : moves) {
-        rows.push_back(Join(move.From, " -> ", move.To));
+        rows.push_back(Join(move.From, " -> ", PrintedPath(place, move.To)));
     }
     return Lines("Games that lie elsewhere here:", rows);
 }
@@ -42,7 +42,7 @@ CommandResult ExportToFile(TextView word, const CommandPlace& place) {
     Run run(place.System, user);
     const Result<ExportedSettings> done = ExportSettings(run, PathOf(word, place));
     if (!done.Ok()) {
-        return Failed(word, done.Fault);
+        return Failed(word, place, done.Fault);
     }
     return {.Out = Join(std::to_string(done.Value.Values), " settings are in the file ", Shown(word),
                         ". The passwords of your servers are among them.", NewLine),
@@ -57,16 +57,18 @@ CommandResult ImportFromFile(TextView word, const CommandPlace& place) {
     };
     const Result<ImportedSettings> done = ImportSettings(run, PathOf(word, place), takeLikely);
     if (!done.Ok()) {
-        CommandResult failed = Failed(word, done.Fault);
+        CommandResult failed = Failed(word, place, done.Fault);
         failed.Err += Join(NewLine, "The settings are as they were.", NewLine);
         return failed;
     }
     const ImportedSettings& imported = done.Value;
-    return {.Out = Join(
-                std::to_string(imported.Changed), " of ", std::to_string(imported.Values), " settings are others now.",
-                NewLine, Moves(imported.Moved), Lines("Not here, and left as the file has them:", imported.LeftPlaces),
-                Lines("As they were:", imported.Kept),
-                imported.Backup.empty() ? Text() : Join("What was there before is kept: ", imported.Backup, NewLine))};
+    return {.Out = Join(std::to_string(imported.Changed), " of ", std::to_string(imported.Values),
+                        " settings are others now.", NewLine, Moves(imported.Moved, place),
+                        Lines("Not here, and left as the file has them:", imported.LeftPlaces),
+                        Lines("As they were:", imported.Kept),
+                        imported.Backup.empty()
+                            ? Text()
+                            : Join("What was there before is kept: ", PrintedPath(place, imported.Backup), NewLine))};
 }
 
 }  // namespace lv

@@ -42,20 +42,21 @@ bool IsOfText(TextView bytes) {
     return bytes.find('\0') == TextView::npos;
 }
 
-Text ChangeLines(const RehearsedChange& change) {
+Text ChangeLines(const RehearsedChange& change, const PathText& asPrinted) {
+    const Text path = SaidPath(asPrinted, change.Path);
     using Sort = RehearsedChange::Sort;
     switch (change.What) {
         case Sort::Written:
-            return Join(kIndent, change.Path, " (", std::to_string(change.Bytes.size()), " bytes)", NewLine,
+            return Join(kIndent, path, " (", std::to_string(change.Bytes.size()), " bytes)", NewLine,
                         IsOfText(change.Bytes) ? Indented(change.Bytes) : Text());
         case Sort::Linked:
-            return Join(kIndent, change.Path, " (a link to ", change.Bytes, ")", NewLine);
+            return Join(kIndent, path, " (a link to ", SaidPath(asPrinted, change.Bytes), ")", NewLine);
         case Sort::Deleted:
-            return Join(kIndent, change.Path, " (deleted)", NewLine);
+            return Join(kIndent, path, " (deleted)", NewLine);
         case Sort::DirectoryMade:
-            return Join(kIndent, change.Path, " (a directory)", NewLine);
+            return Join(kIndent, path, " (a directory)", NewLine);
         case Sort::DirectoryRemoved:
-            return Join(kIndent, change.Path, " (a directory, removed)", NewLine);
+            return Join(kIndent, path, " (a directory, removed)", NewLine);
     }
     return {};
 }
@@ -69,7 +70,7 @@ Text WrittenPart(const Rehearsal& rehearsal) {
             part += Join(kIndent, "and ", std::to_string(changes.size() - kMostShownChanges), " more", NewLine);
             break;
         }
-        part += ChangeLines(change);
+        part += ChangeLines(change, rehearsal.AsPrinted);
     }
     if (rehearsal.Registry.Writes > 0) {
         part += Join(kIndent, std::to_string(rehearsal.Registry.Writes), " settings in the registry", NewLine);
@@ -118,28 +119,29 @@ Text SaidPart(TextView said) {
     return said.empty() ? Text() : Join(NewLine, "Would be said:", NewLine, Indented(said));
 }
 
-Text GamePart(const Launcher& launcher) {
+Text GamePart(const Launcher& launcher, const PathText& asPrinted) {
     const ImageCombo& list = launcher.Window.Exe_Cbo;
     if (!list.HasSelection()) {
         return {};
     }
     const ImageComboItem& item = list.Items[static_cast<std::size_t>(list.ListIndex)];
     const Run& run = launcher.run;
-    return Join(Line("Title", item.Title), Line("Program", item.Key), Line("Game", FactsOf(run.GameKind).Name),
-                Line("Data", run.CurrentGameDir), Line("Profile", launcher.Window.VideoProfiles_Cbo.Selected()));
+    return Join(Line("Title", item.Title), Line("Program", SaidPath(asPrinted, item.Key)),
+                Line("Game", FactsOf(run.GameKind).Name), Line("Data", run.CurrentGameDir),
+                Line("Profile", launcher.Window.VideoProfiles_Cbo.Selected()));
 }
 
 }  // namespace
 
 DryRunReport ReportOf(const Rehearsal& rehearsal) {
     std::vector<Text> missing = rehearsal.Missing;
-    std::ranges::move(MissingParts(rehearsal.Its), std::back_inserter(missing));
+    std::ranges::move(MissingParts(rehearsal.Its, rehearsal.AsPrinted), std::back_inserter(missing));
     const auto& plan = rehearsal.Programs.Plan;
     DryRunReport report;
     report.IsMissingSomething = !missing.empty() || !plan || !plan->Ok();
     report.Text = Join("A dry run: nothing was written, and nothing was started.", NewLine, NewLine,
-                       GamePart(rehearsal.Its), NewLine, WrittenPart(rehearsal), NewLine, StartedPart(rehearsal),
-                       ListPart("Is missing:", missing), SaidPart(rehearsal.Said));
+                       GamePart(rehearsal.Its, rehearsal.AsPrinted), NewLine, WrittenPart(rehearsal), NewLine,
+                       StartedPart(rehearsal), ListPart("Is missing:", missing), SaidPart(rehearsal.Said));
     return report;
 }
 

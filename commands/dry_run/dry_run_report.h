@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "commands/dry_run/missing_parts.h"
 #include "commands/dry_run/rehearsed_files.h"
 #include "commands/dry_run/rehearsed_programs.h"
 #include "launcher/launcher.h"
@@ -20,6 +21,7 @@ struct Rehearsal {
     Launcher& Its;
     std::vector<lv::Text> Missing;  // what the launcher does not hold any more, a sentence each
     lv::Text Said;                  // in boxes, on the way
+    PathText AsPrinted{};           // how paths are said
 };
 
 struct DryRunReport {

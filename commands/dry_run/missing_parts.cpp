@@ -18,7 +18,8 @@ namespace {
 
 constexpr std::size_t kMostMissingScripts = 50;
 
-void LookForProgram(Launcher& launcher, const LaunchSelection& selection, std::vector<Text>& missing) {
+void LookForProgram(Launcher& launcher, const LaunchSelection& selection, const PathText& asSaid,
+                    std::vector<Text>& missing) {
     Platform& system = launcher.run.System;
     const Text& path = selection.ExecutablePath;
     if (path.empty()) {
@@ -29,25 +30,26 @@ void LookForProgram(Launcher& launcher, const LaunchSelection& selection, std::v
         const Text package = engine != nullptr && !engine->DebianPackage.empty()
                                  ? Join(" The Debian package \"", engine->DebianPackage, "\" has it.")
                                  : Text();
-        missing.push_back(Join("The program ", path, " is not there.", package));
+        missing.push_back(Join("The program ", SaidPath(asSaid, path), " is not there.", package));
     } else if (!system.Programs.HasRunnerFor(path)) {
-        missing.push_back(Join("What runs ", path,
+        missing.push_back(Join("What runs ", SaidPath(asSaid, path),
                                " here is not installed: wine for a Windows program, dosbox for one "
                                "for DOS."));
     }
 }
 
-void LookForChoices(Launcher& launcher, const LaunchSelection& selection, std::vector<Text>& missing) {
+void LookForChoices(Launcher& launcher, const LaunchSelection& selection, const PathText& asSaid,
+                    std::vector<Text>& missing) {
     Files& disk = launcher.run.System.Disk;
     const Text& directory = launcher.run.DefaultGameDirectory;
     if (selection.Ticked.Has(Option::Game_Chk) && selection.Game) {
         const Text modification = Join(directory, "\\", DirectoryOfOption(*selection.Game));
         if (!disk.DirectoryExists(modification)) {
-            missing.push_back(Join("The modification's directory ", modification, " is not there."));
+            missing.push_back(Join("The modification's directory ", SaidPath(asSaid, modification), " is not there."));
         }
     }
     if (selection.Ticked.Has(Option::Script_Chk) && selection.Script && !disk.FileExists(*selection.Script)) {
-        missing.push_back(Join("The script ", *selection.Script, " is not there."));
+        missing.push_back(Join("The script ", SaidPath(asSaid, *selection.Script), " is not there."));
     }
     if (selection.Ticked.Has(Option::Map_Chk) && selection.Map) {
         const std::vector<Text> maps = SplitFields(launcher.Lists.MapList);
@@ -59,7 +61,7 @@ void LookForChoices(Launcher& launcher, const LaunchSelection& selection, std::v
 }
 
 /// Of those that a script of the player's executes; what an engine looks for by itself may lack.
-void LookForScripts(Launcher& launcher, std::vector<Text>& missing) {
+void LookForScripts(Launcher& launcher, const PathText& asSaid, std::vector<Text>& missing) {
     Run& run = launcher.run;
     if (run.GameKind == Game::None || run.GameKind == Game::Unreal ||
         !run.System.Disk.FileExists(ScriptFilePath(GameOf(run)))) {
@@ -67,8 +69,9 @@ void LookForScripts(Launcher& launcher, std::vector<Text>& missing) {
     }
     const StartRequest request = StartOfLaunch(launcher);
     std::size_t told = 0;
-    for (const Finding& finding : CheckRun(RunStart(run.System.Disk, request), request.Played.Of)) {
+    for (Finding& finding : CheckRun(RunStart(run.System.Disk, request), request.Played.Of)) {
         if (finding.Kind == FindingKind::MissingScript && told++ < kMostMissingScripts) {
+            finding.File = Holds(finding.File, ":\\") ? SaidPath(asSaid, finding.File) : finding.File;
             missing.push_back(FindingLine(finding));
         }
     }
@@ -76,12 +79,16 @@ void LookForScripts(Launcher& launcher, std::vector<Text>& missing) {
 
 }  // namespace
 
-std::vector<Text> MissingParts(Launcher& launcher) {
+Text SaidPath(const PathText& asSaid, TextView path) {
+    return asSaid ? asSaid(path) : Text(path);
+}
+
+std::vector<Text> MissingParts(Launcher& launcher, const PathText& asSaid) {
     const LaunchSelection selection = SelectionOf(launcher.Window);
     std::vector<Text> missing;
-    LookForProgram(launcher, selection, missing);
-    LookForChoices(launcher, selection, missing);
-    LookForScripts(launcher, missing);
+    LookForProgram(launcher, selection, asSaid, missing);
+    LookForChoices(launcher, selection, asSaid, missing);
+    LookForScripts(launcher, asSaid, missing);
     return missing;
 }
 

@@ -101,6 +101,12 @@ TEST_F(CheckCommand, WhatHasBytesOfNoTextIsNoScript) {
     }
 }
 
+TEST_F(CheckCommand, ATerminalGetsTheHostsPath) {
+    system.Disk.AddFile("C:\\MINE\\bad.cfg", kOddQuote);
+    const CommandPlace place{system.Services, {}, {}, {}, true};
+    EXPECT_TRUE(CheckAt({"--check", "C:\\MINE\\bad.cfg"}, place).Out.starts_with("/c:/mine/bad.cfg:1: "));
+}
+
 TEST_F(CheckCommand, AScriptThatIsNotThere) {
     const CommandResult result = Check("C:\\QUAKE\\ID1\\gone\x1B.cfg");
     EXPECT_EQ(result.Code, exit_code::kNothingCalledSo);

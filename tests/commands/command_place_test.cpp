@@ -2,8 +2,28 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/memory/memory_platform.h"
+
 namespace lv {
 namespace {
+
+TEST(CommandPlace, APathIsPrintedAsTheHostHasItWhereThatIsAskedFor) {
+    MemoryPlatform system;
+    CommandPlace place{system.Services};
+    EXPECT_EQ(PrintedPath(place, "C:\\QUAKE"), "C:\\QUAKE");
+    place.PrintsHostPaths = true;
+    EXPECT_EQ(PrintedPath(place, "C:\\QUAKE\\ID1"), "/c:/quake/id1");
+}
+
+TEST(CommandPlace, AFaultNamesItsPathAsTheHostHasIt) {
+    MemoryPlatform system;
+    CommandPlace place{system.Services};
+    place.PrintsHostPaths = true;
+    const Error fault{error::kPermissionDenied, "Permission denied: C:\\Q\\a.cfg"};
+    EXPECT_EQ(PrintedFault(place, fault, "C:\\Q\\a.cfg"), "Permission denied: /c:/q/a.cfg");
+    EXPECT_EQ(PrintedFault(place, fault, "C:\\OTHER"), "Permission denied: C:\\Q\\a.cfg");
+    EXPECT_EQ(PrintedFault(place, fault, ""), "Permission denied: C:\\Q\\a.cfg");
+}
 
 TEST(CommandPlace, TheCodesThatACommandEndsWith) {
     EXPECT_EQ(exit_code::kDone, 0);

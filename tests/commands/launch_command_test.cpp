@@ -12,11 +12,11 @@ class LaunchCommand : public LauncherTest {
         before_ = Written();
     }
 
-    CommandResult Do(const std::vector<Text>& words) {
+    CommandResult Do(const std::vector<Text>& words, bool printsHostPaths = false) {
         const Result<Command> command = ReadCommand(words);
         EXPECT_TRUE(command.Ok()) << command.Fault.Text;
         before_ = Written();
-        return LaunchOrRehearse(command.Value, {system.Services});
+        return LaunchOrRehearse(command.Value, {system.Services, {}, {}, {}, printsHostPaths});
     }
 
     /// What reached the settings since the last command began.
@@ -188,6 +188,18 @@ TEST_F(LaunchCommand, WhatStopsTheLaunchStopsTheDryRunWithTheSameWords) {
         EXPECT_EQ(dry.Out, "");
     }
     EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+TEST_F(LaunchCommand, ATerminalGetsTheHostsPaths) {
+    (void)system.Disk.Delete("C:\\QUAKE\\GLQUAKE.EXE");
+    const CommandResult dry = Do({"--launch", "Quake", "--dry-run"}, true);
+    for (const Text part :
+         {"Program     /c:/quake/glquake.exe\r\n", "The program /c:/quake/glquake.exe is not there."}) {
+        EXPECT_TRUE(dry.Out.find(part) != Text::npos) << part << "\n" << dry.Out;
+    }
+    const Text written = Do({"--launch", "Quake 2", "--dry-run"}, true).Out;
+    EXPECT_TRUE(written.find("    /c:/quake2/lv_666.bat (") != Text::npos) << written;
+    EXPECT_EQ(Do({"--launch", "Quake 2"}, true).Out, "Started QUAKE2.EXE in /c:/quake2\r\n");
 }
 
 TEST_F(LaunchCommand, ADryRunOfAnUnknownGameIsRefused) {

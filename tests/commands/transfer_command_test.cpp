@@ -55,6 +55,17 @@ TEST_F(TransferCommand, APlaceThatIsNotHereIsLeftAndTold) {
     EXPECT_EQ(Stored(kOptions, "Executables"), "Far;D:\\FAR\\QUAKE.EXE");
 }
 
+TEST_F(TransferCommand, ATerminalGetsTheHostsPaths) {
+    place.PrintsHostPaths = true;
+    (void)ExportToFile("C:\\HOME\\mine.lv3d", place);
+    Save(run, kOptions, "NetServers", "Club;club.example;27910;3;");
+    const CommandResult imported = ImportFromFile("C:\\HOME\\mine.lv3d", place);
+    EXPECT_TRUE(imported.Out.find("What was there before is kept: /") != Text::npos) << imported.Out;
+    system.Disk.Refused["c:\\home\\mine.lv3d"] = {error::kPermissionDenied, "Permission denied: C:\\HOME\\mine.lv3d"};
+    EXPECT_EQ(ExportToFile("C:\\HOME\\mine.lv3d", place).Err,
+              "\"C:\\HOME\\mine.lv3d\": Permission denied: /c:/home/mine.lv3d");
+}
+
 TEST_F(TransferCommand, ADirectoryThatIsNotThereTakesNoFile) {
     const CommandResult result = ExportToFile("C:\\NOWHERE\\mine.lv3d", place);
     EXPECT_EQ(result.Code, exit_code::kFailed) << result.Out;
