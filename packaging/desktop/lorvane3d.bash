@@ -108,7 +108,7 @@ _lorvane3d() {
     --script) _lorvane3d_names scripts "${of_title[@]}" ;;
     --server) _lorvane3d_names servers "${of_title[@]}" ;;
     --profile) _lorvane3d_names profiles "${of_title[@]}" ;;
-    --list) _lorvane3d_words 'programs setups mods maps scripts servers profiles --launch --setup' ;;
+    --list) _lorvane3d_words 'programs setups mods maps scripts servers profiles' ;;
     --check | --export) _filedir ;;
     --import) _filedir lv3d ;;
     --help | --version) ;;
@@ -118,6 +118,8 @@ _lorvane3d() {
                 _lorvane3d_words '--help --version --list --launch --setup --check --export --import'
             elif [[ ${words[1]} == --list ]]; then
                 _lorvane3d_words '--launch --setup'
+            elif [[ ${words[1]} == --check ]]; then
+                _lorvane3d_words '--launch'
             else
                 _lorvane3d_words '--mod --map --script --server --profile --dry-run --tell'
             fi
