@@ -36,7 +36,8 @@ class SingleInstance {
     /// time is taken back. To be asked before Claim, or when that is refused.
     virtual Asked Ask(std::string_view /*request*/, int /*patienceMs*/) { return {}; }
 
-    /// What Ask of another start gets from this instance once it has the claim. Called where its knocks are answered.
+    /// What Ask of another start gets from this instance once it has the claim. Called where its knocks are answered,
+    /// and only while the other start still waits.
     std::function<std::string(std::string_view)> OnRequest;
 };
 

@@ -33,7 +33,7 @@ class LinuxInstance : public SingleInstance {
     [[nodiscard]] int Descriptor() const { return listener_; }
 
     /// Answers all who have knocked: calls OnRaise or OnRequest for each. Never waits long: who says nothing is hung up
-    /// on.
+    /// on. What somebody has asked who hung up meanwhile is not done.
     void Serve();
 
     std::function<void()> OnRaise;

@@ -132,7 +132,7 @@ void RequestPipe::Serve(const std::function<std::string(std::string_view)>& answ
         return;
     }
     const auto request = ReadRequest();
-    if (!request || !answer) {
+    if (!request || !answer || !ReadWaiting(pipe_)) {
         HangUp();
         return;
     }

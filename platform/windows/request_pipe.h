@@ -24,7 +24,8 @@ class RequestPipe {
     /// From now on others of this machine can ask; no other machine can. Nothing happens if the name is taken.
     void Open();
 
-    /// Answers one who has asked. Never waits long: who does not say what he wants is hung up on.
+    /// Answers one who has asked. Never waits long: who does not say what he wants is hung up on, and who
+    /// has gone gets nothing.
     void Serve(const std::function<std::string(std::string_view)>& answer);
 
     /// Asks the one who has opened the pipe of that name, as SingleInstance::Ask.

@@ -10,6 +10,7 @@
 #include <chrono>
 #include <optional>
 #include <thread>
+#include <vector>
 
 namespace lv {
 
@@ -80,6 +81,16 @@ class OtherProcess {
     pid_t child_ = -1;
     int pipe_ = -1;
 };
+
+/// Another process that asks, and ends with 0 if the answer is "done".
+pid_t AskFromAnotherProcess(const char* test, const char* request) {
+    const std::string config = ConfigOf(test);
+    const pid_t child = fork();
+    if (child == 0) {
+        _exit(LinuxInstance(config).Ask(request) == "done" ? 0 : 1);
+    }
+    return child;
+}
 
 double SecondsOf(const std::function<void()>& act) {
     const auto start = std::chrono::steady_clock::now();
@@ -189,6 +200,27 @@ TEST(LinuxInstance, AnswersWhatAnotherStartAsks) {
     EXPECT_EQ(second.Ask("", kPatienceMs).Answer, "<>");
     EXPECT_FALSE(second.Claim()) << "it still raises as well";
     EXPECT_EQ(first.Next(), 'r');
+}
+
+TEST(LinuxInstance, WhatSomebodyHasAskedWhoGaveUpIsNotDone) {
+    LinuxInstance first(ConfigOf("given_up"));
+    ASSERT_TRUE(first.Claim());
+    std::vector<std::string> done;
+    first.OnRequest = [&](std::string_view request) {
+        done.emplace_back(request);
+        return "done";
+    };
+    const pid_t impatient = AskFromAnotherProcess("given_up", "--import");
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    kill(impatient, SIGINT);
+    waitpid(impatient, nullptr, 0);
+    const pid_t patient = AskFromAnotherProcess("given_up", "--launch");
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    first.Serve();
+    int status = 0;
+    waitpid(patient, &status, 0);
+    EXPECT_EQ(done, std::vector<std::string>{"--launch"});
+    EXPECT_EQ(WEXITSTATUS(status), 0) << "who has waited is answered";
 }
 
 TEST(LinuxInstance, AsksAndAnswersInManyParts) {

@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
+#include <signal.h>
+
+#include <filesystem>
 
 #include "tests/program/program_run.h"
 #include "tests/program/screen.h"
+#include "tests/support/test_paths.h"
 
 namespace lv {
 
@@ -60,6 +64,25 @@ TEST(SecondInstance, IsNotKeptFromStartingByOneThatWasKilled) {
     ASSERT_NE(first.WaitForWindow(), "");
     first.Kill();
     ExpectAStartThatWorks(home);
+}
+
+TEST(SecondInstance, ThatWasInterruptedLaunchesNothingLater) {
+    ProgramHome home("second_interrupted");
+    home.Prepare();
+    home.Set("Options", "Executables", "Quake;c:\\quake\\quake.exe;Gone;c:\\gone\\gone.exe");
+    ProgramRun first(home);
+    ASSERT_NE(first.WaitForDialog("^Game Not Found...$"), "");
+    OwnProcess impatient(home, {TestBinaryDir() + "/lorvane3d", "--launch", "Quake"});
+    EXPECT_EQ(impatient.WaitForEnd(700), std::nullopt) << "it waits";
+    impatient.Signal(SIGINT);
+    EXPECT_TRUE(impatient.WaitForEnd().has_value());
+    PressKey("alt+g");
+    const std::string window = first.WaitForWindow();
+    ASSERT_NE(window, "");
+    ExpectASilentEnd(home);  // its knock stands behind the launch
+    EXPECT_FALSE(std::filesystem::exists(home.Quake / "lv_666.bat"));
+    EXPECT_TRUE(IsShown(window));
+    EXPECT_EQ(first.EndByF12(), 0);
 }
 
 TEST(SecondInstance, IsAProgramOfItsOwnWithOtherSettings) {

@@ -61,6 +61,21 @@ TEST(RequestPipe, WhoSaysNothingIsHungUpOn) {
     CloseHandle(silent);
 }
 
+TEST(RequestPipe, WhoHasGoneGetsNothing) {
+    const std::wstring name = NameOf(L"gone");
+    RequestPipe pipe(name);
+    pipe.Open();
+    HANDLE gone = CreateFileW(name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(gone, INVALID_HANDLE_VALUE);
+    DWORD written = 0;
+    ASSERT_NE(WriteFile(gone, "3\none", 5, &written, nullptr), 0);
+    CloseHandle(gone);
+    EXPECT_TRUE(ServeFor(pipe, 100, "yes").empty());
+    std::thread other([&] { EXPECT_EQ(RequestPipe::Ask(name, "two"), "yes") << "the next one is answered"; });
+    EXPECT_EQ(ServeFor(pipe, 500, "yes"), std::vector<std::string>{"two"});
+    other.join();
+}
+
 TEST(RequestPipe, WhatIsNoRequestIsNotAnswered) {
     for (const std::string said : {"x\n", "999999\nx", "-1\nx", "1x\ny"}) {
         const std::wstring name = NameOf(L"odd");
