@@ -189,13 +189,16 @@ class LorvaneApp : public wxApp {
             program_->Host->AnswerKnocks();
             if (program_->TheRun.Ended) {
                 End();
-            } else if (GameEndIsDue(program_->TheLauncher)) {
-                // Not in here: this timer must go on while a dialog is up.
+                return;
+            }
+            // Neither in here: this timer must go on while a dialog is up.
+            if (GameEndIsDue(program_->TheLauncher)) {
                 CallAfter([this] {
                     TellGameEnd(program_->TheLauncher);
                     program_->User.Refresh();
                 });
-            } else if (DropIsDue(program_->TheLauncher)) {
+            }
+            if (DropIsDue(program_->TheLauncher)) {
                 CallAfter([this] {
                     OfferDropped(program_->TheLauncher);
                     program_->User.Refresh();

@@ -84,4 +84,18 @@ TEST(OfferedWord, AnAddressIsShownAndJoinsNothingUnasked) {
     EXPECT_EQ(first.EndByF12(), 0);
 }
 
+TEST(OfferedWord, RightBehindALaunchIsOfferedAtOnce) {
+    ProgramHome home("offered_launched");
+    home.Prepare();
+    std::ofstream(home.Quake / "QUAKE.EXE", std::ios::binary | std::ios::trunc) << "#!/bin/sh\nsleep 30\n";
+    ProgramRun first(home);
+    ASSERT_NE(first.WaitForWindow(), "");
+    OwnProcess launch(home, StartIn(home.Root, "--launch=Quake"));
+    ASSERT_EQ(launch.WaitForEnd(), 0);
+    OwnProcess second(home, StartIn(home.Root, "quake://host.example:26000"));
+    EXPECT_EQ(second.WaitForEnd(), 0);
+    EXPECT_TRUE(WaitUntil([&] { return !ShownWindowsOf(first.Id(), kJoin).empty(); }, 4000))
+        << "not behind the ten seconds in which the game's end is looked for";
+}
+
 }  // namespace lv
