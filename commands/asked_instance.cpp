@@ -19,6 +19,19 @@ CommandResult Busy() {
     return {.Code = exit_code::kFailed, .Err = "The running Lorvane 3D is busy.\n"};
 }
 
+CommandResult NoteOffered(Launcher& window, const Text& word) {
+    const bool waits = DialogIsUp(window.run);
+    if (!NoteDropped(window, {.Word = word, .Count = 1, .Fault = {}})) {
+        return waits ? CommandResult{.Code = exit_code::kFailed,
+                                     .Err =
+                                         "The running Lorvane 3D has something else to offer as soon as the window "
+                                         "that is open in it is closed. Close that first.\n"}
+                     : Busy();
+    }
+    ComeForward(window);
+    return {.Out = waits ? "Lorvane 3D offers this as soon as the window that is open in it is closed.\n" : ""};
+}
+
 }  // namespace
 
 CommandResult NoAnswer() {
@@ -86,11 +99,7 @@ CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView
         return Busy();
     }
     if (IsToBeOffered(command.Value)) {
-        if (!NoteDropped(window, {.Word = command.Value.Subject, .Count = 1, .Fault = {}})) {
-            return Busy();
-        }
-        ComeForward(window);
-        return {};
+        return NoteOffered(window, command.Value.Subject);
     }
     const bool isImport = command.Value.What == Verb::Import;
     if (isImport && DialogIsUp(window.run)) {

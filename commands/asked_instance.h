@@ -32,7 +32,7 @@ bool IsForTheWindow(const Command& command);
 /// Does what another start asks of the program whose window this is. A file or an address is offered once the window,
 /// which comes forward, has time; a game that was started is this window's: it goes out of the way unless a dialog is
 /// up, and comes back at the game's end as after its own launch. Imported settings are shown at once; under a dialog
-/// they are refused.
+/// they are refused, and a file or an address waits until that is closed, which the other start is told.
 CommandResult DoForAnother(Launcher& window, const CommandPlace& place, TextView request);
 
 /// What a start was given goes to the instance that runs, where that was faster: Launcher::HandOver.

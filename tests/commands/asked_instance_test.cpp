@@ -120,12 +120,30 @@ TEST_F(AskedInstance, AFileWaitsAndTheWindowComesForward) {
     window.Visible = false;
     EXPECT_EQ(Ask({"--", "C:\\D\\mod.pak"}).Code, exit_code::kDone);
     EXPECT_EQ(launcher.Dropped.Word, "C:\\D\\mod.pak");
+    EXPECT_EQ(launcher.Dropped.Count, 1U);
     EXPECT_TRUE(window.Visible);
     EXPECT_TRUE(user.Asked.empty()) << "the other start does not wait for an answer";
     const CommandResult second = Ask({"qw://host"});
     EXPECT_EQ(second.Code, exit_code::kFailed);
     EXPECT_EQ(second.Err, "The running Lorvane 3D is busy.\n");
     EXPECT_EQ(launcher.Dropped.Word, "C:\\D\\mod.pak");
+}
+
+TEST_F(AskedInstance, UnderADialogAnAddressWaitsAndTheOtherStartIsTold) {
+    Open();
+    run.MainFormLoaded = true;
+    SuspendTopmost(run);
+    const CommandResult first = Ask({"qw://foo:1"});
+    EXPECT_EQ(first.Code, exit_code::kDone);
+    EXPECT_EQ(first.Out, "Lorvane 3D offers this as soon as the window that is open in it is closed.\n");
+    EXPECT_EQ(launcher.Dropped.Word, "qw://foo:1");
+    const CommandResult second = Ask({"--", "C:\\D\\ok.pak"});
+    EXPECT_EQ(second.Code, exit_code::kFailed);
+    EXPECT_EQ(second.Err,
+              "The running Lorvane 3D has something else to offer as soon as the window that is open in it is closed. "
+              "Close that first.\n");
+    EXPECT_EQ(launcher.Dropped.Word, "qw://foo:1") << "it stays";
+    ResumeTopmost(run);
 }
 
 TEST_F(AskedInstance, DuringALaunchOfItsOwnItIsBusy) {
