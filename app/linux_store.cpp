@@ -25,4 +25,17 @@ StoreWays OwnStore() {
             [file] { return Settled(SqliteSettings::OpenCopy(file)); }};
 }
 
+DriveDirectories OwnDrivesAsTheyAre() {
+    DriveDirectories drives = OwnDrives();
+    drives.areMade = false;
+    return drives;
+}
+
+StoreWays OwnStoreToRead() {
+    const auto read = [file = ConfigDirectory() / "settings.sqlite"] {
+        return Settled(SqliteSettings::OpenToRead(file));
+    };
+    return {read, read};
+}
+
 }  // namespace lv

@@ -12,4 +12,8 @@ namespace lv {
 DriveDirectories OwnDrives();
 StoreWays OwnStore();
 
+/// The same for who only reads: nothing is made, and the store need not allow to be written.
+DriveDirectories OwnDrivesAsTheyAre();
+StoreWays OwnStoreToRead();
+
 }  // namespace lv

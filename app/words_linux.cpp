@@ -20,12 +20,13 @@ namespace {
 
 /// The platform without a display.
 struct UnseenSystem {
-    explicit UnseenSystem(std::unique_ptr<SettingsBacking> store) : Settings(std::move(store)) {
+    UnseenSystem(std::unique_ptr<SettingsBacking> store, DriveDirectories drives)
+        : Settings(std::move(store)), Disk(std::move(drives)) {
         Services.Places = &Places;
     }
 
     std::unique_ptr<SettingsBacking> Settings;
-    LinuxFiles Disk{OwnDrives()};
+    LinuxFiles Disk;
     WineRegistry Registry{*Settings, FindWine()};
     LinuxProcesses Programs{Disk};
     NoClipboard Clip;
@@ -55,11 +56,12 @@ Text PathOfWord(Files& disk, TextView word) {
 
 CommandResult RunHere(const Command& command) {
     PrintingUser user;
-    auto store = OpenStore(user, OwnStore());
+    const bool reads = OnlyReads(command);
+    auto store = OpenStore(user, reads ? OwnStoreToRead() : OwnStore());
     if (!store) {
         return {.Code = exit_code::kFailed, .Err = Printed(user.Said())};
     }
-    UnseenSystem system(std::move(store));
+    UnseenSystem system(std::move(store), reads ? OwnDrivesAsTheyAre() : OwnDrives());
     return RunFor(system.Services, command, [&system](TextView word) { return PathOfWord(system.Disk, word); });
 }
 

@@ -48,6 +48,23 @@ bool NeedsNothing(const Command& command) {
     return command.What == Verb::Help || command.What == Verb::Version;
 }
 
+bool OnlyReads(const Command& command) {
+    switch (command.What) {
+        case Verb::Help:
+        case Verb::Version:
+        case Verb::List:
+        case Verb::Check:
+        case Verb::Export:
+            return true;
+        case Verb::Launch:
+            return command.DryRun;
+        case Verb::Import:
+        case Verb::OpenWindow:
+            break;
+    }
+    return false;
+}
+
 CommandResult AnswerAtOnce(const Command& command) {
     return {.Out = command.What == Verb::Help ? HelpText() : Join("Lorvane 3D ", VersionText(), "\n")};
 }

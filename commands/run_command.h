@@ -17,6 +17,11 @@ CommandResult NotUnderstood(const Error& fault);
 
 /// Whether a command needs nothing of the system: no settings, no drives.
 bool NeedsNothing(const Command& command);
+
+/// Whether a command only looks at the settings and the drives: it is to work where neither may be written, and to make
+/// nothing there. An export writes the one file that it names.
+bool OnlyReads(const Command& command);
+
 CommandResult AnswerAtOnce(const Command& command);
 
 }  // namespace lv

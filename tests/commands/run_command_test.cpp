@@ -43,5 +43,25 @@ TEST_F(RunCommandTest, OnlyHelpAndVersionNeedNothing) {
     EXPECT_FALSE(NeedsNothing(ReadCommand({"--list"}).Value));
 }
 
+TEST_F(RunCommandTest, WhatListsChecksRehearsesAndExportsOnlyReads) {
+    for (const std::vector<Text>& words : {std::vector<Text>{"--list"},
+                                           {"--list", "maps"},
+                                           {"--check", "a.cfg"},
+                                           {"--launch", "Quake", "--dry-run"},
+                                           {"--setup", "Evening", "--dry-run"},
+                                           {"--export", "a.lv3d"},
+                                           {"--help"},
+                                           {"--version"}}) {
+        EXPECT_TRUE(OnlyReads(ReadCommand(words).Value)) << words.front();
+    }
+    for (const std::vector<Text>& words : {std::vector<Text>{},
+                                           {"C:\\D\\mod.pak"},
+                                           {"--launch", "Quake"},
+                                           {"--setup", "Evening"},
+                                           {"--import", "a.lv3d"}}) {
+        EXPECT_FALSE(OnlyReads(ReadCommand(words).Value)) << words.size();
+    }
+}
+
 }  // namespace
 }  // namespace lv

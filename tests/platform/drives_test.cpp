@@ -236,6 +236,33 @@ TEST(DriveEntry, KnowsNothingButLetters) {
     EXPECT_EQ(DriveEntry(home.Directories, '\0'), std::nullopt);
 }
 
+TEST(DriveEntry, ThatIsNotMadeLeadsWhereItWouldLead) {
+    Home home;
+    home.Directories.areMade = false;
+    EXPECT_EQ(DriveEntry(home.Directories, 'c'), (home.Data / "drive_c").string());
+    EXPECT_EQ(DriveEntry(home.Directories, 'Z'), "/.");
+    EXPECT_EQ(DriveEntry(home.Directories, 'd'), std::nullopt);
+    EXPECT_EQ(DriveLetters(home.Directories), (std::vector<char>{'C', 'Z'}));
+    fs::create_directories(home.Scratch / "wine/drive_c");
+    EXPECT_EQ(DriveEntry(home.Directories, 'c'), (home.Scratch / "wine/drive_c").string());
+    EXPECT_FALSE(fs::exists(home.Data));
+}
+
+TEST(DriveEntry, ThatIsNotMendedLeadsWhereItWouldLead) {
+    Home home;
+    home.Directories.areMade = false;
+    fs::create_directories(home.Data / "drives");
+    fs::create_symlink("../drive_c", home.Data / "drives/c:");
+    fs::create_symlink("/nowhere/at/all", home.Data / "drives/z:");
+    fs::create_symlink("/media/gone", home.Data / "drives/e:");
+    EXPECT_EQ(DriveEntry(home.Directories, 'c'), (home.Data / "drive_c").string());
+    EXPECT_EQ(DriveEntry(home.Directories, 'z'), "/.");
+    EXPECT_EQ(DriveEntry(home.Directories, 'e'), (home.Data / "drives/e:").string()) << "its disk may not be in";
+    fs::create_directory(home.Data / "drive_c");
+    EXPECT_EQ(DriveEntry(home.Directories, 'c'), (home.Data / "drives/c:").string());
+    EXPECT_EQ(fs::read_symlink(home.Data / "drives/z:"), "/nowhere/at/all");
+}
+
 TEST(DriveLetters, AreThoseOfBothPlacesInOrder) {
     const Home home;
     for (const char* const name : {"x:", "c:"}) {

@@ -58,8 +58,12 @@ TEST(SettingsFaults, ShowAFileInTheProgramsOwnCharacters) {
 TEST(SettingsFaults, SayWhatCannotBeWrittenAndWhy) {
     ExpectError(UnwritableStore(ENOENT, "/x/s", "their directory"), 76,
                 Refused("their directory cannot be written. (Path not found)"));
-    ExpectError(UnwritableStore(EACCES, "/x/s", "the file"), 70,
-                Refused("the file cannot be written. (Permission denied)"));
+    ExpectError(
+        UnwritableStore(EACCES, "/x/s", "the file"), 70,
+        Refused(
+            "the file cannot be written. (Permission denied)\r\n\r\nGive yourself the right to write there, or name "
+            "another directory for settings in the variable XDG_CONFIG_HOME."));
+    ExpectError(UnreadableStore(EACCES, "/x/s"), 70, Refused("the file cannot be read. (Permission denied)"));
     ExpectError(UnwritableStore(ENOSPC, "/x/s", "the file"), 61, Refused("the file cannot be written. (Disk full)"));
 }
 

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <set>
+
 #include "tests/program/program_run.h"
 #include "tests/program/screen.h"
 #include "tests/support/game_yard.h"
@@ -24,6 +28,14 @@ Said Say(const ProgramHome& home, const std::string& words, const std::string& d
                               said + "' 2>&1 " + output});
     const auto code = run.WaitForEnd();
     return {code ? *code : -1, ReadBytes(said)};
+}
+
+std::set<std::string> FilesBelow(const std::filesystem::path& directory) {
+    std::set<std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(directory)) {
+        files.insert(entry.path().string());
+    }
+    return files;
 }
 
 }  // namespace
@@ -116,6 +128,39 @@ TEST(CommandLine, ADryRunTouchesNothing) {
     EXPECT_NE(dry.Text.find("    " + (home.Quake / "lv_666.bat").string() + " ("), std::string::npos) << dry.Text;
     EXPECT_FALSE(std::filesystem::exists(home.Quake / "lv_666.bat"));
     EXPECT_EQ(RowsOf(home.Settings), before);
+}
+
+TEST(CommandLine, WhatOnlyReadsLeavesTheStoreItselfAlone) {
+    ProgramHome home("words_read");
+    home.Prepare();
+    const std::string store = ReadBytes(home.Settings);
+    const auto written = std::filesystem::last_write_time(home.Settings);
+    const auto files = FilesBelow(home.Root);
+    std::ofstream(home.Root / "my.cfg") << "bind x +jump\n";
+    EXPECT_EQ(Say(home, "--list").Code, 0);
+    EXPECT_EQ(Say(home, "--list maps").Code, 0);
+    EXPECT_EQ(Say(home, "--dry-run --launch Quake").Code, 0);
+    EXPECT_EQ(Say(home, "--check '" + (home.Root / "my.cfg").string() + "'").Code, 0);
+    EXPECT_EQ(Say(home, "--export '" + (home.Root / "all.lv3d").string() + "'").Code, 0);
+    EXPECT_EQ(ReadBytes(home.Settings), store);
+    EXPECT_EQ(std::filesystem::last_write_time(home.Settings), written);
+    for (const char* const made : {"my.cfg", "all.lv3d", "said.txt"}) {
+        std::filesystem::remove(home.Root / made);
+    }
+    EXPECT_EQ(FilesBelow(home.Root), files);
+}
+
+TEST(CommandLine, WhatOnlyReadsMakesNothingInAnEmptyHome) {
+    ProgramHome home("words_empty");
+    std::ofstream(home.Root / "my.cfg") << "bind x +jump\n";
+    const auto files = FilesBelow(home.Root);
+    EXPECT_EQ(Say(home, "--list").Code, 0);
+    const Said dry = Say(home, "--dry-run --launch Quake");
+    EXPECT_EQ(dry.Code, 1);
+    EXPECT_NE(dry.Text.find("No games are set up yet."), std::string::npos) << dry.Text;
+    EXPECT_EQ(Say(home, "--check '" + (home.Root / "my.cfg").string() + "'").Code, 0);
+    std::filesystem::remove(home.Root / "said.txt");
+    EXPECT_EQ(FilesBelow(home.Root), files);
 }
 
 TEST(CommandLine, ARunningWindowLaunchesAndGoesOutOfTheWay) {

@@ -122,6 +122,19 @@ int MendTheWayToTheProgram(const DriveDirectories& directories) {
     return unused == '\0' ? 0 : MakeLink("/", directories.drives / std::string{unused, ':'});
 }
 
+// Where the links of the first drives lead that are not made.
+std::optional<std::string> UnmadeDrive(const DriveDirectories& directories, char letter) {
+    if (letter == 'z') {
+        return "/.";  // a root is followed by "/" and the path below it
+    }
+    if (letter != 'c') {
+        return std::nullopt;
+    }
+    const fs::path ofWine = directories.winePrefix / "drive_c";
+    const bool sharesWines = !directories.winePrefix.empty() && IsDirectoryAt(ofWine);
+    return (sharesWines ? ofWine : directories.drives.parent_path() / "drive_c").string();
+}
+
 }  // namespace
 
 Error MakeFirstDrives(const DriveDirectories& directories) {
@@ -179,12 +192,14 @@ std::optional<std::string> DriveEntry(const DriveDirectories& directories, char 
         return std::nullopt;
     }
     const std::string name = {letter, ':'};
+    const bool mayBeMended = letter == 'c' || letter == 'z';
     for (const fs::path& home : {directories.drives, directories.winePrefix / "dosdevices"}) {
-        if (EntryExists(home / name)) {
+        const bool counts = directories.areMade || !mayBeMended || IsDirectoryAt(home / name);
+        if (counts && EntryExists(home / name)) {
             return (home / name).string();
         }
     }
-    return std::nullopt;
+    return directories.areMade ? std::nullopt : UnmadeDrive(directories, letter);
 }
 
 std::vector<char> DriveLetters(const DriveDirectories& directories) {

@@ -18,6 +18,7 @@ struct DriveDirectories {
     std::filesystem::path drives;            // holds "c:" and its like; "drive_c" is made beside it
     std::filesystem::path winePrefix;        // its "dosdevices" is looked at, never written
     std::filesystem::path programDirectory;  // where the program and its data lie
+    bool areMade = true;                     // false: nothing is made or mended, and what would be counts as made
 };
 
 /// Makes "c:", a link to the Wine prefix's drive C: where there is one and to the plain directory "drive_c" beside

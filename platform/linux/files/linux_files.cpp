@@ -25,6 +25,9 @@ std::string DirectoryOf(const std::string& hostPath) {
 }  // namespace
 
 LinuxFiles::LinuxFiles(DriveDirectories directories) : directories_(std::move(directories)) {
+    if (!directories_.areMade) {
+        return;
+    }
     Error failed = MakeFirstDrives(directories_);
     if (!failed) {
         failed = MendDrives(directories_);

@@ -23,7 +23,7 @@ namespace lv {
 /// host would allow that to the owner of its directory.
 class LinuxFiles : public Files {
   public:
-    /// Makes the first drives if need be, and mends what a start needs of them.
+    /// Makes the first drives if need be, and mends what a start needs of them, if they are to be made.
     explicit LinuxFiles(DriveDirectories directories);
 
     /// What kept the drives from being made or mended, if anything did. The text names their directory.

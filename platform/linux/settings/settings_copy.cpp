@@ -1,7 +1,12 @@
 #include "platform/linux/settings/settings_copy.h"
 
+#include <fcntl.h>
 #include <sqlite3.h>
+#include <unistd.h>
 
+#include <array>
+#include <cerrno>
+#include <fstream>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -17,6 +22,7 @@ namespace fs = std::filesystem;
 
 enum class Way {
     kAsOthersDo,
+    kReadOnly,
     kWithoutSharedFile,  // the one that all users of a log share, which may have found no room
     kWithoutLog,         // which may have found none either
 };
@@ -52,7 +58,7 @@ Database OpenedToBeRead(const fs::path& file, Way way) {
     if (way == Way::kWithoutLog) {
         return Opened(UriOf(file) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
     }
-    Database database = Opened(file.string(), SQLITE_OPEN_READWRITE);
+    Database database = Opened(file.string(), way == Way::kReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
     if (database != nullptr && way == Way::kWithoutSharedFile) {
         Execute(database.get(), "PRAGMA locking_mode = EXCLUSIVE");
     }
@@ -96,23 +102,103 @@ Error CopyStored(const fs::path& file, Way way, sqlite3* memory) {
     return CopyRows(stored.get(), memory);
 }
 
-}  // namespace
+bool IsThere(const fs::path& file) {
+    std::error_code failed;
+    return fs::exists(file, failed);
+}
 
-Result<Database> CopySettingsFile(const fs::path& file) {
+bool MayWriteIn(const fs::path& directory) {
+    return faccessat(AT_FDCWD, directory.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+/// Whether somebody has begun something beside the file: a log, or a journal.
+bool HasCompany(const fs::path& file) {
+    return IsThere(file.string() + "-wal") || IsThere(file.string() + "-shm") || IsThere(file.string() + "-journal");
+}
+
+/// By the versions that its head asks of who writes and reads it.
+bool KeepsALog(const fs::path& file) {
+    constexpr std::size_t kVersions = 18;
+    constexpr char kOfALog = 2;
+    std::array<char, kVersions + 2> head{};
+    std::ifstream in(file, std::ios::binary);
+    return in.read(head.data(), head.size()) && head[kVersions] == kOfALog && head[kVersions + 1] == kOfALog;
+}
+
+struct FileState {
+    fs::file_time_type Written;
+    std::uintmax_t Size = 0;
+    friend bool operator==(const FileState&, const FileState&) = default;
+};
+
+FileState StateOf(const fs::path& file) {
+    std::error_code failed;
+    return {fs::last_write_time(file, failed), fs::file_size(file, failed)};
+}
+
+// A store with a log that nobody has open has none beside it, and SQLite would make one to read it. Without a lock, so
+// it is looked afterwards whether somebody came in between; a store with a rollback journal is read under its lock.
+bool CopyQuietly(const fs::path& file, sqlite3* memory, Error& fault) {
+    if (HasCompany(file) || !KeepsALog(file)) {
+        return false;
+    }
+    const FileState before = StateOf(file);
+    fault = CopyStored(file, Way::kWithoutLog, memory);
+    return !HasCompany(file) && StateOf(file) == before;
+}
+
+Error CopyReading(const fs::path& file, sqlite3* memory) {
+    Error fault;
+    if (CopyQuietly(file, memory, fault)) {
+        return fault;
+    }
+    fault = CopyStored(file, Way::kReadOnly, memory);
+    if (fault.Number == error::kPermissionDenied) {
+        fault = CopyStored(file, MayWriteIn(file.parent_path()) ? Way::kAsOthersDo : Way::kWithoutLog, memory);
+    }
+    return fault;
+}
+
+/// A store in memory without a row.
+Result<Database> EmptyStore(const fs::path& file) {
     Database memory = Opened(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     if (memory == nullptr) {
         return StoreRefusal(error::kDeviceFault, file, "there is no memory left.");
     }
-    Error fault = CheckLayout(memory.get(), file);
-    if (fault || !Holds(file)) {
-        return fault ? Result<Database>(fault) : std::move(memory);
+    if (Error fault = CheckLayout(memory.get(), file)) {
+        return fault;
     }
-    fault = CopyStored(file, Way::kAsOthersDo, memory.get());
+    return memory;
+}
+
+}  // namespace
+
+Result<Database> CopySettingsFile(const fs::path& file) {
+    Result<Database> memory = EmptyStore(file);
+    if (!memory.Ok() || !Holds(file)) {
+        return memory;
+    }
+    Error fault = CopyStored(file, Way::kAsOthersDo, memory.Value.get());
     if (fault) {
-        fault = CopyStored(file, Way::kWithoutSharedFile, memory.get());
+        fault = CopyStored(file, Way::kWithoutSharedFile, memory.Value.get());
     }
     if (fault && !Holds(file.string() + "-wal")) {
-        fault = CopyStored(file, Way::kWithoutLog, memory.get());
+        fault = CopyStored(file, Way::kWithoutLog, memory.Value.get());
+    }
+    return fault ? Result<Database>(fault) : std::move(memory);
+}
+
+Result<Database> ReadSettingsFile(const fs::path& file) {
+    Result<Database> memory = EmptyStore(file);
+    if (!memory.Ok()) {
+        return memory;
+    }
+    if (faccessat(AT_FDCWD, file.c_str(), R_OK, AT_EACCESS) != 0) {
+        return errno == ENOENT ? std::move(memory) : Result<Database>(UnreadableStore(errno, file));
+    }
+    Error fault = CheckSettingsHead(file);
+    if (!fault && Holds(file)) {
+        fault = CopyReading(file, memory.Value.get());
     }
     return fault ? Result<Database>(fault) : std::move(memory);
 }

@@ -14,6 +14,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* kAdviceOnRights =
+    "\r\n\r\nGive yourself the right to write there, or name another directory for settings in the variable "
+    "XDG_CONFIG_HOME.";
+
 Error FaultOfDevice(sqlite3* database) {
     // The file that all users of a log share could not get its size: nothing but a full disk does that alone.
     const bool noRoom = sqlite3_extended_errcode(database) == SQLITE_IOERR_SHMSIZE ||
@@ -48,7 +52,15 @@ Error DamagedDatabase(const fs::path& file) {
 
 Error UnwritableStore(int number, const fs::path& file, const char* what) {
     const Error fault = number == ENOENT ? MakeError(error::kPathNotFound) : ErrorOf(number);
-    return StoreRefusal(fault.Number, file, std::string(what) + " cannot be written. (" + fault.Text + ")");
+    const bool isForbidden = number == EACCES || number == EPERM || number == EROFS;
+    return StoreRefusal(
+        fault.Number, file,
+        std::string(what) + " cannot be written. (" + fault.Text + ")" + (isForbidden ? kAdviceOnRights : ""));
+}
+
+Error UnreadableStore(int number, const fs::path& file) {
+    const Error fault = ErrorOf(number);
+    return StoreRefusal(fault.Number, file, "the file cannot be read. (" + fault.Text + ")");
 }
 
 Error LockedStore(const fs::path& file) {

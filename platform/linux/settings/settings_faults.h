@@ -23,8 +23,12 @@ Error NewerLayout(const std::filesystem::path& file);
 Error NoDatabase(const std::filesystem::path& file);
 Error DamagedDatabase(const std::filesystem::path& file);
 
-/// `what` ("the file", "their directory") cannot be written, for that `errno`.
+/// `what` ("the file", "their directory") cannot be written, for that `errno`; and what the user can do if that is a
+/// matter of rights.
 Error UnwritableStore(int number, const std::filesystem::path& file, const char* what);
+
+/// The file cannot be read, for that `errno`.
+Error UnreadableStore(int number, const std::filesystem::path& file);
 
 /// Another program keeps this one out: 55, with its name if the system tells it.
 Error LockedStore(const std::filesystem::path& file);

@@ -100,8 +100,25 @@ bool IsCutOff(const Head& head, const fs::path& file) {
     return IsShort(head, file) && !HasLog(file) && IsShort(head, file);
 }
 
+// Writes a page as it is. With a log nobody waits for the disk: it is synced with the first value that is saved. A lock
+// is no matter here.
+Error FindOutWhetherThereIsRoom(sqlite3* database, const fs::path& file, bool hasLog) {
+    sqlite3_busy_timeout(database, 0);
+    Execute(database, hasLog ? "PRAGMA synchronous = OFF" : "PRAGMA synchronous = EXTRA");
+    const bool written = Execute(database, "BEGIN IMMEDIATE") &&
+                         Execute(database, ("PRAGMA user_version = " + Ask(database, "PRAGMA user_version")).c_str()) &&
+                         Execute(database, "COMMIT");
+    const Error fault = written ? Error() : FaultOf(database);
+    if (sqlite3_get_autocommit(database) == 0) {
+        Execute(database, "ROLLBACK");
+    }
+    return fault.Number == error::kDiskFull ? StoreRefusal(fault.Number, file, "the disk is full.") : Error();
+}
+
+}  // namespace
+
 // Looks at the file's head itself: SQLite would touch what lies beside the file before it refuses.
-Error CheckHead(const fs::path& file) {
+Error CheckSettingsHead(const fs::path& file) {
     struct stat info {};
     if (stat(file.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) {
         return NoDatabase(file);
@@ -123,23 +140,6 @@ Error CheckHead(const fs::path& file) {
     return newer ? NewerLayout(file) : Error();
 }
 
-// Writes a page as it is. With a log nobody waits for the disk: it is synced with the first value that is saved. A lock
-// is no matter here.
-Error FindOutWhetherThereIsRoom(sqlite3* database, const fs::path& file, bool hasLog) {
-    sqlite3_busy_timeout(database, 0);
-    Execute(database, hasLog ? "PRAGMA synchronous = OFF" : "PRAGMA synchronous = EXTRA");
-    const bool written = Execute(database, "BEGIN IMMEDIATE") &&
-                         Execute(database, ("PRAGMA user_version = " + Ask(database, "PRAGMA user_version")).c_str()) &&
-                         Execute(database, "COMMIT");
-    const Error fault = written ? Error() : FaultOf(database);
-    if (sqlite3_get_autocommit(database) == 0) {
-        Execute(database, "ROLLBACK");
-    }
-    return fault.Number == error::kDiskFull ? StoreRefusal(fault.Number, file, "the disk is full.") : Error();
-}
-
-}  // namespace
-
 void DatabaseCloser::operator()(sqlite3* database) const {
     sqlite3_close(database);
 }
@@ -148,7 +148,7 @@ Result<Database> OpenSettingsFile(const fs::path& file, int patience) {
     if (Error refused = CheckPlace(file)) {
         return refused;
     }
-    if (Error refused = CheckHead(file)) {
+    if (Error refused = CheckSettingsHead(file)) {
         return refused;
     }
     sqlite3* opened = nullptr;

@@ -22,6 +22,10 @@ struct DatabaseCloser {
 };
 using Database = std::unique_ptr<sqlite3, DatabaseCloser>;
 
+/// What the file's first bytes say against it, without touching it or what lies beside it: error 75. Nothing against an
+/// empty file.
+Error CheckSettingsHead(const std::filesystem::path& file);
+
 /// Opens the store, and makes it and its directory, for this user alone, if they are not there. A file that is no
 /// database, is damaged, has another layout or cannot be written is left as it is. The error's text says so and names
 /// the file. Errors: 75 not a store that can be used, 70 no access, 76 no directory, 61 no room for a single value,

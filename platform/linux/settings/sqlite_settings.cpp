@@ -61,6 +61,14 @@ Result<std::unique_ptr<SqliteSettings>> SqliteSettings::OpenCopy(const std::file
     return std::make_unique<SqliteSettings>(std::move(copied.Value));
 }
 
+Result<std::unique_ptr<SqliteSettings>> SqliteSettings::OpenToRead(const std::filesystem::path& file) {
+    Result<Database> read = ReadSettingsFile(file);
+    if (!read.Ok()) {
+        return read.Fault;
+    }
+    return std::make_unique<SqliteSettings>(std::move(read.Value));
+}
+
 SqliteSettings::SqliteSettings(Database database, int patience) : database_(std::move(database)), patience_(patience) {}
 
 SqliteSettings::~SqliteSettings() {

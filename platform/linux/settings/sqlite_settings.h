@@ -31,6 +31,9 @@ class SqliteSettings : public SettingsBacking {
     /// What is stored, in memory; see CopySettingsFile.
     static Result<std::unique_ptr<SqliteSettings>> OpenCopy(const std::filesystem::path& file);
 
+    /// The same, and nothing changes on the disk; see ReadSettingsFile.
+    static Result<std::unique_ptr<SqliteSettings>> OpenToRead(const std::filesystem::path& file);
+
     explicit SqliteSettings(Database database, int patience = kPatience);
     ~SqliteSettings() override;
     SqliteSettings(const SqliteSettings&) = delete;
