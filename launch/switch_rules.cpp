@@ -57,14 +57,14 @@ bool IsBaseDirectory(TextView mod, const LaunchGame& game) {
     return game.GameKind != Game::Unreal && !base.empty() && mod == Join("-game ", LowerCase(base));
 }
 
-Text ConnectText(const ServerAddress& server) {
+Text ConnectText(const JoinedServer& server) {
     const Text connect = Join("connect ", server.HostAndPort, NewLine);
     return server.Password.empty() ? connect : Join("password ", server.Password, NewLine, connect, NewLine);
 }
 
 /// "+", the connect text without its last line end, and a blank. With a password the line breaks stand inside the
 /// command line; Half-Life wants it so.
-void ConnectHalfLife(const ServerAddress& server, LaunchTexts& texts) {
+void ConnectHalfLife(const JoinedServer& server, LaunchTexts& texts) {
     texts.GameCommand += "+";
     if (!server.Password.empty()) {
         texts.GameCommand += "password ";
@@ -77,7 +77,7 @@ void ConnectHalfLife(const ServerAddress& server, LaunchTexts& texts) {
     texts.GameCommand += server.Password.empty() ? Text(Blank) : Join(NewLine, Blank);
 }
 
-void ConnectTo(const ServerAddress& server, const Composition& c) {
+void ConnectTo(const JoinedServer& server, const Composition& c) {
     if (c.Game.GameKind == Game::Unreal) {
         GivenWord word = AsItStands(server.HostAndPort);
         word.At = InsertBehindExecutable(c, server.HostAndPort);
@@ -97,7 +97,7 @@ void ConnectTo(const ServerAddress& server, const Composition& c) {
 
 }  // namespace
 
-ServerAddress ServerOf(TextView record) {
+JoinedServer ServerOf(TextView record) {
     const Text host = FieldOf(record, 0);
     const Text port = FieldOf(record, 1);
     return {port.empty() ? host : Join(host, ":", port), FieldOf(record, 3)};

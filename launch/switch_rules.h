@@ -8,13 +8,13 @@
 
 namespace lv {
 
-struct ServerAddress {
+struct JoinedServer {
     Text HostAndPort;  // "host:port", or the host alone
     Text Password;
 };
 
 /// Of a record of the catalog without its title, "host;port;type;password".
-ServerAddress ServerOf(TextView record);
+JoinedServer ServerOf(TextView record);
 
 /// In double quotes if it holds a blank.
 Text QuotedIfBlank(TextView name);

@@ -128,7 +128,8 @@ struct MemoryPlatform {
     MemoryDesktop Windows;
     MemoryKnownPlaces Places;
     MemoryShortcuts Launchers;
-    Platform Services{Settings, Registry, Disk, Programs, Clip, Time, nullptr, &Windows, &Places, &Launchers};
+    Platform Services{Settings, Registry, Disk,    Programs, Clip,    Time,
+                      nullptr,  &Windows, &Places, nullptr,  nullptr, &Launchers};
 };
 
 }  // namespace lv
