@@ -26,6 +26,7 @@ constexpr int kGap = 8;
 constexpr int kWidth = 860;  // of the lists, at 100 %
 constexpr int kRowsHeight = 300;
 constexpr int kListHeight = 120;
+constexpr int kLossesHeight = 150;  // half of the rows below them, however high the window is
 
 wxFont FixedWidth(const wxWindow& window) {
     return wxFontInfo(window.GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE);
@@ -150,8 +151,9 @@ std::unique_ptr<wxDialog> MakeScriptText(wxWindow* owner, ScriptText_Frm& script
 std::unique_ptr<wxDialog> MakeChanges(wxWindow* owner, Changes_Frm& changes) {
     auto form = std::make_unique<LookForm>(owner, changes, [&changes] { Changes_Close_Cmd_Click(changes); });
     form->AddWide(form->MakeLabel(form.get(), "Losses_Lbl", changes.Losses_Lbl));
-    form->AddList("Losses_Lst", changes.Losses_Lst, "What the save changes for the game",
-                  [&changes] { Changes_Losses_Lst_Click(changes); });
+    form->AddList(
+        "Losses_Lst", changes.Losses_Lst, "What the save changes for the game",
+        [&changes] { Changes_Losses_Lst_Click(changes); }, kLossesHeight);
     form->AddWide(form->MakeLabel(form.get(), "Difference_Lbl", changes.Difference_Lbl));
     form->AddDifference("Difference_Lst", changes.Difference_Lst, "The file and what is saved");
     form->AddButtons(

@@ -137,6 +137,25 @@ TEST_F(FigLooks, ListsGrowWithTheirWindow) {
     });
 }
 
+TEST_F(FigLooks, TheLossesKeepAThirdOfAHighWindow) {
+    Use(kGames[0], kLosing);
+    Edit([&] {
+        Turn(EditorPage::SaveAndExit);
+        DoAndAnswer([] { ClickOn(Find("ShowChanges_Cmd")); },
+                    [&] {
+                        wxWindow* const losses = Find("Losses_Lst");
+                        const wxWindow* const lines = Find("Difference_Lst");
+                        const int before = losses->GetSize().y;
+                        wxWindow* const window = wxGetTopLevelParent(losses);
+                        window->SetSize(window->GetSize() + wxSize(0, 90));
+                        SettleUntil([&] { return losses->GetSize().y > before; }, 1000);
+                        EXPECT_GE(losses->GetSize().y, before + 90 / 3 - 2);
+                        EXPECT_GE(losses->GetSize().y * 2 + 20, lines->GetSize().y);
+                        PressKey(WXK_ESCAPE);
+                    });
+    });
+}
+
 TEST_F(FigLooks, AnOlderVersionIsBroughtBackAndUndone) {
     Use(kGames[0], "bind x +attack\n");
     const Text first = File();
