@@ -37,6 +37,9 @@ class SettingsBacking {
     virtual Error Write(std::string_view application, std::string_view section, std::string_view key,
                         std::string_view value) = 0;
 
+    /// Takes the value away, and what is not there is no error. In a group it goes with the others. Errors as Write.
+    virtual Error Remove(std::string_view application, std::string_view section, std::string_view key) = 0;
+
     /// All values of the application, in no particular order; in a group, those that it has written as well. Names that
     /// Read could not be asked for, as code page 1252 has not all of their characters, are left out. Errors: 70
     /// permission denied, 55 another program holds the store, 57 anything else of the device.
@@ -46,6 +49,13 @@ class SettingsBacking {
     /// keys of a fresh profile.
     virtual void BeginGroup() {}
     virtual Error EndGroup() { return {}; }
+
+    /// As BeginGroup, and until that group's end no other program writes a group: what is read in it is still so when
+    /// it becomes durable. Waits for another's as Write does. Errors as Write; then no group has begun.
+    virtual Error BeginAlone() {
+        BeginGroup();
+        return {};
+    }
 
     /// Asked when another program has held the store for a second; the reason names it. True waits once more. After a
     /// false what was to be done fails with 55, and so does all that follows, without a wait and without a question,

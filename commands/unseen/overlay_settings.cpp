@@ -31,7 +31,10 @@ bool OverlaySettings::GoesThrough(std::string_view section, const std::string& n
 std::optional<std::string> OverlaySettings::Read(std::string_view application, std::string_view section,
                                                  std::string_view key) {
     const auto written = written_.find(LowerCase(Join(application, "\n")) + KeyOf(section, key));
-    return written != written_.end() ? written->second.Value.Value : below_.Read(application, section, key);
+    if (written == written_.end()) {
+        return below_.Read(application, section, key);
+    }
+    return written->second.IsGone ? std::nullopt : std::optional(written->second.Value.Value);
 }
 
 Error OverlaySettings::Write(std::string_view application, std::string_view section, std::string_view key,
@@ -44,6 +47,18 @@ Error OverlaySettings::Write(std::string_view application, std::string_view sect
     }
     written_[LowerCase(Join(application, "\n")) + name] = {
         std::string(application), {std::string(section), std::string(key), std::string(value)}};
+    return {};
+}
+
+Error OverlaySettings::Remove(std::string_view application, std::string_view section, std::string_view key) {
+    const std::string name = KeyOf(section, key);
+    if (GoesThrough(section, name)) {
+        if (Error failed = below_.Remove(application, section, key)) {
+            return failed;
+        }
+    }
+    written_[LowerCase(Join(application, "\n")) + name] = {
+        std::string(application), {std::string(section), std::string(key), {}}, true};
     return {};
 }
 
@@ -60,7 +75,7 @@ Result<std::vector<StoredValue>> OverlaySettings::All(std::string_view applicati
         }
     }
     for (const auto& [name, written] : written_) {
-        if (SameText(written.Application, application)) {
+        if (!written.IsGone && SameText(written.Application, application)) {
             values.push_back(written.Value);
         }
     }

@@ -26,12 +26,14 @@ class OverlaySettings : public SettingsBacking {
                                     std::string_view key) override;
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
+    Error Remove(std::string_view application, std::string_view section, std::string_view key) override;
     Result<std::vector<StoredValue>> All(std::string_view application) override;
 
   private:
     struct Written {
         std::string Application;
         StoredValue Value;
+        bool IsGone = false;
     };
     [[nodiscard]] bool GoesThrough(std::string_view section, const std::string& name) const;
 

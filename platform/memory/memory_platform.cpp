@@ -54,8 +54,16 @@ Error MemorySettings::EndGroup() {
     return failed;
 }
 
-Error MemorySettings::Write(std::string_view application, std::string_view section, std::string_view key,
-                            std::string_view value) {
+Error MemorySettings::BeginAlone() {
+    if (RefuseAlone) {
+        return RefuseAlone;
+    }
+    WhenAlone();
+    BeginGroup();
+    return {};
+}
+
+Error MemorySettings::FaultOfWrite() {
     while (Locked) {
         if (!question_ || !question_(Locked)) {
             groupFault_ = Locked;
@@ -64,7 +72,14 @@ Error MemorySettings::Write(std::string_view application, std::string_view secti
     }
     if (RefuseWrites) {
         groupFault_ = RefuseWrites;
-        return RefuseWrites;
+    }
+    return RefuseWrites;
+}
+
+Error MemorySettings::Write(std::string_view application, std::string_view section, std::string_view key,
+                            std::string_view value) {
+    if (Error failed = FaultOfWrite()) {
+        return failed;
     }
     auto& stored = values_[StoreKey(application, section, key)];
     if (stored.Value.Key.empty()) {
@@ -72,6 +87,16 @@ Error MemorySettings::Write(std::string_view application, std::string_view secti
     }
     stored.Value.Value = value;
     Log.push_back(std::string(section) + '|' + std::string(key) + '|' + std::string(value));
+    return {};
+}
+
+Error MemorySettings::Remove(std::string_view application, std::string_view section, std::string_view key) {
+    if (Error failed = FaultOfWrite()) {
+        return failed;
+    }
+    if (values_.erase(StoreKey(application, section, key)) > 0) {
+        Log.push_back('-' + std::string(section) + '|' + std::string(key));
+    }
     return {};
 }
 

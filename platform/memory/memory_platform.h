@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -25,20 +26,26 @@ class MemorySettings : public SettingsBacking {
                                     std::string_view key) override;
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
+    Error Remove(std::string_view application, std::string_view section, std::string_view key) override;
     Result<std::vector<StoredValue>> All(std::string_view application) override;
     void BeginGroup() override;
+    Error BeginAlone() override;
     Error EndGroup() override;
     void WhenLocked(LockedQuestion question) override { question_ = std::move(question); }
 
-    /// Each write, as "section|key|value", in order.
+    /// Each write, as "section|key|value", in order; of what is taken away "-section|key".
     std::vector<std::string> Log;
     Error RefuseWrites;
     Error RefuseGroups;  // at their end
     Error RefuseReads;   // of all values at once
-    Error Locked;        // another program holds the store: each write asks, and a question may clear this
+    Error RefuseAlone;
+    std::function<void()> WhenAlone = [] {};  // called once nobody else writes
+    Error Locked;  // another program holds the store: each write asks, and a question may clear this
     [[nodiscard]] std::size_t Count() const { return values_.size(); }
 
   private:
+    Error FaultOfWrite();
+
     struct Stored {
         std::string Application;
         StoredValue Value;

@@ -79,6 +79,17 @@ LSTATUS WriteText(const std::wstring& path, const std::wstring& name, const std:
     return failed != ERROR_SUCCESS ? failed : key.SetText(name, value);
 }
 
+LSTATUS DeleteValue(const std::wstring& path, const std::wstring& name) {
+    RegistryKeyHandle key;
+    LSTATUS failed = key.Open(path, KEY_SET_VALUE);
+    failed = failed == ERROR_SUCCESS ? key.Delete(name) : failed;
+    return failed == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : failed;
+}
+
+LSTATUS Put(const std::wstring& path, const std::wstring& name, const std::optional<std::wstring>& value) {
+    return value ? WriteText(path, name, *value) : DeleteValue(path, name);
+}
+
 LSTATUS WriteNote(const std::wstring& path, const std::vector<FormerValue>& former) {
     RegistryKeyHandle key;
     const LSTATUS failed = key.OpenOrMake(path, KEY_SET_VALUE);
@@ -106,8 +117,10 @@ void TakeBackUnfinished(const std::wstring& notePath) {
     }
 }
 
+}  // namespace
+
 // Nobody else of this user's writes a group, or takes one back, while this lives. A process that dies lets go.
-class GroupLock {
+class RegistrySettings::GroupLock {
   public:
     GroupLock() {
         std::array<wchar_t, 257> user{};
@@ -134,8 +147,6 @@ class GroupLock {
     bool mayGoOn_ = false;
 };
 
-}  // namespace
-
 RegistrySettings::RegistrySettings(std::string_view application)
     : notePath_(ToWide(std::string(kSettings) + std::string(application))) {
     const GroupLock lock;
@@ -150,7 +161,7 @@ std::optional<std::string> RegistrySettings::Read(std::string_view application, 
         return std::nullopt;
     }
     if (const auto held = held_.find(HeldKey(application, section, key)); held != held_.end()) {
-        return FromWideLossy(held->second.Value);
+        return held->second.Value ? std::optional(FromWideLossy(*held->second.Value)) : std::nullopt;
     }
     RegistryKeyHandle opened;
     RawRegistryValue value;
@@ -161,8 +172,19 @@ std::optional<std::string> RegistrySettings::Read(std::string_view application, 
     return FromWideLossy(value.Text);
 }
 
+RegistrySettings::~RegistrySettings() = default;
+
 Error RegistrySettings::Write(std::string_view application, std::string_view section, std::string_view key,
                               std::string_view value) {
+    return Change(application, section, key, value);
+}
+
+Error RegistrySettings::Remove(std::string_view application, std::string_view section, std::string_view key) {
+    return Change(application, section, key, std::nullopt);
+}
+
+Error RegistrySettings::Change(std::string_view application, std::string_view section, std::string_view key,
+                               std::optional<std::string_view> value) {
     if (depth_ > 0 && groupFault_) {
         return groupFault_;
     }
@@ -174,11 +196,12 @@ Error RegistrySettings::Write(std::string_view application, std::string_view sec
         }
         return failed;
     }
+    const auto text = value ? std::optional(ToWide(*value)) : std::nullopt;
     if (depth_ == 0) {
-        return ErrorOfStore(WriteText(PathOf(application, section), ToWide(key), ToWide(value)));
+        return ErrorOfStore(Put(PathOf(application, section), ToWide(key), text));
     }
     held_[HeldKey(application, section, key)] = {
-        {std::string(section), std::string(key), {}}, PathOf(application, section), ToWide(key), ToWide(value)};
+        {std::string(section), std::string(key), {}}, PathOf(application, section), ToWide(key), text};
     return {};
 }
 
@@ -206,7 +229,9 @@ Result<std::vector<StoredValue>> RegistrySettings::All(std::string_view applicat
         std::erase_if(values, [&held = held.Names](const StoredValue& value) {
             return SameText(value.Section, held.Section) && SameText(value.Key, held.Key);
         });
-        values.push_back({held.Names.Section, held.Names.Key, FromWideLossy(held.Value)});
+        if (held.Value) {
+            values.push_back({held.Names.Section, held.Names.Key, FromWideLossy(*held.Value)});
+        }
     }
     return values;
 }
@@ -225,7 +250,21 @@ Error RegistrySettings::EndGroup() {
         groupFault_ = WriteHeld();
     }
     held_.clear();
+    alone_.reset();
     return std::exchange(groupFault_, {});
+}
+
+Error RegistrySettings::BeginAlone() {
+    if (alone_ == nullptr) {
+        auto lock = std::make_unique<GroupLock>();
+        if (!lock->MayGoOn()) {
+            return MakeError(error::kAlreadyOpen);
+        }
+        TakeBackUnfinished(notePath_);
+        alone_ = std::move(lock);
+    }
+    BeginGroup();
+    return {};
 }
 
 Error RegistrySettings::WriteHeld() {
@@ -246,7 +285,7 @@ Error RegistrySettings::WriteHeld() {
     LSTATUS failed = WriteNote(notePath_, former);
     for (auto held = held_.begin(); failed == ERROR_SUCCESS && held != held_.end(); ++held) {
         BeforeEachStep();
-        failed = WriteText(held->second.Path, held->second.Name, held->second.Value);
+        failed = Put(held->second.Path, held->second.Name, held->second.Value);
     }
     if (failed == ERROR_SUCCESS) {
         BeforeEachStep();
@@ -263,9 +302,10 @@ void RegistrySettings::DropUnchanged() {
     std::erase_if(held_, [](const auto& entry) {
         RegistryKeyHandle key;
         RawRegistryValue value;
-        return key.Open(entry.second.Path, KEY_QUERY_VALUE) == ERROR_SUCCESS &&
-               key.Query(entry.second.Name, value) == ERROR_SUCCESS && value.Type == REG_SZ &&
-               value.Text == entry.second.Value;
+        const bool isThere = key.Open(entry.second.Path, KEY_QUERY_VALUE) == ERROR_SUCCESS &&
+                             key.Query(entry.second.Name, value) == ERROR_SUCCESS;
+        const auto& held = entry.second.Value;
+        return held ? isThere && value.Type == REG_SZ && value.Text == *held : !isThere;
     });
 }
 

@@ -7,6 +7,8 @@
 
 #include <functional>
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +34,8 @@ class RegistrySettings : public SettingsBacking {
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
 
+    Error Remove(std::string_view application, std::string_view section, std::string_view key) override;
+
     /// A section with a "\" in its name is a key in a key.
     Result<std::vector<StoredValue>> All(std::string_view application) override;
 
@@ -39,18 +43,26 @@ class RegistrySettings : public SettingsBacking {
     /// An error that a write of the group met, or meets now: then nothing of the group is there. 57 too if another
     /// instance has been writing a group for seconds.
     Error EndGroup() override;
+    /// Single writes of others are not held up.
+    Error BeginAlone() override;
+    ~RegistrySettings() override;
+    RegistrySettings(const RegistrySettings&) = delete;
+    RegistrySettings& operator=(const RegistrySettings&) = delete;
 
     /// Called before each change that the end of a group makes. For tests, which end the program there.
     std::function<void()> BeforeEachStep = [] {};
 
   private:
+    class GroupLock;
     struct Held {
         StoredValue Names;  // their value is empty
         std::wstring Path;
         std::wstring Name;
-        std::wstring Value;
+        std::optional<std::wstring> Value;  // nothing: it goes
     };
 
+    Error Change(std::string_view application, std::string_view section, std::string_view key,
+                 std::optional<std::string_view> value);
     Error WriteHeld();
     void DropUnchanged();
 
@@ -58,6 +70,7 @@ class RegistrySettings : public SettingsBacking {
     std::map<std::string, Held> held_;  // by application, section and key in lower case
     int depth_ = 0;
     Error groupFault_;
+    std::unique_ptr<GroupLock> alone_;  // of a group that began so
 };
 
 }  // namespace lv

@@ -149,6 +149,45 @@ TYPED_TEST(AnySettings, ShowAGroupsWritesAtOnceAndAfterwards) {
     EXPECT_EQ(this->store_.Read("Lorvane 3D", "Profile", "Gamma"), "1.7");
 }
 
+TYPED_TEST(AnySettings, TakeAValueAwayUnderAnyCase) {
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "\xC9t\xE9", "Qspy", "1").Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Games", "a").Number, 0);
+    EXPECT_EQ(this->store_.Remove("lorvane 3d", "\xE9T\xC9", "QSPY").Number, 0);
+    EXPECT_EQ(this->store_.Read("Lorvane 3D", "\xC9t\xE9", "Qspy"), std::nullopt);
+    EXPECT_EQ(AllOf(this->store_, "Lorvane 3D"), Lines{"Options|Games|a"});
+    EXPECT_EQ(this->store_.Remove("Lorvane 3D", "\xC9t\xE9", "Qspy").Number, 0) << "what is gone already";
+    EXPECT_EQ(this->store_.Remove("Lorvane 3D", "Nowhere", "Qspy").Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "\xE9T\xC9", "qspy", "2").Number, 0);
+    EXPECT_EQ(this->store_.Read("Lorvane 3D", "\xC9t\xE9", "Qspy"), "2");
+}
+
+TYPED_TEST(AnySettings, TakeValuesAwayInAGroup) {
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "\xC9t\xE9", "a", "1").Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "\xC9t\xE9", "b", "2").Number, 0);
+    this->store_.BeginGroup();
+    EXPECT_EQ(this->store_.Remove("Lorvane 3D", "\xC9t\xC9", "a").Number, 0);
+    EXPECT_EQ(this->store_.Remove("Lorvane 3D", "\xC9t\xE9", "b").Number, 0);
+    EXPECT_EQ(this->store_.Read("Lorvane 3D", "\xC9t\xE9", "a"), std::nullopt);
+    EXPECT_EQ(AllOf(this->store_, "Lorvane 3D"), Lines());
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "\xE9t\xE9", "B", "3").Number, 0);
+    EXPECT_EQ(this->store_.Read("Lorvane 3D", "\xC9t\xE9", "b"), "3");
+    EXPECT_EQ(this->store_.EndGroup().Number, 0);
+    EXPECT_EQ(this->store_.Read("Lorvane 3D", "\xC9t\xE9", "a"), std::nullopt);
+    EXPECT_EQ(this->store_.Read("Lorvane 3D", "\xC9T\xC9", "b"), "3");
+}
+
+TYPED_TEST(AnySettings, KeepWhatAGroupThatBeganAloneHasWritten) {
+    EXPECT_EQ(this->store_.BeginAlone().Number, 0);
+    EXPECT_EQ(this->store_.BeginAlone().Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Games", "a").Number, 0);
+    EXPECT_EQ(this->store_.EndGroup().Number, 0);
+    EXPECT_EQ(this->store_.EndGroup().Number, 0);
+    EXPECT_EQ(this->store_.BeginAlone().Number, 0) << "and an empty one holds nobody up";
+    EXPECT_EQ(this->store_.EndGroup().Number, 0);
+    EXPECT_EQ(this->store_.Write("Lorvane 3D", "Options", "Scripts", "b").Number, 0);
+    EXPECT_EQ(AllOf(this->store_, "Lorvane 3D"), (Lines{"Options|Games|a", "Options|Scripts|b"}));
+}
+
 TYPED_TEST(AnySettings, NestGroups) {
     {
         const SettingsGroup outer(this->store_);

@@ -126,6 +126,27 @@ TEST(LockedSettings, KeepAGroupForWhomTheUserWaited) {
     EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Options", "b"), "2");
 }
 
+TEST(LockedSettings, BeginNoGroupAloneWhileAnotherProgramWrites) {
+    const ScratchDirectory scratch;
+    OpenStore(scratch / "s");
+    const pid_t holder = HoldStore(scratch / "s", "BEGIN IMMEDIATE");
+    const auto opened = SqliteSettings::Open(scratch / "s", 100);
+    EXPECT_EQ(opened.Value->BeginAlone().Number, 55);
+    LetGo(holder);
+    EXPECT_EQ(opened.Value->Write(kApp, "Options", "a", "1").Number, 0);
+    EXPECT_EQ(OpenStore(scratch / "s")->Read(kApp, "Options", "a"), "1") << "no group is open";
+}
+
+TEST(LockedSettings, HoldOthersUpFromTheBeginningOfAGroupAlone) {
+    const ScratchDirectory scratch;
+    const auto one = OpenStore(scratch / "s");
+    const auto other = SqliteSettings::Open(scratch / "s", 100);
+    ASSERT_EQ(one->BeginAlone().Number, 0);
+    EXPECT_EQ(other.Value->Write(kApp, "Options", "a", "1").Number, 55);
+    EXPECT_EQ(one->EndGroup().Number, 0);
+    EXPECT_EQ(other.Value->Write(kApp, "Options", "a", "1").Number, 0);
+}
+
 TEST(LockedSettings, AskNothingWhileTheQuestionIsUp) {
     const ScratchDirectory scratch;
     OpenStore(scratch / "s");

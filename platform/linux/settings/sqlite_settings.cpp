@@ -23,6 +23,7 @@ constexpr const char* kSql[] = {
     "SELECT application, section, key, value FROM setting WHERE application = ?1 AND section = ?2 AND key = ?3",
     "SELECT application, section, key, value FROM setting",
     kUpsertSql,
+    "DELETE FROM setting WHERE application = ?1 AND section = ?2 AND key = ?3",
     "BEGIN IMMEDIATE",
     "COMMIT",
     "ROLLBACK",
@@ -229,41 +230,65 @@ std::optional<std::string> SqliteSettings::Read(std::string_view application, st
 
 Error SqliteSettings::Write(std::string_view application, std::string_view section, std::string_view key,
                             std::string_view value) {
+    return Change({application, section, key}, value);
+}
+
+Error SqliteSettings::Remove(std::string_view application, std::string_view section, std::string_view key) {
+    return Change({application, section, key}, std::nullopt);
+}
+
+Error SqliteSettings::Change(const Names& names, NewValue value) {
     if (asking_) {
         return MakeError(error::kAlreadyOpen);  // what asks may be in the middle of a transaction
     }
     if (depth_ > 0 && groupFault_) {
         return groupFault_;
     }
-    const Names names{application, section, key};
-    if (const auto row = Find(names); row && FromUtf8Lossy(row->Value) == value) {
+    const auto row = Find(names);
+    if (row && value ? FromUtf8Lossy(row->Value) == *value : !row && !value) {
         return {};
     }
     return depth_ > 0 ? StoreInGroup(names, value) : StoreInTransaction(names, value);
 }
 
 // Within a transaction: the row that is there under another case keeps its spelling.
-Error SqliteSettings::Store(const Names& names, std::string_view value) {
+Error SqliteSettings::Store(const Names& names, NewValue value) {
     const auto row = Find(names);
-    const std::array<std::string, 3> stored =
-        row ? row->Names
-            : std::array<std::string, 3>{ToUtf8(names.Application), ToUtf8(names.Section), ToUtf8(names.Key)};
+    if (!value) {
+        return row ? Delete(row->Names) : Error();
+    }
+    return Upsert(row ? row->Names
+                      : std::array<std::string, 3>{ToUtf8(names.Application), ToUtf8(names.Section), ToUtf8(names.Key)},
+                  *value);
+}
+
+Error SqliteSettings::Upsert(const std::array<std::string, 3>& names, std::string_view value) {
     const std::string text = ToUtf8(value);
     SqliteUse upsert(Prepared(kUpsert));
-    upsert.Bind(1, stored[0]);
-    upsert.Bind(2, stored[1]);
-    upsert.Bind(3, stored[2]);
+    upsert.Bind(1, names[0]);
+    upsert.Bind(2, names[1]);
+    upsert.Bind(3, names[2]);
     upsert.Bind(4, text);
     if (upsert.Step() != SQLITE_DONE) {
         return FaultOf(database_.get());
     }
     if (spellings_) {
-        spellings_->emplace(IdOf(names.Application, names.Section, names.Key), stored);
+        spellings_->insert_or_assign(IdOf(FromUtf8Lossy(names[0]), FromUtf8Lossy(names[1]), FromUtf8Lossy(names[2])),
+                                     names);
     }
     return {};
 }
 
-Error SqliteSettings::StoreInTransaction(const Names& names, std::string_view value) {
+// A look in all rows that finds the row gone says what is so.
+Error SqliteSettings::Delete(const std::array<std::string, 3>& names) {
+    SqliteUse gone(Prepared(kDelete));
+    gone.Bind(1, names[0]);
+    gone.Bind(2, names[1]);
+    gone.Bind(3, names[2]);
+    return gone.Step() == SQLITE_DONE ? Error() : FaultOf(database_.get());
+}
+
+Error SqliteSettings::StoreInTransaction(const Names& names, NewValue value) {
     if (Error failed = Do(kBegin)) {
         return failed;
     }
@@ -275,7 +300,7 @@ Error SqliteSettings::StoreInTransaction(const Names& names, std::string_view va
     return failed;
 }
 
-Error SqliteSettings::StoreInGroup(const Names& names, std::string_view value) {
+Error SqliteSettings::StoreInGroup(const Names& names, NewValue value) {
     const bool begun = sqlite3_get_autocommit(database_.get()) == 0;
     groupFault_ = begun ? Error() : Do(kBegin);
     if (!groupFault_) {
@@ -299,6 +324,18 @@ void SqliteSettings::BeginGroup() {
     if (depth_++ == 0) {
         groupFault_ = {};
     }
+}
+
+Error SqliteSettings::BeginAlone() {
+    if (asking_) {
+        return MakeError(error::kAlreadyOpen);
+    }
+    const bool begun = sqlite3_get_autocommit(database_.get()) == 0;
+    if (Error failed = begun ? Error() : Do(kBegin)) {
+        return failed;
+    }
+    BeginGroup();
+    return {};
 }
 
 Error SqliteSettings::EndGroup() {

@@ -8,6 +8,7 @@
 #include <array>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -47,22 +48,27 @@ class SqliteSettings : public SettingsBacking {
     Error Write(std::string_view application, std::string_view section, std::string_view key,
                 std::string_view value) override;
 
+    Error Remove(std::string_view application, std::string_view section, std::string_view key) override;
+
     Result<std::vector<StoredValue>> All(std::string_view application) override;
 
     /// The outermost group is one transaction, begun with its first write. The first write that fails takes back the
     /// whole group: all that follow fail the same way, and so does EndGroup. A group never ended is never stored.
     void BeginGroup() override;
     Error EndGroup() override;
+    /// The transaction begins here, and no other program writes anything until its end.
+    Error BeginAlone() override;
 
     void WhenLocked(LockedQuestion question) override { question_ = std::move(question); }
 
   private:
-    enum Statement { kSelect, kScan, kUpsert, kBegin, kCommit, kRollback, kStatements };
+    enum Statement { kSelect, kScan, kUpsert, kDelete, kBegin, kCommit, kRollback, kStatements };
     struct Names {
         std::string_view Application;
         std::string_view Section;
         std::string_view Key;
     };
+    using NewValue = std::optional<std::string_view>;  // nothing: the row goes
     struct Row {
         std::array<std::string, 3> Names;  // as they are stored, UTF-8
         std::string Value;
@@ -78,9 +84,12 @@ class SqliteSettings : public SettingsBacking {
     Result<std::optional<Row>> LookInAllRows(const Names& names);
     Error NoteSpellings();
     Result<std::vector<StoredValue>> ReadAll(std::string_view application);
-    Error Store(const Names& names, std::string_view value);
-    Error StoreInTransaction(const Names& names, std::string_view value);
-    Error StoreInGroup(const Names& names, std::string_view value);
+    Error Change(const Names& names, NewValue value);
+    Error Store(const Names& names, NewValue value);
+    Error Upsert(const std::array<std::string, 3>& names, std::string_view value);
+    Error Delete(const std::array<std::string, 3>& names);
+    Error StoreInTransaction(const Names& names, NewValue value);
+    Error StoreInGroup(const Names& names, NewValue value);
     void TakeBack();
 
     Database database_;

@@ -69,6 +69,20 @@ TEST(OverlaySettings, EachKeyOfASectionThatIsLetThroughReachesTheStoreBelow) {
     EXPECT_EQ(store.Read("A", "Played", "C:\\A.EXE"), "1");
 }
 
+TEST(OverlaySettings, WhatIsTakenAwayIsGoneInFrontAlone) {
+    MemorySettings below;
+    (void)below.Write("A", "S", "One", "1");
+    (void)below.Write("A", "S", "Two", "2");
+    OverlaySettings store(below);
+    store.LetThrough("S", "Two");
+    EXPECT_EQ(store.Remove("a", "s", "one").Number, 0);
+    EXPECT_EQ(store.Remove("A", "S", "Two").Number, 0);
+    EXPECT_EQ(store.Read("A", "S", "One"), std::nullopt);
+    EXPECT_TRUE(store.All("A").Value.empty());
+    EXPECT_EQ(below.Read("A", "S", "One"), "1");
+    EXPECT_EQ(below.Read("A", "S", "Two"), std::nullopt);
+}
+
 TEST(OverlaySettings, ARefusedWriteBelowIsRefused) {
     MemorySettings below;
     OverlaySettings store(below);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <thread>
 
 #include "platform/memory/memory_platform.h"
 #include "platform/windows/registry_key.h"
@@ -162,6 +163,32 @@ TEST(RegistrySettings, KeepAllOfAGroupOrNothingWhereverItIsKilled) {
             EXPECT_EQ(again.Read("Lorvane 3D", "Profile", key), std::nullopt) << steps << ": " << key;
         }
     }
+}
+
+TEST(RegistrySettings, TakeBackWhatAFailedGroupHasTakenAway) {
+    SystemSettings made;
+    EXPECT_EQ(made.Store.Write("Lorvane 3D", "Options", "A", "old").Number, 0);
+    made.Store.BeginGroup();
+    EXPECT_EQ(made.Store.Remove("Lorvane 3D", "Options", "A").Number, 0);
+    EXPECT_EQ(made.Store.Write("Lorvane 3D", std::string(300, 's'), "C", "new").Number, 0);
+    EXPECT_EQ(made.Store.EndGroup().Number, 57);
+    EXPECT_EQ(Held(kOptions, L"A"), L"old");
+}
+
+TEST(RegistrySettings, HoldAnotherGroupUpUntilOneThatBeganAloneHasEnded) {
+    SystemSettings made;
+    RegistrySettings another("Lorvane 3D");
+    int fault = 0;
+    const auto beginAnother = [&] {
+        fault = another.BeginAlone().Number;
+        (void)another.EndGroup();
+    };
+    EXPECT_EQ(made.Store.BeginAlone().Number, 0);
+    std::thread(beginAnother).join();
+    EXPECT_EQ(fault, 55);
+    EXPECT_EQ(made.Store.EndGroup().Number, 0);
+    std::thread(beginAnother).join();
+    EXPECT_EQ(fault, 0);
 }
 
 TEST(RegistrySettings, TakeBackAWholeGroupWhenOneOfItsWritesFails) {
