@@ -67,9 +67,9 @@ constexpr CarriedRule kRules[] = {
     {kStuff, kAnyKey,                   kNo},
 
     {"DefaultScript", kAnyKey,          kYes, kKeyToo},
-    {"ShowMessage", kAnyKey,            kYes, kNowhere, "1"},
+    {"ShowMessage", kAnyKey,            kYes},
     {"SetupFoundry", kAnyKey,           kYes},
-    {"Setups", kAnyKey,                 kYes, kSetup, ""},
+    {"Setups", kAnyKey,                 kYes, kSetup},
 
     // Engines that play games of other directories; whom they were named to is of this machine, and so are the
     // directories of links.

@@ -33,7 +33,7 @@ struct CarriedRule {
     TextView Key;      // "*": any that no rule above names
     Carried Goes = Carried::kNo;
     PathsIn Paths = PathsIn::kNowhere;
-    /// What stands for the value where it was never stored. Nothing: that is not to be said.
+    /// What stands for the value where it was never stored. Nothing: its absence alone does.
     std::optional<TextView> Missing = std::nullopt;
 };
 

@@ -12,6 +12,16 @@ namespace {
 /// What a start takes for its first one while it is not there.
 constexpr TextView kFirstTime = "FirstTime";
 
+struct CalledRow {
+    TextView Key;
+    TextView Name;
+};
+
+constexpr CalledRow kCalled[] = {
+    {"ScriptEditor", "The text editor"},
+    {"GameSpyLocation", "The place of GameSpy 3D"},
+};
+
 using Store = std::unordered_map<Text, Text>;  // by section and key in lower case
 
 Text IdOf(TextView section, TextView key) {
@@ -26,8 +36,10 @@ Store StoreOf(const std::vector<StoredValue>& values) {
     return store;
 }
 
-Text NameOf(const StoredValue& value) {
-    return Join(value.Section, "\\", value.Key);
+Text NotHere(const StoredValue& value) {
+    const auto* const called =
+        std::ranges::find_if(kCalled, [&value](const CalledRow& row) { return SameText(row.Key, value.Key); });
+    return Join(called != std::end(kCalled) ? called->Name : TextView(value.Key), ": ", value.Value, " is not here");
 }
 
 /// A program's bare name is found by the system.
@@ -38,6 +50,7 @@ bool LeadsToSomething(Run& run, TextView path) {
 /// What an import writes.
 struct Plan {
     std::vector<StoredValue> Writes;
+    std::vector<StoredValue> Removes;
     std::vector<Text> Kept;
 };
 
@@ -53,7 +66,7 @@ void TakeFile(Plan& plan, Run& run, const Store& stored, const std::vector<Store
     for (const StoredValue& value : values) {
         const CarriedRule* const rule = RuleOf(profiles, value.Section, value.Key);
         if (rule != nullptr && rule->Goes == Carried::kIfThere && !LeadsToSomething(run, value.Value)) {
-            plan.Kept.push_back(NameOf(value));
+            plan.Kept.push_back(NotHere(value));
         } else {
             Take(plan, stored, value);
         }
@@ -73,7 +86,7 @@ void TakeMissing(Plan& plan, const Store& stored, const std::vector<StoredValue>
         if (rule != nullptr && rule->Missing) {
             Take(plan, stored, {value.Section, value.Key, Text(*rule->Missing)});
         } else {
-            plan.Kept.push_back(NameOf(value));
+            plan.Removes.push_back(value);
         }
     }
 }
@@ -82,23 +95,49 @@ Plan PlanOf(Run& run, const std::vector<StoredValue>& all, const std::vector<Sto
     const Store stored = StoreOf(all);
     Plan plan;
     TakeFile(plan, run, stored, values);
-    TakeMissing(plan, stored, CarriedOf(all), values);
+    std::vector<Text> tooLong;
+    TakeMissing(plan, stored, CarriedOf(all, &tooLong), values);
+    for (const Text& name : tooLong) {
+        plan.Kept.push_back(Join(name, ": too long for a backup"));
+    }
     Take(plan, stored, {Text(kStuff), Text(kFirstTime), "0"});
     return plan;
 }
 
-Error WriteAll(Run& run, const std::vector<StoredValue>& writes) {
+Error WriteAll(Run& run, const Plan& plan) {
     SettingsBacking& store = run.System.Settings;
-    Error failed;
-    store.BeginGroup();
-    for (const StoredValue& value : writes) {
-        failed = store.Write(run.AppName, value.Section, value.Key, value.Value);
-        if (failed) {
-            break;
+    for (const StoredValue& value : plan.Writes) {
+        if (Error failed = store.Write(run.AppName, value.Section, value.Key, value.Value)) {
+            return failed;
         }
     }
-    Error ended = store.EndGroup();
-    return failed ? failed : ended;
+    for (const StoredValue& value : plan.Removes) {
+        if (Error failed = store.Remove(run.AppName, value.Section, value.Key)) {
+            return failed;
+        }
+    }
+    return {};
+}
+
+Result<ImportedSettings> ImportInGroup(Run& run, const std::vector<StoredValue>& values) {
+    const auto all = run.System.Settings.All(run.AppName);
+    if (!all.Ok()) {
+        return all.Fault;
+    }
+    Plan plan = PlanOf(run, all.Value, values);
+    auto backup = KeepBackup(run);
+    if (!backup.Ok()) {
+        return backup.Fault;
+    }
+    if (Error failed = WriteAll(run, plan)) {
+        return failed;
+    }
+    return ImportedSettings{.Values = values.size(),
+                            .Changed = plan.Writes.size() + plan.Removes.size(),
+                            .Kept = std::move(plan.Kept),
+                            .Moved = {},
+                            .LeftPlaces = {},
+                            .Backup = std::move(backup.Value)};
 }
 
 }  // namespace
@@ -109,24 +148,14 @@ Result<ImportedSettings> ImportValues(Run& run, const std::vector<StoredValue>& 
     if (!moved.Ok()) {
         return moved.Fault;
     }
-    const auto all = run.System.Settings.All(run.AppName);
-    if (!all.Ok()) {
-        return all.Fault;
+    run.System.Settings.BeginGroup();
+    auto done = ImportInGroup(run, moved.Value);
+    Error ended = run.System.Settings.EndGroup();
+    if (!done.Ok() || ended) {
+        return done.Ok() ? ended : done.Fault;
     }
-    Plan plan = PlanOf(run, all.Value, moved.Value);
-    const auto backup = KeepBackup(run);
-    if (!backup.Ok()) {
-        return backup.Fault;
-    }
-    if (Error failed = WriteAll(run, plan.Writes)) {
-        return failed;
-    }
-    return ImportedSettings{.Values = values.size(),
-                            .Changed = plan.Writes.size(),
-                            .Kept = std::move(plan.Kept),
-                            .Moved = moves,
-                            .LeftPlaces = {},
-                            .Backup = backup.Value};
+    done.Value.Moved = moves;
+    return done;
 }
 
 Result<SettingChanges> ChangesOfImport(Run& run, const std::vector<StoredValue>& values) {
@@ -134,8 +163,14 @@ Result<SettingChanges> ChangesOfImport(Run& run, const std::vector<StoredValue>&
     if (!all.Ok()) {
         return all.Fault;
     }
-    std::vector<StoredValue> after = PlanOf(run, all.Value, values).Writes;
-    after.insert(after.end(), all.Value.begin(), all.Value.end());  // of each name the first counts
+    Plan plan = PlanOf(run, all.Value, values);
+    std::vector<StoredValue> after = std::move(plan.Writes);
+    const Store removed = StoreOf(plan.Removes);
+    for (const StoredValue& value : all.Value) {  // of each name the first counts
+        if (!removed.contains(IdOf(value.Section, value.Key))) {
+            after.push_back(value);
+        }
+    }
     return ChangesBetween(CarriedOf(all.Value), CarriedOf(after));
 }
 

@@ -16,8 +16,8 @@ namespace lv {
 struct ImportedSettings {
     std::size_t Values = 0;        // of the file
     std::size_t Changed = 0;       // of the store, that are others now
-    std::vector<Text> Kept;        // "section\key" of what is as it was: the file says nothing of it, or what it names
-                                   // is not on this machine
+    std::vector<Text> Kept;        // what is as it was, in words: what the file names for it is not on this machine, or
+                                   // no backup could hold it
     std::vector<PathMove> Moved;   // the places that are elsewhere here
     std::vector<Text> LeftPlaces;  // the ones that stay as they are, and are not here
     Text Backup;                   // the path of a copy of what was there before; empty if that was nothing
@@ -28,9 +28,9 @@ struct ImportedSettings {
 using MovedPlaceQuestion = std::function<std::optional<Text>(const MovedPlace& place, TextView likely)>;
 
 /// Puts the values in the place of those that are stored, all of them or none. What is stored and does not stand among
-/// them becomes what it is where it was never stored, if that is known; otherwise it is kept. The first start is over
-/// then. Before that there is a backup, or nothing is done. Errors as SettingsBacking::Write and KeepBackup; 5 for
-/// moves that MoveValues refuses.
+/// them becomes what it is where it was never stored, or goes; what does not go along to other machines stays. The first
+/// start is over then. Before that there is a backup, or nothing is done. Errors as SettingsBacking::Write and
+/// KeepBackup; 5 for moves that MoveValues refuses.
 Result<ImportedSettings> ImportValues(Run& run, const std::vector<StoredValue>& values,
                                       const std::vector<PathMove>& moves);
 

@@ -199,25 +199,64 @@ TEST_F(ImportSettingsTest, TakesWhatTheFileDoesNotSayAsNeverStored) {
     EXPECT_EQ(here.Get("Options", "QSpy"), "0");
     EXPECT_EQ(here.Get("Options", "Scripts"), "");
     EXPECT_EQ(here.Get("Options", "MemoryPos"), "2");
-    EXPECT_EQ(here.Get("ShowMessage", "VideoProfiles"), "1");
-    EXPECT_EQ(here.Get("Setups", "Names"), "");
+    EXPECT_EQ(here.Get("ShowMessage", "VideoProfiles"), "(none)");
+    EXPECT_EQ(here.Get("Setups", "Names"), "(none)");
     EXPECT_EQ(here.Get("Options", "UseDemos"), "(none)");
+}
+
+TEST_F(ImportSettingsTest, TakesAwayWhatTheFileDoesNotName) {
+    there.Put("Options", "Games", "Capture;-game ctf");
+    Carry();
+    here.Put("Options", "WaterAlphaSetting", "3");
+    here.Put("Options", "Windowed", "1");
+    here.Put("Options", "FutureKey", "1");
+    here.Put("Options", "VideoProfileList", "Base;Fast");
+    here.Put("Fast", "UseRez", "1");
+    here.Put("DefaultScript", "c:\\q\\id1", "c:\\q\\id1\\a.cfg");
+    here.Put("SetupFoundry", "ExitOnSave", "1");
+    here.Put("Setups", "Setup1", "1;Executable=C:\\Q.EXE");
+    here.Put("Options", "ScriptEditor", "gedit");
+    const ImportedSettings done = Import();
+    EXPECT_EQ(CarriedOf(here.All()),
+              (Values{{"Options", "Games", "Capture;-game ctf"}, {"Options", "VideoProfileList", ""}}));
+    EXPECT_EQ(done.Changed, 11u);  // and the list of games, and FirstTime
+    EXPECT_TRUE(done.Kept.empty());
+    const auto copy = ReadSettingsFile(here.Run, done.Backup);
+    EXPECT_EQ(copy.Value.size(), 9u) << "all of it is in the backup";
+}
+
+TEST_F(ImportSettingsTest, LeavesWhatIsOfThisMachine) {
+    there.Put("Options", "Games", "Capture;-game ctf");
+    Carry();
+    const Values ours = {{"LV_Frm", "Top", "7"},
+                         {"LV-Stuff", "RunCount", "3"},
+                         {"LV-Stuff", "FirstTime", "0"},
+                         {"LV-Stuff", "FollowedLinks", "a"},
+                         {"Options", "OnTop", "Yes"},
+                         {"Engines", "Advised", "1"},
+                         {"LinkedTrees", "quake-1", "a"},
+                         {"Elsewhere", "Key", "1"},
+                         {"Options", "Long", Text(16001, 'x')}};
+    for (const StoredValue& value : ours) {
+        here.Put(value.Section, value.Key, value.Value);
+    }
+    const ImportedSettings done = Import();
+    for (const StoredValue& value : ours) {
+        EXPECT_EQ(here.Get(value.Section, value.Key), value.Value) << value.Key;
+    }
+    EXPECT_EQ(done.Kept, std::vector<Text>{"Options\\Long: too long for a backup"});
 }
 
 TEST_F(ImportSettingsTest, TellsWhatItKeeps) {
     there.Put("Options", "GameSpyLocation", "C:\\GameSpy");
     there.Put("Options", "ScriptEditor", "Z:\\usr\\bin\\gedit");
-    there.Put("Options", "Games", "Capture;-game ctf");
     Carry();
     here.Put("Options", "GameSpyLocation", "D:\\Spy");
-    here.Put("Options", "FutureKey", "1");
-    here.Put("DefaultScript", "c:\\q\\id1", "c:\\q\\id1\\a.cfg");
     const ImportedSettings done = Import();
-    EXPECT_EQ(done.Kept, (std::vector<Text>{"Options\\GameSpyLocation", "Options\\ScriptEditor",
-                                            "DefaultScript\\c:\\q\\id1", "Options\\FutureKey"}));
+    EXPECT_EQ(done.Kept, (std::vector<Text>{"The place of GameSpy 3D: C:\\GameSpy is not here",
+                                            "The text editor: Z:\\usr\\bin\\gedit is not here"}));
     EXPECT_EQ(here.Get("Options", "GameSpyLocation"), "D:\\Spy");
     EXPECT_EQ(here.Get("Options", "ScriptEditor"), "(none)");
-    EXPECT_EQ(here.Get("Options", "FutureKey"), "1");
 }
 
 TEST_F(ImportSettingsTest, TakesAProgramThatIsHere) {
@@ -310,7 +349,7 @@ TEST_F(ImportSettingsTest, SaysBeforehandWhatItChanges) {
     here.Put("LV-Stuff", "RunCount", "1");
     const auto changes = ChangesOfImport(
         here.Run, {{"Options", "Games", "Rogue;-game rogue"}, {"Options", "GameSpyLocation", "C:\\no"}});
-    EXPECT_EQ(ChangesText(changes.Value), "2 list entries and 1 setting");
+    EXPECT_EQ(ChangesText(changes.Value), "2 list entries and 2 settings");
     here.System.Settings.RefuseReads = MakeError(error::kAlreadyOpen);
     EXPECT_EQ(ChangesOfImport(here.Run, {}).Fault.Number, 55);
 }
