@@ -19,9 +19,9 @@ DriveDirectories OwnDrives() {
     return {DataDirectory() / "drives", WinePrefix(), ProgramFileDirectory()};
 }
 
-StoreWays OwnStore() {
+StoreWays OwnStore(int patience) {
     const auto file = ConfigDirectory() / "settings.sqlite";
-    return {[file] { return Settled(SqliteSettings::Open(file, kPatienceBeforeAsking)); },
+    return {[file, patience] { return Settled(SqliteSettings::Open(file, patience)); },
             [file] { return Settled(SqliteSettings::OpenCopy(file)); }};
 }
 

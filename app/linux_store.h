@@ -6,11 +6,13 @@
 
 #include "foundation/open_store.h"
 #include "platform/linux/files/linux_files.h"
+#include "platform/linux/settings/settings_file.h"
 
 namespace lv {
 
 DriveDirectories OwnDrives();
-StoreWays OwnStore();
+/// `patience` as SqliteSettings::Open has it.
+StoreWays OwnStore(int patience = kPatienceBeforeAsking);
 
 /// The same for who only reads: nothing is made, and the store need not allow to be written.
 DriveDirectories OwnDrivesAsTheyAre();

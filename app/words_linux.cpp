@@ -57,7 +57,7 @@ Text PathOfWord(Files& disk, TextView word) {
 CommandResult RunHere(const Command& command) {
     PrintingUser user;
     const bool reads = OnlyReads(command);
-    auto store = OpenStore(user, reads ? OwnStoreToRead() : OwnStore());
+    auto store = OpenStore(user, reads ? OwnStoreToRead() : OwnStore(kPatience));  // nobody can be asked
     if (!store) {
         return {.Code = exit_code::kFailed, .Err = Printed(user.Said())};
     }

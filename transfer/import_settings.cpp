@@ -119,6 +119,7 @@ Error WriteAll(Run& run, const Plan& plan) {
     return {};
 }
 
+/// What is there is read, copied and replaced with nobody else writing in between.
 Result<ImportedSettings> ImportInGroup(Run& run, const std::vector<StoredValue>& values) {
     const auto all = run.System.Settings.All(run.AppName);
     if (!all.Ok()) {
@@ -148,7 +149,9 @@ Result<ImportedSettings> ImportValues(Run& run, const std::vector<StoredValue>& 
     if (!moved.Ok()) {
         return moved.Fault;
     }
-    run.System.Settings.BeginGroup();
+    if (Error failed = run.System.Settings.BeginAlone()) {
+        return failed;
+    }
     auto done = ImportInGroup(run, moved.Value);
     Error ended = run.System.Settings.EndGroup();
     if (!done.Ok() || ended) {

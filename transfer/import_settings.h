@@ -27,10 +27,10 @@ struct ImportedSettings {
 /// directory that is here and may be it, or empty. Nothing leaves the paths as they are.
 using MovedPlaceQuestion = std::function<std::optional<Text>(const MovedPlace& place, TextView likely)>;
 
-/// Puts the values in the place of those that are stored, all of them or none. What is stored and does not stand among
-/// them becomes what it is where it was never stored, or goes; what does not go along to other machines stays. The first
-/// start is over then. Before that there is a backup, or nothing is done. Errors as SettingsBacking::Write and
-/// KeepBackup; 5 for moves that MoveValues refuses.
+/// Puts the values in the place of those that are stored, all of them or none, while no other program writes. What is
+/// stored and does not stand among them becomes what it is where it was never stored, or goes; what does not go along
+/// to other machines stays. The first start is over then. Before that there is a backup, or nothing is done. Errors as
+/// SettingsBacking::BeginAlone and Write, and as KeepBackup; 5 for moves that MoveValues refuses.
 Result<ImportedSettings> ImportValues(Run& run, const std::vector<StoredValue>& values,
                                       const std::vector<PathMove>& moves);
 

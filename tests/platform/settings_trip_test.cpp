@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <barrier>
+#include <thread>
 
 #include "platform/memory/memory_platform.h"
 #include "tests/support/scripted_user.h"
@@ -56,7 +58,52 @@ std::vector<StoredValue> FullStore() {
     return values;
 }
 
+/// Lists and setups that are all told apart by `mark`.
+std::vector<StoredValue> SettingsOf(TextView mark, int setups) {
+    std::vector<StoredValue> values = {{"Options", "Games", Join("Mod ", mark, ";-game ", mark)},
+                                       {"Options", Join("Only in ", mark), "1"}};
+    for (int i = 1; i <= setups; ++i) {
+        values.push_back({"Setups", Join("Setup", std::to_string(i)), Join("1;Executable=C:\\", mark)});
+    }
+    return values;
+}
+
+/// What another program imports.
+class OtherProgram {
+  public:
+    explicit OtherProgram(std::unique_ptr<SettingsBacking> store) : store_(std::move(store)) {}
+
+    void Import(const std::vector<StoredValue>& values) {
+        EXPECT_EQ(ImportValues(machine_.Run, values, {}).Fault.Text, "");
+    }
+
+  private:
+    std::unique_ptr<SettingsBacking> store_;
+    StoredMachine machine_{*store_};
+};
+
 }  // namespace
+
+TEST(SettingsTrip, OfTwoImportsAtOnceTheSecondOneIsWhole) {
+    SystemSettings system;
+    const std::vector<StoredValue> few = SettingsOf("few", 1);
+    const std::vector<StoredValue> many = SettingsOf("many", 36);
+    OtherProgram one(system.Another());
+    OtherProgram other(system.Another());
+    for (int i = 0; i < 10; ++i) {
+        std::barrier together(2);
+        std::thread first([&] {
+            together.arrive_and_wait();
+            one.Import(few);
+        });
+        together.arrive_and_wait();
+        other.Import(many);
+        first.join();
+        const auto now = CarriedOf(system.Store.All("Lorvane 3D").Value);
+        const bool isFew = FindValue(now, "Options", "Only in few") != nullptr;
+        EXPECT_EQ(now, CarriedOf(isFew ? few : many)) << i;
+    }
+}
 
 TEST(SettingsTrip, KeepsEveryValueByteForByte) {
     SystemSettings system;

@@ -320,6 +320,30 @@ TEST_F(ImportSettingsTest, IsDoneWhollyOrNotAtAll) {
     EXPECT_EQ(here.All(), before);
 }
 
+TEST_F(ImportSettingsTest, ReplacesAndCopiesWhatAnotherOneHasJustWritten) {
+    there.Put("Options", "Games", "Capture;-game ctf");
+    Carry();
+    here.Put("Options", "Games", "mine");
+    here.System.Settings.WhenAlone = [this] {
+        here.Put("Options", "Games", "theirs");
+        here.Put("Options", "Theirs", "1");
+    };
+    const ImportedSettings done = Import();
+    EXPECT_EQ(CarriedOf(here.All()), (Values{{"Options", "Games", "Capture;-game ctf"}}));
+    EXPECT_EQ(ReadSettingsFile(here.Run, done.Backup).Value,
+              (Values{{"Options", "Games", "theirs"}, {"Options", "Theirs", "1"}}));
+}
+
+TEST_F(ImportSettingsTest, ThatMayNotWriteAloneChangesNothing) {
+    there.Put("Options", "Games", "theirs");
+    Carry();
+    here.Put("Options", "Games", "mine");
+    here.System.Settings.RefuseAlone = MakeError(error::kAlreadyOpen);
+    EXPECT_EQ(ImportSettings(here.Run, kFile, NeverAsked).Fault.Number, 55);
+    EXPECT_EQ(here.Get("Options", "Games"), "mine");
+    EXPECT_TRUE(Backups(here.Run).empty());
+}
+
 TEST_F(ImportSettingsTest, OfTheSameSettingsWritesNothing) {
     FillThere();
     EXPECT_EQ(ExportSettings(there.Run, kFile).Fault.Number, 0);

@@ -25,6 +25,11 @@ struct SystemSettings {
     ScratchDirectory Scratch;
     Result<std::unique_ptr<SqliteSettings>> Opened = SqliteSettings::Open(Scratch / "settings.sqlite");
     SettingsBacking& Store = *Opened.Value;
+
+    /// The same store, as another program opens it.
+    [[nodiscard]] std::unique_ptr<SettingsBacking> Another() const {
+        return std::move(SqliteSettings::Open(Scratch / "settings.sqlite").Value);
+    }
 };
 
 /// As it is without Wine.

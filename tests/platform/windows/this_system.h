@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "platform/windows/registry_settings.h"
@@ -28,6 +29,9 @@ struct SystemSettings {
     EmptyKey Ours{L"Software\\VB and VBA Program Settings\\Lorvane 3D"};
     EmptyKey A{L"Software\\VB and VBA Program Settings\\a"};
     RegistrySettings Store{"Lorvane 3D"};
+
+    /// The same store, as another program opens it.
+    static std::unique_ptr<SettingsBacking> Another() { return std::make_unique<RegistrySettings>("Lorvane 3D"); }
 };
 
 struct SystemRegistry {
