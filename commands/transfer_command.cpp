@@ -3,6 +3,7 @@
 #include "commands/unseen/printing_user.h"
 #include "foundation/shown_name.h"
 #include "transfer/import_settings.h"
+#include "transfer/import_words.h"
 #include "transfer/settings_file.h"
 
 namespace lv {
@@ -20,7 +21,7 @@ CommandResult Failed(TextView word, const CommandPlace& place, const Error& faul
 
 Text Lines(TextView head, const std::vector<Text>& rows) {
     Text lines;
-    for (const Text& row : rows) {
+    for (const Text& row : FirstFew(rows)) {
         lines += Join("  ", row, NewLine);
     }
     return rows.empty() ? Text() : Join(head, NewLine, lines);
@@ -62,8 +63,7 @@ CommandResult ImportFromFile(TextView word, const CommandPlace& place) {
         return failed;
     }
     const ImportedSettings& imported = done.Value;
-    return {.Out = Join(std::to_string(imported.Changed), " of ", std::to_string(imported.Values),
-                        " settings are others now.", NewLine, Moves(imported.Moved, place),
+    return {.Out = Join(ChangedText(imported.Changed), NewLine, Moves(imported.Moved, place),
                         Lines("Not here, and left as the file has them:", imported.LeftPlaces),
                         Lines("As they were:", imported.Kept),
                         imported.Backup.empty()

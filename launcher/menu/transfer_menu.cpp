@@ -12,6 +12,7 @@
 #include "transfer/import_settings.h"
 
 namespace lv {
+#include "transfer/import_words.h"
 
 namespace {
 
@@ -20,7 +21,7 @@ constexpr const char* kImport = "Import Settings";
 constexpr const char* kPlaces = "Where Are These Games?";
 constexpr TextView kFilter = "Settings of Lorvane 3D (*.lv3d)|*.lv3d|All Files (*.*)|*.*";
 constexpr TextView kFileName = "settings.lv3d";
-constexpr std::size_t kMostNamed = 10;
+constexpr int kShowAgain = 1;  // of the buttons below what is missing
 
 /// The file; nothing if the user cancelled, or was told that the dialog failed.
 std::optional<Text> AskForSettingsFile(Run& run, const char* title, bool forSaving) {
@@ -40,12 +41,10 @@ std::optional<Text> AskForSettingsFile(Run& run, const char* title, bool forSavi
 /// A line each, behind a tab.
 Text Lines(const std::vector<Text>& names) {
     Text lines;
-    for (std::size_t i = 0; i < std::min(names.size(), kMostNamed); ++i) {
-        lines += Join(NewLine, TabChar, names[i]);
+    for (const Text& name : FirstFew(names)) {
+        lines += Join(NewLine, TabChar, name);
     }
-    return names.size() <= kMostNamed
-               ? lines
-               : Join(lines, NewLine, TabChar, "and ", std::to_string(names.size() - kMostNamed), " more");
+    return lines;
 }
 
 Text Settings(std::size_t count) {
@@ -109,10 +108,9 @@ class PlaceQuestions {
 };
 
 void TellImported(Run& run, const char* title, const ImportedSettings& done) {
-    Text text = Join(Settings(done.Changed), done.Changed == 1 ? " is another now." : " are others now.");
+    Text text = ChangedText(done.Changed);
     if (!done.Kept.empty()) {
-        text += Join(NewLine, NewLine, "As they were, for the file does not say or what it names is not here:", NewLine,
-                     Lines(done.Kept));
+        text += Join(NewLine, NewLine, "As they were:", NewLine, Lines(done.Kept));
     }
     if (!done.LeftPlaces.empty()) {
         text += Join(NewLine, NewLine, "Not here, and left as the file has them:", NewLine, Lines(done.LeftPlaces));
