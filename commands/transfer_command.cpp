@@ -41,7 +41,8 @@ Text Moves(const std::vector<PathMove>& moves, const CommandPlace& place) {
 CommandResult ExportToFile(TextView word, const CommandPlace& place) {
     PrintingUser user;
     Run run(place.System, user);
-    const Result<ExportedSettings> done = ExportSettings(run, PathOf(word, place));
+    const Error refused = FaultOfFileName(word);  // of which its whole path says nothing
+    const auto done = refused ? Result<ExportedSettings>(refused) : ExportSettings(run, PathOf(word, place));
     if (!done.Ok()) {
         return Failed(word, place, done.Fault);
     }

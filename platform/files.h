@@ -66,6 +66,9 @@ class Files {
     virtual bool FileExists(std::string_view path) = 0;
     virtual bool DirectoryExists(std::string_view path) = 0;
 
+    /// Whether the name itself is a file's, and no link's.
+    virtual bool IsPlainFile(std::string_view path) = 0;
+
     /// All entries in the file system's order, "." and ".." first. Names that have no code page 1252 form are left
     /// out, or there by another name that the disk keeps for them. Error 76 if there is no such directory, 75 if it may
     /// not be read.

@@ -29,7 +29,10 @@ Result<std::vector<StoredValue>> ReadSettingsFile(Run& run, TextView path) {
     return carried;
 }
 
-Result<ExportedSettings> ExportSettings(Run& run, TextView path) {
+Result<ExportedSettings> ExportSettings(Run& run, TextView path, MayReplace mayReplace) {
+    if (Error refused = FaultOfExport(run, path, mayReplace)) {
+        return refused;
+    }
     ExportedSettings done;
     const auto values = CarriedNow(run, &done.LeftOut);
     if (!values.Ok()) {

@@ -6,6 +6,7 @@
 
 #include "foundation/run.h"
 #include "transfer/carried_values.h"
+#include "transfer/export_place.h"
 
 namespace lv {
 
@@ -22,7 +23,7 @@ struct ExportedSettings {
 };
 
 /// Writes what goes into the file, which its owner alone may read: passwords of servers are in it. Errors as
-/// SettingsBacking::All and Files::ReplaceOwn.
-Result<ExportedSettings> ExportSettings(Run& run, TextView path);
+/// FaultOfExport, SettingsBacking::All and Files::ReplaceOwn; then all is as it was.
+Result<ExportedSettings> ExportSettings(Run& run, TextView path, MayReplace mayReplace = MayReplace::kExportsAlone);
 
 }  // namespace lv

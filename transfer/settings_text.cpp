@@ -162,6 +162,10 @@ bool FitsSettingsText(const StoredValue& value) {
     return IsName(value.Section) && IsName(value.Key) && value.Value.size() <= kLongestValue;
 }
 
+bool BeginsSettingsText(TextView start) {
+    return start.starts_with(kTitle);
+}
+
 Result<Text> WriteSettingsText(const std::vector<StoredValue>& values) {
     Text text = Join(kTitle, std::to_string(kSettingsTextNumber), "\n");
     for (const StoredValue& value : values) {

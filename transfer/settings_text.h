@@ -26,6 +26,9 @@ constexpr std::size_t kLongestSettingName = 255;  // characters of a section, an
 /// no more than kLongestValue characters.
 bool FitsSettingsText(const StoredValue& value);
 
+/// Whether a file that begins so is, by its first line, one of these.
+bool BeginsSettingsText(TextView start);
+
 /// The values in their order; each fits, and no name stands there twice. Error 7 for more than a text can hold.
 Result<Text> WriteSettingsText(const std::vector<StoredValue>& values);
 

@@ -66,6 +66,11 @@ bool RehearsedFiles::DirectoryExists(std::string_view path) {
     return change != nullptr ? change->What == Sort::DirectoryMade : below_.DirectoryExists(path);
 }
 
+bool RehearsedFiles::IsPlainFile(std::string_view path) {
+    const RehearsedChange* change = Find(path);
+    return change != nullptr ? IsThere(*change) && change->What != Sort::Linked : below_.IsPlainFile(path);
+}
+
 Result<std::string> RehearsedFiles::Read(std::string_view path) {
     const RehearsedChange* change = Find(path);
     if (change == nullptr) {

@@ -37,6 +37,7 @@ class RehearsedFiles : public Files {
     Error ProbeDrive(std::string_view drive) override { return below_.ProbeDrive(drive); }
     bool FileExists(std::string_view path) override;
     bool DirectoryExists(std::string_view path) override;
+    bool IsPlainFile(std::string_view path) override;
     Result<std::vector<DirectoryEntry>> List(std::string_view directory) override { return below_.List(directory); }
     Result<WalkedDirectory> ListForWalk(std::string_view directory) override { return below_.ListForWalk(directory); }
     Result<std::string> Read(std::string_view path) override;

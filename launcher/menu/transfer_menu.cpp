@@ -133,7 +133,7 @@ void ExportSettings_Bar_Click(Launcher& launcher) {
     if (!path) {
         return;
     }
-    const auto done = ExportSettings(run, *path);
+    const auto done = ExportSettings(run, *path, MayReplace::kAnyFile);  // the dialog has asked
     if (!done.Ok()) {
         AskUser(run, kExport, Join("The settings were not exported.", NewLine, NewLine, ErrorLines(done.Fault)));
         return;

@@ -150,6 +150,12 @@ bool MemoryFiles::DirectoryExists(std::string_view path) {
     return node != nullptr && node->IsDirectory;
 }
 
+bool MemoryFiles::IsPlainFile(std::string_view path) {
+    const auto found = nodes_.find(KeyOfLink(path));
+    return found != nodes_.end() && !links_.contains(found->first) && !found->second.IsDirectory &&
+           !found->second.IsDevice;
+}
+
 Result<std::vector<DirectoryEntry>> MemoryFiles::List(std::string_view directory) {
     if (!DirectoryExists(directory)) {
         return MakeError(error::kPathNotFound);

@@ -6,6 +6,19 @@ namespace lv {
 
 namespace {
 
+// Where the components begin: behind "C:\" or "\\?\C:\", behind the server and the share of another machine.
+std::size_t EndOfRoot(const std::wstring& path) {
+    const std::size_t colon = path.find(L":\\");
+    if (colon != std::wstring::npos) {
+        return colon + 2;
+    }
+    const std::size_t server = path.starts_with(L"\\\\?\\UNC\\") ? 8 : 2;
+    const std::size_t share = path.find(L'\\', server);
+    return share == std::wstring::npos ? path.size() : path.find(L'\\', share + 1);
+}
+
+}  // namespace
+
 // Others of these marks are a file's own business: stored elsewhere, compressed.
 bool IsLink(const std::wstring& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
@@ -20,19 +33,6 @@ bool IsLink(const std::wstring& path) {
     FindClose(find);
     return found.dwReserved0 == IO_REPARSE_TAG_SYMLINK || found.dwReserved0 == IO_REPARSE_TAG_MOUNT_POINT;
 }
-
-// Where the components begin: behind "C:\" or "\\?\C:\", behind the server and the share of another machine.
-std::size_t EndOfRoot(const std::wstring& path) {
-    const std::size_t colon = path.find(L":\\");
-    if (colon != std::wstring::npos) {
-        return colon + 2;
-    }
-    const std::size_t server = path.starts_with(L"\\\\?\\UNC\\") ? 8 : 2;
-    const std::size_t share = path.find(L'\\', server);
-    return share == std::wstring::npos ? path.size() : path.find(L'\\', share + 1);
-}
-
-}  // namespace
 
 std::optional<std::wstring> FollowAll(const std::wstring& path) {
     const FileHandle target(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES,

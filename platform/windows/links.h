@@ -12,6 +12,9 @@ namespace lv {
 /// The path with every link on it followed, as the system spells it behind "\\?\". Nothing if there is nothing.
 std::optional<std::wstring> FollowAll(const std::wstring& path);
 
+/// Whether the path itself is a link of the file system, to a file or to a directory.
+bool IsLink(const std::wstring& path);
+
 /// Whether a link of the file system, to a file or to a directory, is the last of the path or stands on the way to it.
 bool HasLinkOnTheWay(const std::wstring& path);
 

@@ -219,6 +219,12 @@ bool WindowsFiles::DirectoryExists(std::string_view path) {
     return place && IsDirectoryAt(place->System);
 }
 
+bool WindowsFiles::IsPlainFile(std::string_view path) {
+    const Quiet quiet;
+    const auto place = FindNamed(path);
+    return place.Ok() && FileExists(path) && !IsLink(place.Value.System);
+}
+
 Result<std::vector<DirectoryEntry>> WindowsFiles::List(std::string_view directory) {
     const Quiet quiet;
     const auto place = Find(directory);

@@ -25,6 +25,7 @@ class WindowsFiles : public Files {
     Error ProbeDrive(std::string_view drive) override;
     bool FileExists(std::string_view path) override;
     bool DirectoryExists(std::string_view path) override;
+    bool IsPlainFile(std::string_view path) override;
     Result<std::vector<DirectoryEntry>> List(std::string_view directory) override;
     Result<WalkedDirectory> ListForWalk(std::string_view directory) override;
     Result<std::string> Read(std::string_view path) override;

@@ -66,6 +66,42 @@ TEST_F(TransferCommand, ATerminalGetsTheHostsPaths) {
               "\"C:\\HOME\\mine.lv3d\": Permission denied: /c:/home/mine.lv3d");
 }
 
+TEST_F(TransferCommand, AFileThatIsNoExportIsNotWrittenOver) {
+    system.Disk.AddFile("C:\\HOME\\mine.txt", "my notes");
+    const CommandResult result = ExportToFile("C:\\HOME\\mine.txt", place);
+    EXPECT_EQ(result.Code, exit_code::kFailed);
+    EXPECT_EQ(result.Out, "");
+    EXPECT_EQ(result.Err, "\"C:\\HOME\\mine.txt\": The file exists and is no file of settings; give another name");
+    EXPECT_EQ(system.Disk.Bytes("C:\\HOME\\mine.txt"), "my notes");
+}
+
+TEST_F(TransferCommand, AnExportIsWrittenOver) {
+    system.Disk.AddFile("C:\\HOME\\mine.lv3d", "Lorvane 3D settings 1\n");
+    EXPECT_EQ(ExportToFile("C:\\HOME\\mine.lv3d", place).Code, exit_code::kDone);
+    EXPECT_EQ(ImportFromFile("C:\\HOME\\mine.lv3d", place).Code, exit_code::kDone);
+}
+
+TEST_F(TransferCommand, AWordThatNamesADirectoryTakesNoFile) {
+    CommandPlace host = place;
+    host.PathOfWord = [](TextView) { return Text("C:\\HOME\\nodir"); };
+    const CommandResult result = ExportToFile("/home/nodir/", host);
+    EXPECT_EQ(result.Code, exit_code::kFailed);
+    EXPECT_EQ(result.Err, "\"/home/nodir/\": This names a directory; give the name of a file");
+    EXPECT_FALSE(system.Disk.FileExists("C:\\HOME\\nodir"));
+}
+
+TEST_F(TransferCommand, ManyPlacesAreTheFirstTenAndACount) {
+    Text programs;
+    for (int i = 1; i <= 42; ++i) {
+        programs += Join(i == 1 ? "" : ";", "Far;D:\\FAR", std::to_string(i), "\\QUAKE.EXE");
+    }
+    Save(run, kOptions, "Executables", TextView(programs));
+    (void)ExportToFile("C:\\HOME\\far.lv3d", place);
+    const CommandResult result = ImportFromFile("C:\\HOME\\far.lv3d", place);
+    EXPECT_TRUE(result.Out.find("  D:\\FAR10\r\n  and 32 more\r\n") != Text::npos) << result.Out;
+    EXPECT_TRUE(result.Out.starts_with("0 settings are others now.\r\nNot here, ")) << result.Out;
+}
+
 TEST_F(TransferCommand, ADirectoryThatIsNotThereTakesNoFile) {
     const CommandResult result = ExportToFile("C:\\NOWHERE\\mine.lv3d", place);
     EXPECT_EQ(result.Code, exit_code::kFailed) << result.Out;

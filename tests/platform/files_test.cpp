@@ -33,6 +33,18 @@ class AnyFiles : public testing::Test {
     Files& disk_ = made_.Disk;
 };
 
+TEST(MemoryFiles, TellAPlainFileFromWhatOnlyReadsLikeOne) {
+    MemoryDisk made;
+    made.Disk.AddFile("C:\\FILE");
+    made.Disk.AddFileLink("C:\\LINK", "C:\\FILE");
+    made.Disk.AddDevice("C:\\PIPE");
+    EXPECT_TRUE(made.Disk.IsPlainFile("C:\\file"));
+    EXPECT_FALSE(made.Disk.IsPlainFile("C:\\LINK"));
+    EXPECT_FALSE(made.Disk.IsPlainFile("C:\\PIPE"));
+    EXPECT_FALSE(made.Disk.IsPlainFile("C:\\"));
+    EXPECT_FALSE(made.Disk.IsPlainFile("C:\\NONE"));
+}
+
 // Those of the operating system have real links, pipes and sizes in tests of their own.
 TEST(MemoryFiles, ReplaceALinkByTheProgramsOwnFile) {
     MemoryDisk made;

@@ -314,6 +314,19 @@ TEST(LinuxFiles, ListPipesSocketsAndDevicesAsSuch) {
     EXPECT_TRUE(home.Disk.FileExists("C:\\link.cfg"));
 }
 
+TEST(LinuxFiles, TellAPlainFileFromWhatOnlyReadsLikeOne) {
+    Home home;
+    WriteBytes(home.C / "File", "x");
+    fs::create_symlink(home.C / "File", home.C / "link");
+    fs::create_symlink(home.C / "none", home.C / "broken");
+    ASSERT_EQ(mkfifo((home.C / "pipe").c_str(), 0600), 0);
+    EXPECT_TRUE(home.Disk.IsPlainFile("C:\\FILE"));
+    for (const char* const path :
+         {"C:\\File\\", "C:\\link", "C:\\broken", "C:\\pipe", "C:\\", "C:\\none", "X:\\File"}) {
+        EXPECT_FALSE(home.Disk.IsPlainFile(path)) << path;
+    }
+}
+
 TEST(LinuxFiles, KnowALinkOfTheirOwnWhoseFileIsGone) {
     Home home;
     fs::create_directories(home.C / "tree/ID1");

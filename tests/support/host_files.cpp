@@ -86,6 +86,11 @@ bool HostFiles::FileExists(std::string_view path) {
     return std::filesystem::is_regular_file(ToHost(path), failed);
 }
 
+bool HostFiles::IsPlainFile(std::string_view path) {
+    std::error_code failed;
+    return FileExists(path) && !std::filesystem::is_symlink(ToHost(path), failed);
+}
+
 bool HostFiles::DirectoryExists(std::string_view path) {
     std::error_code failed;
     return std::filesystem::is_directory(ToHost(path), failed);

@@ -58,6 +58,16 @@ TEST_F(SettingsFile, ThatCannotBeWrittenIsAnError) {
     EXPECT_EQ(ExportSettings(here.Run, kFile).Fault.Number, 61);
 }
 
+TEST_F(SettingsFile, TakesThePlaceOfAnotherFileOnlyIfTheUserSaysSo) {
+    here.System.Disk.AddFile(kFile, "my notes");
+    here.Put("Options", "Games", "g");
+    EXPECT_EQ(ExportSettings(here.Run, kFile).Fault.Number, 75);
+    EXPECT_EQ(here.System.Disk.Bytes(kFile), "my notes");
+    EXPECT_EQ(ExportSettings(here.Run, kFile, MayReplace::kAnyFile).Fault.Number, 0);
+    EXPECT_EQ(ReadSettingsFile(here.Run, kFile).Value, (Values{{"Options", "Games", "g"}}));
+    EXPECT_EQ(ExportSettings(here.Run, kFile).Fault.Number, 0);
+}
+
 TEST_F(SettingsFile, OfAStoreThatCannotBeReadIsAnErrorAndNoFile) {
     here.System.Settings.RefuseReads = MakeError(error::kAlreadyOpen);
     EXPECT_EQ(ExportSettings(here.Run, kFile).Fault.Number, 55);

@@ -190,4 +190,12 @@ TEST(SettingsText, HasNoMoreThan100000ValuesAnd16Megabytes) {
     EXPECT_EQ(ReadSettingsText(Text((16U << 20U) + 1, 'x')).Fault.Number, 7);
 }
 
+TEST(SettingsText, IsKnownByItsFirstLine) {
+    EXPECT_TRUE(BeginsSettingsText(WriteSettingsText({}).Value));
+    EXPECT_TRUE(BeginsSettingsText("Lorvane 3D settings 99"));
+    EXPECT_FALSE(BeginsSettingsText("Lorvane 3D"));
+    EXPECT_FALSE(BeginsSettingsText(" Lorvane 3D settings 1"));
+    EXPECT_FALSE(BeginsSettingsText(""));
+}
+
 }  // namespace lv

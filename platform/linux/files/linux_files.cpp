@@ -86,6 +86,12 @@ bool LinuxFiles::DirectoryExists(std::string_view path) {
     return place && IsDirectoryAt(place->Host);
 }
 
+bool LinuxFiles::IsPlainFile(std::string_view path) {
+    const auto place = Find(path);
+    struct stat info {};
+    return place && !EndsInSeparator(path) && lstat(place->Host.c_str(), &info) == 0 && S_ISREG(info.st_mode);
+}
+
 Result<std::vector<DirectoryEntry>> LinuxFiles::List(std::string_view directory) {
     const auto place = Find(directory);
     return place ? ListHostDirectory(place->Host) : MakeError(error::kPathNotFound);

@@ -50,6 +50,17 @@ TEST_F(RehearsedFilesTest, WhatIsDeletedIsGoneAndStaysOnTheDisk) {
     EXPECT_TRUE(below.FileExists("C:\\QUAKE\\old.cfg"));
 }
 
+TEST_F(RehearsedFilesTest, ALinkOfTheRehearsalIsNoPlainFile) {
+    RehearsedFiles disk(below);
+    (void)disk.Replace("C:\\QUAKE\\new.cfg", "x");
+    (void)disk.Link("C:\\QUAKE\\old.cfg", "C:\\QUAKE\\link.cfg");
+    EXPECT_TRUE(disk.IsPlainFile("C:\\QUAKE\\old.cfg"));
+    EXPECT_TRUE(disk.IsPlainFile("C:\\QUAKE\\new.cfg"));
+    EXPECT_FALSE(disk.IsPlainFile("C:\\QUAKE\\link.cfg"));
+    (void)disk.Delete("C:\\QUAKE\\old.cfg");
+    EXPECT_FALSE(disk.IsPlainFile("C:\\QUAKE\\old.cfg"));
+}
+
 TEST_F(RehearsedFilesTest, AFileOfTheRehearsalThatIsDeletedAgainIsNoChange) {
     RehearsedFiles disk(below);
     (void)disk.Replace("C:\\QUAKE\\new.cfg", "x");

@@ -84,6 +84,21 @@ TEST_F(TransferMenu, TellsWhatCouldNotBeExported) {
     ExportSettings_Bar_Click(launcher);
 }
 
+TEST_F(TransferMenu, ExportsOverAFileThatTheDialogHasAskedAboutAndOverNothingElse) {
+    system.Disk.AddFile(kFile, "my notes");
+    Choose(kFile);
+    user.Expect({"Export Settings", "The passwords of your servers are among them"});
+    ExportSettings_Bar_Click(launcher);
+    EXPECT_TRUE(system.Disk.Bytes(kFile).starts_with("Lorvane 3D settings 1\n"));
+
+    system.Disk.AddFile("C:\\HOME\\other.txt", "other");
+    system.Disk.AddFileLink("C:\\HOME\\link.lv3d", "C:\\HOME\\other.txt");
+    Choose("C:\\HOME\\link.lv3d");
+    user.Expect({"Export Settings", "This is a link, a pipe or a device, and stays what it is; give another name"});
+    ExportSettings_Bar_Click(launcher);
+    EXPECT_EQ(system.Disk.Bytes("C:\\HOME\\link.lv3d"), "other");
+}
+
 TEST_F(TransferMenu, ImportsAndShowsTheNewState) {
     const Text before = Stored("Options", "Executables");
     ChooseFile({{"Options", "Executables", "Only;C:\\QUAKE\\QUAKE.EXE"},
