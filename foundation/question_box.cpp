@@ -29,6 +29,7 @@ constexpr TextView kQuietCaptions[] = {
     "Don't Start",
     "Leave It",
     "Leave It Alone",
+    "Leave as They Are",
     "Cancel and I'll Try That",
     "I'm smart enough to admit I don't know what I am doing",
 };

@@ -12,8 +12,10 @@ namespace lv {
 
 namespace {
 
+constexpr std::size_t kRoot = 3;  // characters of "C:\"
+
 bool IsOfADrive(TextView path) {
-    return path.size() > 2 && path[1] == ':' && path[2] == '\\';
+    return path.size() >= kRoot && path[1] == ':' && path[2] == '\\';
 }
 
 bool IsOnDiskette(TextView path) {
@@ -49,6 +51,7 @@ std::vector<MovedPlace> Outermost(std::vector<MovedPlace> places) {
             outer, [&place](const MovedPlace& other) { return LiesBelow(place.Directory, other.Directory); });
         if (above != outer.end()) {
             above->Games.insert(above->Games.end(), place.Games.begin(), place.Games.end());
+            above->Programs.insert(above->Programs.end(), place.Programs.begin(), place.Programs.end());
         }
     }
     return outer;
@@ -62,12 +65,14 @@ std::vector<MovedPlace> MovedPlacesOf(Files& disk, const std::vector<StoredValue
     std::vector<MovedPlace> places;
     std::vector<Text> there;
     for (std::size_t i = 0; rows && i < rows->Count(); ++i) {
-        const Text directory = DirectoryOf(OnDisk(Trim(rows->Field(i, 1))));
+        const Text program = OnDisk(Trim(rows->Field(i, 1)));
+        const Text directory = DirectoryOf(program);
         if (MovedPlace* const known = PlaceOf(places, directory)) {
             known->Games.push_back(rows->Field(i, 0));
+            known->Programs.push_back(program);
         } else if (std::ranges::find(there, LowerCase(directory)) == there.end()) {
             if (IsMissing(disk, directory)) {
-                places.push_back({directory, {rows->Field(i, 0)}});
+                places.push_back({directory, {rows->Field(i, 0)}, {program}});
             } else {
                 there.push_back(LowerCase(directory));
             }
@@ -85,6 +90,36 @@ Text LikelyPlace(Files& disk, const MovedPlace& place, const std::vector<PathMov
         }
     }
     return {};
+}
+
+std::vector<Text> MissingIn(Files& disk, const MovedPlace& place, TextView here) {
+    std::vector<Text> missing;
+    for (const Text& program : place.Programs) {
+        const Text moved = MovedPath(program, {{place.Directory, Text(here)}});
+        const Text name = program.substr(std::min(place.Directory.size() + 1, program.size()));
+        const bool isNamed = std::ranges::any_of(missing, [&name](const Text& other) { return SameText(other, name); });
+        if (IsOfADrive(moved) && !isNamed && (IsOnDiskette(moved) || !disk.FileExists(moved))) {
+            missing.push_back(name);
+        }
+    }
+    return missing;
+}
+
+Text WhereToLook(Files& disk, const MovedPlace& place, TextView executables) {
+    const auto rows = SplitRows(executables, kExecutables.RecordSize);
+    Text root;
+    for (std::size_t i = 0; rows && i < rows->Count(); ++i) {
+        const Text directory = DirectoryOf(OnDisk(Trim(rows->Field(i, 1))));
+        if (!IsHere(disk, directory)) {
+            continue;
+        }
+        if (SameText(LastPathPart(directory), LastPathPart(place.Directory))) {
+            return directory;
+        }
+        root = root.empty() ? directory.substr(0, kRoot) : root;
+    }
+    const Text own = place.Directory.substr(0, kRoot);
+    return root.empty() && IsHere(disk, own) ? own : root;
 }
 
 bool IsHere(Files& disk, TextView path) {

@@ -2,17 +2,19 @@
 
 #include <algorithm>
 
+#include "catalogs/catalog_store.h"
 #include "catalogs/editors/path_window.h"
 #include "foundation/browse.h"
 #include "foundation/error_lines.h"
 #include "foundation/field_strings.h"
 #include "foundation/question_box.h"
+#include "foundation/settings.h"
 #include "launcher/menu/backups_frm.h"
 #include "launcher/start/main_window_load.h"
 #include "transfer/import_settings.h"
+#include "transfer/import_words.h"
 
 namespace lv {
-#include "transfer/import_words.h"
 
 namespace {
 
@@ -68,13 +70,19 @@ class PlaceQuestions {
     explicit PlaceQuestions(Run& run) : run_(run) {}
 
     std::optional<Text> Ask(const MovedPlace& place, TextView likely) {
-        while (!leavesAll_) {
-            const std::optional<Text> here = AskOnce(place, likely);
-            const Text fault = here ? FaultOfPlace(*here) : Text();
-            if (fault.empty()) {
-                return here;
+        std::optional<Text> here = leavesAll_ ? std::nullopt : AskOnce(place, likely);
+        while (here) {
+            if (const Text fault = FaultOfPlace(*here); !fault.empty()) {
+                AskUser(run_, kPlaces, fault);
+                here = AskOnce(place, likely);
+                continue;
             }
-            AskUser(run_, kPlaces, fault);
+            const std::vector<Text> missing = MissingIn(run_.System.Disk, place, *here);
+            const int answer = missing.empty() ? 0 : AskOfMissing(place, *here, missing);
+            if (answer != kShowAgain) {
+                return answer == 0 ? here : std::nullopt;
+            }
+            here = Choose(place, *here);
         }
         return std::nullopt;
     }
@@ -88,12 +96,27 @@ class PlaceQuestions {
             return Text(likely);
         }
         leavesAll_ = answer == offers + 2;
-        if (answer != offers) {
-            return std::nullopt;
+        return answer == offers ? Choose(place, likely) : std::nullopt;
+    }
+
+    std::optional<Text> Choose(const MovedPlace& place, TextView near) {
+        Text start(near);
+        if (start.empty()) {
+            start = WhereToLook(run_.System.Disk, place, GetSetting(run_, run_.AppName, kOptions, kExecutables.Key));
         }
-        Text path = ChoosePath(run_, likely.empty() ? TextView(run_.LastBrowsed) : likely,
+        Text path = ChoosePath(run_, start.empty() ? TextView(run_.LastBrowsed) : start,
                                Join("Where Is ", LastPathPart(place.Directory), "?"));
         return path == kPathCancelled ? std::nullopt : std::optional(std::move(path));
+    }
+
+    int AskOfMissing(const MovedPlace& place, TextView here, const std::vector<Text>& missing) {
+        return AskUser(run_, kPlaces,
+                       Join("In the directory -->", NewLine, NewLine, TabChar, here, NewLine, NewLine,
+                            "these are missing, which the file has in ", place.Directory, ":", NewLine, Lines(missing),
+                            NewLine, NewLine,
+                            "A directory is taken once it is open: double-click it, so that its whole path stands "
+                            "below the list."),
+                       "&Take It Anyway,&Show Where,&Leave as They Are", kShowAgain);
     }
 
     static Text Question(const MovedPlace& place, TextView likely) {

@@ -95,6 +95,7 @@ constexpr QuietCase kQuietCases[] = {
     {"&Leave It Alone,&Change That File", 0},
     {"&Leave It Alone,&Write There", 0},
     {"&Leave It,&Read It", 0},
+    {"&Take It Anyway,&Show Where,&Leave as They Are", 2},
     {"&Don't Start,&Start It", 0},
     {"&Close,C&opy", 0},
     {"&A,&B,&C", -1},

@@ -84,4 +84,37 @@ TEST_F(MovedPlaces, TellWhatIsHere) {
     EXPECT_FALSE(IsHere(disk, ""));
 }
 
+TEST_F(MovedPlaces, MissTheProgramsThatAreNotInTheNewDirectory) {
+    const auto places =
+        MovedPlacesOf(disk, Catalog("Q2;C:\\Q2\\QUAKE2.EXE;Again;c:\\q2\\quake2.exe;Deep;C:\\Q2\\new\\q.exe;GL;"
+                                    "C:\\Q2\\gl.exe"));
+    ASSERT_EQ(places.size(), 1u);
+    disk.AddFile("D:\\play\\GL.EXE");
+    disk.AddDirectory("D:\\play\\quake2.exe");
+    EXPECT_EQ(MissingIn(disk, places[0], "D:\\play"), (Lines{"QUAKE2.EXE", "new\\q.exe"}));
+    EXPECT_EQ(MissingIn(disk, places[0], "D:\\"), (Lines{"QUAKE2.EXE", "gl.exe", "new\\q.exe"}));
+    disk.AddFile("D:\\all\\quake2.exe");
+    disk.AddFile("D:\\all\\gl.exe");
+    disk.AddFile("D:\\all\\new\\q.exe");
+    EXPECT_EQ(MissingIn(disk, places[0], "D:\\all\\"), Lines());
+    EXPECT_EQ(MissingIn(disk, places[0], "\\\\server\\share"), Lines());
+    EXPECT_EQ(MissingIn(disk, places[0], "A:\\"), (Lines{"QUAKE2.EXE", "gl.exe", "new\\q.exe"}));
+}
+
+TEST_F(MovedPlaces, AreLookedForNearWhatIsCalledSo) {
+    disk.AddFile("D:\\old\\Quake2\\QUAKE2.EXE");
+    const MovedPlace place{"E:\\Games\\QUAKE2", {}, {}};
+    constexpr TextView kBoth = "Quake;C:\\QUAKE\\QUAKE.EXE;Q2;D:\\old\\Quake2\\QUAKE2.EXE";
+    EXPECT_EQ(WhereToLook(disk, place, kBoth), "D:\\old\\Quake2");
+    EXPECT_EQ(WhereToLook(disk, {"E:\\Games\\HL", {}, {}}, kBoth), "C:\\");
+    EXPECT_EQ(WhereToLook(disk, place, "Gone;D:\\gone\\quake2\\q.exe;Q2;D:\\old\\Quake2\\QUAKE2.EXE"),
+              "D:\\old\\Quake2");
+}
+
+TEST_F(MovedPlaces, AreLookedForOnTheirOwnDriveWhereNoGameIsKnown) {
+    EXPECT_EQ(WhereToLook(disk, {"D:\\Games\\QUAKE", {}, {}}, ""), "D:\\");
+    EXPECT_EQ(WhereToLook(disk, {"E:\\Games\\QUAKE", {}, {}}, ""), "");
+    EXPECT_EQ(WhereToLook(disk, {"A:\\QUAKE", {}, {}}, "a damaged one;"), "");
+}
+
 }  // namespace lv

@@ -221,10 +221,47 @@ TEST_F(TransferMenu, AsksAgainForAPlaceThatCannotStandInAList) {
     user.Expect({kPlaces, "\"D:\\a;b\" can't stand in the lists: \";\" parts their entries."});
     user.Expect({kPlaces, "C:\\X", 0});
     choose("C:\\QUAKE");
+    user.Expect({kPlaces, "\tA.EXE", 0});
     user.Expect({"Import Settings", "Tools, Backups"});
     user.Expect({"Game Not Found...", "C:\\QUAKE\\A.EXE", 2});
     ImportSettings_Bar_Click(launcher);
     EXPECT_EQ(Stored("Options", "Executables"), "One;C:\\QUAKE\\A.EXE");
+}
+
+TEST_F(TransferMenu, SaysWhichProgramsAreNotInTheChosenDirectoryAndAsksAgain) {
+    ChooseFile({{"Options", "Executables", "Quake;d:\\Games\\Quake\\glquake.exe;W;d:\\Games\\Quake\\qwcl.exe"}});
+    user.Expect({kPlaces, "d:\\Games\\Quake", 0});
+    user.In<Path_Frm>([](Path_Frm& form) {
+        EXPECT_EQ(form.Path_Lbl.Caption, "C:\\QUAKE") << "a directory of that name is known";
+        form.Path_Lbl.Caption = "C:\\";
+        Path_OK_Cmd_Click(form);
+    });
+    user.Expect({kPlaces,
+                 "In the directory -->\r\n\r\n\tC:\\\r\n\r\nthese are missing, which the file has in "
+                 "d:\\Games\\Quake:\r\n\r\n\tglquake.exe\r\n\tqwcl.exe",
+                 1, false, false, "&Take It Anyway,&Show Where,&Leave as They Are"});
+    user.In<Path_Frm>([](Path_Frm& form) {
+        EXPECT_EQ(form.Path_Lbl.Caption, "C:\\");
+        form.Path_Lbl.Caption = "C:\\QUAKE";
+        Path_OK_Cmd_Click(form);
+    });
+    user.Expect({"Import Settings", "Tools, Backups"});
+    ImportSettings_Bar_Click(launcher);
+    EXPECT_EQ(Stored("Options", "Executables"), "Quake;C:\\QUAKE\\glquake.exe;W;C:\\QUAKE\\qwcl.exe");
+}
+
+TEST_F(TransferMenu, LeavesAPlaceWhoseProgramsAreMissingInTheChosenOne) {
+    ChooseFile({{"Options", "Executables", "One;D:\\X\\A.EXE"}});
+    user.Expect({kPlaces, "D:\\X", 0});
+    user.In<Path_Frm>([](Path_Frm& form) {
+        EXPECT_EQ(form.Path_Lbl.Caption, "C:\\") << "where the first game lies";
+        Path_OK_Cmd_Click(form);
+    });
+    user.Expect({kPlaces, "\tA.EXE", 2});
+    user.Expect({"Import Settings", "Not here, and left as the file has them:\r\n\r\n\tD:\\X"});
+    user.Expect({"Game Not Found...", "D:\\X\\A.EXE", 2});
+    ImportSettings_Bar_Click(launcher);
+    EXPECT_EQ(Stored("Options", "Executables"), "One;D:\\X\\A.EXE");
 }
 
 TEST_F(TransferMenu, TellsAStoreThatTakesNothing) {
