@@ -50,8 +50,8 @@ Text NamesOf(const SetupList& setups) {
     for (const KeptSetup& setup : setups.All) {
         append(Join(std::to_string(setup.Number), "=", Escaped(setup.What.Name)));
     }
-    for (const Text& entry : setups.Unread) {
-        append(entry);
+    for (const UnreadSetup& unread : setups.Unread) {
+        append(unread.Entry);
     }
     return names;
 }
@@ -105,21 +105,40 @@ bool Store(Run& run, SetupList& setups, SetupList changed, int number, TextView 
     return true;
 }
 
+// Why it could not be added.
+std::optional<WhyUnread> AddSetup(Run& run, SetupList& setups, const std::optional<NameEntry>& named) {
+    if (!named) {
+        return WhyUnread::NoEntry;
+    }
+    if (setups.Of(named->Number) != nullptr) {
+        return WhyUnread::NumberTaken;
+    }
+    if (setups.Named(named->Name) != nullptr) {
+        return WhyUnread::NameTaken;
+    }
+    if (setups.All.size() >= kMostSetups) {
+        return WhyUnread::TooMany;
+    }
+    auto setup = SetupOfText(GetSetting(run, run.AppName, kSetups, KeyOf(named->Number)));
+    if (!setup) {
+        return WhyUnread::NoSetup;
+    }
+    setup->Name = Trim(named->Name);
+    setups.All.push_back({named->Number, *std::move(setup)});
+    return std::nullopt;
+}
+
 // Once for each set of them.
 void TellUnread(Run& run, const SetupList& setups) {
     Text noted;
-    Text shown;
-    for (const Text& entry : setups.Unread) {
-        noted += Join(entry, ";");
-        shown += Join(NewLine, ShownText(Unescaped(entry).value_or(entry)));
+    for (const UnreadSetup& unread : setups.Unread) {
+        noted += Join(unread.Entry, ";");
     }
     noted.resize(std::min(noted.size(), kLongestValue));
     if (noted == GetSetting(run, run.AppName, kSetups, kToldOf)) {
         return;
     }
-    AskUser(
-        run, kSetupsTitle,
-        Join("Some setups can't be read and are left out. They stay among the settings as they are:", NewLine, shown));
+    AskUser(run, kSetupsTitle, UnreadText(setups.Unread));
     Save(run, kSetups, kToldOf, TextView(noted));
 }
 
@@ -146,16 +165,10 @@ SetupList LoadSetups(Run& run) {
         if (entry.empty()) {
             continue;
         }
-        const auto named = NameEntryOf(entry);
-        const bool fits = named && setups.All.size() < kMostSetups && setups.Of(named->Number) == nullptr &&
-                          setups.Named(named->Name) == nullptr;
-        auto setup = fits ? SetupOfText(GetSetting(run, run.AppName, kSetups, KeyOf(named->Number))) : std::nullopt;
-        if (!setup) {
-            setups.Unread.emplace_back(entry);
-            continue;
+        const auto why = AddSetup(run, setups, NameEntryOf(entry));
+        if (why) {
+            setups.Unread.push_back({Text(entry), *why});
         }
-        setup->Name = Trim(named->Name);
-        setups.All.push_back({named->Number, *std::move(setup)});
     }
     setups.Picked = GetNumber(run, kSetups, kPicked);
     if (!setups.Unread.empty()) {

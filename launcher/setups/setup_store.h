@@ -8,6 +8,7 @@
 
 #include "foundation/run.h"
 #include "launcher/setups/setup.h"
+#include "launcher/setups/unread_setups.h"
 
 namespace lv {
 
@@ -23,8 +24,8 @@ struct KeptSetup {
 
 struct SetupList {
     std::vector<KeptSetup> All;
-    std::vector<Text> Unread;  // entries of the list of names, as stored
-    int Picked = 0;            // the number of the one that was picked last; 0: none
+    std::vector<UnreadSetup> Unread;
+    int Picked = 0;  // the number of the one that was picked last; 0: none
 
     /// Null if there is none of that number, or of that name in any letter case.
     [[nodiscard]] const KeptSetup* Of(int number) const;

@@ -131,9 +131,14 @@ TEST_F(SetupStore, WhatIsDamagedIsToldAndStaysAsItIs) {
     Save(run, "Setups", "Setup6", "1;Executable=C:\\A.EXE");
     Save(run, "Setups", "Setup8", "1;Executable=C:\\A.EXE");
     user.Expect({"Setups",
-                 "Some setups can't be read and are left out. They stay among the settings as they are:\r\n"
-                 "\r\n2=Broken\r\n3=Gone\r\nx=Odd\r\n4\r\n5=%1\r\n6=duel\r\n1=Again\r\n7= ",
-                 0, false, true});
+                 "\r\n2=Broken: nothing is stored for this number, or what is stored is damaged"
+                 "\r\n3=Gone: nothing is stored for this number, or what is stored is damaged"
+                 "\r\nx=Odd: no number and no name, as in \"3=Practice\""
+                 "\r\n4: no number and no name, as in \"3=Practice\""
+                 "\r\n5=%1: no number and no name, as in \"3=Practice\""
+                 "\r\n6=duel: another setup has this name, and letter case has no meaning in names"
+                 "\r\n1=Again: another setup has this number"
+                 "\r\n7= : no number and no name, as in \"3=Practice\"\r\n"});
     setups = LoadSetups(run);
     EXPECT_EQ(NamesIn(setups), (std::vector<Text>{"Duel", "Whole"}));
     ASSERT_TRUE(KeepSetup(run, setups, Of("New")));
@@ -142,8 +147,36 @@ TEST_F(SetupStore, WhatIsDamagedIsToldAndStaysAsItIs) {
     setups = LoadSetups(run);  // and not a word more of it
     EXPECT_EQ(NamesIn(setups), (std::vector<Text>{"Duel", "Whole", "New"}));
     Save(run, "Setups", "Setup8", "1;Executable");
-    user.Expect({"Setups", "\r\n8=Whole\r\n2=Broken"});
+    user.Expect({"Setups", "\r\n8=Whole: nothing is stored"});
     EXPECT_EQ(NamesIn(LoadSetups(run)), (std::vector<Text>{"Duel", "New"}));
+}
+
+TEST_F(SetupStore, ASecondNameIsThereOnceTheFirstIsRenamed) {
+    Save(run, "Setups", "Names", "31=Quake;32=QUAKE");
+    Save(run, "Setups", "Setup31", "1;Executable=C:\\A.EXE");
+    Save(run, "Setups", "Setup32", "1;Executable=C:\\B.EXE");
+    user.Expect({"Setups",
+                 "Some setups can't be read and are left out. They stay among the settings as they are:\r\n"
+                 "\r\n32=QUAKE: another setup has this name, and letter case has no meaning in names\r\n"
+                 "\r\nGive that other setup a new name (Tools, Setups), and this one is there at the next start.",
+                 0, false, true});
+    setups = LoadSetups(run);
+    EXPECT_EQ(NamesIn(setups), std::vector<Text>{"Quake"});
+    ASSERT_TRUE(RenameSetup(run, setups, 31, "Old Quake"));
+    EXPECT_EQ(NamesIn(LoadSetups(run)), (std::vector<Text>{"Old Quake", "QUAKE"}));
+}
+
+TEST_F(SetupStore, TheTwoHundredAndFirstIsThereOnceAnotherIsDeleted) {
+    Text names;
+    for (int i = 1; i <= 201; ++i) {
+        names += Join(i == 1 ? "" : ";", std::to_string(i), "=S", std::to_string(i));
+        Save(run, "Setups", TextView(Join("Setup", std::to_string(i))), "1;Executable=C:\\A.EXE");
+    }
+    Save(run, "Setups", "Names", TextView(names));
+    user.Expect({"Setups", "\r\n201=S201: there are 200 setups ahead of it\r\n\r\nDelete a setup that you don't use"});
+    setups = LoadSetups(run);
+    ASSERT_TRUE(DeleteSetup(run, setups, 7));
+    EXPECT_NE(LoadSetups(run).Named("S201"), nullptr);
 }
 
 TEST_F(SetupStore, AFullDiskLeavesAllAsItWas) {
