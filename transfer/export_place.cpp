@@ -87,17 +87,19 @@ Error FaultOfExport(Run& run, TextView path, MayReplace mayReplace) {
     if (!entries.Ok()) {
         return entries.Fault;
     }
-    std::size_t ofThatName = 0;
     for (const DirectoryEntry& entry : entries.Value) {
         if (!SameText(entry.Name, name)) {
             continue;
         }
-        if (Error fault = FaultOfEntry(disk, PathBelow(directory, entry.Name), entry.IsDirectory, mayReplace)) {
+        if (entry.Name != name) {  // it would go, or be what is written over
+            return Refused(
+                Join("The name \"", entry.Name, "\" differs in letter case alone; give that, or another one"));
+        }
+        if (Error fault = FaultOfEntry(disk, path, entry.IsDirectory, mayReplace)) {
             return fault;
         }
-        ++ofThatName;
     }
-    return ofThatName > 1 ? Refused("Several files have this name in other letters; give another one") : Error();
+    return {};
 }
 
 }  // namespace lv

@@ -18,8 +18,8 @@ enum class MayReplace {
 Error FaultOfFileName(TextView path);
 
 /// Why the path is refused, in a sentence; no error if it is not. Refused are names of directories, the directories
-/// that this program keeps settings and their copies in, links, pipes and devices, and plain files that may not be
-/// replaced. Errors: 75, and those of Files::List and Files::Open.
+/// that this program keeps settings and their copies in, links, pipes and devices, other spellings of what is there,
+/// and plain files that may not be replaced. Errors: 75, and those of Files::List and Files::Open.
 Error FaultOfExport(Run& run, TextView path, MayReplace mayReplace);
 
 }  // namespace lv

@@ -38,16 +38,22 @@ TEST_F(ExportPlace, IsAnyFreeNameInADirectoryThatIsThere) {
 TEST_F(ExportPlace, IsThatOfAnEarlierExport) {
     disk.AddFile("C:\\PLAY\\mine.lv3d", "Lorvane 3D settings 1\ncut");
     EXPECT_EQ(Fault("C:\\PLAY\\mine.lv3d"), "");
-    EXPECT_EQ(Fault("C:\\PLAY\\MINE.lv3d"), "");
 }
 
 TEST_F(ExportPlace, IsNotThatOfAnotherFileUnlessTheUserSaysSo) {
     disk.AddFile("C:\\PLAY\\mine.txt", "my notes");
     disk.AddFile("C:\\PLAY\\empty.txt");
     EXPECT_EQ(Fault("C:\\PLAY\\mine.txt"), kOther);
-    EXPECT_EQ(Fault("C:\\PLAY\\MINE.TXT"), kOther);
     EXPECT_EQ(Fault("C:\\PLAY\\empty.txt"), kOther);
     EXPECT_EQ(Fault("C:\\PLAY\\mine.txt", MayReplace::kAnyFile), "");
+}
+
+TEST_F(ExportPlace, IsNoOtherSpellingOfAName) {
+    disk.AddFile("C:\\PLAY\\mine.lv3d", "Lorvane 3D settings 1\n");
+    for (const MayReplace may : {MayReplace::kExportsAlone, MayReplace::kAnyFile}) {
+        EXPECT_EQ(Fault("C:\\PLAY\\MINE.lv3d", may),
+                  "The name \"mine.lv3d\" differs in letter case alone; give that, or another one");
+    }
 }
 
 TEST_F(ExportPlace, IsNeverWhatIsNoPlainFile) {
