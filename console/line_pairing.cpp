@@ -33,6 +33,7 @@ using NameNumbers = std::unordered_map<TextView, std::uint32_t>;
 
 NameNumbers NumbersOf(const Subjects& subjects) {
     NameNumbers numbers;
+    numbers.reserve(subjects.size());
     for (const LineSubject& each : subjects) {
         if (each.IsWhole) {
             numbers.try_emplace(each.Name, static_cast<std::uint32_t>(numbers.size()));
