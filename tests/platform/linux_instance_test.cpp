@@ -87,7 +87,7 @@ pid_t AskFromAnotherProcess(const char* test, const char* request) {
     const std::string config = ConfigOf(test);
     const pid_t child = fork();
     if (child == 0) {
-        _exit(LinuxInstance(config).Ask(request) == "done" ? 0 : 1);
+        _exit(LinuxInstance(config).Ask(request, kPatienceMs).Answer == "done" ? 0 : 1);
     }
     return child;
 }

@@ -71,7 +71,7 @@ TEST(RequestPipe, WhoHasGoneGetsNothing) {
     ASSERT_NE(WriteFile(gone, "3\none", 5, &written, nullptr), 0);
     CloseHandle(gone);
     EXPECT_TRUE(ServeFor(pipe, 100, "yes").empty());
-    std::thread other([&] { EXPECT_EQ(RequestPipe::Ask(name, "two"), "yes") << "the next one is answered"; });
+    std::thread other([&] { EXPECT_EQ(RequestPipe::Ask(name, "two").Answer, "yes") << "the next one is answered"; });
     EXPECT_EQ(ServeFor(pipe, 500, "yes"), std::vector<std::string>{"two"});
     other.join();
 }
