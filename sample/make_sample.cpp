@@ -177,7 +177,7 @@ int main(int count, char** arguments) {
         lv::MakeSmallQuake(arguments[2]);
         return 0;
     }
-    if (count != 2) {
+    if (count != 2 || arguments[1][0] == '-') {  // a word that is no option of ours is no directory either
         std::fputs("usage: make_sample [--quake] FOLDER\n", stderr);
         return 2;
     }
