@@ -245,7 +245,8 @@ Section "un.Lorvane 3D"
     ${EndIf}
 SectionEnd
 
-; With the copies that were made of them, and the older versions of scripts; what else lies there is not ours.
+; With the copies that were made of them, the older versions of scripts and the launchers' pictures; what else lies there
+; is not ours.
 Section /o "un.My lists and settings" UNSETTINGS
     DeleteRegKey HKCU "${SETTINGS}"
     Delete "$LOCALAPPDATA\lorvane3d\backups\settings *.txt"
@@ -253,6 +254,8 @@ Section /o "un.My lists and settings" UNSETTINGS
     Delete "$LOCALAPPDATA\lorvane3d\versions\*.txt"
     Delete "$LOCALAPPDATA\lorvane3d\versions\*.txt.damaged*"
     RMDir "$LOCALAPPDATA\lorvane3d\versions"
+    Delete "$LOCALAPPDATA\lorvane3d\launchers\*.ico"
+    RMDir "$LOCALAPPDATA\lorvane3d\launchers"
     RMDir "$LOCALAPPDATA\lorvane3d"
 SectionEnd
 

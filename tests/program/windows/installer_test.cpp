@@ -146,12 +146,13 @@ TEST(Installer, TakesTheCopiesOfSettingsAndScriptsAlongWithThem) {
     WindowsHome home;
     home.Prepare();
     const std::wstring data = InDirectoryOf(L"LOCALAPPDATA", L"lorvane3d");
-    for (const std::wstring& directory : {data, data + L"\\backups", data + L"\\versions"}) {
+    for (const std::wstring& directory : {data, data + L"\\backups", data + L"\\versions", data + L"\\launchers"}) {
         CreateDirectoryW(directory.c_str(), nullptr);
     }
     const std::wstring copy = data + L"\\backups\\settings 000000001 2026-11-23 15-17-59.txt";
     const std::wstring versions = data + L"\\versions\\0123456789abcdef.txt";
-    for (const std::wstring& file : {copy, versions, versions + L".damaged2"}) {
+    const std::wstring picture = data + L"\\launchers\\quake.ico";
+    for (const std::wstring& file : {copy, versions, versions + L".damaged2", picture}) {
         WriteBytes(file, "kept");
     }
     ASSERT_EQ(Install(), 0u);
@@ -161,7 +162,7 @@ TEST(Installer, TakesTheCopiesOfSettingsAndScriptsAlongWithThem) {
     WriteBytes(data + L"\\versions\\mine.doc", "mine");
     Remove(L" /settings");
     EXPECT_TRUE(WaitUntil([&] { return !IsThere(data + L"\\backups"); }));
-    EXPECT_FALSE(IsThere(versions) || IsThere(versions + L".damaged2"));
+    EXPECT_FALSE(IsThere(versions) || IsThere(versions + L".damaged2") || IsThere(data + L"\\launchers"));
     EXPECT_EQ(BytesOf(data + L"\\versions\\mine.doc"), "mine");
     DeleteFileW((data + L"\\versions\\mine.doc").c_str());
     RemoveDirectoryW((data + L"\\versions").c_str());
