@@ -27,10 +27,10 @@
 #include "platform/linux/linux_known_places.h"
 #include "platform/linux/linux_processes.h"
 #include "platform/linux/linux_shortcuts.h"
+#include "platform/linux/screen_access.h"
 #include "platform/linux/user_directories.h"
 #include "platform/linux/wine_registry.h"
 #include "platform/linux/x11_desktop.h"
-#include "platform/toolkit/screen_access.h"
 
 namespace lv {
 
