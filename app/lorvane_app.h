@@ -113,7 +113,10 @@ class LorvaneApp : public wxApp {
 
     int OnRun() override {
         const int code = wxApp::OnRun();
-        return program_ ? code : kNotBegun;
+        if (!program_) {
+            return kNotBegun;
+        }
+        return program_->TheLauncher.HandOverFailed ? exit_code::kFailed : code;
     }
 
     int OnExit() override {

@@ -69,6 +69,9 @@ struct WordsDone {
 
 inline WordsDone DoneAs(const Command& command, CommandResult result) {
     Text told = command.Tell && result.Code != exit_code::kDone ? TrimWhite(result.Err) : Text();
+    if (!told.empty() && command.Setup && result.Code == exit_code::kNothingCalledSo) {
+        told += Join(NewLine, NewLine, "A launcher whose setup has gone can be deleted.");
+    }
     return {std::move(result), {}, std::move(told)};
 }
 

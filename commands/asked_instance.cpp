@@ -16,7 +16,8 @@ constexpr TextView kEnd = TextView("\0", 1);
 constexpr std::size_t kReplyFields = 4;
 
 CommandResult Busy() {
-    return {.Code = exit_code::kFailed, .Err = "The running Lorvane 3D is busy.\n"};
+    return {.Code = exit_code::kFailed,
+            .Err = "The running Lorvane 3D is busy. Close the windows that are open in it, and try again.\n"};
 }
 
 CommandResult NoteOffered(Launcher& window, const Text& word) {
@@ -35,7 +36,8 @@ CommandResult NoteOffered(Launcher& window, const Text& word) {
 }  // namespace
 
 CommandResult NoAnswer() {
-    return {.Code = exit_code::kFailed, .Err = "Lorvane 3D is running already, and does not answer.\n"};
+    return {.Code = exit_code::kFailed,
+            .Err = "Lorvane 3D is running already, and does not answer. Answer what its window asks, and try again.\n"};
 }
 
 void ConnectHandOver(Launcher& launcher) {

@@ -81,6 +81,7 @@ struct Launcher {
     /// Gives a word that this start was given to the instance that runs; why that does not take it, or empty. Empty
     /// itself: the program can't.
     std::function<Text(TextView word)> HandOver;
+    bool HandOverFailed = false;  // and the user was told
 
     /// The session ends: keeps what its user has not saved yet, and asks nothing. Empty: there is nothing to keep.
     std::function<void()> KeepUnsavedEdits;

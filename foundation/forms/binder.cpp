@@ -1,5 +1,7 @@
 #include "foundation/forms/binder.h"
 
+#include <wx/dialog.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -17,6 +19,10 @@ namespace {
 // A control that shows no text of its own is called by its tool tip.
 bool ShowControl(const Control& model, wxWindow* view, Text& tip) {
     if (view->IsThisEnabled() != model.Enabled) {
+        // In a dialog a disabled control that has the keyboard would keep Escape from closing it.
+        if (!model.Enabled && view->HasFocus() && dynamic_cast<wxDialog*>(wxGetTopLevelParent(view)) != nullptr) {
+            view->Navigate();
+        }
         view->Enable(model.Enabled);
     }
     if (tip != model.ToolTip) {

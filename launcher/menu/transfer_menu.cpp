@@ -61,7 +61,7 @@ bool WantsImport(Run& run, TextView path, const std::vector<StoredValue>& values
                         "; each list becomes the one of the file.", NewLine,
                         "Yours are kept as a backup, and Tools, Backups brings them back.", NewLine, NewLine,
                         "The lists say which programs are started: import only what you trust."),
-                   "&Import,&Cancel") == 0;
+                   "&Import,&Cancel", 1) == 0;
 }
 
 /// The user's answers to where the places are.

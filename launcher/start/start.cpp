@@ -39,6 +39,7 @@ void HandOverToTheOther(Launcher& launcher) {
     }
     const Text why = launcher.HandOver(launcher.Dropped.Word);
     if (!why.empty()) {
+        launcher.HandOverFailed = true;
         SetSplashTopmost(launcher.run, launcher.Splash, false);
         AskUser(launcher.run, "",
                 Join(why, NewLine, NewLine, "It was not given -->", NewLine, NewLine, TabChar,

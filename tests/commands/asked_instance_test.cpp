@@ -125,7 +125,7 @@ TEST_F(AskedInstance, AFileWaitsAndTheWindowComesForward) {
     EXPECT_TRUE(user.Asked.empty()) << "the other start does not wait for an answer";
     const CommandResult second = Ask({"qw://host"});
     EXPECT_EQ(second.Code, exit_code::kFailed);
-    EXPECT_EQ(second.Err, "The running Lorvane 3D is busy.\n");
+    EXPECT_EQ(second.Err, "The running Lorvane 3D is busy. Close the windows that are open in it, and try again.\n");
     EXPECT_EQ(launcher.Dropped.Word, "C:\\D\\mod.pak");
 }
 
@@ -151,7 +151,7 @@ TEST_F(AskedInstance, DuringALaunchOfItsOwnItIsBusy) {
     launcher.LaunchUnderWay = true;
     const CommandResult result = Ask({"--launch", "Quake"});
     EXPECT_EQ(result.Code, exit_code::kFailed);
-    EXPECT_EQ(result.Err, "The running Lorvane 3D is busy.\n");
+    EXPECT_EQ(result.Err, "The running Lorvane 3D is busy. Close the windows that are open in it, and try again.\n");
     EXPECT_TRUE(system.Programs.Started.empty());
 }
 
@@ -183,11 +183,16 @@ TEST_F(AskedInstance, WhatIsNotTakenIsSaid) {
     system.Services.Instance = &other;
     ConnectHandOver(launcher);
     other.Is = {.IsRunning = true, .Answer = std::nullopt};
-    EXPECT_EQ(launcher.HandOver("a.pak"), "Lorvane 3D is running already, and does not answer.");
+    EXPECT_EQ(launcher.HandOver("a.pak"),
+              "Lorvane 3D is running already, and does not answer. Answer what its window asks, and try again.");
     other.Is.Answer = "no reply of ours";
-    EXPECT_EQ(launcher.HandOver("a.pak"), "Lorvane 3D is running already, and does not answer.");
-    other.Is.Answer = ReplyOf({exit_code::kFailed, "", "The running Lorvane 3D is busy.\n", ""});
-    EXPECT_EQ(launcher.HandOver("a.pak"), "The running Lorvane 3D is busy.");
+    EXPECT_EQ(launcher.HandOver("a.pak"),
+              "Lorvane 3D is running already, and does not answer. Answer what its window asks, and try again.");
+    other.Is.Answer =
+        ReplyOf({exit_code::kFailed, "",
+                 "The running Lorvane 3D is busy. Close the windows that are open in it, and try again.\n", ""});
+    EXPECT_EQ(launcher.HandOver("a.pak"),
+              "The running Lorvane 3D is busy. Close the windows that are open in it, and try again.");
 }
 
 }  // namespace

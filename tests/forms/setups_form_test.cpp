@@ -8,6 +8,7 @@
 #include "launcher/forms/launcher_form.h"
 #include "launcher/forms/main_menu.h"
 #include "launcher/setups/setups_menu.h"
+#include "tests/forms/form_system.h"
 #include "tests/forms/lv_form_fixture.h"
 #include "tests/forms/told_help.h"
 
@@ -142,6 +143,16 @@ TEST_F(SetupsForm, KeepsChangesRenamesAndDeletes) {
         PressKey('C', wxMOD_ALT);
     });
     EXPECT_EQ(GetSetting(run, run.AppName, "Setups", "Names"), "1=Two");
+}
+
+TEST_F(SetupsForm, EscapeClosesTheWindowBehindTheLastDeletion) {
+    Keep("Alone");
+    InWindow([] {
+        DoAndAnswer([] { PressKey('D', wxMOD_ALT); }, [] { PressKey('D', wxMOD_ALT); });
+        EXPECT_FALSE(Find("DeleteSetup_Cmd")->IsEnabled());
+        PressKey(WXK_ESCAPE);
+    });
+    EXPECT_EQ(OpenModals(), 0);
 }
 
 TEST_F(SetupsForm, EveryControlTellsWhatItIsFor) {

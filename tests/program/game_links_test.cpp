@@ -112,11 +112,11 @@ TEST(GameLinks, AWordThatTheRunningProgramDoesNotListenToIsTold) {
     const std::string box = second.WaitForDialog(kPlainTitle);
     ASSERT_NE(box, "");
     KeepScreenshot("word_not_given");
-    EXPECT_EQ(
-        second.TextOfBox(box),
-        "Lorvane 3D is running already, and does not answer.\n\nIt was not given -->\n\n\tqw://host.example:27500");
+    EXPECT_EQ(second.TextOfBox(box),
+              "Lorvane 3D is running already, and does not answer. Answer what its window asks, and try again.\n\n"
+              "It was not given -->\n\n\tqw://host.example:27500");
     PressKey("Escape");
-    EXPECT_EQ(second.WaitForEnd(), 0);
+    EXPECT_EQ(second.WaitForEnd(), 1);
     first.Signal(SIGCONT);
     EXPECT_EQ(first.EndByF12(), 0);
 }

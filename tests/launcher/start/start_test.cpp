@@ -163,6 +163,7 @@ TEST_F(StartTest, WhatTheOtherInstanceDoesNotTakeIsTold) {
     launcher.HandOver = [](TextView) { return Text("It does not answer."); };
     user.Expect({"Lorvane 3D", "It does not answer.\r\n\r\nIt was not given -->\r\n\r\n\tqw://host", 0, false, true});
     EXPECT_FALSE(Start(launcher));
+    EXPECT_TRUE(launcher.HandOverFailed);
     EXPECT_TRUE(run.Ended);
 }
 
