@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <barrier>
+#include <future>
 #include <thread>
 
 #include "platform/memory/memory_platform.h"
@@ -91,12 +91,12 @@ TEST(SettingsTrip, OfTwoImportsAtOnceTheSecondOneIsWhole) {
     OtherProgram one(system.Another());
     OtherProgram other(system.Another());
     for (int i = 0; i < 10; ++i) {
-        std::barrier together(2);
+        std::promise<void> begun;
         std::thread first([&] {
-            together.arrive_and_wait();
+            begun.set_value();
             one.Import(few);
         });
-        together.arrive_and_wait();
+        begun.get_future().wait();
         other.Import(many);
         first.join();
         const auto now = CarriedOf(system.Store.All("Lorvane 3D").Value);
