@@ -89,6 +89,10 @@ CellLabel::CellLabel(wxWindow* parent, const wxString& name, Look look, CellGrou
 }
 
 CellLabel::~CellLabel() {
+    // The toolkit would give the mouse back to a label that has gone, when the next one lets go of it.
+    if (HasCapture()) {
+        ReleaseMouse();
+    }
     if (group_ != nullptr) {
         group_->Remove(this);
     }
