@@ -21,6 +21,8 @@ namespace {
 constexpr int kBetweenKeys = 20;
 constexpr int kBetweenTurns = 5;  // milliseconds
 constexpr int kLeastTurns = 8;    // however long each of them takes on a busy machine
+constexpr int kSeenUp = 4;        // looks of a PollingTimer at an open window before hands are laid on it
+constexpr int kSeenLong = 60;     // looks after which it will not become active any more
 
 class PollingTimer : public wxTimer {
   public:
@@ -109,7 +111,7 @@ void TypeText(const std::string& text) {
 void WhenModal(const std::function<void()>& act) {
     Waiting().push_back(std::make_unique<PollingTimer>([act, before = OpenModals(), shown = 0]() mutable {
         shown = OpenModals() > before ? shown + 1 : 0;
-        if (shown < 4) {
+        if (shown < kSeenUp || (shown < kSeenLong && !TopModalIsActive())) {
             return false;
         }
         shown = -1000000;

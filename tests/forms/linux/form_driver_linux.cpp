@@ -60,6 +60,15 @@ int OpenModals() {
     return static_cast<int>(ModalDialogs().size() + ChoosersOfGtk().size());
 }
 
+bool TopModalIsActive() {
+    const auto isActive = ToolkitFunction<int (*)(void*)>("gtk_window_is_active");
+    if (const std::vector<void*> choosers = ChoosersOfGtk(); !choosers.empty()) {
+        return isActive != nullptr && isActive(choosers.back()) != 0;
+    }
+    const std::vector<wxDialog*> open = ModalDialogs();
+    return !open.empty() && isActive != nullptr && isActive(open.back()->GetHandle()) != 0;
+}
+
 std::string LeaveOpenOne() {
     if (const std::vector<void*> choosers = ChoosersOfGtk(); !choosers.empty()) {
         ToolkitFunction<void (*)(void*)>("gtk_window_close")(choosers.back());

@@ -68,6 +68,11 @@ int OpenModals() {
     return static_cast<int>(Dialogs().size());
 }
 
+bool TopModalIsActive() {
+    const std::vector<HWND> open = Dialogs();
+    return !open.empty() && open.front() == GetForegroundWindow();
+}
+
 std::string LeaveOpenOne() {
     if (InMenu()) {
         EndMenu();
