@@ -107,6 +107,7 @@ Result<HostCommand> LinuxProcesses::ByRoad(const GameStart& start, const std::ve
         case ProgramKind::kNative:
             return NativeRoad(disk_, start);
         case ProgramKind::kWindows:
+        case ProgramKind::kWindows16:
             return WineRoad(disk_, start);
         case ProgramKind::kBatch:
             return WineBatchRoad(disk_, start);
@@ -140,7 +141,8 @@ Result<HostCommand> LinuxProcesses::PlanProgram(std::string_view program, const 
         return MakeError(error::kFileNotFound, std::string(program));
     }
     const ProgramKind kind = onlyWineMayKnow ? ProgramKind::kWindows : KindOfProgram(*file.Value, host);
-    const bool forWine = kind == ProgramKind::kWindows || kind == ProgramKind::kBatch;
+    const bool forWine =
+        kind == ProgramKind::kWindows || kind == ProgramKind::kWindows16 || kind == ProgramKind::kBatch;
     if (const Error fault = CheckArguments(arguments, ReaderFor(kind))) {
         return fault;
     }
@@ -213,6 +215,7 @@ Result<StartPlan> LinuxProcesses::PlanStart(Files& disk, std::string_view direct
 bool LinuxProcesses::HasRunnerFor(std::string_view program) {
     switch (KindOfProgramAt(disk_, program)) {
         case ProgramKind::kWindows:
+        case ProgramKind::kWindows16:
         case ProgramKind::kBatch:
             return !FindOnPath(Places().SearchPath, "wine").empty();
         case ProgramKind::kDos:

@@ -37,8 +37,10 @@ ProgramKind KindOfDosHeader(RandomAccessFile& file) {
         return ProgramKind::kDos;
     }
     const std::string signature = ReadAt(file, offset, 4);
-    const bool windows = signature == std::string_view("PE\0\0", 4) || signature.starts_with("NE");
-    return windows ? ProgramKind::kWindows : ProgramKind::kDos;
+    if (signature == std::string_view("PE\0\0", 4)) {
+        return ProgramKind::kWindows;
+    }
+    return signature.starts_with("NE") ? ProgramKind::kWindows16 : ProgramKind::kDos;
 }
 
 }  // namespace

@@ -13,10 +13,11 @@ namespace lv {
 
 enum class ProgramKind {
     kUnknown,
-    kNative,   // ELF, or a script with "#!"; whether it may be run is another question
-    kWindows,  // MZ with a PE or NE header
-    kDos,      // MZ without one; a .com file
-    kBatch,    // a .bat or .cmd file
+    kNative,     // ELF, or a script with "#!"; whether it may be run is another question
+    kWindows,    // MZ with a PE header
+    kWindows16,  // MZ with an NE header, for the Windows of 16 bits
+    kDos,        // MZ without either; a .com file
+    kBatch,      // a .bat or .cmd file
 };
 
 /// `name` may be a path. A file that cannot be read, or ends inside what it promises, is never more than its intact

@@ -40,6 +40,11 @@ bool IsNoProgram(Files& disk, const std::string& path) {
     return (name.ends_with(".exe") || name.ends_with(".com")) && KindOfProgramAt(disk, path) == ProgramKind::kUnknown;
 }
 
+// Windows has lost what ran these together with what ran DOS programs.
+bool IsTooOldForThisWindows(Files& disk, const std::string& path) {
+    return !RunsDosPrograms() && KindOfProgramAt(disk, path) == ProgramKind::kWindows16;
+}
+
 bool BeyondAscii(std::string_view text) {
     return std::ranges::any_of(text, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
 }
@@ -112,6 +117,11 @@ Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view 
     if (game.Ok() && IsNoProgram(disk_, game.Value.Game.Program.Path)) {
         return {error::kPathFileAccess, "This is no program for Windows or DOS: " + game.Value.Game.Program.Path};
     }
+    if (game.Ok() && IsTooOldForThisWindows(disk_, game.Value.Game.Program.Path)) {
+        return {error::kPathFileAccess,
+                "This is a program for the Windows of 16 bits, which this Windows does not run, nor does DOSBox: " +
+                    game.Value.Game.Program.Path};
+    }
     if (game.Ok() && GoesToDosBox(disk_, game.Value.Game)) {
         const Error fault = CheckGiven(known.Given, LineReader::kDosShell);
         return fault ? fault : StartInDosBox(disk_, game.Value);
@@ -156,7 +166,11 @@ Error WindowsProcesses::StartProgram(std::string_view program, const std::vector
 }
 
 bool WindowsProcesses::HasRunnerFor(std::string_view program) {
-    return RunsDosPrograms() || KindOfProgramAt(disk_, program) != ProgramKind::kDos || !FindDosBox().empty();
+    if (RunsDosPrograms()) {
+        return true;
+    }
+    const ProgramKind kind = KindOfProgramAt(disk_, program);
+    return kind != ProgramKind::kWindows16 && (kind != ProgramKind::kDos || !FindDosBox().empty());
 }
 
 Error WindowsProcesses::StartHelpViewer(std::string_view path) {

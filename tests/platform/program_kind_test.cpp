@@ -43,7 +43,7 @@ TEST(KindOfProgram, KnowsPe) {
 }
 
 TEST(KindOfProgram, KnowsNe) {
-    EXPECT_EQ(KindOf(DosProgram(0x40, "NE\x05\x0A")), ProgramKind::kWindows);
+    EXPECT_EQ(KindOf(DosProgram(0x40, "NE\x05\x0A")), ProgramKind::kWindows16);
 }
 
 TEST(KindOfProgram, TakesDosExtendersForDos) {

@@ -119,6 +119,17 @@ TEST(StartBatch, TellsWhatIsNoProgram) {
     }
 }
 
+TEST(StartBatch, TellsThatAProgramOf16BitsDoesNotRunHere) {
+    Yard yard;
+    EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\lv_666.bat", "OLD.EXE\r\n").Number, 0);
+    const std::string header = "MZ" + std::string(0x3A, '\0') + std::string("\x40\0\0\0", 4);
+    EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\OLD.EXE", header + "NE\x05\x0A").Number, 0);
+    EXPECT_FALSE(yard.Programs.HasRunnerFor("T:\\QUAKE\\OLD.EXE"));
+    const Error fault = yard.Programs.StartBatch("T:\\QUAKE", "lv_666.bat");
+    EXPECT_EQ(fault.Number, 75);
+    EXPECT_TRUE(fault.Text.starts_with("This is a program for the Windows of 16 bits")) << fault.Text;
+}
+
 // A game's directory may hold anything.
 TEST(StartBatch, RunsNoProgramOfTheDirectoryAheadOfTheBatch) {
     Yard yard;
