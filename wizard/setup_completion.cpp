@@ -94,10 +94,24 @@ bool PathIsGood(Install_Frm& form, std::size_t row, const Text& path) {
     return false;
 }
 
+/// Ahead of all that stores anything or makes directories: the first bad row leaves everything as it was.
+bool RowsAreGood(Install_Frm& form) {
+    for (std::size_t i = 0; i < kWizardRows; ++i) {
+        if (form.Game_Chk[i].Value == 1 &&
+            !PathIsGood(form, i, LowerCase(TypedPath(form.run, form.GamePath_Txt[i].Text)))) {
+            return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 void Install_OK_Cmd_Click(Install_Frm& form) {
     Run& run = form.run;
+    if (!RowsAreGood(form)) {
+        return;
+    }
     form.Found.Engines = EnginesHere(run, form.Engines);  // one may have been installed meanwhile
     Setup setup{form, Trim(CatalogValue(run, kExecutables))};
     Text& list = setup.List;
@@ -113,9 +127,6 @@ void Install_OK_Cmd_Click(Install_Frm& form) {
         }
         const Text typed = TypedPath(run, form.GamePath_Txt[i].Text);
         const Text path = LowerCase(typed);
-        if (!PathIsGood(form, i, path)) {
-            return;
-        }
         const bool isPlayed = AddTree(setup, i, typed, true);
         if (TreeIn(run.System.Disk, path)) {
             trees.push_back({i, path, isPlayed, form.GamePath_Txt[i].Text != form.FoundPaths[i]});

@@ -128,6 +128,9 @@ LineUse PutName(KeywordContext& context, const ScriptLine& line, const KeywordRo
     if (IsKind(context, {Game::Unreal})) {
         return kFreeForm;
     }
+    if (line.Value.empty()) {
+        return kUnderstood;
+    }
     PutText(context, line, row);
     std::ranges::replace(context.Document.Name_Txt.Text, '\xFF', '\x9F');
     return kUnderstood;

@@ -16,6 +16,7 @@
 #include "foundry/document/script_messages.h"
 #include "foundry/versions/script_versions.h"
 #include "foundry/writing/compose_script.h"
+#include "foundry/writing/console_layout.h"
 #include "foundry/writing/save_filters.h"
 
 namespace lv {
@@ -156,7 +157,8 @@ void FreeEmptyBindings(ScriptDocument& document, ScriptView& view) {
         return;
     }
     for (KeyIndex key = 0; key < kKeyCount; ++key) {
-        if (document.KeyBinding[static_cast<std::size_t>(key)] == kEmptyCommand) {
+        if (document.KeyBinding[static_cast<std::size_t>(key)] == kEmptyCommand &&
+            IsWrittenKey(key, document.Dialect.ScriptFamily)) {
             UnbindKey(document, view, key);
         }
     }

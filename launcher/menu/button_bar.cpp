@@ -26,10 +26,13 @@ void LaunchGameSpy(Launcher& launcher) {
     DoIt_Cmd_Click(launcher, 0);
 }
 
+/// Without both the profile for speed and the one for beauty in their rows neither is picked.
+constexpr std::size_t kLeastProfiles = 3;
+
 template <int Row>
 void SelectProfile(Launcher& launcher) {
     ListBox& profiles = launcher.Window.VideoProfiles_Cbo;
-    if (profiles.Items.size() <= static_cast<std::size_t>(Row)) {
+    if (profiles.Items.size() < kLeastProfiles) {
         return;
     }
     profiles.ListIndex = Row;

@@ -166,10 +166,12 @@ bool WriteScript(Click& click) {
 
 bool WriteBatch(Click& click) {
     click.Texts.LaunchStep = LaunchStep::LaunchBatch;
-    click.Batch = BatchText(Join(EnvironmentLines(click.Game, click.Profile), FitEnvironment(click.Engine.Fitted)),
-                            click.Selection.Ticked.Has(Option::ShowSet_Chk), ExeDriveOf(click.Selection),
-                            click.Game.DefaultGameDirectory, click.Texts, click.Game);
-    if (click.Game.DefaultGameDirectory.empty()) {
+    const bool hasDirectory = !click.Game.DefaultGameDirectory.empty();
+    click.Batch = BatchText(
+        Join(hasDirectory ? EnvironmentLines(click.Game, click.Profile) : Text(), FitEnvironment(click.Engine.Fitted)),
+        click.Selection.Ticked.Has(Option::ShowSet_Chk), ExeDriveOf(click.Selection), click.Game.DefaultGameDirectory,
+        click.Texts, click.Game);
+    if (!hasDirectory) {
         return true;
     }
     const Text path = Join(click.Game.DefaultGameDirectory, "\\", kLaunchBatchFile);

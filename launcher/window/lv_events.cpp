@@ -166,7 +166,7 @@ void Exe_Cbo_Click(Launcher& launcher) {
         return;
     }
     window.Box(Option::LaunchQspy_Chk).Enabled = run.GameKind != Game::HalfLife && run.GameKind != Game::Heretic2;
-    if (run.GameKind != Game::None) {
+    if (run.GameKind != Game::None && !run.DefaultGameDirectory.empty()) {
         ApplyModification(launcher);
     }
     ScanForMaps(run, launcher.Lists);

@@ -266,5 +266,28 @@ TEST_F(MissionPackTest, AnotherGameKeepsPortals) {
     EXPECT_EQ(lists.Game_Chk.Value, 1);
 }
 
+TEST_F(IdentifyTest, HexenWorldIsHexen2WithAFlag) {
+    Pick("C:\\HEXEN2\\hwcl.exe +x");
+    EXPECT_EQ(run.GameKind, Game::Hexen2);
+    EXPECT_TRUE(run.IsHexenWorld);
+    EXPECT_FALSE(run.IsMissionPack);
+    EXPECT_FALSE(run.UsesAccelerator);
+    Pick("C:\\HEXEN2\\hwcl.exe");
+    EXPECT_FALSE(run.IsHexenWorld);
+}
+
+TEST_F(IdentifyTest, TheFlagsOfTheGameBeforeAreClearedWithoutAGameToo) {
+    Pick("C:\\HEXEN2\\hwcl.exe +x");
+    Pick("C:\\DOOM\\doom.exe");
+    EXPECT_FALSE(run.IsHexenWorld);
+    EXPECT_TRUE(run.UsesAccelerator);
+    Pick("C:\\HEXEN2\\h2mp.exe");
+    Pick("C:\\DOOM\\doom.exe");
+    EXPECT_FALSE(run.IsMissionPack);
+    Pick("C:\\QUAKE\\qwcl.exe");
+    Pick("C:\\DOOM\\doom.exe");
+    EXPECT_FALSE(run.IsQuakeWorld);
+}
+
 }  // namespace
 }  // namespace lv

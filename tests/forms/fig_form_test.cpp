@@ -440,5 +440,17 @@ TEST_F(FigFormClosing, NoWithTheTickSavesAndStays) {
     EXPECT_THAT(File(), HasSubstr("+jump"));
 }
 
+TEST_F(FigForm_, TheSavePageHasItsFrames) {
+    Use(kGames[0], "");
+    Edit([this] {
+        Turn(EditorPage::SaveAndExit);
+        for (const char* caption : {"Auto Save", "Save Script Now", "Exit SetupFoundry Now"}) {
+            const wxWindow* const frame = wxWindow::FindWindowByLabel(caption, form);
+            ASSERT_NE(frame, nullptr) << caption;
+            EXPECT_TRUE(frame->IsShownOnScreen()) << caption;
+        }
+    });
+}
+
 }  // namespace
 }  // namespace lv

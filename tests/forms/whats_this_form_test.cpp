@@ -3,6 +3,7 @@
 #include <wx/uiaction.h>
 
 #include "foundation/forms/help_bubble.h"
+#include "launcher/menu/button_bar.h"
 #include "tests/forms/fig_form_fixture.h"
 #include "tests/forms/lv_form_fixture.h"
 #include "tests/forms/told_help.h"
@@ -71,6 +72,18 @@ TEST_F(FigWhatsThis, TheArrowOfAListWithAFieldTells) {
         RightClickAt(wxPoint(list.GetRight() - kArrow, list.y + list.height / 2));
         EXPECT_EQ(told.Names, std::vector<std::string>{"fov_Cbo"});
     });
+}
+
+TEST_F(LvForm_, ARightClickOnABoxOrAButtonTellsWhatItIsFor) {
+    std::vector<std::string> controls = {"Memory_Chk",  "NOCDAUDIO_Chk", "EndOnLaunch_Chk",
+                                         "DoIt_Cmd(0)", "DoIt_Cmd(2)",   "SetupFoundry_Cmd"};
+    for (int i = 0; i < kBarButtons; ++i) {
+        controls.push_back("ButtonBar_Cmd(" + std::to_string(i) + ")");
+    }
+    EXPECT_EQ(ToldByRightClicks(controls), controls);
+    for (const OptionBox& option : OptionBoxes()) {
+        EXPECT_NE(Find(option.Name)->GetHelpText(), "") << option.Name;
+    }
 }
 
 }  // namespace

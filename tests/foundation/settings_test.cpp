@@ -240,5 +240,13 @@ TEST_F(SettingsTest, AMissingRegistryValueIsEmptyAndSilent) {
     EXPECT_EQ(RegQueryPath(run, kPath, "Nothing").Type, 0U);
 }
 
+TEST_F(SettingsTest, ARefusalNamesTheOwnApplicationWhereNoneWasGiven) {
+    Text application;
+    user.Expect({"Lorvane 3D", "\r\nLorvane 3D\\/\\Options\\/\\\\/\\\\/\\value\r\n"});
+    EXPECT_FALSE(SaveChecked(run, application, kOptions, "", "value"));
+    EXPECT_EQ(application, "Lorvane 3D");
+    EXPECT_EQ(system.Settings.Count(), 0U);
+}
+
 }  // namespace
 }  // namespace lv

@@ -92,4 +92,12 @@ TEST_F(Topmost, AQuestionInAQuestionKeepsTheWindowDown) {
     EXPECT_TRUE(run.Topmost.InBand);
 }
 
+TEST_F(Topmost, AWindowUncheckedUnderADialogStaysDown) {
+    SuspendTopmost(run);
+    run.Topmost.AlwaysOnTop = false;
+    ResumeTopmost(run);
+    EXPECT_EQ(run.Topmost.Nesting, 0);
+    EXPECT_FALSE(run.Topmost.InBand);
+}
+
 }  // namespace lv

@@ -151,5 +151,16 @@ TEST(FactsOfDirectory, AFileIsNoDataDirectory) {
     EXPECT_EQ(FactsOfDirectory(files, "c:\\quake").GameKind, Game::None);
 }
 
+TEST(FactsOfDirectory, UnrealStandsBetweenQuake2AndSinAndHeretic2AheadOfHalfLife) {
+    MemoryFiles files;
+    files.AddDirectory("C:\\SIN\\UNREAL\\SYSTEM\\base");
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin\\unreal\\system").GameKind, Game::Unreal);
+    files.AddDirectory("C:\\SIN\\UNREAL\\SYSTEM\\baseq2");
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\sin\\unreal\\system").GameKind, Game::Quake2);
+    files.AddDirectory("C:\\HERETIC2\\valve");
+    files.AddDirectory("C:\\HERETIC2\\base");
+    EXPECT_EQ(FactsOfDirectory(files, "c:\\heretic2").GameKind, Game::Heretic2);
+}
+
 }  // namespace
 }  // namespace lv

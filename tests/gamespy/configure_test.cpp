@@ -546,5 +546,44 @@ TEST_F(Configure, NamesTheScriptThatMayNotBeWritten) {
     });
 }
 
+TEST_F(Configure, EachLaunchButtonConfiguresAndShowsNothing) {
+    for (const int mode : {1, 2}) {
+        system.Registry.Values.clear();
+        user.In<GameSpyConfig_Frm>([](GameSpyConfig_Frm& form) {
+            Use(form, {0});
+            GameSpyConfig_DoIt_Cmd_Click(form);
+        });
+        DoIt_Cmd_Click(launcher, mode);
+        EXPECT_EQ(system.Registry.Values.size(), 2u);
+    }
+    EXPECT_TRUE(user.Asked.empty());
+    EXPECT_TRUE(system.Programs.Started.empty());
+}
+
+TEST_F(Configure, WithoutSinUnrealsPifGoesToTheRootOfTheCurrentDrive) {
+    RunFor({4});
+    EXPECT_EQ(Bytes("C:\\qsl5_666.pif"), "the pif of most");
+    EXPECT_EQ(Bytes("C:\\UNREAL\\SYSTEM\\qsl5_666.pif"), "(none)");
+}
+
+TEST_F(Configure, WithSinAloneItsScriptGoesToBaseOfTheCurrentDriveOrNowhere) {
+    SetTunable("gl_polyblend", "0");
+    RunFor({5});
+    EXPECT_TRUE(system.Disk.FileExists("C:\\SIN\\QSL6_666.bat"));
+    EXPECT_FALSE(system.Disk.FileExists("C:\\SIN\\BASE\\lvgs_666.qs"));
+    system.Disk.AddDirectory("C:\\BASE");
+    RunFor({5});
+    EXPECT_EQ(Bytes("C:\\BASE\\lvgs_666.qs"), "set gl_polyblend 0\r\n");
+}
+
+TEST_F(Configure, TheWrapperOfTheMainExecutableIsNotInTheTails) {
+    window.Exe_Cbo.Items[static_cast<std::size_t>(window.Exe_Cbo.ListIndex)].Key = "C:\\QUAKE\\QUAKE.EXE";
+    window.Box(Option::Server_Chk).Value = 1;
+    RunFor({3, 4});
+    EXPECT_TRUE(Bytes("C:\\QUAKE2\\QSL4_666.bat")
+                    .ends_with("\r\nQUAKE2.EXE -zone 512 %1 %2 %3 %4 %5 %6 %7 %8 %9 +exec lvgs_666.qs "));
+    EXPECT_TRUE(Bytes("C:\\UNREAL\\SYSTEM\\QSL5_666.bat").ends_with("\r\nUNREAL.EXE %1 %2 %3 %4 %5 %6 %7 %8 %9"));
+}
+
 }  // namespace
 }  // namespace lv

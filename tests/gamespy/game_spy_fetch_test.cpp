@@ -140,5 +140,24 @@ TEST_F(GameSpyFetchTest, AProgramThatEndsBehindTheKeysTakesNothing) {
     EXPECT_TRUE(run.Ended);
 }
 
+/// Notes the window among what is done to the others.
+class RaisingUser : public ScriptedUser {
+  public:
+    explicit RaisingUser(std::vector<std::string>& log) : log_(log) {}
+    void RaiseMainWindow() override { log_.emplace_back("raise"); }
+
+  private:
+    std::vector<std::string>& log_;
+};
+
+TEST_F(GameSpyFetchTest, TheMainWindowIsBackBeforeGameSpyBecomesAnIconAgain) {
+    RaisingUser raising(system.Windows.Log);
+    lv::Run own(system.Services, raising);
+    ShowGameSpy("10.0.0.1:27500");
+    Minimise();
+    EXPECT_EQ(GameSpyFetch(own), "10.0.0.1:27500");
+    EXPECT_EQ(Done(), (Lines{"open 7", "front 7", "keys %s", "keys c", "raise", "close 7"}));
+}
+
 }  // namespace
 }  // namespace lv

@@ -267,6 +267,39 @@ const RowCase kRowCases[] = {
          in.Selected.Ticked.Set(Option::LaunchQspy_Chk);
      }, kQuake, kQuakeOnly, "", ""},
     {"Benchmark_NeverForUnreal", UnrealLaunch, Tick<Option::Bench_Chk>, kUnrealOnly, kUnrealOnly, "", ""},
+    {"Modification_NotWithoutAMod", Quake, Tick<Option::Game_Chk>, kQuake, kQuakeOnly, "", ""},
+    {"Modification_NotWhenNotTicked", Quake, [](In& in) { in.Selected.Game = "-game ctf"; }, kQuake, kQuakeOnly, "", ""},
+    {"Memory_NotWhenNotTicked", Quake, [](In& in) { in.Selected.Memory = "-winmem 16"; }, kQuake, kQuakeOnly, "", ""},
+    {"Script_NotWithoutAScript", Quake, Tick<Option::Script_Chk>, kQuake, kQuakeOnly, "", ""},
+    {"Script_NotWhenNotTicked", Quake, [](In& in) { in.Selected.Script = "C:\\QUAKE\\ID1\\my.cfg"; }, kQuake, kQuakeOnly, "", ""},
+    {"Demo_NotWhenNotTicked", Quake, [](In& in) { in.Selected.Demo = "playdemo demo1.dem"; }, kQuake, kQuakeOnly, "", ""},
+    {"Server_NotWhenNotTicked", Quake, [](In& in) { in.Selected.Server = "10.0.0.1;26000;0;"; }, kQuake, kQuakeOnly, "", ""},
+    {"Map_NotWithoutAMap", Quake, Tick<Option::Map_Chk>, kQuake, kQuakeOnly, "", ""},
+    {"Map_NotWhenNotTicked", Quake, [](In& in) { in.Selected.Map = "START"; }, kQuake, kQuakeOnly, "", ""},
+    {"Console_ByTheExecutablesNameForAnyGame", [] { return QuakeLaunch("MYHL.EXE"); }, {},
+     "MYHL.EXE -console -zone 512 ", "MYHL.EXE ", "", ""},
+    {"Console_NotForHalfLifesOtherExecutables", HalfLifeLaunch,
+     [](In& in) { in.Selected.ExecutablePath = "C:\\HL\\HLDM.EXE"; }, "HLDM.EXE -zone 512 ", "HLDM.EXE ", "", ""},
+    {"Resolution_NotWhenNotUsed", Quake, [](In& in) {
+         Resolution(4)(in);
+         in.Profile.UseRez = 0;
+     }, kQuake, kQuakeOnly, "", ""},
+    {"Quake2Mode_NotWhenNotUsed", Quake2Launch, [](In& in) {
+         Resolution(3)(in);
+         in.Profile.UseRez = 0;
+     }, kQ2, kQ2Only, "", ""},
+    {"GraphicsDriver_NotWhenNotUsed", Quake2Launch, [](In& in) {
+         Driver(1)(in);
+         in.Profile.UseGraphicsDriver = 0;
+     }, kQ2, kQ2Only, "", ""},
+    {"Window_OnlyForOne", Quake, [](In& in) { in.Profile.Windowed = 2; }, kQuake, kQuakeOnly, "", ""},
+    {"Benchmark_BehindTheMap", Quake, [](In& in) {
+         PickMap(in);
+         in.Selected.Ticked.Set(Option::Bench_Chk);
+     }, kQuake, kQuakeOnly,
+     "map dmdeck16\r\nclear\r\nsizeup;sizeup;sizeup;sizeup;sizeup;sizeup;sizeup;sizeup;sizeup;sizeup\r\nvid_mode 0\r\n"
+     "timedemo demo2\r\n",
+     "map dmdeck16\r\nviewsize 120\r\ntimedemo 1\r\ndemomap demo1.dm2\r\n"},
 };
 // clang-format on
 

@@ -211,5 +211,19 @@ TEST(EnvironmentLines, NoLineGoesOutWithoutAWholeName) {
     }
 }
 
+TEST(EnvironmentLines, TheRefreshRatesResolutionIsItsFirstTwentyCharactersTrimmed) {
+    ProfileSnapshot profile = AllFlagsOff();
+    Use(profile, "SST_SCREENREFRESH", "75", 1);
+    profile.ResolutionsPos_Content = Padded("  640x480 of my own making", "-width 640");
+    EXPECT_EQ(EnvironmentLines(GameWith(2), profile),
+              Join("SET SSTV2_REFRESH_640x480 of my own=75\r\n", kQuietVoodoo2));
+}
+
+TEST(EnvironmentLines, TheVoodoo2ClockNeedsNoPlaceInItsList) {
+    ProfileSnapshot profile = AllFlagsOff();
+    Use(profile, "SSTV2_GRXCLK", "95", -1);
+    EXPECT_TRUE(EnvironmentLines(GameWith(2), profile).ends_with("SET SSTV2_GRXCLK=95\r\n"));
+}
+
 }  // namespace
 }  // namespace lv

@@ -177,5 +177,42 @@ TEST(ExeDriveOf, IsTheLetterAndItsColon) {
     EXPECT_EQ(ExeDriveOf({}), "");
 }
 
+TEST(ComposeLaunch, EverythingAtOnceStandsInTheOrderOfTheRowsForQuake2Too) {
+    LaunchInput input = Quake2Launch();
+    for (const Option option : {Option::Script_Chk, Option::NOCDAUDIO_Chk, Option::Demo_Chk, Option::nosound_chk,
+                                Option::Listen_Chk, Option::Server_Chk, Option::QSpy_Chk, Option::Map_Chk}) {
+        input.Selected.Ticked.Set(option);
+    }
+    input.Selected.Script = "C:\\QUAKE2\\BASEQ2\\my.cfg";
+    input.Selected.Demo = "playdemo demo1.dem";
+    input.Selected.Server = "10.0.0.1;27910;3;";
+    input.Hooks.GameSpyFetch = [] { return std::optional<Text>("10.0.0.2:27910"); };
+    input.Selected.Map = "DM1";
+    input.Profile.Windowed = 1;
+    input.Profile.UseRez = 1;
+    input.Profile.Q2_ResolutionsPos = 3;
+    input.Profile.UseGraphicsDriver = 1;
+    input.Profile.GraphicsDriver = 1;
+    for (const TextView stem :
+         {"GL_PICMIP", "GL_PLAYERMIP", "GL_FLASHBLEND", "GL_FINISH", "GL_TEXTUREMODE", "gl_polyblend",
+          "gl_keeptjunctions", "gl_ztrick", "WaterAlpha", "Mirrors", "Shadows", "GL_ROUND_DOWN"}) {
+        Use(input.Profile, stem, "1");
+    }
+    const LaunchTexts texts = input.Compose();
+    EXPECT_EQ(texts.GameCommand, "QUAKE2.EXE -zone 512 -window +gl_round_down 1 +set gl_shadows 1 +set s_initsound 0 ");
+    EXPECT_EQ(
+        texts.Quake2Script,
+        "exec my.cfg\r\nset cd_nocd 1\r\nset _windowed_mouse 1\r\nset gl_ztrick 1\r\nset gl_keeptjunctions 1\r\n"
+        "set gl_polyblend 1\r\nset GL_TEXTUREMODE 1\r\nset gl_finish 1\r\nset gl_flashblend 1\r\n"
+        "set gl_playermip 1\r\nset gl_picmip 1\r\nplaydemo demo1.dem\r\nset sw_mode \"3\"\r\nset gl_mode \"3\"\r\n"
+        "set vid_ref \"soft\"\r\nset vid_fullscreen \"1\"\r\nset deathmatch 1\r\nconnect 10.0.0.1:27910\r\n"
+        "connect 10.0.0.2:27910\r\nmap dm1\r\n");
+    EXPECT_EQ(texts.QuakeScript,
+              "exec my.cfg\r\n_windowed_mouse 1\r\nr_mirroralpha 1\r\nr_wateralpha 1\r\ngl_ztrick 1\r\n"
+              "gl_keeptjunctions 1\r\ngl_polyblend 1\r\nGL_TEXTUREMODE 1\r\ngl_finish 1\r\ngl_flashblend 1\r\n"
+              "gl_playermip 1\r\ngl_picmip 1\r\nplaydemo demo1.dem\r\nconnect 10.0.0.1:27910\r\n"
+              "connect 10.0.0.2:27910\r\nmap dm1\r\n");
+}
+
 }  // namespace
 }  // namespace lv

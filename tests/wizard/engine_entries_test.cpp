@@ -231,4 +231,20 @@ TEST_F(EngineEntriesTest, AnEngineIsNewUntilItHasAnEntryForTheTree) {
     EXPECT_EQ(Stored("Engines", "Seats"), "(none)");
 }
 
+TEST_F(EngineEntriesTest, ABadRowFurtherDownLeavesNoSeatBehind) {
+    AddQuake();
+    AddEngine("quakespasm");
+    user.In<Install_Frm>([this](Install_Frm& form) {
+        Tick(form, kSin);
+        form.GamePath_Txt[kSin].Text = "C:\\NOWHERE";
+        ExpectTold("Sin Path does not exist.");
+        Install_OK_Cmd_Click(form);
+        EXPECT_FALSE(form.Closed);
+        Install_Cancel_Cmd_Click(form);
+    });
+    EXPECT_FALSE(ShowInstallWizard(launcher));
+    EXPECT_EQ(Stored("Engines", "Seats"), "(none)");
+    EXPECT_EQ(Executables(), "(none)");
+}
+
 }  // namespace lv

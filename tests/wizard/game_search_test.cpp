@@ -332,4 +332,26 @@ TEST_F(GameSearch, TellsWhatARefusedWalkLeavesOpen) {
     EXPECT_EQ(form.Found_Lbl.Caption, "Nothing found of: Sin. Click 'Browse' to show where a game lies.");
 }
 
+TEST_F(GameSearch, TheWalkBeginsWithTheFirstDrive) {
+    system.Disk.AddFile("D:\\a\\sin.exe");
+    system.Disk.AddFile("C:\\z\\sin.exe");
+    Install_Frm form(run);
+    Tick(form, kSin);
+    ExpectWalkOffer("Sin", 0);
+    Install_AutoSearch_Cmd_Click(form);
+    EXPECT_EQ(form.GamePath_Txt[kSin].Text, "C:\\z");
+    EXPECT_TRUE(std::none_of(system.Disk.Listed.begin(), system.Disk.Listed.end(),
+                             [](const Text& path) { return path[0] == 'D'; }));
+}
+
+TEST_F(GameSearch, AHitOfTheWalkReplacesWhatWasTyped) {
+    system.Disk.AddFile("C:\\deep\\sin.exe");
+    Install_Frm form(run);
+    Tick(form, kSin);
+    form.GamePath_Txt[kSin].Text = "by hand";
+    ExpectWalkOffer("Sin", 0);
+    Install_AutoSearch_Cmd_Click(form);
+    EXPECT_EQ(form.GamePath_Txt[kSin].Text, "C:\\deep");
+}
+
 }  // namespace lv

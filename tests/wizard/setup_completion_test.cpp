@@ -235,4 +235,14 @@ TEST_F(SetupCompletion, KnownGamesAloneAreEnough) {
     EXPECT_EQ(Executables(), "Sin;C:\\SIN\\SIN.EXE");
 }
 
+TEST_F(SetupCompletion, AProgramWhosePathTheListHoldsAnywhereIsNotAdded) {
+    Save(run, kOptions, "Executables", "Mine;C:\\SIN\\SIN.EXE.BAT");
+    system.Disk.AddFile("C:\\SIN\\SIN.EXE");
+    Install_Frm form(run);
+    Choose(form, kSin, "C:\\SIN");
+    Install_OK_Cmd_Click(form);
+    EXPECT_TRUE(form.DialogResult);
+    EXPECT_EQ(Executables(), "Mine;C:\\SIN\\SIN.EXE.BAT");
+}
+
 }  // namespace lv

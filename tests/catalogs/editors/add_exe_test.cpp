@@ -335,4 +335,17 @@ TEST_F(AddEngineOutside, AnEntryThatIsEditedLeavesItsSeat) {
     EXPECT_EQ(Stored("Seats", "Engines"), "");
 }
 
+TEST_F(AddExe, ANewRowShowsAnUnknownProgramUntilTheNextStart) {
+    system.Disk.AddFile("C:\\OLD\\QUAKE.EXE");
+    AddExe_Frm form(run, lists, EntryMode::Add);
+    Fill(form, "Life", "C:\\HL\\HL.EXE");
+    ExpectConfirmed("Life now references C:\\HL\\HL.EXE");
+    AddExe_OK_Cmd_Click(form);
+    ASSERT_EQ(lists.Exe_Cbo.Items.size(), 2u);
+    EXPECT_EQ(lists.Exe_Cbo.Items[1].Image, "QUESTION");
+    EXPECT_EQ(lists.Exe_Cbo.Items[1].SelectedImage, "QUESTION");
+    EXPECT_TRUE(LoadExes(run, lists));
+    EXPECT_EQ(lists.Exe_Cbo.Items[1].Image, "HALFLIFE");
+}
+
 }  // namespace lv

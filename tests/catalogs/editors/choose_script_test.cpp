@@ -1,5 +1,6 @@
 #include "catalogs/editors/choose_script.h"
 
+#include "foundation/browse.h"
 #include "tests/catalogs/editors/editors_fixture.h"
 
 namespace lv {
@@ -34,6 +35,8 @@ TEST_F(ChooseScript, BrowsesWithTheGamesFilter) {
         {Game::Hexen2, "Hexen Scripts (*.cfg, *.hs)|*.cfg;*.hs|All Files (*.*)|*.*"},
         {Game::Quake2, "Quake2 Scripts (*.cfg, *.q2s)|*.cfg;*.q2s|All Files (*.*)|*.*"},
         {Game::Unreal, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
+        {Game::Sin, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
+        {Game::Heretic2, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
         {Game::HalfLife, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
         {Game::None, "Scripts (*.cfg)|*.cfg|All Files (*.*)|*.*"},
     };
@@ -70,6 +73,25 @@ TEST_F(ChooseScript, AScriptFromElsewhereKeepsItsPath) {
     user.FileAnswers.push_back(std::optional<Text>("C:\\QUAKE\\CTF\\A.CFG"));
     ChooseScript_Browse_Cmd_Click(form);
     EXPECT_EQ(form.ScriptPath_Txt.Text, "C:\\QUAKE\\CTF\\A.CFG");
+}
+
+TEST_F(ChooseScript, ACancelledFileDialogLeavesTheName) {
+    ChooseScript_Frm form(run, "C:\\QUAKE\\ID1\\");
+    form.ScriptPath_Txt.Text = "a.cfg";
+    user.FileAnswers.push_back(std::optional<Text>());
+    ChooseScript_Browse_Cmd_Click(form);
+    user.FileAnswers.push_back(Error{kDialogCancelled, "cancel"});
+    ChooseScript_Browse_Cmd_Click(form);
+    EXPECT_EQ(form.ScriptPath_Txt.Text, "a.cfg");
+    EXPECT_TRUE(user.Asked.empty());
+}
+
+TEST_F(ChooseScript, AFileDialogThatFailsIsTold) {
+    ChooseScript_Frm form(run, "C:\\QUAKE\\ID1\\");
+    user.FileAnswers.push_back(Error{76, "Path not found"});
+    user.Expect({"A Windows Related Error Occured", "Error Number = 76\r\nError String = Path not found"});
+    ChooseScript_Browse_Cmd_Click(form);
+    EXPECT_EQ(form.ScriptPath_Txt.Text, "");
 }
 
 }  // namespace lv

@@ -144,5 +144,9 @@ TEST_F(AutoSaving, TheTimerIsDeafBeforeTheLoadAndAfterTheUnload) {
     EXPECT_EQ(form.MinutesSinceAutoSave, 0);
 }
 
+TEST_F(AutoSaving, ItsTimerComesOnceAMinute) {
+    EXPECT_EQ(kSaveTimerMilliseconds, 60000);
+}
+
 }  // namespace
 }  // namespace lv

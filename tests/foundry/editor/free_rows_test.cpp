@@ -518,5 +518,15 @@ TEST_F(FreeRows, TheOtherButtonsTellHowItIsDone) {
     EXPECT_TRUE(form.Document.ScriptClean);
 }
 
+TEST_F(FreeRows, AShortenedScriptWithoutAnExtraBindingOpensWhatItsCaptionShows) {
+    AddExtra("impulse 9");
+    user.In<ExtraBinding_Frm>([](ExtraBinding_Frm& dialog) { LineDialog_Cancel_Cmd_Click(dialog); });
+    AddExtraBinding_Cmd_Click(form);  // Cancel empties the result
+    AddScript("a_very_long_name_indeed.cfg");
+    EXPECT_EQ(Tip(701), "");
+    FreeRow_LeftClick(form, 701);
+    EXPECT_EQ(system.Programs.Started, (std::vector<std::string>{"notepad.exe|C:\\GAME\\ID1\\a_very_long_name_..."}));
+}
+
 }  // namespace
 }  // namespace lv

@@ -263,5 +263,10 @@ TEST_F(SetupFoundryTest, ItsTimerUnloadsTheProgramsSplash) {
     EXPECT_TRUE(foundry.Splash.Visible);
 }
 
+TEST(SFSplash, TicksTwentyTimesASecondAndGivesFifteenToTheOther) {
+    EXPECT_EQ(kSplashDotMilliseconds, 50);
+    EXPECT_EQ(kSplashUnloadMilliseconds, 15000);
+}
+
 }  // namespace
 }  // namespace lv

@@ -328,5 +328,21 @@ TEST(AliasNames, AreFoundWithoutCaseAndBlanks) {
     EXPECT_EQ(names.Find("c"), AliasNames::kNone);
 }
 
+TEST_F(BindLineTest, AnAliasNamedAsACommandOfTheGameIsThatCommand) {
+    AddAlias(document, "zoom_in", "fov 30");
+    Bind("a", "zoom_in");
+    EXPECT_EQ(Keys(409), "{A}");
+    EXPECT_EQ(Caption(601), "");
+    EXPECT_FALSE(document.AliasTable[FindAlias(document, "zoom_in").Place].Bound);
+}
+
+TEST_F(BindLineTest, AnAliasNamedAsACommandOfAnotherKindIsDropped) {
+    AddAlias(document, "toggle_dm", "impulse 200");
+    Bind("a", "toggle_dm");
+    EXPECT_EQ(Held("a"), "");
+    EXPECT_EQ(Caption(601), "");
+    EXPECT_EQ(Caption(501), "");
+}
+
 }  // namespace
 }  // namespace lv

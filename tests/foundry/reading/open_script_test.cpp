@@ -334,5 +334,16 @@ TEST_F(OpenScriptTest, KeepsNoCopyInADirectoryThatIsALinkOutOfTheGame) {
     EXPECT_EQ(document.BackupDue, "C:\\QUAKE\\CTF\\my.cfg");
 }
 
+TEST_F(OpenScriptTest, HasStoppedLoadingWhenItTellsOfTheCopy) {
+    ExpectBackupTold("C:\\QUAKE\\ID1\\my.SetupFoundry_Config_Backup");
+    int seen = 0;
+    user.OnDialog = [&] {
+        ++seen;
+        EXPECT_FALSE(document.ScriptLoading);
+    };
+    EXPECT_TRUE(Open("x"));
+    EXPECT_EQ(seen, 1);
+}
+
 }  // namespace
 }  // namespace lv

@@ -50,6 +50,18 @@ TEST_P(Keyword, IsUnderstood) {
 
 // clang-format off
 constexpr KeywordCase kCases[] = {
+    {Game::Quake2,   "crosshair 2\ncrosshair -1",         LOOK(Row(d.Crosshair_Cbo)),                           "-1"},
+    {Game::Sin,      "crosshair 2\ncrosshair -1",         LOOK(Row(d.Crosshair_Cbo)),                           "-1"},
+    {Game::Quake,    "crosshair -1",                      LOOK(Chosen(d.Crosshair_Cbo)),                        "-1"},
+    {Game::Heretic2, "crosshair -1",                      LOOK(Chosen(d.Crosshair_Cbo)),                        "-1"},
+    {Game::HalfLife, "crosshair -1",                      LOOK(Chosen(d.Crosshair_Cbo)),                        "-1"},
+    {Game::Quake,    "crosshaircolor 79\ncrosshaircolor -1", LOOK(Row(d.CrossHairColor_Cbo)),                   "-1"},
+    {Game::HalfLife, "hand 1",                            LOOK(Chosen(d.Handed_Cbo)),                           "1"},
+    {Game::Quake,    "_cl_name \"Joe\xFF\"",              LOOK(d.Name_Txt.Text),                                "Joe\xFF"},
+    {Game::Unreal,   "PlayerName=Joe\xFF",                LOOK(d.Name_Txt.Text),                                "Joe\xFF"},
+    {Game::Quake,    "_cl_name \"Joe\xFF\"\nname",        LOOK(d.Name_Txt.Text),                                "Joe\xFF"},
+    {Game::Unreal,   "bind=a",                            LOOK(d.Sections.at(0).Text),                          ""},
+    {Game::Unreal,   "alias=a",                           LOOK(d.Sections.at(0).Text),                          ""},
     {Game::Unreal,   "WeaponPriority[3]=Quadshot",        LOOK(d.WeaponPriority[3]),                            "Quadshot"},
     {Game::Unreal,   "WEAPONPRIORITY[50]=ASMD",           LOOK(d.WeaponPriority[50]),                           "ASMD"},
     {Game::Unreal,   "WeaponPriority[3]=none",            LOOK(d.WeaponPriority[3]),                            ""},

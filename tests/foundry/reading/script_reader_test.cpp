@@ -508,5 +508,30 @@ TEST(ReadLines, OfAnEmptyFileGiveAnEmptyDocument) {
     EXPECT_TRUE(document.AliasTable.empty());
 }
 
+TEST(ReadLines, BindsTheKeysOfAnInputSectionInAConsoleScriptToo) {
+    const ScriptDocument document =
+        ReadScript(Game::Quake, "[engine.input]\nA=+attack\nMinus=+jump\nbind b +back\n[Other]\nc=+jump");
+    EXPECT_EQ(BindingOf(document, "a"), "+attack");
+    EXPECT_EQ(BindingOf(document, "b"), "");
+    EXPECT_EQ(BindingOf(document, "c"), "");
+    EXPECT_EQ(SectionsOf(document), "[engine.input] [Other]c=+jump");  // an unknown key is dropped without a word
+}
+
+TEST(ReadLines, IgnoreTheOwnSectionOfAConsoleScript) {
+    const ScriptDocument document = ReadScript(Game::Quake, "x\n[Lorvane 3D]\nfov 97\n// y\n[Other]\nz");
+    EXPECT_EQ(document.fov_Cbo.ListIndex, -1);
+    EXPECT_EQ(SectionsOf(document), "[Other]x|z");
+}
+
+TEST(ReadLines, TakeTheOwnSectionOfAConsoleScriptForNoBanner) {
+    EXPECT_TRUE(IsForeign("[Lorvane 3D]\nx"));
+}
+
+TEST(ReadLines, AddAModelAndASkinAsTheyAreSpelled) {
+    const ScriptDocument document = ReadScript(Game::Quake2, "skin Cyborg/ONI911");
+    EXPECT_EQ(document.Sex_Cbo.Selected(), "Cyborg");
+    EXPECT_EQ(document.Skin_Cbo.Selected(), "ONI911");
+}
+
 }  // namespace
 }  // namespace lv

@@ -404,5 +404,25 @@ TEST_F(SaveScriptTest, WantOfMemoryIsToldAndChangesNothing) {
     EXPECT_FALSE(document.ScriptClean);
 }
 
+TEST_F(SaveScriptTest, AnIniLeavesTheEmptyCommandWithItsKey) {
+    BeIn(kUnrealDialect);
+    document.Sections.front().Name = "[Engine.Input]";
+    Bind(document, 24, "\"\"");
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    EXPECT_EQ(CountLines(system.Disk.Bytes(kPath), "X="), 1);
+    EXPECT_EQ(document.KeyBinding[24], "\"\"");
+}
+
+TEST_F(SaveScriptTest, WarnsOfAnyPathThatHoldsTheConfigsName) {
+    BeIn(kQuake2Dialect);
+    user.FileAnswers = {std::optional<Text>("C:\\QUAKE\\ID1\\config.cfg.txt"),
+                        std::optional<Text>("C:\\QUAKE\\ID1\\myconfig.cfg")};
+    ExpectConfigQuestion(1);
+    ExpectNotSaved();
+    EXPECT_FALSE(Save({SaveName::AskForIt}));
+    ExpectSuccess();
+    EXPECT_TRUE(Save({SaveName::AskForIt}));
+}
+
 }  // namespace
 }  // namespace lv

@@ -349,5 +349,11 @@ TEST(UnrealIni, DiffersFromDayToDayInTheLastLineAlone) {
     EXPECT_EQ(later, Written(d));
 }
 
+TEST(UnrealIni, GivesEachOfTwoSectionsOfOneNameItsLines) {
+    ScriptDocument d = Ini({{"[Engine.Pawn]", ""}, {"[engine.pawn]", ""}});
+    d.Name_Txt.Text = "Z";
+    EXPECT_EQ(Lines(d, "PlayerName=Z"), 2);
+}
+
 }  // namespace
 }  // namespace lv

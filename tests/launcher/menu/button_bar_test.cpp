@@ -136,4 +136,13 @@ TEST_F(ButtonBar, HelpOpensTheHelpFile) {
     EXPECT_EQ(user.Opened, (std::vector<Text>{"C:\\LORVANE\\handbook\\handbook.hhp"}));
 }
 
+TEST_F(ButtonBar, SpeedWithTwoProfilesDoesNothing) {
+    Save(run, kOptions, "VideoProfileList", "Base;Mine");
+    Load();
+    ButtonBar_Cmd_Click(launcher, 3);
+    EXPECT_EQ(window.VideoProfiles_Cbo.ListIndex, 0);
+    EXPECT_EQ(run.VideoProfileSection, "Options");
+    EXPECT_TRUE(user.Asked.empty());
+}
+
 }  // namespace lv

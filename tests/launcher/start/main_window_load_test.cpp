@@ -172,4 +172,14 @@ TEST_F(MainWindowLoad, AReloadMakesTheProfilesThatAreMissing) {
     EXPECT_EQ(Stored(kStuff, "VP_Version"), "1");
 }
 
+TEST_F(MainWindowLoad, ARowWithoutAPathIsToldAndTheStartGoesOn) {
+    AddGames();
+    Save(run, kOptions, "Executables", "Broken;;Quake;C:\\QUAKE\\GLQUAKE.EXE");
+    user.Expect({"Game Not Found...", "was not found.", 2});
+    user.Expect({"Lorvane 3D", "DefaultGameDirectory not found and was NOT SET"});
+    Load();
+    EXPECT_TRUE(run.MainFormLoaded);
+    EXPECT_EQ(run.DefaultGameDirectory, "");
+}
+
 }  // namespace lv

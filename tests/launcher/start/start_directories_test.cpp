@@ -1,5 +1,7 @@
 #include "launcher/start/start_directories.h"
 
+#include <utility>
+
 #include "tests/support/launcher_fixture.h"
 
 namespace lv {
@@ -169,6 +171,30 @@ TEST(OlderInstall, AFileInUseStopsTheRemoval) {
                  "The old files could not be removed.\r\nThey may be in use.", 0, false, true});
     OfferRemovalOfOlderInstall(run);
     EXPECT_TRUE(disk.FileExists("C:\\Program Files\\Ostrand Digital, LLC\\Lorvane 3D\\Lorvane3D.exe"));
+}
+
+TEST_F(StartDirectories, AProgramInTheOldDirectoryItselfIsStillAsked) {
+    AddOldInstall();
+    run.AppDirectory = kOldInstall;
+    ExpectQuestion(1);
+    OfferRemovalOfOlderInstall(run);
+}
+
+TEST_F(StartDirectories, OnlyADirectoryOfTheOldProgramsVeryPathIsNotAsked) {
+    AddOldInstall();
+    run.AppDirectory = kOldProgram;
+    OfferRemovalOfOlderInstall(run);
+    EXPECT_TRUE(user.Asked.empty());
+}
+
+TEST(CutTrailingBackslash, TakesOneOff) {
+    for (const auto& [given, kept] :
+         {std::pair("C:\\LORVANE\\", "C:\\LORVANE"), std::pair("C:\\", "C:"), std::pair("C:\\A\\\\", "C:\\A\\"),
+          std::pair("C:\\A", "C:\\A"), std::pair("", "")}) {
+        Text directory = given;
+        CutTrailingBackslash(directory);
+        EXPECT_EQ(directory, kept);
+    }
 }
 
 }  // namespace lv

@@ -19,6 +19,11 @@ class FakeInstance : public SingleInstance {
     int Claims = 0;
 };
 
+class RootFiles : public MemoryFiles {
+  public:
+    std::string ProgramDirectory() override { return "C:\\"; }
+};
+
 class StartTest : public LauncherTest {
   protected:
     StartTest() {
@@ -325,6 +330,41 @@ TEST_F(StartTest, GoesOnWithoutACopyThatCannotBeKept) {
     system.Settings.RefuseReads = MakeError(error::kAlreadyOpen);
     EXPECT_TRUE(Start(launcher));
     EXPECT_TRUE(Backups(run).empty());
+}
+
+TEST_F(StartTest, AProgramInADrivesRootIsKeptWithoutItsBackslash) {
+    RootFiles disk;
+    disk.AddDrive("C:");
+    Platform services{system.Settings, system.Registry, disk, system.Programs, system.Clip, system.Time};
+    lv::Run ownRun{services, user};
+    Launcher own{ownRun};
+    Save(run, kOptions, "Executables", "");
+    ExpectEmptyListQuestion();
+    EXPECT_TRUE(Start(own));
+    EXPECT_EQ(ownRun.AppDirectory, "C:");
+}
+
+TEST_F(StartTest, ASecondInstanceHasRepairedWhatIsStoredAndGoesNoFurther) {
+    instance.IsFirst = false;
+    system.Services.Instance = &instance;
+    system.Disk.AddFile("C:\\Program Files\\Ostrand Digital, LLC\\Lorvane 3D\\Lorvane3D.exe");  // not asked about
+    system.Disk.AddDirectory("C:\\ELSE");
+    (void)system.Disk.ChangeDirectory("C:\\ELSE");
+    Save(run, kOptions, "Executables", "Quake;C:/QUAKE/GLQUAKE.EXE");
+    EXPECT_FALSE(Start(launcher));
+    EXPECT_EQ(Stored(kOptions, "Executables"), "Quake;C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_EQ(system.Disk.CurrentDirectory(), "C:\\ELSE");
+    EXPECT_EQ(run.MainWindowCaption, "   Lorvane 3D");
+}
+
+TEST_F(StartTest, AFirstRunAsksForTheChipsetAheadOfTheLookForAnotherInstance) {
+    MakeFirstRun();
+    AcceptChipset();
+    instance.IsFirst = false;
+    system.Services.Instance = &instance;
+    EXPECT_FALSE(Start(launcher));
+    EXPECT_TRUE(user.InInstallParams.empty());
+    EXPECT_EQ(Stored(kOptions, "VidCard"), "1");
 }
 
 }  // namespace lv

@@ -291,5 +291,103 @@ TEST_F(LvEvents, NoWarningComesForOtherGames) {
     EXPECT_TRUE(user.Asked.empty());
 }
 
+TEST_F(LvEvents, AModificationTakesTheTickFromGameSpy) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Select(window.Game_Cbo, "Capture the Flag");
+    Click(Option::LaunchQspy_Chk, 1);
+    Click(Option::Game_Chk, 1);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::LaunchQspy_Chk).Value, 0);
+    EXPECT_EQ(Stored(kOptions, "LaunchQSpy"), "0");
+    EXPECT_TRUE(window.DoIt_Cmd[1].Enabled);
+}
+
+TEST_F(LvEvents, GameSpyTakesTheTickFromAModificationWithAllThatHangsOnIt) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    Select(window.Game_Cbo, "Capture the Flag");
+    Click(Option::Game_Chk, 1);
+    Click(Option::LaunchQspy_Chk, 1);
+    EXPECT_EQ(window.Box(Option::LaunchQspy_Chk).Value, 1);
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 0);
+    EXPECT_EQ(Stored(kOptions, "UseGames"), "0");
+    EXPECT_EQ(run.CurrentGameDir, "ID1");
+    EXPECT_EQ(window.PlayerScript_Pan.Caption, "Player Script");
+}
+
+TEST_F(LvEvents, AModificationWithoutASelectedRowWritesNothing) {
+    user.Expect({"Lorvane 3D", "No Modification Subdirectory is selected.", 0});
+    const std::size_t before = system.Settings.Log.size();
+    Click(Option::Game_Chk, 1);
+    EXPECT_EQ(system.Settings.Log.size(), before);
+}
+
+TEST_F(LvEvents, GameSpyIsOutOfReachForHeretic2) {
+    AddGames();
+    system.Disk.AddFile("C:\\HERETIC2\\HERETIC2.EXE");
+    system.Disk.AddFile("C:\\HERETIC2\\BASE\\my.cfg");
+    Save(run, kOptions, "Executables", "Quake;C:\\QUAKE\\GLQUAKE.EXE;Heretic;C:\\HERETIC2\\HERETIC2.EXE");
+    Load();
+    PickExe("C:\\HERETIC2\\HERETIC2.EXE");
+    EXPECT_EQ(run.GameKind, Game::Heretic2);
+    EXPECT_FALSE(window.Box(Option::LaunchQspy_Chk).Enabled);
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    EXPECT_TRUE(window.Box(Option::LaunchQspy_Chk).Enabled);
+}
+
+TEST_F(LvEvents, TheBenchmarkOfHalfLifeLeavesADemoThatIsThere) {
+    run.GameKind = Game::HalfLife;
+    run.DefaultGameDirectory = "C:\\HL";
+    system.Disk.AddFile("C:\\HL\\valve\\1.dem", "the player's own");
+    system.Disk.AddFile("C:\\LORVANE\\hl1.dem", "a demo");
+    user.Expect({"Half-Life TimeDemo Warning", "Click the button to run the timedemo.", 0});
+    Click(Option::Bench_Chk, 1);
+    EXPECT_EQ(system.Disk.Bytes("C:\\HL\\valve\\1.dem"), "the player's own");
+}
+
+TEST_F(LvEvents, TheBenchmarkOfHalfLifeGetsItsDemoWithTheWarningsOffToo) {
+    run.GameKind = Game::HalfLife;
+    run.DefaultGameDirectory = "C:\\HL";
+    system.Disk.AddDirectory("C:\\HL\\valve");
+    system.Disk.AddFile("C:\\LORVANE\\hl1.dem", "a demo");
+    Save(run, "ShowMessage", "HL_TimeDemo_2", "0");
+    Save(run, "ShowMessage", "HL_TimeDemo", "0");
+    Click(Option::Bench_Chk, 1);
+    EXPECT_TRUE(user.Asked.empty());
+    EXPECT_EQ(system.Disk.Bytes("C:\\HL\\valve\\1.dem"), "a demo");
+}
+
+TEST_F(LvEvents, PickingAModificationRefillsTheScriptsWithTheBoxClearToo) {
+    AddGames();
+    Load();
+    PickExe("C:\\QUAKE\\GLQUAKE.EXE");
+    const std::size_t before = window.Script_Cbo.Items.size();
+    system.Disk.AddFile("C:\\QUAKE\\ID1\\later.cfg");
+    Game_Cbo_Click(launcher);
+    EXPECT_EQ(window.Script_Cbo.Items.size(), before + 1);
+}
+
+TEST_F(LvEvents, TheMissionPacksExecutableBringsItsModificationAndTheOthersDropIt) {
+    AddGames();
+    system.Disk.AddFile("C:\\HEXEN2\\GLH2.EXE");
+    system.Disk.AddFile("C:\\HEXEN2\\GLH2MP.EXE");
+    system.Disk.AddDirectory("C:\\HEXEN2\\DATA1");
+    system.Disk.AddFile("C:\\HEXEN2\\portals\\pak3.pak");
+    Save(run, kOptions, "Executables",
+         "Quake;C:\\QUAKE\\GLQUAKE.EXE;Hexen 2;C:\\HEXEN2\\GLH2.EXE;Portals;C:\\HEXEN2\\GLH2MP.EXE");
+    Save(run, kOptions, "Games", "Portals of Praevus;-game portals");
+    Load();
+    PickExe("C:\\HEXEN2\\GLH2MP.EXE");
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 1);
+    EXPECT_EQ(run.CurrentGameDir, "portals");
+    Save(run, kOptions, "UseGames", 1);
+    PickExe("C:\\HEXEN2\\GLH2.EXE");
+    EXPECT_EQ(window.Box(Option::Game_Chk).Value, 0);
+    EXPECT_EQ(run.CurrentGameDir, "DATA1");
+}
+
 }  // namespace
 }  // namespace lv
