@@ -12,6 +12,7 @@
 #include "foundation/shown_name.h"
 #include "foundation/utf16_text.h"
 #include "games/games.h"
+#include "launcher/window/launch_flow.h"
 #include "launcher/window/lv_events.h"
 
 namespace lv {
@@ -119,7 +120,8 @@ Result<Judge> JudgeByProgram(const Command& command, const CommandPlace& place, 
     if (run.GameKind == Game::None) {
         return Error{error::kInvalidCall, "What that program plays is not known."};
     }
-    const PlayedGame played = PlayedOfRun(run, SelectedEngine(unseen.Its), run.GameKind, run.IsQuakeWorld);
+    const PlayedGame played = PlayedOfRun(
+        run, SelectedEngine(unseen.Its), SelectionOf(unseen.Its.Window).ExecutablePath, run.GameKind, run.IsQuakeWorld);
     return Judge{.Of = played.Of, .Start = StartWith(played, path), .Why = "as that program does"};
 }
 
@@ -135,6 +137,9 @@ std::vector<Finding> FindingsOf(Files& disk, const Text& path, TextView content,
                    !SameText(each.File, judge.Start->Commands.front().substr(TextView("exec ").size()));
         });
         return findings;
+    }
+    if (judge.Start) {
+        return CheckScriptBeside(disk, *judge.Start, path, content);
     }
     return CheckScript({path, content, judge.Of, nullptr, {}});
 }

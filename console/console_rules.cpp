@@ -38,6 +38,7 @@ constexpr ConsoleRules kConsoles[] = {
     {Console::HalfLife,   "Half-Life",   2046,  80, 32767,  32768, 31,   Dropped,  kAfterBlank, "",          true,    false, true,  false, false, Joined, OwnKeys, FirstRuns,  true,   false, has::kSet | has::kUnalias},
     {Console::Unreal,     "Unreal",          0,  0,     0,      0,  0,   Cut,      kUnquoted,   "",          false,   false, false, true,  false, Joined, Small,   AreOne,     true,   false, kNone},
     {Console::QuakeSpasm, "QuakeSpasm",  1023,  80,  1023, 262144, 31,   Cut,      kSplits,     "",          true,    false, false, false, false, One,    OwnKeys, NewestRuns, true,   true,  kUnaliases},
+    {Console::HexenWorld, "HexenWorld",  1023,  80,  1024,   8192, 31,   Cut,      kSplits,     "",          true,    false, false, false, false, One,    OwnKeys, NewestRuns, true,   false, kUnaliases},
 };
 // clang-format on
 

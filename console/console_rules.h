@@ -27,6 +27,7 @@ enum class Console {
     HalfLife,  // as Xash3D reads it
     Unreal,    // no console's script but an ini
     QuakeSpasm,
+    HexenWorld,
 };
 
 /// What becomes of a line that is longer than the console's.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "foundation/field_strings.h"
+
 namespace lv {
 
 namespace {
@@ -21,6 +23,7 @@ constexpr EngineConsole kEngineConsoles[] = {
     {"DarkPlaces", Console::DarkPlaces},
     {"FTEQW", Console::Fte},
     {"ezQuake", Console::EzQuake},
+    {"Hammer of Thyrion HexenWorld", Console::HexenWorld},
     {"Hammer of Thyrion", Console::Hexen2},
     {"Yamagi Quake II", Console::Yamagi},
     {"Q2PRO", Console::Q2Pro},
@@ -35,6 +38,16 @@ Console ConsoleOfEngine(const Engine& engine, Game game, bool isQuakeWorld) {
     const auto* const row = std::ranges::find_if(
         kEngineConsoles, [&](const EngineConsole& each) { return StartsWithText(engine.Name, each.Engine); });
     return row == std::end(kEngineConsoles) ? ConsoleOf(game, isQuakeWorld) : row->Has;
+}
+
+Console ConsoleOfProgram(const Engine* engine, TextView program, Game game, bool isQuakeWorld) {
+    if (engine != nullptr) {
+        return ConsoleOfEngine(*engine, game, isQuakeWorld);
+    }
+    const Text name = LowerCase(LastPathPart(program));
+    const bool isHexenWorld =
+        game == Game::Hexen2 && (name.find("hwcl") != Text::npos || name.find("hwsv") != Text::npos);
+    return isHexenWorld ? Console::HexenWorld : ConsoleOf(game, isQuakeWorld);
 }
 
 }  // namespace lv

@@ -12,4 +12,7 @@ namespace lv {
 /// Of an engine that nobody has looked at, of the user's table say, that of the game as it was sold.
 Console ConsoleOfEngine(const Engine& engine, Game game, bool isQuakeWorld);
 
+/// Of the game's own program where `engine` is null: HexenWorld's is told by its name.
+Console ConsoleOfProgram(const Engine* engine, TextView program, Game game, bool isQuakeWorld);
+
 }  // namespace lv

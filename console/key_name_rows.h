@@ -47,7 +47,7 @@ using enum Console;
 constexpr ConsoleSet kEvery = NotIn();
 constexpr ConsoleSet kQuake2s = In(Quake2, Sin, Yamagi, Q2Pro, HalfLife);
 constexpr ConsoleSet kKeypad =
-    kQuake2s | In(Hexen2, EzQuake, Ironwail, QuakeSpasm, DarkPlaces, Fte);  // in Quake II's spelling
+    kQuake2s | In(Hexen2, HexenWorld, EzQuake, Ironwail, QuakeSpasm, DarkPlaces, Fte);  // in Quake II's spelling
 constexpr ConsoleSet kKeypadHeretic2 = kKeypad | In(Heretic2);
 constexpr ConsoleSet kKeypadDigits = In(EzQuake, DarkPlaces, Fte);
 constexpr ConsoleSet kSides = In(EzQuake, Fte, Q2Pro);  // tells the left from the right one
@@ -95,8 +95,8 @@ constexpr KeyNameRow kKeyNames[] = {
     {"KP_SLASH",      kKeypadHeretic2},
     {"KP_MINUS",      kKeypadHeretic2},
     {"KP_PLUS",       kKeypadHeretic2},
-    {"KP_STAR",       In(Hexen2, EzQuake, Ironwail, QuakeSpasm, Yamagi)},
-    {"KP_NUMLOCK",    In(Hexen2, Ironwail, Yamagi, Heretic2)},
+    {"KP_STAR",       In(Hexen2, HexenWorld, EzQuake, Ironwail, QuakeSpasm, Yamagi)},
+    {"KP_NUMLOCK",    In(Hexen2, HexenWorld, Ironwail, Yamagi, Heretic2)},
     {"KP_MULTIPLY",   In(EzQuake, DarkPlaces, Q2Pro, Fte)},
     {"KP_DIVIDE",     In(EzQuake, DarkPlaces, Fte)},
     {"KP_EQUAL",      In(EzQuake)},
@@ -129,7 +129,7 @@ constexpr KeyNameRow kKeyNames[] = {
     {"POPUPMENU",     In(EzQuake)},
     {"MENU",          In(EzQuake, Fte, Yamagi, Q2Pro)},
     {"APP",           In(Fte)},
-    {"COMMAND",       In(Hexen2, EzQuake, Ironwail, QuakeSpasm, Yamagi)},
+    {"COMMAND",       In(Hexen2, HexenWorld, EzQuake, Ironwail, QuakeSpasm, Yamagi)},
     {"COMPOSE",       In(Yamagi)},
     {"MODE",          In(Yamagi)},
     {"HELP",          In(Yamagi)},
@@ -187,7 +187,7 @@ constexpr KeyRunRow kKeyRuns[] = {
     {"F",             1, 12,  kEvery},
     {"F",             13, 15, In(EzQuake, Yamagi)},
     {"MOUSE",         1, 3,   kEvery},
-    {"MOUSE",         4, 5,   In(Hexen2, EzQuake, Ironwail, QuakeSpasm, DarkPlaces, Fte, Yamagi, Q2Pro, HalfLife)},
+    {"MOUSE",         4, 5,   In(Hexen2, HexenWorld, EzQuake, Ironwail, QuakeSpasm, DarkPlaces, Fte, Yamagi, Q2Pro, HalfLife)},
     {"MOUSE",         6, 8,   In(EzQuake, DarkPlaces, Fte, Q2Pro)},
     {"MOUSE",         9, 10,  In(DarkPlaces, Fte)},
     {"MOUSE",         11, 16, In(DarkPlaces)},

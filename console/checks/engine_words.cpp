@@ -24,25 +24,27 @@ constexpr std::array kStarts = std::to_array<TextView>({
     "showdrop",   "showfps",  "showmiss",  "showpackets", "showtrace",     "skill",  "slist_",
     "slot",       "snd_",     "spectator", "suit",        "sv_",           "sw_",    "sys_",
     "temp",       "text",     "timelimit", "tp_",         "tracer",        "ui_",    "utf8_",
-    "v_",         "vgui_",    "vid_",      "violence_",   "vk_",           "voice_", "win_",
-    "z_",
+    "v_",         "vgui_",    "vid_",      "violence_",   "vk_",           "voice_", "weapon_",
+    "win_",       "z_",
 });
 static_assert(std::ranges::is_sorted(kStarts));
 
 constexpr std::array kNames = std::to_array<TextView>({
-    "basedir",     "baseskin",  "bottomcolor",    "brightness",  "cancelselect",  "cddir",       "changeteam",
-    "chooseteam",  "console",   "contrast",       "cutscene",    "debuggraph",    "decals",      "dedicated",
-    "direct",      "dmflags",   "edgefriction",   "entlatency",  "explosion",     "fastsprites", "filterban",
-    "fixedtime",   "footsteps", "fullserverinfo", "game",        "gamecfg",       "gamedir",     "gender",
-    "gender_auto", "hisound",   "hostname",       "hostport",    "instantweap",   "intensity",   "ip",
-    "jsave",       "lambert",   "lastinv",        "leak",        "lightgamma",    "lightlevel",  "loadas8bit",
-    "localid",     "logfile",   "maxclients",     "maxentities", "maxspectators", "memlist",     "memstats",
-    "menuselect",  "model",     "modellist",      "motd",        "msg",           "nextserver",  "nightvision",
-    "noexit",      "noipx",     "nomonsters",     "noskins",     "nosound",       "nostdout",    "noudp",
-    "observer",    "password",  "pausable",       "paused",      "playermodel",   "playerskin",  "pmodel",
-    "port",        "predict",   "protocol",       "public",      "pushlatency",   "randomclass", "registered",
-    "samelevel",   "slowmo",    "teamplay",       "timeformat",  "timegraph",     "timescale",   "timestamps",
-    "topcolor",    "watervis",  "zmax",           "zombietime",
+    "basedir",        "baseskin",    "bottomcolor", "brightness", "cancelselect", "cddir",         "changeteam",
+    "chooseteam",     "console",     "contrast",    "cutscene",   "debuggraph",   "decals",        "dedicated",
+    "defnext",        "defprev",     "direct",      "dmflags",    "edgefriction", "entlatency",    "explosion",
+    "fastsprites",    "filterban",   "firstperson", "fixedtime",  "footsteps",    "freezeworld",   "fullserverinfo",
+    "game",           "gamecfg",     "gamedir",     "gender",     "gender_auto",  "hisound",       "hostname",
+    "hostport",       "instantweap", "intensity",   "invleft",    "invright",     "invshow",       "ip",
+    "jsave",          "lambert",     "lastinv",     "leak",       "lightgamma",   "lightlevel",    "loadas8bit",
+    "loadgame",       "localid",     "logfile",     "maxclients", "maxentities",  "maxspectators", "memlist",
+    "memstats",       "menuselect",  "model",       "modellist",  "motd",         "msg",           "nextserver",
+    "nightvision",    "noexit",      "noipx",       "nomonsters", "noskins",      "nosound",       "nostdout",
+    "noudp",          "observer",    "password",    "pausable",   "paused",       "playermodel",   "playerskin",
+    "pmodel",         "popmenu",     "port",        "predict",    "protocol",     "public",        "pushlatency",
+    "pushmenu",       "randomclass", "registered",  "samelevel",  "savegame",     "slowmo",        "taunt",
+    "teamplay",       "thirdperson", "timeformat",  "timegraph",  "timescale",    "timestamps",    "toggle_dm",
+    "toggleviewmode", "topcolor",    "watervis",    "zmax",       "zombietime",   "zoom_in",       "zoom_out",
 });
 static_assert(std::ranges::is_sorted(kNames));
 

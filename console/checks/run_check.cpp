@@ -109,6 +109,17 @@ std::optional<FoundScript> FindThat(ScriptFinder& finder, const RunScript& scrip
     return std::nullopt;
 }
 
+/// What the scripts of the run define and set, in lower case.
+std::unordered_set<Text> NamesOf(const StartRun& run, const StartRequest& request) {
+    std::unordered_set<Text> names;
+    for (const SetThing& thing : run.Set.All()) {
+        if (IsKnownBy(thing, run, request)) {
+            names.insert(LowerCase(thing.Identity));
+        }
+    }
+    return names;
+}
+
 }  // namespace
 
 std::vector<Finding> CheckRun(const StartRun& run, Console console) {
@@ -131,12 +142,7 @@ std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& start) {
     request.RunsLongOnes = true;  // they are to be shortened, and then have all their other faults still
     const StartRun run = RunStart(disk, request);
     const Console console = request.Played.Of;
-    std::unordered_set<Text> names;
-    for (const SetThing& thing : run.Set.All()) {
-        if (IsKnownBy(thing, run, request)) {
-            names.insert(LowerCase(thing.Identity));
-        }
-    }
+    const std::unordered_set<Text> names = NamesOf(run, request);
     const std::size_t levels = GameDirectories(request.Played).size();
     ScriptFinder finder(disk, run.Places, ExecRulesOf(console), request.Given);
     ThereScripts there(finder, request.Played);
@@ -158,6 +164,14 @@ std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& start) {
     }
     Arrange(findings);
     return findings;
+}
+
+std::vector<Finding> CheckScriptBeside(Files& disk, const StartRequest& request, TextView path, TextView content) {
+    const StartRun run = RunStart(disk, request);
+    const std::unordered_set<Text> names = NamesOf(run, request);
+    ScriptFinder finder(disk, run.Places, ExecRulesOf(request.Played.Of), request.Given);
+    ThereScripts there(finder, request.Played);
+    return CheckScript({path, content, request.Played.Of, &names, [&there](TextView name) { return there.Has(name); }});
 }
 
 }  // namespace lv

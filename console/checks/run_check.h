@@ -18,4 +18,8 @@ std::vector<Finding> CheckRun(const StartRun& run, Console console);
 /// too long for the console are gone through as if it took them.
 std::vector<Finding> CheckScriptsOf(Files& disk, const StartRequest& request);
 
+/// A script that the start does not run, as one of its own name hides it, say: what it executes is looked for where the
+/// start would look.
+std::vector<Finding> CheckScriptBeside(Files& disk, const StartRequest& request, TextView path, TextView content);
+
 }  // namespace lv

@@ -32,6 +32,7 @@ constexpr ExecRules kRules[] = {
     {Console::HalfLife,    true,  "",             kNoNumbers, "*.pak;*.pk3",                 false, "",                  WithoutPoint, true,  true,  true, true},
     {Console::Unreal,      true,  "",             kNoNumbers, "",                            false, "",                  kPlain,       false, false, true, false},
     {Console::QuakeSpasm,  false, "pak%.pak",     kUntilGap,  "",                            true,  "",                  kPlain,       true,  false, true, true},
+    {Console::HexenWorld,  true,  "pak%.pak",     kToNine,    "",                            true,  "portals;hw",        kPlain,       true,  false, true, true},
 };
 
 constexpr EngineFiles kEngineFiles[] = {

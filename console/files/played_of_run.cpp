@@ -4,9 +4,9 @@
 
 namespace lv {
 
-PlayedGame PlayedOfRun(const Run& run, const Engine* engine, Game game, bool isQuakeWorld) {
+PlayedGame PlayedOfRun(const Run& run, const Engine* engine, TextView program, Game game, bool isQuakeWorld) {
     PlayedGame played;
-    played.Of = engine != nullptr ? ConsoleOfEngine(*engine, game, isQuakeWorld) : ConsoleOf(game, isQuakeWorld);
+    played.Of = ConsoleOfProgram(engine, program, game, isQuakeWorld);
     played.GameKind = game;
     played.Directory = run.DefaultGameDirectory;
     played.Base = run.BaseGameDir;

@@ -11,6 +11,6 @@
 namespace lv {
 
 /// Of the run's directories. `engine` is null for the game's own program.
-PlayedGame PlayedOfRun(const Run& run, const Engine* engine, Game game, bool isQuakeWorld);
+PlayedGame PlayedOfRun(const Run& run, const Engine* engine, TextView program, Game game, bool isQuakeWorld);
 
 }  // namespace lv

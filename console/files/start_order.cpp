@@ -20,6 +20,7 @@ constexpr StartStep kSteps[] = {
     {Console::Quake,      Rc,           "quake.rc",             kQuakeRc},
     {Console::QuakeWorld, Rc,           "quake.rc",             kQuakeRc},
     {Console::Hexen2,     Rc,           "hexen.rc",             kHexenRc},
+    {Console::HexenWorld, Rc,           "hexen.rc",             kHexenRc},
 
     {Console::Quake2,     EarlySets},
     {Console::Quake2,     Script,       "default.cfg"},

@@ -37,20 +37,20 @@ void ReadAgain(Fig_Frm& form) {
     NoteSaved(form);
 }
 
-const Engine* EngineInUse(const Fig_Frm& form) {
+TextView ProgramInUse(const Fig_Frm& form) {
     const ImageCombo& executables = form.Lists.Exe_Cbo;
-    return form.Lists.Engines != nullptr && executables.HasSelection()
-               ? EngineOf(*form.Lists.Engines,
-                          LastPathPart(executables.Items[static_cast<std::size_t>(executables.ListIndex)].Key))
-               : nullptr;
+    return executables.HasSelection() ? TextView(executables.Items[static_cast<std::size_t>(executables.ListIndex)].Key)
+                                      : TextView();
+}
+
+const Engine* EngineInUse(const Fig_Frm& form) {
+    return form.Lists.Engines != nullptr ? EngineOf(*form.Lists.Engines, LastPathPart(ProgramInUse(form))) : nullptr;
 }
 
 /// That of the engine that is picked to play the script, and of the game itself without one.
 Console ConsoleInUse(const Fig_Frm& form) {
     const ScriptDialect& dialect = form.Document.Dialect;
-    const Engine* const engine = EngineInUse(form);
-    return engine != nullptr ? ConsoleOfEngine(*engine, dialect.GameKind, dialect.IsQuakeWorld)
-                             : ConsoleOfDialect(dialect);
+    return ConsoleOfProgram(EngineInUse(form), ProgramInUse(form), dialect.GameKind, dialect.IsQuakeWorld);
 }
 
 /// What a save would make of the file.
@@ -117,7 +117,7 @@ Text TextNow(Fig_Frm& form) {
 
 PlayedGame GameOf(const Fig_Frm& form) {
     const ScriptDialect& dialect = form.Document.Dialect;
-    return PlayedOfRun(form.run, EngineInUse(form), dialect.GameKind, dialect.IsQuakeWorld);
+    return PlayedOfRun(form.run, EngineInUse(form), ProgramInUse(form), dialect.GameKind, dialect.IsQuakeWorld);
 }
 
 /// The start of the game that is picked, as a launch would make it, with this script.

@@ -57,7 +57,8 @@ StartRequest StartOfLaunch(Launcher& launcher, const std::optional<GivenScript>&
     const Run& run = launcher.run;
     const PlannedLaunch plan = PlanLaunch(launcher);
     StartRequest request;
-    request.Played = PlayedOfRun(run, SelectedEngine(launcher), run.GameKind, run.IsQuakeWorld);
+    request.Played = PlayedOfRun(run, SelectedEngine(launcher), SelectionOf(launcher.Window).ExecutablePath,
+                                 run.GameKind, run.IsQuakeWorld);
     request.Commands = LineCommands(plan.Command, request.Played.Of);
     if (auto autoexec = AutoexecOf(run.System.Disk, plan, edited)) {
         request.Given.push_back(*std::move(autoexec));

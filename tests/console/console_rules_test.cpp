@@ -32,6 +32,7 @@ constexpr LimitRow kLimits[] = {
     {Console::Q2Pro, "Q2PRO", 1023, 256, 1023, 0, 31},
     {Console::HalfLife, "Half-Life", 2046, 80, 32767, 32768, 31},
     {Console::Unreal, "Unreal", 0, 0, 0, 0, 0},
+    {Console::HexenWorld, "HexenWorld", 1023, 80, 1024, 8192, 31},
 };
 
 struct CommandRow {
@@ -45,13 +46,14 @@ struct CommandRow {
 
 // And what the commands take.
 constexpr CommandRow kCommands[] = {
-    {Console::Quake, false, false, false, false, true},   {Console::QuakeWorld, false, false, false, false, false},
-    {Console::Hexen2, false, false, false, true, true},   {Console::Quake2, true, true, false, false, false},
-    {Console::Heretic2, true, true, false, false, false}, {Console::Sin, true, true, false, false, false},
-    {Console::EzQuake, true, true, false, true, false},   {Console::Ironwail, false, false, false, true, true},
-    {Console::DarkPlaces, false, true, true, true, true}, {Console::Fte, true, true, true, true, false},
-    {Console::Yamagi, true, true, false, false, false},   {Console::Q2Pro, true, true, true, true, false},
-    {Console::HalfLife, true, true, false, true, false},  {Console::QuakeSpasm, false, false, false, true, true},
+    {Console::Quake, false, false, false, false, true},      {Console::QuakeWorld, false, false, false, false, false},
+    {Console::Hexen2, false, false, false, true, true},      {Console::Quake2, true, true, false, false, false},
+    {Console::Heretic2, true, true, false, false, false},    {Console::Sin, true, true, false, false, false},
+    {Console::EzQuake, true, true, false, true, false},      {Console::Ironwail, false, false, false, true, true},
+    {Console::DarkPlaces, false, true, true, true, true},    {Console::Fte, true, true, true, true, false},
+    {Console::Yamagi, true, true, false, false, false},      {Console::Q2Pro, true, true, true, true, false},
+    {Console::HalfLife, true, true, false, true, false},     {Console::QuakeSpasm, false, false, false, true, true},
+    {Console::HexenWorld, false, false, false, true, false},
 };
 
 }  // namespace
@@ -85,7 +87,7 @@ TEST(ConsoleRules, SayWhatTheirCommandsTake) {
 
 TEST(ConsoleRules, TellWhereASemicolonInACommentSplits) {
     for (const Console console : {Console::Quake, Console::QuakeWorld, Console::Hexen2, Console::Quake2,
-                                  Console::Yamagi, Console::Q2Pro, Console::QuakeSpasm}) {
+                                  Console::Yamagi, Console::Q2Pro, Console::QuakeSpasm, Console::HexenWorld}) {
         EXPECT_EQ(RulesOf(console).Comment, CommentRule::Splits) << RulesOf(console).Name;
     }
     EXPECT_EQ(RulesOf(Console::EzQuake).Comment, CommentRule::Unquoted);

@@ -26,6 +26,8 @@ constexpr EngineCase kCases[] = {
     {"tyr-quake", Game::Quake, false, Console::Quake},
     {"tyr-qwcl", Game::Quake, true, Console::QuakeWorld},
     {"glhexen2", Game::Hexen2, false, Console::Hexen2},
+    {"glhwcl", Game::Hexen2, false, Console::HexenWorld},
+    {"hwsv", Game::Hexen2, false, Console::HexenWorld},
     {"yquake2", Game::Quake2, false, Console::Yamagi},
     {"q2pro", Game::Quake2, false, Console::Q2Pro},
     {"q2rtx", Game::Quake2, false, Console::Q2Pro},
@@ -43,6 +45,14 @@ TEST(ConsoleOfEngine, IsItsOwnOrThatOfItsGame) {
         ASSERT_NE(engine, nullptr) << row.Program;
         EXPECT_EQ(ConsoleOfEngine(*engine, row.GameKind, row.QuakeWorld), row.Has) << row.Program;
     }
+}
+
+TEST(ConsoleOfProgram, KnowsHexenWorldsOwnProgramByItsName) {
+    EXPECT_EQ(ConsoleOfProgram(nullptr, "C:\\HEXEN2\\HWCL.EXE", Game::Hexen2, false), Console::HexenWorld);
+    EXPECT_EQ(ConsoleOfProgram(nullptr, "C:\\HEXEN2\\glhwcl.exe", Game::Hexen2, false), Console::HexenWorld);
+    EXPECT_EQ(ConsoleOfProgram(nullptr, "C:\\HWCL\\GLH2.EXE", Game::Hexen2, false), Console::Hexen2);
+    EXPECT_EQ(ConsoleOfProgram(nullptr, "C:\\QUAKE\\HWCL.EXE", Game::Quake, true), Console::QuakeWorld);
+    EXPECT_EQ(ConsoleOfProgram(nullptr, "", Game::Hexen2, false), Console::Hexen2);
 }
 
 }  // namespace lv

@@ -10,10 +10,10 @@ namespace {
 
 using Consoles = std::initializer_list<Console>;
 
-constexpr Console kWithKeys[] = {Console::Quake,      Console::QuakeWorld, Console::Hexen2,  Console::Quake2,
-                                 Console::Heretic2,   Console::Sin,        Console::EzQuake, Console::Ironwail,
-                                 Console::DarkPlaces, Console::Fte,        Console::Yamagi,  Console::Q2Pro,
-                                 Console::HalfLife,   Console::QuakeSpasm};
+constexpr Console kWithKeys[] = {Console::Quake,      Console::QuakeWorld, Console::Hexen2,    Console::Quake2,
+                                 Console::Heretic2,   Console::Sin,        Console::EzQuake,   Console::Ironwail,
+                                 Console::DarkPlaces, Console::Fte,        Console::Yamagi,    Console::Q2Pro,
+                                 Console::HalfLife,   Console::QuakeSpasm, Console::HexenWorld};
 
 struct KeyCase {
     const char* Name;
@@ -23,25 +23,26 @@ struct KeyCase {
 // Keys that not all consoles know.
 const KeyCase kKeys[] = {
     {"KP_UPARROW",
-     {Console::Hexen2, Console::Quake2, Console::Sin, Console::EzQuake, Console::Ironwail, Console::DarkPlaces,
-      Console::Fte, Console::Yamagi, Console::Q2Pro, Console::HalfLife, Console::QuakeSpasm}},
+     {Console::Hexen2, Console::HexenWorld, Console::Quake2, Console::Sin, Console::EzQuake, Console::Ironwail,
+      Console::DarkPlaces, Console::Fte, Console::Yamagi, Console::Q2Pro, Console::HalfLife, Console::QuakeSpasm}},
     {"KP_UP", {Console::Heretic2}},
-    {"KP_STAR", {Console::Hexen2, Console::EzQuake, Console::Ironwail, Console::QuakeSpasm, Console::Yamagi}},
+    {"KP_STAR",
+     {Console::Hexen2, Console::HexenWorld, Console::EzQuake, Console::Ironwail, Console::QuakeSpasm, Console::Yamagi}},
     {"ABUTTON", {Console::Ironwail, Console::QuakeSpasm}},
     {"DPAD_UP", {Console::Ironwail}},
-    {"KP_NUMLOCK", {Console::Hexen2, Console::Heretic2, Console::Ironwail, Console::Yamagi}},
+    {"KP_NUMLOCK", {Console::Hexen2, Console::HexenWorld, Console::Heretic2, Console::Ironwail, Console::Yamagi}},
     {"KP_7", {Console::EzQuake, Console::DarkPlaces, Console::Fte}},
     {"MOUSE5",
-     {Console::Hexen2, Console::EzQuake, Console::Ironwail, Console::DarkPlaces, Console::Fte, Console::Yamagi,
-      Console::Q2Pro, Console::HalfLife, Console::QuakeSpasm}},
+     {Console::Hexen2, Console::HexenWorld, Console::EzQuake, Console::Ironwail, Console::DarkPlaces, Console::Fte,
+      Console::Yamagi, Console::Q2Pro, Console::HalfLife, Console::QuakeSpasm}},
     {"MOUSE16", {Console::DarkPlaces}},
     {"F13", {Console::EzQuake, Console::Yamagi}},
     {"JOY1",
-     {Console::Quake, Console::QuakeWorld, Console::Hexen2, Console::Quake2, Console::Heretic2, Console::Sin,
-      Console::EzQuake, Console::DarkPlaces, Console::Fte, Console::QuakeSpasm}},
+     {Console::Quake, Console::QuakeWorld, Console::Hexen2, Console::HexenWorld, Console::Quake2, Console::Heretic2,
+      Console::Sin, Console::EzQuake, Console::DarkPlaces, Console::Fte, Console::QuakeSpasm}},
     {"AUX32",
-     {Console::Quake, Console::QuakeWorld, Console::Hexen2, Console::Quake2, Console::Heretic2, Console::Sin,
-      Console::DarkPlaces, Console::HalfLife, Console::QuakeSpasm}},
+     {Console::Quake, Console::QuakeWorld, Console::Hexen2, Console::HexenWorld, Console::Quake2, Console::Heretic2,
+      Console::Sin, Console::DarkPlaces, Console::HalfLife, Console::QuakeSpasm}},
     {"AUX33", {}},
     {"AUX01", {}},
     {"AUX", {}},

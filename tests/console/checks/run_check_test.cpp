@@ -129,4 +129,13 @@ TEST(CheckScriptsOf, ChecksGivenTexts) {
         "C:\\QUAKE\\id1\\autoexec.cfg:2: Quake has no key NOKEY.\n");
 }
 
+TEST(CheckScriptBeside, TellsOfMissingScriptsInOneThatAnotherOfItsNameHides) {
+    CheckedDisk game;
+    game.Add("ID1\\here.cfg", "wait\n");
+    game.Add("ID1\\autoexec.cfg", "alias mine wait\n");
+    EXPECT_EQ(FindingReport(CheckScriptBeside(game.Disk, game.Request, "C:\\QUAKE\\ID1\\my.cfg",
+                                              "mine\nexec here.cfg\nexec gone.cfg\n")),
+              "C:\\QUAKE\\ID1\\my.cfg:3: The script gone.cfg is not there.\n");
+}
+
 }  // namespace lv

@@ -37,6 +37,7 @@ TEST(ExecRules, AreThoseOfEachConsole) {
         {Console::Yamagi, false, "pak%.pak:to 9 *.pak;*.pk2;*.pk3;*.pkz;*.zip", "", ExecEnding::None, false, false},
         {Console::Q2Pro, false, "pak%.pak:to 9 *.pak;*.pkz", "", ExecEnding::WhenMissing, false, false},
         {Console::HalfLife, kLooseFirst, ":none *.pak;*.pk3", "", ExecEnding::WithoutPoint, kOneWord, kEnds},
+        {Console::HexenWorld, kLooseFirst, "pak%.pak:to 9", "portals;hw", ExecEnding::None, kOneWord, kEnds},
         {Console::Unreal, kLooseFirst, ":none", "", ExecEnding::None, false, kEnds},
     };
     constexpr TextView kNumbers[] = {":until gap", ":to 9", ":none"};
@@ -67,7 +68,7 @@ TEST(ExecRules, SayWhoseArchivesMindLetterCase) {
         patterns += rules.Patterns ? name : "";
         unsure += rules.IsSure ? "" : name;
     }
-    EXPECT_EQ(exact, "Quake;QuakeWorld;Hexen II;ezQuake;Ironwail;FTE;QuakeSpasm;");
+    EXPECT_EQ(exact, "Quake;QuakeWorld;Hexen II;ezQuake;Ironwail;FTE;QuakeSpasm;HexenWorld;");
     EXPECT_EQ(patterns, "DarkPlaces;Half-Life;");
     EXPECT_EQ(unsure, "Sin;FTE;Yamagi;Q2PRO;Unreal;");
 }

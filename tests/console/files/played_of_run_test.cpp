@@ -20,7 +20,7 @@ class PlayedOfRunTest : public ::testing::Test {
 };
 
 TEST_F(PlayedOfRunTest, OfTheGamesOwnProgram) {
-    const PlayedGame played = PlayedOfRun(run, nullptr, Game::Quake, true);
+    const PlayedGame played = PlayedOfRun(run, nullptr, "C:\\QUAKE\\QWCL.EXE", Game::Quake, true);
     EXPECT_EQ(played.Of, Console::QuakeWorld);
     EXPECT_EQ(played.GameKind, Game::Quake);
     EXPECT_EQ(played.Directory, "C:\\QUAKE");
@@ -34,7 +34,7 @@ TEST_F(PlayedOfRunTest, OfAnEngineAndAModification) {
     run.CurrentGameDir = "ctf";
     Engine engine;
     engine.Name = "DarkPlaces";
-    const PlayedGame played = PlayedOfRun(run, &engine, Game::Quake, false);
+    const PlayedGame played = PlayedOfRun(run, &engine, "quakespasm", Game::Quake, false);
     EXPECT_EQ(played.Of, Console::DarkPlaces);
     EXPECT_EQ(played.Engine, "DarkPlaces");
     EXPECT_EQ(played.Modification, "ctf");

@@ -63,6 +63,9 @@ TEST(SearchPath, KnowsTheOthersArchives) {
     game.Add("PORTALS\\pak3.pak", "");
     EXPECT_EQ(Listed(game.Disk, Played(Console::Hexen2, Game::Hexen2, "portals")),
               "portals portals/pak3.pak data1 data1/pak0.pak");
+    game.Add("HW\\pak4.pak", "");
+    EXPECT_EQ(Listed(game.Disk, Played(Console::HexenWorld, Game::Hexen2)),
+              "hw hw/pak4.pak portals portals/pak3.pak data1 data1/pak0.pak");
 }
 
 TEST(SearchPath, HasTheModificationAheadOfTheBase) {

@@ -26,6 +26,7 @@ TEST(StartOrder, IsThatOfEachConsole) {
     EXPECT_EQ(Listed(Console::Quake), "rc quake.rc");
     EXPECT_EQ(Listed(Console::QuakeWorld), "rc quake.rc");
     EXPECT_EQ(Listed(Console::Hexen2), "rc hexen.rc");
+    EXPECT_EQ(Listed(Console::HexenWorld), "rc hexen.rc");
     EXPECT_EQ(Listed(Console::Quake2), kQuake2);
     EXPECT_EQ(Listed(Console::Heretic2),
               "early sets, exec default.cfg, exec config.cfg?, early sets, if loose autoexec.cfg?, exec menus.cfg?, "

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "console/checks/script_check.h"
 #include "foundry/document/script_document.h"
 #include "foundry/document/written_commands.h"
 #include "tests/foundry/kinds.h"
@@ -252,6 +253,21 @@ TEST(FillCommandTable, LeavesNothingBehindOfAnotherKind) {
         EXPECT_EQ(document.Bound_Lbl[slot].Visible, quake.Bound_Lbl[slot].Visible) << slot;
     }
     EXPECT_EQ(document.Bound_Lbl[900].Caption, quake.Bound_Lbl[900].Caption);
+}
+
+TEST(FillCommandTable, WritesNoCommandThatTheCheckOfScriptsDoesNotKnow) {
+    for (const Game kind : {Game::Quake, Game::Hexen2, Game::Quake2, Game::Sin, Game::Heretic2, Game::HalfLife}) {
+        const ScriptDocument document = Filled(kind);
+        Text script;
+        for (const SlotNumber slot : SlotNumbers()) {
+            if (!document.SlotCommand[slot].empty()) {
+                script += Join("bind x \"", document.SlotCommand[slot], "\"\n");
+            }
+        }
+        for (const Finding& each : CheckScript({"my.cfg", script, ConsoleOf(kind, false), nullptr, {}})) {
+            EXPECT_NE(each.Kind, FindingKind::UnknownWord) << FindingLine(each);
+        }
+    }
 }
 
 }  // namespace

@@ -15,6 +15,7 @@ namespace {
 lv::ScriptDialect DialectOfConsole(lv::Console console) {
     switch (console) {
         case lv::Console::Hexen2:
+        case lv::Console::HexenWorld:
             return lv::DialectOf(lv::Game::Hexen2);
         case lv::Console::Unreal:
             return lv::DialectOf(lv::Game::Unreal);
