@@ -11,6 +11,9 @@
 // check sum (CRC-32, as in zip archives), how many versions the file holds, and the check sum of the line up to here
 // and the payload together. "whole" is the text itself, "delta" what it is by the next newer version (version_delta). A
 // line feed follows each payload. The lines of "versions 1" end behind the text's check sum.
+//
+// The newest is whole, and every tenth behind it whose text has up to 16 KB, so that one damage costs ten versions of
+// such a script at most, and the file is no more than 64 KB larger for that. Of a larger script it may cost all.
 
 #pragma once
 
