@@ -145,7 +145,7 @@ void Reading::SkipToHead() {
 VersionFile Reading::Result() {
     file_.IsLostExact = total_ > 0;
     file_.Lost = total_ > 0 ? total_ - std::min(total_, file_.Versions.size()) : missed_;
-    file_.IsDamaged = file_.IsDamaged || missed_ > 0 || file_.Lost > 0;
+    file_.IsDamaged = file_.IsDamaged || missed_ > 0 || file_.Lost > 0 || file_.Versions.empty();
     return std::move(file_);
 }
 

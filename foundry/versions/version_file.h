@@ -20,21 +20,23 @@
 #include <vector>
 
 #include "foundry/versions/version_record.h"
+#include "platform/error.h"
 
 namespace lv {
 
 struct VersionFile {
     lv::Text Script;  // whose versions they are
     std::vector<ScriptVersion> Versions;
-    bool IsDamaged = false;    // there was more that could not be read
+    bool IsDamaged = false;    // there was more that could not be made out
     std::size_t Lost = 0;      // versions that could not
     bool IsLostExact = false;  // false: there may have been more of these
+    Error Unread = {};         // why the file could not be read at all, damaged or not
 };
 
 constexpr std::size_t kMostVersionBytes = 32U << 20U;  // of all texts of a file
 
 /// What is intact of it: versions up to the first damage, and behind it those that need no other or whose next newer
-/// one is as the last that could be read where it counts.
+/// one is as the last that could be read where it counts. A file without a version is damaged: none is written so.
 VersionFile ReadVersionFile(TextView bytes);
 
 /// No more than kMostVersions of them.

@@ -98,9 +98,11 @@ TEST(VersionFile, HoldsAnyBytesAndNoneAtAll) {
     EXPECT_EQ(TextsOf(ReadVersionFile(WriteVersionFile(file))), TextsOf(file));
 }
 
-TEST(VersionFile, AnEmptyFileHasNoVersions) {
-    EXPECT_TRUE(ReadVersionFile("").Versions.empty());
-    EXPECT_FALSE(ReadVersionFile("").IsDamaged);
+TEST(VersionFile, AnEmptyFileIsDamaged) {
+    const VersionFile file = ReadVersionFile("");
+    EXPECT_TRUE(file.Versions.empty());
+    EXPECT_TRUE(file.IsDamaged);
+    EXPECT_FALSE(file.IsLostExact);
 }
 
 TEST(VersionFile, OfTheOldFormIsReadToo) {
@@ -113,7 +115,7 @@ TEST(VersionFile, OfTheOldFormIsReadToo) {
 TEST(VersionFile, KnowsEveryCut) {
     for (std::size_t length = 1; length < kTwo.size(); ++length) {
         const VersionFile file = ReadVersionFile(kTwo.substr(0, length));
-        EXPECT_TRUE(file.IsDamaged || length == kTwo.find("2026-11-23")) << length;
+        EXPECT_TRUE(file.IsDamaged) << length;
         EXPECT_EQ(file.Versions.size(), length >= kTwo.find("2026-11-22") ? 1u : 0u) << length;
     }
     const VersionFile file = ReadVersionFile(kTwo.substr(0, kTwo.find("2026-11-22")));
@@ -124,8 +126,7 @@ TEST(VersionFile, KnowsEveryCut) {
 TEST(VersionFile, OfTheOldFormKeepsWhatIsIntactAtEveryCut) {
     for (std::size_t length = 1; length < kOldTwo.size(); ++length) {
         const VersionFile file = ReadVersionFile(kOldTwo.substr(0, length));
-        const bool isWholeVersions = length == kOldTwo.find("2026-11-23") || length == kOldTwo.find("2026-11-22");
-        EXPECT_EQ(file.IsDamaged, !isWholeVersions) << length;
+        EXPECT_EQ(file.IsDamaged, length != kOldTwo.find("2026-11-22")) << length;
         EXPECT_EQ(file.Versions.size(), length >= kOldTwo.find("2026-11-22") ? 1u : 0u) << length;
         EXPECT_FALSE(file.IsLostExact);
     }
