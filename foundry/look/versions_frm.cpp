@@ -24,15 +24,21 @@ Text RowText(const ScriptVersion& version) {
     return Join(room.data(), "   ", std::to_string(version.Text.size()), " bytes");
 }
 
-/// What is damaged, and where it lies; empty if nothing ever was.
+/// "4 versions", "at least 1 version"
+Text LostText(const VersionFile& file) {
+    const std::size_t lost = std::max(file.Lost, std::size_t{file.IsLostExact ? 0U : 1U});
+    return Join(file.IsLostExact ? "" : "at least ", std::to_string(lost), lost == 1 ? " version" : " versions");
+}
+
+/// What is damaged or cannot be read, and where what was damaged lies; empty if nothing ever was.
 Text DamageText(const VersionFile& file, const std::vector<Text>& aside) {
     Text text;
-    if (file.IsDamaged) {
-        const Text count = Join(file.IsLostExact ? "" : "at least ",
-                                std::to_string(std::max(file.Lost, std::size_t{file.IsLostExact ? 0U : 1U})));
-        text = Join("The file that keeps the versions is damaged. What could not be read of it: ", count,
-                    count == "1" ? " version." : " versions.", NewLine,
-                    "The next save puts the damaged file aside, and what could be read goes on.");
+    if (file.Unread) {
+        text = Join("The file that keeps the versions cannot be read:", NewLine, NewLine, ErrorLines(file.Unread),
+                    NewLine);
+    } else if (file.IsDamaged) {
+        text = Join("The file that keeps the versions is damaged. What could not be read of it: ", LostText(file), ".",
+                    NewLine, "The next save puts the damaged file aside, and what could be read goes on.");
     }
     if (!aside.empty()) {
         text += Join(text.empty() ? "" : NewLine, "A damaged file of versions was kept as ", aside.back());
@@ -63,6 +69,7 @@ Versions_Frm::Versions_Frm(Run& owner, TextView script) : ModalWindow(owner, "Ve
     VersionFile file = ReadVersions(owner, script);
     Damage_Lbl.Caption = DamageText(file, DamagedVersionFiles(owner, script));
     Damage_Lbl.Visible = !Damage_Lbl.Caption.empty();
+    KeepsVersions = !file.Unread;
     Versions = std::move(file.Versions);
     for (const ScriptVersion& version : Versions) {
         Versions_Lst.Items.push_back(RowText(version));
@@ -115,7 +122,10 @@ bool ShowVersions(Run& run, TextView script) {
         const Text none = form.Damage_Lbl.Caption.empty() ? "There is no older version of this script yet."
                                                           : "No older version of this script can be shown.";
         const Text damage = form.Damage_Lbl.Caption.empty() ? Text() : Join(NewLine, form.Damage_Lbl.Caption, NewLine);
-        AskUser(run, kTitle, Join(none, NewLine, damage, "Each save in Setup Foundry keeps what it replaces."));
+        AskUser(run, kTitle,
+                Join(none, NewLine, damage,
+                     form.KeepsVersions ? "Each save in Setup Foundry keeps what it replaces."
+                                        : "Until it can be read, no save keeps what it replaces."));
         return false;
     }
     ShowModal(form);

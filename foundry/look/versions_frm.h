@@ -27,6 +27,7 @@ struct Versions_Frm : ModalWindow {
 
     std::vector<ScriptVersion> Versions;  // newest first, a row each
     Text OnDisk;                          // what the script is now
+    bool KeepsVersions = true;            // the next save can
     bool BroughtBack = false;
 };
 

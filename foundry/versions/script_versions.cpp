@@ -5,6 +5,7 @@
 #include "foundation/bounded_file.h"
 #include "foundation/field_strings.h"
 #include "foundation/own_directory.h"
+#include "foundation/path_fault.h"
 #include "foundry/document/script_mark.h"
 
 namespace lv {
@@ -25,13 +26,21 @@ Result<Text> ReadAll(Files& disk, TextView path, std::size_t most) {
     return file.Value->Read(0, most);
 }
 
-Result<Text> BytesOfVersions(Files& disk, const Text& path) {
-    return disk.FileExists(path) ? ReadAll(disk, path, kLargestVersionFile) : Text();
-}
-
-VersionFile VersionsIn(const Result<Text>& bytes) {
-    VersionFile file = ReadVersionFile(bytes.Value);
-    file.IsDamaged = file.IsDamaged || !bytes.Ok();
+/// Only where no file is there are there no versions. One that is larger than any that is written is damaged.
+VersionFile VersionsAt(Files& disk, const Text& path) {
+    VersionFile file;
+    const auto opened = disk.Open(path);
+    if (opened.Ok() && opened.Value->Size() > kLargestVersionFile) {
+        file.IsDamaged = true;
+        return file;
+    }
+    const Result<Text> bytes = opened.Ok() ? opened.Value->Read(0, kLargestVersionFile) : opened.Fault;
+    if (bytes.Ok()) {
+        return ReadVersionFile(bytes.Value);
+    }
+    if (bytes.Fault.Number != error::kFileNotFound && bytes.Fault.Number != error::kPathNotFound) {
+        file.Unread = FaultAt(disk, path, bytes.Fault);
+    }
     return file;
 }
 
@@ -41,7 +50,8 @@ Text DamagedName(const Text& path, int number) {
 
 /// Under a name that no other damaged file has, as long as there are not too many; where one holds the same already,
 /// that is it.
-Result<Text> KeepAside(Files& disk, const Text& path, const Result<Text>& bytes) {
+Result<Text> KeepAside(Files& disk, const Text& path) {
+    const Result<Text> bytes = ReadAll(disk, path, kLargestVersionFile);
     for (int number = 1;; ++number) {
         Text name = DamagedName(path, number);
         const bool isThere = disk.FileExists(name);
@@ -87,11 +97,13 @@ Result<Text> KeepVersion(Run& run, TextView script) {
     if (Error failed = MakeWholeDirectory(disk, path.substr(0, path.rfind('\\')))) {
         return failed;
     }
-    const Result<Text> bytes = BytesOfVersions(disk, path);
-    VersionFile file = VersionsIn(bytes);
+    VersionFile file = VersionsAt(disk, path);
+    if (file.Unread) {
+        return file.Unread;
+    }
     Result<Text> aside;
     if (file.IsDamaged) {
-        aside = KeepAside(disk, path, bytes);
+        aside = KeepAside(disk, path);
         if (!aside.Ok()) {
             return aside;
         }
@@ -105,7 +117,7 @@ Result<Text> KeepVersion(Run& run, TextView script) {
 }
 
 VersionFile ReadVersions(Run& run, TextView script) {
-    return VersionsIn(BytesOfVersions(run.System.Disk, VersionFilePathOf(run, script)));
+    return VersionsAt(run.System.Disk, VersionFilePathOf(run, script));
 }
 
 std::vector<ScriptVersion> VersionsOf(Run& run, TextView script) {

@@ -17,7 +17,8 @@ Text VersionFilePathOf(const Run& run, TextView script);
 /// Keeps the script as it is on disk, as the newest version. Nothing to keep if there is no such file, or it is the
 /// newest version already; a text that is an older one is kept once, as the newest. The oldest of more than
 /// kMostVersions goes. Error 7 for a script of more than kLargestVersion bytes. A file of versions that is damaged is
-/// kept aside, and what is intact of it goes on: the value is where it is kept then, and empty else.
+/// kept aside, and what is intact of it goes on: the value is where it is kept then, and empty else. One that is there
+/// and cannot be read stays as it is: the error says why.
 Result<Text> KeepVersion(Run& run, TextView script);
 
 /// What can be read of them, newest first.

@@ -13,6 +13,8 @@ namespace {
 
 constexpr TextView kTitle = "Lorvane 3D versions 2\n";
 constexpr TextView kOldTitle = "Lorvane 3D versions 1\n";
+constexpr std::size_t kWholeEvery = 10;
+constexpr std::size_t kLargestRepeated = 16U << 10U;  // bytes of a text that is whole though a delta would do
 
 std::optional<TextView> TakeLine(TextView& bytes) {
     const std::size_t end = bytes.find('\n');
@@ -143,7 +145,7 @@ void Reading::SkipToHead() {
 VersionFile Reading::Result() {
     file_.IsLostExact = total_ > 0;
     file_.Lost = total_ > 0 ? total_ - std::min(total_, file_.Versions.size()) : missed_;
-    file_.IsDamaged = file_.IsDamaged || missed_ > 0 || file_.Lost > 0;
+    file_.IsDamaged = file_.IsDamaged || missed_ > 0 || file_.Lost > 0 || file_.Versions.empty();
     return std::move(file_);
 }
 
@@ -157,7 +159,9 @@ Text WriteVersionFile(const VersionFile& file) {
     Text bytes = Join(kTitle, file.Script, "\n");
     const std::size_t count = std::min(file.Versions.size(), kMostVersions);
     for (std::size_t i = 0; i < count; ++i) {
-        bytes += RecordOf(file.Versions[i], i > 0 ? &file.Versions[i - 1].Text : nullptr, count);
+        const ScriptVersion& version = file.Versions[i];
+        const bool isWhole = i == 0 || (i % kWholeEvery == 0 && version.Text.size() <= kLargestRepeated);
+        bytes += RecordOf(version, isWhole ? nullptr : &file.Versions[i - 1].Text, count);
     }
     return bytes;
 }

@@ -11,27 +11,32 @@
 // check sum (CRC-32, as in zip archives), how many versions the file holds, and the check sum of the line up to here
 // and the payload together. "whole" is the text itself, "delta" what it is by the next newer version (version_delta). A
 // line feed follows each payload. The lines of "versions 1" end behind the text's check sum.
+//
+// The newest is whole, and every tenth behind it whose text has up to 16 KB, so that one damage costs ten versions of
+// such a script at most, and the file is no more than 64 KB larger for that. Of a larger script it may cost all.
 
 #pragma once
 
 #include <vector>
 
 #include "foundry/versions/version_record.h"
+#include "platform/error.h"
 
 namespace lv {
 
 struct VersionFile {
     lv::Text Script;  // whose versions they are
     std::vector<ScriptVersion> Versions;
-    bool IsDamaged = false;    // there was more that could not be read
+    bool IsDamaged = false;    // there was more that could not be made out
     std::size_t Lost = 0;      // versions that could not
     bool IsLostExact = false;  // false: there may have been more of these
+    Error Unread = {};         // why the file could not be read at all, damaged or not
 };
 
 constexpr std::size_t kMostVersionBytes = 32U << 20U;  // of all texts of a file
 
 /// What is intact of it: versions up to the first damage, and behind it those that need no other or whose next newer
-/// one is as the last that could be read where it counts.
+/// one is as the last that could be read where it counts. A file without a version is damaged: none is written so.
 VersionFile ReadVersionFile(TextView bytes);
 
 /// No more than kMostVersions of them.

@@ -38,7 +38,7 @@ struct RecordHead {
 /// The line is without its line feed. Nothing for one that is none, or claims more than a version may have.
 std::optional<RecordHead> ReadRecordHead(TextView line, RecordForm form);
 
-/// By the next newer text, if there is one. `total` is how many versions the file holds.
+/// By the next newer text, or whole without one. `total` is how many versions the file holds.
 Text RecordOf(const ScriptVersion& version, const Text* newer, std::size_t total);
 
 }  // namespace lv

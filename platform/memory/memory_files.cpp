@@ -197,8 +197,13 @@ Result<const MemoryFiles::Node*> MemoryFiles::FindFile(std::string_view path) {
     return node->IsDirectory || node->IsDevice ? Result<const Node*>(MakeError(error::kPathFileAccess)) : node;
 }
 
+Result<const MemoryFiles::Node*> MemoryFiles::FindReadable(std::string_view path) {
+    const auto refused = RefusedReads.find(Key(path));
+    return refused != RefusedReads.end() ? refused->second : FindFile(path);
+}
+
 Result<std::string> MemoryFiles::Read(std::string_view path) {
-    const auto node = FindFile(path);
+    const auto node = FindReadable(path);
     if (!node.Ok()) {
         return node.Fault;
     }
@@ -209,7 +214,7 @@ Result<std::string> MemoryFiles::Read(std::string_view path) {
 }
 
 Result<std::unique_ptr<RandomAccessFile>> MemoryFiles::Open(std::string_view path) {
-    const auto node = FindFile(Real(path));
+    const auto node = FindReadable(Real(path));
     if (!node.Ok()) {
         return node.Fault;
     }

@@ -75,6 +75,7 @@ class MemoryFiles : public Files {
     std::set<std::string> RefusedDeletes;         // by lower-case path: deleting the file is error 70
     std::vector<std::string> Listed;              // each directory that was listed, in order
     std::map<std::string, Error> Refused;         // by lower-case path: Replace and Copy onto it fail with this
+    std::map<std::string, Error> RefusedReads;    // by lower-case path: Read, Open and Copy of it fail with this
     std::vector<std::string> Log;                 // "replace C:\...", "delete C:\...", "copy A -> B", in order
 
   private:
@@ -90,6 +91,7 @@ class MemoryFiles : public Files {
     [[nodiscard]] std::string KeyOfLink(std::string_view path) const;
     Error Put(const std::string& key, std::string_view path, std::string_view bytes);
     Result<const Node*> FindFile(std::string_view path);
+    Result<const Node*> FindReadable(std::string_view path);
     Node* Find(std::string_view path);
     /// Of a file that is asked for or opened.
     std::string_view Real(std::string_view path);

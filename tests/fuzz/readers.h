@@ -30,6 +30,7 @@ void FuzzSettingsText(TextView input);
 void FuzzStartRun(TextView input);
 void FuzzTwoScripts(TextView input);
 void FuzzVdf(TextView input);
+void FuzzVersionFile(TextView input);
 
 struct FuzzedReader {
     const char* Name;  // of its corpus, and of its own program
@@ -54,6 +55,7 @@ constexpr FuzzedReader kFuzzedReaders[] = {
     {"start_run", FuzzStartRun},
     {"two_scripts", FuzzTwoScripts},
     {"vdf", FuzzVdf},
+    {"version_file", FuzzVersionFile},
 };
 
 /// Ends the process, with `what` on standard error, unless it holds.

@@ -127,7 +127,40 @@ TEST_F(VersionsForm, AFileThatIsAllDamagedIsToldOf) {
     user.Expect({"Setup Foundry",
                  "No older version of this script can be shown.\r\n\r\n"
                  "The file that keeps the versions is damaged. What could not be read of it: at least 1 "
-                 "versions.\r\n"});
+                 "version.\r\n"});
+    EXPECT_FALSE(ShowVersions(run, kScript));
+}
+
+TEST_F(VersionsForm, AnEmptyFileIsToldOfAsADamagedOne) {
+    system.Disk.AddFile(VersionFilePathOf(run, kScript), "");
+    user.Expect({"Setup Foundry",
+                 "No older version of this script can be shown.\r\n\r\n"
+                 "The file that keeps the versions is damaged. What could not be read of it: at least 1 version.\r\n"
+                 "The next save puts the damaged file aside, and what could be read goes on.\r\n"
+                 "Each save in Setup Foundry keeps what it replaces."});
+    EXPECT_FALSE(ShowVersions(run, kScript));
+}
+
+TEST_F(VersionsForm, AFileThatCannotBeReadIsToldOfWithTheReason) {
+    const Text path = VersionFilePathOf(run, kScript);
+    system.Disk.RefusedReads[LowerCase(path)] = MakeError(error::kPermissionDenied);
+    user.Expect({"Setup Foundry", Join("No older version of this script can be shown.\r\n\r\n"
+                                       "The file that keeps the versions cannot be read:\r\n\r\n"
+                                       "Error Number = 70\r\nError String = Permission denied: ",
+                                       path, "\r\n\r\nUntil it can be read, no save keeps what it replaces.")});
+    EXPECT_FALSE(ShowVersions(run, kScript));
+}
+
+TEST_F(VersionsForm, ADirectoryInThePlaceOfTheFileIsToldOf) {
+    const Text path = VersionFilePathOf(run, kScript);
+    ASSERT_FALSE(system.Disk.Delete(path));
+    system.Disk.AddDirectory(path);
+    user.Expect({"Setup Foundry", Join("No older version of this script can be shown.\r\n\r\n"
+                                       "The file that keeps the versions cannot be read:\r\n\r\n"
+                                       "Error Number = 75\r\nError String = Path/File access error: ",
+                                       path,
+                                       " is a directory. Rename it, or remove it.\r\n\r\n"
+                                       "Until it can be read, no save keeps what it replaces.")});
     EXPECT_FALSE(ShowVersions(run, kScript));
 }
 

@@ -130,6 +130,65 @@ TEST_F(ScriptVersions, ADamagedFileThatCannotBeKeptStays) {
     EXPECT_EQ(system.Disk.Bytes(FilePath()), "nothing");
 }
 
+TEST_F(ScriptVersions, AnEmptyFileIsKeptAsideOnceAsADamagedOne) {
+    Put("one");
+    SaveOver("two");
+    system.Disk.AddFile(FilePath(), "");
+    EXPECT_TRUE(ReadVersions(run, kScript).IsDamaged);
+    EXPECT_EQ(KeepVersion(run, kScript).Value, Join(FilePath(), ".damaged"));
+    EXPECT_EQ(Texts(), std::vector<Text>{"two"});
+    EXPECT_FALSE(ReadVersions(run, kScript).IsDamaged);
+    EXPECT_EQ(KeepVersion(run, kScript).Value, "");
+}
+
+TEST_F(ScriptVersions, OnlyWhereNoFileIsThereAreThereNone) {
+    const VersionFile none = ReadVersions(run, kScript);  // nor a directory for it
+    EXPECT_FALSE(none.IsDamaged);
+    EXPECT_FALSE(none.Unread);
+    Put("one");
+    SaveOver("two");
+    const VersionFile others = ReadVersions(run, "C:\\GAME\\ID1\\other.cfg");
+    EXPECT_FALSE(others.IsDamaged);
+    EXPECT_FALSE(others.Unread);
+}
+
+TEST_F(ScriptVersions, AFileThatCannotBeReadIsNotDamagedAndStays) {
+    Put("one");
+    SaveOver("two");
+    const Text bytes = system.Disk.Bytes(FilePath());
+    for (const int number : {error::kPermissionDenied, error::kDeviceFault}) {
+        system.Disk.RefusedReads[LowerCase(FilePath())] = MakeError(number);
+        const VersionFile file = ReadVersions(run, kScript);
+        EXPECT_EQ(file.Unread.Number, number);
+        EXPECT_FALSE(file.IsDamaged);
+        EXPECT_TRUE(file.Versions.empty());
+        EXPECT_EQ(KeepVersion(run, kScript).Fault.Number, number);
+        EXPECT_EQ(BringBack(run, kScript, {{}, "zero"}).Fault.Number, number);
+        EXPECT_EQ(system.Disk.Bytes(kScript), "two");
+    }
+    system.Disk.RefusedReads.clear();
+    EXPECT_EQ(system.Disk.Bytes(FilePath()), bytes);
+    EXPECT_EQ(DamagedVersionFiles(run, kScript), std::vector<Text>());
+}
+
+TEST_F(ScriptVersions, ADirectoryInThePlaceOfTheFileIsNamedAndStays) {
+    Put("one");
+    system.Disk.AddDirectory(FilePath());
+    const Text reason = Join("Path/File access error: ", FilePath(), " is a directory. Rename it, or remove it.");
+    EXPECT_EQ(ReadVersions(run, kScript).Unread.Text, reason);
+    EXPECT_EQ(KeepVersion(run, kScript).Fault.Text, reason);
+    EXPECT_TRUE(system.Disk.DirectoryExists(FilePath()));
+}
+
+TEST_F(ScriptVersions, AFileLargerThanAnyThatIsWrittenIsADamagedOne) {
+    Put("one");
+    system.Disk.AddSparseFile(FilePath(), "", 2 * kMostVersionBytes + 1);
+    EXPECT_TRUE(ReadVersions(run, kScript).IsDamaged);
+    EXPECT_FALSE(ReadVersions(run, kScript).Unread);
+    EXPECT_EQ(KeepVersion(run, kScript).Value, Join(FilePath(), ".damaged"));
+    EXPECT_EQ(Texts(), std::vector<Text>{"one"});
+}
+
 TEST_F(ScriptVersions, ADamagedFileIsToldOfByItsPlace) {
     EXPECT_EQ(KeptAsideText("C:\\V.txt.damaged"),
               "The file that keeps the older versions of this script was damaged. What could be read of it goes on;\r\n"

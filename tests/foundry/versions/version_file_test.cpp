@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "foundation/field_strings.h"
 
 namespace lv {
@@ -48,6 +50,23 @@ std::size_t LineOf(const Text& bytes, std::size_t version) {
     return at;
 }
 
+Text Bindings(std::size_t lines) {
+    Text text;
+    for (std::size_t i = 0; i < lines; ++i) {
+        text += Join("bind ", std::to_string(i), " \"impulse ", std::to_string(i), "\"\r\n");
+    }
+    return text;
+}
+
+/// Fifty versions of a script, each with a change of its own.
+VersionFile Fifty(const Text& text) {
+    VersionFile file = {"s", {}};
+    for (int i = 0; i < 50; ++i) {
+        file.Versions.push_back({kMorning, Join(text, "echo ", std::to_string(i), "\r\n")});
+    }
+    return file;
+}
+
 std::vector<Text> TextsOf(const VersionFile& file) {
     std::vector<Text> texts;
     for (const ScriptVersion& version : file.Versions) {
@@ -79,9 +98,11 @@ TEST(VersionFile, HoldsAnyBytesAndNoneAtAll) {
     EXPECT_EQ(TextsOf(ReadVersionFile(WriteVersionFile(file))), TextsOf(file));
 }
 
-TEST(VersionFile, AnEmptyFileHasNoVersions) {
-    EXPECT_TRUE(ReadVersionFile("").Versions.empty());
-    EXPECT_FALSE(ReadVersionFile("").IsDamaged);
+TEST(VersionFile, AnEmptyFileIsDamaged) {
+    const VersionFile file = ReadVersionFile("");
+    EXPECT_TRUE(file.Versions.empty());
+    EXPECT_TRUE(file.IsDamaged);
+    EXPECT_FALSE(file.IsLostExact);
 }
 
 TEST(VersionFile, OfTheOldFormIsReadToo) {
@@ -94,7 +115,7 @@ TEST(VersionFile, OfTheOldFormIsReadToo) {
 TEST(VersionFile, KnowsEveryCut) {
     for (std::size_t length = 1; length < kTwo.size(); ++length) {
         const VersionFile file = ReadVersionFile(kTwo.substr(0, length));
-        EXPECT_TRUE(file.IsDamaged || length == kTwo.find("2026-11-23")) << length;
+        EXPECT_TRUE(file.IsDamaged) << length;
         EXPECT_EQ(file.Versions.size(), length >= kTwo.find("2026-11-22") ? 1u : 0u) << length;
     }
     const VersionFile file = ReadVersionFile(kTwo.substr(0, kTwo.find("2026-11-22")));
@@ -105,8 +126,7 @@ TEST(VersionFile, KnowsEveryCut) {
 TEST(VersionFile, OfTheOldFormKeepsWhatIsIntactAtEveryCut) {
     for (std::size_t length = 1; length < kOldTwo.size(); ++length) {
         const VersionFile file = ReadVersionFile(kOldTwo.substr(0, length));
-        const bool isWholeVersions = length == kOldTwo.find("2026-11-23") || length == kOldTwo.find("2026-11-22");
-        EXPECT_EQ(file.IsDamaged, !isWholeVersions) << length;
+        EXPECT_EQ(file.IsDamaged, length != kOldTwo.find("2026-11-22")) << length;
         EXPECT_EQ(file.Versions.size(), length >= kOldTwo.find("2026-11-22") ? 1u : 0u) << length;
         EXPECT_FALSE(file.IsLostExact);
     }
@@ -199,16 +219,51 @@ TEST(VersionFile, TakesNoMoreThanItsBounds) {
     EXPECT_TRUE(ReadVersionFile(WriteVersionFile(large)).IsDamaged);
 }
 
+TEST(VersionFile, OneDamageCostsTenVersionsAtMost) {
+    const VersionFile whole = Fifty(Bindings(100));
+    const Text good = WriteVersionFile(whole);
+    for (std::size_t version = 1; version <= 50; ++version) {
+        for (const std::size_t into : {5U, 30U, 62U}) {  // the date, the sizes, the payload
+            Text bad = good;
+            const std::size_t at = LineOf(good, version) + into;
+            bad[at] = static_cast<char>(bad[at] ^ 1);
+            const VersionFile file = ReadVersionFile(bad);
+            EXPECT_TRUE(file.IsDamaged) << version;
+            EXPECT_TRUE(file.IsLostExact) << version;
+            EXPECT_GE(file.Lost, 1U) << version;
+            ASSERT_LE(file.Lost, 10U) << version;
+            ASSERT_EQ(file.Versions.size(), 50 - file.Lost) << version;
+            EXPECT_EQ(file.Versions.front().Text, whole.Versions[version == 1 ? 10 : 0].Text) << version;
+        }
+    }
+}
+
+TEST(VersionFile, ADamageOfTheNewestLeavesThoseThatNeedItNot) {
+    const VersionFile whole = Fifty(Bindings(100));
+    Text bytes = WriteVersionFile(whole);
+    bytes[LineOf(bytes, 1) + 80] = '#';
+    const std::vector<Text> all = TextsOf(whole);
+    EXPECT_EQ(TextsOf(ReadVersionFile(bytes)), (std::vector<Text>(all.begin() + 10, all.end())));
+}
+
+TEST(VersionFile, EveryTenthOfAScriptIsWholeUpToABound) {
+    const Text many(16U << 10U, '\n');
+    const std::pair<Text, std::size_t> scripts[] = {
+        {Bindings(100), 5}, {many.substr(9), 5}, {many, 1}, {Bindings(2000), 1}};
+    for (const auto& [text, expected] : scripts) {
+        const Text bytes = WriteVersionFile(Fifty(text));
+        std::size_t count = 0;
+        for (std::size_t at = bytes.find(" whole "); at != Text::npos; at = bytes.find(" whole ", at + 1)) {
+            ++count;
+        }
+        EXPECT_EQ(count, expected) << text.size();
+        EXPECT_LT(bytes.size(), text.size() + (64U << 10U) + 50 * 100) << text.size();
+    }
+}
+
 TEST(VersionFile, SmallChangesTakeLittleRoom) {
-    Text text;
-    for (int i = 0; i < 2000; ++i) {
-        text += Join("bind ", std::to_string(i), " \"impulse ", std::to_string(i), "\"\r\n");
-    }
-    VersionFile day = {"s", {}};
-    for (int i = 0; i < 50; ++i) {
-        day.Versions.push_back({kMorning, Join(text, "echo ", std::to_string(i), "\r\n")});
-    }
-    EXPECT_LT(WriteVersionFile(day).size(), text.size() + 50 * 100);
+    const Text text = Bindings(2000);
+    EXPECT_LT(WriteVersionFile(Fifty(text)).size(), text.size() + 50 * 100);
 }
 
 }  // namespace lv

@@ -190,6 +190,31 @@ TEST_F(SaveScriptTest, TellsOnceThatADamagedFileOfVersionsWasKeptAside) {
     EXPECT_EQ(system.Disk.Bytes(Join(versions, ".damaged")), "nothing");
 }
 
+TEST_F(SaveScriptTest, TellsOnceThatAnEmptyFileOfVersionsWasKeptAside) {
+    const Text versions = VersionFilePathOf(run, kPath);
+    system.Disk.AddFile(versions, "");
+    user.Expect({"Setup Foundry", KeptAsideText(Join(versions, ".damaged"))});
+    ExpectSuccess();
+    EXPECT_TRUE(Save());
+    ExpectSuccess();
+    EXPECT_TRUE(Save());
+}
+
+TEST_F(SaveScriptTest, AsksWhereTheFileOfVersionsCannotBeRead) {
+    const Text versions = VersionFilePathOf(run, kPath);
+    system.Disk.AddFile(versions, "nothing");
+    system.Disk.RefusedReads[LowerCase(versions)] = MakeError(error::kPermissionDenied);
+    user.Expect({"Setup Foundry",
+                 Join("What the file holds now could not be kept as a version, to be brought back later:\r\n\r\n"
+                      "Error Number = 70\r\nError String = Permission denied: ",
+                      versions),
+                 1, false, true, "&Save Anyway,&Cancel"});
+    ExpectNotSaved();
+    EXPECT_FALSE(Save());
+    EXPECT_TRUE(Save({SaveName::Same, true, false}));
+    EXPECT_FALSE(system.Disk.FileExists(Join(versions, ".damaged")));
+}
+
 TEST_F(SaveScriptTest, WithoutAVersionGoesOnOnlyIfTheUserWantsIt) {
     system.Disk.Refused[LowerCase(VersionFilePathOf(run, kPath))] = MakeError(error::kDiskFull);
     for (const int answer : {1, 0}) {
