@@ -109,6 +109,7 @@ void Changes_Losses_Lst_Click(Changes_Frm& form) {
     if (!form.Losses_Lst.HasSelection()) {
         return;
     }
+    form.Loss_Txt.Text = form.Losses_Lst.Selected();
     const ScriptDifference& about = form.Losses[static_cast<std::size_t>(form.Losses_Lst.ListIndex)].Difference;
     const std::vector<DifferenceRow>& rows = form.Difference_Lst.Rows();
     const auto row = std::ranges::find_if(rows, [&](const DifferenceRow& each) {

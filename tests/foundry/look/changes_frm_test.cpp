@@ -102,6 +102,16 @@ TEST_F(ChangesForm, SaysWhichEditsComeToNothing) {
               "there.");
 }
 
+TEST_F(ChangesForm, ShowsTheSelectedRowWhole) {
+    Changes_Frm form(run, Report(), texts, ChangesTime::Saving);
+    EXPECT_EQ(form.Loss_Txt.Text, "The key ESCAPE loses \"togglemenu\". Setup Foundry has no key ESCAPE.");
+    form.Losses_Lst.ListIndex = 1;
+    Changes_Losses_Lst_Click(form);
+    EXPECT_EQ(form.Loss_Txt.Text, "The key Y loses \"+jump\". You have changed that.");
+    const Changes_Frm none(run, {}, {"a\n", "a\n"}, ChangesTime::Looking);
+    EXPECT_EQ(none.Loss_Txt.Text, "");
+}
+
 TEST_F(ChangesForm, KeepsByDefaultAndCanSaveOrCancel) {
     const Changes_Frm form(run, Report(), texts, ChangesTime::Saving);
     EXPECT_TRUE(form.Keep_Cmd.Default);
