@@ -17,6 +17,7 @@
 #include "foundry/look/script_check_frm.h"
 #include "foundry/look/versions_frm.h"
 #include "foundry/losses/keep_plan.h"
+#include "foundry/losses/overridden_edits.h"
 #include "foundry/reading/open_script.h"
 #include "foundry/reading/scratch_script.h"
 #include "foundry/writing/compose_script.h"
@@ -83,6 +84,8 @@ std::optional<SaveLook> LookAtSave(Fig_Frm& form) {
     look.Changed.InEditor = DifferingNames(ComposeScript(unedited, look.Date), look.Written, look.Its);
     look.Changed.OnDisk = RewrittenNames(known, look.File, look.Its);
     look.Report = ReportSave({look.File, look.Written}, look.Changed, document.Dialect, look.Its);
+    const OverriddenEdits overridden = FindOverriddenEdits(unedited, document, look.Date, look.Its);
+    TellOverriddenEdits(look.Report, overridden, look.Changed);
     const bool foreign =
         unedited.Foreign || ReadScratch(run, document.Dialect, document.CurrentScriptPath, look.File).Foreign;
     look.Loses = LosesSomething(look.Report, foreign ? ScriptHand::Foreign : ScriptHand::Own);
@@ -90,7 +93,11 @@ std::optional<SaveLook> LookAtSave(Fig_Frm& form) {
         const auto resave = [&](TextView script) {
             return ComposeScript(ReadScratch(run, document.Dialect, document.CurrentScriptPath, script), look.Date);
         };
-        look.Plan = PlanKeeping(document, look.File, look.Changed, resave, look.Date, look.Its);
+        ScriptDocument freed = document;
+        freed.Foreign = foreign;
+        freed.Sections = overridden.Sections;
+        look.Plan = PlanKeeping(freed, look.File, WithEdits(look.Changed, overridden), resave, look.Date, look.Its);
+        look.Plan.Keeps = look.Plan.Keeps || overridden.Drops;
         MarkWhatIsLeft(look.Report, look.Plan);
     }
     return look;

@@ -27,6 +27,7 @@ constexpr int kWidth = 860;  // of the lists, at 100 %
 constexpr int kRowsHeight = 300;
 constexpr int kListHeight = 120;
 constexpr int kLossesHeight = 150;  // half of the rows below them, however high the window is
+constexpr int kLossLines = 3;
 
 wxFont FixedWidth(const wxWindow& window) {
     return wxFontInfo(window.GetFont().GetPointSize()).Family(wxFONTFAMILY_TELETYPE);
@@ -60,6 +61,17 @@ class LookForm : public ModalForm {
             return false;
         });
         AddShared(view, kRowsHeight);
+    }
+
+    /// A text of several lines that is broken at its words, and can be scrolled and copied.
+    void AddReading(const char* name, TextBox& model, TextView spoken, int lines) {
+        auto* text = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                    wxTE_MULTILINE | wxTE_READONLY | wxTE_BESTWRAP);
+        text->SetMinSize(wxSize(-1, text->GetSizeFromTextSize(-1, text->GetCharHeight() * lines).y + kGap));
+        text->SetBackgroundColour(GetBackgroundColour());
+        Controls.Bind(name, model, text, [] {});
+        SetSpokenName(text->GetHandle(), ToUtf8(spoken));
+        AddWide(text);
     }
 
     void AddButtons(std::initializer_list<wxButton*> buttons) {
@@ -154,6 +166,7 @@ std::unique_ptr<wxDialog> MakeChanges(wxWindow* owner, Changes_Frm& changes) {
     form->AddList(
         "Losses_Lst", changes.Losses_Lst, "What the save changes for the game",
         [&changes] { Changes_Losses_Lst_Click(changes); }, kLossesHeight);
+    form->AddReading("Loss_Txt", changes.Loss_Txt, "The selected row", kLossLines);
     form->AddWide(form->MakeLabel(form.get(), "Difference_Lbl", changes.Difference_Lbl));
     form->AddDifference("Difference_Lst", changes.Difference_Lst, "The file and what is saved");
     form->AddButtons(

@@ -23,6 +23,10 @@ Text KeptText(std::size_t changed, std::size_t kept, bool keeps) {
                            : Join("'Keep These' saves ", std::to_string(kept), " of them too:");
 }
 
+Text VainText(std::size_t vain) {
+    return Join(std::to_string(vain), " of your changes ", vain == 1 ? "comes" : "come", " to nothing");
+}
+
 Text Heading(const SaveReport& report, const std::vector<SaveLoss>& losses) {
     if (!report.TooLong.empty()) {
         return report.TooLong;
@@ -31,14 +35,20 @@ Text Heading(const SaveReport& report, const std::vector<SaveLoss>& losses) {
         return "The file says nothing to the game yet. For the game this save adds:";
     }
     std::size_t changed = 0;
+    std::size_t vain = 0;
     std::size_t kept = 0;
     for (const SaveLoss& each : losses) {
-        changed += each.ByUser ? 0 : 1;
+        changed += each.ByUser || each.IsOverridden ? 0 : 1;
+        vain += each.IsOverridden ? 1 : 0;
         kept += each.ByUser || !each.CanKeep ? 0 : 1;
     }
     if (changed > 0) {
         return Join("For the game this save loses or changes ", CountText(changed, "thing", "things"),
-                    " that you have not changed yourself. ", KeptText(changed, kept, report.Keeps));
+                    " that you have not changed yourself", vain > 0 ? Join(", and ", VainText(vain)) : Text(), ". ",
+                    KeptText(changed + vain, kept, report.Keeps));
+    }
+    if (vain > 0) {
+        return Join("For the game ", VainText(vain), ". ", KeptText(vain, kept, report.Keeps));
     }
     return losses.empty() ? "For the game this save changes nothing."
                           : "For the game this save changes nothing but what you have changed yourself:";
@@ -56,7 +66,11 @@ Text LossText(const SaveLoss& loss) {
     if (loss.ByUser) {
         return Join(loss.Words, " You have changed that.");
     }
-    const bool cannotKeep = !loss.CanKeep && loss.Difference.Kind != DifferenceKind::Added;
+    if (loss.IsOverridden) {
+        return Join(loss.Words, Blank, loss.Reason,
+                    loss.CanKeep ? " 'Keep These' takes it out." : " Change or delete it there.");
+    }
+    const bool cannotKeep = !loss.CanKeep && !loss.IsOfEmptyField && loss.Difference.Kind != DifferenceKind::Added;
     return Join(loss.Words, loss.Reason.empty() ? "" : " ", loss.Reason, cannotKeep ? " It cannot be kept." : "");
 }
 
@@ -77,7 +91,8 @@ Changes_Frm::Changes_Frm(Run& owner, const SaveReport& report, const SaveTexts& 
     NextChange_Cmd.ToolTip = "Go on to the next lines that differ";
     NextChange_Cmd.Enabled = Difference_Lst.Changes() > 0;
     Keep_Cmd.Caption = "&Keep These";
-    Keep_Cmd.ToolTip = "Put what would be lost into the Free Form Additions, which are saved to the letter";
+    Keep_Cmd.ToolTip = "Put what would be lost into the Free Form Additions, which are saved to the letter, and take out of "
+                       "them what undoes a change of yours";
     Keep_Cmd.Enabled = report.Keeps;
     Keep_Cmd.Default = Keep_Cmd.Enabled;
     Save_Cmd.Caption = "&Save Anyway";
@@ -94,6 +109,7 @@ void Changes_Losses_Lst_Click(Changes_Frm& form) {
     if (!form.Losses_Lst.HasSelection()) {
         return;
     }
+    form.Loss_Txt.Text = form.Losses_Lst.Selected();
     const ScriptDifference& about = form.Losses[static_cast<std::size_t>(form.Losses_Lst.ListIndex)].Difference;
     const std::vector<DifferenceRow>& rows = form.Difference_Lst.Rows();
     const auto row = std::ranges::find_if(rows, [&](const DifferenceRow& each) {

@@ -25,6 +25,7 @@ struct Changes_Frm : ModalWindow {
 
     Label Losses_Lbl;
     ListBox Losses_Lst;
+    TextBox Loss_Txt;  // the selected row whole; nobody types into it
     Label Difference_Lbl;
     DifferenceList Difference_Lst;
     CommandButton NextChange_Cmd;
@@ -36,7 +37,7 @@ struct Changes_Frm : ModalWindow {
     ChangesAnswer Answer = ChangesAnswer::Leave;
 };
 
-/// Selects the row of the texts that the loss is about.
+/// Shows the selected row whole, and selects the row of the texts that it is about.
 void Changes_Losses_Lst_Click(Changes_Frm& form);
 void Changes_NextChange_Cmd_Click(Changes_Frm& form);
 void Changes_Keep_Cmd_Click(Changes_Frm& form);

@@ -180,6 +180,7 @@ class Planning {
              const LocalTime& date, Console console)
         : document_(document),
           file_(file),
+          fileEffects_(EffectsOf(file, console)),
           changed_(changed),
           resave_(resave),
           date_(date),
@@ -204,13 +205,25 @@ class Planning {
   private:
     SaveReport Losses() {
         written_ = ComposeScript(document_, date_);
-        return ReportSave({file_, written_}, changed_, document_.Dialect, console_);
+        SaveReport report = ReportSave({file_, written_}, changed_, document_.Dialect, console_);
+        std::erase_if(report.Losses,
+                      [this](const SaveLoss& loss) { return loss.IsOfEmptyField && !document_.Foreign; });
+        return report;
     }
 
     SaveReport NextLosses() {
         written_ = ComposeScript(document_, date_);
         next_ = resave_(written_);
-        return ReportSave({written_, next_}, {changed_.InEditor, {}}, document_.Dialect, console_);
+        SaveReport report = ReportSave({written_, next_}, {changed_.InEditor, {}}, document_.Dialect, console_);
+        std::erase_if(report.Losses, [this](const SaveLoss& loss) {
+            return loss.IsOfEmptyField && !IsWish(loss.Difference.Identity);
+        });
+        return report;
+    }
+
+    /// Whether somebody has set it in the file. In one of its own the editor did, and gave it what it was given.
+    [[nodiscard]] bool IsWish(const Text& setting) const {
+        return document_.Foreign && fileEffects_.Settings.Find(setting) != nullptr;
     }
 
     // A kept line may override others, "unbindall" all bindings: those are kept in the next round.
@@ -226,6 +239,7 @@ class Planning {
 
     ScriptDocument document_;
     TextView file_;
+    ScriptEffects fileEffects_;
     const ChangedNames& changed_;
     const Resaving& resave_;
     LocalTime date_;
@@ -252,7 +266,9 @@ KeepPlan PlanKeeping(const ScriptDocument& document, TextView file, const Change
 void MarkWhatIsLeft(SaveReport& report, const KeepPlan& plan) {
     report.Keeps = plan.Keeps;
     for (SaveLoss& loss : report.Losses) {
-        loss.CanKeep = !loss.ByUser && !plan.Left.contains({loss.Difference.What, loss.Difference.Identity});
+        if (!loss.IsOverridden) {
+            loss.CanKeep = !loss.ByUser && !plan.Left.contains({loss.Difference.What, loss.Difference.Identity});
+        }
     }
 }
 

@@ -141,6 +141,15 @@ bool LossReasons::IsAlwaysWritten(const ScriptDifference& difference) const {
     }
 }
 
+bool LossReasons::IsOfEmptyField(const ScriptDifference& difference) const {
+    const Effect& before = difference.Before;
+    if (difference.What != EffectKind::Setting || before.Line == 0 || before.Line > lines_.size()) {
+        return false;
+    }
+    const Effect* const empty = always_.Settings.Find(difference.Identity);
+    return empty != nullptr && TrimmedView(lines_[before.Line - 1], kScriptBlanks) == empty->Source;
+}
+
 /// Why the key gets what the script gives to another one. Empty if it does not.
 Text LossReasons::ReasonOfOtherKey(const ScriptDifference& difference) const {
     const bool isKey = difference.What == EffectKind::Bind && fileEffects_.Of != Console::Unreal;

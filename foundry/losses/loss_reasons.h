@@ -27,6 +27,9 @@ class LossReasons {
     /// A sentence; a general one where no rule is known to be the reason.
     [[nodiscard]] Text ReasonOf(const ScriptDifference& difference) const;
 
+    /// Whether the file has the very line of a setting that a document with nothing in it is written with.
+    [[nodiscard]] bool IsOfEmptyField(const ScriptDifference& difference) const;
+
   private:
     void ReadCutCommands();
     [[nodiscard]] const KeyBindLine* LastBindOf(const ScriptDifference& difference) const;

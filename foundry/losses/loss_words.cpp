@@ -70,7 +70,24 @@ Text ActionWords(const ScriptDifference& difference) {
     }
 }
 
+/// "the page says "+jump"", or that there is nothing of it.
+Text PageWords(const ScriptDifference& difference) {
+    if (difference.Before.IsSet && difference.Before.Line > 0) {
+        return Join("the page says ", Quoted(difference.Before.Value));
+    }
+    return difference.What == EffectKind::Setting
+               ? Text("the page does not set it")
+               : Join("on the page it is ", NothingOf(difference.What));
+}
+
 }  // namespace
+
+Text OverriddenWordsOf(const ScriptDifference& difference) {
+    const bool isSet = difference.After.IsSet && difference.After.Line > 0;
+    const Text keeps = isSet ? Join(" keeps ", Quoted(difference.After.Value))
+                             : Join(" stays ", NothingOf(difference.What));
+    return Join(NameOfKind(difference.What), difference.Name, keeps, ", and ", PageWords(difference), ".");
+}
 
 Text WordsOf(const ScriptDifference& difference) {
     if (IsOfAll(difference)) {

@@ -81,6 +81,7 @@ SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const
         const bool isOnDisk = changed.OnDisk.contains(name);
         loss.ByUser = !isOnDisk && changed.InEditor.contains(name);
         loss.Words = WordsOf(difference);
+        loss.IsOfEmptyField = !isOnDisk && reasons.IsOfEmptyField(difference);
         loss.Reason = loss.ByUser ? Text("You have changed it.")
                       : isOnDisk  ? Text("The file was changed after Setup Foundry had read it.")
                                   : reasons.ReasonOf(difference);
@@ -94,7 +95,8 @@ SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const
 
 bool LosesSomething(const SaveReport& report, ScriptHand hand) {
     return !report.IsOfNothing && std::ranges::any_of(report.Losses, [hand](const SaveLoss& loss) {
-        return !loss.ByUser && (hand == ScriptHand::Foreign || loss.Difference.Kind != DifferenceKind::Added);
+        const bool isOfEditor = loss.Difference.Kind == DifferenceKind::Added || loss.IsOfEmptyField;
+        return !loss.ByUser && (hand == ScriptHand::Foreign || loss.IsOverridden || !isOfEditor);
     });
 }
 

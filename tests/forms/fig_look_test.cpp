@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <wx/listbox.h>
 #include <wx/listctrl.h>
+#include <wx/textctrl.h>
 
 #include <numeric>
 
@@ -109,6 +110,37 @@ TEST_F(FigLooks, ARowOfTheListLeadsToItsLine) {
                         PressKey(WXK_ESCAPE);
                     });
         EXPECT_TRUE(form->Model().Document.ScriptClean);
+    });
+}
+
+TEST_F(FigLooks, TheSelectedRowStandsWholeBelowTheList) {
+    Use(kGames[0], "bind x slot2\nbind ESCAPE \"say this one is so long that no window of any width has it in one "
+                   "line, and so are its words, and what follows is why nobody can keep it in any place\"\n");
+    Edit([&] {
+        Turn(EditorPage::SaveAndExit);
+        DoAndAnswer([] { ClickOn(Find("ShowChanges_Cmd")); },
+                    [&] {
+                        auto* losses = FindAs<wxListBox>("Losses_Lst");
+                        auto* row = FindAs<wxTextCtrl>("Loss_Txt");
+                        ASSERT_NE(row, nullptr);
+                        EXPECT_FALSE(row->IsEditable());
+                        for (int i = 0; i < 2; ++i) {
+                            losses->SetFocus();
+                            PressKey(i == 0 ? WXK_HOME : WXK_DOWN);
+                            Settle();
+                            EXPECT_EQ(row->GetValue(), losses->GetString(static_cast<unsigned>(losses->GetSelection())));
+                            EXPECT_GE(row->GetSize().x, losses->GetSize().x - 2);
+                        }
+                        const wxString longest = losses->GetString(1);
+                        EXPECT_THAT(FromWx(longest), HasSubstr("Setup Foundry has no key ESCAPE."));
+                        EXPECT_GT(row->GetTextExtent(longest).x, row->GetSize().x) << "goes over several lines";
+                        wxPoint end = row->PositionToCoords(static_cast<long>(longest.size()));
+                        EXPECT_GT(end.y, 0);
+                        EXPECT_LT(end.y + row->GetCharHeight(), row->GetClientSize().y + 2) << "all of it is in sight";
+                        EXPECT_LT(end.x, row->GetClientSize().x);
+                        Screenshot("foundry_changes_row");
+                        PressKey(WXK_ESCAPE);
+                    });
     });
 }
 

@@ -246,6 +246,47 @@ TEST_F(SaveLooks, WhatTheUserChangesIsNoLoss) {
     EXPECT_EQ(Saves(), 2);
 }
 
+TEST_F(SaveLooks, AnEditThatAKeptLineSetsBackIsShownAndGetsTheLastWord) {
+    OpenForeign("name Me\r\nbind x slot2\r\n");
+    AnswerLook(Changes_Keep_Cmd_Click);
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    ASSERT_TRUE(IsWritten("; bind x slot2"));
+    ASSERT_TRUE(OpenScript(run, form.Document, form, kEditedScript));
+    Bind(form.Document, KeyFromName("x"), "+jump");
+    Edited(form);
+    user.In<Changes_Frm>([](Changes_Frm& changes) {
+        ASSERT_EQ(changes.Losses_Lst.Items.size(), 1u);
+        EXPECT_EQ(changes.Losses_Lbl.Caption, "For the game 1 of your changes comes to nothing. 'Keep These' saves it too:");
+        EXPECT_EQ(changes.Losses_Lst.Items[0],
+                  "The key x keeps \"slot2\", and the page says \"+jump\". The line ; bind x slot2 of the Free Form "
+                  "Additions runs behind those of the pages. 'Keep These' takes it out.");
+        Changes_Keep_Cmd_Click(changes);
+    });
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    EXPECT_FALSE(Holds(system.Disk.Bytes(kEditedScript), "slot2"));
+    EXPECT_TRUE(IsWritten("bind \"x\"             \"+jump\""));
+    Change();
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);  // nobody is asked again
+    EXPECT_EQ(Saves(), 3);
+}
+
+TEST_F(SaveLooks, ANameThatIsTypedOnceAScriptWithoutOneWasKeptIsTheGamesName) {
+    OpenForeign("bind h say hello all\r\nbind x slot2\r\nunbind z\r\n");
+    AnswerLook(Changes_Keep_Cmd_Click);
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    EXPECT_FALSE(Holds(system.Disk.Bytes(kEditedScript), "; name"));
+    ASSERT_TRUE(OpenScript(run, form.Document, form, kEditedScript));
+    form.Document.Name_Txt.Text = "Bobby";
+    Edited(form);
+    ExpectSuccess();
+    View_Cmd_Click(form, 6);
+    EXPECT_EQ(EffectsOf(system.Disk.Bytes(kEditedScript), Console::Quake).Settings.Find("name")->Value, "Bobby");
+}
+
 TEST_F(SaveLooks, ACancelledSaveNeitherClosesNorLosesTheEdits) {
     OpenForeign();
     Change();

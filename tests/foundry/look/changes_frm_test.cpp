@@ -82,6 +82,36 @@ TEST_F(ChangesForm, SaysWhatCannotBeKept) {
     EXPECT_EQ(none.Focus, "Close_Cmd");
 }
 
+TEST_F(ChangesForm, SaysWhichEditsComeToNothing) {
+    SaveReport report = Report();
+    SaveLoss vain = Loss(0, "The key n keeps \"slot2\", and the page says \"+jump\".", "The line x runs behind.");
+    vain.IsOverridden = true;
+    report.Losses.insert(report.Losses.begin(), vain);
+    const Changes_Frm form(run, report, texts, ChangesTime::Saving);
+    EXPECT_EQ(form.Losses_Lbl.Caption,
+              "For the game this save loses or changes 1 thing that you have not changed yourself, and 1 of your changes "
+              "comes to nothing. 'Keep These' saves them too:");
+    EXPECT_EQ(form.Losses_Lst.Items[0],
+              "The key n keeps \"slot2\", and the page says \"+jump\". The line x runs behind. 'Keep These' takes it "
+              "out.");
+    vain.CanKeep = false;
+    const Changes_Frm alone(run, ReportOf({vain, vain}), texts, ChangesTime::Saving);
+    EXPECT_EQ(alone.Losses_Lbl.Caption, "For the game 2 of your changes come to nothing. They cannot be kept:");
+    EXPECT_EQ(alone.Losses_Lst.Items[0],
+              "The key n keeps \"slot2\", and the page says \"+jump\". The line x runs behind. Change or delete it "
+              "there.");
+}
+
+TEST_F(ChangesForm, ShowsTheSelectedRowWhole) {
+    Changes_Frm form(run, Report(), texts, ChangesTime::Saving);
+    EXPECT_EQ(form.Loss_Txt.Text, "The key ESCAPE loses \"togglemenu\". Setup Foundry has no key ESCAPE.");
+    form.Losses_Lst.ListIndex = 1;
+    Changes_Losses_Lst_Click(form);
+    EXPECT_EQ(form.Loss_Txt.Text, "The key Y loses \"+jump\". You have changed that.");
+    const Changes_Frm none(run, {}, {"a\n", "a\n"}, ChangesTime::Looking);
+    EXPECT_EQ(none.Loss_Txt.Text, "");
+}
+
 TEST_F(ChangesForm, KeepsByDefaultAndCanSaveOrCancel) {
     const Changes_Frm form(run, Report(), texts, ChangesTime::Saving);
     EXPECT_TRUE(form.Keep_Cmd.Default);

@@ -53,4 +53,22 @@ TEST(LossWords, SayWhatBecomesOfOtherCommands) {
               "way round.");
 }
 
+TEST(OverriddenWordsOf, SayWhatTheGameHasAndWhatThePageSays) {
+    const auto words = [](EffectKind kind, TextView before, TextView after) {
+        ScriptDifference difference;
+        difference.What = kind;
+        difference.Name = "x";
+        difference.Before.Value = before;
+        difference.Before.Line = before.empty() ? 0 : 1;
+        difference.After.Value = after;
+        difference.After.Line = after.empty() ? 0 : 9;
+        return OverriddenWordsOf(difference);
+    };
+    EXPECT_EQ(words(EffectKind::Bind, "a", "b"), "The key x keeps \"b\", and the page says \"a\".");
+    EXPECT_EQ(words(EffectKind::Bind, "", "b"), "The key x keeps \"b\", and on the page it is free.");
+    EXPECT_EQ(words(EffectKind::Bind, "a", ""), "The key x stays free, and the page says \"a\".");
+    EXPECT_EQ(words(EffectKind::Alias, "", "b"), "The alias x keeps \"b\", and on the page it is removed.");
+    EXPECT_EQ(words(EffectKind::Setting, "", "b"), "The setting x keeps \"b\", and the page does not set it.");
+}
+
 }  // namespace lv

@@ -213,6 +213,16 @@ TEST(ReportSave, ListsWhatAConsoleTakesOtherwiseThanTheEditor) {
     }
 }
 
+TEST(ReportSave, DoesNotAskForWhatTheEditorItselfHasWrittenForAnEmptyField) {
+    const SaveReport own = ReportOf(kQuakeDialect, WrittenOf(kQuakeDialect, "bind a \"+attack\""));
+    EXPECT_EQ(LossesOf(own), "The setting name gets \"player\" and was \"\". (Setup Foundry reads no empty value.)");
+    EXPECT_FALSE(LosesSomething(own, ScriptHand::Own));
+    EXPECT_TRUE(LosesSomething(ReportOf(kQuakeDialect, "name \"\"\nbind a \"+attack\""), ScriptHand::Foreign));
+    EXPECT_TRUE(LosesSomething(ReportOf(kQuakeDialect, Join(WrittenOf(kQuakeDialect, "name P\nbind ESCAPE q"),
+                                                            "\r\nbind ESCAPE q")),
+                               ScriptHand::Own));
+}
+
 TEST(ReportSave, DoesNotSpeakOfItsOwnBanners) {
     for (const SaveLoss& loss : ReportOf(kQuakeDialect, "echo |==setup foundry").Losses) {
         EXPECT_EQ(loss.Words.find("echo"), Text::npos) << loss.Words;

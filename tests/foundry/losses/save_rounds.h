@@ -61,13 +61,18 @@ inline Text KeptFreeForm(const ScriptDialect& dialect, TextView file, Console co
     return PlanOf(dialect, ReadScript(dialect, file), file, {}, console).Sections.at(0).Text;
 }
 
-/// All that opening and saving it changes for the game, of what kind ever, one a line.
-inline Text AllChangesOf(const ScriptDialect& dialect, TextView file, Console console) {
+/// "words (reason)", one a line, of what kind ever.
+inline Text ChangesOf(const SaveReport& report) {
     Text all;
-    for (const SaveLoss& loss : ReportOf(dialect, file, console).Losses) {
+    for (const SaveLoss& loss : report.Losses) {
         all += Join(all.empty() ? "" : "\n", loss.Words, " (", loss.Reason, ")");
     }
     return all;
+}
+
+/// All that opening and saving it changes for the game.
+inline Text AllChangesOf(const ScriptDialect& dialect, TextView file, Console console) {
+    return ChangesOf(ReportOf(dialect, file, console));
 }
 
 }  // namespace lv
