@@ -218,9 +218,9 @@ TEST(ReportSave, DoesNotAskForWhatTheEditorItselfHasWrittenForAnEmptyField) {
     EXPECT_EQ(LossesOf(own), "The setting name gets \"player\" and was \"\". (Setup Foundry reads no empty value.)");
     EXPECT_FALSE(LosesSomething(own, ScriptHand::Own));
     EXPECT_TRUE(LosesSomething(ReportOf(kQuakeDialect, "name \"\"\nbind a \"+attack\""), ScriptHand::Foreign));
-    EXPECT_TRUE(LosesSomething(ReportOf(kQuakeDialect, Join(WrittenOf(kQuakeDialect, "name P\nbind ESCAPE q"),
-                                                            "\r\nbind ESCAPE q")),
-                               ScriptHand::Own));
+    EXPECT_TRUE(LosesSomething(
+        ReportOf(kQuakeDialect, Join(WrittenOf(kQuakeDialect, "name P\nbind ESCAPE q"), "\r\nbind ESCAPE q")),
+        ScriptHand::Own));
 }
 
 TEST(ReportSave, DoesNotSpeakOfItsOwnBanners) {
