@@ -155,10 +155,9 @@ TEST(PlanKeeping, PutsNoLineThatNobodyWrote) {
     };
     constexpr const char* kOfOld = "; bind x slot2\r\nunbind z";
     constexpr const char* kOfNew = "; bind h say hello all\r\n; bind x slot2\r\nunbind z";
-    for (const Row& row :
-         {Row{kQuakeDialect, kOfOld}, Row{kQuakeWorldDialect, kOfOld}, Row{kHexen2Dialect, kOfOld},
-          Row{kQuake2Dialect, kOfNew}, Row{kSinDialect, kOfNew}, Row{kHeretic2Dialect, kOfNew},
-          Row{kHalfLifeDialect, "; bind h say hello all\r\nunbind z"}}) {
+    for (const Row& row : {Row{kQuakeDialect, kOfOld}, Row{kQuakeWorldDialect, kOfOld}, Row{kHexen2Dialect, kOfOld},
+                           Row{kQuake2Dialect, kOfNew}, Row{kSinDialect, kOfNew}, Row{kHeretic2Dialect, kOfNew},
+                           Row{kHalfLifeDialect, "; bind h say hello all\r\nunbind z"}}) {
         EXPECT_EQ(FreeFormOf(row.Dialect, "bind h say hello all\nbind x slot2\nunbind z"), row.FreeForm)
             << RulesOf(ConsoleOfDialect(row.Dialect)).Name;
     }

@@ -42,37 +42,32 @@ Text LineWords(TextView line) {
 }  // namespace
 
 TEST(OverriddenEdits, AreThoseThatAKeptLineSetsBack) {
-    const OverriddenEdits edits = EditsOf(kQuakeDialect,
-                                          "name P\necho a\n; bind n \"slot2\"\necho b\n; name \"x\"\n; bind m slot1",
-                                          [](ScriptDocument& document) {
-                                              BindN(document);
-                                              document.Name_Txt.Text = "Bobby";
-                                          });
-    EXPECT_EQ(RowsOf(edits), Join("+The key n keeps \"slot2\", and the page says \"+jump\".",
-                                  LineWords("; bind n \"slot2\""),
-                                  "\n+The setting name keeps \"x\", and the page says \"Bobby\".",
-                                  LineWords("; name \"x\"")));
+    const OverriddenEdits edits =
+        EditsOf(kQuakeDialect, "name P\necho a\n; bind n \"slot2\"\necho b\n; name \"x\"\n; bind m slot1",
+                [](ScriptDocument& document) {
+                    BindN(document);
+                    document.Name_Txt.Text = "Bobby";
+                });
+    EXPECT_EQ(RowsOf(edits),
+              Join("+The key n keeps \"slot2\", and the page says \"+jump\".", LineWords("; bind n \"slot2\""),
+                   "\n+The setting name keeps \"x\", and the page says \"Bobby\".", LineWords("; name \"x\"")));
     EXPECT_EQ(edits.Sections.at(0).Text, "echo a\r\necho b\r\n; bind m slot1");
     EXPECT_TRUE(edits.Drops);
 }
 
 TEST(OverriddenEdits, AreNoneWhereThePagesAreAsTheyWere) {
-    const OverriddenEdits edits =
-        EditsOf(kQuakeDialect, "name P\nbind n \"+back\"\n; bind n \"slot2\"", [](ScriptDocument& document) {
-            Bind(document, KeyFromName("m"), "+jump");
-        });
+    const OverriddenEdits edits = EditsOf(kQuakeDialect, "name P\nbind n \"+back\"\n; bind n \"slot2\"",
+                                          [](ScriptDocument& document) { Bind(document, KeyFromName("m"), "+jump"); });
     EXPECT_EQ(RowsOf(edits), "");
     EXPECT_FALSE(edits.Drops);
     EXPECT_EQ(edits.Sections.at(0).Text, "; bind n \"slot2\"");
 }
 
 TEST(OverriddenEdits, OfAKeyThatIsFreedOnThePage) {
-    const OverriddenEdits edits =
-        EditsOf(kQuakeDialect, "name P\nbind n \"+back\"\n; bind n \"slot2\"", [](ScriptDocument& document) {
-            Bind(document, KeyFromName("n"), "");
-        });
-    EXPECT_EQ(RowsOf(edits), Join("+The key n keeps \"slot2\", and on the page it is free.",
-                                  LineWords("; bind n \"slot2\"")));
+    const OverriddenEdits edits = EditsOf(kQuakeDialect, "name P\nbind n \"+back\"\n; bind n \"slot2\"",
+                                          [](ScriptDocument& document) { Bind(document, KeyFromName("n"), ""); });
+    EXPECT_EQ(RowsOf(edits),
+              Join("+The key n keeps \"slot2\", and on the page it is free.", LineWords("; bind n \"slot2\"")));
 }
 
 TEST(OverriddenEdits, LeaveALineOfThePlayersOwn) {
@@ -86,8 +81,7 @@ TEST(OverriddenEdits, LeaveALineOfThePlayersOwn) {
 }
 
 TEST(OverriddenEdits, DropOneLineBehindTheOther) {
-    const OverriddenEdits edits =
-        EditsOf(kQuakeDialect, "name P\n; bind n slot1\n; bind n slot2", BindN);
+    const OverriddenEdits edits = EditsOf(kQuakeDialect, "name P\n; bind n slot1\n; bind n slot2", BindN);
     EXPECT_EQ(edits.Losses.size(), 1u);
     EXPECT_TRUE(edits.Losses.at(0).CanKeep);
     EXPECT_EQ(edits.Sections.at(0).Text, "");
