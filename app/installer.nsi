@@ -57,7 +57,7 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
             ${ExitDo}
         ${EndIf}
         MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION \
-            "Lorvane 3D is running, or its program file cannot be written. Close it and try again." \
+            "Lorvane 3D is running, or its program file cannot be written. End it by File, Exit (F12), from its icon in the tray too, and try again." \
             /SD IDCANCEL IDRETRY again
         SetErrorLevel 2
         Abort "Lorvane 3D is running; nothing was changed."

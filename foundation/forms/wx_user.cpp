@@ -2,6 +2,7 @@
 
 #include <wx/app.h>
 #include <wx/dcmemory.h>
+#include <wx/dialog.h>
 #include <wx/display.h>
 #include <wx/evtloop.h>
 #include <wx/filedlg.h>
@@ -45,6 +46,18 @@ constexpr double kSameScale = 0.01;
 // screen.
 double ScaleOf(const wxWindow* window) {
     return static_cast<double>(wxWindow::FromDIP(kLongInDip, window)) / kLongInDip;
+}
+
+/// Below it the others are disabled: raised themselves they would only take the keyboard from it.
+wxTopLevelWindow* DialogOnTop() {
+    wxTopLevelWindow* top = nullptr;
+    for (wxWindow* window : wxTopLevelWindows) {
+        auto* const dialog = dynamic_cast<wxDialog*>(window);
+        if (dialog != nullptr && dialog->IsModal() && dialog->IsShown()) {
+            top = dialog;
+        }
+    }
+    return top;
 }
 
 }  // namespace
@@ -288,7 +301,8 @@ void WxUser::RaiseMainWindow() {
     if (auto* window = dynamic_cast<wxTopLevelWindow*>(activeForm_)) {
         window->Iconize(false);
         window->Show();
-        window->Raise();
+        wxTopLevelWindow* const dialog = DialogOnTop();
+        (dialog != nullptr ? dialog : window)->Raise();
     }
 }
 

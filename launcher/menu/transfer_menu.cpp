@@ -83,20 +83,29 @@ class PlaceQuestions {
                 return answer == 0 ? here : std::nullopt;
             }
             here = Choose(place, *here);
+            if (!here) {
+                here = AskOnce(place, likely);
+            }
         }
         return std::nullopt;
     }
 
   private:
+    /// Who closes the directory window is asked anew.
     std::optional<Text> AskOnce(const MovedPlace& place, TextView likely) {
         const int offers = likely.empty() ? 0 : 1;
-        const int answer = AskUser(run_, kPlaces, Question(place, likely),
-                                   Join(likely.empty() ? "" : "&That's It,", "&Show Where,&Leave It,Leave &All"));
-        if (answer == 0 && offers == 1) {
-            return Text(likely);
+        while (true) {
+            const int answer = AskUser(run_, kPlaces, Question(place, likely),
+                                       Join(likely.empty() ? "" : "&That's It,", "&Show Where,&Leave It,Leave &All"));
+            if (answer == 0 && offers == 1) {
+                return Text(likely);
+            }
+            leavesAll_ = answer == offers + 2;
+            std::optional<Text> here = answer == offers ? Choose(place, likely) : std::nullopt;
+            if (answer != offers || here || run_.Ended) {
+                return here;
+            }
         }
-        leavesAll_ = answer == offers + 2;
-        return answer == offers ? Choose(place, likely) : std::nullopt;
     }
 
     std::optional<Text> Choose(const MovedPlace& place, TextView near) {

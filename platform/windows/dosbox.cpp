@@ -108,13 +108,14 @@ std::wstring FindDosBox() {
     return {};
 }
 
-Error StartInDosBox(Files& disk, const BatchGame& game) {
+Result<StartedProcess> StartInDosBox(Files& disk, const BatchGame& game) {
     const std::wstring dosbox = FindDosBox();
     if (dosbox.empty()) {
-        return {error::kFileNotFound,
-                "This is a DOS program, which Windows cannot start by itself any more: " + game.Game.Program.Path +
-                    ". Install DOSBox, DOSBox Staging or DOSBox-X, and start the game again; or pick a program of the "
-                    "game that is made for Windows."};
+        return Error{
+            error::kFileNotFound,
+            "This is a DOS program, which Windows cannot start by itself any more: " + game.Game.Program.Path +
+                ". Install DOSBox, DOSBox Staging or DOSBox-X, and start the game again; or pick a program of the "
+                "game that is made for Windows."};
     }
     const Result<std::string> text =
         DosBoxConfiguration(game, [&disk](std::string_view path) { return PlainPath(disk.ToHost(path)); });

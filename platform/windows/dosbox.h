@@ -9,6 +9,7 @@
 #include "platform/error.h"
 #include "platform/files.h"
 #include "platform/starting/batch_game.h"
+#include "platform/windows/started_process.h"
 
 namespace lv {
 
@@ -21,6 +22,6 @@ std::wstring FindDosBox();
 
 /// Starts the game in DOSBox, which is told of it by a file in the user's directory for temporary files. Error 53 with
 /// a text that says what to install if there is no DOSBox, and those of DosBoxConfiguration.
-Error StartInDosBox(Files& disk, const BatchGame& game);
+Result<StartedProcess> StartInDosBox(Files& disk, const BatchGame& game);
 
 }  // namespace lv

@@ -1,5 +1,6 @@
 #include "platform/windows/started_process.h"
 
+#include <algorithm>
 #include <cwchar>
 #include <map>
 
@@ -46,10 +47,34 @@ std::wstring BlockWith(const Variables& more) {
     return block + L'\0';
 }
 
+// Of 100 nanoseconds.
+double Ticks(const FILETIME& time) {
+    return static_cast<double>(static_cast<unsigned long long>(time.dwHighDateTime) << 32 | time.dwLowDateTime);
+}
+
 }  // namespace
 
-Error StartProcess(const std::wstring& program, std::wstring line, const std::wstring& directory, unsigned long flags,
-                   const Variables& environment) {
+std::optional<double> StartedProcess::Lasted() const {
+    constexpr double kTicksPerSecond = 1e7;
+    FILETIME began{};
+    FILETIME ended{};
+    FILETIME kernel{};
+    FILETIME user{};
+    if (process_ == nullptr || WaitForSingleObject(process_, 0) != WAIT_OBJECT_0) {
+        return std::nullopt;
+    }
+    const bool known = GetProcessTimes(process_, &began, &ended, &kernel, &user) != 0;
+    return known ? std::max(Ticks(ended) - Ticks(began), 0.0) / kTicksPerSecond : 0;
+}
+
+void StartedProcess::Forget() {
+    if (void* const process = std::exchange(process_, nullptr)) {
+        CloseHandle(process);
+    }
+}
+
+Result<StartedProcess> StartProcess(const std::wstring& program, std::wstring line, const std::wstring& directory,
+                                    unsigned long flags, const Variables& environment) {
     STARTUPINFOW how{};
     how.cb = sizeof how;
     how.dwFlags = STARTF_USESHOWWINDOW;
@@ -61,8 +86,7 @@ Error StartProcess(const std::wstring& program, std::wstring line, const std::ws
         return StartError(GetLastError(), FromWideLossy(program));
     }
     CloseHandle(started.hThread);
-    CloseHandle(started.hProcess);
-    return {};
+    return StartedProcess(started.hProcess);
 }
 
 Error StartError(unsigned long failed, const std::string& about) {

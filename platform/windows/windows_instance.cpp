@@ -32,10 +32,13 @@ void BringForward(HWND window) {
     if (IsIconic(window) != 0) {
         OpenIcon(window);
     }
-    ShowWindow(window, SW_SHOWNORMAL);
-    BringWindowToTop(window);
-    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    SetForegroundWindow(window);
+    // Under a dialog it is disabled, and would only take the keyboard from that.
+    const bool isFree = IsWindowEnabled(window) != 0;
+    ShowWindow(window, isFree ? SW_SHOWNORMAL : SW_SHOWNA);
+    const HWND front = isFree ? window : GetLastActivePopup(window);
+    BringWindowToTop(front);
+    SetWindowPos(front, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    SetForegroundWindow(front);
 }
 
 /// Of this user in this session: programs of others have pipes of their own.

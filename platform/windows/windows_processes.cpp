@@ -55,7 +55,7 @@ bool StartsByItself(Files& disk, const BatchGame& game) {
     return !game.Plan.showsEnvironment && KindOfProgramAt(disk, game.Game.Program.Path) == ProgramKind::kWindows;
 }
 
-Error StartWithoutBatch(Files& disk, const BatchGame& game) {
+Result<StartedProcess> StartWithoutBatch(Files& disk, const BatchGame& game) {
     std::vector<std::pair<std::wstring, std::wstring>> environment;
     for (const auto& [name, value] : game.Plan.environment) {
         environment.emplace_back(ToWide(name), ToWide(value));
@@ -69,7 +69,7 @@ Error StartWithoutBatch(Files& disk, const BatchGame& game) {
 // On a share the command processor stands only behind a letter, which pushd gives it and popd takes away; the path
 // comes as a variable, for within a line its "%" would be read. /s takes the outer quotes off, and those alone: what
 // stands in the inner ones is a name with whatever signs it has.
-Error StartBatchFile(const std::string& place, std::string_view name) {
+Result<StartedProcess> StartBatchFile(const std::string& place, std::string_view name) {
     const std::wstring system = SystemDirectory();
     const std::wstring processor = system + L"\\cmd.exe";
     const std::wstring codePage = L"\"" + system + L"\\chcp.com\" 1252 >nul & ";
@@ -124,17 +124,35 @@ Error WindowsProcesses::StartBatch(std::string_view directory, std::string_view 
     }
     if (game.Ok() && GoesToDosBox(disk_, game.Value.Game)) {
         const Error fault = CheckGiven(known.Given, LineReader::kDosShell);
-        return fault ? fault : StartInDosBox(disk_, game.Value);
+        return fault ? fault : Watch(StartInDosBox(disk_, game.Value));
     }
     const bool onAShare = place.starts_with("\\\\");
     if (game.Ok() && (onAShare || BeyondAscii(game.Value.BatchText)) && StartsByItself(disk_, game.Value)) {
-        const Error fault = StartWithoutBatch(disk_, game.Value);
+        const Error fault = Watch(StartWithoutBatch(disk_, game.Value));
         // What wants an administrator's rights is asked about by the command processor.
         if (!fault || onAShare) {
             return fault;
         }
     }
-    return StartBatchFile(place, name);
+    return Watch(StartBatchFile(place, name));
+}
+
+Error WindowsProcesses::Watch(Result<StartedProcess> started) {
+    if (started.Ok()) {
+        lastGame_ = std::move(started.Value);
+    }
+    return started.Fault;
+}
+
+// The command processor's code is not the game's, and what it hands over to may go on: there is nothing to tell of but
+// the time.
+std::optional<GameEnd> WindowsProcesses::EndOfLastGame() {
+    const std::optional<double> lasted = lastGame_.Lasted();
+    if (!lasted) {
+        return std::nullopt;
+    }
+    lastGame_.Forget();
+    return GameEnd{.Seconds = *lasted, .OthersRun = true};
 }
 
 Error WindowsProcesses::StartProgram(std::string_view program, const std::vector<std::string>& arguments) {

@@ -6,6 +6,7 @@
 
 #include "platform/files.h"
 #include "platform/processes.h"
+#include "platform/windows/started_process.h"
 
 namespace lv {
 
@@ -29,11 +30,19 @@ class WindowsProcesses : public Processes {
 
     bool HasRunnerFor(std::string_view program) override;
 
+    bool WatchesGame() override { return lastGame_.IsKnown(); }
+
+    /// How long the batch ran, and with it the game that it waited for.
+    std::optional<GameEnd> EndOfLastGame() override;
+
     /// "winhlp32.exe", wherever the system finds it.
     Error StartHelpViewer(std::string_view path) override;
 
   private:
+    Error Watch(Result<StartedProcess> started);
+
     Files& disk_;
+    StartedProcess lastGame_;
 };
 
 }  // namespace lv

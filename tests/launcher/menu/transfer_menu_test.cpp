@@ -187,11 +187,12 @@ TEST_F(TransferMenu, OffersTheNeighbourOfAPlaceThatIsKnown) {
     EXPECT_EQ(Stored("Options", "Executables"), "One;D:\\PLAY\\A\\QUAKE.EXE;Two;D:\\PLAY\\B\\QUAKE.EXE");
 }
 
-TEST_F(TransferMenu, LeavesAPlaceByAButtonOrByTheWindowsCancel) {
+TEST_F(TransferMenu, LeavesAPlaceByAButtonAndAsksAnewBehindTheWindowsCancel) {
     ChooseFile({{"Options", "Executables", "One;C:\\X\\A.EXE;Two;C:\\Y\\B.EXE;Here;C:\\QUAKE\\QUAKE.EXE"}});
     user.Expect({kPlaces, "C:\\X", 1});
     user.Expect({kPlaces, "C:\\Y", 0});
     user.In<Path_Frm>([](Path_Frm& form) { Path_Cancel_Cmd_Click(form); });
+    user.Expect({kPlaces, "C:\\Y", 1});
     user.Expect({"Import Settings", "Not here, and left as the file has them:\r\n\r\n\tC:\\X\r\n\tC:\\Y"});
     user.Expect({"Game Not Found...", "C:\\X\\A.EXE", 2});
     user.Expect({"Game Not Found...", "C:\\Y\\B.EXE", 2});

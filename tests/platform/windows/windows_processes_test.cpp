@@ -108,6 +108,27 @@ TEST(StartBatch, ReadsTheBatchInTheCodePageItIsWrittenIn) {
     EXPECT_THAT(After("LV_A=", lines), ElementsAre("caf\xC3\xA9 \xE2\x82\xAC"));
 }
 
+TEST(StartBatch, KnowsHowLongTheGameRan) {
+    Yard yard;
+    EXPECT_FALSE(yard.Programs.WatchesGame());
+    EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\lv_666.bat", "GAME.EXE -a\r\n").Number, 0);
+    EXPECT_EQ(yard.Programs.StartBatch("T:\\QUAKE", "lv_666.bat").Number, 0);
+    EXPECT_TRUE(yard.Programs.WatchesGame());
+    std::optional<GameEnd> end;
+    for (int look = 0; look < 600 && !end; ++look) {
+        Sleep(100);
+        end = yard.Programs.EndOfLastGame();
+    }
+    ASSERT_TRUE(end);
+    EXPECT_GE(end->Seconds, 0);
+    EXPECT_LT(end->Seconds, 60);
+    EXPECT_EQ(end->Code, 0);
+    EXPECT_TRUE(end->OthersRun) << "so that nobody takes it for a game that failed";
+    EXPECT_FALSE(yard.Programs.WatchesGame());
+    EXPECT_FALSE(yard.Programs.EndOfLastGame());
+    EXPECT_THAT(After("ARGUMENT=", Yard::Said()), ElementsAre("-a"));
+}
+
 TEST(StartBatch, TellsWhatIsNoProgram) {
     Yard yard;
     EXPECT_EQ(yard.Made.Disk.Replace("T:\\QUAKE\\lv_666.bat", "EMPTY.EXE\r\n").Number, 0);
