@@ -88,9 +88,10 @@ TEST_F(ChangesForm, SaysWhichEditsComeToNothing) {
     vain.IsOverridden = true;
     report.Losses.insert(report.Losses.begin(), vain);
     const Changes_Frm form(run, report, texts, ChangesTime::Saving);
-    EXPECT_EQ(form.Losses_Lbl.Caption,
-              "For the game this save loses or changes 1 thing that you have not changed yourself, and 1 of your changes "
-              "comes to nothing. 'Keep These' saves them too:");
+    EXPECT_EQ(
+        form.Losses_Lbl.Caption,
+        "For the game this save loses or changes 1 thing that you have not changed yourself, and 1 of your changes "
+        "comes to nothing. 'Keep These' saves them too:");
     EXPECT_EQ(form.Losses_Lst.Items[0],
               "The key n keeps \"slot2\", and the page says \"+jump\". The line x runs behind. 'Keep These' takes it "
               "out.");
