@@ -91,8 +91,9 @@ Changes_Frm::Changes_Frm(Run& owner, const SaveReport& report, const SaveTexts& 
     NextChange_Cmd.ToolTip = "Go on to the next lines that differ";
     NextChange_Cmd.Enabled = Difference_Lst.Changes() > 0;
     Keep_Cmd.Caption = "&Keep These";
-    Keep_Cmd.ToolTip = "Put what would be lost into the Free Form Additions, which are saved to the letter, and take out of "
-                       "them what undoes a change of yours";
+    Keep_Cmd.ToolTip =
+        "Put what would be lost into the Free Form Additions, which are saved to the letter, and take out of "
+        "them what undoes a change of yours";
     Keep_Cmd.Enabled = report.Keeps;
     Keep_Cmd.Default = Keep_Cmd.Enabled;
     Save_Cmd.Caption = "&Save Anyway";

@@ -75,17 +75,16 @@ Text PageWords(const ScriptDifference& difference) {
     if (difference.Before.IsSet && difference.Before.Line > 0) {
         return Join("the page says ", Quoted(difference.Before.Value));
     }
-    return difference.What == EffectKind::Setting
-               ? Text("the page does not set it")
-               : Join("on the page it is ", NothingOf(difference.What));
+    return difference.What == EffectKind::Setting ? Text("the page does not set it")
+                                                  : Join("on the page it is ", NothingOf(difference.What));
 }
 
 }  // namespace
 
 Text OverriddenWordsOf(const ScriptDifference& difference) {
     const bool isSet = difference.After.IsSet && difference.After.Line > 0;
-    const Text keeps = isSet ? Join(" keeps ", Quoted(difference.After.Value))
-                             : Join(" stays ", NothingOf(difference.What));
+    const Text keeps =
+        isSet ? Join(" keeps ", Quoted(difference.After.Value)) : Join(" stays ", NothingOf(difference.What));
     return Join(NameOfKind(difference.What), difference.Name, keeps, ", and ", PageWords(difference), ".");
 }
 

@@ -66,9 +66,8 @@ class Overriding {
         if (edits.Drops) {
             const std::vector<SaveLoss> left = Overridden();
             for (SaveLoss& loss : edits.Losses) {
-                loss.CanKeep = std::ranges::none_of(left, [&loss](const SaveLoss& each) {
-                    return NameOf(each.Difference) == NameOf(loss.Difference);
-                });
+                loss.CanKeep = std::ranges::none_of(
+                    left, [&loss](const SaveLoss& each) { return NameOf(each.Difference) == NameOf(loss.Difference); });
             }
         }
         edits.Sections = std::move(edited_.Sections);

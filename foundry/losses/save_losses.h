@@ -42,8 +42,8 @@ struct SaveLoss {
     // script of its own.
     bool IsOfEmptyField = false;
     bool IsOverridden = false;  // they have changed it on a page, and the Free Form Additions set it back
-    Text Words;           // "The key ESCAPE loses \"togglemenu\"."
-    Text Reason;          // "Setup Foundry has no key ESCAPE."
+    Text Words;                 // "The key ESCAPE loses \"togglemenu\"."
+    Text Reason;                // "Setup Foundry has no key ESCAPE."
 };
 
 struct SaveReport {
@@ -62,8 +62,8 @@ SaveReport ReportSave(const SaveTexts& texts, const ChangedNames& changed, const
 /// Who has written the file.
 enum class ScriptHand { Own, Foreign };
 
-/// Whether something would be lost, changed or moved that the user has not changed themselves, an edit of theirs come to
-/// nothing, or something come into another hand's script. To a new script the editor adds what it writes into each.
+/// Whether something would be lost, changed or moved that the user has not changed themselves, an edit of theirs come
+/// to nothing, or something come into another hand's script. To a new script the editor adds what it writes into each.
 bool LosesSomething(const SaveReport& report, ScriptHand hand);
 
 }  // namespace lv

@@ -114,8 +114,9 @@ TEST_F(FigLooks, ARowOfTheListLeadsToItsLine) {
 }
 
 TEST_F(FigLooks, TheSelectedRowStandsWholeBelowTheList) {
-    Use(kGames[0], "bind x slot2\nbind ESCAPE \"say this one is so long that no window of any width has it in one "
-                   "line, and so are its words, and what follows is why nobody can keep it in any place\"\n");
+    Use(kGames[0],
+        "bind x slot2\nbind ESCAPE \"say this one is so long that no window of any width has it in one "
+        "line, and so are its words, and what follows is why nobody can keep it in any place\"\n");
     Edit([&] {
         Turn(EditorPage::SaveAndExit);
         DoAndAnswer([] { ClickOn(Find("ShowChanges_Cmd")); },
@@ -128,7 +129,8 @@ TEST_F(FigLooks, TheSelectedRowStandsWholeBelowTheList) {
                             losses->SetFocus();
                             PressKey(i == 0 ? WXK_HOME : WXK_DOWN);
                             Settle();
-                            EXPECT_EQ(row->GetValue(), losses->GetString(static_cast<unsigned>(losses->GetSelection())));
+                            EXPECT_EQ(row->GetValue(),
+                                      losses->GetString(static_cast<unsigned>(losses->GetSelection())));
                             EXPECT_GE(row->GetSize().x, losses->GetSize().x - 2);
                         }
                         const wxString longest = losses->GetString(1);

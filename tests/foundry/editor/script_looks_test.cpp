@@ -257,7 +257,8 @@ TEST_F(SaveLooks, AnEditThatAKeptLineSetsBackIsShownAndGetsTheLastWord) {
     Edited(form);
     user.In<Changes_Frm>([](Changes_Frm& changes) {
         ASSERT_EQ(changes.Losses_Lst.Items.size(), 1u);
-        EXPECT_EQ(changes.Losses_Lbl.Caption, "For the game 1 of your changes comes to nothing. 'Keep These' saves it too:");
+        EXPECT_EQ(changes.Losses_Lbl.Caption,
+                  "For the game 1 of your changes comes to nothing. 'Keep These' saves it too:");
         EXPECT_EQ(changes.Losses_Lst.Items[0],
                   "The key x keeps \"slot2\", and the page says \"+jump\". The line ; bind x slot2 of the Free Form "
                   "Additions runs behind those of the pages. 'Keep These' takes it out.");
