@@ -171,7 +171,8 @@ TEST(PlanKeeping, LeavesTheNameToThePage) {
         ScriptDocument document = ReadScript(dialect, kept);
         document.Name_Txt.Text = "Bobby";
         const Text saved = ComposeScript(document, kScriptDay);
-        const Effect* const name = EffectsOf(saved, console).Settings.Find("name");
+        const ScriptEffects effects = EffectsOf(saved, console);
+        const Effect* const name = effects.Settings.Find("name");
         if (dialect.GameKind != Game::Unreal) {
             ASSERT_NE(name, nullptr);
             EXPECT_EQ(name->Value, "Bobby") << saved;
