@@ -6,6 +6,8 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <vector>
+
 #include "foundation/forms/modal_form.h"
 #include "foundation/forms/wx_text.h"
 #include "foundry/forms/difference_view.h"
@@ -160,6 +162,23 @@ std::unique_ptr<wxDialog> MakeScriptText(wxWindow* owner, ScriptText_Frm& script
     return form;
 }
 
+/// Lists and texts would keep Enter to themselves.
+void PressDefaultOnEnter(wxDialog& form, const std::vector<const char*>& names) {
+    for (const char* const name : names) {
+        wxWindow::FindWindowByName(name, &form)->Bind(wxEVT_CHAR_HOOK, [&form](wxKeyEvent& event) {
+            const bool isEnter = event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
+            auto* const button = dynamic_cast<wxButton*>(form.GetDefaultItem());
+            if (!isEnter || event.HasAnyModifiers() || button == nullptr || !button->IsEnabled()) {
+                event.Skip();
+                return;
+            }
+            wxCommandEvent press(wxEVT_BUTTON, button->GetId());
+            press.SetEventObject(button);
+            button->Command(press);
+        });
+    }
+}
+
 std::unique_ptr<wxDialog> MakeChanges(wxWindow* owner, Changes_Frm& changes) {
     auto form = std::make_unique<LookForm>(owner, changes, [&changes] { Changes_Close_Cmd_Click(changes); });
     form->AddWide(form->MakeLabel(form.get(), "Losses_Lbl", changes.Losses_Lbl));
@@ -169,12 +188,16 @@ std::unique_ptr<wxDialog> MakeChanges(wxWindow* owner, Changes_Frm& changes) {
     form->AddReading("Loss_Txt", changes.Loss_Txt, "The selected row", kLossLines);
     form->AddWide(form->MakeLabel(form.get(), "Difference_Lbl", changes.Difference_Lbl));
     form->AddDifference("Difference_Lst", changes.Difference_Lst, "The file and what is saved");
-    form->AddButtons(
-        {form->MakeButton("NextChange_Cmd", changes.NextChange_Cmd,
-                          [&changes] { Changes_NextChange_Cmd_Click(changes); }),
-         form->MakeButton("Keep_Cmd", changes.Keep_Cmd, [&changes] { Changes_Keep_Cmd_Click(changes); }),
-         form->MakeButton("Save_Cmd", changes.Save_Cmd, [&changes] { Changes_Save_Cmd_Click(changes); }),
-         form->MakeButton("Close_Cmd", changes.Close_Cmd, [&changes] { Changes_Close_Cmd_Click(changes); })});
+    const auto make = [&](const char* name, CommandButton& button, void (*click)(Changes_Frm&)) {
+        return form->MakeButton(name, button, [&changes, click] { click(changes); });
+    };
+    wxButton* const next = make("NextChange_Cmd", changes.NextChange_Cmd, Changes_NextChange_Cmd_Click);
+    wxButton* const keep = make("Keep_Cmd", changes.Keep_Cmd, Changes_Keep_Cmd_Click);
+    wxButton* const save = make("Save_Cmd", changes.Save_Cmd, Changes_Save_Cmd_Click);
+    wxButton* const close = make("Close_Cmd", changes.Close_Cmd, Changes_Close_Cmd_Click);
+    form->AddButtons({next, keep, save, close});
+    (changes.Keep_Cmd.Default ? keep : close)->SetDefault();
+    PressDefaultOnEnter(*form, {"Losses_Lst", "Loss_Txt", "Difference_Lst"});
     return form;
 }
 

@@ -82,6 +82,24 @@ TEST_F(FigLooks, EnterKeepsWhatWouldBeLost) {
     });
 }
 
+TEST_F(FigLooks, EnterKeepsItFromTheListTheTextAndTheLinesToo) {
+    for (const char* const part : {"Losses_Lst", "Loss_Txt", "Difference_Lst"}) {
+        Use(kGames[0], kLosing);
+        Edit([&] {
+            Turn(EditorPage::SaveAndExit);
+            const AnswersBoxes saved;
+            DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); },
+                        [&] {
+                            Find(part)->SetFocus();
+                            Settle();
+                            PressKey(WXK_RETURN);
+                        });
+            Settle();
+            EXPECT_THAT(File(), HasSubstr("bind ESCAPE togglemenu")) << part;
+        });
+    }
+}
+
 TEST_F(FigLooks, SaveAnywayLosesIt) {
     Use(kGames[0], kLosing);
     Edit([&] {
