@@ -74,15 +74,20 @@ class FigForm_ : public ::testing::Test {
         user.AddForms(MakeFoundryForms(user));
         ConnectEditor(foundry);
     }
-    ~FigForm_() override {
+    ~FigForm_() override { LeaveMain(); }
+
+    void LeaveMain() {
         if (main != nullptr) {
             main->Destroy();
+            main = nullptr;
         }
         Settle();
     }
 
-    /// Puts the script there, in the main window's list, and its game.
+    /// Puts the script there, in the main window's list, and its game. May be called again: the window is another one
+    /// then.
     void Use(const KindOfGame& game, TextView script) {
+        LeaveMain();
         system.Disk.AddFile(game.Program);
         system.Disk.AddFile(game.Script, Join("//* Setup Foundry   *//", NewLine, Crlf(script)));
         Save(run, kOptions, "Executables", Join("The game;", game.Program));

@@ -9,6 +9,7 @@
 
 #include "foundation/forms/help_bubble.h"
 #include "tests/forms/complaints.h"
+#include "tests/forms/left_windows.h"
 #include "tests/forms/patience.h"
 #include "tests/forms/window_manners.h"
 
@@ -29,11 +30,14 @@ class TestApp : public wxApp {
         CallAfter([this] {
             // Within the toolkit's life, for it has a timer.
             lv::Patience patience;
+            lv::LeftWindows left;
             lv::WatchManners();
             lv::FailAtComplaints();
             auto& listeners = ::testing::UnitTest::GetInstance()->listeners();
             listeners.Append(&patience);
+            listeners.Append(&left);
             result_ = RUN_ALL_TESTS();
+            listeners.Release(&left);
             listeners.Release(&patience);
             ExitMainLoop();
         });
