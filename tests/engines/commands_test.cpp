@@ -33,7 +33,7 @@ using Strings = std::vector<std::string>;
 /// A drive C: of this system's own kind, with a launcher on it.
 struct StrangersYard {
     explicit StrangersYard(const std::string& name)
-        : Root(fs::path(TestBinaryDir()) / "yards" / name),
+        : Root(fs::path(TestBinaryDir()) / "yards/engines" / name),
           Disk((fs::remove_all(Root), DriveDirectories{Root / "data/drives", Root / "wine", Root / "program"})),
           Programs(Disk, {"", Root / "cache", TestWinePrefix(), fs::path(TestBinaryDir()) / "lorvane3d-pause",
                           Root / "state"}) {

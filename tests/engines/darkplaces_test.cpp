@@ -75,7 +75,7 @@ std::string OutputOfScript(const std::string& name, const std::string& script) {
 
 TEST(DarkPlaces, ExecutesTheScriptOfALaunch) {
     const std::string output =
-        OutputOfScript("engine_darkplaces",
+        OutputOfScript("engines/darkplaces",
                        "alias lv_hello \"echo the alias ran\"\r\nlv_hello\r\necho the script ran\r\nmap start\r\n");
     EXPECT_THAT(output, HasSubstr("execing lv_666.qs"));
     EXPECT_THAT(output, HasSubstr("the alias ran"));
@@ -94,7 +94,7 @@ TEST(DarkPlaces, ExecutesAScriptOfTheScriptEditor) {
     // The free form comes last, so it can ask what the lines before have done.
     script.Sections[0].Text = "lv_editor\r\nname\r\ncolor\r\nmap start";
     const std::string output =
-        OutputOfScript("engine_darkplaces_editor", ComposeScript(script, {1999, 11, 21, 0, 0, 0}));
+        OutputOfScript("engines/darkplaces_editor", ComposeScript(script, {1999, 11, 21, 0, 0, 0}));
     EXPECT_THAT(output, HasSubstr("|..Setup Foundry ROCKS!..|"));
     EXPECT_THAT(output, HasSubstr("the editor's alias ran"));
     EXPECT_THAT(output, HasSubstr("and went on"));
@@ -118,7 +118,7 @@ TEST(DarkPlaces, HasTheValuesOfAScriptOfTheNewerFamily) {
     script.Sections.resize(1);
     script.Sections[0].Text = "sensitivity\r\nm_pitch\r\nfov\r\nvid_mode\r\nsv_aim\r\nfreelook\r\nmap start";
     const std::string output =
-        OutputOfScript("engine_darkplaces_newer", ComposeScript(script, {1999, 11, 21, 0, 0, 0}));
+        OutputOfScript("engines/darkplaces_newer", ComposeScript(script, {1999, 11, 21, 0, 0, 0}));
     for (const char* const value : {"\"sensitivity\" is \"7.5\"", "\"m_pitch\" is \"-0.022\"", "\"fov\" is \"100\"",
                                     "\"vid_mode\" is \"3\"", "\"sv_aim\" is \"1\"", "\"freelook\" is \"0\""}) {
         EXPECT_THAT(output, HasSubstr(value));

@@ -25,7 +25,7 @@ void Start(GameYard& yard, const std::string& directory) {
 }  // namespace
 
 TEST(DosBoxRoad, BringsEnvironmentArgumentsAndDirectoryThrough) {
-    GameYard yard("engine_dos");
+    GameYard yard("engines/dos");
     yard.AddGame("show_dos.exe", "games/quake/quake.exe");
     yard.AddBatch("games/quake", {"SET SST_RGAMMA=1.7", "SET LV_A=a \"b c\" 50% & ; = d", "SET LV_B=1", "SET LV_B=2",
                                   "C:", "cd C:\\GAMES\\QUAKE", "QUAKE.EXE -zone 512 \"a b\" 50% +exec lv_666.qs"});
@@ -39,7 +39,7 @@ TEST(DosBoxRoad, BringsEnvironmentArgumentsAndDirectoryThrough) {
 }
 
 TEST(DosBoxRoad, StartsInALongDirectoryWithBlanksAndAccents) {
-    GameYard yard("engine_dos_long");
+    GameYard yard("engines/dos_long");
     const std::string name = "Spiele für Ängstliche & Mutige (100%)";
     yard.AddGame("show_dos.exe", name + "/quake.exe");
     yard.AddBatch(name, {"SET LV_A=1", "C:", "cd \"C:\\SPIELE F\xDCR \xC4NGSTLICHE & MUTIGE (100%)\"", "QUAKE.EXE -a"});
@@ -51,7 +51,7 @@ TEST(DosBoxRoad, StartsInALongDirectoryWithBlanksAndAccents) {
 }
 
 TEST(DosBoxRoad, StartsAProgramWhoseNameReadsLikeConfiguration) {
-    GameYard yard("engine_dos_signs");
+    GameYard yard("engines/dos_signs");
     yard.AddGame("show_dos.exe", "quake/#q.exe");
     yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "#Q.EXE -a"});
     Start(yard, "C:\\QUAKE");
@@ -59,7 +59,7 @@ TEST(DosBoxRoad, StartsAProgramWhoseNameReadsLikeConfiguration) {
 }
 
 TEST(DosBoxRoad, LeavesNothingOfTheLaunchInTheCache) {
-    GameYard yard("engine_dos_cache");
+    GameYard yard("engines/dos_cache");
     yard.AddGame("show_dos.exe", "quake/quake.exe");
     yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "QUAKE.EXE +password secret"});
     Start(yard, "C:\\QUAKE");
@@ -69,7 +69,7 @@ TEST(DosBoxRoad, LeavesNothingOfTheLaunchInTheCache) {
 }
 
 TEST(DosBoxRoad, WaitsForAKeyAfterShowingTheEnvironment) {
-    GameYard yard("engine_dos_pause");
+    GameYard yard("engines/dos_pause");
     yard.AddGame("show_dos.exe", "quake/quake.exe");
     yard.AddBatch("quake", {"SET LV_A=1", "SET", "PAUSE", "C:", "cd C:\\QUAKE", "QUAKE.EXE"});
     Start(yard, "C:\\QUAKE");

@@ -64,7 +64,7 @@ class EngineRun : public testing::Environment {
     }
     void TearDown() override {
         EndWine();
-        EndAllIn(TestBinaryDir() + std::string("/yards"));
+        EndAllIn(TestBinaryDir() + std::string("/yards/engines"));
         display_.reset();
     }
 

@@ -37,7 +37,7 @@ using ::testing::HasSubstr;
 /// A home with a game in "~/games/quake", and a machine with Debian's engines.
 struct NewHome {
     explicit NewHome(const std::string& name)
-        : Root(fs::path(TestBinaryDir()) / "yards" / name),
+        : Root(fs::path(TestBinaryDir()) / "yards/engines" / name),
           Disk((fs::remove_all(Root), DriveDirectories{Root / "data/drives", Root / "wine", Root / "program"})),
           Programs(Disk, {"", Root / "cache", Root / "wine", fs::path(TestBinaryDir()) / "lorvane3d-pause",
                           Root / "state", fs::path(TestBinaryDir()) / "lorvane3d-watch"}) {

@@ -97,7 +97,7 @@ class GameSpyCapture : public ::testing::Test {
     void ExpectTold(TextView title, TextView text) { user.Expect({Text(title), Text(text), 0, false, true, "&OK"}); }
 
     static std::unique_ptr<VirtualDisplay> display;
-    GameYard yard{"engine_game_spy"};
+    GameYard yard{"engines/game_spy"};
     MemoryPlatform memory;
     X11Desktop desktop;
     XclipClipboard clipboard;

@@ -10,7 +10,7 @@
 namespace lv {
 
 TEST(NativeRoad, WaitsForAKeyAfterShowingTheEnvironment) {
-    GameYard yard("engine_native_pause");
+    GameYard yard("engines/native_pause");
     yard.AddGame("show_native", "quake/my quake");
     yard.AddBatch("quake",
                   {"SET LV_TEST_A=a \"b\" $HOME", "SET", "PAUSE", "C:", "cd C:\\QUAKE", "MY QUAKE -a \"b c\" ;"});

@@ -55,7 +55,7 @@ void PickScript(Launcher& launcher, TextView title) {
 }  // namespace
 
 TEST(SampleHalfLife, TakesItsPlayerOutOfTheRegistryAndPutsHimBack) {
-    const fs::path sample = fs::path(TestBinaryDir()) / "yards" / "engine_sample";
+    const fs::path sample = fs::path(TestBinaryDir()) / "yards/engines/sample";
     fs::create_directories(sample);
     const fs::path maker = fs::path(TestBinaryDir()) / "make_sample";
     ASSERT_EQ(RunTool({maker.c_str(), sample.c_str()}), 0);

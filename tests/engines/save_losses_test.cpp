@@ -94,7 +94,7 @@ Seen SeenIn(const Text& output) {
 }
 
 Seen AfterRunning(const Text& script) {
-    const fs::path game = fs::path(TestBinaryDir()) / "yards/save_losses";
+    const fs::path game = fs::path(TestBinaryDir()) / "yards/engines/save_losses";
     fs::create_directories(game / "id1");
     std::ofstream(game / "id1/lv_script.cfg", std::ios::binary) << script << "\n";
     std::ofstream(game / "id1/lv_asked.cfg", std::ios::binary) << kAsked;

@@ -115,7 +115,7 @@ struct Yard {
         std::ofstream(Game / file, std::ios::binary) << bytes;
     }
 
-    fs::path Root = fs::path(TestBinaryDir()) / "yards/engine_start_order";
+    fs::path Root = fs::path(TestBinaryDir()) / "yards/engines/start_order";
     fs::path Game = Root / "quake";
     LinuxFiles Disk;
 };

@@ -28,14 +28,14 @@ Strings StartAndRead(GameYard& yard, const std::string& directory, const std::st
 }  // namespace
 
 TEST(WineRoad, BringsEnvironmentArgumentsAndDirectoryThrough) {
-    GameYard yard("engine_wine");
+    GameYard yard("engines/wine");
     yard.AddGame("show_windows.exe", "quake/glquake.exe");
     yard.AddBatch("quake", {"SET FX_GLIDE_SWAPINTERVAL=0", "SET SST_RGAMMA=1.7", "SET LV_TEST_A=\"a & b\" ; = c",
                             "SET LV_TEST_B=1", "SET LV_TEST_B=2", "C:", "cd C:\\QUAKE",
                             "GLQUAKE.EXE -zone 512 \"a b\" +exec lv_666.qs"});
     const Strings output = StartAndRead(yard, "C:\\QUAKE", "quake");
     ASSERT_FALSE(output.empty());
-    EXPECT_THAT(LinesAfter(output, "DIRECTORY="), ElementsAre(EndsWith("\\engine_wine\\drive\\quake")));
+    EXPECT_THAT(LinesAfter(output, "DIRECTORY="), ElementsAre(EndsWith("\\engines\\wine\\drive\\quake")));
     EXPECT_THAT(LinesAfter(output, "ARGUMENT="), ElementsAre("-zone", "512", "a b", "+exec", "lv_666.qs"));
     EXPECT_THAT(LinesAfter(output, "FX_GLIDE_SWAPINTERVAL="), ElementsAre("0"));
     EXPECT_THAT(LinesAfter(output, "SST_RGAMMA="), ElementsAre("1.7"));
@@ -44,7 +44,7 @@ TEST(WineRoad, BringsEnvironmentArgumentsAndDirectoryThrough) {
 }
 
 TEST(WineRoad, StartsInALongDirectoryWithBlanksAndAccents) {
-    GameYard yard("engine_wine_long");
+    GameYard yard("engines/wine_long");
     const std::string name = "Spiele für Ängstliche & Mutige (100%)/A long directory name";
     yard.AddGame("show_windows.exe", name + "/My Gamé.exe");
     yard.AddBatch(name, {"SET LV_TEST_A=caf\xE9 \x80",
@@ -60,7 +60,7 @@ TEST(WineRoad, StartsInALongDirectoryWithBlanksAndAccents) {
 }
 
 TEST(WineRoad, RunsTheBatchItselfOnWinesOwnDrive) {
-    GameYard yard("engine_wine_own_drive");
+    GameYard yard("engines/wine_own_drive");
     // A game on Wine's C:, and a drive C: of ours that is the same directory.
     ASSERT_EQ(RunTool({"wine", "cmd", "/c", "ver"}), 0);
     const auto drive = TestWinePrefix() / "drive_c";
@@ -79,7 +79,7 @@ TEST(WineRoad, RunsTheBatchItselfOnWinesOwnDrive) {
 }
 
 TEST(WineRoad, RunsABatchOfTheUsersOwn) {
-    GameYard yard("engine_wine_batch");
+    GameYard yard("engines/wine_batch");
     yard.AddGame("show_windows.exe", "quake/quake.exe");
     yard.AddFile("quake/go.bat", "@SET LV_TEST_OWN=yes\r\n@quake.exe -own %1\r\n");
     yard.AddBatch("quake", {"C:", "cd C:\\QUAKE", "GO.BAT more"});
@@ -90,7 +90,7 @@ TEST(WineRoad, RunsABatchOfTheUsersOwn) {
 }
 
 TEST(WineRoad, WaitsForAKeyAfterShowingTheEnvironment) {
-    GameYard yard("engine_wine_pause");
+    GameYard yard("engines/wine_pause");
     yard.AddGame("show_windows.exe", "quake/quake.exe");
     yard.AddBatch("quake", {"SET LV_TEST_A=1", "SET", "PAUSE", "C:", "cd C:\\QUAKE", "QUAKE.EXE"});
     yard.Places.WinePrefix = TestWinePrefix();
@@ -102,7 +102,7 @@ TEST(WineRoad, WaitsForAKeyAfterShowingTheEnvironment) {
 }
 
 TEST(StartProgram, RunsAWindowsProgram) {
-    GameYard yard("engine_wine_program");
+    GameYard yard("engines/wine_program");
     yard.AddGame("show_windows.exe", "spy/gamespy.exe");
     yard.Places.WinePrefix = TestWinePrefix();
     ASSERT_FALSE(LinuxProcesses(yard.Disk, yard.Places).StartProgram("C:\\SPY\\GAMESPY.EXE", {"a b", "\xE9\"q"}));
