@@ -3,6 +3,7 @@
 #include <wx/listctrl.h>
 #include <wx/textctrl.h>
 
+#include <functional>
 #include <numeric>
 
 #include "foundry/versions/script_versions.h"
@@ -19,19 +20,22 @@ class FigLooks : public FigForm_ {
   protected:
     Text File() { return system.Disk.Bytes(path); }
 
-    /// Saves by the button of the page; `answer` is the button that is pressed in the window that comes up.
-    void SaveAndPress(const char* answer, const std::string& picture) {
+    /// Saves by the button of the page, and answers the window that comes up.
+    void SaveAndAnswer(const std::function<void()>& answer) {
         Turn(EditorPage::SaveAndExit);
         const AnswersBoxes saved;
-        DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); },
-                    [&] {
-                        ASSERT_NE(Find("Changes_Frm"), nullptr);
-                        if (!picture.empty()) {
-                            Screenshot(picture);
-                        }
-                        ClickOn(Find(answer));
-                    });
+        DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); }, answer);
         Settle();
+    }
+    /// `answer` is the button that is pressed there.
+    void SaveAndPress(const char* answer, const std::string& picture) {
+        SaveAndAnswer([&] {
+            ASSERT_NE(Find("Changes_Frm"), nullptr);
+            if (!picture.empty()) {
+                Screenshot(picture);
+            }
+            ClickOn(Find(answer));
+        });
     }
 };
 
@@ -69,14 +73,10 @@ TEST_F(FigLooks, ASaveThatLosesSomethingShowsItAndCanBeCancelled) {
 TEST_F(FigLooks, EnterKeepsWhatWouldBeLost) {
     Use(kGames[0], kLosing);
     Edit([&] {
-        Turn(EditorPage::SaveAndExit);
-        const AnswersBoxes saved;
-        DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); },
-                    [&] {
-                        EXPECT_TRUE(HasKeyboard(Find("Keep_Cmd")));
-                        PressKey(WXK_RETURN);
-                    });
-        Settle();
+        SaveAndAnswer([] {
+            EXPECT_TRUE(HasKeyboard(Find("Keep_Cmd")));
+            PressKey(WXK_RETURN);
+        });
         EXPECT_THAT(File(), HasSubstr("bind ESCAPE togglemenu"));
         EXPECT_THAT(File(), HasSubstr("+attack"));
     });
@@ -86,15 +86,11 @@ TEST_F(FigLooks, EnterKeepsItFromTheListTheTextAndTheLinesToo) {
     for (const char* const part : {"Losses_Lst", "Loss_Txt", "Difference_Lst"}) {
         Use(kGames[0], kLosing);
         Edit([&] {
-            Turn(EditorPage::SaveAndExit);
-            const AnswersBoxes saved;
-            DoAndAnswer([] { ClickOn(Find("View_Cmd(6)")); },
-                        [&] {
-                            Find(part)->SetFocus();
-                            Settle();
-                            PressKey(WXK_RETURN);
-                        });
-            Settle();
+            SaveAndAnswer([&] {
+                Find(part)->SetFocus();
+                Settle();
+                PressKey(WXK_RETURN);
+            });
             EXPECT_THAT(File(), HasSubstr("bind ESCAPE togglemenu")) << part;
         });
     }
